@@ -1,0 +1,32 @@
+// What stands around the ways of assignment: buttons (3), (4) and (5) of the main window.
+#pragma once
+
+#include "core/Int16.h"
+#include "core/tables.h"
+
+namespace altardienst {
+
+extern Int16 GrößteMesse;     // largest `Messe.Dienerzahl`
+extern Int16 GrößterTag;      // largest sum of `Messe.Dienerzahl` over the masses of one date
+extern Int16 DienstProDiener; // whole share of places per server, plus 1
+
+/// Sets `DienstProDiener`. Failure 11 without servers, 6 if the places don't fit into an Int16.
+void DienstProDienerRechnen();
+
+/// Sets `GrößteMesse` and `GrößterTag`; the masses must be sorted.
+void GrößenRechnen();
+
+/// The largest sum of a count over the consecutive masses of one date. The blank mass behind the
+/// last has another date and closes the last day.
+Int16 GrößteTagessumme(MesseTabelle::Spalte<Int16> &zahl);
+
+/// Button (3), the plain way: asks first, then one of three ways by the number of servers.
+void MessenMitMeßdienerBesetzen();
+
+/// Button (4), the partner way.
+void WunschpartnerBerücksichtigen();
+
+/// Button (5), the helpers.
+void MessenMitMessehelferBesetzen();
+
+} // namespace altardienst

@@ -1,0 +1,161 @@
+// The partner way of assigning servers, behind button (4).
+#include "assignment/ZweiMeßdienerzuweisen.h"
+
+#include "assignment/Ziehung.h"
+#include "assignment/Zuweisungsrahmen.h"
+#include "core/tables.h"
+#include "platform/Meldungen.h"
+#include "platform/Uhr.h"
+#include "platform/Zufall.h"
+
+namespace altardienst {
+namespace {
+
+constexpr int Neustartgrenze = 2;  // whole seconds of search, then the mass starts again
+constexpr int MeisteNeustarts = 5; // of one mass
+constexpr int Aufgabegrenze = 100; // whole seconds of search, then the run ends
+
+Int16 Slot; // the slot being filled, from 1
+
+/// Calls `f` with each server of exactly this name.
+template <class F> void FürJedenNamens(const Text &vorname, const Text &nachname, F f)
+{
+    for (int p = 0; p <= Meßdiener.Anzahl; ++p)
+        if (Meßdiener.Nachname[p] == nachname && Meßdiener.Vorname[p] == vorname)
+            f(p);
+}
+
+/// Takes the servers out of the draw who are fixed to a mass of this day or of the day before. An
+/// entry that stands for a group matches no server.
+void FesteSperren()
+{
+    constexpr int HöchsterGesehener = 100; // entries above it block nobody
+    for (int k = 0; k <= HöchsterGesehener; ++k) {
+        const Datum tag = MesseDienerFest.Datum[k];
+        if (tag != Messe.Datum[MesseNr] && tag + 1 != Messe.Datum[MesseNr])
+            continue;
+        for (int n = 1; n <= MesseDienerFestTabelle::HöchsterSlot; ++n) {
+            const Text &vorname = MesseDienerFest.Vorname[k][n];
+            const Text &nachname = MesseDienerFest.Nachname[k][n];
+            if (vorname.empty() || nachname.empty())
+                continue;
+            FürJedenNamens(vorname, nachname, [](int p) {
+                Meßdiener.Belegt[p] = 1;
+                Meßdiener.LetzterDienst[p] = Messe.Datum[MesseNr];
+            });
+        }
+    }
+}
+
+bool HatWunschpartner()
+{
+    return !Meßdiener.WunschVorname[Kandidat].empty() &&
+           !Meßdiener.WunschNachname[Kandidat].empty();
+}
+
+/// Places `Kandidat` at `Slot`, and the wish partner in the next one unless somebody of that name
+/// is taken. The partner is tested for nothing else, and the wish is written as it stands, also if
+/// no server bears the name.
+void WunschpartnerEintragen()
+{
+    MeßdienerEintragen(Slot);
+    if (!HatWunschpartner() || Slot >= HöchsterSlot || Slot >= Messe.Dienerzahl[MesseNr])
+        return;
+    const Text &vorname = Meßdiener.WunschVorname[Kandidat];
+    const Text &nachname = Meßdiener.WunschNachname[Kandidat];
+    bool vergeben = false;
+    FürJedenNamens(vorname, nachname,
+                   [&](int p) { vergeben = vergeben || Meßdiener.Belegt[p] == 1; });
+    if (vergeben)
+        return;
+    Messe.DienerVor[MesseNr][Slot + 1] = vorname;
+    Messe.DienerNach[MesseNr][Slot + 1] = nachname;
+    ++Meßdiener.DienstZähler[Kandidat];
+    FürJedenNamens(vorname, nachname, [](int p) {
+        Meßdiener.Belegt[p] = 1;
+        Meßdiener.LetzterDienst[p] = Messe.Datum[MesseNr];
+        ++Meßdiener.DienstZähler[p];
+    });
+    ++Slot;
+}
+
+enum class Urteil { Passt, Abgelehnt, MesseFertig };
+
+/// The tests of the drawn server for `Slot`, in their order. A slot whose service is set by hand is
+/// passed over only here, behind the tests before it: some server must hold the qualification,
+/// though nobody is placed.
+Urteil Prüfen()
+{
+    const Text &dienst = Messe.DienerDienst[MesseNr][Slot - 1];
+    if (!HatNamen() || !IstFrei())
+        return Urteil::Abgelehnt;
+    if (Meßdiener.DienstZähler[Kandidat] >= Meßdiener.Häufigkeit[Kandidat] + DienstProDiener)
+        return Urteil::Abgelehnt;
+    if (!IstQualifiziert(dienst))
+        return Urteil::Abgelehnt;
+    if (dienst == "Weihrauch" && Konfig.ManuellWeihrauch == 1) {
+        ++Slot; // at the last slot too, so a server can come to stand behind the count
+        return Urteil::Abgelehnt;
+    }
+    if (dienst == "Kreuzträger" && Konfig.ManuellKreuzträger == 1) {
+        ++Slot;
+        return Slot == Messe.Dienerzahl[MesseNr] ? Urteil::MesseFertig : Urteil::Abgelehnt;
+    }
+    if (!IstAnwesend() || !WochenwunschErlaubt())
+        return Urteil::Abgelehnt;
+    if (Slot % 2 == 0 && Meßdiener.Geschlecht[Kandidat] != LetztesGeschlecht)
+        return Urteil::Abgelehnt;
+    // The last place stays free for someone without a partner.
+    if (HatWunschpartner() && Slot == Messe.Dienerzahl[MesseNr])
+        return Urteil::Abgelehnt;
+    return Urteil::Passt;
+}
+
+/// False if the search was given up.
+bool MesseFüllen()
+{
+    for (Slot = 1; Slot <= Messe.Dienerzahl[MesseNr]; ++Slot) {
+        SucheStart = Uhr.Sekunden();
+        Urteil urteil;
+        do {
+            KandidatZiehen();
+            while (Suchdauer() > Neustartgrenze && Neustarts < MeisteNeustarts) {
+                SucheStart = Uhr.Sekunden();
+                Slot = 1;
+                ++Neustarts;
+                KandidatZiehen();
+            }
+            if (Suchdauer() > Aufgabegrenze) {
+                Meldungen.Zeigen("Es sind die Qualifikationen der Meßdiener bzw. die "
+                                 "Größendifferenz anzupassen !!!!!");
+                return false;
+            }
+            urteil = Prüfen();
+            if (urteil == Urteil::MesseFertig)
+                return true;
+        } while (urteil != Urteil::Passt);
+        WunschpartnerEintragen();
+    }
+    return true;
+}
+
+} // namespace
+
+void WunschpartnerZuweisen()
+{
+    Zufall.Streuen();
+    for (int s = 0; s <= Meßdiener.Anzahl; ++s) {
+        Meßdiener.Belegt[s] = 0;
+        Meßdiener.DienstZähler[s] = 0;
+    }
+    for (int i = 0; i <= Messe.Anzahl; ++i) {
+        MesseNr = i;
+        FesteSperren();
+        Neustarts = 0;
+        if (!MesseFüllen())
+            return;
+        MesseAbschließen();
+    }
+}
+
+} // namespace altardienst

@@ -1,0 +1,134 @@
+// Load and save of all tables, on the hard disk and on the diskette.
+#include "core/Allgemein.h"
+
+#include "core/Dateien.h"
+#include "platform/Laufwerke.h"
+#include "platform/Meldungen.h"
+
+#include <algorithm>
+
+namespace altardienst {
+namespace {
+
+using std::filesystem::path;
+
+/// The order in which the error paths ask for the files.
+constexpr std::array<Dateinummer, 8> Suchfolge = {
+    DateiEtikett, DateiGruppe,        DateiHelfer, DateiMeßdiener,
+    DateiMesse,   DateiStandardmesse, DateiKonfig, DateiMesseDienerFest};
+
+const Datei &DateiMit(Dateinummer nummer)
+{
+    return Dateien[static_cast<std::size_t>(nummer)];
+}
+
+bool Vorhanden(const path &verzeichnis, const Datei &datei)
+{
+    return Laufwerke.Suchen(verzeichnis, datei.Suche).has_value();
+}
+
+/// The path of the file as it is stored, or under its own spelling if there is none yet.
+path PfadDer(const path &verzeichnis, const Datei &datei)
+{
+    return verzeichnis / PfadAus(Laufwerke.Suchen(verzeichnis, datei.Name).value_or(datei.Name));
+}
+
+void DateiLesen(const path &verzeichnis, const Datei &datei)
+{
+    std::string inhalt = Laufwerke.Lesen(PfadDer(verzeichnis, datei));
+    Zeilenleser zeilen(inhalt);
+    datei.Lesen(zeilen);
+}
+
+void KonfigUndStandardmessenLesen(const path &verzeichnis)
+{
+    DateiLesen(verzeichnis, DateiMit(DateiKonfig));
+    SkalenBegrenzen();
+    DateiLesen(verzeichnis, DateiMit(DateiStandardmesse));
+}
+
+void AlleDateienSchreiben(const path &verzeichnis)
+{
+    std::string inhalt;
+    for (const Datei &datei : Dateien) {
+        inhalt.clear();
+        datei.Schreiben(inhalt);
+        Laufwerke.Schreiben(PfadDer(verzeichnis, datei), inhalt);
+    }
+}
+
+/// The first-run path, taken on any failure of the load: only the first missing file is named,
+/// whatever failed.
+void ErststartPfad(const path &verzeichnis)
+{
+    Laufwerke.VerzeichnisAnlegen(verzeichnis);
+    for (Dateinummer nummer : Suchfolge) {
+        const Datei &datei = DateiMit(nummer);
+        if (Vorhanden(verzeichnis, datei))
+            continue;
+        Meldungen.Zeigen("Bitte Daten von Diskette einlesen oder kopieren, da Datei - " +
+                         Text(datei.Suche) +
+                         " - im Verzeichnis - C:\\programm\\Altardienst\\ - fehlt!");
+        return;
+    }
+}
+
+} // namespace
+
+void VonFestplatteLaden()
+{
+    path verzeichnis = Laufwerke.Programmverzeichnis();
+    try {
+        KonfigUndStandardmessenLesen(verzeichnis);
+        for (std::size_t i = DateiMeßdiener; i < Dateien.size(); ++i)
+            DateiLesen(verzeichnis, Dateien[i]);
+    } catch (const Laufzeitfehler &) {
+        ErststartPfad(verzeichnis);
+    }
+}
+
+void AufFestplatteSpeichern()
+{
+    path verzeichnis = Laufwerke.Programmverzeichnis();
+    for (const Datei &datei : Dateien) {
+        // A file whose name differs in case keeps its attributes, so it may refuse to be written.
+        if (Laufwerke.Suchen(verzeichnis, datei.Suche) == datei.Name)
+            Laufwerke.AttributeLöschen(verzeichnis / PfadAus(datei.Name));
+    }
+    AlleDateienSchreiben(verzeichnis);
+}
+
+void VonDisketteLaden()
+{
+    if (!Meldungen.Fragen("Das Laden der Daten von Diskette kann zu Problemen und Fehlern führen, "
+                          "denn es könnte sich z.B. um alte Daten handeln! Wollen Sie die Daten "
+                          "wirklich laden??",
+                          "Laden der Daten von Diskette"))
+        return;
+    path verzeichnis = Laufwerke.Diskette();
+    try {
+        KonfigUndStandardmessenLesen(verzeichnis);
+        // The load of a diskette breaks off behind the header of the servers: the test for the end
+        // of the file asks a channel that is never open. The people stay as they are in memory.
+        std::string inhalt = Laufwerke.Lesen(PfadDer(verzeichnis, DateiMit(DateiMeßdiener)));
+        Zeilenleser zeilen(inhalt);
+        MeßdienerKopfLesen(zeilen);
+    } catch (const Laufzeitfehler &) {
+        // The missing files are told below, another failure is not.
+    }
+    for (Dateinummer nummer : Suchfolge) {
+        const Datei &datei = DateiMit(nummer);
+        if (!Vorhanden(verzeichnis, datei))
+            Meldungen.Zeigen("Datei " + Text(datei.Suche) + " nicht auf Diskette vorhanden!");
+    }
+}
+
+void AufDisketteSpeichern()
+{
+    path verzeichnis = Laufwerke.Diskette();
+    for (const Datei &datei : Dateien)
+        Laufwerke.AttributeLöschen(PfadDer(verzeichnis, datei));
+    AlleDateienSchreiben(verzeichnis);
+}
+
+} // namespace altardienst

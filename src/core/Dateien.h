@@ -1,0 +1,43 @@
+// The eight data files: which table each holds and how it is read and written.
+#pragma once
+
+#include "core/Zeilen.h"
+
+#include <array>
+#include <string>
+
+namespace altardienst {
+
+struct Datei {
+    const char *Name;  // its own spelling
+    const char *Suche; // the spelling under which it is looked up and named in messages
+
+    /// Fills the table from the lines, up to the line that fails (Laufzeitfehler 6, 13 or 62). What
+    /// the file does not reach keeps what it held.
+    void (*Lesen)(Zeilenleser &zeilen);
+
+    /// Appends all lines of the table, used records or not, so that the shape of the file is fixed.
+    void (*Schreiben)(std::string &inhalt);
+};
+
+enum Dateinummer {
+    DateiKonfig,
+    DateiStandardmesse,
+    DateiMeßdiener,
+    DateiMesse,
+    DateiGruppe,
+    DateiHelfer,
+    DateiEtikett,
+    DateiMesseDienerFest
+};
+
+/// In the order in which a whole load reads and a whole save writes them.
+extern const std::array<Datei, 8> Dateien;
+
+/// The two header lines of the servers alone.
+void MeßdienerKopfLesen(Zeilenleser &zeilen);
+
+/// Replaces each of XSkala, YSkala and Skal1 to Skal6 that is out of its range by its default.
+void SkalenBegrenzen();
+
+} // namespace altardienst

@@ -1,0 +1,32 @@
+// Text as the tables hold it: UTF-8, positions counted in characters, compared in binary order.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace altardienst {
+
+/// UTF-8. The built-in comparisons are binary, which is code point order: capitals before small
+/// letters, umlauts and "ß" behind "z".
+using Text = std::string;
+
+/// The number of characters (code points).
+int Länge(std::string_view text);
+
+/// The first `anzahl` characters, or all if there are fewer.
+Text Links(std::string_view text, int anzahl);
+
+/// `anzahl` characters from position `ab` (first position 1); shorter or empty behind the end.
+/// Failure 5 if `ab` is below 1 or `anzahl` below 0.
+Text Mitte(std::string_view text, int ab, int anzahl);
+
+/// The position (from 1) at which `gesucht` first stands in `text`, 0 if it doesn't.
+int Position(std::string_view text, std::string_view gesucht);
+
+/// Whether position `position` (from 1) of a flag string holds "j". Behind its end: no.
+bool IstJa(std::string_view flags, int position);
+
+/// The text in small letters, the letters of Windows-1252 included.
+Text Klein(std::string_view text);
+
+} // namespace altardienst

@@ -1,0 +1,40 @@
+// The one instance of each table.
+#include "core/tables.h"
+
+#include <memory>
+
+namespace altardienst {
+
+KonfigDatensatz Konfig;
+StandardmesseTabelle Standardmesse;
+MeßdienerTabelle Meßdiener;
+MesseTabelle Messe;
+GruppeTabelle Gruppe;
+HelferTabelle Helfer;
+EtikettTabelle Etikett;
+MesseDienerFestTabelle MesseDienerFest;
+
+namespace {
+
+/// In place: a table is too large for a copy on the stack.
+template <class T> void NeuAnlegen(T &tabelle)
+{
+    std::destroy_at(&tabelle);
+    std::construct_at(&tabelle);
+}
+
+} // namespace
+
+void TabellenLeeren()
+{
+    NeuAnlegen(Konfig);
+    NeuAnlegen(Standardmesse);
+    NeuAnlegen(Meßdiener);
+    NeuAnlegen(Messe);
+    NeuAnlegen(Gruppe);
+    NeuAnlegen(Helfer);
+    NeuAnlegen(Etikett);
+    NeuAnlegen(MesseDienerFest);
+}
+
+} // namespace altardienst

@@ -1,0 +1,28 @@
+// The carry of the fixed entries into the masses.
+#include "fixed/FesteMeßdienerÜbertragen.h"
+
+#include "core/tables.h"
+
+namespace altardienst {
+
+void FesteMeßdienerÜbertragen()
+{
+    constexpr int HöchsterÜbertragener = 200; // entries above it are never carried
+    for (int m = 0; m <= Messe.Anzahl; ++m) {
+        for (int r = 0; r <= HöchsterÜbertragener; ++r) {
+            if (MesseDienerFest.Datum[r] != Messe.Datum[m] ||
+                MesseDienerFest.Uhrzeit[r] != Messe.Uhrzeit[m])
+                continue;
+            for (int s = 1; s <= MesseDienerFestTabelle::HöchsterSlot; ++s) {
+                const Text &vorname = MesseDienerFest.Vorname[r][s];
+                const Text &nachname = MesseDienerFest.Nachname[r][s];
+                if (nachname.empty() || vorname.empty())
+                    continue;
+                Messe.DienerVor[m][s] = vorname;
+                Messe.DienerNach[m][s] = nachname;
+            }
+        }
+    }
+}
+
+} // namespace altardienst

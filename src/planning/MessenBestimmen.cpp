@@ -1,0 +1,169 @@
+// From the week pattern to the masses of the plan period.
+#include "planning/MessenBestimmen.h"
+
+#include "core/tables.h"
+#include "platform/Meldungen.h"
+#include "platform/Uhr.h"
+
+#include <tuple>
+
+namespace altardienst {
+namespace {
+
+Int16 NächsteMesse; // index of the next mass to be written
+Int16 StandardNr;   // the standard mass being looked at
+Text Tagname;       // weekday of the current day
+
+/// Masses above this record keep their helpers and services when a plan is made anew.
+constexpr int HöchsteGeleerteMesse = 200;
+
+void MesseLeeren(int i)
+{
+    Messe.Wochentag[i].clear();
+    Messe.Messeart[i].clear();
+    Messe.Kennung[i].clear();
+    for (auto *zahl : {&Messe.Dienerzahl, &Messe.Gabenbereitung, &Messe.Leuchter, &Messe.Flambeau,
+                       &Messe.Weihrauch, &Messe.Kreuzträger, &Messe.Allgemein, &Messe.LektorZahl,
+                       &Messe.KommZahl, &Messe.KantorZahl, &Messe.KollektZahl})
+        (*zahl)[i] = 0;
+    for (int slot = 1; slot <= MesseTabelle::HöchsterSlot; ++slot) {
+        Messe.DienerVor[i][slot].clear();
+        Messe.DienerNach[i][slot].clear();
+    }
+    for (int k = 0; k <= MesseTabelle::HöchsterSlot; ++k)
+        Messe.DienerDienst[i][k] = "Allgemein";
+    for (auto *name :
+         {&Messe.Lektor1Vor, &Messe.Lektor1Nach, &Messe.Lektor2Vor, &Messe.Lektor2Nach,
+          &Messe.Komm1Vor, &Messe.Komm1Nach, &Messe.Komm2Vor, &Messe.Komm2Nach, &Messe.Kantor1Vor,
+          &Messe.Kantor1Nach, &Messe.Kantor2Vor, &Messe.Kantor2Nach, &Messe.Kollekt1Vor,
+          &Messe.Kollekt1Nach, &Messe.Kollekt2Vor, &Messe.Kollekt2Nach})
+        (*name)[i].clear();
+}
+
+/// The part of the month, 1 to 5, in which the current day lies.
+int Monatsteil()
+{
+    return (KalendertagVon(Konfig.StartDatum).Tag - 1) / 7 + 1;
+}
+
+bool ErgibtMesse(bool ersterTag)
+{
+    if (Standardmesse.Wochentag[StandardNr] != Tagname || Standardmesse.Dienerzahl[StandardNr] < 1)
+        return false;
+    if (Links(Standardmesse.Messeart[StandardNr], 4) != "Tauf")
+        return true;
+    int teil = Monatsteil();
+    // From the 29th on, baptisms are held only when the period begins on that very day.
+    if (teil == 5 && !ersterTag)
+        return false;
+    return IstJa(Konfig.Flags8, teil);
+}
+
+void MesseAnlegen()
+{
+    Messe.Wochentag[NächsteMesse] = Standardmesse.Wochentag[StandardNr];
+    Messe.Datum[NächsteMesse] = Konfig.StartDatum;
+    Messe.Uhrzeit[NächsteMesse] = Standardmesse.Uhrzeit[StandardNr];
+    Messe.Messeart[NächsteMesse] = Standardmesse.Messeart[StandardNr];
+    Messe.Dienerzahl[NächsteMesse] = Standardmesse.Dienerzahl[StandardNr];
+    Messe.Gabenbereitung[NächsteMesse] = Standardmesse.Gabenbereitung[StandardNr];
+    Messe.Leuchter[NächsteMesse] = Standardmesse.Leuchter[StandardNr];
+    Messe.Flambeau[NächsteMesse] = Standardmesse.Flambeau[StandardNr];
+    Messe.Weihrauch[NächsteMesse] = Standardmesse.Weihrauch[StandardNr];
+    Messe.Kreuzträger[NächsteMesse] = Standardmesse.Kreuzträger[StandardNr];
+    Messe.Allgemein[NächsteMesse] = Standardmesse.Allgemein[StandardNr];
+    Messe.LektorZahl[NächsteMesse] = Standardmesse.Lektor[StandardNr];
+    Messe.KommZahl[NächsteMesse] = Standardmesse.Kommunion[StandardNr];
+    Messe.KantorZahl[NächsteMesse] = Standardmesse.Kantor[StandardNr];
+    Messe.KollektZahl[NächsteMesse] = Standardmesse.Kollektant[StandardNr];
+    Messe.Kennung[NächsteMesse] = "s";
+    ++NächsteMesse;
+}
+
+void TagAnlegen(bool ersterTag)
+{
+    for (StandardNr = 0; StandardNr <= StandardmesseTabelle::HöchsterInDatei; ++StandardNr)
+        if (ErgibtMesse(ersterTag))
+            MesseAnlegen();
+}
+
+/// Pushes the masses of a longer old plan out of the range of the new one. Only these fields move,
+/// and of the slots only 1 to 16.
+void MessenKürzen()
+{
+    constexpr int HöchsterBewegterSlot = 16;
+    auto felder = std::tie(Messe.Wochentag, Messe.Datum, Messe.Uhrzeit, Messe.Messeart,
+                           Messe.Dienerzahl, Messe.Gabenbereitung, Messe.Leuchter, Messe.Flambeau,
+                           Messe.Weihrauch, Messe.Kreuzträger);
+    const int alteAnzahl = Messe.Anzahl;
+    const int neueAnzahl = NächsteMesse;
+    for (int mal = 0; mal < alteAnzahl - neueAnzahl; ++mal) {
+        for (int j = neueAnzahl; j <= alteAnzahl + 1; ++j) {
+            FelderÜbernehmen(felder, j, j + 1);
+            for (int slot = 1; slot <= HöchsterBewegterSlot; ++slot) {
+                Messe.DienerVor[j][slot] = Messe.DienerVor[j + 1][slot];
+                Messe.DienerNach[j][slot] = Messe.DienerNach[j + 1][slot];
+            }
+        }
+    }
+    Messe.Anzahl = 0; // the caller sets the final count
+}
+
+} // namespace
+
+Datum StartDatumVorschlagen()
+{
+    if (Konfig.StartWochentag < 1 || Konfig.StartWochentag > 7)
+        Konfig.StartWochentag = 7;
+    if (Konfig.VorlaufWochen < 1 || Konfig.VorlaufWochen > 20)
+        Konfig.VorlaufWochen = 1;
+    Datum heute = Uhr.Heute();
+    return heute + (Konfig.VorlaufWochen * 7 + Konfig.StartWochentag - Wochentag(heute));
+}
+
+void FesteEinträgeLeeren()
+{
+    const int anzahl = MesseDienerFest.Anzahl;
+    for (int mal = 0; mal <= anzahl; ++mal)
+        for (int j = 0; j <= anzahl; ++j)
+            FelderÜbernehmen(MesseDienerFest.Felder(), j, j + 1);
+    MesseDienerFest.Anzahl = 0;
+    MesseDienerFest.Cursor = 0;
+}
+
+void MessenBestimmen()
+{
+    NächsteMesse = 0;
+    Tagname = WochentagName(Konfig.StartDatum);
+    for (int i = 0; i <= HöchsteGeleerteMesse; ++i)
+        MesseLeeren(i);
+
+    TagAnlegen(true);
+    for (int tag = 1; tag <= Konfig.Tage; ++tag) {
+        Konfig.StartDatum += 1;
+        Tagname = WochentagName(Konfig.StartDatum);
+        TagAnlegen(false);
+    }
+
+    if (NächsteMesse < Messe.Anzahl)
+        MessenKürzen();
+    if (NächsteMesse > Messe.Anzahl)
+        Messe.Anzahl = NächsteMesse;
+    if (NächsteMesse <= Messe.Cursor)
+        Messe.Cursor = 1;
+    if (Messe.Cursor > 5)
+        Messe.Cursor = 1;
+    for (int tag = 1; tag <= Konfig.Tage; ++tag)
+        Konfig.StartDatum -= 1;
+    NächsteMesse = 0;
+}
+
+void MessenNeuBestimmen()
+{
+    FesteEinträgeLeeren();
+    MessenBestimmen();
+    Meldungen.Zeigen("Fertig mit Messen bestimmen");
+    Messe.Cursor = 0;
+}
+
+} // namespace altardienst

@@ -1,0 +1,8 @@
+// The locale in use.
+#include "platform/Gebietsschema.h"
+
+namespace altardienst {
+
+GebietsschemaDienst Gebietsschema;
+
+} // namespace altardienst

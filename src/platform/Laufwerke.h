@@ -1,0 +1,53 @@
+// The file system: the program's directory, the diskette, the roots that pickers offer, and files
+// looked up without regard to case, as they come from a platform that ignores it.
+#pragma once
+
+#include "core/Text.h"
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace altardienst {
+
+struct Wurzel {
+    Text Name; // as the picker shows it
+    std::filesystem::path Pfad;
+};
+
+/// A failing call raises a Laufzeitfehler: 53 file not found, 61 disk full, 75 access denied,
+/// 76 path not found.
+struct LaufwerkeDienst {
+    using path = std::filesystem::path;
+
+    std::function<path()> Programmverzeichnis;
+    std::function<path()> Diskette;
+    std::function<std::vector<Wurzel>()> Wurzeln;
+
+    /// The name as stored of the file of that name, whatever the case asked for; the exact
+    /// spelling comes first where several differ in case alone.
+    std::function<std::optional<Text>(const path &verzeichnis, const Text &name)> Suchen;
+
+    std::function<std::string(const path &)> Lesen;
+    std::function<void(const path &, std::string_view)> Schreiben; // empties it first
+    std::function<void(const path &, std::string_view)> Anhängen;
+    std::function<void(const path &)> AttributeLöschen;   // a read-only file becomes writable
+    std::function<void(const path &)> VerzeichnisAnlegen; // with those above it; may exist
+};
+
+/// The machine's own file system. Elsewhere than on Windows the program's directory is
+/// $ALTARDIENST_DATEN or ~/.local/share/Altardienst, the diskette $ALTARDIENST_DISKETTE or
+/// /media/floppy.
+LaufwerkeDienst Systemlaufwerke();
+
+/// The file system in use.
+extern LaufwerkeDienst Laufwerke;
+
+/// UTF-8 text to and from a path of the platform.
+std::filesystem::path PfadAus(std::string_view text);
+Text TextVon(const std::filesystem::path &pfad);
+
+} // namespace altardienst

@@ -1,0 +1,8 @@
+// The message boxes in use.
+#include "platform/Meldungen.h"
+
+namespace altardienst {
+
+MeldungenDienst Meldungen = {[](const Text &) {}, [](const Text &, const Text &) { return false; }};
+
+} // namespace altardienst

@@ -1,0 +1,19 @@
+// Message boxes: with OK, and with Ja and Nein.
+#pragma once
+
+#include "core/Text.h"
+
+#include <functional>
+
+namespace altardienst {
+
+struct MeldungenDienst {
+    std::function<void(const Text &text)> Zeigen;
+    std::function<bool(const Text &text, const Text &titel)> Fragen; // true: Ja
+};
+
+/// The message boxes in use. The program puts in real ones when it starts; without a screen a
+/// message goes nowhere and a question is answered with Nein.
+extern MeldungenDienst Meldungen;
+
+} // namespace altardienst

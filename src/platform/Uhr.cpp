@@ -1,0 +1,62 @@
+// The system's clock in local time.
+#include "platform/Uhr.h"
+
+#include <ctime>
+
+namespace altardienst {
+namespace {
+
+/// Seconds since the epoch. A search asks at every draw, so the coarse clock is read where there is
+/// one: it lags a few milliseconds, which whole seconds don't show.
+std::time_t Jetzt()
+{
+#ifdef CLOCK_REALTIME_COARSE
+    std::timespec jetzt;
+    if (clock_gettime(CLOCK_REALTIME_COARSE, &jetzt) == 0)
+        return jetzt.tv_sec;
+#endif
+    return std::time(nullptr);
+}
+
+std::tm Ortszeit(std::time_t zeit)
+{
+    std::tm ort{};
+#ifdef _WIN32
+    localtime_s(&ort, &zeit);
+#else
+    localtime_r(&zeit, &ort);
+#endif
+    return ort;
+}
+
+int SekundenDesTages()
+{
+    static std::time_t gemerkt = -1;
+    static int sekunden = 0;
+    std::time_t jetzt = Jetzt();
+    if (jetzt != gemerkt) {
+        std::tm ort = Ortszeit(jetzt);
+        sekunden = (ort.tm_hour * 60 + ort.tm_min) * 60 + ort.tm_sec;
+        if (sekunden >= SekundenProTag)
+            sekunden = SekundenProTag - 1; // a leap second
+        gemerkt = jetzt;
+    }
+    return sekunden;
+}
+
+Datum HeutigerTag()
+{
+    std::tm ort = Ortszeit(Jetzt());
+    return DatumAus({ort.tm_year + 1900, ort.tm_mon + 1, ort.tm_mday});
+}
+
+} // namespace
+
+UhrDienst Systemuhr()
+{
+    return {HeutigerTag, SekundenDesTages};
+}
+
+UhrDienst Uhr = Systemuhr();
+
+} // namespace altardienst

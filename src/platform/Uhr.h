@@ -1,0 +1,21 @@
+// The clock: today and the time of day.
+#pragma once
+
+#include "core/Datum.h"
+
+#include <functional>
+
+namespace altardienst {
+
+struct UhrDienst {
+    std::function<Datum()> Heute;  // today, a whole number
+    std::function<int()> Sekunden; // local time of day in whole seconds, 0 to 86399; cheap
+};
+
+/// The system's clock in local time.
+UhrDienst Systemuhr();
+
+/// The clock in use; tests put in one that they set and advance by hand.
+extern UhrDienst Uhr;
+
+} // namespace altardienst

@@ -1,0 +1,117 @@
+// The fixture of all tests.
+#include "Prüfstand.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+namespace altardienst {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path NeuesVerzeichnis()
+{
+    std::string muster = (fs::temp_directory_path() / "altardienst-XXXXXX").string();
+    if (mkdtemp(muster.data()) == nullptr)
+        throw std::runtime_error("no temporary directory");
+    return muster;
+}
+
+} // namespace
+
+Prüfstand::Prüfstand()
+    : Heute(DatumAus({2026, 11, 21})), wurzel(NeuesVerzeichnis()), uhrZuvor(Uhr),
+      zufallZuvor(Zufall), meldungenZuvor(Meldungen), laufwerkeZuvor(Laufwerke)
+{
+    TabellenLeeren();
+    Festplatte = wurzel / "Festplatte";
+    Diskette = wurzel / "Diskette";
+    fs::create_directories(Festplatte);
+    fs::create_directories(Diskette);
+
+    Uhr.Heute = [this] { return Heute; };
+    Uhr.Sekunden = [this] {
+        int jetzt = Sekunden;
+        Sekunden += SekundenProAblesung;
+        return jetzt;
+    };
+    Zufall = ZufallMitSaat(1);
+    Meldungen.Zeigen = [this](const Text &text) { GezeigteMeldungen.push_back(text); };
+    Meldungen.Fragen = [this](const Text &text, const Text &titel) {
+        GestellteFragen.push_back({text, titel});
+        if (Antworten.empty())
+            return false;
+        bool antwort = Antworten.front();
+        Antworten.pop_front();
+        return antwort;
+    };
+    Laufwerke.Programmverzeichnis = [this] { return Festplatte; };
+    Laufwerke.Diskette = [this] { return Diskette; };
+    Laufwerke.Wurzeln = [this] {
+        return std::vector<Wurzel>{{"Festplatte", Festplatte}, {"Diskette", Diskette}};
+    };
+}
+
+Prüfstand::~Prüfstand()
+{
+    Uhr = uhrZuvor;
+    Zufall = zufallZuvor;
+    Meldungen = meldungenZuvor;
+    Laufwerke = laufwerkeZuvor;
+    std::error_code egal;
+    fs::remove_all(wurzel, egal);
+}
+
+void Prüfstand::DateiSchreiben(const fs::path &pfad, const std::string &bytes)
+{
+    std::ofstream datei(pfad, std::ios::binary);
+    datei << bytes;
+}
+
+std::string Prüfstand::DateiLesen(const fs::path &pfad)
+{
+    std::ifstream datei(pfad, std::ios::binary);
+    return {std::istreambuf_iterator<char>(datei), {}};
+}
+
+int MeßdienerAnlegen(const Text &vorname, const Text &nachname, int größe, const Text &geschlecht)
+{
+    int j = Meßdiener.Anzahl;
+    Meßdiener.Vorname[j] = vorname;
+    Meßdiener.Nachname[j] = nachname;
+    Meßdiener.Größe[j] = größe;
+    Meßdiener.Geschlecht[j] = geschlecht;
+    Meßdiener.Qualifikation[j] = "jjjjjj";
+    Meßdiener.Wochendienst[j] = "nnnnnnnn";
+    ++Meßdiener.Anzahl;
+    return j;
+}
+
+int MesseMitDienern(Datum datum, int dienerzahl, Datum uhrzeit)
+{
+    int i = Messe.Anzahl;
+    Messe.Datum[i] = datum;
+    Messe.Uhrzeit[i] = uhrzeit;
+    Messe.Wochentag[i] = WochentagName(datum);
+    Messe.Messeart[i] = "Messe";
+    Messe.Kennung[i] = "s";
+    Messe.Dienerzahl[i] = dienerzahl;
+    ++Messe.Anzahl;
+    return i;
+}
+
+int HelferAnlegen(const Text &vorname, const Text &nachname, const Text &dienst1,
+                  const Text &dienst2)
+{
+    int h = Helfer.Anzahl;
+    Helfer.Vorname[h] = vorname;
+    Helfer.Nachname[h] = nachname;
+    Helfer.Dienst1[h] = dienst1;
+    Helfer.Dienst2[h] = dienst2;
+    ++Helfer.Anzahl;
+    return h;
+}
+
+} // namespace altardienst
