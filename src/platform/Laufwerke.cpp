@@ -98,6 +98,27 @@ std::optional<Text> Suchen(const fs::path &verzeichnis, const Text &name)
     return gefunden;
 }
 
+Verzeichnisinhalt Auflisten(const fs::path &verzeichnis)
+{
+    std::error_code fehler;
+    Verzeichnisinhalt inhalt;
+    fs::directory_iterator ende;
+    fs::directory_iterator i(verzeichnis, fehler);
+    for (; !fehler && i != ende; i.increment(fehler)) {
+        Text name = TextVon(i->path().filename());
+        if (name.starts_with('.'))
+            continue;
+        std::error_code unbekannt;
+        bool istVerzeichnis = i->is_directory(unbekannt);
+        (istVerzeichnis ? inhalt.Verzeichnisse : inhalt.Dateien).push_back(std::move(name));
+    }
+    if (fehler)
+        Gescheitert(fehler.value(), Laufzeitfehler::PfadNichtGefunden);
+    std::ranges::sort(inhalt.Verzeichnisse);
+    std::ranges::sort(inhalt.Dateien);
+    return inhalt;
+}
+
 void AttributeLöschen(const fs::path &pfad)
 {
     std::error_code fehler;
@@ -188,6 +209,7 @@ LaufwerkeDienst Systemlaufwerke()
     dienst.Diskette = Diskette;
     dienst.Wurzeln = Wurzeln;
     dienst.Suchen = Suchen;
+    dienst.Auflisten = Auflisten;
     dienst.Lesen = Lesen;
     dienst.Schreiben = [](const fs::path &pfad, std::string_view inhalt) {
         Ausgeben(pfad, "wb", inhalt);

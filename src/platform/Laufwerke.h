@@ -18,6 +18,12 @@ struct Wurzel {
     std::filesystem::path Pfad;
 };
 
+/// What a picker lists of a directory, sorted by name, without hidden entries.
+struct Verzeichnisinhalt {
+    std::vector<Text> Verzeichnisse;
+    std::vector<Text> Dateien;
+};
+
 /// A failing call raises a Laufzeitfehler: 53 file not found, 61 disk full, 75 access denied,
 /// 76 path not found.
 struct LaufwerkeDienst {
@@ -31,6 +37,7 @@ struct LaufwerkeDienst {
     /// spelling comes first where several differ in case alone.
     std::function<std::optional<Text>(const path &verzeichnis, const Text &name)> Suchen;
 
+    std::function<Verzeichnisinhalt(const path &)> Auflisten;
     std::function<std::string(const path &)> Lesen;
     std::function<void(const path &, std::string_view)> Schreiben; // empties it first
     std::function<void(const path &, std::string_view)> Anhängen;

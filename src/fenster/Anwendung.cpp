@@ -1,0 +1,100 @@
+// What holds for all windows.
+#include "fenster/Anwendung.h"
+
+#include "fenster/Bausteine.h"
+#include "platform/Meldungen.h"
+
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTranslator>
+
+namespace altardienst {
+namespace {
+
+QPointer<QWidget> Hauptfenster;
+
+/// Command buttons: light green with the focus, light grey without.
+constexpr const char *Stil = R"(
+QPushButton { background-color: #c0c0c0; color: black; padding: 4px 12px; border: 1px solid #808080; border-radius: 3px; }
+QPushButton:focus { background-color: #00ff00; }
+QPushButton:pressed { border: 2px inset #606060; }
+QPushButton:disabled { color: #7a7a7a; border-color: #b0b0b0; background-color: #d8d8d8; }
+QWidget[spinButton="true"] { border: 1px solid transparent; }
+QWidget[spinButton="true"]:focus { border: 1px solid #008000; }
+)";
+
+QMessageBox::StandardButton MeldungZeigen(const Text &text, const Text &titel,
+                                          QMessageBox::StandardButtons knöpfe,
+                                          QMessageBox::StandardButton vorgabe)
+{
+    QMessageBox box(QApplication::activeWindow());
+    box.setObjectName("Meldung");
+    box.setWindowTitle(Anzeige(titel));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(Anzeige(text));
+    box.setStandardButtons(knöpfe);
+    box.setDefaultButton(vorgabe);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+} // namespace
+
+void AnwendungEinrichten(QApplication &anwendung)
+{
+    QApplication::setApplicationName("Altardienst");
+    QApplication::setApplicationDisplayName("Altardienst");
+    QApplication::setQuitOnLastWindowClosed(false);
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    auto *deutsch = new QTranslator(&anwendung);
+    if (deutsch->load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(deutsch);
+    anwendung.setStyleSheet(Stil);
+
+    Meldungen.Zeigen = [](const Text &text) {
+        MeldungZeigen(text, "Altardienst", QMessageBox::Ok, QMessageBox::Ok);
+    };
+    Meldungen.Fragen = [](const Text &text, const Text &titel) {
+        return MeldungZeigen(text, titel, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) ==
+               QMessageBox::Yes;
+    };
+}
+
+void HauptfensterSetzen(QWidget *haupt)
+{
+    Hauptfenster = haupt;
+}
+
+void DialogÖffnen(QWidget *dialog)
+{
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    if (Hauptfenster) {
+        Hauptfenster->setEnabled(false);
+        Hauptfenster->showMinimized();
+    }
+    dialog->show();
+    dialog->activateWindow();
+}
+
+void HauptfensterZurück()
+{
+    if (!Hauptfenster)
+        return;
+    Hauptfenster->setEnabled(true);
+    Hauptfenster->showMaximized();
+    Hauptfenster->activateWindow();
+}
+
+void AlleFormenEntladen()
+{
+    const QWidgetList fenster = QApplication::topLevelWidgets();
+    for (QWidget *form : fenster) {
+        if (!form->isWindow() || form->parent())
+            continue;
+        form->hide();
+        form->deleteLater();
+    }
+}
+
+} // namespace altardienst

@@ -1,0 +1,119 @@
+// Small pieces of every form.
+#include "fenster/Bausteine.h"
+
+#include "core/Ansi.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace altardienst {
+namespace {
+
+/// Calls a handler before the control sees an event, and lets the event pass.
+class Ereignisfilter : public QObject {
+  public:
+    using Erkennung = std::function<bool(QEvent *)>;
+
+    Ereignisfilter(QObject *control, Erkennung meint, std::function<void()> handler)
+        : QObject(control), meint(std::move(meint)), handler(std::move(handler))
+    {
+        control->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *ereignis) override
+    {
+        if (meint(ereignis))
+            handler();
+        return false;
+    }
+
+  private:
+    Erkennung meint;
+    std::function<void()> handler;
+};
+
+} // namespace
+
+QString Anzeige(const Text &text)
+{
+    return QString::fromStdString(text);
+}
+
+Text TextVon(const QLineEdit *feld)
+{
+    return feld->text().toStdString();
+}
+
+QPushButton *Knopf(const char *name, const char *beschriftung)
+{
+    return Benannt(new QPushButton(QString::fromUtf8(beschriftung)), name);
+}
+
+QLabel *Beschriftung(const char *name, const char *text, QWidget *zu)
+{
+    auto *label = Benannt(new QLabel(QString::fromUtf8(text)), name);
+    if (zu) {
+        label->setBuddy(zu);
+        zu->setAccessibleName(QString::fromUtf8(text).remove(':').trimmed());
+    }
+    return label;
+}
+
+QLineEdit *Textfeld(const char *name)
+{
+    auto *feld = Benannt(new QLineEdit, name);
+    QObject::connect(feld, &QLineEdit::textChanged, feld, [feld](const QString &text) {
+        QString darstellbar = Anzeige(InAnsiDarstellbar(text.toStdString()));
+        if (darstellbar == text)
+            return;
+        int stelle = feld->cursorPosition();
+        feld->setText(darstellbar);
+        feld->setCursorPosition(stelle);
+    });
+    return feld;
+}
+
+void BeiFokusVerlust(QWidget *control, std::function<void()> handler)
+{
+    new Ereignisfilter(
+        control,
+        [](QEvent *ereignis) {
+            return ereignis->type() == QEvent::FocusOut &&
+                   static_cast<QFocusEvent *>(ereignis)->reason() != Qt::PopupFocusReason;
+        },
+        std::move(handler));
+}
+
+void BeiEingabetaste(QLineEdit *feld, std::function<void()> handler)
+{
+    QObject::connect(feld, &QLineEdit::returnPressed, feld, std::move(handler));
+}
+
+void BeiMausdruck(QPushButton *knopf, std::function<void()> handler)
+{
+    new Ereignisfilter(
+        knopf,
+        [](QEvent *ereignis) {
+            return (ereignis->type() == QEvent::MouseButtonPress ||
+                    ereignis->type() == QEvent::MouseButtonDblClick) &&
+                   static_cast<QMouseEvent *>(ereignis)->button() == Qt::LeftButton;
+        },
+        std::move(handler));
+}
+
+void BeiTastendruck(QPushButton *knopf, std::function<void()> handler)
+{
+    new Ereignisfilter(
+        knopf,
+        [](QEvent *ereignis) {
+            if (ereignis->type() != QEvent::KeyPress)
+                return false;
+            auto *taste = static_cast<QKeyEvent *>(ereignis);
+            return !taste->text().isEmpty() && taste->key() != Qt::Key_Tab &&
+                   !(taste->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+        },
+        std::move(handler));
+}
+
+} // namespace altardienst

@@ -1,0 +1,41 @@
+// Small pieces of every form: controls with their names, and the events that Qt has no signal for.
+#pragma once
+
+#include "core/Text.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QString>
+
+#include <functional>
+
+namespace altardienst {
+
+QString Anzeige(const Text &text); // UTF-8 text of the tables for the screen
+Text TextVon(const QLineEdit *feld);
+
+/// Gives a control its bare name, by which tests find it, and a spoken name for screen readers
+/// where its caption is no word.
+template <class Control> Control *Benannt(Control *control, const char *name)
+{
+    control->setObjectName(QString::fromUtf8(name));
+    return control;
+}
+
+QPushButton *Knopf(const char *name, const char *beschriftung);
+
+/// A label; with a control it is that control's buddy and gives it its spoken name.
+QLabel *Beschriftung(const char *name, const char *text, QWidget *zu = nullptr);
+
+/// A text box. A character that the files cannot hold shows as "?" at once, so that what is seen is
+/// what will be stored.
+QLineEdit *Textfeld(const char *name);
+
+// Events. The handlers come wrapped in their kind (fenster/Handler.h).
+void BeiFokusVerlust(QWidget *control, std::function<void()> handler);
+void BeiEingabetaste(QLineEdit *feld, std::function<void()> handler);
+void BeiMausdruck(QPushButton *knopf, std::function<void()> handler);   // the first mouse button
+void BeiTastendruck(QPushButton *knopf, std::function<void()> handler); // a key with a character
+
+} // namespace altardienst

@@ -1,0 +1,48 @@
+// The directory picker that several dialogs share: a list of drives, of directories, of files.
+#pragma once
+
+#include "core/Text.h"
+
+#include <QComboBox>
+#include <QListWidget>
+
+#include <filesystem>
+#include <functional>
+
+namespace altardienst {
+
+/// The three lists of a dialog, which lays them out itself. The file list follows the directory
+/// list. Choosing a drive goes to its root; a double click or Enter on a directory opens it.
+class Verzeichniswahl {
+  public:
+    /// The names of the three controls; a dialog without one of the lists still has the control but
+    /// doesn't lay it out.
+    Verzeichniswahl(const char *laufwerkName, const char *verzeichnisName, const char *dateienName);
+
+    Verzeichniswahl(const Verzeichniswahl &) = delete;
+    Verzeichniswahl &operator=(const Verzeichniswahl &) = delete;
+
+    QComboBox *Laufwerk;
+    QListWidget *Verzeichnis;
+    QListWidget *Dateien;
+
+    const std::filesystem::path &Pfad() const { return pfad; }
+
+    /// Opens a directory: fills both lists, then runs `BeiWechsel`. Failure 75 or 76 if it cannot
+    /// be read; the lists then stay as they are.
+    void Öffnen(const std::filesystem::path &neu);
+
+    /// Reads the directory again, without `BeiWechsel`.
+    void Auffrischen();
+
+    /// Runs after each change of the directory.
+    std::function<void()> BeiWechsel = [] {};
+
+  private:
+    void EintragÖffnen(const QListWidgetItem *eintrag);
+    void Füllen(const std::filesystem::path &neu);
+
+    std::filesystem::path pfad;
+};
+
+} // namespace altardienst

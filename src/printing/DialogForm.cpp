@@ -1,0 +1,127 @@
+// The dialog that writes the plan as a text file.
+#include "printing/DialogForm.h"
+
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "platform/Laufwerke.h"
+#include "platform/Meldungen.h"
+
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace altardienst {
+
+DialogForm::DialogForm()
+    : Wahl("Drive1", "Dir1", "Dateien"), Dateiname(Textfeld("Dateiname")), VZ(Textfeld("VZ")),
+      Verzeichnis(Knopf("Verzeichnis", "Verzeichnis erstellen")),
+      Datend(Benannt(new QGroupBox("Daten an Datei"), "Datend")),
+      Überschreib(Benannt(new QRadioButton("überschreiben"), "Überschreib")),
+      Anhang(Benannt(new QRadioButton("anhängen"), "Anhang")), Datei(Beschriftung("Datei", "")),
+      OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen"))
+{
+    Benannt(this, "Dialog");
+    setWindowTitle("Messenliste als Textdatei speichern");
+    Anordnen();
+    Verbinden();
+    Abgefangen([this] { Wahl.Öffnen(Laufwerke.Wurzeln().front().Pfad); })();
+}
+
+void DialogForm::Anordnen()
+{
+    Dateiname->setAccessibleName("Dateiname ohne Endung");
+    VZ->setAccessibleName("Name des neuen Verzeichnisses");
+    Datei->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    Datei->setWordWrap(true);
+
+    auto *links = new QVBoxLayout;
+    links->addWidget(Wahl.Laufwerk);
+    links->addWidget(Wahl.Verzeichnis);
+    auto *neu = new QHBoxLayout;
+    neu->addWidget(VZ);
+    neu->addWidget(Verzeichnis);
+    links->addLayout(neu);
+
+    auto *rechts = new QVBoxLayout;
+    rechts->addWidget(Dateiname);
+    rechts->addWidget(Wahl.Dateien);
+    auto *art = new QHBoxLayout(Datend);
+    art->addWidget(Überschreib);
+    art->addWidget(Anhang);
+    rechts->addWidget(Datend);
+
+    auto *listen = new QHBoxLayout;
+    listen->setSpacing(16);
+    listen->addLayout(links, 1);
+    listen->addLayout(rechts, 1);
+
+    auto *unten = new QHBoxLayout;
+    unten->addWidget(Datei, 1);
+    for (QPushButton *knopf : {OKButton, CancelButton}) {
+        knopf->setMinimumWidth(110);
+        unten->addWidget(knopf);
+    }
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(16, 16, 16, 16);
+    spalte->setSpacing(12);
+    spalte->addLayout(listen, 1);
+    spalte->addLayout(unten);
+    resize(720, 460);
+    Dateiname->setFocus();
+}
+
+void DialogForm::Verbinden()
+{
+    auto bilden = Abgefangen([this] { ZielBilden(); });
+    connect(Dateiname, &QLineEdit::textChanged, this, bilden);
+    connect(Wahl.Dateien, &QListWidget::itemClicked, this, bilden);
+    connect(Anhang, &QRadioButton::clicked, this, bilden);
+    Wahl.BeiWechsel = bilden;
+    connect(Verzeichnis, &QPushButton::clicked, this, Offen([this] { VerzeichnisErstellen(); }));
+    connect(OKButton, &QPushButton::clicked, this, [this] { Schreiben(); });
+    connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
+}
+
+/// An existing file is by default appended to; a click on `Überschreib` stands.
+void DialogForm::ZielBilden()
+{
+    ziel = PfadBilden(Wahl.Pfad(), TextVon(Dateiname));
+    Datei->setText(Anzeige(ziel.VollerPfad));
+    Wahl.Auffrischen();
+    (ZielVorhanden(ziel) ? Anhang : Überschreib)->setChecked(true);
+}
+
+void DialogForm::VerzeichnisErstellen()
+{
+    const Text name = TextVon(VZ);
+    if (name.empty())
+        return;
+    Laufwerke.VerzeichnisAnlegen(Wahl.Pfad() / PfadAus(name));
+    Wahl.Auffrischen();
+}
+
+void DialogForm::Schreiben()
+{
+    try {
+        const auto pfad = PfadAus(ziel.VollerPfad);
+        if (Anhang->isChecked())
+            Laufwerke.Anhängen(pfad, PlanAlsText());
+        if (Überschreib->isChecked())
+            Laufwerke.Schreiben(pfad, PlanAlsText());
+    } catch (const Laufzeitfehler &) {
+        Meldungen.Zeigen("Datei konnte nicht geschrieben werden!!");
+        return;
+    }
+    close();
+}
+
+void DialogForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    HauptfensterZurück();
+}
+
+} // namespace altardienst

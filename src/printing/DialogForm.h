@@ -1,0 +1,46 @@
+// The dialog that writes the plan as a text file.
+#pragma once
+
+#include "fenster/Verzeichniswahl.h"
+#include "printing/Textexport.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QWidget>
+
+namespace altardienst {
+
+/// Proposes to append to a file that exists, and to write one that doesn't.
+class DialogForm : public QWidget {
+  public:
+    DialogForm();
+
+    Verzeichniswahl Wahl; // Drive1, Dir1, Dateien
+    QLineEdit *Dateiname;
+    QLineEdit *VZ;
+    QPushButton *Verzeichnis;
+    QGroupBox *Datend;
+    QRadioButton *Überschreib;
+    QRadioButton *Anhang;
+    QLabel *Datei;
+    QPushButton *OKButton;
+    QPushButton *CancelButton;
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void Anordnen();
+    void Verbinden();
+
+    void ZielBilden();
+    void VerzeichnisErstellen();
+    void Schreiben();
+
+    Exportziel ziel;
+};
+
+} // namespace altardienst

@@ -1,0 +1,299 @@
+// The main window: the seven steps of making a plan, the menu, the clock and the picture.
+#include "shell/HauptForm.h"
+
+#include "assignment/Dienste.h"
+#include "assignment/Zuweisungsrahmen.h"
+#include "core/Allgemein.h"
+#include "core/Sortierbefehle.h"
+#include "core/Umwandlung.h"
+#include "core/tables.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "planning/MessenBestimmen.h"
+#include "platform/Uhr.h"
+#include "printing/DialogForm.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+/// What an entry or button does whose dialog is not there: it stands in its place, disabled.
+const std::function<void()> NochNicht;
+
+QMenu *Menü(QWidget *in, const char *name, const char *beschriftung)
+{
+    auto *menü = Benannt(new QMenu(QString::fromUtf8(beschriftung), in), name);
+    if (auto *leiste = qobject_cast<QMenuBar *>(in))
+        leiste->addMenu(menü);
+    else
+        static_cast<QMenu *>(in)->addMenu(menü);
+    return menü;
+}
+
+void Eintrag(QMenu *menü, const char *name, const char *beschriftung,
+             const std::function<void()> &aktion)
+{
+    auto *eintrag = Benannt(menü->addAction(QString::fromUtf8(beschriftung)), name);
+    eintrag->setEnabled(static_cast<bool>(aktion));
+    if (aktion)
+        QObject::connect(eintrag, &QAction::triggered, menü, Offen(aktion));
+}
+
+void Trennstrich(QMenu *menü, const char *name)
+{
+    Benannt(menü->addSeparator(), name);
+}
+
+/// A submenu none of whose entries can be chosen is disabled as a whole.
+void SperrenWennLeer(QMenu *menü)
+{
+    for (const QAction *eintrag : menü->actions())
+        if (eintrag->isEnabled())
+            return;
+    menü->menuAction()->setEnabled(false);
+}
+
+void Enden(int ergebnis)
+{
+    AlleFormenEntladen();
+    QApplication::exit(ergebnis);
+}
+
+/// A save that fails ends the program, with the failure shown. False in that case.
+bool SpeichernOderEnden()
+{
+    try {
+        AufFestplatteSpeichern();
+        return true;
+    } catch (const Laufzeitfehler &fehler) {
+        Meldungen.Zeigen(fehler.Meldung());
+        Enden(fehler.Nummer());
+        return false;
+    }
+}
+
+/// The exit routine: saves everything and unloads every window.
+void Beenden()
+{
+    if (SpeichernOderEnden())
+        Enden(0);
+}
+
+} // namespace
+
+HauptForm::HauptForm()
+    : Messenorgani(Knopf("Messenorgani", "(1) Messen bestimmen")),
+      Meßdienernern(Knopf("Meßdienernern", "(2) Meßdiener für bestimmte Messen")),
+      Dienstus(Knopf("Dienstus", "(3) Messen mit Meßdiener besetzen")),
+      MeßdienerMessen(Knopf("MeßdienerMessen", "(4) Meßdiener - Wunschpartner berücksichtigen")),
+      Helfend(Knopf("Helfend", "(5) Messen mit Messehelfer besetzen")),
+      AnzMesse(Knopf("AnzMesse", "(6) Messenliste anzeigen")),
+      Messendruck(Knopf("Messendruck", "(7) Druck des Altardienstes")),
+      ODER1(Beschriftung("ODER1", "ODER")), Uhriger(Beschriftung("Uhriger", "Uhr")),
+      UHRZEITIGES(Beschriftung("UHRZEITIGES", "")), Image1(new Hintergrundbild("Image1")),
+      Timer1(Benannt(new QTimer(this), "Timer1"))
+{
+    Benannt(this, "Haupt");
+    setWindowTitle("Altardienst ");
+    Anordnen();
+    MenüDatei();
+    MenüDaten();
+    MenüSortieren();
+    MenüZusatz();
+    MenüHilfe();
+    Verbinden();
+    Takt();
+}
+
+std::array<QPushButton *, 7> HauptForm::Schritte() const
+{
+    return {Messenorgani, Meßdienernern, Dienstus, MeßdienerMessen, Helfend, AnzMesse, Messendruck};
+}
+
+void HauptForm::Anordnen()
+{
+    auto *links = new QVBoxLayout;
+    links->setSpacing(8);
+    for (QPushButton *knopf : Schritte()) {
+        knopf->setMinimumHeight(38);
+        if (knopf == MeßdienerMessen)
+            links->addWidget(ODER1);
+        links->addWidget(knopf);
+    }
+    ODER1->setAlignment(Qt::AlignCenter);
+    links->addStretch();
+    auto *uhr = new QHBoxLayout;
+    QFont groß = UHRZEITIGES->font();
+    groß.setPointSizeF(groß.pointSizeF() * 1.4);
+    UHRZEITIGES->setFont(groß);
+    Uhriger->setFont(groß);
+    uhr->addStretch();
+    uhr->addWidget(UHRZEITIGES);
+    uhr->addWidget(Uhriger);
+    uhr->addStretch();
+    links->addLayout(uhr);
+
+    auto *mitte = new QWidget;
+    auto *reihe = new QHBoxLayout(mitte);
+    reihe->setContentsMargins(16, 16, 16, 16);
+    reihe->setSpacing(16);
+    reihe->addLayout(links);
+    reihe->addWidget(Image1, 1);
+    setCentralWidget(mitte);
+    Messenorgani->setFocus();
+}
+
+void HauptForm::MenüDatei()
+{
+    QMenu *datei = Menü(menuBar(), "mnufile", "&Datei");
+    Eintrag(datei, "mnuFilePrint", "&Drucken...", NochNicht);
+    Trennstrich(datei, "mnuFileBar5");
+    Eintrag(datei, "mnuFileExit", "&Beenden", Beenden);
+}
+
+void HauptForm::MenüDaten()
+{
+    QMenu *daten = Menü(menuBar(), "mnuDaten", "D&aten");
+    Eintrag(daten, "mnuKonfiguration", "&Konfiguration", NochNicht);
+    Eintrag(daten, "mnuHintergrund", "Hi&ntergrund", NochNicht);
+    Eintrag(daten, "mnuEtiketten", "Et&ikettengröße", NochNicht);
+    Trennstrich(daten, "mnufilebar7");
+    Eintrag(daten, "mnuGruppe", "&Gruppe", NochNicht);
+    Eintrag(daten, "mnuStandardmessen", "&Standardmessen", NochNicht);
+    Eintrag(daten, "mnuHelfer", "&Helfer", NochNicht);
+    Eintrag(daten, "mnuMeßdiener", "&Meßdiener", NochNicht);
+    Eintrag(daten, "MnuMESSDIENZUMESS", "Meßdiener &zu Messen", NochNicht);
+    Eintrag(daten, "mnuMessen", "M&essen", NochNicht);
+    Trennstrich(daten, "mnuFileBar6");
+    Eintrag(daten, "mnuJubGeb", "&Jubiläen und Geburtstage", NochNicht);
+
+    QMenu *diener = Menü(daten, "mnuStatistiken", "S&tatistik Meßdiener");
+    Eintrag(diener, "mnuStatistik", "Meßdiener &allgemein", NochNicht);
+    Eintrag(diener, "mnuStatistikGröße", "Meßdiener &Größe", NochNicht);
+    Eintrag(diener, "mnuMessendienst", "Messendiens&t", NochNicht);
+    Eintrag(diener, "mnuStatDienst", "Anzahl Die&nste Meßdiener im Plan", NochNicht);
+    SperrenWennLeer(diener);
+
+    QMenu *helfer = Menü(daten, "mnuStatistikHilf", "Statistik He&lfer");
+    Eintrag(helfer, "mnuStatistikHilfA", "Helfer &allgemein", NochNicht);
+    Eintrag(helfer, "mnuHelferMessendienst", "Messendiens&t Helfer", NochNicht);
+    Eintrag(helfer, "mnuStatHDienst", "Anzahl Die&nste Helfer im Plan", NochNicht);
+    SperrenWennLeer(helfer);
+}
+
+void HauptForm::MenüSortieren()
+{
+    QMenu *sortieren = Menü(menuBar(), "mnuSortieren", "S&ortieren");
+    QMenu *etiketten = Menü(sortieren, "mnuEtik", "&Etiketten");
+    Eintrag(etiketten, "mnuEtiAUF", "a&ufsteigend sortieren", EtikettenAufsteigendSortieren);
+    Eintrag(etiketten, "mnuEtiAB", "a&bsteigend sortieren", EtikettenAbsteigendSortieren);
+    Trennstrich(sortieren, "mnufilebar8");
+    Eintrag(sortieren, "mnuVorbMessen", "&Vorbesetzte Messen", VorbesetzteMessenSortieren);
+    Eintrag(sortieren, "mnuGruppensort", "&Gruppen", GruppenSortieren);
+
+    QMenu *messen = Menü(sortieren, "mnuMess", "&Messen");
+    Eintrag(messen, "mnuSortmessen", "&nach Datum sortieren", MessenNachDatumSortieren);
+    Eintrag(messen, "mnuSortmessenUhr", "nach Datum und &Uhrzeit sortieren", MessenSortieren);
+    QMenu *standard = Menü(sortieren, "mnuStandardmess", "&Standardmessen");
+    Eintrag(standard, "mnuWochentag", "nach &Wochentag sortieren",
+            StandardmessenNachWochentagSortieren);
+    Trennstrich(sortieren, "mnuFileBar1");
+
+    QMenu *diener = Menü(sortieren, "mnuMeßdienersortierung", "M&eßdiener");
+    Eintrag(diener, "mnuMeßdienersort", "nach &Nachname sortieren", MeßdienerNachNachnameSortieren);
+    Eintrag(diener, "mnuMeßdienersort2", "nach &Vorname sortieren", MeßdienerNachVornameSortieren);
+    Eintrag(diener, "mnuMeßdienerGruppe", "nach &Gruppe sortieren", MeßdienerNachGruppeSortieren);
+    Eintrag(diener, "mnuMeßdienerGebuSort", "nach G&eburtstag sortieren",
+            MeßdienerNachGeburtstagSortieren);
+    Eintrag(diener, "mnuMeßdienerStraßSort", "nach Str&aße sortieren",
+            MeßdienerNachStraßeSortieren);
+
+    QMenu *helfer = Menü(sortieren, "mnuMeßhelfer", "Meß&helfer");
+    Eintrag(helfer, "mnuMeßhelferNachsort", "nach &Nachnamen sortieren",
+            HelferNachNachnameSortieren);
+    Eintrag(helfer, "mnuMeßhelferNachsort2", "nach &Vorname sortieren", HelferNachVornameSortieren);
+    Eintrag(helfer, "mnuHelfSortDienst", "nach D&ienst sortieren", HelferNachDienstSortieren);
+    Eintrag(helfer, "mnuHelfsortGebu", "nach G&eburtstag sortieren", HelferNachGeburtstagSortieren);
+    Eintrag(helfer, "mnuHelferSortStraße", "nach Str&aße sortieren", HelferNachStraßeSortieren);
+}
+
+void HauptForm::MenüZusatz()
+{
+    QMenu *zusatz = Menü(menuBar(), "mnuZusatz", "&Zusatz");
+    Eintrag(zusatz, "mnuMessenlisteText", "Messenliste als &Textdatei speichern",
+            [] { DialogÖffnen(new DialogForm); });
+
+    QMenu *festplatte = Menü(zusatz, "mnuDatend", "Date&n auf Festplatte");
+    Eintrag(festplatte, "mnuDatenspeichern", "&speichern", [] { SpeichernOderEnden(); });
+    Eintrag(festplatte, "mnuDatenladen", "&laden", VonFestplatteLaden);
+
+    QMenu *diskette = Menü(zusatz, "mnuDatene", "D&aten auf Diskette");
+    Eintrag(diskette, "mnuDatenspeichernD", "&speichern", Abgefangen(AufDisketteSpeichern));
+    Eintrag(diskette, "mnuDatenladenD", "&laden", VonDisketteLaden);
+
+    QMenu *daten = Menü(zusatz, "mnuDatamenu", "Dat&en");
+    Eintrag(daten, "mnuDatenHolen", "Daten &holen", NochNicht);
+    Eintrag(daten, "mnuDatenSichern", "Daten &sichern", NochNicht);
+    SperrenWennLeer(daten);
+    Eintrag(zusatz, "DruckML", "Dienste &richtig setzen für Messenlistausdruck", DiensteVerteilen);
+}
+
+void HauptForm::MenüHilfe()
+{
+    QMenu *hilfe = Menü(menuBar(), "mnuHelp", "&?");
+    Eintrag(hilfe, "mnuHelpAbout", "&Info zur Anwendung", NochNicht);
+}
+
+void HauptForm::Verbinden()
+{
+    auto schritt = [this](QPushButton *knopf, const std::function<void()> &aktion) {
+        knopf->setEnabled(static_cast<bool>(aktion));
+        if (aktion)
+            connect(knopf, &QPushButton::clicked, this, Offen(aktion));
+    };
+    schritt(Messenorgani, MessenNeuBestimmen);
+    schritt(Meßdienernern, NochNicht);
+    schritt(Dienstus, MessenMitMeßdienerBesetzen);
+    schritt(MeßdienerMessen, WunschpartnerBerücksichtigen);
+    schritt(Helfend, MessenMitMessehelferBesetzen);
+    schritt(AnzMesse, NochNicht);
+    schritt(Messendruck, NochNicht);
+
+    connect(Timer1, &QTimer::timeout, this, Abgefangen([this] { Takt(); }));
+    Timer1->start(50);
+}
+
+void HauptForm::Takt()
+{
+    UHRZEITIGES->setText(Anzeige(LangeZeit(ZeitAus(Uhr.Sekunden()))));
+    Image1->Zeigen(Konfig.Hintergrund);
+}
+
+void HauptForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    Beenden();
+}
+
+/// The keys 1 to 7 of the main keyboard press the button of that number, whichever control has the
+/// focus: buttons don't take digits, so these arrive here.
+void HauptForm::keyPressEvent(QKeyEvent *taste)
+{
+    const int nummer = taste->key() - Qt::Key_1;
+    const auto schritte = Schritte();
+    if (nummer >= 0 && nummer < static_cast<int>(schritte.size()) &&
+        taste->modifiers() == Qt::NoModifier)
+        schritte[static_cast<std::size_t>(nummer)]->click();
+    else
+        QMainWindow::keyPressEvent(taste);
+}
+
+} // namespace altardienst

@@ -1,0 +1,54 @@
+// The main window: the seven steps of making a plan, the menu, the clock and the picture.
+#pragma once
+
+#include "shell/Hintergrundbild.h"
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenu>
+#include <QPushButton>
+#include <QTimer>
+
+#include <array>
+#include <functional>
+
+namespace altardienst {
+
+/// Closing it runs the exit routine: everything is saved and every window unloaded.
+class HauptForm : public QMainWindow {
+  public:
+    HauptForm();
+
+    QPushButton *Messenorgani;    // (1)
+    QPushButton *Meßdienernern;   // (2)
+    QPushButton *Dienstus;        // (3)
+    QPushButton *MeßdienerMessen; // (4)
+    QPushButton *Helfend;         // (5)
+    QPushButton *AnzMesse;        // (6)
+    QPushButton *Messendruck;     // (7)
+    QLabel *ODER1;
+    QLabel *Uhriger;
+    QLabel *UHRZEITIGES;
+    Hintergrundbild *Image1;
+    QTimer *Timer1;
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+    void keyPressEvent(QKeyEvent *taste) override;
+
+  private:
+    void Anordnen();
+    void Verbinden();
+
+    void MenüDatei();
+    void MenüDaten();
+    void MenüSortieren();
+    void MenüZusatz();
+    void MenüHilfe();
+
+    void Takt();
+
+    std::array<QPushButton *, 7> Schritte() const;
+};
+
+} // namespace altardienst

@@ -1,0 +1,213 @@
+// The first window: loads the data, proposes the plan period, hands over to the main window.
+#include "shell/StartForm.h"
+
+#include "core/Allgemein.h"
+#include "core/Dateien.h"
+#include "core/Umwandlung.h"
+#include "core/tables.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "planning/MessenBestimmen.h"
+#include "platform/Uhr.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace altardienst {
+
+StartForm::StartForm(std::function<void()> starten)
+    : Datumsen(Textfeld("Datumsen")), Tagchen(Beschriftung("Tagchen", "")),
+      SpinButton1(new SpinButton("SpinButton1", "Startdatum um einen Tag ändern")),
+      Minus(Knopf("Minus", "−")), Plus(Knopf("Plus", "+")), Tagilein(Textfeld("Tagilein")),
+      Änderung1(new SpinButton("Änderung1", "Anzahl Tage ändern")),
+      Endet(Beschriftung("Endet", "")), Dayig(Beschriftung("Dayig", "")),
+      UHRZEIT(Beschriftung("UHRZEIT", "")), Starten(Knopf("Starten", "Starten")),
+      Timer1(Benannt(new QTimer(this), "Timer1")), starten(std::move(starten))
+{
+    Benannt(this, "Start");
+    setWindowTitle("Altardienst");
+    Anordnen();
+    Verbinden();
+    Offen([this] { Laden(); })();
+}
+
+void StartForm::Anordnen()
+{
+    Minus->setAccessibleName("einen Tag zurück");
+    Plus->setAccessibleName("einen Tag vor");
+    for (QPushButton *knopf : {Minus, Plus})
+        knopf->setFixedWidth(36);
+    for (QLineEdit *feld : {Datumsen, Tagilein})
+        feld->setFixedWidth(110);
+    QFont groß = UHRZEIT->font();
+    groß.setPointSizeF(groß.pointSizeF() * 1.6);
+    UHRZEIT->setFont(groß);
+    UHRZEIT->setAlignment(Qt::AlignCenter);
+
+    auto *datum = new QHBoxLayout;
+    for (QWidget *control : std::initializer_list<QWidget *>{Datumsen, SpinButton1, Minus, Plus})
+        datum->addWidget(control);
+    datum->addStretch();
+    auto *tage = new QHBoxLayout;
+    tage->addWidget(Tagilein);
+    tage->addWidget(Änderung1);
+    tage->addStretch();
+
+    auto *raster = new QGridLayout;
+    raster->setHorizontalSpacing(14);
+    raster->setVerticalSpacing(12);
+    raster->addWidget(
+        Beschriftung("berechnend", "Startberechnungsdatum für den Meßdienerplan:", Datumsen), 0, 0);
+    raster->addLayout(datum, 0, 1);
+    raster->addWidget(Tagchen, 0, 2);
+    raster->addWidget(Beschriftung("Tagezahl", "Anzahl Tage: ", Tagilein), 1, 0);
+    raster->addLayout(tage, 1, 1);
+    raster->addWidget(Beschriftung("bissig", "bis zum:"), 2, 0);
+    raster->addWidget(Endet, 2, 1);
+    raster->addWidget(Dayig, 2, 2);
+    raster->setColumnMinimumWidth(2, Tagchen->fontMetrics().horizontalAdvance("Donnerstag") + 10);
+
+    auto *unten = new QHBoxLayout;
+    unten->addStretch();
+    Starten->setMinimumWidth(160);
+    unten->addWidget(Starten);
+    unten->addStretch();
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(28, 24, 28, 24);
+    spalte->setSpacing(22);
+    spalte->addWidget(UHRZEIT);
+    spalte->addLayout(raster);
+    spalte->addLayout(unten);
+    spalte->addStretch();
+    Starten->setFocus();
+}
+
+void StartForm::Verbinden()
+{
+    connect(Tagilein, &QLineEdit::textChanged, this, Abgefangen([this] { TagileinGeändert(); }));
+    BeiEingabetaste(Datumsen, [this] { Neuberechnen(); });
+    BeiFokusVerlust(Datumsen,
+                    Schrittweise([this] { Neuberechnen(); }, [this] { WochentageSetzen(); }));
+    SpinButton1->BeiAb(Abgefangen([this] { DatumGedreht(-1); }));
+    SpinButton1->BeiAuf(Abgefangen([this] { DatumGedreht(+1); }));
+    auto schrittknopf = [this](QPushButton *knopf, int tage) {
+        BeiMausdruck(knopf, Abgefangen([this, tage] { DatumVerschieben(tage); }));
+        BeiTastendruck(knopf, Abgefangen([this, tage] {
+                           Neuberechnen();
+                           DatumVerschieben(tage);
+                       }));
+        connect(knopf, &QPushButton::clicked, this, [this] { Neuberechnen(); });
+    };
+    schrittknopf(Minus, -1);
+    schrittknopf(Plus, +1);
+    Änderung1->BeiAb(Abgefangen([this] { TageGedreht(-1); }));
+    Änderung1->BeiAuf(Abgefangen([this] { TageGedreht(+1); }));
+    connect(Starten, &QPushButton::clicked, this, [this] {
+        Neuberechnen();
+        starten();
+        hide();
+    });
+    auto uhrStellen = [this] {
+        UHRZEIT->setText(Anzeige(LangeZeit(ZeitAus(Uhr.Sekunden())) + " Uhr"));
+    };
+    connect(Timer1, &QTimer::timeout, this, uhrStellen);
+    Timer1->start(50);
+    uhrStellen();
+}
+
+void StartForm::Laden()
+{
+    // First the defaults, so that a load that fails leaves these eight values set.
+    SkalenBegrenzen();
+    VonFestplatteLaden();
+    const Datum vorschlag = StartDatumVorschlagen();
+    Datumsen->setText(Anzeige(KurzesDatum(vorschlag)));
+    Tagchen->setText(Anzeige(WochentagName(vorschlag)));
+    Konfig.StartDatum = vorschlag;
+    Tagilein->setText(Anzeige(ZahlText(Konfig.Tage)));
+    if (Konfig.GrenzeAuslöse < 0 || Konfig.GrenzeAuslöse > 99)
+        Konfig.GrenzeAuslöse = 60;
+}
+
+/// Trapped: an invalid date stays in the box, and the last good one in `Konfig.StartDatum`.
+void StartForm::Neuberechnen()
+{
+    Abgefangen([this] {
+        Datum datum = std::trunc(DatumLesen(TextVon(Datumsen)));
+        Datumsen->setText(Anzeige(KurzesDatum(datum)));
+        if (Uhr.Heute() - datum > 0) {
+            datum = Uhr.Heute();
+            Datumsen->setText(Anzeige(KurzesDatum(datum)));
+        }
+        Konfig.StartDatum = datum;
+        WochentageSetzen();
+    })();
+}
+
+void StartForm::WochentageSetzen()
+{
+    Tagchen->setText(Anzeige(WochentagName(Konfig.StartDatum)));
+    const Datum letzter = LetzterTag();
+    Endet->setText(Anzeige(KurzesDatum(letzter)));
+    Dayig->setText(Anzeige(WochentagName(letzter)));
+}
+
+/// `Tage` days behind the start date; the period includes both ends.
+Datum StartForm::LetzterTag() const
+{
+    return Konfig.StartDatum + Int16Lesen(TextVon(Tagilein));
+}
+
+void StartForm::DatumVerschieben(int tage)
+{
+    Datumsen->setText(Anzeige(KurzesDatum(DatumLesen(TextVon(Datumsen)) + tage)));
+}
+
+void StartForm::DatumGedreht(int tage)
+{
+    Neuberechnen();
+    DatumVerschieben(tage);
+    Datumsen->repaint();
+    Tagchen->repaint();
+    Neuberechnen();
+    WochentageSetzen();
+}
+
+void StartForm::TageGedreht(int tage)
+{
+    Neuberechnen();
+    Tagilein->setText(Anzeige(ZahlText(Int16Lesen(TextVon(Tagilein)) + tage)));
+    for (QWidget *control : std::initializer_list<QWidget *>{Tagilein, Endet, Dayig})
+        control->repaint();
+}
+
+void StartForm::TagileinGeändert()
+{
+    constexpr int WenigsteTage = 7;
+    constexpr int MeisteTage = 180;
+    Neuberechnen();
+    Int16 tage = Int16Lesen(TextVon(Tagilein));
+    if (tage < WenigsteTage)
+        Tagilein->setText(Anzeige(ZahlText(WenigsteTage)));
+    else if (tage > MeisteTage)
+        Tagilein->setText(Anzeige(ZahlText(MeisteTage)));
+    Konfig.Tage = Int16Lesen(TextVon(Tagilein));
+    WochentageSetzen();
+    Endet->repaint();
+    Dayig->repaint();
+}
+
+void StartForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    // Nothing was planned yet, so nothing is saved.
+    QApplication::exit();
+}
+
+} // namespace altardienst
