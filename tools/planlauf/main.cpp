@@ -1,0 +1,225 @@
+// Drives the real windows without a screen: loads a directory, presses the buttons of the main
+// window, writes the plan and pictures, and leaves by the exit routine.
+#include "core/Umwandlung.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "platform/Laufwerke.h"
+#include "platform/Meldungen.h"
+#include "platform/Uhr.h"
+#include "platform/Zufall.h"
+#include "printing/DialogForm.h"
+#include "shell/HauptForm.h"
+#include "shell/Programm.h"
+#include "shell/StartForm.h"
+
+#include <QCommandLineParser>
+#include <QTimer>
+
+#include <cstdio>
+#include <stdexcept>
+
+namespace {
+
+using namespace altardienst;
+
+/// What the command line asks for; an empty text or path asks for nothing.
+struct Auftrag {
+    std::filesystem::path Daten;
+    QString Start;
+    QString Tage;
+    QList<int> Schritte;
+    std::filesystem::path Text;
+    QString Bilder;
+};
+
+std::filesystem::path Pfad(const QString &text)
+{
+    return text.isEmpty() ? std::filesystem::path()
+                          : std::filesystem::absolute(PfadAus(text.toStdString()));
+}
+
+Auftrag AuftragLesen(QCommandLineParser &zeile)
+{
+    const QCommandLineOption daten("daten", "directory with the eight files", "DIR");
+    const QCommandLineOption heute("heute", "the day that counts as today", "TT.MM.JJJJ");
+    const QCommandLineOption start("start", "first day of the plan", "TT.MM.JJJJ");
+    const QCommandLineOption tage("tage", "days of the plan", "N");
+    const QCommandLineOption saat("saat", "seed of the draw, in place of the clock's", "N");
+    const QCommandLineOption schritte("schritte", "buttons to press, such as 1,4,5", "LISTE");
+    const QCommandLineOption text("text", "write the plan as text", "FILE");
+    const QCommandLineOption bilder("bilder", "save a picture of every window passed", "DIR");
+    const QCommandLineOption antwort("antwort", "answer to every question", "ja|nein", "ja");
+    zeile.addHelpOption();
+    zeile.addOptions({daten, heute, start, tage, saat, schritte, text, bilder, antwort});
+    zeile.process(*QCoreApplication::instance());
+    if (!zeile.isSet(daten))
+        throw std::invalid_argument("--daten is missing");
+
+    Auftrag auftrag;
+    auftrag.Daten = Pfad(zeile.value(daten));
+    auftrag.Start = zeile.value(start);
+    auftrag.Tage = zeile.value(tage);
+    const QStringList nummern = zeile.value(schritte).split(',', Qt::SkipEmptyParts);
+    for (const QString &nummer : nummern) {
+        bool istZahl = false;
+        const int schritt = nummer.toInt(&istZahl);
+        if (!istZahl || schritt < 1 || schritt > 7)
+            throw std::invalid_argument("--schritte takes numbers from 1 to 7");
+        auftrag.Schritte.append(schritt);
+    }
+    auftrag.Text = Pfad(zeile.value(text));
+    auftrag.Bilder = zeile.value(bilder);
+
+    Laufwerke.Programmverzeichnis = [verzeichnis = auftrag.Daten] { return verzeichnis; };
+    if (zeile.isSet(heute))
+        Uhr.Heute = [tag = DatumLesen(zeile.value(heute).toStdString())] { return tag; };
+    if (zeile.isSet(saat)) {
+        bool istZahl = false;
+        Zufall = ZufallMitSaat(zeile.value(saat).toUInt(&istZahl));
+        if (!istZahl)
+            throw std::invalid_argument("--saat takes a number");
+    }
+    const QString ja = zeile.value(antwort);
+    if (ja != "ja" && ja != "nein")
+        throw std::invalid_argument("--antwort takes ja or nein");
+    Meldungen.Zeigen = [](const Text &meldung) { std::printf("Meldung: %s\n", meldung.c_str()); };
+    Meldungen.Fragen = [ja](const Text &frage, const Text &) {
+        std::printf("Frage: %s\n", frage.c_str());
+        return ja == "ja";
+    };
+    return auftrag;
+}
+
+template <class Form> Form *Fenster()
+{
+    QCoreApplication::processEvents();
+    for (QWidget *fenster : QApplication::topLevelWidgets())
+        if (auto *form = dynamic_cast<Form *>(fenster); form && form->isVisible())
+            return form;
+    throw std::runtime_error("a window did not open");
+}
+
+class Lauf {
+  public:
+    explicit Lauf(Auftrag auftrag) : auftrag(std::move(auftrag)) {}
+
+    void Starten()
+    {
+        ProgrammStarten();
+        auto *start = Fenster<StartForm>();
+        if (!auftrag.Start.isEmpty())
+            start->Datumsen->setText(auftrag.Start);
+        if (!auftrag.Tage.isEmpty())
+            start->Tagilein->setText(auftrag.Tage);
+        Bild(start);
+        start->Starten->click();
+        haupt = Fenster<HauptForm>();
+        haupt->showNormal();
+        haupt->resize(1024, 720);
+        Bild(haupt);
+    }
+
+    void Schritte()
+    {
+        const std::array knöpfe = {haupt->Messenorgani,    haupt->Meßdienernern, haupt->Dienstus,
+                                   haupt->MeßdienerMessen, haupt->Helfend,       haupt->AnzMesse,
+                                   haupt->Messendruck};
+        for (const int schritt : auftrag.Schritte) {
+            QPushButton *knopf = knöpfe.at(static_cast<std::size_t>(schritt - 1));
+            if (!knopf->isEnabled())
+                throw std::runtime_error("button " + std::to_string(schritt) + " is disabled");
+            knopf->click();
+            AndereSchließen();
+        }
+    }
+
+    void TextSchreiben()
+    {
+        if (auftrag.Text.empty())
+            return;
+        haupt->findChild<QAction *>("mnuMessenlisteText")->trigger();
+        auto *dialog = Fenster<DialogForm>();
+        dialog->Wahl.Öffnen(auftrag.Text.parent_path());
+        // The dialog adds the extension itself.
+        const bool hatEndung = auftrag.Text.extension() == ".txt";
+        const auto name = hatEndung ? auftrag.Text.stem() : auftrag.Text.filename();
+        dialog->Dateiname->setText(Anzeige(TextVon(name)));
+        dialog->Überschreib->click();
+        Bild(dialog);
+        dialog->OKButton->click();
+        AndereSchließen();
+        if (!hatEndung)
+            std::filesystem::rename(PfadAus(TextVon(auftrag.Text) + ".txt"), auftrag.Text);
+    }
+
+    void Beenden() { haupt->close(); }
+
+  private:
+    void AndereSchließen()
+    {
+        QCoreApplication::processEvents();
+        const QWidgetList offen = QApplication::topLevelWidgets();
+        for (QWidget *fenster : offen) {
+            if (fenster == haupt || !fenster->isVisible() || fenster->parent())
+                continue;
+            Bild(fenster);
+            fenster->close();
+        }
+        QCoreApplication::processEvents();
+    }
+
+    void Bild(QWidget *fenster)
+    {
+        if (auftrag.Bilder.isEmpty())
+            return;
+        QCoreApplication::processEvents();
+        ++bilder;
+        const QString name = QString("%1/%2-%3.png")
+                                 .arg(auftrag.Bilder)
+                                 .arg(bilder, 2, 10, QChar('0'))
+                                 .arg(fenster->objectName());
+        if (!fenster->grab().save(name))
+            throw std::runtime_error("no picture could be written to " + name.toStdString());
+        std::printf("Bild: %s\n", qPrintable(name));
+    }
+
+    Auftrag auftrag;
+    HauptForm *haupt = nullptr;
+    int bilder = 0;
+};
+
+int Gescheitert(const char *grund)
+{
+    std::fprintf(stderr, "planlauf: %s\n", grund);
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication anwendung(argc, argv);
+    AnwendungEinrichten(anwendung);
+    int ergebnis = 0;
+    try {
+        QCommandLineParser zeile;
+        Lauf lauf(AuftragLesen(zeile));
+        QTimer::singleShot(0, [&] {
+            try {
+                lauf.Starten();
+                lauf.Schritte();
+                lauf.TextSchreiben();
+                lauf.Beenden();
+            } catch (const std::exception &fehler) {
+                ergebnis = Gescheitert(fehler.what());
+                QApplication::exit(ergebnis);
+            }
+        });
+        const int beendet = QApplication::exec();
+        return ergebnis != 0 ? ergebnis : beendet;
+    } catch (const std::exception &fehler) {
+        return Gescheitert(fehler.what());
+    }
+}
