@@ -26,6 +26,8 @@ const char *Laufzeitfehler::what() const noexcept
         return "Zugriff verweigert";
     case PfadNichtGefunden:
         return "Pfad nicht gefunden";
+    case Druckerfehler:
+        return "Druckerfehler";
     }
     return "Unbekannter Fehler";
 }

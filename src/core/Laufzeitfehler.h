@@ -22,6 +22,7 @@ class Laufzeitfehler : public std::exception {
         HinterDateiende = 62,
         ZugriffVerweigert = 75,
         PfadNichtGefunden = 76,
+        Druckerfehler = 482,
     };
 
     explicit Laufzeitfehler(Art art) : art(art) {}

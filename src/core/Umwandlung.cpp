@@ -33,7 +33,7 @@ bool IstZiffer(char c)
 double ZahlLesen(std::string_view text)
 {
     text = OhneBlanks(text);
-    std::string zahl(text.substr(text.starts_with('+') ? 1 : 0));
+    std::string zahl(text.substr(text.starts_with('+') && !text.starts_with("+-") ? 1 : 0));
     // "inf", "nan" and a point in the place of the comma are no numbers here.
     if (std::ranges::any_of(zahl, [](char c) {
             return !IstZiffer(c) && c != '-' && c != '+' && c != 'E' && c != 'e' &&
@@ -44,10 +44,10 @@ double ZahlLesen(std::string_view text)
     double wert = 0;
     const char *ende = zahl.data() + zahl.size();
     auto [stelle, fehler] = std::from_chars(zahl.data(), ende, wert);
+    if (stelle != ende || fehler == std::errc::invalid_argument)
+        TypenUnverträglich();
     if (fehler == std::errc::result_out_of_range)
         throw Laufzeitfehler(Laufzeitfehler::Überlauf);
-    if (fehler != std::errc() || stelle != ende)
-        TypenUnverträglich();
     return wert;
 }
 
@@ -264,6 +264,22 @@ Text ZahlText(Single zahl)
     return AlsText([&](Text &text) { ZahlAnhängen(text, zahl); });
 }
 
+Text FesteStellen(double zahl, int ganze, int stellen)
+{
+    double faktor = std::pow(10.0, stellen);
+    double gerundet = std::round(std::fabs(zahl) * faktor);
+    if (!(gerundet < 1e15))
+        throw Laufzeitfehler(Laufzeitfehler::Überlauf);
+    Text ziffern = std::to_string(static_cast<std::int64_t>(gerundet));
+    auto mindestens = static_cast<std::size_t>(ganze + stellen);
+    if (ziffern.size() < mindestens)
+        ziffern.insert(0, mindestens - ziffern.size(), '0');
+    if (stellen > 0)
+        ziffern.insert(ziffern.size() - static_cast<std::size_t>(stellen), 1,
+                       Gebietsschema.Dezimaltrenner);
+    return zahl < 0 && gerundet > 0 ? "-" + ziffern : ziffern;
+}
+
 void DatumAnhängen(std::string &puffer, Datum datum)
 {
     bool hatTag = std::trunc(datum) != 0;
@@ -286,6 +302,7 @@ void ZahlAnhängen(std::string &puffer, int zahl)
 void ZahlAnhängen(std::string &puffer, Single zahl)
 {
     char ziffern[32];
+    zahl += 0.0F; // zero has no sign
     auto ende =
         std::to_chars(std::begin(ziffern), std::end(ziffern), zahl, std::chars_format::general, 7)
             .ptr;

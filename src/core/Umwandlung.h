@@ -42,6 +42,10 @@ Text ZahlText(int zahl);
 /// Up to seven significant digits and the decimal separator of the locale.
 Text ZahlText(Single zahl);
 
+/// At least `ganze` digits before the decimal separator, filled up with zeros, and `stellen` behind
+/// it; an exact half is rounded away from zero.
+Text FesteStellen(double zahl, int ganze, int stellen);
+
 /// Appends to `puffer` what the function of the same kind above returns; for the files, where
 /// nearly a hundred thousand values are written at once.
 void DatumAnhängen(std::string &puffer, Datum datum);

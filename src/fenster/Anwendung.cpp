@@ -2,6 +2,7 @@
 #include "fenster/Anwendung.h"
 
 #include "fenster/Bausteine.h"
+#include "fenster/Druckdialog.h"
 #include "platform/Meldungen.h"
 
 #include <QLibraryInfo>
@@ -52,6 +53,8 @@ void AnwendungEinrichten(QApplication &anwendung)
         QApplication::installTranslator(deutsch);
     anwendung.setStyleSheet(Stil);
 
+    static DruckerQt drucker(DruckdialogZeigen);
+    Drucker = &drucker;
     Meldungen.Zeigen = [](const Text &text) {
         MeldungZeigen(text, "Altardienst", QMessageBox::Ok, QMessageBox::Ok);
     };

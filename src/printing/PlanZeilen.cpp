@@ -3,6 +3,7 @@
 
 #include "core/Umwandlung.h"
 #include "core/tables.h"
+#include "printing/Druckwerte.h"
 
 #include <array>
 
@@ -67,18 +68,13 @@ std::array<Text, 10> AllgemeinZeilen(int i)
 Text Überschrift(int i)
 {
     if (Messe.Messeart[i] == "Wochendienst")
-        return "Ab " + Messe.Wochentag[i] + " dem " + DatumMitBlank(Messe.Datum[i]) + ", " +
+        return "Ab " + Messe.Wochentag[i] + " dem " + Druckdatum(Messe.Datum[i]) + ", " +
                Messe.Messeart[i];
-    return Messe.Wochentag[i] + ", " + DatumMitBlank(Messe.Datum[i]) + ", " +
+    return Messe.Wochentag[i] + ", " + Druckdatum(Messe.Datum[i]) + ", " +
            StundenUndMinuten(Messe.Uhrzeit[i]) + "Uhr, " + Messe.Messeart[i];
 }
 
 } // namespace
-
-Text DatumMitBlank(Datum datum)
-{
-    return DatumText(datum) + " ";
-}
 
 Text PlanTitel()
 {
@@ -87,8 +83,7 @@ Text PlanTitel()
 
 Text PlanZeitraum()
 {
-    return "vom " + DatumMitBlank(Messe.Datum[0]) + "bis " +
-           DatumMitBlank(Messe.Datum[Messe.Anzahl - 1]);
+    return "vom " + Druckdatum(Messe.Datum[0]) + "bis " + Druckdatum(Messe.Datum[Messe.Anzahl - 1]);
 }
 
 PlanZeilen PlanZeilenDer(int i)

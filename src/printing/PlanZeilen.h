@@ -1,7 +1,6 @@
 // The lines of the full plan for one mass, as the printed plan and the text export show them.
 #pragma once
 
-#include "core/Datum.h"
 #include "core/Text.h"
 
 #include <vector>
@@ -21,8 +20,5 @@ PlanZeilen PlanZeilenDer(int i);
 /// "Messen der Pfarrei ..." and "vom ... bis ...", the titles of the plan.
 Text PlanTitel();
 Text PlanZeitraum();
-
-/// A date as a line of the plan carries it: the short form and one blank.
-Text DatumMitBlank(Datum datum);
 
 } // namespace altardienst

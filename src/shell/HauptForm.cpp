@@ -13,6 +13,7 @@
 #include "planning/MessenBestimmen.h"
 #include "platform/Uhr.h"
 #include "printing/DialogForm.h"
+#include "printing/Plandruck.h"
 
 #include <QAction>
 #include <QApplication>
@@ -265,7 +266,7 @@ void HauptForm::Verbinden()
     schritt(MeßdienerMessen, WunschpartnerBerücksichtigen);
     schritt(Helfend, MessenMitMessehelferBesetzen);
     schritt(AnzMesse, NochNicht);
-    schritt(Messendruck, NochNicht);
+    schritt(Messendruck, PlanDrucken);
 
     connect(Timer1, &QTimer::timeout, this, Abgefangen([this] { Takt(); }));
     Timer1->start(50);

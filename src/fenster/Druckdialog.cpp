@@ -1,0 +1,163 @@
+// The print dialog.
+#include "fenster/Druckdialog.h"
+
+#include "fenster/Bausteine.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPrintDialog>
+#include <QPrinterInfo>
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+/// The PDF file chosen last, proposed again for the next report.
+QString &LetztePdfDatei()
+{
+    static QString datei = QDir::home().filePath("Altardienst.pdf");
+    return datei;
+}
+
+template <class Control> Control *Option(const char *name, const QString &text)
+{
+    return Benannt(new Control(text), name);
+}
+
+} // namespace
+
+DruckdialogForm::DruckdialogForm(const Druckanfrage &anfrage)
+    : Papier(Option<QRadioButton>("Papier", "Drucker:")),
+      Druckername(Benannt(new QComboBox, "Druckername")),
+      Einstellungen(Knopf("Einstellungen", "Einstellungen...")),
+      Kopien(Benannt(new QSpinBox, "Kopien")), Pdf(Option<QRadioButton>("Pdf", "PDF-Datei:")),
+      PdfDatei(Benannt(new QLineEdit(LetztePdfDatei()), "PdfDatei")),
+      Durchsuchen(Knopf("Durchsuchen", "Durchsuchen...")),
+      Ausführung(Benannt(new QGroupBox("Ausführung"), "Ausführung")),
+      ErsteForm(Option<QRadioButton>("ErsteForm", Anzeige(anfrage.ErsteForm))),
+      ZweiteForm(Option<QRadioButton>("ZweiteForm", Anzeige(anfrage.ZweiteForm))),
+      OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen")),
+      papier(std::make_shared<QPrinter>(QPrinter::HighResolution))
+{
+    Benannt(this, "CommonDialog1");
+    setWindowTitle("Drucken");
+    Druckername->setAccessibleName("Drucker");
+    PdfDatei->setAccessibleName("PDF-Datei");
+    Kopien->setRange(1, 99);
+    Druckername->addItems(QPrinterInfo::availablePrinterNames());
+    Druckername->setCurrentText(QPrinterInfo::defaultPrinterName());
+    const bool hatDrucker = Druckername->count() > 0;
+    if (!hatDrucker)
+        Druckername->setPlaceholderText("kein Drucker eingerichtet");
+    Papier->setEnabled(hatDrucker);
+    (hatDrucker ? Papier : Pdf)->setChecked(true);
+    Ausführung->setVisible(anfrage.HatZweiFormen());
+    ErsteForm->setChecked(true);
+    Anordnen();
+    Verbinden();
+    ZielGewählt();
+}
+
+void DruckdialogForm::Anordnen()
+{
+    PdfDatei->setMinimumWidth(320);
+    auto *raster = new QGridLayout;
+    raster->setHorizontalSpacing(10);
+    raster->setVerticalSpacing(10);
+    raster->addWidget(Papier, 0, 0);
+    raster->addWidget(Druckername, 0, 1);
+    raster->addWidget(Einstellungen, 0, 2);
+    raster->addWidget(Beschriftung("KopienText", "Kopien:", Kopien), 1, 0);
+    raster->addWidget(Kopien, 1, 1, Qt::AlignLeft);
+    raster->addWidget(Pdf, 2, 0);
+    raster->addWidget(PdfDatei, 2, 1);
+    raster->addWidget(Durchsuchen, 2, 2);
+
+    auto *formen = new QHBoxLayout(Ausführung);
+    formen->addWidget(ErsteForm);
+    formen->addWidget(ZweiteForm);
+    formen->addStretch();
+
+    auto *unten = new QHBoxLayout;
+    unten->addStretch();
+    for (QPushButton *knopf : {OKButton, CancelButton}) {
+        knopf->setMinimumWidth(110);
+        unten->addWidget(knopf);
+    }
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(16, 16, 16, 16);
+    spalte->setSpacing(14);
+    spalte->addLayout(raster);
+    spalte->addWidget(Ausführung);
+    spalte->addLayout(unten);
+    OKButton->setDefault(true);
+    OKButton->setFocus();
+}
+
+void DruckdialogForm::Verbinden()
+{
+    connect(Papier, &QRadioButton::toggled, this, [this] { ZielGewählt(); });
+    connect(Einstellungen, &QPushButton::clicked, this, [this] { EinstellungenZeigen(); });
+    connect(Durchsuchen, &QPushButton::clicked, this, [this] { PdfSuchen(); });
+    connect(OKButton, &QPushButton::clicked, this, [this] { accept(); });
+    connect(CancelButton, &QPushButton::clicked, this, [this] { reject(); });
+}
+
+void DruckdialogForm::ZielGewählt()
+{
+    const bool aufPapier = Papier->isChecked();
+    for (QWidget *control : std::initializer_list<QWidget *>{Druckername, Einstellungen, Kopien})
+        control->setEnabled(aufPapier);
+    for (QWidget *control : std::initializer_list<QWidget *>{PdfDatei, Durchsuchen})
+        control->setEnabled(!aufPapier);
+}
+
+/// The platform's own dialog, for what this one leaves out (tray, both sides, colour).
+void DruckdialogForm::EinstellungenZeigen()
+{
+    papier->setPrinterName(Druckername->currentText());
+    papier->setCopyCount(Kopien->value());
+    QPrintDialog einstellungen(papier.get(), this);
+    if (einstellungen.exec() != QDialog::Accepted)
+        return;
+    Druckername->setCurrentText(papier->printerName());
+    Kopien->setValue(papier->copyCount());
+}
+
+void DruckdialogForm::PdfSuchen()
+{
+    const QString datei =
+        QFileDialog::getSaveFileName(this, "PDF-Datei", PdfDatei->text(), "PDF-Dateien (*.pdf)");
+    if (!datei.isEmpty())
+        PdfDatei->setText(datei);
+}
+
+Druckauswahl DruckdialogForm::Auswahl() const
+{
+    Druckauswahl auswahl;
+    auswahl.Modus = ZweiteForm->isChecked() ? DruckerDienst::ZweiteForm : 0;
+    if (Pdf->isChecked()) {
+        LetztePdfDatei() = PdfDatei->text();
+        auswahl.Ziel = PdfDrucker(PdfDatei->text());
+    } else {
+        papier->setPrinterName(Druckername->currentText());
+        papier->setCopyCount(Kopien->value());
+        auswahl.Ziel = papier;
+    }
+    return auswahl;
+}
+
+std::optional<Druckauswahl> DruckdialogZeigen(const Druckanfrage &anfrage)
+{
+    DruckdialogForm dialog(anfrage);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.Auswahl();
+}
+
+} // namespace altardienst

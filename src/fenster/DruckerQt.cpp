@@ -1,0 +1,196 @@
+// The printer on Qt.
+#include "fenster/DruckerQt.h"
+
+#include "core/Laufzeitfehler.h"
+#include "fenster/Bausteine.h"
+
+#include <QFile>
+#include <QFontMetricsF>
+#include <QPageLayout>
+#include <QPainter>
+
+namespace altardienst {
+namespace {
+
+constexpr double TwipsProZoll = 1440;
+constexpr Single KurzeSeite = 11906; // A4, 210 mm
+constexpr Single LangeSeite = 16838; // A4, 297 mm
+
+[[noreturn]] void Druckerfehler()
+{
+    throw Laufzeitfehler(Laufzeitfehler::Druckerfehler);
+}
+
+} // namespace
+
+std::shared_ptr<QPrinter> PdfDrucker(const QString &datei)
+{
+    auto drucker = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    drucker->setOutputFormat(QPrinter::PdfFormat);
+    drucker->setOutputFileName(datei);
+    return drucker;
+}
+
+DruckerQt::DruckerQt(Dialogablauf dialog) : dialog(std::move(dialog)) {}
+
+DruckerQt::~DruckerQt()
+{
+    Verwerfen();
+}
+
+std::optional<int> DruckerQt::Dialog(const Druckanfrage &anfrage)
+{
+    const std::optional<Druckauswahl> auswahl = dialog(anfrage);
+    if (!auswahl)
+        return std::nullopt;
+    drucker = auswahl->Ziel;
+    return auswahl->Modus;
+}
+
+void DruckerQt::FontName(const Text &name)
+{
+    schrift.setFamily(Anzeige(name));
+    schriftGeändert = true;
+}
+
+void DruckerQt::FontSize(int punkte)
+{
+    if (punkte < 1 || punkte > 2160)
+        Druckerfehler();
+    schrift.setPointSize(punkte);
+    schriftGeändert = true;
+}
+
+void DruckerQt::FontBold(bool an)
+{
+    schrift.setBold(an);
+    schriftGeändert = true;
+}
+
+void DruckerQt::FontItalic(bool an)
+{
+    schrift.setItalic(an);
+    schriftGeändert = true;
+}
+
+void DruckerQt::FontStrikethru(bool an)
+{
+    schrift.setStrikeOut(an);
+    schriftGeändert = true;
+}
+
+void DruckerQt::FontUnderline(bool an)
+{
+    schrift.setUnderline(an);
+    schriftGeändert = true;
+}
+
+void DruckerQt::CurrentX(Single neu)
+{
+    x = neu;
+}
+
+void DruckerQt::CurrentY(Single neu)
+{
+    y = neu;
+}
+
+Single DruckerQt::CurrentY() const
+{
+    return y;
+}
+
+Single DruckerQt::Height() const
+{
+    return richtung == Querformat ? KurzeSeite : LangeSeite;
+}
+
+void DruckerQt::Orientation(int neu)
+{
+    if (neu != Hochformat && neu != Querformat)
+        Druckerfehler();
+    richtung = neu;
+}
+
+void DruckerQt::Beginnen()
+{
+    if (!drucker)
+        Druckerfehler();
+    drucker->setDocName("Altardienst");
+    drucker->setCreator("Altardienst");
+    drucker->setPageSize(QPageSize(QPageSize::A4));
+    drucker->setPageOrientation(richtung == Querformat ? QPageLayout::Landscape
+                                                       : QPageLayout::Portrait);
+    drucker->setFullPage(true); // coordinates count from the paper's edge
+    stift = std::make_unique<QPainter>();
+    if (!stift->begin(drucker.get())) {
+        stift.reset();
+        Druckerfehler();
+    }
+    schriftGeändert = true;
+}
+
+void DruckerQt::SchriftSetzen()
+{
+    if (!schriftGeändert)
+        return;
+    stift->setFont(schrift);
+    const QFontMetricsF maße(schrift, drucker.get());
+    const double twips = TwipsProZoll / drucker->resolution();
+    zeilenhöhe = maße.lineSpacing() * twips;
+    oberlänge = maße.ascent() * twips;
+    schriftGeändert = false;
+}
+
+void DruckerQt::Print(const Text &text)
+{
+    if (!stift)
+        Beginnen();
+    if (neueSeite && !drucker->newPage())
+        Druckerfehler();
+    neueSeite = false;
+    SchriftSetzen();
+    if (!text.empty()) {
+        const double punkte = drucker->resolution() / TwipsProZoll;
+        stift->drawText(QPointF(x * punkte, (y + oberlänge) * punkte), Anzeige(text));
+    }
+    if (drucker->printerState() == QPrinter::Error)
+        Druckerfehler();
+    y += static_cast<Single>(zeilenhöhe);
+    x = 0;
+}
+
+void DruckerQt::NewPage()
+{
+    neueSeite = stift != nullptr;
+    x = 0;
+    y = 0;
+}
+
+void DruckerQt::EndDoc()
+{
+    if (stift && !stift->end())
+        Druckerfehler();
+    Vergessen();
+}
+
+void DruckerQt::Verwerfen()
+{
+    if (stift) {
+        drucker->abort();
+        stift->end();
+        QFile::remove(drucker->outputFileName()); // a PDF that was begun
+    }
+    Vergessen();
+}
+
+void DruckerQt::Vergessen()
+{
+    stift.reset();
+    drucker.reset();
+    neueSeite = false;
+    x = 0;
+    y = 0;
+}
+
+} // namespace altardienst

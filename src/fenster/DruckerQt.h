@@ -1,0 +1,73 @@
+// The printer on Qt: paper through the system's printers, or a PDF file.
+#pragma once
+
+#include "platform/Drucker.h"
+
+#include <QFont>
+#include <QPrinter>
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+class QPainter;
+
+namespace altardienst {
+
+/// What the print dialog gives: the printer with all its settings, and the layout.
+struct Druckauswahl {
+    int Modus = 0; // 1: the second layout
+    std::shared_ptr<QPrinter> Ziel;
+};
+
+/// A printer that writes a PDF file.
+std::shared_ptr<QPrinter> PdfDrucker(const QString &datei);
+
+/// A4, measured from the paper's edge. The document begins with the first line that is written, so
+/// a report without output leaves no file.
+class DruckerQt : public DruckerDienst {
+  public:
+    /// What stands before each report; nothing if it was cancelled.
+    using Dialogablauf = std::function<std::optional<Druckauswahl>(const Druckanfrage &)>;
+
+    explicit DruckerQt(Dialogablauf dialog);
+    ~DruckerQt() override;
+
+    std::optional<int> Dialog(const Druckanfrage &anfrage) override;
+    void FontName(const Text &name) override;
+    void FontSize(int punkte) override;
+    void FontBold(bool an) override;
+    void FontItalic(bool an) override;
+    void FontStrikethru(bool an) override;
+    void FontUnderline(bool an) override;
+    void CurrentX(Single x) override;
+    void CurrentY(Single y) override;
+    Single CurrentY() const override;
+    Single Height() const override;
+    void Orientation(int richtung) override;
+    void Print(const Text &text) override;
+    void NewPage() override;
+    void EndDoc() override;
+    void Verwerfen() override;
+
+  private:
+    void Beginnen();
+    void SchriftSetzen();
+    void Vergessen();
+
+    Dialogablauf dialog;
+    int richtung = Hochformat;
+    QFont schrift;
+    bool schriftGeändert = true;
+    Single x = 0;
+    Single y = 0;
+    double zeilenhöhe = 0;  // twips, of the font in use
+    double oberlänge = 0;   // twips from the top of a line to its base
+    bool neueSeite = false; // a page turned but not yet written on
+
+    std::shared_ptr<QPrinter> drucker;
+    std::unique_ptr<QPainter> stift;
+};
+
+} // namespace altardienst

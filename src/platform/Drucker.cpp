@@ -1,0 +1,36 @@
+// The printer in use.
+#include "platform/Drucker.h"
+
+#include "core/Laufzeitfehler.h"
+
+namespace altardienst {
+namespace {
+
+/// No printer at all.
+class KeinDrucker : public DruckerDienst {
+  public:
+    std::optional<int> Dialog(const Druckanfrage &) override { return std::nullopt; }
+    void FontName(const Text &) override {}
+    void FontSize(int) override {}
+    void FontBold(bool) override {}
+    void FontItalic(bool) override {}
+    void FontStrikethru(bool) override {}
+    void FontUnderline(bool) override {}
+    void CurrentX(Single) override {}
+    void CurrentY(Single) override {}
+    Single CurrentY() const override { return 0; }
+    Single Height() const override { return 0; }
+    void Orientation(int) override {}
+    void Print(const Text &) override { throw Laufzeitfehler(Laufzeitfehler::Druckerfehler); }
+    void NewPage() override {}
+    void EndDoc() override {}
+    void Verwerfen() override {}
+};
+
+KeinDrucker keiner;
+
+} // namespace
+
+DruckerDienst *Drucker = &keiner;
+
+} // namespace altardienst

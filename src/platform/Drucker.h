@@ -1,0 +1,74 @@
+// The printer: a text cursor on a page, and the dialog that stands before each report.
+#pragma once
+
+#include "core/Int16.h"
+#include "core/Text.h"
+
+#include <optional>
+
+namespace altardienst {
+
+/// What a report asks the print dialog for: the names of its two layouts, if it has two.
+struct Druckanfrage {
+    Text ErsteForm;
+    Text ZweiteForm;
+
+    bool HatZweiFormen() const { return !ZweiteForm.empty(); }
+};
+
+/// All lengths in twips (1440 to the inch) from the upper left corner of the paper. A document
+/// begins with the first page operation and ends with `EndDoc`. Every operation may raise failure
+/// 482 (Druckerfehler).
+class DruckerDienst {
+  public:
+    static constexpr int Hochformat = 1;
+    static constexpr int Querformat = 2;
+
+    /// The mode of a report that the dialog of a report with two layouts gives for the second one.
+    static constexpr int ZweiteForm = 1;
+
+    DruckerDienst() = default;
+    DruckerDienst(const DruckerDienst &) = delete;
+    DruckerDienst &operator=(const DruckerDienst &) = delete;
+    virtual ~DruckerDienst() = default;
+
+    /// The print dialog; its numeric mode, or nothing if it was cancelled.
+    virtual std::optional<int> Dialog(const Druckanfrage &anfrage) = 0;
+
+    // Attributes of the font in use. A size outside 1 to 2160 points is a printer error; a font
+    // that is not there is replaced by a similar one.
+    virtual void FontName(const Text &name) = 0;
+    virtual void FontSize(int punkte) = 0;
+    virtual void FontBold(bool an) = 0;
+    virtual void FontItalic(bool an) = 0;
+    virtual void FontStrikethru(bool an) = 0;
+    virtual void FontUnderline(bool an) = 0;
+
+    // The cursor, at the upper left corner of the next character.
+    virtual void CurrentX(Single x) = 0;
+    virtual void CurrentY(Single y) = 0;
+    virtual Single CurrentY() const = 0;
+
+    /// The height of the page as it lies.
+    virtual Single Height() const = 0;
+
+    /// 1 portrait, 2 landscape; anything else is a printer error. Kept from report to report.
+    virtual void Orientation(int richtung) = 0;
+
+    /// Writes the text at the cursor and ends the line: the cursor goes down by the height of a
+    /// line and to the left edge of the paper.
+    virtual void Print(const Text &text) = 0;
+
+    /// A page on which nothing was written gives no empty sheet.
+    virtual void NewPage() = 0;
+    virtual void EndDoc() = 0;
+
+    /// Gives up a document that has not ended; nothing of it comes out.
+    virtual void Verwerfen() = 0;
+};
+
+/// The printer in use. The program puts in a real one when it starts; without one every dialog is
+/// as if cancelled.
+extern DruckerDienst *Drucker;
+
+} // namespace altardienst

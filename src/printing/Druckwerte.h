@@ -1,0 +1,19 @@
+// Values as the items of a printed line.
+#pragma once
+
+#include "core/Datum.h"
+#include "core/Int16.h"
+#include "core/Text.h"
+
+namespace altardienst {
+
+/// A number, with a place for its sign before it and a blank behind it.
+Text Druckzahl(int zahl);
+
+/// A date in the short form with a blank behind it.
+Text Druckdatum(Datum datum);
+
+/// A measure in millimetres with three digits before the comma and one behind it.
+Text Druckmaß(Single mm);
+
+} // namespace altardienst

@@ -1,0 +1,106 @@
+// Address labels on a sheet of the chosen format.
+#include "printing/Etikettendruck.h"
+
+#include "core/tables.h"
+#include "printing/Druckrahmen.h"
+#include "printing/Druckwerte.h"
+
+namespace altardienst {
+namespace {
+
+template <class Tabelle> Anschrift AnschriftAus(Tabelle &t, int i)
+{
+    return {t.Vorname[i] + " " + t.Nachname[i], t.Straße[i], Druckzahl(t.PLZ[i]) + " " + t.Ort[i]};
+}
+
+void EtikettDrucken(const Anschrift &anschrift, int r, int c)
+{
+    const int format = Etikett.Anzahl;
+    Drucker->CurrentY((r * Etikett.Höhe[format] + Etikett.RandOU[format]) * Konfig.YSkala);
+    const Single x = ((Etikett.Steg[format] + Etikett.Breite[format]) * static_cast<Single>(c) +
+                      Etikett.RandLR[format]) *
+                     Konfig.XSkala;
+    for (const Text &zeile : anschrift) {
+        Drucker->CurrentX(x);
+        Drucker->Print(zeile);
+    }
+}
+
+/// Walks the sheets cell by cell until the people are used up, and leaves in `r` and `c` the cell
+/// at which it stopped.
+void BögenFüllen(const Etikettenleute &leute, Etikettenplatz &anfang, int &r, int &c)
+{
+    const int reihen = Etikett.Reihen[Etikett.Anzahl];
+    const int spalten = Etikett.Spalten[Etikett.Anzahl];
+    int person = 0;
+    while (true) {
+        for (r = 0; r < reihen; ++r) {
+            for (c = 0; c < spalten; ++c) {
+                // The start position holds for the first label only.
+                if (anfang.Reihe - 1 > 0) {
+                    r = anfang.Reihe - 1;
+                    anfang.Reihe = 1;
+                }
+                if (anfang.Spalte - 1 > 0) {
+                    c = anfang.Spalte - 1;
+                    anfang.Spalte = 1;
+                }
+                if (leute.Gehört)
+                    while (person < leute.Anzahl && !leute.Gehört(person))
+                        ++person;
+                if (person >= leute.Anzahl)
+                    return;
+                EtikettDrucken(leute.Anschrift(person), r, c);
+                if (person == leute.Anzahl - 1)
+                    return;
+                ++person;
+            }
+        }
+        Drucker->NewPage();
+    }
+}
+
+} // namespace
+
+Etikettenleute EtikettenAllerMeßdiener()
+{
+    return {Meßdiener.Anzahl, nullptr, [](int i) { return AnschriftAus(Meßdiener, i); }};
+}
+
+Etikettenleute EtikettenDerGruppe(const Text &gruppe)
+{
+    Etikettenleute leute = EtikettenAllerMeßdiener();
+    leute.Gehört = [gruppe](int i) { return Meßdiener.Gruppe[i] == gruppe; };
+    return leute;
+}
+
+Etikettenleute EtikettenAllerHelfer()
+{
+    return {Helfer.Anzahl, nullptr, [](int i) { return AnschriftAus(Helfer, i); }};
+}
+
+void EtikettenDrucken(const Etikettenleute &leute, Etikettenplatz &platz)
+{
+    BerichtDrucken({}, [&](int) {
+        if (Etikett.Reihen[Etikett.Anzahl] < 1 || Etikett.Spalten[Etikett.Anzahl] < 1)
+            throw Laufzeitfehler(Laufzeitfehler::Druckerfehler); // would turn pages for ever
+        Grundschrift();
+        int r = 0;
+        int c = 0;
+        BögenFüllen(leute, platz, r, c);
+        platz.Reihe = r + 1;
+        platz.Spalte = c + 2;
+        Drucker->EndDoc();
+    });
+}
+
+void PlatzBegrenzen(Etikettenplatz &platz)
+{
+    const int format = Etikett.Anzahl;
+    if (platz.Reihe > Etikett.Reihen[format])
+        platz.Reihe = Etikett.Reihen[format];
+    if (platz.Spalte > Etikett.Spalten[format])
+        platz.Spalte = Etikett.Spalten[format];
+}
+
+} // namespace altardienst

@@ -1,0 +1,22 @@
+// The lists on paper: people, wish partners, standard masses, label formats.
+#pragma once
+
+#include "core/Text.h"
+
+namespace altardienst {
+
+// The people lists print in the orientation of `Konfig.DiffJahr`. In their second layout each
+// person takes one compact line, which `Konfig.Flags6` composes.
+void AlleMeßdienerDrucken();
+void MeßdienergruppeDrucken(const Text &gruppe);
+void AlleHelferDrucken();
+
+void WunschpartnerlisteDrucken();
+
+/// Records 0 to 10, whatever the table holds.
+void StandardmessenDrucken();
+
+/// Records 0 to 20.
+void EtikettengrößenDrucken();
+
+} // namespace altardienst

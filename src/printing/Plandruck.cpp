@@ -1,0 +1,73 @@
+// The printed plan.
+#include "printing/Plandruck.h"
+
+#include "assignment/Dienste.h"
+#include "core/Umwandlung.h"
+#include "core/tables.h"
+#include "printing/Druckrahmen.h"
+#include "printing/PlanZeilen.h"
+
+namespace altardienst {
+namespace {
+
+constexpr int TitelZeilen = 5;  // lines that the title counts for
+constexpr int MesseNachher = 6; // lines that a mass needs beside its servers
+
+void VollerPlan(int i, const PlanZeilen &plan, Int16 &Zeilen)
+{
+    Drucker->FontBold(false);
+    // Two persons to a line, an odd one on its own.
+    const int diener = Messe.Dienerzahl[i];
+    Zeilen = GerundetInt16(diener / 2.0 + Zeilen + diener % 2 + 3);
+    for (const Text &zeile : plan.Diener)
+        ZeileDrucken(zeile);
+    for (const Text &zeile : plan.Helfer)
+        ZeileDrucken(zeile);
+    for (auto *zahl : {&Messe.LektorZahl, &Messe.KommZahl, &Messe.KantorZahl, &Messe.KollektZahl})
+        if ((*zahl)[i] > 0)
+            ++Zeilen;
+    Leerzeile();
+    SeitePrüfen(Zeilen, Messe.Dienerzahl[i + 1] / 2.0 + MesseNachher);
+}
+
+void Helferformular(int i, Int16 &Zeilen)
+{
+    Leerzeile();
+    Drucker->FontBold(false);
+    Zeilen += 2;
+    if (Messe.Messeart[i] != "Wochendienst" && IstJa(Konfig.Flags11, 2)) {
+        for (const char *dienst : {"Lektor: ", "Kommunionhelfer: ", "Kollektant: ", "Kantor: "})
+            ZeileDrucken(dienst + Text("__________________________________"));
+        Leerzeile();
+        Zeilen += 4;
+    }
+    SeitePrüfen(Zeilen, MesseNachher);
+}
+
+} // namespace
+
+void PlanDrucken()
+{
+    DiensteVerteilen();
+    BerichtDrucken({"Plan mit Namen", "Formular für die Helfer"}, [](int modus) {
+        Int16 Zeilen;
+        for (int i = 0; i < Messe.Anzahl; ++i) {
+            if (i == 0) {
+                BerichtEröffnen({PlanTitel(), "", PlanZeitraum()});
+                Zeilen = TitelZeilen;
+            }
+            Drucker->FontBold(true);
+            const PlanZeilen plan = PlanZeilenDer(i);
+            ZeileDrucken(plan.Überschrift);
+            if (modus == DruckerDienst::ZweiteForm)
+                Helferformular(i, Zeilen);
+            else
+                VollerPlan(i, plan, Zeilen);
+        }
+        if (modus != DruckerDienst::ZweiteForm && Messe.Anzahl > 0)
+            Drucker->NewPage();
+        Drucker->EndDoc();
+    });
+}
+
+} // namespace altardienst
