@@ -2,6 +2,7 @@
 // and reads.
 #pragma once
 
+#include "core/Laufzeitfehler.h"
 #include "core/tables.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
@@ -16,6 +17,17 @@
 #include <vector>
 
 namespace altardienst {
+
+/// The number of the run-time failure that `f` ends with, 0 if it goes through.
+int NummerDesFehlers(auto f)
+{
+    try {
+        f();
+    } catch (const Laufzeitfehler &fehler) {
+        return fehler.Nummer();
+    }
+    return 0;
+}
 
 struct Frage {
     Text Wortlaut;

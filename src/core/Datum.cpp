@@ -3,6 +3,7 @@
 
 #include "core/Laufzeitfehler.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cmath>
@@ -20,9 +21,12 @@ constexpr double SpätesterTag = (sys_days(year(9999) / December / 31) - TagNull
 
 Datum DatumAus(Kalendertag tag)
 {
+    // The types of the calendar hold a month and a day in one byte: 257 would pass as 1.
+    auto inGrenzen = [](int wert, int von, int bis) { return wert >= von && wert <= bis; };
     year_month_day ymd(year(tag.Jahr), month(static_cast<unsigned>(tag.Monat)),
                        day(static_cast<unsigned>(tag.Tag)));
-    if (tag.Jahr < 100 || tag.Jahr > 9999 || !ymd.ok())
+    if (!inGrenzen(tag.Jahr, 100, 9999) || !inGrenzen(tag.Monat, 1, 12) ||
+        !inGrenzen(tag.Tag, 1, 31) || !ymd.ok())
         throw Laufzeitfehler(Laufzeitfehler::TypenUnverträglich);
     return (sys_days(ymd) - TagNull).count();
 }
@@ -54,6 +58,26 @@ Text WochentagName(Datum datum)
     static const std::array<const char *, 7> Namen = {
         "Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"};
     return Namen[static_cast<std::size_t>(Wochentag(datum) - 1)];
+}
+
+Text WochentagNameGefüllt(Datum datum)
+{
+    Text name = WochentagName(datum);
+    name.resize(10, ' ');
+    return name;
+}
+
+Datum MonateWeiter(Datum datum, int monate)
+{
+    const Kalendertag tag = KalendertagVon(datum);
+    const int monatszahl = tag.Jahr * 12 + tag.Monat - 1 + monate;
+    const year_month monat =
+        year(monatszahl / 12) / month(static_cast<unsigned>(monatszahl % 12 + 1));
+    if (monatszahl < 100 * 12 || monatszahl >= 10000 * 12)
+        throw Laufzeitfehler(Laufzeitfehler::Überlauf);
+    const year_month_day letzter = monat / last;
+    const int neuerTag = std::min(tag.Tag, static_cast<int>(unsigned(letzter.day())));
+    return DatumAus({int(monat.year()), int(unsigned(monat.month())), neuerTag});
 }
 
 } // namespace altardienst

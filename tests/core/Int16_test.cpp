@@ -1,20 +1,10 @@
 // The checked 16-bit whole number.
 #include "core/Int16.h"
 
-#include <gtest/gtest.h>
+#include "Prüfstand.h"
 
 namespace altardienst {
 namespace {
-
-int NummerDesFehlers(auto f)
-{
-    try {
-        f();
-    } catch (const Laufzeitfehler &fehler) {
-        return fehler.Nummer();
-    }
-    return 0;
-}
 
 TEST(Int16, HältSeinenBereich)
 {
@@ -33,6 +23,22 @@ TEST(Int16, RechnungenLaufenÜber)
     EXPECT_EQ(NummerDesFehlers([&] { return Int16(-32768) - 1; }), 6);
     EXPECT_EQ(NummerDesFehlers([&] { ++groß; }), 6);
     EXPECT_EQ(groß - 1, 32766);
+}
+
+TEST(Int16, IstAnfangsNull)
+{
+    EXPECT_EQ(Int16(), 0);
+}
+
+TEST(Int16, VerändertSichNichtBeimÜberlauf)
+{
+    Int16 wert = 32767;
+    EXPECT_EQ(NummerDesFehlers([&] { wert += 1; }), 6);
+    EXPECT_EQ(wert, 32767);
+    wert = -32768;
+    EXPECT_EQ(NummerDesFehlers([&] { --wert; }), 6);
+    EXPECT_EQ(NummerDesFehlers([&] { wert -= 1; }), 6);
+    EXPECT_EQ(wert, -32768);
 }
 
 TEST(Int16, RechnetMitKommazahlenOhneGrenze)
