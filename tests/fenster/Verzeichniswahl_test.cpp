@@ -1,0 +1,163 @@
+// The directory picker: drives, directories, files.
+#include "fenster/Verzeichniswahl.h"
+
+#include "fenster/Fensterstand.h"
+
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The disk holds the directories Texte and Bilder and two files.
+class VerzeichniswahlTest : public Fensterstand {
+  protected:
+    VerzeichniswahlTest()
+    {
+        fs::create_directories(Festplatte / "Texte" / "Größen");
+        fs::create_directories(Festplatte / "Bilder");
+        DateiSchreiben(Festplatte / "b.txt", "");
+        DateiSchreiben(Festplatte / "Äpfel.txt", "");
+        DateiSchreiben(Diskette / "alt.txt", "");
+    }
+
+    Verzeichniswahl &Öffnen()
+    {
+        wahl = std::make_unique<Verzeichniswahl>("Drive1", "Dir1", "Dateien");
+        auto *spalte = new QVBoxLayout(&fenster);
+        for (QWidget *liste :
+             std::initializer_list<QWidget *>{wahl->Laufwerk, wahl->Verzeichnis, wahl->Dateien})
+            spalte->addWidget(liste);
+        Zeigen(&fenster);
+        wahl->Öffnen(Festplatte);
+        wahl->BeiWechsel = [this] { ++wechsel; };
+        return *wahl;
+    }
+
+    static std::vector<Text> Zeilen(const QListWidget *liste)
+    {
+        std::vector<Text> zeilen;
+        for (int i = 0; i < liste->count(); ++i)
+            zeilen.push_back(liste->item(i)->text().toStdString());
+        return zeilen;
+    }
+
+    static void ZeileWählen(QListWidget *liste, int zeile)
+    {
+        liste->setFocus();
+        liste->setCurrentRow(zeile);
+        QTest::keyClick(liste, Qt::Key_Return);
+    }
+
+    /// The next entry of the drive list, by key as a user would.
+    void NächstesLaufwerk() const
+    {
+        FokusAuf(wahl->Laufwerk);
+        QTest::keyClick(wahl->Laufwerk, Qt::Key_Down);
+    }
+
+    QWidget fenster;
+    std::unique_ptr<Verzeichniswahl> wahl;
+    int wechsel = 0;
+};
+
+using Liste = std::vector<Text>;
+
+TEST_F(VerzeichniswahlTest, ZeigtLaufwerkeVerzeichnisseUndDateien)
+{
+    Verzeichniswahl &w = Öffnen();
+    EXPECT_EQ(w.Laufwerk->objectName(), "Drive1");
+    EXPECT_EQ(w.Verzeichnis->objectName(), "Dir1");
+    EXPECT_EQ(w.Dateien->objectName(), "Dateien");
+    ASSERT_EQ(w.Laufwerk->count(), 2);
+    EXPECT_EQ(w.Laufwerk->itemText(0), "Festplatte");
+    EXPECT_EQ(w.Laufwerk->itemText(1), "Diskette");
+    EXPECT_EQ(Zeilen(w.Verzeichnis), (Liste{"..", "Bilder", "Texte"}));
+    EXPECT_EQ(Zeilen(w.Dateien), (Liste{"b.txt", "Äpfel.txt"}));
+    EXPECT_EQ(w.Pfad(), Festplatte);
+    EXPECT_EQ(Stumme(&fenster), Liste{});
+}
+
+TEST_F(VerzeichniswahlTest, EingabetasteÖffnetEinVerzeichnisUndDieDateienFolgen)
+{
+    Verzeichniswahl &w = Öffnen();
+    ZeileWählen(w.Verzeichnis, 2);
+    EXPECT_EQ(w.Pfad(), Festplatte / "Texte");
+    EXPECT_EQ(Zeilen(w.Verzeichnis), (Liste{"..", "Größen"}));
+    EXPECT_EQ(Zeilen(w.Dateien), Liste{});
+    EXPECT_EQ(wechsel, 1);
+    ZeileWählen(w.Verzeichnis, 1);
+    EXPECT_EQ(w.Pfad(), Festplatte / "Texte" / "Größen");
+    ZeileWählen(w.Verzeichnis, 0);
+    EXPECT_EQ(w.Pfad(), Festplatte / "Texte");
+    EXPECT_EQ(wechsel, 3);
+}
+
+TEST_F(VerzeichniswahlTest, DoppelklickÖffnetEinVerzeichnis)
+{
+    Verzeichniswahl &w = Öffnen();
+    const QPoint stelle = w.Verzeichnis->visualItemRect(w.Verzeichnis->item(1)).center();
+    QTest::mouseClick(w.Verzeichnis->viewport(), Qt::LeftButton, {}, stelle);
+    EXPECT_EQ(w.Pfad(), Festplatte);
+    QTest::mouseDClick(w.Verzeichnis->viewport(), Qt::LeftButton, {}, stelle);
+    EXPECT_EQ(w.Pfad(), Festplatte / "Bilder");
+}
+
+TEST_F(VerzeichniswahlTest, DieWurzelHatKeinDarüber)
+{
+    Verzeichniswahl &w = Öffnen();
+    Laufwerke.Auflisten = [](const fs::path &) { return Verzeichnisinhalt{{"home"}, {}}; };
+    w.Öffnen("/");
+    EXPECT_EQ(Zeilen(w.Verzeichnis), Liste{"home"});
+    w.Öffnen("/home/");
+    EXPECT_EQ(w.Pfad(), "/home");
+    ZeileWählen(w.Verzeichnis, 0);
+    EXPECT_EQ(w.Pfad(), "/");
+}
+
+TEST_F(VerzeichniswahlTest, EinLaufwerkFührtZuSeinerWurzel)
+{
+    Verzeichniswahl &w = Öffnen();
+    NächstesLaufwerk();
+    EXPECT_EQ(w.Pfad(), Diskette);
+    EXPECT_EQ(Zeilen(w.Dateien), Liste{"alt.txt"});
+    EXPECT_EQ(wechsel, 1);
+}
+
+TEST_F(VerzeichniswahlTest, EinUnlesbaresLaufwerkLässtDieListenStehen)
+{
+    Verzeichniswahl &w = Öffnen();
+    fs::remove_all(Diskette);
+    NächstesLaufwerk();
+    EXPECT_EQ(w.Pfad(), Festplatte);
+    EXPECT_EQ(Zeilen(w.Verzeichnis), (Liste{"..", "Bilder", "Texte"}));
+    EXPECT_EQ(Zeilen(w.Dateien), (Liste{"b.txt", "Äpfel.txt"}));
+    EXPECT_EQ(wechsel, 0);
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(VerzeichniswahlTest, EinVerschwundenesVerzeichnisLässtDieListenStehen)
+{
+    Verzeichniswahl &w = Öffnen();
+    fs::remove_all(Festplatte / "Texte");
+    ZeileWählen(w.Verzeichnis, 2);
+    EXPECT_EQ(w.Pfad(), Festplatte);
+    EXPECT_EQ(w.Verzeichnis->count(), 3);
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    EXPECT_EQ(NummerDesFehlers([&] { w.Öffnen(Festplatte / "Texte"); }), 76);
+}
+
+TEST_F(VerzeichniswahlTest, AuffrischenLiestNeuUndMeldetKeinenWechsel)
+{
+    Verzeichniswahl &w = Öffnen();
+    DateiSchreiben(Festplatte / "neu.txt", "");
+    fs::create_directories(Festplatte / "Neu");
+    w.Auffrischen();
+    EXPECT_EQ(Zeilen(w.Verzeichnis), (Liste{"..", "Bilder", "Neu", "Texte"}));
+    EXPECT_EQ(Zeilen(w.Dateien), (Liste{"b.txt", "neu.txt", "Äpfel.txt"}));
+    EXPECT_EQ(wechsel, 0);
+}
+
+} // namespace
+} // namespace altardienst
