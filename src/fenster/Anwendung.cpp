@@ -15,6 +15,7 @@ namespace altardienst {
 namespace {
 
 QPointer<QWidget> Hauptfenster;
+QPointer<QWidget> FokusZuvor; // in the main window, before a dialog disabled it
 
 /// Command buttons: light green with the focus, light grey without.
 constexpr const char *Stil = R"(
@@ -44,8 +45,8 @@ QMessageBox::StandardButton MeldungZeigen(const Text &text, const Text &titel,
 
 void AnwendungEinrichten(QApplication &anwendung)
 {
+    // Without a display name, which would be added to the title of every window.
     QApplication::setApplicationName("Altardienst");
-    QApplication::setApplicationDisplayName("Altardienst");
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     auto *deutsch = new QTranslator(&anwendung);
@@ -73,6 +74,8 @@ void DialogÖffnen(QWidget *dialog)
 {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     if (Hauptfenster) {
+        if (Hauptfenster->isEnabled())
+            FokusZuvor = Hauptfenster->focusWidget();
         Hauptfenster->setEnabled(false);
         Hauptfenster->showMinimized();
     }
@@ -87,6 +90,9 @@ void HauptfensterZurück()
     Hauptfenster->setEnabled(true);
     Hauptfenster->showMaximized();
     Hauptfenster->activateWindow();
+    if (FokusZuvor)
+        FokusZuvor->setFocus();
+    FokusZuvor.clear();
 }
 
 void AlleFormenEntladen()

@@ -16,7 +16,8 @@ void HauptfensterSetzen(QWidget *haupt);
 /// Disables and minimises the main window and shows the dialog, which deletes itself when closed.
 void DialogÖffnen(QWidget *dialog);
 
-/// What a dialog does last: enables the main window and sets it to maximised.
+/// What a dialog does last: enables the main window, sets it to maximised and gives the focus back
+/// to the control that had it.
 void HauptfensterZurück();
 
 /// Closes and deletes every window of the program without asking any of them.
