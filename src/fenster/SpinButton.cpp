@@ -22,10 +22,11 @@ SpinButton::SpinButton(const char *name, const char *gesprochen)
     reihe->setSpacing(1);
     auto pfeil = [&](const char *kind, Qt::ArrowType richtung, std::function<void()> &handler) {
         auto *knopf = Benannt(new QToolButton, kind);
+        knopf->setAccessibleName(kind);
         knopf->setArrowType(richtung);
         knopf->setAutoRepeat(true);
-        knopf->setFocusPolicy(
-            Qt::NoFocus); // the arrows belong to the control, which takes the focus
+        // The arrows belong to the control, which takes the focus.
+        knopf->setFocusPolicy(Qt::NoFocus);
         connect(knopf, &QToolButton::clicked, this, [this, &handler] {
             setFocus(Qt::MouseFocusReason);
             handler();
