@@ -192,7 +192,7 @@ void StartForm::TagileinGeändert()
     constexpr int WenigsteTage = 7;
     constexpr int MeisteTage = 180;
     Neuberechnen();
-    Int16 tage = Int16Lesen(TextVon(Tagilein));
+    const Single tage = SingleLesen(TextVon(Tagilein)); // any number, however large
     if (tage < WenigsteTage)
         Tagilein->setText(Anzeige(ZahlText(WenigsteTage)));
     else if (tage > MeisteTage)
