@@ -32,7 +32,9 @@ DialogForm::DialogForm()
 void DialogForm::Anordnen()
 {
     Dateiname->setAccessibleName("Dateiname ohne Endung");
+    Dateiname->setPlaceholderText("Datei"); // the name that an empty box stands for
     VZ->setAccessibleName("Name des neuen Verzeichnisses");
+    VZ->setPlaceholderText("neues Verzeichnis");
     Datei->setTextInteractionFlags(Qt::TextSelectableByMouse);
     Datei->setWordWrap(true);
 
