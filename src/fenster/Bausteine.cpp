@@ -47,12 +47,15 @@ Text TextVon(const QLineEdit *feld)
 
 QPushButton *Knopf(const char *name, const char *beschriftung)
 {
-    return Benannt(new QPushButton(QString::fromUtf8(beschriftung)), name);
+    auto *knopf = Benannt(new QPushButton(QString::fromUtf8(beschriftung)), name);
+    knopf->setAutoDefault(true); // Enter presses the button that has the focus
+    return knopf;
 }
 
 QLabel *Beschriftung(const char *name, const char *text, QWidget *zu)
 {
     auto *label = Benannt(new QLabel(QString::fromUtf8(text)), name);
+    label->setTextFormat(Qt::PlainText);
     if (zu) {
         label->setBuddy(zu);
         zu->setAccessibleName(QString::fromUtf8(text).remove(':').trimmed());
@@ -67,9 +70,11 @@ QLineEdit *Textfeld(const char *name)
         QString darstellbar = Anzeige(InAnsiDarstellbar(text.toStdString()));
         if (darstellbar == text)
             return;
-        int stelle = feld->cursorPosition();
+        // One "?" may stand for a character that Qt counts as two.
+        const QString davor = text.left(feld->cursorPosition());
+        const auto stelle = Anzeige(InAnsiDarstellbar(davor.toStdString())).size();
         feld->setText(darstellbar);
-        feld->setCursorPosition(stelle);
+        feld->setCursorPosition(static_cast<int>(stelle));
     });
     return feld;
 }
@@ -94,8 +99,9 @@ void BeiMausdruck(QPushButton *knopf, std::function<void()> handler)
 {
     new Ereignisfilter(
         knopf,
-        [](QEvent *ereignis) {
-            return (ereignis->type() == QEvent::MouseButtonPress ||
+        [knopf](QEvent *ereignis) {
+            return knopf->isEnabled() &&
+                   (ereignis->type() == QEvent::MouseButtonPress ||
                     ereignis->type() == QEvent::MouseButtonDblClick) &&
                    static_cast<QMouseEvent *>(ereignis)->button() == Qt::LeftButton;
         },
