@@ -4,7 +4,8 @@
 #include "core/Spalte.h"
 #include "core/Text.h"
 
-#include <compare>
+#include <algorithm>
+#include <numeric>
 #include <utility>
 #include <vector>
 
@@ -25,33 +26,49 @@ struct Sortierbereich {
     }
 };
 
-/// One place of a table during a sort: the key that stands there now, and the record it came from.
-template <class Schlüssel> struct Sortierplatz {
-    Schlüssel Key;
+/// One place of a table during a sort: the record that stands there now, and the rank of its key.
+struct Sortierplatz {
+    int Rang;
     int Quelle;
 };
 
-/// Exchanges neighbours out of order (`Key` of the first greater), as often as the range says.
-template <class Schlüssel>
-void NachbarnTauschen(std::vector<Sortierplatz<Schlüssel>> &plätze, const Sortierbereich &bereich)
+/// The places before the sort. Equal keys share a rank, so comparing ranks is comparing keys.
+template <class Schlüssel> std::vector<Sortierplatz> Plätze(const std::vector<Schlüssel> &schlüssel)
 {
-    auto hilfssatz = static_cast<std::size_t>(bereich.Hilfssatz);
+    auto von = [&](int i) -> const Schlüssel & { return schlüssel[static_cast<std::size_t>(i)]; };
+    std::vector<int> folge(schlüssel.size());
+    std::iota(folge.begin(), folge.end(), 0);
+    std::ranges::sort(folge, [&](int a, int b) { return von(b) > von(a); });
+    std::vector<Sortierplatz> plätze(schlüssel.size());
+    int rang = 0;
+    for (std::size_t k = 0; k < folge.size(); ++k) {
+        rang += k > 0 && von(folge[k]) > von(folge[k - 1]);
+        plätze[static_cast<std::size_t>(folge[k])] = {rang, folge[k]};
+    }
+    return plätze;
+}
+
+/// Exchanges neighbours out of order, as often as the range says.
+inline void NachbarnTauschen(std::vector<Sortierplatz> &plätze, Sortierbereich bereich)
+{
+    Sortierplatz *platz = plätze.data();
     for (int i = 0; i < bereich.Durchgänge; ++i) {
-        int vergleiche = bereich.Vergleiche - (bereich.Schrumpfend ? i : 0);
-        for (std::size_t j = 0; static_cast<int>(j) < vergleiche; ++j) {
-            if (!(plätze[j].Key > plätze[j + 1].Key))
+        const Sortierplatz *ende = platz + bereich.Vergleiche - (bereich.Schrumpfend ? i : 0);
+        for (Sortierplatz *p = platz; p < ende; ++p) {
+            if (p[0].Rang <= p[1].Rang)
                 continue;
-            plätze[hilfssatz] = plätze[j];
-            plätze[j] = plätze[j + 1];
-            plätze[j + 1] = plätze[hilfssatz];
+            Sortierplatz &hilfssatz = platz[bereich.Hilfssatz];
+            hilfssatz = p[0];
+            p[0] = p[1];
+            p[1] = hilfssatz;
             if (bereich.Nachfüllung >= 0)
-                plätze[hilfssatz] = plätze[static_cast<std::size_t>(bereich.Nachfüllung)];
+                hilfssatz = platz[bereich.Nachfüllung];
         }
     }
 }
 
 /// Gives each place of a table the record that `quellen` names for it, all at once; each record is
-/// copied or swapped once.
+/// copied or moved once. Column by column, as the entries of a column lie together.
 template <class Liste> void Umstellen(Liste felder, std::vector<int> quellen)
 {
     std::vector<int> leser(quellen.size(), 0); // places that still wait for a record
@@ -65,23 +82,34 @@ template <class Liste> void Umstellen(Liste felder, std::vector<int> quellen)
         if (platz(quellen, i) != i && platz(leser, i) == 0)
             frei.push_back(i);
     // A place that nobody waits for can be overwritten.
+    std::vector<std::pair<int, int>> kopien; // place and record
     while (!frei.empty()) {
         int ziel = frei.back();
         frei.pop_back();
         int quelle = std::exchange(platz(quellen, ziel), ziel);
-        FelderÜbernehmen(felder, ziel, quelle);
+        kopien.emplace_back(ziel, quelle);
         if (--platz(leser, quelle) == 0 && platz(quellen, quelle) != quelle)
             frei.push_back(quelle);
     }
-    // What is left are rings: swap along each until its last place holds the first record.
-    for (int i = 0; i < anzahl; ++i)
-        for (int j = i; platz(quellen, j) != j;) {
-            int quelle = std::exchange(platz(quellen, j), j);
-            if (quelle == i)
-                break;
-            FelderTauschen(felder, j, quelle);
-            j = quelle;
+    // What is left are rings, in which each place waits for the record of the next.
+    std::vector<std::vector<int>> ringe;
+    for (int i = 0; i < anzahl; ++i) {
+        if (platz(quellen, i) == i)
+            continue;
+        std::vector<int> &ring = ringe.emplace_back();
+        for (int j = i; platz(quellen, j) != j; j = std::exchange(platz(quellen, j), j))
+            ring.push_back(j);
+    }
+    FürJedeSpalte(felder, [&](auto &spalte) {
+        for (auto [ziel, quelle] : kopien)
+            spalte[ziel] = spalte[quelle];
+        for (const std::vector<int> &ring : ringe) {
+            auto erster = std::move(spalte[ring.front()]);
+            for (std::size_t k = 1; k < ring.size(); ++k)
+                spalte[ring[k - 1]] = std::move(spalte[ring[k]]);
+            spalte[ring.back()] = std::move(erster);
         }
+    });
 }
 
 /// Sorts a table by the key that `schlüsselVon` gives for a record. Every field of a record moves;
@@ -89,13 +117,13 @@ template <class Liste> void Umstellen(Liste felder, std::vector<int> quellen)
 template <class Tabelle, class SchlüsselVon>
 void TabelleSortieren(Tabelle &tabelle, const Sortierbereich &bereich, SchlüsselVon schlüsselVon)
 {
-    using Schlüssel = decltype(schlüsselVon(0));
-    std::vector<Sortierplatz<Schlüssel>> plätze;
-    plätze.reserve(Tabelle::HöchsterIndex + 1);
+    std::vector<decltype(schlüsselVon(0))> schlüssel;
+    schlüssel.reserve(Tabelle::HöchsterIndex + 1);
     for (int i = 0; i <= Tabelle::HöchsterIndex; ++i)
-        plätze.push_back({schlüsselVon(i), i});
+        schlüssel.push_back(schlüsselVon(i));
     if (bereich.Vergleiche > Tabelle::HöchsterIndex)
         throw Laufzeitfehler(Laufzeitfehler::IndexAußerhalb);
+    std::vector<Sortierplatz> plätze = Plätze(schlüssel);
     NachbarnTauschen(plätze, bereich);
     std::vector<int> quellen;
     quellen.reserve(plätze.size());
