@@ -39,4 +39,12 @@ int Wochentag(Datum datum);
 /// "Sonntag" for weekday 1 to "Samstag" for weekday 7.
 Text WochentagName(Datum datum);
 
+/// The same filled up with blanks to ten letters, as some dialogs write it; it does not compare
+/// equal to the plain name.
+Text WochentagNameGefüllt(Datum datum);
+
+/// The date some months later (or earlier): the day stays, or falls to the last day of a shorter
+/// month. Failure 6 outside the years 100 to 9999.
+Datum MonateWeiter(Datum datum, int monate);
+
 } // namespace altardienst

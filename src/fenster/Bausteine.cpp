@@ -122,4 +122,60 @@ void BeiTastendruck(QPushButton *knopf, std::function<void()> handler)
         std::move(handler));
 }
 
+void SchritteVerbinden(QPushButton *minus, QPushButton *plus, SpinButton *spin,
+                       const std::function<void(int)> &schritt)
+{
+    const auto knopf = [&](QPushButton *k, Qt::Key taste, int richtung) {
+        if (!k)
+            return;
+        const auto auslösen = [schritt, richtung] { schritt(richtung); };
+        QObject::connect(k, &QPushButton::clicked, k, auslösen);
+        new Ereignisfilter(
+            k,
+            [taste](QEvent *ereignis) {
+                return ereignis->type() == QEvent::KeyPress &&
+                       static_cast<QKeyEvent *>(ereignis)->key() == taste;
+            },
+            auslösen);
+    };
+    knopf(minus, Qt::Key_Minus, -1);
+    knopf(plus, Qt::Key_Plus, +1);
+    if (spin) {
+        spin->BeiAb([schritt] { schritt(-1); });
+        spin->BeiAuf([schritt] { schritt(+1); });
+    }
+}
+
+namespace {
+
+QPushButton *Schrittknopf(const char *name, const char *zeichen, const char *gesprochen)
+{
+    QPushButton *knopf = Knopf(name, zeichen);
+    knopf->setAccessibleName(QString::fromUtf8(gesprochen));
+    knopf->setFixedWidth(36);
+    return knopf;
+}
+
+} // namespace
+
+QPushButton *Minusknopf(const char *name, const char *gesprochen)
+{
+    return Schrittknopf(name, "−", gesprochen);
+}
+
+QPushButton *Plusknopf(const char *name, const char *gesprochen)
+{
+    return Schrittknopf(name, "+", gesprochen);
+}
+
+void Setzen(QLineEdit *feld, const Text &text)
+{
+    feld->setText(Anzeige(text));
+}
+
+void Setzen(QLabel *label, const Text &text)
+{
+    label->setText(Anzeige(text));
+}
+
 } // namespace altardienst

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/Text.h"
+#include "fenster/SpinButton.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -37,5 +38,19 @@ void BeiFokusVerlust(QWidget *control, std::function<void()> handler);
 void BeiEingabetaste(QLineEdit *feld, std::function<void()> handler);
 void BeiMausdruck(QPushButton *knopf, std::function<void()> handler);   // the first mouse button
 void BeiTastendruck(QPushButton *knopf, std::function<void()> handler); // a key with a character
+
+/// A row of steps: `minus` and the spin button's down event run `schritt` with -1, `plus` and up
+/// with +1; the key "-" on `minus` and "+" on `plus` count as clicks. Any of the three may be
+/// missing.
+void SchritteVerbinden(QPushButton *minus, QPushButton *plus, SpinButton *spin,
+                       const std::function<void(int richtung)> &schritt);
+
+/// A pair of small buttons "−" and "+" with spoken names.
+QPushButton *Minusknopf(const char *name, const char *gesprochen);
+QPushButton *Plusknopf(const char *name, const char *gesprochen);
+
+/// Sets the text of a label or box from a value of the tables.
+void Setzen(QLineEdit *feld, const Text &text);
+void Setzen(QLabel *label, const Text &text);
 
 } // namespace altardienst

@@ -97,6 +97,10 @@ void EtikettenDrucken(const Etikettenleute &leute, Etikettenplatz &platz)
 void PlatzBegrenzen(Etikettenplatz &platz)
 {
     const int format = Etikett.Anzahl;
+    if (platz.Reihe < 1)
+        platz.Reihe = 1;
+    if (platz.Spalte < 1)
+        platz.Spalte = 1;
     if (platz.Reihe > Etikett.Reihen[format])
         platz.Reihe = Etikett.Reihen[format];
     if (platz.Spalte > Etikett.Spalten[format])

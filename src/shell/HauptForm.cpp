@@ -13,6 +13,8 @@
 #include "planning/MessenBestimmen.h"
 #include "platform/Uhr.h"
 #include "printing/DialogForm.h"
+#include "printing/DruckForm.h"
+#include "printing/EtikettenForm.h"
 #include "printing/Plandruck.h"
 
 #include <QAction>
@@ -155,7 +157,7 @@ void HauptForm::Anordnen()
 void HauptForm::MenüDatei()
 {
     QMenu *datei = Menü(menuBar(), "mnufile", "&Datei");
-    Eintrag(datei, "mnuFilePrint", "&Drucken...", NochNicht);
+    Eintrag(datei, "mnuFilePrint", "&Drucken...", [] { DialogÖffnen(new DruckForm); });
     Trennstrich(datei, "mnuFileBar5");
     Eintrag(datei, "mnuFileExit", "&Beenden", Beenden);
 }
@@ -165,7 +167,7 @@ void HauptForm::MenüDaten()
     QMenu *daten = Menü(menuBar(), "mnuDaten", "D&aten");
     Eintrag(daten, "mnuKonfiguration", "&Konfiguration", NochNicht);
     Eintrag(daten, "mnuHintergrund", "Hi&ntergrund", NochNicht);
-    Eintrag(daten, "mnuEtiketten", "Et&ikettengröße", NochNicht);
+    Eintrag(daten, "mnuEtiketten", "Et&ikettengröße", [] { DialogÖffnen(new EtikettenForm); });
     Trennstrich(daten, "mnufilebar7");
     Eintrag(daten, "mnuGruppe", "&Gruppe", NochNicht);
     Eintrag(daten, "mnuStandardmessen", "&Standardmessen", NochNicht);

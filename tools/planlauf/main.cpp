@@ -3,11 +3,13 @@
 #include "core/Umwandlung.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/DruckerQt.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 #include "platform/Uhr.h"
 #include "platform/Zufall.h"
 #include "printing/DialogForm.h"
+#include "printing/DruckForm.h"
 #include "shell/HauptForm.h"
 #include "shell/Programm.h"
 #include "shell/StartForm.h"
@@ -29,6 +31,8 @@ struct Auftrag {
     QString Tage;
     QList<int> Schritte;
     std::filesystem::path Text;
+    QString Pdf;
+    QString Berichte;
     QString Bilder;
 };
 
@@ -47,10 +51,15 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption saat("saat", "seed of the draw, in place of the clock's", "N");
     const QCommandLineOption schritte("schritte", "buttons to press, such as 1,4,5", "LISTE");
     const QCommandLineOption text("text", "write the plan as text", "FILE");
+    const QCommandLineOption pdf("pdf", "print the plan to a PDF file", "FILE");
+    const QCommandLineOption berichte(
+        "berichte", "print every report of the form Druck, in each of its layouts, to PDF files",
+        "DIR");
     const QCommandLineOption bilder("bilder", "save a picture of every window passed", "DIR");
     const QCommandLineOption antwort("antwort", "answer to every question", "ja|nein", "ja");
     zeile.addHelpOption();
-    zeile.addOptions({daten, heute, start, tage, saat, schritte, text, bilder, antwort});
+    zeile.addOptions(
+        {daten, heute, start, tage, saat, schritte, text, pdf, berichte, bilder, antwort});
     zeile.process(*QCoreApplication::instance());
     if (!zeile.isSet(daten))
         throw std::invalid_argument("--daten is missing");
@@ -68,6 +77,8 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
         auftrag.Schritte.append(schritt);
     }
     auftrag.Text = Pfad(zeile.value(text));
+    auftrag.Pdf = zeile.value(pdf);
+    auftrag.Berichte = zeile.value(berichte);
     auftrag.Bilder = zeile.value(bilder);
 
     Laufwerke.Programmverzeichnis = [verzeichnis = auftrag.Daten] { return verzeichnis; };
@@ -152,9 +163,47 @@ class Lauf {
             std::filesystem::rename(PfadAus(TextVon(auftrag.Text) + ".txt"), auftrag.Text);
     }
 
+    /// Printing asks no dialog here: each report goes to the file that is set for it.
+    void Drucken()
+    {
+        DruckerQt drucker([this](const Druckanfrage &anfrage) -> std::optional<Druckauswahl> {
+            hatZweiteForm = anfrage.HatZweiFormen();
+            return Druckauswahl{modus, PdfDrucker(datei)};
+        });
+        DruckerDienst *zuvor = std::exchange(Drucker, &drucker);
+        if (!auftrag.Pdf.isEmpty()) {
+            datei = auftrag.Pdf;
+            haupt->Messendruck->click();
+        }
+        if (!auftrag.Berichte.isEmpty())
+            BerichteDrucken();
+        Drucker = zuvor;
+    }
+
     void Beenden() { haupt->close(); }
 
   private:
+    void BerichteDrucken()
+    {
+        haupt->findChild<QAction *>("mnuFilePrint")->trigger();
+        auto *druck = Fenster<DruckForm>();
+        for (QPushButton *knopf : {druck->Messendruck, druck->Standarddruck, druck->Meßdienerdruck,
+                                   druck->DruckiMeßdieneri, druck->Wunschpartner,
+                                   druck->DruckHelfer, druck->Erfassungsbogen, druck->Erfaßung,
+                                   druck->Etikettenrahmen->Etiketten, druck->EtikGross}) {
+            const QString stamm = auftrag.Berichte + "/" + knopf->objectName();
+            modus = 0;
+            datei = stamm + ".pdf";
+            knopf->click();
+            if (!hatZweiteForm)
+                continue;
+            modus = DruckerDienst::ZweiteForm;
+            datei = stamm + "-2.pdf";
+            knopf->click();
+        }
+        AndereSchließen();
+    }
+
     void AndereSchließen()
     {
         QCoreApplication::processEvents();
@@ -186,6 +235,9 @@ class Lauf {
     Auftrag auftrag;
     HauptForm *haupt = nullptr;
     int bilder = 0;
+    QString datei; // where the next report goes
+    int modus = 0; // its layout
+    bool hatZweiteForm = false;
 };
 
 int Gescheitert(const char *grund)
@@ -211,6 +263,7 @@ int main(int argc, char *argv[])
                 lauf.Starten();
                 lauf.Schritte();
                 lauf.TextSchreiben();
+                lauf.Drucken();
                 lauf.Beenden();
             } catch (const std::exception &fehler) {
                 ergebnis = Gescheitert(fehler.what());

@@ -1,0 +1,226 @@
+// All printing that is not a chart: the plan, lists, blank forms and labels.
+#include "printing/DruckForm.h"
+
+#include "core/Umwandlung.h"
+#include "core/tables.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "planning/MessenBestimmen.h"
+#include "platform/Uhr.h"
+#include "printing/Erfassungsbogen.h"
+#include "printing/Listen.h"
+#include "printing/Plandruck.h"
+
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace altardienst {
+
+DruckForm::DruckForm()
+    : Messendruck(Knopf("Messendruck", "Druck des Altardienstes")),
+      Standarddruck(Knopf("Standarddruck", "Drucken der Standardmessen")),
+      Meßdienerdruck(Knopf("Meßdienerdruck", "Druck der Meßdienerdaten (alle)")),
+      DruckiMeßdieneri(Knopf("DruckiMeßdieneri", "Druck Meßdienerdaten (Gruppe)")),
+      Gruppend(Benannt(new QComboBox, "Gruppend")),
+      Wunschpartner(Knopf("Wunschpartner", "Druck der Wunschpartner")),
+      DruckHelfer(Knopf("DruckHelfer", "Druck der Helfer")),
+      Erfassungsbogen(Knopf("Erfassungsbogen", "Drucken des Erfassungsbogens für Meßdiener")),
+      Erfaßung(Knopf("Erfaßung", "Druck des Erfassungsbogens für Meßhelfer")),
+      Rückgebend(Textfeld("Rückgebend")),
+      Änderung1(new SpinButton("Änderung1", "Rückgabe um einen Tag ändern")),
+      Minus1(Minusknopf("Minus1", "Rückgabe einen Tag früher")),
+      Plus1(Plusknopf("Plus1", "Rückgabe einen Tag später")), RückTag(Beschriftung("RückTag", "")),
+      Dauernde(Textfeld("Dauernde")),
+      Änderung2(new SpinButton("Änderung2", "Dauer um einen Tag ändern")),
+      Minus2(Minusknopf("Minus2", "Dauer einen Tag kürzer")),
+      Plus2(Plusknopf("Plus2", "Dauer einen Tag länger")), DauerTag(Beschriftung("DauerTag", "")),
+      Etikettenrahmen(new Etikettenwahl("Druck von Adressetiketten")),
+      Alles(Benannt(new QRadioButton("Alle"), "Alles")),
+      GRP(Benannt(new QRadioButton("Meßdienergruppe"), "GRP")),
+      Messhelfer(Benannt(new QRadioButton("Meßhelfer"), "Messhelfer")),
+      EtikGross(Knopf("EtikGross", "Druck der Etikettengröße")), Ende(Knopf("Ende", "Ende"))
+{
+    Benannt(this, "Druck");
+    setWindowTitle("Druck");
+    Anordnen();
+    Verbinden();
+    Offen([this] { Öffnen(); })();
+}
+
+void DruckForm::Anordnen()
+{
+    auto *links = new QVBoxLayout;
+    links->setSpacing(12);
+    links->addWidget(Listen());
+    links->addWidget(Erfassung());
+    links->addStretch();
+    auto *oben = new QHBoxLayout;
+    oben->setSpacing(14);
+    oben->addLayout(links);
+    oben->addWidget(Adressetiketten(), 1);
+
+    auto *unten = new QHBoxLayout;
+    unten->addStretch();
+    Ende->setMinimumWidth(110);
+    unten->addWidget(Ende);
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(16, 16, 16, 16);
+    spalte->setSpacing(12);
+    spalte->addLayout(oben, 1);
+    spalte->addLayout(unten);
+    Messendruck->setFocus();
+}
+
+QWidget *DruckForm::Listen()
+{
+    auto *rahmen = Benannt(new QGroupBox("Plan und Listen"), "Listen");
+    auto *spalte = new QVBoxLayout(rahmen);
+    for (QPushButton *knopf : {Messendruck, Standarddruck, Meßdienerdruck, DruckiMeßdieneri})
+        spalte->addWidget(knopf);
+    auto *gruppe = new QHBoxLayout;
+    gruppe->addWidget(Beschriftung("GruppendText", "Gruppe:", Gruppend));
+    gruppe->addWidget(Gruppend, 1);
+    spalte->addLayout(gruppe);
+    for (QPushButton *knopf : {Wunschpartner, DruckHelfer})
+        spalte->addWidget(knopf);
+    return rahmen;
+}
+
+QWidget *DruckForm::Erfassung()
+{
+    auto *rahmen = Benannt(new QGroupBox("Erfassungsbögen"), "Erfassung");
+    auto *raster = new QGridLayout(rahmen);
+    raster->addWidget(Erfassungsbogen, 0, 0, 1, 2);
+    raster->addWidget(Erfaßung, 1, 0, 1, 2);
+    int zeile = 2;
+    const auto datum = [&](const char *name, const char *text, QLineEdit *feld, SpinButton *spin,
+                           QPushButton *minus, QPushButton *plus, QLabel *tag) {
+        feld->setFixedWidth(90);
+        raster->addWidget(Beschriftung(name, text, feld), zeile++, 0, 1, 2);
+        auto *reihe = new QHBoxLayout;
+        for (QWidget *control : std::initializer_list<QWidget *>{feld, spin, minus, plus, tag})
+            reihe->addWidget(control);
+        reihe->addStretch();
+        raster->addLayout(reihe, zeile++, 0, 1, 2);
+    };
+    datum("RückgebendText", "Rückgabe des Erfassungsbogen bis zum:", Rückgebend, Änderung1, Minus1,
+          Plus1, RückTag);
+    datum("DauerndeText", "Dauer des Plans (ca.):", Dauernde, Änderung2, Minus2, Plus2, DauerTag);
+    return rahmen;
+}
+
+QWidget *DruckForm::Adressetiketten()
+{
+    auto *rahmen = Benannt(new QGroupBox("Etiketten"), "Adressetiketten");
+    auto *leute = new QHBoxLayout;
+    for (QRadioButton *option : {Alles, GRP, Messhelfer})
+        leute->addWidget(option);
+    leute->addStretch();
+    auto *spalte = new QVBoxLayout(rahmen);
+    spalte->addLayout(leute);
+    spalte->addWidget(Etikettenrahmen);
+    spalte->addWidget(EtikGross, 0, Qt::AlignLeft);
+    spalte->addStretch();
+    return rahmen;
+}
+
+void DruckForm::Verbinden()
+{
+    const auto drucken = [this](QPushButton *knopf, const std::function<void()> &bericht) {
+        connect(knopf, &QPushButton::clicked, this, Offen(bericht));
+    };
+    drucken(Messendruck, PlanDrucken);
+    drucken(Standarddruck, StandardmessenDrucken);
+    drucken(Meßdienerdruck, AlleMeßdienerDrucken);
+    drucken(DruckiMeßdieneri, [this] { MeßdienergruppeDrucken(GewählteGruppe()); });
+    drucken(Wunschpartner, WunschpartnerlisteDrucken);
+    drucken(DruckHelfer, AlleHelferDrucken);
+    drucken(Erfassungsbogen,
+            [this] { ErfassungsbogenMeßdienerDrucken(TextVon(Rückgebend), TextVon(Dauernde)); });
+    drucken(Erfaßung,
+            [this] { ErfassungsbogenHelferDrucken(TextVon(Rückgebend), TextVon(Dauernde)); });
+    drucken(Etikettenrahmen->Etiketten, [this] { EtikettenDrucken(); });
+    drucken(EtikGross, EtikettengrößenDrucken);
+
+    SchritteVerbinden(Minus1, Plus1, Änderung1, [this](int tage) {
+        Abgefangen([&] {
+            Verschieben(Rückgebend, tage);
+            RückgabeFassen();
+        })();
+    });
+    SchritteVerbinden(Minus2, Plus2, Änderung2, [this](int tage) {
+        Abgefangen([&] {
+            Verschieben(Dauernde, tage);
+            DauerFassen();
+        })();
+    });
+    BeiFokusVerlust(Rückgebend, Abgefangen([this] { RückgabeFassen(); }));
+    BeiFokusVerlust(Dauernde, Abgefangen([this] { DauerFassen(); }));
+    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void DruckForm::Öffnen()
+{
+    const Datum rückgabe = StartDatumVorschlagen();
+    Setzen(Rückgebend, KurzesDatum(rückgabe));
+    Setzen(Dauernde, KurzesDatum(rückgabe + Konfig.Tage));
+    for (int i = 0; i < Gruppe.Anzahl; ++i)
+        Gruppend->addItem(Anzeige(Gruppe.Bezeichnung[i]));
+    RückgabeFassen();
+    DauerFassen();
+    Alles->setChecked(true);
+    Etikettenrahmen->Füllen();
+}
+
+void DruckForm::Verschieben(QLineEdit *feld, int tage)
+{
+    Setzen(feld, KurzesDatum(DatumLesen(TextVon(feld)) + tage));
+}
+
+/// A day for giving back the form that lies in the past becomes today.
+void DruckForm::RückgabeFassen()
+{
+    Datum datum = std::trunc(DatumLesen(TextVon(Rückgebend)));
+    if (datum < Uhr.Heute())
+        datum = Uhr.Heute();
+    Setzen(Rückgebend, KurzesDatum(datum));
+    Setzen(RückTag, WochentagNameGefüllt(datum));
+}
+
+void DruckForm::DauerFassen()
+{
+    Datum datum = std::trunc(DatumLesen(TextVon(Dauernde)));
+    if (datum < Uhr.Heute())
+        datum = DatumLesen(TextVon(Rückgebend)) + Konfig.Tage;
+    Setzen(Dauernde, KurzesDatum(datum));
+    Setzen(DauerTag, WochentagNameGefüllt(datum));
+}
+
+void DruckForm::EtikettenDrucken()
+{
+    if (Messhelfer->isChecked())
+        Etikettenrahmen->Drucken(EtikettenAllerHelfer());
+    else if (GRP->isChecked())
+        Etikettenrahmen->Drucken(EtikettenDerGruppe(GewählteGruppe()));
+    else
+        Etikettenrahmen->Drucken(EtikettenAllerMeßdiener());
+}
+
+Text DruckForm::GewählteGruppe() const
+{
+    return Gruppend->currentText().toStdString();
+}
+
+void DruckForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    HauptfensterZurück();
+}
+
+} // namespace altardienst

@@ -1,0 +1,176 @@
+// The editor of the ten label formats.
+#include "printing/EtikettenForm.h"
+
+#include "core/Umwandlung.h"
+#include "core/tables.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace altardienst {
+namespace {
+
+constexpr int LetztesFormat = 9;
+
+/// Lengths in mm.
+void LängeBegrenzen(QLineEdit *feld, Single schritt = 0)
+{
+    const Single länge = SingleLesen(TextVon(feld)) + schritt;
+    Setzen(feld, ZahlText(std::clamp(länge, 0.1F, 330.1F)));
+}
+
+void ZahlBegrenzen(QLineEdit *feld, int schritt = 0)
+{
+    const int zahl = Int16Lesen(TextVon(feld)) + schritt;
+    Setzen(feld, ZahlText(std::clamp(zahl, 1, 20)));
+}
+
+} // namespace
+
+EtikettenForm::EtikettenForm()
+    : Wahl(new Datensatzwahl({"Ind", "Plus", "Minus", "DPM"})), N(Textfeld("N")),
+      OU(Textfeld("OU")), LR(Textfeld("LR")), H(Textfeld("H")), B(Textfeld("B")),
+      ST(Textfeld("ST")), R(Textfeld("R")), S(Textfeld("S")), Ende(Knopf("Ende", "Ende"))
+{
+    constexpr std::array<const char *, 7> gesprochen = {"Rand oben und unten ändern",
+                                                        "Rand links und rechts ändern",
+                                                        "Höhe ändern",
+                                                        "Breite ändern",
+                                                        "Steg ändern",
+                                                        "Reihen ändern",
+                                                        "Spalten ändern"};
+    for (std::size_t k = 0; k < Ä.size(); ++k)
+        Ä[k] = new SpinButton(("Ä" + std::to_string(k + 1)).c_str(), gesprochen[k]);
+    Benannt(this, "Etiketten");
+    setWindowTitle("Etikettengrößen");
+    Anordnen();
+    Verbinden();
+    Setzen(Wahl->Nummer, ZahlText(Etikett.Anzahl));
+}
+
+void EtikettenForm::Anordnen()
+{
+    auto *raster = new QGridLayout;
+    raster->setHorizontalSpacing(10);
+    raster->setVerticalSpacing(8);
+    raster->addWidget(Beschriftung("NText", "Etikettenname :", N), 0, 0);
+    raster->addWidget(N, 0, 1, 1, 4);
+    int zeile = 1;
+    const auto zahl = [&](const char *text, QLineEdit *feld, bool istLänge) {
+        feld->setFixedWidth(90);
+        raster->addWidget(Beschriftung("", text, feld), zeile, 0);
+        raster->addWidget(feld, zeile, 1);
+        raster->addWidget(Ä[static_cast<std::size_t>(zeile - 1)], zeile, 2);
+        if (istLänge)
+            raster->addWidget(Beschriftung("", "mm"), zeile, 3);
+        ++zeile;
+    };
+    zahl("Rand oben/ unten :", OU, true);
+    zahl("Rand links / rechts :", LR, true);
+    zahl("Höhe :", H, true);
+    zahl("Breite :", B, true);
+    zahl("Steg :", ST, true);
+    zahl("Reihen :", R, false);
+    zahl("Spalten :", S, false);
+    raster->setColumnStretch(4, 1);
+
+    auto *unten = new QHBoxLayout;
+    unten->addWidget(Wahl);
+    unten->addStretch();
+    Ende->setMinimumWidth(110);
+    unten->addWidget(Ende);
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(20, 20, 20, 20);
+    spalte->setSpacing(18);
+    spalte->addLayout(raster);
+    spalte->addLayout(unten);
+    spalte->addStretch();
+    setMinimumWidth(460);
+    N->setFocus();
+}
+
+void EtikettenForm::Verbinden()
+{
+    Wahl->BeiWechsel(Abgefangen([this] { IndGeändert(); }));
+    Wahl->BeiSchritt([this](int richtung) { Offen([&] { Schritt(richtung); })(); });
+    std::size_t spin = 0;
+    for (QLineEdit *feld : Längen()) {
+        BeiFokusVerlust(feld, Abgefangen([feld] { LängeBegrenzen(feld); }));
+        SchritteVerbinden(nullptr, nullptr, Ä[spin++], [feld](int richtung) {
+            Abgefangen([&] { LängeBegrenzen(feld, 0.1F * static_cast<Single>(richtung)); })();
+        });
+    }
+    for (QLineEdit *feld : Zahlen()) {
+        BeiFokusVerlust(feld, Abgefangen([feld] { ZahlBegrenzen(feld); }));
+        SchritteVerbinden(nullptr, nullptr, Ä[spin++], [feld](int richtung) {
+            Abgefangen([&] { ZahlBegrenzen(feld, richtung); })();
+        });
+    }
+    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+}
+
+/// Typing a number shows that format, without storing what was on the screen.
+void EtikettenForm::IndGeändert()
+{
+    const int format = Int16Lesen(TextVon(Wahl->Nummer));
+    const int erlaubt = std::clamp(format, 0, LetztesFormat);
+    if (erlaubt != format)
+        return Setzen(Wahl->Nummer, ZahlText(erlaubt));
+    Etikett.Anzahl = erlaubt;
+    Zeigen();
+}
+
+void EtikettenForm::Schritt(int richtung)
+{
+    Schreiben();
+    const int nächstes = Int16Lesen(TextVon(Wahl->Nummer)) + richtung;
+    if (nächstes >= 0 && nächstes <= LetztesFormat)
+        Setzen(Wahl->Nummer, ZahlText(nächstes));
+}
+
+void EtikettenForm::Zeigen()
+{
+    const int i = Etikett.Anzahl;
+    Setzen(N, Etikett.Name[i]);
+    Setzen(OU, ZahlText(Etikett.RandOU[i]));
+    Setzen(LR, ZahlText(Etikett.RandLR[i]));
+    Setzen(H, ZahlText(Etikett.Höhe[i]));
+    Setzen(B, ZahlText(Etikett.Breite[i]));
+    Setzen(ST, ZahlText(Etikett.Steg[i]));
+    Setzen(R, ZahlText(Etikett.Reihen[i]));
+    Setzen(S, ZahlText(Etikett.Spalten[i]));
+}
+
+void EtikettenForm::Schreiben()
+{
+    const int i = Int16Lesen(TextVon(Wahl->Nummer));
+    Etikett.Name[i] = TextVon(N);
+    Etikett.RandOU[i] = SingleLesen(TextVon(OU));
+    Etikett.RandLR[i] = SingleLesen(TextVon(LR));
+    Etikett.Höhe[i] = SingleLesen(TextVon(H));
+    Etikett.Breite[i] = SingleLesen(TextVon(B));
+    Etikett.Steg[i] = SingleLesen(TextVon(ST));
+    Etikett.Reihen[i] = Int16Lesen(TextVon(R));
+    Etikett.Spalten[i] = Int16Lesen(TextVon(S));
+}
+
+/// A box that is no number keeps the form open, with the failure shown.
+void EtikettenForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->ignore();
+    Offen([&] {
+        Schreiben();
+        ereignis->accept();
+        HauptfensterZurück();
+    })();
+}
+
+} // namespace altardienst

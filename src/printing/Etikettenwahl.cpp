@@ -1,0 +1,114 @@
+// The frame in which a label format and the first label of a sheet are chosen.
+#include "printing/Etikettenwahl.h"
+
+#include "core/Umwandlung.h"
+#include "core/tables.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace altardienst {
+
+Etikettenwahl::Etikettenwahl(const char *knopfBeschriftung)
+    : EtiGröß(Benannt(new QGroupBox("Etikettengröße"), "EtiGröß")),
+      Etik(Benannt(new QGroupBox("Erstes zu bedruckende Etikett in"), "Etik")),
+      Reih(Textfeld("Reih")), ÄReih(new SpinButton("ÄReih", "Reihe ändern")),
+      Spal(Textfeld("Spal")), ÄSpal(new SpinButton("ÄSpal", "Spalte ändern")),
+      Etiketten(Knopf("Etiketten", knopfBeschriftung))
+{
+    for (std::size_t n = 0; n < O.size(); ++n)
+        O[n] = Benannt(new QRadioButton, ("O" + std::to_string(n + 1)).c_str());
+    Anordnen();
+    Verbinden();
+}
+
+void Etikettenwahl::Anordnen()
+{
+    auto *formate = new QGridLayout(EtiGröß);
+    for (int n = 0; n < static_cast<int>(O.size()); ++n)
+        formate->addWidget(O[static_cast<std::size_t>(n)], n % 5, n / 5);
+
+    for (QLineEdit *feld : {Reih, Spal})
+        feld->setFixedWidth(48);
+    auto *platz = new QHBoxLayout(Etik);
+    platz->addWidget(Beschriftung("ReihText", "Reihe :", Reih));
+    platz->addWidget(Reih);
+    platz->addWidget(ÄReih);
+    platz->addSpacing(12);
+    platz->addWidget(Beschriftung("SpalText", "Spalte :", Spal));
+    platz->addWidget(Spal);
+    platz->addWidget(ÄSpal);
+    platz->addStretch();
+    platz->addWidget(Etiketten);
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(0, 0, 0, 0);
+    spalte->addWidget(EtiGröß);
+    spalte->addWidget(Etik);
+}
+
+void Etikettenwahl::Verbinden()
+{
+    for (std::size_t n = 0; n < O.size(); ++n)
+        connect(O[n], &QRadioButton::clicked, this, Abgefangen([this, n] {
+                    Etikett.Anzahl = static_cast<int>(n);
+                    Begrenzen();
+                }));
+    const auto feld = [this](QLineEdit *box, SpinButton *spin) {
+        BeiFokusVerlust(box, Abgefangen([this] { Begrenzen(); }));
+        SchritteVerbinden(nullptr, nullptr, spin, [this, box](int richtung) {
+            Abgefangen([&] {
+                Setzen(box, ZahlText(Int16Lesen(TextVon(box)) + richtung));
+                Begrenzen();
+            })();
+        });
+    };
+    feld(Reih, ÄReih);
+    feld(Spal, ÄSpal);
+}
+
+void Etikettenwahl::Füllen()
+{
+    for (int n = 0; n < static_cast<int>(O.size()); ++n) {
+        // An ampersand in a name is a letter, not a key.
+        O[static_cast<std::size_t>(n)]->setText(Anzeige(Etikett.Name[n]).replace("&", "&&"));
+        if (n == Etikett.Anzahl)
+            O[static_cast<std::size_t>(n)]->setChecked(true);
+    }
+    Abgefangen([this] { Begrenzen(); })();
+}
+
+Etikettenplatz Etikettenwahl::Platz() const
+{
+    return {Int16Lesen(TextVon(Reih)), Int16Lesen(TextVon(Spal))};
+}
+
+void Etikettenwahl::Zeigen(const Etikettenplatz &platz)
+{
+    Setzen(Reih, ZahlText(platz.Reihe));
+    Setzen(Spal, ZahlText(platz.Spalte));
+}
+
+void Etikettenwahl::Begrenzen()
+{
+    for (QLineEdit *feld : {Reih, Spal})
+        if (feld->text().isEmpty())
+            feld->setText("1");
+    Etikettenplatz platz = Platz();
+    PlatzBegrenzen(platz);
+    Zeigen(platz);
+}
+
+void Etikettenwahl::Drucken(const Etikettenleute &leute)
+{
+    Begrenzen();
+    Etikettenplatz platz = Platz();
+    EtikettenDrucken(leute, platz);
+    Zeigen(platz);
+    Begrenzen();
+}
+
+} // namespace altardienst

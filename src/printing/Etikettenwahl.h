@@ -1,0 +1,47 @@
+// The frame in which a label format and the first label of a sheet are chosen.
+#pragma once
+
+#include "fenster/SpinButton.h"
+#include "printing/Etikettendruck.h"
+
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QWidget>
+
+#include <array>
+#include <functional>
+
+namespace altardienst {
+
+/// Choosing a format sets `Etikett.Anzahl` and brings the place onto the sheet.
+class Etikettenwahl : public QWidget {
+  public:
+    /// The caption of the button that prints differs from form to form.
+    explicit Etikettenwahl(const char *knopfBeschriftung);
+
+    QGroupBox *EtiGröß;
+    std::array<QRadioButton *, 10> O; // O1 to O10
+    QGroupBox *Etik;
+    QLineEdit *Reih;
+    SpinButton *ÄReih;
+    QLineEdit *Spal;
+    SpinButton *ÄSpal;
+    QPushButton *Etiketten;
+
+    /// Shows the names of the formats and selects the one of `Etikett.Anzahl`.
+    void Füllen();
+
+    /// Prints from the place on, and then shows the place where to go on.
+    void Drucken(const Etikettenleute &leute);
+
+  private:
+    void Anordnen();
+    void Verbinden();
+    void Begrenzen();
+    Etikettenplatz Platz() const;
+    void Zeigen(const Etikettenplatz &platz);
+};
+
+} // namespace altardienst
