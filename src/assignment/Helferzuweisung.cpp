@@ -165,10 +165,12 @@ void HelferZuweisen()
         Helfer.Belegt[h] = 0;
     Zufall.Streuen();
     SucheStart = Uhr.Sekunden();
-    const bool knapp = Knapp("Kommunionhelfer", Messe.KommZahl) ||
-                       Knapp("Lektor", Messe.LektorZahl) || Knapp("Kantor", Messe.KantorZahl) ||
-                       Knapp("Kollektant", Messe.KollektZahl);
-    if (knapp)
+    // All four sums are made, so that an overflow in one of them is never missed.
+    const bool kommunion = Knapp("Kommunionhelfer", Messe.KommZahl);
+    const bool lektor = Knapp("Lektor", Messe.LektorZahl);
+    const bool kantor = Knapp("Kantor", Messe.KantorZahl);
+    const bool kollektant = Knapp("Kollektant", Messe.KollektZahl);
+    if (kommunion || lektor || kantor || kollektant)
         HelferFreiZuweisen();
     else
         HelferVollZuweisen();
