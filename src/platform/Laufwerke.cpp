@@ -79,20 +79,26 @@ void Ausgeben(const fs::path &pfad, const char *art, std::string_view inhalt)
         Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
 }
 
-std::optional<Text> Suchen(const fs::path &verzeichnis, const Text &name)
+bool IstDatei(const fs::path &pfad)
 {
     std::error_code fehler;
-    if (fs::exists(verzeichnis / PfadAus(name), fehler)) {
+    return fs::exists(pfad, fehler) && !fs::is_directory(pfad, fehler);
+}
+
+std::optional<Text> Suchen(const fs::path &verzeichnis, const Text &name)
+{
 #ifndef _WIN32
+    if (IstDatei(verzeichnis / PfadAus(name)))
         return name;
 #endif
-    }
     std::optional<Text> gefunden;
     Text gesucht = Klein(name);
+    std::error_code fehler;
     fs::directory_iterator ende;
     for (fs::directory_iterator i(verzeichnis, fehler); !fehler && i != ende; i.increment(fehler)) {
         Text gespeichert = TextVon(i->path().filename());
-        if (Klein(gespeichert) == gesucht && (!gefunden || gespeichert < *gefunden))
+        if (Klein(gespeichert) == gesucht && (!gefunden || gespeichert < *gefunden) &&
+            IstDatei(i->path()))
             gefunden = gespeichert;
     }
     return gefunden;

@@ -34,7 +34,7 @@ struct LaufwerkeDienst {
     std::function<std::vector<Wurzel>()> Wurzeln;
 
     /// The name as stored of the file of that name, whatever the case asked for; the exact
-    /// spelling comes first where several differ in case alone.
+    /// spelling comes first where several differ in case alone. A directory is no file.
     std::function<std::optional<Text>(const path &verzeichnis, const Text &name)> Suchen;
 
     std::function<Verzeichnisinhalt(const path &)> Auflisten;

@@ -1,0 +1,156 @@
+// The machine's own file system.
+#include "platform/Laufwerke.h"
+
+#include "Prüfstand.h"
+
+#include <cstdlib>
+
+namespace altardienst {
+namespace {
+
+namespace fs = std::filesystem;
+
+class LaufwerkeTest : public Prüfstand {
+  protected:
+    LaufwerkeDienst System = Systemlaufwerke();
+};
+
+TEST_F(LaufwerkeTest, SuchenAchtetNichtAufGroßschreibung)
+{
+    DateiSchreiben(Festplatte / PfadAus("Meßdiener.dat"), "");
+    DateiSchreiben(Festplatte / PfadAus("ÜBUNG.TXT"), "");
+    EXPECT_EQ(System.Suchen(Festplatte, "Meßdiener.dat"), "Meßdiener.dat");
+    EXPECT_EQ(System.Suchen(Festplatte, "meßdiener.dat"), "Meßdiener.dat");
+    EXPECT_EQ(System.Suchen(Festplatte, "MEßDIENER.DAT"), "Meßdiener.dat");
+    EXPECT_EQ(System.Suchen(Festplatte, "übung.txt"), "ÜBUNG.TXT");
+    EXPECT_EQ(System.Suchen(Festplatte, "Meßdiener"), std::nullopt);
+    EXPECT_EQ(System.Suchen(Festplatte, "Messdiener.dat"), std::nullopt);
+}
+
+TEST_F(LaufwerkeTest, DieGenaueSchreibungGehtVor)
+{
+    for (const char *name : {"KONFIG.CFG", "Konfig.cfg", "konfig.cfg"})
+        DateiSchreiben(Festplatte / name, "");
+    EXPECT_EQ(System.Suchen(Festplatte, "Konfig.cfg"), "Konfig.cfg");
+    EXPECT_EQ(System.Suchen(Festplatte, "konfig.cfg"), "konfig.cfg");
+    EXPECT_EQ(System.Suchen(Festplatte, "kONFIG.CFG"), "KONFIG.CFG") << "else the first by name";
+}
+
+TEST_F(LaufwerkeTest, SuchenImFehlendenVerzeichnisFindetNichts)
+{
+    EXPECT_EQ(System.Suchen(Festplatte / "nicht" / "da", "Konfig.cfg"), std::nullopt);
+}
+
+TEST_F(LaufwerkeTest, SuchenFindetKeineVerzeichnisse)
+{
+    fs::create_directory(Festplatte / "Konfig.cfg");
+    EXPECT_EQ(System.Suchen(Festplatte, "Konfig.cfg"), std::nullopt);
+    EXPECT_EQ(System.Suchen(Festplatte, "konfig.cfg"), std::nullopt);
+    DateiSchreiben(Festplatte / "KONFIG.CFG", "");
+    EXPECT_EQ(System.Suchen(Festplatte, "Konfig.cfg"), "KONFIG.CFG");
+}
+
+TEST_F(LaufwerkeTest, SchreibenLeertZuerst)
+{
+    fs::path pfad = Festplatte / PfadAus("Größe.txt");
+    System.Schreiben(pfad, "lang und länger");
+    System.Schreiben(pfad, "kurz\r\n");
+    EXPECT_EQ(System.Lesen(pfad), "kurz\r\n");
+    System.Anhängen(pfad, "mehr");
+    EXPECT_EQ(System.Lesen(pfad), "kurz\r\nmehr");
+    System.Schreiben(pfad, "");
+    EXPECT_EQ(System.Lesen(pfad), "");
+}
+
+TEST_F(LaufwerkeTest, LesenBringtJedesByte)
+{
+    std::string bytes;
+    for (int i = 0; i < 300000; ++i)
+        bytes += static_cast<char>(i * 7 % 256);
+    System.Schreiben(Festplatte / "x", bytes);
+    EXPECT_TRUE(System.Lesen(Festplatte / "x") == bytes);
+    bytes.resize(std::size_t(1) << 16);
+    System.Schreiben(Festplatte / "x", bytes);
+    EXPECT_TRUE(System.Lesen(Festplatte / "x") == bytes);
+}
+
+TEST_F(LaufwerkeTest, FehlerHabenIhreNummer)
+{
+    fs::path fehlt = Festplatte / "fehlt";
+    EXPECT_EQ(NummerDesFehlers([&] { System.Lesen(fehlt); }), 53);
+    EXPECT_EQ(NummerDesFehlers([&] { System.Lesen(fehlt / "x"); }), 53);
+    EXPECT_EQ(NummerDesFehlers([&] { System.AttributeLöschen(fehlt); }), 53);
+    EXPECT_EQ(NummerDesFehlers([&] { System.Schreiben(fehlt / "x", ""); }), 76);
+    EXPECT_EQ(NummerDesFehlers([&] { System.Anhängen(fehlt / "x", ""); }), 76);
+    EXPECT_EQ(NummerDesFehlers([&] { System.Lesen(Festplatte); }), 75);
+    EXPECT_EQ(NummerDesFehlers([&] { System.Schreiben(Festplatte, ""); }), 75);
+}
+
+TEST_F(LaufwerkeTest, AttributeLöschenMachtSchreibbar)
+{
+    DateiSchreiben(Festplatte / "x", "");
+    fs::permissions(Festplatte / "x", fs::perms::owner_read);
+    System.AttributeLöschen(Festplatte / "x");
+    EXPECT_EQ(fs::status(Festplatte / "x").permissions(),
+              fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(LaufwerkeTest, VerzeichnisseEntstehenMitDenenDarüber)
+{
+    System.VerzeichnisAnlegen(Festplatte / "a" / "b");
+    EXPECT_TRUE(fs::is_directory(Festplatte / "a" / "b"));
+    EXPECT_NO_THROW(System.VerzeichnisAnlegen(Festplatte / "a" / "b")) << "may exist";
+    DateiSchreiben(Festplatte / "datei", "");
+    EXPECT_NE(NummerDesFehlers([&] { System.VerzeichnisAnlegen(Festplatte / "datei"); }), 0);
+    EXPECT_NE(NummerDesFehlers([&] { System.VerzeichnisAnlegen(Festplatte / "datei" / "x"); }), 0);
+}
+
+TEST_F(LaufwerkeTest, TexteUndPfadeSindEinUndDasselbe)
+{
+    EXPECT_EQ(TextVon(PfadAus("Meßdiener.dat")), "Meßdiener.dat");
+    EXPECT_EQ(TextVon(PfadAus("a") / PfadAus("ß")), TextVon(PfadAus("a/ß").make_preferred()));
+}
+
+#ifndef _WIN32
+
+/// An environment variable for one test.
+class Umgebung {
+  public:
+    Umgebung(const char *name, const char *wert) : name(name)
+    {
+        if (const char *alt = std::getenv(name))
+            zuvor = alt;
+        wert ? setenv(name, wert, 1) : unsetenv(name);
+    }
+    ~Umgebung() { zuvor ? setenv(name, zuvor->c_str(), 1) : unsetenv(name); }
+
+  private:
+    const char *name;
+    std::optional<std::string> zuvor;
+};
+
+TEST_F(LaufwerkeTest, DieUmgebungNenntVerzeichnisUndDiskette)
+{
+    Umgebung daten("ALTARDIENST_DATEN", "/tmp/daten");
+    Umgebung diskette("ALTARDIENST_DISKETTE", "/tmp/diskette");
+    EXPECT_EQ(System.Programmverzeichnis(), "/tmp/daten");
+    EXPECT_EQ(System.Diskette(), "/tmp/diskette");
+}
+
+TEST_F(LaufwerkeTest, OhneAngabeLiegenDieDatenBeimBenutzer)
+{
+    Umgebung daten("ALTARDIENST_DATEN", nullptr);
+    Umgebung diskette("ALTARDIENST_DISKETTE", "");
+    Umgebung heim("HOME", "/home/küster");
+    EXPECT_EQ(System.Programmverzeichnis(), "/home/küster/.local/share/Altardienst");
+    EXPECT_EQ(System.Diskette(), "/media/floppy");
+    ASSERT_EQ(System.Wurzeln().size(), 3U);
+    EXPECT_EQ(System.Wurzeln()[0].Pfad, "/home/küster");
+    EXPECT_EQ(System.Wurzeln()[1].Pfad, "/media/floppy");
+    EXPECT_EQ(System.Wurzeln()[2].Pfad, "/");
+}
+
+#endif
+
+} // namespace
+} // namespace altardienst
