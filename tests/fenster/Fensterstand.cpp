@@ -2,6 +2,7 @@
 #include "fenster/Fensterstand.h"
 
 #include "fenster/Anwendung.h"
+#include "platform/Drucker.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -181,7 +182,9 @@ int main(int argc, char *argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     ::testing::InitGoogleTest(&argc, argv);
     QApplication anwendung(argc, argv);
+    altardienst::DruckerDienst *ohneDrucker = altardienst::Drucker;
     altardienst::AnwendungEinrichten(anwendung);
+    altardienst::Drucker = ohneDrucker; // a print dialog would wait for someone
     altardienst::Meldungsfenster = altardienst::Meldungen;
     return RUN_ALL_TESTS();
 }

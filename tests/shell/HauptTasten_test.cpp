@@ -1,0 +1,103 @@
+// The keys of the main window.
+#include "shell/Hauptstand.h"
+
+namespace altardienst {
+namespace {
+
+/// Every button only notes its number.
+class HauptTastenTest : public Hauptstand {
+  protected:
+    HauptTastenTest()
+    {
+        HauptForm &haupt = Öffnen();
+        knöpfe = {haupt.Messenorgani, haupt.Meßdienernern, haupt.Dienstus,   haupt.MeßdienerMessen,
+                  haupt.Helfend,      haupt.AnzMesse,      haupt.Messendruck};
+        for (std::size_t i = 0; i < knöpfe.size(); ++i) {
+            knöpfe[i]->setEnabled(true);
+            QObject::disconnect(knöpfe[i], &QPushButton::clicked, nullptr, nullptr);
+            QObject::connect(knöpfe[i], &QPushButton::clicked, &haupt,
+                             [this, i] { gedrückt += std::to_string(i + 1); });
+        }
+    }
+
+    /// As it comes from the keyboard: to the window, which passes it to the control with the focus.
+    void Taste(Qt::Key taste, Qt::KeyboardModifiers dazu = Qt::NoModifier) const
+    {
+        QTest::keyClick(haupt->windowHandle(), taste, dazu);
+    }
+
+    std::array<QPushButton *, 7> knöpfe;
+    Text gedrückt;
+};
+
+TEST_F(HauptTastenTest, Tasten1Bis7DrückenIhrenKnopfBeiJedemFokus)
+{
+    for (QPushButton *knopf : knöpfe) {
+        FokusAuf(knopf);
+        gedrückt.clear();
+        for (int ziffer = 0; ziffer <= 9; ++ziffer)
+            Taste(static_cast<Qt::Key>(Qt::Key_0 + ziffer));
+        EXPECT_EQ(gedrückt, "1234567") << Aufschrift(knopf);
+        EXPECT_TRUE(knopf->hasFocus());
+    }
+}
+
+TEST_F(HauptTastenTest, DieTastenGeltenAuchOhneFokus)
+{
+    haupt->focusWidget()->clearFocus();
+    Taste(Qt::Key_3);
+    EXPECT_EQ(gedrückt, "3");
+}
+
+TEST_F(HauptTastenTest, DieTastenGeltenAuchNachEinemDialog)
+{
+    QWidget dialog;
+    haupt->setEnabled(false);
+    Zeigen(&dialog);
+    Taste(Qt::Key_3); // disabled while a dialog is open
+    EXPECT_EQ(gedrückt, "");
+    dialog.close();
+    HauptfensterZurück();
+    Taste(Qt::Key_3);
+    EXPECT_EQ(gedrückt, "3");
+}
+
+TEST_F(HauptTastenTest, DerZiffernblockDrücktNichts)
+{
+    for (int ziffer = 1; ziffer <= 7; ++ziffer)
+        Taste(static_cast<Qt::Key>(Qt::Key_0 + ziffer), Qt::KeypadModifier);
+    EXPECT_EQ(gedrückt, "");
+}
+
+TEST_F(HauptTastenTest, EineGesperrteStufeAntwortetNicht)
+{
+    knöpfe[1]->setEnabled(false);
+    Taste(Qt::Key_2);
+    EXPECT_EQ(gedrückt, "");
+}
+
+TEST_F(HauptTastenTest, EingabetasteUndLeertasteDrückenDenKnopfMitDemFokus)
+{
+    FokusAuf(knöpfe[4]);
+    Taste(Qt::Key_Return);
+    Taste(Qt::Key_Space);
+    EXPECT_EQ(gedrückt, "55");
+}
+
+TEST_F(HauptTastenTest, F11UndF12ÖffnenIhreFormen)
+{
+    for (auto [taste, form] :
+         {std::pair(Qt::Key_F11, "ZusatzKonfig"), {Qt::Key_F12, "Skalierung"}}) {
+        Taste(taste);
+        if (haupt->isEnabled())
+            continue; // the form is not there yet
+        QWidget *dialog = Fenster(form);
+        EXPECT_TRUE(haupt->isMinimized());
+        dialog->close();
+        EXPECT_TRUE(haupt->isEnabled());
+        EXPECT_TRUE(haupt->isMaximized());
+    }
+}
+
+} // namespace
+} // namespace altardienst

@@ -1,0 +1,31 @@
+// The fixture of the tests of the main window.
+#pragma once
+
+#include "fenster/Anwendung.h"
+#include "fenster/Fensterstand.h"
+#include "shell/HauptForm.h"
+
+#include <QAction>
+#include <QPointer>
+
+namespace altardienst {
+
+class Hauptstand : public Fensterstand {
+  protected:
+    /// Shows the main window as the start dialog does.
+    HauptForm &Öffnen()
+    {
+        haupt = new HauptForm;
+        HauptfensterSetzen(haupt);
+        haupt->showMaximized();
+        Zeigen(haupt);
+        return *haupt;
+    }
+
+    QAction *Eintrag(const char *name) const { return Finden<QAction>(haupt, name); }
+    void Wählen(const char *name) const { Eintrag(name)->trigger(); }
+
+    QPointer<HauptForm> haupt;
+};
+
+} // namespace altardienst
