@@ -47,6 +47,12 @@ int SekundenVon(Datum datum)
     return static_cast<int>(std::nearbyint(bruch * SekundenProTag)) % SekundenProTag;
 }
 
+Datum UhrzeitWeiter(Datum zeit, int sekunden)
+{
+    const int neu = (SekundenVon(zeit) + sekunden) % SekundenProTag;
+    return ZeitAus(neu < 0 ? neu + SekundenProTag : neu);
+}
+
 int Wochentag(Datum datum)
 {
     int tag = static_cast<int>(std::trunc(datum)) + 6; // day 0 was a Saturday

@@ -33,6 +33,9 @@ constexpr Datum ZeitAus(int sekunden)
 /// The time of day in whole seconds, 0 to 86399.
 int SekundenVon(Datum datum);
 
+/// The time of day some seconds later (or earlier), wrapped around midnight.
+Datum UhrzeitWeiter(Datum zeit, int sekunden);
+
 /// Weekday number, 1 Sunday to 7 Saturday.
 int Wochentag(Datum datum);
 

@@ -70,17 +70,22 @@ void HauptfensterSetzen(QWidget *haupt)
     Hauptfenster = haupt;
 }
 
-void DialogÖffnen(QWidget *dialog)
+void DialogDanebenÖffnen(QWidget *dialog)
 {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+    dialog->activateWindow();
+}
+
+void DialogÖffnen(QWidget *dialog)
+{
     if (Hauptfenster) {
         if (Hauptfenster->isEnabled())
             FokusZuvor = Hauptfenster->focusWidget();
         Hauptfenster->setEnabled(false);
         Hauptfenster->showMinimized();
     }
-    dialog->show();
-    dialog->activateWindow();
+    DialogDanebenÖffnen(dialog);
 }
 
 void HauptfensterZurück()

@@ -16,6 +16,9 @@ void HauptfensterSetzen(QWidget *haupt);
 /// Disables and minimises the main window and shows the dialog, which deletes itself when closed.
 void DialogÖffnen(QWidget *dialog);
 
+/// Shows the dialog beside the main window, which stays as it is.
+void DialogDanebenÖffnen(QWidget *dialog);
+
 /// What a dialog does last: enables the main window, sets it to maximised and gives the focus back
 /// to the control that had it.
 void HauptfensterZurück();

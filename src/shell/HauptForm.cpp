@@ -11,6 +11,8 @@
 #include "fenster/Bausteine.h"
 #include "fenster/Handler.h"
 #include "planning/MessenBestimmen.h"
+#include "planning/MessenlisteForm.h"
+#include "planning/StandardmessenForm.h"
 #include "platform/Uhr.h"
 #include "printing/DialogForm.h"
 #include "printing/DruckForm.h"
@@ -170,11 +172,12 @@ void HauptForm::MenüDaten()
     Eintrag(daten, "mnuEtiketten", "Et&ikettengröße", [] { DialogÖffnen(new EtikettenForm); });
     Trennstrich(daten, "mnufilebar7");
     Eintrag(daten, "mnuGruppe", "&Gruppe", NochNicht);
-    Eintrag(daten, "mnuStandardmessen", "&Standardmessen", NochNicht);
+    Eintrag(daten, "mnuStandardmessen", "&Standardmessen",
+            [] { DialogÖffnen(new StandardmessenForm); });
     Eintrag(daten, "mnuHelfer", "&Helfer", NochNicht);
     Eintrag(daten, "mnuMeßdiener", "&Meßdiener", NochNicht);
     Eintrag(daten, "MnuMESSDIENZUMESS", "Meßdiener &zu Messen", NochNicht);
-    Eintrag(daten, "mnuMessen", "M&essen", NochNicht);
+    Eintrag(daten, "mnuMessen", "M&essen", [] { DialogÖffnen(new MessenlisteForm); });
     Trennstrich(daten, "mnuFileBar6");
     Eintrag(daten, "mnuJubGeb", "&Jubiläen und Geburtstage", NochNicht);
 
@@ -262,12 +265,16 @@ void HauptForm::Verbinden()
         if (aktion)
             connect(knopf, &QPushButton::clicked, this, Offen(aktion));
     };
-    schritt(Messenorgani, MessenNeuBestimmen);
+    schritt(Messenorgani, [] {
+        MessenNeuBestimmen();
+        // The one case in which the main window stays enabled behind a dialog.
+        DialogDanebenÖffnen(new MessenlisteForm);
+    });
     schritt(Meßdienernern, NochNicht);
     schritt(Dienstus, MessenMitMeßdienerBesetzen);
     schritt(MeßdienerMessen, WunschpartnerBerücksichtigen);
     schritt(Helfend, MessenMitMessehelferBesetzen);
-    schritt(AnzMesse, NochNicht);
+    schritt(AnzMesse, [] { DialogÖffnen(new MessenlisteForm); });
     schritt(Messendruck, PlanDrucken);
 
     connect(Timer1, &QTimer::timeout, this, Abgefangen([this] { Takt(); }));

@@ -25,7 +25,7 @@ void KerzeZeichnen(QPainter &stift, int x, int fuß)
 }
 
 /// A village church on a hill between two candles, in black on white.
-QBitmap EingebautesBild()
+QPixmap EingebautesBild()
 {
     QBitmap bild(EingebauteGröße);
     bild.fill(Qt::color0);
@@ -66,7 +66,9 @@ QBitmap EingebautesBild()
     stift.setBrush(Qt::NoBrush);
     KerzeZeichnen(stift, 110, 400);
     KerzeZeichnen(stift, 620, 400);
-    return bild;
+    stift.end();
+    // A bitmap would be painted with its white see-through.
+    return QPixmap::fromImage(bild.toImage().convertToFormat(QImage::Format_RGB32));
 }
 
 } // namespace
@@ -110,8 +112,11 @@ void Hintergrundbild::BildSetzen(const QPixmap &neu)
 void Hintergrundbild::paintEvent(QPaintEvent *)
 {
     const QSize platz = bild.size().scaled(size(), Qt::KeepAspectRatio);
-    if (passend.size() != platz)
-        passend = QPixmap(bild).scaled(platz, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QSize punkte = platz * devicePixelRatioF();
+    if (passend.size() != punkte) {
+        passend = bild.scaled(punkte, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        passend.setDevicePixelRatio(devicePixelRatioF());
+    }
     QPainter stift(this);
     stift.drawPixmap((width() - platz.width()) / 2, (height() - platz.height()) / 2, passend);
 }

@@ -29,7 +29,7 @@ class Hintergrundbild : public QWidget {
     void BildSetzen(const QPixmap &neu);
 
     QPixmap bild;
-    QPixmap passend; // the picture at the present size of the control
+    QPixmap passend; // the picture at the present size of the control, in dots of the screen
     Text gezeigterPfad;
     QDateTime gezeigterStand;
     qint64 gezeigteGröße = -1;

@@ -1,0 +1,19 @@
+// Boxes for a date or a time of day: their steps and how they are rewritten.
+#pragma once
+
+#include <QLineEdit>
+
+namespace altardienst {
+
+// Each reads the box and rewrites it; failure 13 if it holds no date or time.
+void TageWeiter(QLineEdit *feld, int tage);
+void MonateWeiter(QLineEdit *feld, int monate);
+void JahreWeiter(QLineEdit *feld, int jahre);
+void StundenWeiter(QLineEdit *feld, int stunden);
+void MinutenWeiter(QLineEdit *feld, int minuten);
+
+/// In the short date format or the long time format of the locale.
+void AlsKurzesDatum(QLineEdit *feld);
+void AlsLangeZeit(QLineEdit *feld);
+
+} // namespace altardienst

@@ -1,0 +1,54 @@
+// The number box of the record editors.
+#include "fenster/Zahlbox.h"
+
+#include "core/Umwandlung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+
+#include <algorithm>
+
+namespace altardienst {
+
+Zahlbox ZahlboxAnlegen(const char *name, const char *spinName, const char *text)
+{
+    QLineEdit *feld = Textfeld(name);
+    feld->setFixedWidth(48);
+    const QByteArray gesprochen = QString::fromUtf8(text).remove(':').toUtf8() + " ändern";
+    return {feld, new SpinButton(spinName, gesprochen.constData())};
+}
+
+void ZahlboxAnordnen(QGridLayout *raster, int zeile, int spalte, const char *text,
+                     const Zahlbox &box)
+{
+    raster->addWidget(Beschriftung("", text, box.Feld), zeile, spalte);
+    raster->addWidget(box.Feld, zeile, spalte + 1);
+    raster->addWidget(box.Spin, zeile, spalte + 2);
+}
+
+void DrehenVerbinden(const Zahlbox &box)
+{
+    SchritteVerbinden(nullptr, nullptr, box.Spin, [feld = box.Feld](int richtung) {
+        Abgefangen([&] { ZahlSetzen(feld, Int16(ZahlIn(feld)) + richtung); })();
+    });
+}
+
+int ZahlIn(const QLineEdit *feld)
+{
+    return Int16Lesen(TextVon(feld));
+}
+
+void ZahlSetzen(QLineEdit *feld, int zahl)
+{
+    Setzen(feld, ZahlText(zahl));
+}
+
+int Begrenzen(QLineEdit *feld, int von, int bis)
+{
+    const int zahl = ZahlIn(feld);
+    const int erlaubt = std::clamp(zahl, von, bis);
+    if (erlaubt != zahl)
+        ZahlSetzen(feld, erlaubt);
+    return erlaubt;
+}
+
+} // namespace altardienst

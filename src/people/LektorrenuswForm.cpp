@@ -1,0 +1,227 @@
+// The helpers of one mass, shown and set by hand.
+#include "people/LektorrenuswForm.h"
+
+#include "core/tables.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "people/Namen.h"
+#include "platform/Meldungen.h"
+
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+/// One of the eight places: its names on the screen and its fields in the table.
+struct Platznamen {
+    const char *Aufschrift;
+    const char *LH;
+    const char *Vor;
+    const char *Nach;
+    MesseTabelle::Spalte<Text> &VorFeld;
+    MesseTabelle::Spalte<Text> &NachFeld;
+};
+
+const std::array<Platznamen, 8> Namen = {{
+    {"Lektor 1:", "LH1", "Lecki1Vor", "Lecki1nach", Messe.Lektor1Vor, Messe.Lektor1Nach},
+    {"Lektor 2:", "LH2", "Lecki2Vor", "Lecki2Nach", Messe.Lektor2Vor, Messe.Lektor2Nach},
+    {"Kommunionhelfer 1:", "LH3", "Komm1Vor", "Komm1Nach", Messe.Komm1Vor, Messe.Komm1Nach},
+    {"Kommunionhelfer 2:", "LH4", "Kommt2Vor", "Kommt2Nach", Messe.Komm2Vor, Messe.Komm2Nach},
+    {"Kantor 1:", "LH5", "Kant1Vor", "Kant1Nach", Messe.Kantor1Vor, Messe.Kantor1Nach},
+    {"Kantor 2:", "LH6", "Kant2Vor", "Kant2Nach", Messe.Kantor2Vor, Messe.Kantor2Nach},
+    {"Kollektant 1:", "LH7", "Ko1Vor", "Ko1Nach", Messe.Kollekt1Vor, Messe.Kollekt1Nach},
+    {"Kollektant 2:", "LH8", "Ko2Vor", "Ko2Nach", Messe.Kollekt2Vor, Messe.Kollekt2Nach},
+}};
+
+constexpr std::array<const char *, 4> Zahltexte = {
+    "Lektor:", "Kommunionhelfer:", "Kantor/in:", "Kollektant:"};
+
+std::array<MesseTabelle::Spalte<Int16> *, 4> Zahlspalten()
+{
+    return {&Messe.LektorZahl, &Messe.KommZahl, &Messe.KantorZahl, &Messe.KollektZahl};
+}
+
+bool IstHelfer(const Text &listenname)
+{
+    for (int h = 0; h < Helfer.Anzahl; ++h)
+        if (Listenname(Helfer.Nachname[h], Helfer.Vorname[h]) == listenname)
+            return true;
+    return false;
+}
+
+QComboBox *Namenwahl(const char *name, const char *text)
+{
+    auto *kombo = Benannt(new QComboBox, name);
+    kombo->setEditable(true);
+    kombo->setInsertPolicy(QComboBox::NoInsert);
+    kombo->setMinimumContentsLength(22);
+    kombo->setAccessibleName(QString::fromUtf8(text).remove(':'));
+    return kombo;
+}
+
+} // namespace
+
+LektorrenuswForm::LektorrenuswForm(std::function<void()> danach)
+    : Zahlen{ZahlboxAnlegen("Lecki", "Änderung1", Zahltexte[0]),
+             ZahlboxAnlegen("Kommi", "Änderung2", Zahltexte[1]),
+             ZahlboxAnlegen("Kanto", "Änderung3", Zahltexte[2]),
+             ZahlboxAnlegen("Kolt", "Änderung4", Zahltexte[3])},
+      Ende(Knopf("Ende", "Ende")), danach(std::move(danach))
+{
+    Benannt(this, "Lektorrenusw");
+    setWindowTitle("Lektoren usw.");
+    for (std::size_t p = 0; p < Plätze.size(); ++p) {
+        const Platznamen &n = Namen[p];
+        QComboBox *kombo = Namenwahl(n.LH, n.Aufschrift);
+        Plätze[p] = {altardienst::Beschriftung("", n.Aufschrift), kombo, Textfeld(n.Vor),
+                     Textfeld(n.Nach)};
+        const QString wer = QString::fromUtf8(n.Aufschrift).remove(':');
+        Plätze[p].Vor->setAccessibleName("Vorname " + wer);
+        Plätze[p].Nach->setAccessibleName("Nachname " + wer);
+    }
+    Anordnen();
+    Verbinden();
+    Offen([this] { Füllen(); })();
+}
+
+void LektorrenuswForm::Anordnen()
+{
+    auto *raster = new QGridLayout;
+    raster->setHorizontalSpacing(10);
+    raster->setVerticalSpacing(8);
+    for (std::size_t p = 0; p < Plätze.size(); ++p) {
+        const int zeile = static_cast<int>(p);
+        if (p % 2 == 0)
+            ZahlboxAnordnen(raster, zeile, 0, Zahltexte[p / 2], Zahlen[p / 2]);
+        const Platz &platz = Plätze[p];
+        platz.Beschriftung->setBuddy(platz.LH);
+        raster->addWidget(platz.Beschriftung, zeile, 3);
+        raster->addWidget(platz.LH, zeile, 4);
+        raster->addWidget(platz.Vor, zeile, 5);
+        raster->addWidget(platz.Nach, zeile, 6);
+    }
+    raster->setColumnStretch(5, 1);
+    raster->setColumnStretch(6, 1);
+
+    auto *unten = new QHBoxLayout;
+    unten->addStretch();
+    Ende->setMinimumWidth(110);
+    unten->addWidget(Ende);
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(20, 20, 20, 20);
+    spalte->setSpacing(18);
+    spalte->addLayout(raster);
+    spalte->addStretch();
+    spalte->addLayout(unten);
+}
+
+void LektorrenuswForm::Verbinden()
+{
+    for (std::size_t art = 0; art < Zahlen.size(); ++art) {
+        const Zahlbox &box = Zahlen[art];
+        connect(box.Feld, &QLineEdit::textChanged, this, [this, art] { ZahlGeändert(art); });
+        SchritteVerbinden(nullptr, nullptr, box.Spin, [feld = box.Feld](int richtung) {
+            Abgefangen([&] {
+                ZahlSetzen(feld, Int16(ZahlIn(feld)) + richtung);
+                feld->setFocus();
+            })();
+        });
+    }
+    for (std::size_t p = 0; p < Plätze.size(); ++p)
+        BeiFokusVerlust(Plätze[p].LH, Abgefangen([this, p] { KomboVerlassen(p); }));
+    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void LektorrenuswForm::Füllen()
+{
+    const int i = Messe.Cursor;
+    for (std::size_t art = 0; art < Zahlen.size(); ++art)
+        ZahlSetzen(Zahlen[art].Feld, (*Zahlspalten()[art])[i]);
+    for (int h = 0; h < Helfer.Anzahl; ++h)
+        for (const Platz &platz : Plätze)
+            platz.LH->addItem(Anzeige(Listenname(Helfer.Nachname[h], Helfer.Vorname[h])));
+    for (std::size_t p = 0; p < Plätze.size(); ++p) {
+        const Text &vor = Namen[p].VorFeld[i];
+        const Text &nach = Namen[p].NachFeld[i];
+        Setzen(Plätze[p].Vor, vor);
+        Setzen(Plätze[p].Nach, nach);
+        const bool besetzt = !vor.empty() && !nach.empty();
+        Plätze[p].LH->setCurrentText(besetzt ? Anzeige(Listenname(nach, vor)) : QString());
+    }
+}
+
+/// Stepwise: a count that is no number changes nothing.
+void LektorrenuswForm::ZahlGeändert(std::size_t art)
+{
+    QLineEdit *feld = Zahlen[art].Feld;
+    const auto schalten = [feld](const Platz &platz, int ab) {
+        const bool aktiv = ZahlIn(feld) > ab;
+        for (QWidget *control :
+             std::initializer_list<QWidget *>{platz.Beschriftung, platz.Vor, platz.Nach, platz.LH})
+            control->setEnabled(aktiv);
+    };
+    Schrittweise([&] { Begrenzen(feld, 0, 2); }, [&] { schalten(Plätze[2 * art], 0); },
+                 [&] { schalten(Plätze[2 * art + 1], 1); })();
+}
+
+void LektorrenuswForm::KomboVerlassen(std::size_t p)
+{
+    const Platz &platz = Plätze[p];
+    const Text text = platz.LH->currentText().toStdString();
+    for (std::size_t q = 0; q < Plätze.size(); ++q) {
+        if (q == p || text.empty() || Plätze[q].LH->currentText().toStdString() != text)
+            continue;
+        Meldungen.Zeigen("Meßhelfer ist schon dieser Messe zugeordnet!!!");
+        return KomboZurück(platz);
+    }
+    if (text.empty() || IstHelfer(text))
+        return NamenTeilen();
+    Meldungen.Zeigen("Meßhelfer ist unbekannt!! Auswählen oder neu eingeben!!");
+    KomboZurück(platz);
+}
+
+/// Back to the names of the place.
+void LektorrenuswForm::KomboZurück(const Platz &platz)
+{
+    const Text name = Listenname(TextVon(platz.Nach), TextVon(platz.Vor));
+    platz.LH->setCurrentText(name == "," ? QString() : Anzeige(name));
+}
+
+void LektorrenuswForm::NamenTeilen()
+{
+    for (const Platz &platz : Plätze) {
+        Text nachname = TextVon(platz.Nach);
+        Text vorname = TextVon(platz.Vor);
+        NameTeilen(platz.LH->currentText().toStdString(), nachname, vorname);
+        Setzen(platz.Nach, nachname);
+        Setzen(platz.Vor, vorname);
+    }
+}
+
+void LektorrenuswForm::Schreiben()
+{
+    const int i = Messe.Cursor;
+    for (std::size_t art = 0; art < Zahlen.size(); ++art) {
+        (*Zahlspalten()[art])[i] = ZahlIn(Zahlen[art].Feld);
+        for (std::size_t p = 2 * art; p < 2 * art + 2; ++p) {
+            Namen[p].VorFeld[i] = TextVon(Plätze[p].Vor);
+            Namen[p].NachFeld[i] = TextVon(Plätze[p].Nach);
+        }
+    }
+}
+
+/// A count that is no number keeps the dialog open, with the failure shown.
+void LektorrenuswForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->ignore();
+    Offen([&] {
+        Schreiben();
+        ereignis->accept();
+        danach();
+    })();
+}
+
+} // namespace altardienst

@@ -1,0 +1,308 @@
+// The mass list: any mass corrected by hand, one at a time.
+#include "planning/MessenlisteForm.h"
+
+#include "core/Umwandlung.h"
+#include "core/tables.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "fenster/Terminbox.h"
+#include "people/LektorrenuswForm.h"
+#include "planning/NeuMesseForm.h"
+#include "platform/Meldungen.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+constexpr int LetzterDatensatz = 600;
+
+QString Nummeriert(const char *stamm, std::size_t k)
+{
+    return QString::fromUtf8(stamm) + QString::number(k + 1);
+}
+
+} // namespace
+
+MessenlisteForm::MessenlisteForm()
+    : Wahl(new Datensatzwahl({"Datensatzus", "Plus", "Minus", "DPM"})),
+      maxi(Beschriftung("maxi", "")), mt(Minusknopf("mt", "einen Tag früher")),
+      pt(Plusknopf("pt", "einen Tag später")), mm(Minusknopf("mm", "einen Monat früher")),
+      pm(Plusknopf("pm", "einen Monat später")), mj(Minusknopf("mj", "ein Jahr früher")),
+      pj(Plusknopf("pj", "ein Jahr später")), mhh(Minusknopf("mhh", "eine Stunde früher")),
+      phh(Plusknopf("phh", "eine Stunde später")), mmin(Minusknopf("mmin", "fünf Minuten früher")),
+      pmin(Plusknopf("pmin", "fünf Minuten später")), Messewesen(Textfeld("Messewesen")),
+      Dienste({{"Dienerzahlen", "Dienster1", "Dienster2", "Dienster3", "Dienster4", "Dienster5",
+                "Dienster6"},
+               {"Ä1", "Ä2", "Ä3", "Ä4", "Ä5", "Ä6", "Ä7"},
+               {"Meßdienerzahl:", "Gabenbereitung:", "Leuchter:", "Flambeaus:", "Weihrauch:",
+                "Kreuzträger:", "Allgemein:"}}),
+      Löscher(Knopf("Löscher", "Datensatz löschen")), NeuMeß(Knopf("NeuMeß", "neue Messe")),
+      Lektoren(Knopf("Lektoren", "Lektoren und ...")), Ende(Knopf("Ende", "Ende"))
+{
+    Benannt(this, "Messenliste");
+    setWindowTitle("Messenliste");
+    for (std::size_t k = 0; k < MDR.size(); ++k) {
+        vor[k] = Textfeld(Nummeriert("vor", k).toUtf8().constData());
+        nach[k] = Textfeld(Nummeriert("nach", k).toUtf8().constData());
+        MDR[k] = Beschriftung(("MDR[" + std::to_string(k) + "]").c_str(),
+                              (Nummeriert("Meßdiener ", k) + ":").toUtf8().constData(), vor[k]);
+        vor[k]->setAccessibleName(Nummeriert("Vorname Meßdiener ", k));
+        nach[k]->setAccessibleName(Nummeriert("Nachname Meßdiener ", k));
+    }
+    Anordnen();
+    Verbinden();
+    Abgefangen([this] {
+        ZahlSetzen(Wahl->Nummer, Messe.Cursor);
+        AnzahlZeigen();
+        Zeigen(Messe.Cursor);
+        Beschriften();
+    })();
+}
+
+void MessenlisteForm::Anordnen()
+{
+    auto *kopf = new QHBoxLayout;
+    kopf->addWidget(Wahl);
+    kopf->addSpacing(24);
+    kopf->addWidget(Beschriftung("NBe", "Anzahl Datensätze:"));
+    kopf->addWidget(maxi);
+    kopf->addStretch();
+
+    auto *termin = new QGridLayout;
+    termin->setHorizontalSpacing(10);
+    Termin.Anordnen(termin, 0, Terminknöpfe());
+    termin->addWidget(Beschriftung("", "Art:", Messewesen), 6, 0);
+    termin->addWidget(Messewesen, 6, 1, 1, 2);
+    auto *dienste = new QGridLayout;
+    dienste->setVerticalSpacing(4);
+    Dienste.Anordnen(dienste, 0);
+    dienste->setColumnStretch(3, 1);
+
+    auto *links = new QVBoxLayout;
+    links->setSpacing(14);
+    links->addLayout(kopf);
+    links->addLayout(termin);
+    links->addLayout(dienste);
+    links->addStretch();
+
+    auto *mitte = new QHBoxLayout;
+    mitte->setSpacing(20);
+    mitte->addLayout(links);
+    mitte->addWidget(Slots(), 1);
+
+    auto *unten = new QHBoxLayout;
+    for (QPushButton *knopf : {Löscher, NeuMeß, Lektoren})
+        unten->addWidget(knopf);
+    unten->addStretch();
+    Ende->setMinimumWidth(110);
+    unten->addWidget(Ende);
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(16, 16, 16, 16);
+    spalte->setSpacing(12);
+    spalte->addLayout(mitte, 1);
+    spalte->addLayout(unten);
+    Wahl->Nummer->setFocus();
+}
+
+/// Rows that a mass does not use are hidden from the bottom up, so they leave no hole.
+QWidget *MessenlisteForm::Slots()
+{
+    auto *fläche = new QWidget;
+    auto *raster = new QGridLayout(fläche);
+    raster->setVerticalSpacing(3);
+    for (int k = 0; k < static_cast<int>(MDR.size()); ++k) {
+        const auto zeile = static_cast<std::size_t>(k);
+        raster->addWidget(MDR[zeile], k, 0);
+        raster->addWidget(vor[zeile], k, 1);
+        raster->addWidget(nach[zeile], k, 2);
+    }
+    raster->setColumnMinimumWidth(0, MDR[0]->fontMetrics().horizontalAdvance("Meßdiener 20 :"));
+    raster->setRowStretch(static_cast<int>(MDR.size()), 1);
+    auto *rollbar = Benannt(new QScrollArea, "Slots");
+    rollbar->setWidgetResizable(true);
+    rollbar->setFrameShape(QFrame::NoFrame);
+    rollbar->setFocusPolicy(Qt::NoFocus);
+    rollbar->setMinimumWidth(420);
+    rollbar->setWidget(fläche);
+    return rollbar;
+}
+
+Terminfelder::Knöpfe MessenlisteForm::Terminknöpfe() const
+{
+    return {{mt, pt}, {mm, pm}, {mj, pj}, {mhh, phh}, {mmin, pmin}};
+}
+
+void MessenlisteForm::Verbinden()
+{
+    Wahl->BeiWechsel(Abgefangen([this] { NummerGeändert(); }));
+    Wahl->BeiSchritt([this](int richtung) { Abgefangen([&] { Schritt(richtung); })(); });
+    // The change of the box itself presses `Taga`.
+    Termin.Verbinden(Terminknöpfe(), [] {});
+    connect(Termin.datendaten, &QLineEdit::textChanged, this,
+            Abgefangen([this] { DatumGeändert(); }));
+    Dienste.Verbinden([this] { DienerzahlGeändert(); });
+    connect(Löscher, &QPushButton::clicked, this, Abgefangen([this] { Löschen(); }));
+    connect(NeuMeß, &QPushButton::clicked, this, Abgefangen([this] { NeueMesse(); }));
+    connect(Lektoren, &QPushButton::clicked, this, Abgefangen([this] { HelferDerMesse(); }));
+    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+}
+
+/// Stepping one past the end adds an empty mass to the table, without a question.
+void MessenlisteForm::NummerGeändert()
+{
+    int nummer = Begrenzen(Wahl->Nummer, 0, LetzterDatensatz);
+    AnzahlZeigen();
+    if (nummer > Messe.Anzahl + 1) {
+        nummer = Messe.Anzahl;
+        ZahlSetzen(Wahl->Nummer, nummer);
+    }
+    if (nummer > Messe.Anzahl)
+        Messe.Anzahl = nummer;
+    Zeigen(nummer);
+    Messe.Cursor = nummer;
+    Beschriften();
+}
+
+void MessenlisteForm::Schritt(int richtung)
+{
+    Mitziehen();
+    if (Wahl->Nummer->text().isEmpty())
+        ZahlSetzen(Wahl->Nummer, 0);
+    const int i = ZahlIn(Wahl->Nummer);
+    Schreiben(i);
+    if (richtung > 0 ? i < LetzterDatensatz : i > 0) {
+        Zeigen(i + richtung);
+        ZahlSetzen(Wahl->Nummer, i + richtung);
+    }
+}
+
+void MessenlisteForm::DatumGeändert()
+{
+    AlsKurzesDatum(Termin.datendaten);
+    Termin.WochentagBestimmen();
+}
+
+void MessenlisteForm::DienerzahlGeändert()
+{
+    const int diener = Dienste.DienerzahlBegrenzen();
+    for (std::size_t k = 0; k < MDR.size(); ++k) {
+        const bool sichtbar = diener > static_cast<int>(k);
+        MDR[k]->setVisible(sichtbar);
+        vor[k]->setVisible(sichtbar);
+        nach[k]->setVisible(sichtbar);
+    }
+    Beschriften();
+}
+
+void MessenlisteForm::Beschriften()
+{
+    const auto texte = SlotBeschriftungen(Dienste.Wünsche());
+    for (std::size_t k = 0; k < MDR.size(); ++k)
+        Setzen(MDR[k], texte[k]);
+}
+
+void MessenlisteForm::Löschen()
+{
+    if (!Meldungen.Fragen("Wirklich?", "Löschen einer Messe") || Messe.Anzahl <= 2)
+        return;
+    const auto zurückInDieTabelle = [this] {
+        if (ZahlIn(Wahl->Nummer) >= Messe.Anzahl)
+            ZahlSetzen(Wahl->Nummer, Messe.Anzahl - 1);
+    };
+    zurückInDieTabelle();
+    MesseVorziehen(ZahlIn(Wahl->Nummer));
+    Zeigen(ZahlIn(Wahl->Nummer));
+    Messe.Wochentag[Messe.Anzahl].clear();
+    zurückInDieTabelle();
+    if (Messe.Anzahl >= 2)
+        --Messe.Anzahl;
+    AnzahlZeigen();
+    Beschriften();
+}
+
+void MessenlisteForm::NeueMesse()
+{
+    hide();
+    auto *neu = new NeuMesseForm(*this);
+    neu->setAttribute(Qt::WA_DeleteOnClose);
+    neu->show();
+    Zeigen(Messe.Cursor);
+}
+
+void MessenlisteForm::NachNeuerMesse(bool angelegt)
+{
+    show();
+    if (!angelegt)
+        return;
+    Abgefangen([this] {
+        AnzahlZeigen();
+        Zeigen(ZahlIn(Wahl->Nummer));
+    })();
+}
+
+void MessenlisteForm::HelferDerMesse()
+{
+    hide();
+    auto *helfer = new LektorrenuswForm([this] { show(); });
+    helfer->setAttribute(Qt::WA_DeleteOnClose);
+    helfer->show();
+}
+
+/// A fixed entry follows its mass when the mass is moved.
+void MessenlisteForm::Mitziehen()
+{
+    FesteEintraegeMitziehen(ZahlIn(Wahl->Nummer), DatumLesen(TextVon(Termin.datendaten)),
+                            DatumLesen(TextVon(Termin.Uhrwerk)));
+}
+
+void MessenlisteForm::Zeigen(int i)
+{
+    Setzen(Termin.tagelang, Messe.Wochentag[i]);
+    Setzen(Termin.datendaten, KurzesDatum(Messe.Datum[i]));
+    Setzen(Termin.Uhrwerk, LangeZeit(Messe.Uhrzeit[i]));
+    Setzen(Messewesen, Messe.Messeart[i]);
+    Dienste.Zeigen(Messe, i);
+    for (std::size_t k = 0; k < MDR.size(); ++k) {
+        const int slot = static_cast<int>(k) + 1;
+        Setzen(vor[k], Messe.DienerVor[i][slot]);
+        Setzen(nach[k], Messe.DienerNach[i][slot]);
+    }
+}
+
+void MessenlisteForm::Schreiben(int i)
+{
+    Messe.Wochentag[i] = TextVon(Termin.tagelang);
+    Messe.Datum[i] = DatumLesen(TextVon(Termin.datendaten));
+    Messe.Uhrzeit[i] = DatumLesen(TextVon(Termin.Uhrwerk));
+    Messe.Messeart[i] = TextVon(Messewesen);
+    Dienste.Schreiben(Messe, i);
+    for (std::size_t k = 0; k < MDR.size(); ++k) {
+        const int slot = static_cast<int>(k) + 1;
+        Messe.DienerVor[i][slot] = TextVon(vor[k]);
+        Messe.DienerNach[i][slot] = TextVon(nach[k]);
+    }
+}
+
+void MessenlisteForm::AnzahlZeigen()
+{
+    Setzen(maxi, ZahlText(Messe.Anzahl));
+}
+
+void MessenlisteForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->ignore();
+    Abgefangen([&] {
+        Mitziehen();
+        Schreiben(ZahlIn(Wahl->Nummer));
+        ereignis->accept();
+        HauptfensterZurück();
+    })();
+}
+
+} // namespace altardienst

@@ -1,0 +1,62 @@
+// The mass list: any mass corrected by hand, one at a time.
+#pragma once
+
+#include "fenster/Datensatzwahl.h"
+#include "planning/Dienstboxen.h"
+#include "planning/Terminfelder.h"
+
+#include <array>
+
+namespace altardienst {
+
+/// All handlers are trapped: a box that cannot be converted ends them without a word.
+class MessenlisteForm : public QWidget {
+  public:
+    MessenlisteForm();
+
+    Datensatzwahl *Wahl; // Datensatzus, Plus, Minus, DPM
+    QLabel *maxi;
+    Terminfelder Termin;      // tagelang, Taga, datendaten, Uhrwerk, Änderung1 to 6
+    QPushButton *mt, *pt;     // day
+    QPushButton *mm, *pm;     // month
+    QPushButton *mj, *pj;     // year
+    QPushButton *mhh, *phh;   // hour
+    QPushButton *mmin, *pmin; // five minutes
+    QLineEdit *Messewesen;
+    Dienstboxen Dienste;             // Dienerzahlen, Dienster1 to 6, Ä1 to Ä7
+    std::array<QLabel *, 20> MDR;    // MDR[0] to MDR[19]
+    std::array<QLineEdit *, 20> vor; // vor1 to vor20
+    std::array<QLineEdit *, 20> nach;
+    QPushButton *Löscher;
+    QPushButton *NeuMeß;
+    QPushButton *Lektoren;
+    QPushButton *Ende;
+
+    /// Shows the list again when the dialog for a new mass ends, with the record of its number.
+    void NachNeuerMesse(bool angelegt);
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void Anordnen();
+    QWidget *Slots();
+    Terminfelder::Knöpfe Terminknöpfe() const;
+    void Verbinden();
+
+    void NummerGeändert();
+    void Schritt(int richtung);
+    void DatumGeändert();
+    void DienerzahlGeändert();
+    void Beschriften();
+    void Löschen();
+    void NeueMesse();
+    void HelferDerMesse();
+
+    void Mitziehen();
+    void Zeigen(int i);
+    void Schreiben(int i);
+    void AnzahlZeigen();
+};
+
+} // namespace altardienst

@@ -1,0 +1,155 @@
+// The dialog that adds a mass by hand.
+#include "planning/NeuMesseForm.h"
+
+#include "core/Sortierbefehle.h"
+#include "core/Umwandlung.h"
+#include "core/tables.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "fenster/Terminbox.h"
+#include "planning/MessenlisteForm.h"
+#include "platform/Meldungen.h"
+#include "platform/Uhr.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+constexpr int MeisteMessen = 300;
+
+} // namespace
+
+NeuMesseForm::NeuMesseForm(MessenlisteForm &liste)
+    : Messewesen(Textfeld("Messewesen")),
+      Dienste({{"Dienerzahlen", "Dienster1", "Dienster2", "Dienster3", "Dienster4", "Dienster5",
+                "Dienster6"},
+               {"Ä1", "Ä2", "Ä3", "Ä4", "Ä5", "Ä6", "Ä7"},
+               {"Meßdienerzahl:", "Gabenbereitung:", "Leuchter:", "Flambeaus:", "Weihrauch:",
+                "Kreuzträger:", "Allgemein:"}}),
+      Helferzahlen({{"Lecki", "Kommi", "Kanto", "Kolt"},
+                    {"Ä8", "Ä9", "Ä10", "Ä11"},
+                    {"Lektor:", "Kommunionhelfer:", "Kantor/in:", "Kollektant:"}}),
+      OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen")),
+      liste(liste)
+{
+    Benannt(this, "NeuMesse");
+    setWindowTitle("Neue Messe");
+    Anordnen();
+    Verbinden();
+    Termin.tagelang->setText(liste.Termin.tagelang->text());
+    Termin.datendaten->setText(liste.Termin.datendaten->text());
+    Termin.Uhrwerk->setText(liste.Termin.Uhrwerk->text());
+    Messewesen->setText("Messe");
+    for (QLineEdit *feld : Dienste.Felder())
+        ZahlSetzen(feld, 0);
+    for (QLineEdit *feld : Helferzahlen.Felder())
+        ZahlSetzen(feld, 0);
+}
+
+void NeuMesseForm::Anordnen()
+{
+    auto *termin = new QGridLayout;
+    termin->setHorizontalSpacing(10);
+    Termin.Anordnen(termin, 0, {});
+    termin->addWidget(Beschriftung("", "Art:", Messewesen), 6, 0);
+    termin->addWidget(Messewesen, 6, 1, 1, 2);
+
+    auto *dienste = new QGridLayout;
+    Dienste.Anordnen(dienste, 0);
+    auto *helfer = new QGridLayout;
+    Helferzahlen.Anordnen(helfer, 0);
+    helfer->setRowStretch(4, 1);
+    auto *zahlen = new QHBoxLayout;
+    zahlen->setSpacing(36);
+    zahlen->addLayout(dienste);
+    zahlen->addLayout(helfer);
+    zahlen->addStretch();
+
+    auto *unten = new QHBoxLayout;
+    unten->addStretch();
+    for (QPushButton *knopf : {OKButton, CancelButton}) {
+        knopf->setMinimumWidth(110);
+        unten->addWidget(knopf);
+    }
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(20, 20, 20, 20);
+    spalte->setSpacing(18);
+    spalte->addLayout(termin);
+    spalte->addLayout(zahlen);
+    spalte->addStretch();
+    spalte->addLayout(unten);
+    Termin.datendaten->setFocus();
+}
+
+void NeuMesseForm::Verbinden()
+{
+    Termin.Verbinden({}, [this] { Neuberechnen(); });
+    for (QLineEdit *feld : {Termin.datendaten, Termin.Uhrwerk})
+        BeiEingabetaste(feld, Abgefangen([this] { Neuberechnen(); }));
+    Dienste.Verbinden([this] { Dienste.DienerzahlBegrenzen(); });
+    Helferzahlen.Verbinden();
+    connect(OKButton, &QPushButton::clicked, this, Offen([this] { Anlegen(); }));
+    connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
+}
+
+/// A date in the past becomes today.
+void NeuMesseForm::Neuberechnen()
+{
+    AlsKurzesDatum(Termin.datendaten);
+    const Datum heute = Uhr.Heute();
+    if (heute - DatumLesen(TextVon(Termin.datendaten)) > 0)
+        Setzen(Termin.datendaten, KurzesDatum(heute));
+    Termin.WochentagBestimmen();
+}
+
+void NeuMesseForm::Anlegen()
+{
+    if (Messe.Anzahl >= MeisteMessen)
+        return Meldungen.Zeigen("Maximale Anzahl von Datensätze für Messen erreicht!");
+    if (DoppeltEingegeben())
+        return Meldungen.Zeigen("Doppelt eingeben! Nicht mit mir!!!!!");
+    Neuberechnen();
+    Schreiben(Messe.Anzahl);
+    ++Messe.Anzahl;
+    MessenSortieren();
+    angelegt = true;
+    close();
+}
+
+/// The weekday counts as text: a mass of the week pattern with "Montag" is no double of an entry
+/// with the filled-up "Montag    ".
+bool NeuMesseForm::DoppeltEingegeben() const
+{
+    const Datum datum = DatumLesen(TextVon(Termin.datendaten));
+    const Datum uhrzeit = DatumLesen(TextVon(Termin.Uhrwerk));
+    const Text wochentag = TextVon(Termin.tagelang);
+    for (int i = 0; i < Messe.Anzahl; ++i)
+        if (Messe.Datum[i] == datum && Messe.Uhrzeit[i] == uhrzeit &&
+            Messe.Wochentag[i] == wochentag)
+            return true;
+    return false;
+}
+
+void NeuMesseForm::Schreiben(int i)
+{
+    Messe.Wochentag[i] = TextVon(Termin.tagelang);
+    Messe.Datum[i] = DatumLesen(TextVon(Termin.datendaten));
+    Messe.Uhrzeit[i] = DatumLesen(TextVon(Termin.Uhrwerk));
+    Messe.Messeart[i] = TextVon(Messewesen);
+    Dienste.Schreiben(Messe, i);
+    ZahlenSchreiben(
+        Helferzahlen.Felder(),
+        std::array{&Messe.LektorZahl, &Messe.KommZahl, &Messe.KantorZahl, &Messe.KollektZahl}, i);
+}
+
+void NeuMesseForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    liste.NachNeuerMesse(angelegt);
+}
+
+} // namespace altardienst

@@ -1,0 +1,199 @@
+// The editor of the week pattern: one regular mass at a time.
+#include "planning/StandardmessenForm.h"
+
+#include "core/Umwandlung.h"
+#include "core/tables.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "fenster/Terminbox.h"
+#include "platform/Meldungen.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+constexpr int LetzterDatensatz = 10;
+
+auto Helferspalten()
+{
+    return std::array{&Standardmesse.Lektor, &Standardmesse.Kommunion, &Standardmesse.Kantor,
+                      &Standardmesse.Kollektant};
+}
+
+} // namespace
+
+StandardmessenForm::StandardmessenForm()
+    : Wahl(new Datensatzwahl({"Datensatznummer", "Plus", "Minus", "DPM"})),
+      Tage(Benannt(new QComboBox, "Tage")), Zeitig(Textfeld("Zeitig")),
+      Stundenändern(new SpinButton("Stundenändern", "Stunde ändern")),
+      mh(Minusknopf("mh", "eine Stunde früher")), ph(Plusknopf("ph", "eine Stunde später")),
+      Minutenänderung(new SpinButton("Minutenänderung", "Minuten ändern")),
+      mMin(Minusknopf("mMin", "fünf Minuten früher")),
+      pMini(Plusknopf("pMini", "fünf Minuten später")), Messearten(Textfeld("Messearten")),
+      Dienste({{"ZahlMeßdiener", "DienstA", "DienstB", "DienstC", "DienstD", "Dienste", "DienstF"},
+               {"Änderung1", "Änderung2", "Änderung3", "Änderung4", "Änderung5", "Änderung6",
+                "Änderung7"},
+               {"Anzahl Meßdiener", "Gabenbereitung", "Leuchter", "Flambeaus", "Weihrauch",
+                "Kreuzträger", "Allgemein"}}),
+      Helferzahlen({{"Leck", "Komu", "Kanto", "Kolle"},
+                    {"Änderung8", "Änderung9", "Änderung10", "Änderung11"},
+                    {"Lektor", "Kommunionhelfer", "Kantor/in", "Kollektant"}}),
+      Löschig(Knopf("Löschig", "Löschen")), Ende(Knopf("Ende", "Ende"))
+{
+    Benannt(this, "Standardmessen");
+    setWindowTitle("Standardmessen");
+    for (const char *tag :
+         {"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"})
+        Tage->addItem(tag);
+    Anordnen();
+    Verbinden();
+    Offen([this] {
+        ZahlSetzen(Wahl->Nummer, Standardmesse.Anzahl);
+        Zeigen(Standardmesse.Anzahl);
+    })();
+}
+
+void StandardmessenForm::Anordnen()
+{
+    auto *zeit = new QHBoxLayout;
+    Zeitig->setFixedWidth(80);
+    for (QWidget *control : std::initializer_list<QWidget *>{Zeitig, Stundenändern, mh, ph,
+                                                             Minutenänderung, mMin, pMini})
+        zeit->addWidget(control);
+    zeit->addStretch();
+
+    auto *oben = new QGridLayout;
+    oben->setHorizontalSpacing(12);
+    oben->addWidget(Beschriftung("", "Wochentag", Tage), 0, 0);
+    oben->addWidget(Tage, 0, 1, Qt::AlignLeft);
+    oben->addWidget(Beschriftung("", "Uhrzeit", Zeitig), 1, 0);
+    oben->addLayout(zeit, 1, 1);
+    oben->addWidget(Beschriftung("", "Art", Messearten), 2, 0);
+    oben->addWidget(Messearten, 2, 1);
+
+    auto *dienste = new QGridLayout;
+    Dienste.Anordnen(dienste, 0);
+    auto *helfer = new QGridLayout;
+    Helferzahlen.Anordnen(helfer, 0);
+    helfer->setRowStretch(4, 1);
+    auto *zahlen = new QHBoxLayout;
+    zahlen->setSpacing(40);
+    zahlen->addLayout(dienste);
+    zahlen->addLayout(helfer);
+    zahlen->addStretch();
+
+    auto *unten = new QHBoxLayout;
+    unten->addWidget(Wahl);
+    unten->addStretch();
+    unten->addWidget(Löschig);
+    unten->addWidget(Ende);
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(20, 20, 20, 20);
+    spalte->setSpacing(18);
+    spalte->addLayout(oben);
+    spalte->addLayout(zahlen);
+    spalte->addStretch();
+    spalte->addLayout(unten);
+    Tage->setFocus();
+}
+
+void StandardmessenForm::Verbinden()
+{
+    Wahl->BeiWechsel(Abgefangen([this] { NummerGeändert(); }));
+    Wahl->BeiSchritt([this](int richtung) { Offen([&] { Schritt(richtung); })(); });
+    connect(Zeitig, &QLineEdit::textChanged, this, Abgefangen([this] { AlsLangeZeit(Zeitig); }));
+    const auto zeit = [this](QPushButton *minus, QPushButton *plus, SpinButton *spin,
+                             void (*weiter)(QLineEdit *, int), int schritt) {
+        SchritteVerbinden(minus, plus, spin, [this, weiter, schritt](int richtung) {
+            Abgefangen([&] { weiter(Zeitig, richtung * schritt); })();
+        });
+    };
+    zeit(mh, ph, Stundenändern, StundenWeiter, 1);
+    zeit(mMin, pMini, Minutenänderung, MinutenWeiter, 5);
+    Dienste.Verbinden([this] { DienerzahlGeändert(); });
+    Helferzahlen.Verbinden();
+    connect(Löschig, &QPushButton::clicked, this, [this] { Löschen(); });
+    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+}
+
+/// Typing a number jumps to that record without storing what was on the screen.
+void StandardmessenForm::NummerGeändert()
+{
+    const int nummer = Begrenzen(Wahl->Nummer, 0, LetzterDatensatz);
+    Standardmesse.Anzahl = nummer;
+    Zeigen(nummer);
+}
+
+/// At the ends nothing is written; the number box is moved all the same and clipped by its own
+/// rule.
+void StandardmessenForm::Schritt(int richtung)
+{
+    const int i = Standardmesse.Anzahl;
+    const bool geht = richtung > 0 ? i < LetzterDatensatz : i > 0;
+    if (geht) {
+        Schreiben(i);
+        Zeigen(i + richtung);
+    }
+    ZahlSetzen(Wahl->Nummer, ZahlIn(Wahl->Nummer) + richtung);
+}
+
+void StandardmessenForm::DienerzahlGeändert()
+{
+    QLineEdit *zahl = Dienste.Dienerzahl.Feld;
+    if (!zahl->text().isEmpty())
+        Dienste.DienerzahlBegrenzen();
+    for (QLineEdit *feld : Dienste.Felder())
+        if (feld != zahl && feld->text().isEmpty())
+            ZahlSetzen(feld, 0);
+    if (zahl->text().isEmpty())
+        ZahlSetzen(zahl, 1);
+}
+
+/// Changes the screen only; the weekday stays.
+void StandardmessenForm::Löschen()
+{
+    if (!Meldungen.Fragen("Wirklich?", "Löschen einer Standardmesse"))
+        return;
+    Zeitig->setText("00:00:00");
+    Messearten->clear();
+    for (QLineEdit *feld : Dienste.Felder())
+        ZahlSetzen(feld, 0);
+    for (QLineEdit *feld : Helferzahlen.Felder())
+        ZahlSetzen(feld, 0);
+}
+
+void StandardmessenForm::Zeigen(int i)
+{
+    Tage->setCurrentIndex(Tage->findText(Anzeige(Standardmesse.Wochentag[i])));
+    Setzen(Zeitig, LangeZeit(Standardmesse.Uhrzeit[i]));
+    Setzen(Messearten, Standardmesse.Messeart[i]);
+    Dienste.Zeigen(Standardmesse, i);
+    ZahlenZeigen(Helferzahlen.Felder(), Helferspalten(), i);
+}
+
+void StandardmessenForm::Schreiben(int i)
+{
+    Standardmesse.Wochentag[i] = Tage->currentText().toStdString();
+    Standardmesse.Uhrzeit[i] = DatumLesen(TextVon(Zeitig));
+    Standardmesse.Messeart[i] = TextVon(Messearten);
+    Dienste.Schreiben(Standardmesse, i);
+    ZahlenSchreiben(Helferzahlen.Felder(), Helferspalten(), i);
+}
+
+/// A box that cannot be converted keeps the form open, with the failure shown.
+void StandardmessenForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->ignore();
+    Offen([&] {
+        Schreiben(Standardmesse.Anzahl);
+        ereignis->accept();
+        HauptfensterZurück();
+    })();
+}
+
+} // namespace altardienst
