@@ -3,6 +3,8 @@
 
 #include "Prüfstand.h"
 
+#include <algorithm>
+
 namespace altardienst {
 namespace {
 

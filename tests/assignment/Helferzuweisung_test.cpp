@@ -279,6 +279,12 @@ TEST_F(HelferzuweisungTest, DieLeereMesseHinterDerLetztenGehörtDazu)
     Lauf({0, 1});
     EXPECT_EQ(Plätze(1), "N1 - - - - - - -");
     EXPECT_EQ(Plätze(2), "- - - - - - - -");
+
+    for (int h = 0; h < 4; ++h)
+        Helfer.Dienst1[h] = "Küster";
+    Lauf({2, 3}); // now without the tests
+    EXPECT_EQ(Plätze(1), "N3 - - - - - - -");
+    EXPECT_EQ(Plätze(2), "- - - - - - - -");
 }
 
 } // namespace
