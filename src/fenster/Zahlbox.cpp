@@ -20,6 +20,9 @@ Zahlbox ZahlboxAnlegen(const char *name, const char *spinName, const char *text)
 void ZahlboxAnordnen(QGridLayout *raster, int zeile, int spalte, const char *text,
                      const Zahlbox &box)
 {
+    // A grid within a layout would take over the wide spacing between its parts.
+    raster->setVerticalSpacing(6);
+    raster->setHorizontalSpacing(8);
     raster->addWidget(Beschriftung("", text, box.Feld), zeile, spalte);
     raster->addWidget(box.Feld, zeile, spalte + 1);
     raster->addWidget(box.Spin, zeile, spalte + 2);

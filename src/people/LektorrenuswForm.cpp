@@ -79,6 +79,8 @@ LektorrenuswForm::LektorrenuswForm(std::function<void()> danach)
         Plätze[p] = {altardienst::Beschriftung("", n.Aufschrift), kombo, Textfeld(n.Vor),
                      Textfeld(n.Nach)};
         const QString wer = QString::fromUtf8(n.Aufschrift).remove(':');
+        for (QLineEdit *feld : {Plätze[p].Vor, Plätze[p].Nach})
+            feld->setMinimumWidth(140);
         Plätze[p].Vor->setAccessibleName("Vorname " + wer);
         Plätze[p].Nach->setAccessibleName("Nachname " + wer);
     }

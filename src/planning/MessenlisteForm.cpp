@@ -74,12 +74,10 @@ void MessenlisteForm::Anordnen()
     kopf->addStretch();
 
     auto *termin = new QGridLayout;
-    termin->setHorizontalSpacing(10);
     Termin.Anordnen(termin, 0, Terminknöpfe());
     termin->addWidget(Beschriftung("", "Art:", Messewesen), 6, 0);
     termin->addWidget(Messewesen, 6, 1, 1, 2);
     auto *dienste = new QGridLayout;
-    dienste->setVerticalSpacing(4);
     Dienste.Anordnen(dienste, 0);
     dienste->setColumnStretch(3, 1);
 

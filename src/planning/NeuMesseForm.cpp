@@ -52,7 +52,6 @@ NeuMesseForm::NeuMesseForm(MessenlisteForm &liste)
 void NeuMesseForm::Anordnen()
 {
     auto *termin = new QGridLayout;
-    termin->setHorizontalSpacing(10);
     Termin.Anordnen(termin, 0, {});
     termin->addWidget(Beschriftung("", "Art:", Messewesen), 6, 0);
     termin->addWidget(Messewesen, 6, 1, 1, 2);
@@ -61,11 +60,11 @@ void NeuMesseForm::Anordnen()
     Dienste.Anordnen(dienste, 0);
     auto *helfer = new QGridLayout;
     Helferzahlen.Anordnen(helfer, 0);
-    helfer->setRowStretch(4, 1);
     auto *zahlen = new QHBoxLayout;
     zahlen->setSpacing(36);
     zahlen->addLayout(dienste);
     zahlen->addLayout(helfer);
+    zahlen->setAlignment(helfer, Qt::AlignTop);
     zahlen->addStretch();
 
     auto *unten = new QHBoxLayout;

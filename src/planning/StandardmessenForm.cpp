@@ -61,9 +61,15 @@ void StandardmessenForm::Anordnen()
 {
     auto *zeit = new QHBoxLayout;
     Zeitig->setFixedWidth(80);
-    for (QWidget *control : std::initializer_list<QWidget *>{Zeitig, Stundenändern, mh, ph,
-                                                             Minutenänderung, mMin, pMini})
-        zeit->addWidget(control);
+    zeit->addWidget(Zeitig);
+    const auto schritte = [&](const char *text, std::initializer_list<QWidget *> controls) {
+        zeit->addSpacing(10);
+        zeit->addWidget(Beschriftung("", text));
+        for (QWidget *control : controls)
+            zeit->addWidget(control);
+    };
+    schritte("Stunde", {Stundenändern, mh, ph});
+    schritte("Minuten", {Minutenänderung, mMin, pMini});
     zeit->addStretch();
 
     auto *oben = new QGridLayout;
@@ -79,11 +85,11 @@ void StandardmessenForm::Anordnen()
     Dienste.Anordnen(dienste, 0);
     auto *helfer = new QGridLayout;
     Helferzahlen.Anordnen(helfer, 0);
-    helfer->setRowStretch(4, 1);
     auto *zahlen = new QHBoxLayout;
     zahlen->setSpacing(40);
     zahlen->addLayout(dienste);
     zahlen->addLayout(helfer);
+    zahlen->setAlignment(helfer, Qt::AlignTop);
     zahlen->addStretch();
 
     auto *unten = new QHBoxLayout;

@@ -22,23 +22,27 @@ Terminfelder::Terminfelder()
 
 void Terminfelder::Anordnen(QGridLayout *raster, int zeile, const Knöpfe &knöpfe) const
 {
+    raster->setVerticalSpacing(6);
+    raster->setHorizontalSpacing(10);
     for (QLineEdit *feld : {tagelang, datendaten, Uhrwerk})
         feld->setFixedWidth(100);
     const auto schritt = [](const char *text, SpinButton *spin, const Knopfpaar &paar) {
         auto *reihe = new QHBoxLayout;
         reihe->setSpacing(4);
-        reihe->addWidget(Beschriftung("", text));
-        reihe->addStretch();
+        QLabel *label = Beschriftung("", text);
+        label->setMinimumWidth(label->fontMetrics().horizontalAdvance("Minuten") + 8);
+        reihe->addWidget(label);
         reihe->addWidget(spin);
         if (paar.Minus)
             reihe->addWidget(paar.Minus);
         if (paar.Plus)
             reihe->addWidget(paar.Plus);
+        reihe->addStretch();
         return reihe;
     };
     raster->addWidget(Beschriftung("", "Wochentag:", tagelang), zeile, 0);
     raster->addWidget(tagelang, zeile, 1);
-    raster->addWidget(Taga, zeile, 2);
+    raster->addWidget(Taga, zeile, 2, Qt::AlignLeft);
     raster->addWidget(Beschriftung("", "Datum:", datendaten), zeile + 1, 0);
     raster->addWidget(datendaten, zeile + 1, 1);
     raster->addLayout(schritt("Tag", Änderung1, knöpfe.Tag), zeile + 1, 2);
