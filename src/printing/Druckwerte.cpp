@@ -3,6 +3,8 @@
 
 #include "core/Umwandlung.h"
 
+#include <cmath>
+
 namespace altardienst {
 
 Text Druckzahl(int zahl)
@@ -17,7 +19,10 @@ Text Druckdatum(Datum datum)
 
 Text Druckmaß(Single mm)
 {
-    return FesteStellen(mm, 3, 1);
+    // The digits that the form shows are rounded, not those of the Single behind them, which is
+    // 15.1499996 for 15,15.
+    constexpr double Genauigkeit = 1e4;
+    return FesteStellen(std::round(mm * Genauigkeit) / Genauigkeit, 3, 1);
 }
 
 } // namespace altardienst
