@@ -1,0 +1,65 @@
+// A printer that writes down what it is told, and what a report is expected to tell it.
+#pragma once
+
+#include "platform/Drucker.h"
+
+#include <vector>
+
+namespace altardienst {
+
+/// Every line of a page has the same height; nothing is laid out.
+class Druckprotokoll : public DruckerDienst {
+  public:
+    /// One operation to a line, in the order in which they came: `CurrentX 1000`, `Print "Text"`.
+    /// Reading the cursor and the page height leaves no line.
+    std::vector<Text> Zeilen;
+
+    std::optional<int> Antwort = 0; // of the print dialog; none: cancelled
+    Single Zeilenhöhe = 240;        // twips
+    Single Seitenhöhe = 16838;      // twips
+    int FehlerBei = 0;              // the line of the log that fails, from 1; 0: none
+
+    /// What the dialog was asked for last.
+    Druckanfrage Anfrage;
+
+    int WieOft(const Text &zeile) const;
+
+    /// A new log from the top of a page on; what is set stays.
+    void Leeren();
+
+    std::optional<int> Dialog(const Druckanfrage &anfrage) override;
+    void FontName(const Text &name) override;
+    void FontSize(int punkte) override;
+    void FontBold(bool an) override;
+    void FontItalic(bool an) override;
+    void FontStrikethru(bool an) override;
+    void FontUnderline(bool an) override;
+    void CurrentX(Single x) override;
+    void CurrentY(Single neu) override;
+    Single CurrentY() const override { return y; }
+    Single Height() const override { return Seitenhöhe; }
+    void Orientation(int richtung) override;
+    void Print(const Text &text) override;
+    void NewPage() override;
+    void EndDoc() override;
+    void Verwerfen() override;
+
+  private:
+    void Schreiben(const Text &zeile);
+
+    Single y = 0;
+};
+
+/// The log that is expected of a report, piece by piece, with the settings of `Druckstand`.
+class Ablauf {
+  public:
+    std::vector<Text> Zeilen;
+
+    Ablauf &Tut(const Text &operation);
+    Ablauf &Zeile(const Text &text); // at the left margin
+    Ablauf &Leerzeile();             // wherever the cursor stands
+    Ablauf &Eröffnung(const std::vector<Text> &titel);
+    Ablauf &Mehrere(const std::vector<Text> &zeilen);
+};
+
+} // namespace altardienst
