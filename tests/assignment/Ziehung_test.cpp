@@ -128,7 +128,8 @@ TEST_F(ZiehungTest, AbschlussLöstDieSperreErstAbDerGrenze)
     EXPECT_EQ(nachAbschluss(118, 60), 59);
     EXPECT_EQ(nachAbschluss(119, 60), -60); // 59.5
     EXPECT_EQ(nachAbschluss(121, 61), 60);  // 60.5
-    EXPECT_EQ(nachAbschluss(29, 15), 14);   // 14.5, a little below in double precision
+    EXPECT_EQ(nachAbschluss(115, 58), 57);  // 57.5, but a little below in double precision
+    EXPECT_EQ(nachAbschluss(109, 55), -55); // 54.5, but a little above
     EXPECT_EQ(nachAbschluss(1, 0), 0);      // 0.5, and freed
     EXPECT_EQ(Meßdiener.Belegt[0], 0);
 }
