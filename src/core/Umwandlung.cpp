@@ -251,7 +251,12 @@ Text LangeZeit(Datum datum)
 
 Text StundenUndMinuten(Datum datum)
 {
-    return LangeZeit(datum).substr(0, 5);
+    const int minuten = SekundenVon(datum) / 60;
+    return AlsText([&](Text &text) {
+        ZiffernAnhängen(text, minuten / 60, 2);
+        text += ':'; // on paper, whatever the locale
+        ZiffernAnhängen(text, minuten % 60, 2);
+    });
 }
 
 Text ZahlText(int zahl)
