@@ -1,0 +1,14 @@
+// The program up to its start dialog, loading included, which ends once the dialog is shown.
+#include "fenster/Anwendung.h"
+#include "shell/Programm.h"
+
+#include <QTimer>
+
+int main(int argc, char *argv[])
+{
+    QApplication anwendung(argc, argv);
+    altardienst::AnwendungEinrichten(anwendung);
+    altardienst::ProgrammStarten();
+    QTimer::singleShot(0, &anwendung, [] { QApplication::exit(0); });
+    return QApplication::exec();
+}
