@@ -68,7 +68,8 @@ void Tippen(QWidget *feld, const char *text)
     FokusAuf(feld);
     QTest::keyClick(feld, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(feld, Qt::Key_Delete);
-    QTest::keyClicks(feld, QString::fromUtf8(text));
+    for (const QChar zeichen : QString::fromUtf8(text)) // umlauts too
+        QTest::sendKeyEvent(QTest::Click, feld, Qt::Key_unknown, QString(zeichen), Qt::NoModifier);
 }
 
 void FokusAuf(QWidget *control)
