@@ -26,6 +26,7 @@ DialogForm::DialogForm()
     setWindowTitle("Messenliste als Textdatei speichern");
     Anordnen();
     Verbinden();
+    Überschreib->setChecked(true); // one of the two, even if no directory can be read
     Abgefangen([this] { Wahl.Öffnen(Laufwerke.Wurzeln().front().Pfad); })();
 }
 
@@ -37,6 +38,8 @@ void DialogForm::Anordnen()
     VZ->setPlaceholderText("neues Verzeichnis");
     Datei->setTextInteractionFlags(Qt::TextSelectableByMouse);
     Datei->setWordWrap(true);
+    // A long path must not widen the window beyond the screen.
+    Datei->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 
     auto *links = new QVBoxLayout;
     links->addWidget(Wahl.Laufwerk);
@@ -60,7 +63,7 @@ void DialogForm::Anordnen()
     listen->addLayout(rechts, 1);
 
     auto *unten = new QHBoxLayout;
-    unten->addWidget(Datei, 1);
+    unten->addStretch();
     for (QPushButton *knopf : {OKButton, CancelButton}) {
         knopf->setMinimumWidth(110);
         unten->addWidget(knopf);
@@ -70,6 +73,7 @@ void DialogForm::Anordnen()
     spalte->setContentsMargins(16, 16, 16, 16);
     spalte->setSpacing(12);
     spalte->addLayout(listen, 1);
+    spalte->addWidget(Datei);
     spalte->addLayout(unten);
     resize(720, 460);
     Dateiname->setFocus();
