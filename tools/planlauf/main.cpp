@@ -42,6 +42,15 @@ std::filesystem::path Pfad(const QString &text)
                           : std::filesystem::absolute(PfadAus(text.toStdString()));
 }
 
+Datum DatumVon(const QCommandLineParser &zeile, const QCommandLineOption &option)
+{
+    try {
+        return DatumLesen(zeile.value(option).toStdString());
+    } catch (const Laufzeitfehler &) {
+        throw std::invalid_argument("--" + option.names().first().toStdString() + " takes a date");
+    }
+}
+
 Auftrag AuftragLesen(QCommandLineParser &zeile)
 {
     const QCommandLineOption daten("daten", "directory with the eight files", "DIR");
@@ -61,13 +70,22 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     zeile.addOptions(
         {daten, heute, start, tage, saat, schritte, text, pdf, berichte, bilder, antwort});
     zeile.process(*QCoreApplication::instance());
+    const QStringList übrig = zeile.positionalArguments();
+    if (!übrig.isEmpty()) // such as the rest of "1, 4, 5"
+        throw std::invalid_argument("unexpected argument " + übrig.first().toStdString());
     if (!zeile.isSet(daten))
         throw std::invalid_argument("--daten is missing");
 
     Auftrag auftrag;
     auftrag.Daten = Pfad(zeile.value(daten));
-    auftrag.Start = zeile.value(start);
+    if (zeile.isSet(start))
+        auftrag.Start = Anzeige(KurzesDatum(DatumVon(zeile, start)));
     auftrag.Tage = zeile.value(tage);
+    bool istTageszahl = auftrag.Tage.isEmpty();
+    if (!istTageszahl)
+        auftrag.Tage.toInt(&istTageszahl);
+    if (!istTageszahl)
+        throw std::invalid_argument("--tage takes a number");
     const QStringList nummern = zeile.value(schritte).split(',', Qt::SkipEmptyParts);
     for (const QString &nummer : nummern) {
         bool istZahl = false;
@@ -83,7 +101,7 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
 
     Laufwerke.Programmverzeichnis = [verzeichnis = auftrag.Daten] { return verzeichnis; };
     if (zeile.isSet(heute))
-        Uhr.Heute = [tag = DatumLesen(zeile.value(heute).toStdString())] { return tag; };
+        Uhr.Heute = [tag = DatumVon(zeile, heute)] { return tag; };
     if (zeile.isSet(saat)) {
         bool istZahl = false;
         Zufall = ZufallMitSaat(zeile.value(saat).toUInt(&istZahl));
@@ -112,7 +130,7 @@ template <class Form> Form *Fenster()
 
 class Lauf {
   public:
-    explicit Lauf(Auftrag auftrag) : auftrag(std::move(auftrag)) {}
+    explicit Lauf(Auftrag auftrag) : auftrag(std::move(auftrag)) { Drucker = &drucker; }
 
     void Starten()
     {
@@ -158,26 +176,21 @@ class Lauf {
         dialog->Überschreib->click();
         Bild(dialog);
         dialog->OKButton->click();
+        if (dialog->isVisible())
+            throw std::runtime_error("the text could not be written");
         AndereSchließen();
         if (!hatEndung)
             std::filesystem::rename(PfadAus(TextVon(auftrag.Text) + ".txt"), auftrag.Text);
     }
 
-    /// Printing asks no dialog here: each report goes to the file that is set for it.
     void Drucken()
     {
-        DruckerQt drucker([this](const Druckanfrage &anfrage) -> std::optional<Druckauswahl> {
-            hatZweiteForm = anfrage.HatZweiFormen();
-            return Druckauswahl{modus, PdfDrucker(datei)};
-        });
-        DruckerDienst *zuvor = std::exchange(Drucker, &drucker);
         if (!auftrag.Pdf.isEmpty()) {
             datei = auftrag.Pdf;
             haupt->Messendruck->click();
         }
         if (!auftrag.Berichte.isEmpty())
             BerichteDrucken();
-        Drucker = zuvor;
     }
 
     void Beenden() { haupt->close(); }
@@ -235,9 +248,15 @@ class Lauf {
     Auftrag auftrag;
     HauptForm *haupt = nullptr;
     int bilder = 0;
-    QString datei; // where the next report goes
+    QString datei; // where the next report goes; empty: as if the print dialog was cancelled
     int modus = 0; // its layout
     bool hatZweiteForm = false;
+    DruckerQt drucker{[this](const Druckanfrage &anfrage) -> std::optional<Druckauswahl> {
+        hatZweiteForm = anfrage.HatZweiFormen();
+        if (datei.isEmpty())
+            return std::nullopt;
+        return Druckauswahl{modus, PdfDrucker(datei)};
+    }};
 };
 
 int Gescheitert(const char *grund)
