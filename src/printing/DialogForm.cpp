@@ -75,7 +75,7 @@ void DialogForm::Anordnen()
     spalte->addLayout(listen, 1);
     spalte->addWidget(Datei);
     spalte->addLayout(unten);
-    resize(720, 460);
+    resize(660, 460);
     Dateiname->setFocus();
 }
 

@@ -59,7 +59,7 @@ void StartForm::Anordnen()
     tage->addStretch();
 
     auto *raster = new QGridLayout;
-    raster->setHorizontalSpacing(14);
+    raster->setHorizontalSpacing(10);
     raster->setVerticalSpacing(12);
     raster->addWidget(
         Beschriftung("berechnend", "Startberechnungsdatum für den Meßdienerplan:", Datumsen), 0, 0);
@@ -70,7 +70,7 @@ void StartForm::Anordnen()
     raster->addWidget(Beschriftung("bissig", "bis zum:"), 2, 0);
     raster->addWidget(Endet, 2, 1);
     raster->addWidget(Dayig, 2, 2);
-    raster->setColumnMinimumWidth(2, Tagchen->fontMetrics().horizontalAdvance("Donnerstag") + 10);
+    raster->setColumnMinimumWidth(2, Tagchen->fontMetrics().horizontalAdvance("Donnerstag"));
 
     auto *unten = new QHBoxLayout;
     unten->addStretch();
@@ -79,7 +79,7 @@ void StartForm::Anordnen()
     unten->addStretch();
 
     auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(28, 24, 28, 24);
+    spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(22);
     spalte->addWidget(UHRZEIT);
     spalte->addLayout(raster);

@@ -41,6 +41,9 @@ QColor Grundfarbe(QWidget *knopf);
 /// The controls that Tab reaches, in order, from the one that has the focus on, once round.
 std::vector<Text> Tabfolge(QWidget *fenster);
 
+/// The room for a window on the smallest screen, 1024 x 768 at 150 %, less frame and title bar.
+constexpr QSize KleinsterBildschirm(680, 484);
+
 /// Names of the controls that take the focus but have no spoken name.
 std::vector<Text> Stumme(QWidget *fenster);
 

@@ -195,8 +195,8 @@ TEST_F(HauptFormTest, TabFolgtDenSchritten)
 TEST_F(HauptFormTest, PasstAufDenKleinstenBildschirm)
 {
     const QSize platz = Öffnen().minimumSizeHint();
-    EXPECT_LE(platz.width(), 1024);
-    EXPECT_LE(platz.height(), 768);
+    EXPECT_LE(platz.width(), KleinsterBildschirm.width());
+    EXPECT_LE(platz.height(), KleinsterBildschirm.height());
 }
 
 } // namespace

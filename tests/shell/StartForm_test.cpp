@@ -565,9 +565,9 @@ TEST_F(StartFormTest, KnöpfeSindGrünMitUndGrauOhneFokus)
 
 TEST_F(StartFormTest, PasstAufDenKleinstenBildschirm)
 {
-    const QSize platz = Öffnen().minimumSizeHint();
-    EXPECT_LE(platz.width(), 1024);
-    EXPECT_LE(platz.height(), 768);
+    const QSize platz = Öffnen().size();
+    EXPECT_LE(platz.width(), KleinsterBildschirm.width());
+    EXPECT_LE(platz.height(), KleinsterBildschirm.height());
 }
 
 } // namespace
