@@ -59,6 +59,16 @@ bool IstJa(std::string_view flags, int position)
     return byte < flags.size() && flags[byte] == 'j';
 }
 
+Text MitFlag(std::string_view flags, int position, bool ja)
+{
+    Text neu = Links(flags, position - 1);
+    for (int n = Länge(neu); n < position - 1; ++n)
+        neu += 'n';
+    neu += ja ? 'j' : 'n';
+    const std::size_t rest = ByteVon(flags, position);
+    return neu.append(flags.substr(rest));
+}
+
 Text Klein(std::string_view text)
 {
     Text klein(text);

@@ -26,6 +26,10 @@ int Position(std::string_view text, std::string_view gesucht);
 /// Whether position `position` (from 1) of a flag string holds "j". Behind its end: no.
 bool IstJa(std::string_view flags, int position);
 
+/// The flag string with "j" or "n" at position `position` (from 1). One that is too short is filled
+/// up with "n", which is what its missing positions count as.
+Text MitFlag(std::string_view flags, int position, bool ja);
+
 /// The text in small letters, the letters of Windows-1252 included.
 Text Klein(std::string_view text);
 

@@ -95,6 +95,17 @@ void BeiEingabetaste(QLineEdit *feld, std::function<void()> handler)
     QObject::connect(feld, &QLineEdit::returnPressed, feld, std::move(handler));
 }
 
+void BeiKlick(QWidget *control, std::function<void()> handler)
+{
+    new Ereignisfilter(
+        control,
+        [](QEvent *ereignis) {
+            return ereignis->type() == QEvent::MouseButtonRelease &&
+                   static_cast<QMouseEvent *>(ereignis)->button() == Qt::LeftButton;
+        },
+        std::move(handler));
+}
+
 void BeiMausdruck(QPushButton *knopf, std::function<void()> handler)
 {
     new Ereignisfilter(

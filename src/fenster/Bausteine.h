@@ -36,6 +36,8 @@ QLineEdit *Textfeld(const char *name);
 // Events. The handlers come wrapped in their kind (fenster/Handler.h).
 void BeiFokusVerlust(QWidget *control, std::function<void()> handler);
 void BeiEingabetaste(QLineEdit *feld, std::function<void()> handler);
+void BeiKlick(QWidget *control,
+              std::function<void()> handler); // for controls that have no such signal
 void BeiMausdruck(QPushButton *knopf, std::function<void()> handler);   // the first mouse button
 void BeiTastendruck(QPushButton *knopf, std::function<void()> handler); // a key with a character
 

@@ -10,6 +10,9 @@
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Handler.h"
+#include "people/GruppeForm.h"
+#include "people/HelferForm.h"
+#include "people/MeßdienerForm.h"
 #include "planning/MessenBestimmen.h"
 #include "planning/MessenlisteForm.h"
 #include "planning/StandardmessenForm.h"
@@ -171,11 +174,11 @@ void HauptForm::MenüDaten()
     Eintrag(daten, "mnuHintergrund", "Hi&ntergrund", NochNicht);
     Eintrag(daten, "mnuEtiketten", "Et&ikettengröße", [] { DialogÖffnen(new EtikettenForm); });
     Trennstrich(daten, "mnufilebar7");
-    Eintrag(daten, "mnuGruppe", "&Gruppe", NochNicht);
+    Eintrag(daten, "mnuGruppe", "&Gruppe", [] { DialogÖffnen(new GruppeForm); });
     Eintrag(daten, "mnuStandardmessen", "&Standardmessen",
             [] { DialogÖffnen(new StandardmessenForm); });
-    Eintrag(daten, "mnuHelfer", "&Helfer", NochNicht);
-    Eintrag(daten, "mnuMeßdiener", "&Meßdiener", NochNicht);
+    Eintrag(daten, "mnuHelfer", "&Helfer", [] { DialogÖffnen(new HelferForm); });
+    Eintrag(daten, "mnuMeßdiener", "&Meßdiener", [] { DialogÖffnen(new MeßdienerForm); });
     Eintrag(daten, "MnuMESSDIENZUMESS", "Meßdiener &zu Messen", NochNicht);
     Eintrag(daten, "mnuMessen", "M&essen", [] { DialogÖffnen(new MessenlisteForm); });
     Trennstrich(daten, "mnuFileBar6");

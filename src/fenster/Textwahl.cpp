@@ -1,0 +1,67 @@
+// A text box with a list to choose from.
+#include "fenster/Textwahl.h"
+
+#include "fenster/Bausteine.h"
+
+#include <QSignalBlocker>
+
+namespace altardienst {
+namespace {
+
+/// The entry that bears the text becomes the current one, so that Qt does not announce it as picked
+/// when the editing ends.
+void EintragAngleichen(QComboBox *wahl)
+{
+    const QString text = wahl->currentText();
+    const QSignalBlocker still(wahl);
+    wahl->setCurrentIndex(wahl->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    wahl->setEditText(text);
+}
+
+} // namespace
+
+QComboBox *Textwahl(const char *name)
+{
+    auto *wahl = Benannt(new QComboBox, name);
+    wahl->setEditable(true);
+    wahl->setLineEdit(Textfeld(""));
+    wahl->setCompleter(nullptr);
+    wahl->setInsertPolicy(QComboBox::NoInsert);
+    return wahl;
+}
+
+void ListeSetzen(QComboBox *wahl, const QStringList &liste)
+{
+    const QString text = wahl->currentText();
+    const QSignalBlocker still(wahl);
+    wahl->clear();
+    wahl->addItems(liste);
+    wahl->setCurrentIndex(-1);
+    wahl->setEditText(text);
+}
+
+Text TextVon(const QComboBox *wahl)
+{
+    return wahl->currentText().toStdString();
+}
+
+void Setzen(QComboBox *wahl, const Text &text)
+{
+    wahl->setEditText(Anzeige(text));
+}
+
+void BeiAuswahl(QComboBox *wahl, std::function<void()> handler)
+{
+    QObject::connect(wahl, &QComboBox::activated, wahl, std::move(handler));
+}
+
+void BeiVerlassen(QComboBox *wahl, std::function<void()> handler)
+{
+    BeiFokusVerlust(wahl, [wahl, handler = std::move(handler)] {
+        EintragAngleichen(wahl);
+        handler();
+        EintragAngleichen(wahl);
+    });
+}
+
+} // namespace altardienst

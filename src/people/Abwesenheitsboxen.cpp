@@ -1,0 +1,111 @@
+// The boxes for the periods in which a server or helper is away.
+#include "people/Abwesenheitsboxen.h"
+
+#include "core/Umwandlung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "fenster/Terminbox.h"
+
+#include <cmath>
+#include <string>
+
+namespace altardienst {
+namespace {
+
+constexpr int MeisteJahreZurück = 2;
+
+Datumsfeld Feld(const char *stamm, int nummer, int ersterSpin, const char *gesprochen)
+{
+    const std::string zahl = std::to_string(nummer);
+    const std::array<std::string, 3> spins = {"ä" + std::to_string(ersterSpin),
+                                              "ä" + std::to_string(ersterSpin + 1),
+                                              "ä" + std::to_string(ersterSpin + 2)};
+    return {(nummer == 1 ? stamm : stamm + zahl).c_str(),
+            {spins[0].c_str(), spins[1].c_str(), spins[2].c_str()},
+            (gesprochen + (" " + zahl)).c_str()};
+}
+
+/// Days alone count, not times of day.
+void SchlußNachStart(QLineEdit *start, QLineEdit *schluß)
+{
+    if (std::trunc(DatumLesen(TextVon(schluß))) < std::trunc(DatumLesen(TextVon(start))))
+        schluß->setText(start->text());
+}
+
+void LeeresWirdHeute(QLineEdit *feld)
+{
+    if (feld->text().isEmpty())
+        HeuteZeigen(feld);
+}
+
+} // namespace
+
+Abwesenheit::Abwesenheit(int nummer)
+    : Start(Feld("Start", nummer, 6 * nummer - 5, "Nicht dienstbereit vom")),
+      Schluß(Feld("Schluß", nummer, 6 * nummer - 2, "Nicht dienstbereit bis")), nummer(nummer)
+{
+}
+
+void Abwesenheit::Anordnen(QGridLayout *raster, int zeile) const
+{
+    raster->addWidget(Start.Feld, zeile, 0);
+    raster->addLayout(Start.SpinsNebeneinander(), zeile, 1);
+    raster->addWidget(Schluß.Feld, zeile, 2);
+    raster->addLayout(Schluß.SpinsNebeneinander(), zeile, 3);
+}
+
+void Abwesenheit::Verbinden() const
+{
+    QLineEdit *start = Start.Feld;
+    QLineEdit *schluß = Schluß.Feld;
+    // The first period may stay empty.
+    const std::function<void(QLineEdit *)> beiLeerem =
+        nummer == 1 ? [](QLineEdit *) {} : LeeresWirdHeute;
+    QObject::connect(start, &QLineEdit::textChanged, start,
+                     Schrittweise([=] { AlsKurzesDatum(start); },
+                                  [=] {
+                                      if (JahreBisHeute(start) > MeisteJahreZurück)
+                                          HeuteZeigen(start);
+                                  },
+                                  [=] { SchlußNachStart(start, schluß); },
+                                  [=] { beiLeerem(start); }));
+    QObject::connect(schluß, &QLineEdit::textChanged, schluß,
+                     Schrittweise([=] { AlsKurzesDatum(schluß); },
+                                  [=] { SchlußNachStart(start, schluß); },
+                                  [=] { beiLeerem(schluß); }));
+    Start.SchritteVerbinden([=] {
+        start->setFocus();
+        schluß->setFocus();
+    });
+    Schluß.SchritteVerbinden();
+}
+
+Abwesenheitsboxen::Abwesenheitsboxen(int anzahl)
+{
+    for (int nummer = 1; nummer <= anzahl; ++nummer)
+        Zeiten.emplace_back(nummer);
+}
+
+QLayout *Abwesenheitsboxen::Anordnen() const
+{
+    auto *raster = new QGridLayout;
+    raster->setHorizontalSpacing(4);
+    raster->setVerticalSpacing(4);
+    const Abwesenheit &erste = Zeiten.front();
+    raster->addWidget(Beschriftung("", "Nicht Dienstbereit vom"), 0, 0, 1, 2);
+    raster->addWidget(Beschriftung("", "bis"), 0, 2, 1, 2);
+    for (std::size_t k = 0; k < Zeiten.size(); ++k)
+        Zeiten[k].Anordnen(raster, static_cast<int>(k) + 1);
+    static_cast<QLabel *>(raster->itemAtPosition(0, 0)->widget())->setBuddy(erste.Start.Feld);
+    static_cast<QLabel *>(raster->itemAtPosition(0, 2)->widget())->setBuddy(erste.Schluß.Feld);
+    raster->setColumnStretch(4, 1);
+    return raster;
+}
+
+void Abwesenheitsboxen::Verbinden() const
+{
+    for (const Abwesenheit &zeit : Zeiten)
+        zeit.Verbinden();
+}
+
+} // namespace altardienst

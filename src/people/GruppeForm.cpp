@@ -1,0 +1,193 @@
+// The editor of the groups, one name at a time.
+#include "people/GruppeForm.h"
+
+#include "core/tables.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "fenster/Zahlbox.h"
+#include "people/NeuGruppeForm.h"
+#include "people/Personenboxen.h"
+#include "platform/Meldungen.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+constexpr int LetzterDatensatz = 100;
+
+} // namespace
+
+GruppeForm::GruppeForm()
+    : GBezeichnung(Textfeld("GBezeichnung")),
+      Wahl(new Datensatzwahl({"Indexi", "PLUS", "MINUS", "DPM"})),
+      Gruppenzahl(Beschriftung("Gruppenzahl", "")), Löschend(Knopf("Löschend", "Gruppe löschen")),
+      NEWGroup(Knopf("NEWGroup", "neue Gruppe")), Ende(Knopf("Ende", "Ende"))
+{
+    Benannt(this, "Gruppe");
+    setWindowTitle("Gruppe");
+    Anordnen();
+    Verbinden();
+    Offen([this] {
+        ZahlSetzen(Wahl->Nummer, Gruppe.Cursor);
+        Zeigen(Gruppe.Cursor);
+        AnzahlZeigen();
+    })();
+}
+
+void GruppeForm::Anordnen()
+{
+    KnöpfeBeschriften(Wahl);
+    auto *kopf = new QHBoxLayout;
+    kopf->addWidget(Wahl);
+    kopf->addSpacing(24);
+    kopf->addWidget(Beschriftung("", "Anzahl Gruppen:"));
+    kopf->addWidget(Gruppenzahl);
+    kopf->addStretch();
+
+    auto *name = new QHBoxLayout;
+    name->addWidget(Beschriftung("", "Gruppe:", GBezeichnung));
+    name->addWidget(GBezeichnung, 1);
+
+    auto *unten = new QHBoxLayout;
+    unten->addWidget(NEWGroup);
+    unten->addWidget(Löschend);
+    unten->addSpacing(40);
+    unten->addStretch();
+    Ende->setMinimumWidth(110);
+    unten->addWidget(Ende);
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(20, 20, 20, 20);
+    spalte->setSpacing(18);
+    spalte->addLayout(kopf);
+    spalte->addLayout(name);
+    spalte->addLayout(unten);
+    spalte->addStretch();
+    setMinimumWidth(500);
+    GBezeichnung->setFocus();
+}
+
+void GruppeForm::Verbinden()
+{
+    Wahl->BeiWechsel([this] { NummerGeändert(); });
+    Wahl->BeiSchritt([this](int richtung) { Offen([&] { Schritt(richtung); })(); });
+    connect(Löschend, &QPushButton::clicked, this, Offen([this] { Löschen(); }));
+    connect(NEWGroup, &QPushButton::clicked, this, [this] { NeueGruppe(); });
+    connect(Ende, &QPushButton::clicked, this, Offen([this] {
+                Umbenennen();
+                Abschließen();
+                close();
+            }));
+}
+
+/// Typing a number jumps to that group without storing what was on the screen; the number one past
+/// the blank slot adds an empty group.
+void GruppeForm::NummerGeändert()
+{
+    Schrittweise([&] { NummerBegrenzen(Wahl->Nummer, LetzterDatensatz, Gruppe.Anzahl); },
+                 [&] {
+                     if (Nummer() > Gruppe.Anzahl)
+                         Gruppe.Anzahl = Nummer();
+                 },
+                 [&] { Gruppe.Cursor = Nummer(); }, [&] { Zeigen(Nummer()); },
+                 [&] { AnzahlZeigen(); })();
+}
+
+/// The number box is lowered without a test and clipped by its own rule. A group without a name is
+/// not left forward, though the next name shows.
+void GruppeForm::Schritt(int richtung)
+{
+    Umbenennen();
+    Schreiben();
+    const int i = Nummer();
+    if (richtung > 0 ? i < LetzterDatensatz : i > 0)
+        Zeigen(i + richtung);
+    if (richtung < 0 || !Gruppe.Bezeichnung[i].empty())
+        ZahlSetzen(Wahl->Nummer, i + richtung);
+}
+
+/// Before each save but that of the window's own close: a name that another group bears is undone
+/// without a word, a new one is pushed to the servers.
+void GruppeForm::Umbenennen()
+{
+    const int i = Nummer();
+    if (IstAndereGruppe(i, TextVon(GBezeichnung)))
+        Zeigen(i);
+    GruppeUmbenennen(i, TextVon(GBezeichnung));
+}
+
+void GruppeForm::Löschen()
+{
+    if (!Meldungen.Fragen("Wirklich?", "Löschen einer Gruppe"))
+        return;
+    const int vorher = Gruppe.Anzahl;
+    GruppeLöschen(Nummer());
+    if (Gruppe.Anzahl < vorher)
+        Zeigen(Gruppe.Cursor);
+    AnzahlZeigen();
+    if (Nummer() > Gruppe.Anzahl)
+        ZahlSetzen(Wahl->Nummer, Gruppe.Anzahl);
+}
+
+void GruppeForm::NeueGruppe()
+{
+    hide();
+    auto *neu = new NeuGruppeForm([this](bool angelegt) { NachNeuerGruppe(angelegt); });
+    DialogDanebenÖffnen(neu);
+}
+
+void GruppeForm::NachNeuerGruppe(bool angelegt)
+{
+    if (angelegt)
+        Schrittweise([&] { Zeigen(Nummer()); }, [&] { AnzahlZeigen(); })();
+    show();
+    activateWindow();
+}
+
+/// Writes the screen; a name typed into the blank slot becomes a group.
+void GruppeForm::Abschließen()
+{
+    Schreiben();
+    if (Nummer() == Gruppe.Anzahl && !GBezeichnung->text().isEmpty())
+        ++Gruppe.Anzahl;
+    abgeschlossen = true;
+}
+
+int GruppeForm::Nummer() const
+{
+    return ZahlIn(Wahl->Nummer);
+}
+
+void GruppeForm::Zeigen(int i)
+{
+    Setzen(GBezeichnung, Gruppe.Bezeichnung[i]);
+}
+
+void GruppeForm::Schreiben()
+{
+    Gruppe.Bezeichnung[Nummer()] = TextVon(GBezeichnung);
+}
+
+void GruppeForm::AnzahlZeigen()
+{
+    Setzen(Gruppenzahl, ZahlText(Gruppe.Anzahl));
+}
+
+/// The window's own close writes without renaming. A number box without a number keeps the form
+/// open, with the failure shown.
+void GruppeForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->ignore();
+    Offen([&] {
+        if (!abgeschlossen)
+            Abschließen();
+        ereignis->accept();
+        HauptfensterZurück();
+    })();
+}
+
+} // namespace altardienst

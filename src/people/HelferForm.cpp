@@ -1,0 +1,278 @@
+// The editor of the helpers, one at a time.
+#include "people/HelferForm.h"
+
+#include "core/tables.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "fenster/Terminbox.h"
+#include "fenster/Zahlbox.h"
+#include "people/NeuerHelferForm.h"
+#include "platform/Meldungen.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+constexpr int LetzterDatensatz = 200;
+constexpr int MeisteLebensjahre = 90;
+
+auto Zeitspalten()
+{
+    return std::array{&Helfer.Von1, &Helfer.Bis1, &Helfer.Von2,
+                      &Helfer.Bis2, &Helfer.Von3, &Helfer.Bis3};
+}
+
+} // namespace
+
+QComboBox *Dienstwahl(const char *name)
+{
+    QComboBox *wahl = Textwahl(name);
+    ListeSetzen(wahl, {"Lektor", "Kommunionhelfer", "Kantor", "Kollektant"});
+    return wahl;
+}
+
+void GeburtstagPrüfen(QLineEdit *feld)
+{
+    Schrittweise([feld] { AlsKurzesDatum(feld); },
+                 [feld] {
+                     if (JahreBisHeute(feld) > MeisteLebensjahre)
+                         HeuteZeigen(feld);
+                 })();
+}
+
+HelferForm::HelferForm()
+    : Wahl(new Datensatzwahl({"Indexen", "PLUS", "MINUS", "DPM"})),
+      Datensätzig(Beschriftung("Datensätzig", "")),
+      Person({"Vorne", "Hinten", "Weg", "PLZetus", "Wohort", "Anruf", "Mailen"}),
+      Tagen("Tagen", {"Änderung1", "Änderung2", "Änderung3"}, "Geburtstag"),
+      Dient(Dienstwahl("Dient")), Dient2(Dienstwahl("Dient2")), Abwesenheiten(3),
+      NeuHelfer(Knopf("NeuHelfer", "neuer Helfer")),
+      Datensatzlösch(Knopf("Datensatzlösch", "Datensatz löschen")), Ende(Knopf("Ende", "Ende"))
+{
+    Benannt(this, "Helfer");
+    setWindowTitle("Helfer");
+    Tagen.KnöpfeAnlegen({{{"MTag", "Ptag"}, {"MMon", "PMon"}, {"MJahr", "PJahr"}}});
+    PlzOrtErgänzen();
+    Anordnen();
+    Verbinden();
+    Offen([this] {
+        ZahlSetzen(Wahl->Nummer, Helfer.Cursor);
+        Zeigen(Helfer.Cursor);
+        AnzahlZeigen();
+    })();
+}
+
+void HelferForm::Anordnen()
+{
+    KnöpfeBeschriften(Wahl);
+    auto *kopf = new QHBoxLayout;
+    kopf->addWidget(Wahl);
+    kopf->addSpacing(24);
+    kopf->addWidget(Beschriftung("", "Datensatzanzahl:"));
+    kopf->addWidget(Datensätzig);
+    kopf->addStretch();
+
+    auto *person = new QGridLayout;
+    person->setHorizontalSpacing(10);
+    person->setVerticalSpacing(6);
+    Person.Anordnen(person, 0, 2);
+    person->addWidget(Beschriftung("", "Geburtstag:", Tagen.Feld), 7, 0, Qt::AlignTop);
+    person->addWidget(Tagen.Feld, 7, 1, Qt::AlignTop);
+    person->addLayout(Tagen.SchritteUntereinander(), 7, 2, Qt::AlignLeft);
+    person->setColumnStretch(2, 1);
+
+    auto *dienste = new QGridLayout;
+    dienste->setHorizontalSpacing(10);
+    dienste->setVerticalSpacing(6);
+    dienste->addWidget(Beschriftung("", "Dienst 1:", Dient), 0, 0);
+    dienste->addWidget(Dient, 0, 1);
+    dienste->addWidget(Beschriftung("", "Dienst 2:", Dient2), 1, 0);
+    dienste->addWidget(Dient2, 1, 1);
+    dienste->setColumnStretch(2, 1);
+    for (QComboBox *wahl : {Dient, Dient2})
+        wahl->setMinimumContentsLength(18);
+
+    auto *rechts = new QVBoxLayout;
+    rechts->setSpacing(24);
+    rechts->addLayout(dienste);
+    rechts->addLayout(Abwesenheiten.Anordnen());
+    rechts->addStretch();
+
+    auto *mitte = new QHBoxLayout;
+    mitte->setSpacing(28);
+    mitte->addLayout(person, 1);
+    mitte->addLayout(rechts);
+
+    auto *unten = new QHBoxLayout;
+    unten->addWidget(NeuHelfer);
+    unten->addWidget(Datensatzlösch);
+    unten->addStretch();
+    Ende->setMinimumWidth(110);
+    unten->addWidget(Ende);
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(20, 20, 20, 20);
+    spalte->setSpacing(18);
+    spalte->addLayout(kopf);
+    spalte->addLayout(mitte);
+    spalte->addStretch();
+    spalte->addLayout(unten);
+    Person.Vorname->setFocus();
+}
+
+void HelferForm::Verbinden()
+{
+    Wahl->BeiWechsel([this] { NummerGeändert(); });
+    Wahl->BeiSchritt([this](int richtung) {
+        Offen([&] {
+            if (Wahl->Nummer->text().isEmpty())
+                ZahlSetzen(Wahl->Nummer, 0);
+            Schritt(richtung);
+        })();
+    });
+    // The spin button does not fill an empty number box, and gives it the focus.
+    const auto drehen = [this](int richtung) {
+        Offen([&] {
+            Schritt(richtung);
+            Wahl->Nummer->setFocus();
+        })();
+    };
+    Wahl->DPM->BeiAb([drehen] { drehen(-1); });
+    Wahl->DPM->BeiAuf([drehen] { drehen(+1); });
+    Person.Verbinden();
+    Tagen.SchritteVerbinden();
+    connect(Tagen.Feld, &QLineEdit::textChanged, this, [this] { GeburtstagPrüfen(Tagen.Feld); });
+    Abwesenheiten.Verbinden();
+    connect(NeuHelfer, &QPushButton::clicked, this, [this] { NeuerHelfer(); });
+    connect(Datensatzlösch, &QPushButton::clicked, this, Offen([this] { Löschen(); }));
+    connect(Ende, &QPushButton::clicked, this, Offen([this] {
+                Umbenennen();
+                Abschließen();
+                close();
+            }));
+}
+
+/// Typing a number jumps to that helper without storing what was on the screen; the number one past
+/// the blank slot adds an empty record.
+void HelferForm::NummerGeändert()
+{
+    Schrittweise([&] { NummerBegrenzen(Wahl->Nummer, LetzterDatensatz, Helfer.Anzahl); },
+                 [&] { Helfer.Cursor = Nummer(); },
+                 [&] {
+                     if (Nummer() > Helfer.Anzahl)
+                         Helfer.Anzahl = Nummer();
+                 },
+                 [&] { AnzahlZeigen(); }, [&] { Zeigen(Nummer()); })();
+}
+
+/// A helper without a first name is not left forward, though the next one shows. At 0 the number
+/// box is lowered all the same and clipped by its own rule.
+void HelferForm::Schritt(int richtung)
+{
+    Umbenennen();
+    const int i = Nummer();
+    const int gespeichert = Helfer.Cursor;
+    Schreiben(gespeichert);
+    if (richtung > 0) {
+        if (i >= LetzterDatensatz)
+            return;
+        Zeigen(i + 1);
+        if (!Helfer.Vorname[gespeichert].empty())
+            ZahlSetzen(Wahl->Nummer, i + 1);
+    } else {
+        if (i > 0)
+            Zeigen(i - 1);
+        ZahlSetzen(Wahl->Nummer, i - 1);
+    }
+}
+
+/// Before each save but that of the window's own close: a name that another helper bears is undone
+/// without a word, a new one is pushed to the masses.
+void HelferForm::Umbenennen()
+{
+    if (IstAndererHelfer(Nummer(), Person.Name()))
+        Person.NameZeigen(Helfer, Helfer.Cursor);
+    HelferUmbenennen(Helfer.Cursor, Person.Name());
+}
+
+void HelferForm::Löschen()
+{
+    if (!Meldungen.Fragen("Wirklich?", "Löschen eines Helfers") || Helfer.Anzahl < 3)
+        return;
+    HelferLöschen(Helfer.Cursor);
+    Zeigen(Helfer.Cursor);
+    if (Nummer() > Helfer.Anzahl)
+        ZahlSetzen(Wahl->Nummer, Helfer.Anzahl);
+    AnzahlZeigen();
+}
+
+void HelferForm::NeuerHelfer()
+{
+    hide();
+    DialogDanebenÖffnen(new NeuerHelferForm([this](bool angelegt) { NachNeuemHelfer(angelegt); }));
+}
+
+void HelferForm::NachNeuemHelfer(bool angelegt)
+{
+    if (angelegt)
+        Schrittweise([&] { Zeigen(Nummer()); }, [&] { AnzahlZeigen(); })();
+    show();
+    activateWindow();
+}
+
+/// Writes the screen. One name is enough for a record in the blank slot to become a helper, where
+/// a server needs both.
+void HelferForm::Abschließen()
+{
+    Schreiben(Helfer.Cursor);
+    if (Helfer.Cursor == Helfer.Anzahl && !Person.Name().Leer())
+        ++Helfer.Anzahl;
+    abgeschlossen = true;
+}
+
+int HelferForm::Nummer() const
+{
+    return ZahlIn(Wahl->Nummer);
+}
+
+void HelferForm::Zeigen(int i)
+{
+    Person.Zeigen(Helfer, i);
+    Tagen.Zeigen(Helfer.Geburtstag[i]);
+    Setzen(Dient, Helfer.Dienst1[i]);
+    Setzen(Dient2, Helfer.Dienst2[i]);
+    Abwesenheiten.Zeigen(Zeitspalten(), i);
+}
+
+void HelferForm::Schreiben(int i)
+{
+    Person.Schreiben(Helfer, i);
+    Helfer.Geburtstag[i] = Tagen.Wert();
+    Helfer.Dienst1[i] = TextVon(Dient);
+    Helfer.Dienst2[i] = TextVon(Dient2);
+    Abwesenheiten.Schreiben(Zeitspalten(), i);
+}
+
+void HelferForm::AnzahlZeigen()
+{
+    Setzen(Datensätzig, ZahlText(Helfer.Anzahl));
+}
+
+/// The window's own close writes without renaming. A box that cannot be converted keeps the form
+/// open, with the failure shown.
+void HelferForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->ignore();
+    Offen([&] {
+        if (!abgeschlossen)
+            Abschließen();
+        ereignis->accept();
+        HauptfensterZurück();
+    })();
+}
+
+} // namespace altardienst

@@ -1,0 +1,74 @@
+// The dialog that adds a group.
+#include "people/NeuGruppeForm.h"
+
+#include "core/tables.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "people/Personenboxen.h"
+#include "platform/Meldungen.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+constexpr int MeisteGruppen = 60; // fewer than the editor's browsing reaches
+
+bool GibtEs(const Text &bezeichnung)
+{
+    for (int i = 0; i < Gruppe.Anzahl; ++i)
+        if (Gruppe.Bezeichnung[i] == bezeichnung)
+            return true;
+    return false;
+}
+
+} // namespace
+
+NeuGruppeForm::NeuGruppeForm(std::function<void(bool)> danach)
+    : GBezeichnung(Textfeld("GBezeichnung")), OKButton(Knopf("OKButton", "OK")),
+      CancelButton(Knopf("CancelButton", "Abbrechen")), danach(std::move(danach))
+{
+    Benannt(this, "NeuGruppe");
+    setWindowTitle("Neue Gruppe");
+    Anordnen();
+    connect(OKButton, &QPushButton::clicked, this, Offen([this] { Anlegen(); }));
+    connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
+    GBezeichnung->setText("Neue Gruppe");
+    GBezeichnung->selectAll();
+}
+
+void NeuGruppeForm::Anordnen()
+{
+    auto *name = new QHBoxLayout;
+    name->addWidget(Beschriftung("", "Gruppe:", GBezeichnung));
+    name->addWidget(GBezeichnung, 1);
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(20, 20, 20, 20);
+    spalte->setSpacing(18);
+    spalte->addLayout(name);
+    spalte->addLayout(Schlußknöpfe(OKButton, CancelButton));
+    spalte->addStretch();
+    setMinimumWidth(420);
+    GBezeichnung->setFocus();
+}
+
+void NeuGruppeForm::Anlegen()
+{
+    if (Gruppe.Anzahl >= MeisteGruppen)
+        return Meldungen.Zeigen("Maximale Anzahl Datensätze für Gruppen erreicht!!");
+    if (GibtEs(TextVon(GBezeichnung)))
+        return Meldungen.Zeigen("Doppelt eingeben! Nicht mit mir!!!!!");
+    GruppeAnlegen(TextVon(GBezeichnung));
+    angelegt = true;
+    close();
+}
+
+void NeuGruppeForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    danach(angelegt);
+}
+
+} // namespace altardienst

@@ -1,0 +1,94 @@
+// The boxes for name and address, which the forms of servers and helpers share.
+#include "people/Personenboxen.h"
+
+#include "fenster/Handler.h"
+
+#include <QHBoxLayout>
+
+#include <algorithm>
+
+namespace altardienst {
+namespace {
+
+constexpr int HöchstePostleitzahl = 99999;
+
+/// Compared as a floating number, as a number of any length may stand in the box.
+void PostleitzahlBegrenzen(QLineEdit *feld)
+{
+    const Single zahl = SingleLesen(TextVon(feld));
+    if (zahl < 0)
+        Setzen(feld, ZahlText(0));
+    else if (zahl > HöchstePostleitzahl)
+        Setzen(feld, PlzDerGemeinde());
+}
+
+} // namespace
+
+Personenboxen::Personenboxen(const std::array<const char *, 7> &namen)
+    : Vorname(Textfeld(namen[0])), Nachname(Textfeld(namen[1])), Straße(Textfeld(namen[2])),
+      PLZ(Textfeld(namen[3])), Ort(Textfeld(namen[4])), Telefon(Textfeld(namen[5])),
+      EMail(Textfeld(namen[6]))
+{
+}
+
+void Personenboxen::Anordnen(QGridLayout *raster, int zeile, int breite) const
+{
+    const auto reihe = [&](const char *text, QLineEdit *feld) {
+        raster->addWidget(Beschriftung("", text, feld), zeile, 0);
+        raster->addWidget(feld, zeile, 1, 1, breite);
+        ++zeile;
+    };
+    reihe("Vorname:", Vorname);
+    reihe("Nachname:", Nachname);
+    reihe("Straße:", Straße);
+    reihe("Postleitzahl:", PLZ);
+    reihe("Ort:", Ort);
+    reihe("Telefon:", Telefon);
+    reihe("EMail:", EMail);
+    PLZ->setMaximumWidth(PLZ->fontMetrics().horizontalAdvance("000000000") + 20);
+}
+
+void Personenboxen::Verbinden() const
+{
+    BeiFokusVerlust(PLZ, Abgefangen([feld = PLZ] { PostleitzahlBegrenzen(feld); }));
+}
+
+void Personenboxen::OrtVorschlagen() const
+{
+    Setzen(PLZ, PlzDerGemeinde());
+    Setzen(Ort, OrtDerGemeinde());
+}
+
+int NummerBegrenzen(QLineEdit *feld, int letzter, int anzahl)
+{
+    const auto nummer = [feld] { return Int32Lesen(TextVon(feld)); };
+    const auto setzen = [feld](int zahl) { Setzen(feld, ZahlText(zahl)); };
+    if (nummer() < 0)
+        setzen(0);
+    if (nummer() > letzter)
+        setzen(letzter);
+    if (nummer() > anzahl + 1)
+        setzen(anzahl);
+    return nummer();
+}
+
+void KnöpfeBeschriften(Datensatzwahl *wahl)
+{
+    wahl->Plus->setText("Plus");
+    wahl->Minus->setText("Minus");
+    for (QPushButton *knopf : {wahl->Minus, wahl->Plus})
+        knopf->setFixedWidth(knopf->fontMetrics().horizontalAdvance("Minus") + 40);
+}
+
+QLayout *Schlußknöpfe(QPushButton *ok, QPushButton *abbrechen)
+{
+    auto *reihe = new QHBoxLayout;
+    reihe->addStretch();
+    for (QPushButton *knopf : {ok, abbrechen}) {
+        knopf->setMinimumWidth(110);
+        reihe->addWidget(knopf);
+    }
+    return reihe;
+}
+
+} // namespace altardienst
