@@ -106,5 +106,71 @@ TEST(Datum, WochentageHeißenDeutsch)
         EXPECT_EQ(WochentagName(sonntag + i), namen[i]);
 }
 
+TEST(Datum, GefüllteWochentageHabenZehnBuchstaben)
+{
+    const Datum sonntag = DatumAus({2026, 11, 22});
+    const char *namen[] = {"Sonntag   ", "Montag    ", "Dienstag  ", "Mittwoch  ",
+                           "Donnerstag", "Freitag   ", "Samstag   "};
+    for (int i = 0; i < 7; ++i)
+        EXPECT_EQ(WochentagNameGefüllt(sonntag + i), namen[i]);
+}
+
+TEST(Datum, UhrzeitWeiterBleibtImTag)
+{
+    EXPECT_EQ(UhrzeitWeiter(ZeitAus(36000), 3600), ZeitAus(39600));
+    EXPECT_EQ(UhrzeitWeiter(ZeitAus(36000), -300), ZeitAus(35700));
+    EXPECT_EQ(UhrzeitWeiter(ZeitAus(86399), 1), 0);
+    EXPECT_EQ(UhrzeitWeiter(0, -1), ZeitAus(86399));
+    EXPECT_EQ(UhrzeitWeiter(ZeitAus(23 * 3600 + 57 * 60), 300), ZeitAus(120));
+    EXPECT_EQ(UhrzeitWeiter(ZeitAus(120), -300), ZeitAus(23 * 3600 + 57 * 60));
+    EXPECT_EQ(UhrzeitWeiter(ZeitAus(5), 3 * SekundenProTag), ZeitAus(5));
+    EXPECT_EQ(UhrzeitWeiter(ZeitAus(5), -3 * SekundenProTag), ZeitAus(5));
+}
+
+TEST(Datum, UhrzeitWeiterSiehtVomTagAb)
+{
+    EXPECT_EQ(UhrzeitWeiter(DatumAus({2026, 11, 21}) + 0.5, 3600), ZeitAus(13 * 3600));
+}
+
+TEST(Datum, EinTagInFünfminutenschrittenEndetWoErBegann)
+{
+    Datum zeit = ZeitAus(10 * 3600 + 7);
+    for (int i = 0; i < 288; ++i)
+        zeit = UhrzeitWeiter(zeit, 300);
+    EXPECT_EQ(zeit, ZeitAus(10 * 3600 + 7));
+}
+
+TEST(Datum, MonateWeiterBehältDenTagOderFälltAufDenLetzten)
+{
+    const auto von = [](int tag, int monat, int jahr) { return DatumAus({jahr, monat, tag}); };
+    EXPECT_EQ(MonateWeiter(von(15, 6, 2026), 1), von(15, 7, 2026));
+    EXPECT_EQ(MonateWeiter(von(15, 6, 2026), -1), von(15, 5, 2026));
+    EXPECT_EQ(MonateWeiter(von(31, 1, 2026), 1), von(28, 2, 2026));
+    EXPECT_EQ(MonateWeiter(von(31, 1, 2028), 1), von(29, 2, 2028));
+    EXPECT_EQ(MonateWeiter(von(31, 3, 2026), -1), von(28, 2, 2026));
+    EXPECT_EQ(MonateWeiter(von(31, 5, 2026), 1), von(30, 6, 2026));
+    EXPECT_EQ(MonateWeiter(von(28, 2, 2026), 1), von(28, 3, 2026)); // not back to the last day
+    EXPECT_EQ(MonateWeiter(von(31, 12, 2026), 1), von(31, 1, 2027));
+    EXPECT_EQ(MonateWeiter(von(1, 1, 2026), -1), von(1, 12, 2025));
+    EXPECT_EQ(MonateWeiter(von(29, 2, 2028), 12), von(28, 2, 2029));
+    EXPECT_EQ(MonateWeiter(von(29, 2, 2028), -12), von(28, 2, 2027));
+    EXPECT_EQ(MonateWeiter(von(29, 2, 2028), 48), von(29, 2, 2032));
+    EXPECT_EQ(MonateWeiter(von(30, 12, 1899), 0), 0);
+    EXPECT_EQ(MonateWeiter(0, -1), von(30, 11, 1899));
+}
+
+TEST(Datum, MonateWeiterEndetAnDenGrenzenDesKalenders)
+{
+    const Datum ende = DatumAus({9999, 12, 31});
+    const Datum anfang = DatumAus({100, 1, 1});
+    EXPECT_EQ(MonateWeiter(ende, -1), DatumAus({9999, 11, 30}));
+    EXPECT_EQ(MonateWeiter(anfang, 1), DatumAus({100, 2, 1}));
+    EXPECT_EQ(NummerDesFehlers([&] { return MonateWeiter(ende, 1); }), 6);
+    EXPECT_EQ(NummerDesFehlers([&] { return MonateWeiter(ende, 12); }), 6);
+    EXPECT_EQ(NummerDesFehlers([&] { return MonateWeiter(anfang, -1); }), 6);
+    EXPECT_EQ(NummerDesFehlers([&] { return MonateWeiter(anfang, -12); }), 6);
+    EXPECT_EQ(NummerDesFehlers([&] { return MonateWeiter(anfang, -12 * 200); }), 6);
+}
+
 } // namespace
 } // namespace altardienst
