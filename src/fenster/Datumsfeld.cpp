@@ -7,7 +7,6 @@
 #include "fenster/Terminbox.h"
 #include "platform/Uhr.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 
 namespace altardienst {
@@ -47,32 +46,24 @@ void Datumsfeld::KnöpfeAnlegen(const std::array<std::array<const char *, 2>, 3>
                      Plusknopf(namen[k][1], Gesprochen(gesprochen, Später[k]).constData())};
 }
 
-QLayout *Datumsfeld::SchritteUntereinander() const
+void Datumsfeld::Anordnen(QGridLayout *raster, int zeile, const char *text) const
 {
-    auto *raster = new QGridLayout;
-    raster->setHorizontalSpacing(5);
-    raster->setVerticalSpacing(2);
+    raster->addWidget(Beschriftung("", text, Feld), zeile, 0);
+    raster->addWidget(Feld, zeile, 1, Qt::AlignLeft);
     for (std::size_t k = 0; k < Spins.size(); ++k) {
-        const int zeile = static_cast<int>(k);
-        raster->addWidget(Beschriftung("", Einheiten[k]), zeile, 0);
-        raster->addWidget(Spins[k], zeile, 1);
-        if (!Knöpfe[k].Minus)
-            continue;
-        raster->addWidget(Knöpfe[k].Minus, zeile, 2);
-        raster->addWidget(Knöpfe[k].Plus, zeile, 3);
+        auto *schritt = new QHBoxLayout;
+        schritt->setSpacing(5);
+        QLabel *einheit = Beschriftung("", Einheiten[k]);
+        einheit->setMinimumWidth(einheit->fontMetrics().horizontalAdvance("Monat") + 6);
+        schritt->addWidget(einheit);
+        schritt->addWidget(Spins[k]);
+        if (Knöpfe[k].Minus) {
+            schritt->addWidget(Knöpfe[k].Minus);
+            schritt->addWidget(Knöpfe[k].Plus);
+        }
+        schritt->addStretch();
+        raster->addLayout(schritt, zeile + static_cast<int>(k), 2);
     }
-    return raster;
-}
-
-QLayout *Datumsfeld::SpinsNebeneinander() const
-{
-    auto *reihe = new QHBoxLayout;
-    reihe->setSpacing(1);
-    for (std::size_t k = 0; k < Spins.size(); ++k) {
-        Spins[k]->setToolTip(Einheiten[k]);
-        reihe->addWidget(Spins[k]);
-    }
-    return reihe;
 }
 
 void Datumsfeld::SchritteVerbinden(const std::function<void()> &danach) const
@@ -121,6 +112,11 @@ int JahreBisHeute(const QLineEdit *feld)
 void HeuteZeigen(QLineEdit *feld)
 {
     Setzen(feld, KurzesDatum(Uhr.Heute()));
+}
+
+const std::array<const char *, 3> &Einheitennamen()
+{
+    return Einheiten;
 }
 
 } // namespace altardienst

@@ -4,7 +4,7 @@
 
 #include "fenster/SpinButton.h"
 
-#include <QLayout>
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -31,11 +31,9 @@ class Datumsfeld {
     /// Adds the pairs of buttons: minus and plus of each unit.
     void KnöpfeAnlegen(const std::array<std::array<const char *, 2>, 3> &namen);
 
-    /// Three short rows of a unit's name, its spin button and its buttons.
-    QLayout *SchritteUntereinander() const;
-
-    /// The three spin buttons side by side.
-    QLayout *SpinsNebeneinander() const;
+    /// Label and box in one row of a grid, and beside them, in this and the next two rows, the name
+    /// of each unit with its spin button and its buttons.
+    void Anordnen(QGridLayout *raster, int zeile, const char *text) const;
 
     /// Connects the steps. Stepwise: a box without a date stays as it is. A spin button then runs
     /// `danach`; without one it gives the box the focus.
@@ -60,5 +58,8 @@ class Datumsfeld {
 int JahreBisHeute(const QLineEdit *feld);
 
 void HeuteZeigen(QLineEdit *feld);
+
+/// "Tag", "Monat" and "Jahr", as the units are called on the screen.
+const std::array<const char *, 3> &Einheitennamen();
 
 } // namespace altardienst

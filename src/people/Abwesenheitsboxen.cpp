@@ -48,10 +48,13 @@ Abwesenheit::Abwesenheit(int nummer)
 
 void Abwesenheit::Anordnen(QGridLayout *raster, int zeile) const
 {
-    raster->addWidget(Start.Feld, zeile, 0);
-    raster->addLayout(Start.SpinsNebeneinander(), zeile, 1);
-    raster->addWidget(Schluß.Feld, zeile, 2);
-    raster->addLayout(Schluß.SpinsNebeneinander(), zeile, 3);
+    int spalte = 0;
+    for (const Datumsfeld *datum : {&Start, &Schluß}) {
+        raster->addWidget(datum->Feld, zeile, spalte++);
+        for (SpinButton *spin : datum->Spins)
+            raster->addWidget(spin, zeile, spalte++);
+        ++spalte; // the gap before `Schluß`
+    }
 }
 
 void Abwesenheit::Verbinden() const
@@ -89,16 +92,21 @@ Abwesenheitsboxen::Abwesenheitsboxen(int anzahl)
 QLayout *Abwesenheitsboxen::Anordnen() const
 {
     auto *raster = new QGridLayout;
-    raster->setHorizontalSpacing(4);
-    raster->setVerticalSpacing(4);
-    const Abwesenheit &erste = Zeiten.front();
-    raster->addWidget(Beschriftung("", "Nicht Dienstbereit vom"), 0, 0, 1, 2);
-    raster->addWidget(Beschriftung("", "bis"), 0, 2, 1, 2);
+    raster->setHorizontalSpacing(3);
+    raster->setVerticalSpacing(3);
+    raster->setColumnMinimumWidth(4, 8);
+    const auto kopf = [raster](const char *text, QLineEdit *feld, int spalte) {
+        auto *label = Beschriftung("", text);
+        label->setBuddy(feld);
+        raster->addWidget(label, 0, spalte, 1, 4);
+        for (const char *einheit : Einheitennamen())
+            raster->addWidget(Beschriftung("", einheit), 1, ++spalte, Qt::AlignHCenter);
+    };
+    kopf("Nicht Dienstbereit vom", Zeiten.front().Start.Feld, 0);
+    kopf("bis", Zeiten.front().Schluß.Feld, 5);
     for (std::size_t k = 0; k < Zeiten.size(); ++k)
-        Zeiten[k].Anordnen(raster, static_cast<int>(k) + 1);
-    static_cast<QLabel *>(raster->itemAtPosition(0, 0)->widget())->setBuddy(erste.Start.Feld);
-    static_cast<QLabel *>(raster->itemAtPosition(0, 2)->widget())->setBuddy(erste.Schluß.Feld);
-    raster->setColumnStretch(4, 1);
+        Zeiten[k].Anordnen(raster, static_cast<int>(k) + 2);
+    raster->setColumnStretch(9, 1);
     return raster;
 }
 

@@ -25,15 +25,16 @@ QLayout *Flagboxen::Anordnen(QWidget *fenster, int jeZeile) const
     raster->setVerticalSpacing(4);
     for (std::size_t k = 0; k < Boxen.size(); ++k) {
         const int zeile = static_cast<int>(k) / jeZeile;
-        const int spalte = 2 * (static_cast<int>(k) % jeZeile);
+        const int spalte = 3 * (static_cast<int>(k) % jeZeile);
         QCheckBox *box = Boxen[k];
         auto *label = Beschriftung("", namen[k].Text);
         label->setBuddy(box);
         BeiKlick(label, [box] { box->click(); });
         raster->addWidget(box, zeile, spalte);
         raster->addWidget(label, zeile, spalte + 1);
-        raster->setColumnStretch(spalte + 1, 1);
+        raster->setColumnMinimumWidth(spalte + 2, 14);
     }
+    raster->setColumnStretch(3 * jeZeile, 1);
     return raster;
 }
 

@@ -80,10 +80,9 @@ void HelferForm::Anordnen()
     person->setHorizontalSpacing(10);
     person->setVerticalSpacing(6);
     Person.Anordnen(person, 0, 2);
-    person->addWidget(Beschriftung("", "Geburtstag:", Tagen.Feld), 7, 0, Qt::AlignTop);
-    person->addWidget(Tagen.Feld, 7, 1, Qt::AlignTop);
-    person->addLayout(Tagen.SchritteUntereinander(), 7, 2, Qt::AlignLeft);
+    Tagen.Anordnen(person, 7, "Geburtstag:");
     person->setColumnStretch(2, 1);
+    person->setRowStretch(10, 1);
 
     auto *dienste = new QGridLayout;
     dienste->setHorizontalSpacing(10);
@@ -118,9 +117,9 @@ void HelferForm::Anordnen()
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(18);
     spalte->addLayout(kopf);
-    spalte->addLayout(mitte);
-    spalte->addStretch();
+    spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(unten);
+    GrößeAnpassen(this);
     Person.Vorname->setFocus();
 }
 

@@ -12,7 +12,6 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace altardienst {
@@ -133,18 +132,10 @@ void MeßdienerForm::Anordnen()
     rechts->addLayout(Partnerteil());
     rechts->addStretch();
 
-    // On a small or strongly enlarged screen the record scrolls and the buttons stay.
-    auto *fläche = new QWidget;
-    auto *mitte = new QHBoxLayout(fläche);
-    mitte->setContentsMargins(0, 0, 0, 0);
+    auto *mitte = new QHBoxLayout;
     mitte->setSpacing(28);
     mitte->addLayout(Personenteil(), 1);
     mitte->addLayout(rechts);
-    auto *rollbar = Benannt(new QScrollArea, "Datensatz");
-    rollbar->setWidgetResizable(true);
-    rollbar->setFrameShape(QFrame::NoFrame);
-    rollbar->setFocusPolicy(Qt::NoFocus);
-    rollbar->setWidget(fläche);
 
     auto *unten = new QHBoxLayout;
     for (QPushButton *knopf : {NeuDiener, Lösch, Aufnahmebestätigung})
@@ -157,9 +148,9 @@ void MeßdienerForm::Anordnen()
     spalte->setContentsMargins(16, 16, 16, 16);
     spalte->setSpacing(12);
     spalte->addLayout(kopf);
-    spalte->addWidget(rollbar, 1);
+    spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(unten);
-    resize(1000, 680);
+    GrößeAnpassen(this);
     Person.Vorname->setFocus();
 }
 
@@ -167,28 +158,24 @@ QLayout *MeßdienerForm::Personenteil()
 {
     auto *raster = new QGridLayout;
     raster->setHorizontalSpacing(10);
-    raster->setVerticalSpacing(5);
+    raster->setVerticalSpacing(4);
     Person.Anordnen(raster, 0, 3);
-    const auto datum = [&](const char *text, const Datumsfeld &feld, int zeile) {
-        raster->addWidget(Beschriftung("", text, feld.Feld), zeile, 0, Qt::AlignTop);
-        raster->addWidget(feld.Feld, zeile, 1, Qt::AlignTop);
-        raster->addLayout(feld.SchritteUntereinander(), zeile, 2, Qt::AlignLeft);
-    };
-    datum("Geburtstag:", Gebutag, 7);
-    raster->addWidget(Beschriftung("", "Geschlecht:", Geschl), 8, 0);
-    raster->addWidget(Geschl, 8, 1, 1, 2, Qt::AlignLeft);
+    Gebutag.Anordnen(raster, 7, "Geburtstag:");
+    raster->addWidget(Beschriftung("", "Geschlecht:", Geschl), 10, 0);
+    raster->addWidget(Geschl, 10, 1, 1, 2, Qt::AlignLeft);
     auto *größe = new QHBoxLayout;
+    größe->setSpacing(6);
     größe->addWidget(Groß.Feld);
     größe->addWidget(Beschriftung("", "cm"));
     größe->addWidget(Groß.Spin);
     größe->addStretch();
-    raster->addWidget(Beschriftung("", "Größe:", Groß.Feld), 9, 0);
-    raster->addLayout(größe, 9, 1, 1, 2);
-    datum("Eintrittsdatum:", Eintritttdatum, 10);
-    raster->addWidget(Beschriftung("", "Gruppe:", Dieenst), 11, 0);
-    raster->addWidget(Dieenst, 11, 1, 1, 3);
+    raster->addWidget(Beschriftung("", "Größe:", Groß.Feld), 11, 0);
+    raster->addLayout(größe, 11, 1, 1, 2);
+    Eintritttdatum.Anordnen(raster, 12, "Eintrittsdatum:");
+    raster->addWidget(Beschriftung("", "Gruppe:", Dieenst), 15, 0);
+    raster->addWidget(Dieenst, 15, 1, 1, 3);
     raster->setColumnStretch(3, 1);
-    raster->setRowStretch(12, 1);
+    raster->setRowStretch(16, 1);
     return raster;
 }
 

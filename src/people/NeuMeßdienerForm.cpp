@@ -45,33 +45,30 @@ void NeuMeßdienerForm::Anordnen()
     raster->setHorizontalSpacing(10);
     raster->setVerticalSpacing(5);
     Person.Anordnen(raster, 0, 2);
-    const auto datum = [&](const char *text, const Datumsfeld &feld, int zeile) {
-        raster->addWidget(Beschriftung("", text, feld.Feld), zeile, 0, Qt::AlignTop);
-        raster->addWidget(feld.Feld, zeile, 1, Qt::AlignTop);
-        raster->addLayout(feld.SchritteUntereinander(), zeile, 2, Qt::AlignLeft);
-    };
-    datum("Geburtstag:", Gebutag, 7);
-    raster->addWidget(Beschriftung("", "Geschlecht:", Geschl), 8, 0);
-    raster->addWidget(Geschl, 8, 1, 1, 2, Qt::AlignLeft);
+    Gebutag.Anordnen(raster, 7, "Geburtstag:");
+    raster->addWidget(Beschriftung("", "Geschlecht:", Geschl), 10, 0);
+    raster->addWidget(Geschl, 10, 1, 1, 2, Qt::AlignLeft);
     auto *größe = new QHBoxLayout;
+    größe->setSpacing(6);
     größe->addWidget(Groß.Feld);
     größe->addWidget(Beschriftung("", "cm"));
     größe->addWidget(Groß.Spin);
     größe->addStretch();
-    raster->addWidget(Beschriftung("", "Größe:", Groß.Feld), 9, 0);
-    raster->addLayout(größe, 9, 1, 1, 2);
-    datum("Eintrittsdatum:", Eintritttdatum, 10);
-    raster->addWidget(Beschriftung("", "Gruppe:", Dieenst), 11, 0);
-    raster->addWidget(Dieenst, 11, 1, 1, 2);
+    raster->addWidget(Beschriftung("", "Größe:", Groß.Feld), 11, 0);
+    raster->addLayout(größe, 11, 1, 1, 2);
+    Eintritttdatum.Anordnen(raster, 12, "Eintrittsdatum:");
+    raster->addWidget(Beschriftung("", "Gruppe:", Dieenst), 15, 0);
+    raster->addWidget(Dieenst, 15, 1, 1, 2);
     raster->setColumnStretch(2, 1);
+    raster->setRowStretch(16, 1);
 
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(18);
-    spalte->addLayout(raster);
-    spalte->addStretch();
+    spalte->addWidget(Rollbar(raster), 1);
     spalte->addLayout(Schlußknöpfe(OKButton, CancelButton));
     setMinimumWidth(460);
+    GrößeAnpassen(this);
     Person.Vorname->setFocus();
 }
 

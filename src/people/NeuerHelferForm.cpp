@@ -38,22 +38,21 @@ void NeuerHelferForm::Anordnen()
     raster->setHorizontalSpacing(10);
     raster->setVerticalSpacing(6);
     Person.Anordnen(raster, 0, 2);
-    raster->addWidget(Beschriftung("", "Geburtstag:", Tagen.Feld), 7, 0, Qt::AlignTop);
-    raster->addWidget(Tagen.Feld, 7, 1, Qt::AlignTop);
-    raster->addLayout(Tagen.SchritteUntereinander(), 7, 2, Qt::AlignLeft);
-    raster->addWidget(Beschriftung("", "Dienst 1:", Dient), 8, 0);
-    raster->addWidget(Dient, 8, 1, 1, 2);
-    raster->addWidget(Beschriftung("", "Dienst 2:", Dient2), 9, 0);
-    raster->addWidget(Dient2, 9, 1, 1, 2);
+    Tagen.Anordnen(raster, 7, "Geburtstag:");
+    raster->addWidget(Beschriftung("", "Dienst 1:", Dient), 10, 0);
+    raster->addWidget(Dient, 10, 1, 1, 2);
+    raster->addWidget(Beschriftung("", "Dienst 2:", Dient2), 11, 0);
+    raster->addWidget(Dient2, 11, 1, 1, 2);
     raster->setColumnStretch(2, 1);
+    raster->setRowStretch(12, 1);
 
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(18);
-    spalte->addLayout(raster);
-    spalte->addStretch();
+    spalte->addWidget(Rollbar(raster), 1);
     spalte->addLayout(Schlußknöpfe(OKButton, CancelButton));
     setMinimumWidth(460);
+    GrößeAnpassen(this);
     Person.Vorname->setFocus();
 }
 
