@@ -6,7 +6,7 @@ namespace altardienst {
 /// Reads the eight files of the program's directory into the tables. Never fails for a bad or
 /// missing file: a value that doesn't convert ends the load without a word, with the tables filled
 /// up to it. If a file is missing, the directory is made and one message names the first missing
-/// file. Failure 75 if the directory cannot be made.
+/// file. Failure 75 or 76 if the directory cannot be made.
 void VonFestplatteLaden();
 
 /// Writes all eight files in place; the first failure (Laufzeitfehler 61, 75, 76) ends it with the

@@ -113,16 +113,18 @@ template <class Liste> void Umstellen(Liste felder, std::vector<int> quellen)
 }
 
 /// Sorts a table by the key that `schlüsselVon` gives for a record. Every field of a record moves;
-/// the columns that belong to a run only do not.
+/// the columns that belong to a run only do not. Failure 9 where the range goes beyond the table.
 template <class Tabelle, class SchlüsselVon>
-void TabelleSortieren(Tabelle &tabelle, const Sortierbereich &bereich, SchlüsselVon schlüsselVon)
+void TabelleSortieren(Tabelle &tabelle, Sortierbereich bereich, SchlüsselVon schlüsselVon)
 {
+    // Beyond the table the first pass still goes as far as there are neighbours.
+    bool hinaus = bereich.Vergleiche > Tabelle::HöchsterIndex;
+    if (hinaus)
+        bereich = {1, Tabelle::HöchsterIndex, true, bereich.Hilfssatz, bereich.Nachfüllung};
     std::vector<decltype(schlüsselVon(0))> schlüssel;
     schlüssel.reserve(Tabelle::HöchsterIndex + 1);
     for (int i = 0; i <= Tabelle::HöchsterIndex; ++i)
         schlüssel.push_back(schlüsselVon(i));
-    if (bereich.Vergleiche > Tabelle::HöchsterIndex)
-        throw Laufzeitfehler(Laufzeitfehler::IndexAußerhalb);
     std::vector<Sortierplatz> plätze = Plätze(schlüssel);
     NachbarnTauschen(plätze, bereich);
     std::vector<int> quellen;
@@ -130,6 +132,8 @@ void TabelleSortieren(Tabelle &tabelle, const Sortierbereich &bereich, Schlüsse
     for (const auto &platz : plätze)
         quellen.push_back(platz.Quelle);
     Umstellen(tabelle.Felder(), std::move(quellen));
+    if (hinaus)
+        throw Laufzeitfehler(Laufzeitfehler::IndexAußerhalb);
 }
 
 } // namespace altardienst

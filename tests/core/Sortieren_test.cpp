@@ -126,5 +126,21 @@ TEST(Sortieren, ÜberDieTabelleHinausIstFehler9)
     EXPECT_EQ(sortieren(12), 9);
 }
 
+TEST(Sortieren, VorDemFehlerGehtDerErsteDurchgangBisZumEnde)
+{
+    std::mt19937 zufall(14);
+    for (int runde = 0; runde < 2000; ++runde) {
+        Probetabelle ist = Zufallstabelle(zufall);
+        Probetabelle soll = ist;
+        Sortierbereich bereich = Sortierbereich::Bis(12 + runde % 5, runde % 13, -1);
+        EXPECT_EQ(NummerDesFehlers([&] {
+                      TabelleSortieren(ist, bereich, [&](int i) { return Text(ist.Name[i]); });
+                  }),
+                  9);
+        EXPECT_EQ(NummerDesFehlers([&] { SatzweiseSortieren(soll, bereich); }), 9);
+        ASSERT_NO_FATAL_FAILURE(ErwarteGleich(ist, soll)) << "round " << runde;
+    }
+}
+
 } // namespace
 } // namespace altardienst
