@@ -25,12 +25,9 @@ SpinButton::SpinButton(const char *name, const char *gesprochen)
         knopf->setAccessibleName(kind);
         knopf->setArrowType(richtung);
         knopf->setAutoRepeat(true);
-        // The arrows belong to the control, which takes the focus.
+        // The arrows belong to the control, which takes the focus when one is pressed.
         knopf->setFocusPolicy(Qt::NoFocus);
-        connect(knopf, &QToolButton::clicked, this, [this, &handler] {
-            setFocus(Qt::MouseFocusReason);
-            handler();
-        });
+        connect(knopf, &QToolButton::clicked, this, [&handler] { handler(); });
         reihe->addWidget(knopf);
     };
     pfeil("ab", Qt::DownArrow, ab);
