@@ -26,11 +26,11 @@ class BausteineTest : public Fensterstand {
         return [this, was] { ereignisse.emplace_back(was); };
     }
 
+    std::vector<Text> ereignisse; // outlives the window, which may still lose its focus
     QWidget fenster;
     QLineEdit *feld = Textfeld("Feld");
     QPushButton *knopf = Knopf("Größe", "(1) Größe");
     QPushButton *anderer = Knopf("anderer", "anderer");
-    std::vector<Text> ereignisse;
 };
 
 using Liste = std::vector<Text>;

@@ -32,8 +32,10 @@ void AlleLöschen()
     const QWidgetList fenster = QApplication::topLevelWidgets();
     std::vector<QPointer<QWidget>> eigene(fenster.begin(), fenster.end());
     for (const auto &eines : eigene)
-        if (eines && !eines->parent())
+        if (eines && !eines->parent()) {
+            eines->hide(); // as the program does: handlers of a lost focus run on a whole window
             delete eines;
+        }
 }
 
 } // namespace

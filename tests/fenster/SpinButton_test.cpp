@@ -22,10 +22,10 @@ class SpinButtonTest : public Fensterstand {
         FokusAuf(feld);
     }
 
+    Text ereignisse; // outlives the window, which may still lose its focus
     QWidget fenster;
     QLineEdit *feld = Textfeld("Feld");
     SpinButton *spin = new SpinButton("DPM", "Datensatz wechseln");
-    Text ereignisse;
 };
 
 TEST_F(SpinButtonTest, JederClickIstEinEreignis)

@@ -34,10 +34,12 @@ TEST_F(HauptTastenTest, Tasten1Bis7DrückenIhrenKnopfBeiJedemFokus)
 {
     for (QPushButton *knopf : knöpfe) {
         FokusAuf(knopf);
-        gedrückt.clear();
-        for (int ziffer = 0; ziffer <= 9; ++ziffer)
+        for (int ziffer = 0; ziffer <= 9; ++ziffer) {
+            gedrückt.clear();
             Taste(static_cast<Qt::Key>(Qt::Key_0 + ziffer));
-        EXPECT_EQ(gedrückt, "1234567") << Aufschrift(knopf);
+            const bool hatKnopf = ziffer >= 1 && ziffer <= 7;
+            EXPECT_EQ(gedrückt, hatKnopf ? std::to_string(ziffer) : "") << Aufschrift(knopf);
+        }
         EXPECT_TRUE(knopf->hasFocus());
     }
 }

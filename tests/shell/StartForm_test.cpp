@@ -281,8 +281,10 @@ TEST_F(StartFormTest, Änderung1BleibtInDenGrenzenUndÜbernimmtDasDatum)
     Drehen("Änderung1", "auf");
     EXPECT_EQ(Konfig.StartDatum, Tag(2, 12));
     Eingeben("Tagilein", "x");
+    Eingeben("Datumsen", "3.12.2026");
     Drehen("Änderung1", "auf");
     EXPECT_EQ(Zeigt("Tagilein"), "x");
+    EXPECT_EQ(Konfig.StartDatum, Tag(3, 12)); // the date is taken before the number fails
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
