@@ -9,6 +9,10 @@
 #include <QPageLayout>
 #include <QPainter>
 
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
 namespace altardienst {
 namespace {
 
@@ -21,13 +25,30 @@ constexpr Single LangeSeite = 16838; // A4, 297 mm
     throw Laufzeitfehler(Laufzeitfehler::Druckerfehler);
 }
 
+/// Whether a PDF was written to its end: a full disk cuts it off without a word.
+bool IstVollständig(const QString &pdf)
+{
+    QFile datei(pdf);
+    return datei.open(QIODevice::ReadOnly) && datei.seek(std::max<qint64>(datei.size() - 8, 0)) &&
+           datei.readAll().trimmed().endsWith("%%EOF");
+}
+
+/// Puts a file in the place of another one, which stays if that fails.
+bool Ersetzen(const QString &alt, const QString &neu)
+{
+    std::error_code fehler;
+    std::filesystem::rename(neu.toStdU16String(), alt.toStdU16String(), fehler);
+    return !fehler;
+}
+
 } // namespace
 
 std::shared_ptr<QPrinter> PdfDrucker(const QString &datei)
 {
     auto drucker = std::make_shared<QPrinter>(QPrinter::HighResolution);
-    drucker->setOutputFormat(QPrinter::PdfFormat);
     drucker->setOutputFileName(datei);
+    // After the name: an empty one would choose the system's printer.
+    drucker->setOutputFormat(QPrinter::PdfFormat);
     return drucker;
 }
 
@@ -122,6 +143,9 @@ void DruckerQt::Beginnen()
     drucker->setPageOrientation(richtung == Querformat ? QPageLayout::Landscape
                                                        : QPageLayout::Portrait);
     drucker->setFullPage(true); // coordinates count from the paper's edge
+    pdf = drucker->outputFileName();
+    if (!pdf.isEmpty())
+        drucker->setOutputFileName(Teildatei());
     stift = std::make_unique<QPainter>();
     if (!stift->begin(drucker.get())) {
         stift.reset();
@@ -169,25 +193,36 @@ void DruckerQt::NewPage()
 
 void DruckerQt::EndDoc()
 {
-    if (stift && !stift->end())
-        Druckerfehler();
+    if (stift) {
+        if (!stift->end())
+            Druckerfehler();
+        if (!pdf.isEmpty() && !(IstVollständig(Teildatei()) && Ersetzen(pdf, Teildatei())))
+            Druckerfehler();
+    }
     Vergessen();
 }
 
 void DruckerQt::Verwerfen()
 {
-    if (stift) {
+    if (stift && stift->isActive()) {
         drucker->abort();
         stift->end();
-        QFile::remove(drucker->outputFileName()); // a PDF that was begun
     }
+    if (!pdf.isEmpty())
+        QFile::remove(Teildatei());
     Vergessen();
+}
+
+QString DruckerQt::Teildatei() const
+{
+    return pdf + ".teil";
 }
 
 void DruckerQt::Vergessen()
 {
     stift.reset();
     drucker.reset();
+    pdf.clear();
     neueSeite = false;
     x = 0;
     y = 0;

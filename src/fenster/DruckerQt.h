@@ -25,7 +25,8 @@ struct Druckauswahl {
 std::shared_ptr<QPrinter> PdfDrucker(const QString &datei);
 
 /// A4, measured from the paper's edge. The document begins with the first line that is written, so
-/// a report without output leaves no file.
+/// a report without output leaves no file. A PDF is made beside its place, under its name and
+/// ".teil", and takes the place of an older one when it is whole.
 class DruckerQt : public DruckerDienst {
   public:
     /// What stands before each report; nothing if it was cancelled.
@@ -55,6 +56,7 @@ class DruckerQt : public DruckerDienst {
     void Beginnen();
     void SchriftSetzen();
     void Vergessen();
+    QString Teildatei() const;
 
     Dialogablauf dialog;
     int richtung = Hochformat;
@@ -67,6 +69,7 @@ class DruckerQt : public DruckerDienst {
     bool neueSeite = false; // a page turned but not yet written on
 
     std::shared_ptr<QPrinter> drucker;
+    QString pdf; // the file of the document that was begun, empty on paper
     std::unique_ptr<QPainter> stift;
 };
 
