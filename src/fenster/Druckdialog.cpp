@@ -4,6 +4,7 @@
 #include "fenster/Bausteine.h"
 
 #include <QApplication>
+#include <QButtonGroup>
 #include <QDir>
 #include <QFileDialog>
 #include <QGridLayout>
@@ -64,6 +65,11 @@ DruckdialogForm::DruckdialogForm(const Druckanfrage &anfrage)
 
 void DruckdialogForm::Anordnen()
 {
+    // Without a group of their own these would take in the options of the frame below.
+    auto *ziele = new QButtonGroup(this);
+    for (QRadioButton *ziel : {Papier, Pdf})
+        ziele->addButton(ziel);
+
     PdfDatei->setMinimumWidth(320);
     auto *raster = new QGridLayout;
     raster->setHorizontalSpacing(10);
@@ -102,6 +108,7 @@ void DruckdialogForm::Anordnen()
 void DruckdialogForm::Verbinden()
 {
     connect(Papier, &QRadioButton::toggled, this, [this] { ZielGewählt(); });
+    connect(PdfDatei, &QLineEdit::textChanged, this, [this] { ZielGewählt(); });
     connect(Einstellungen, &QPushButton::clicked, this, [this] { EinstellungenZeigen(); });
     connect(Durchsuchen, &QPushButton::clicked, this, [this] { PdfSuchen(); });
     connect(OKButton, &QPushButton::clicked, this, [this] { accept(); });
@@ -115,6 +122,7 @@ void DruckdialogForm::ZielGewählt()
         control->setEnabled(aufPapier);
     for (QWidget *control : std::initializer_list<QWidget *>{PdfDatei, Durchsuchen})
         control->setEnabled(!aufPapier);
+    OKButton->setEnabled(aufPapier || !PdfDatei->text().isEmpty());
 }
 
 /// The platform's own dialog, for what this one leaves out (tray, both sides, colour).
