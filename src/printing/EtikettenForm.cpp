@@ -151,6 +151,12 @@ void EtikettenForm::Zeigen()
 
 void EtikettenForm::Schreiben()
 {
+    // The window's close box and the page keys leave the focus where it is, but not a box beyond
+    // its bounds.
+    if (QWidget *feld = focusWidget()) {
+        feld->clearFocus();
+        feld->setFocus();
+    }
     const int i = Int16Lesen(TextVon(Wahl->Nummer));
     Etikett.Name[i] = TextVon(N);
     Etikett.RandOU[i] = SingleLesen(TextVon(OU));
