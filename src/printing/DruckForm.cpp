@@ -12,6 +12,7 @@
 #include "printing/Listen.h"
 #include "printing/Plandruck.h"
 
+#include <QButtonGroup>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -119,8 +120,12 @@ QWidget *DruckForm::Adressetiketten()
 {
     auto *rahmen = Benannt(new QGroupBox("Etiketten"), "Adressetiketten");
     auto *leute = new QHBoxLayout;
-    for (QRadioButton *option : {Alles, GRP, Messhelfer})
+    // Without a group of their own they would take in the options of the frame below.
+    auto *wahl = new QButtonGroup(rahmen);
+    for (QRadioButton *option : {Alles, GRP, Messhelfer}) {
+        wahl->addButton(option);
         leute->addWidget(option);
+    }
     leute->addStretch();
     auto *spalte = new QVBoxLayout(rahmen);
     spalte->addLayout(leute);

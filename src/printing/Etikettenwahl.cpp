@@ -104,11 +104,13 @@ void Etikettenwahl::Begrenzen()
 
 void Etikettenwahl::Drucken(const Etikettenleute &leute)
 {
-    Begrenzen();
-    Etikettenplatz platz = Platz();
-    EtikettenDrucken(leute, platz);
-    Zeigen(platz);
-    Begrenzen();
+    Abgefangen([&] {
+        Begrenzen();
+        Etikettenplatz platz = Platz();
+        EtikettenDrucken(leute, platz);
+        Zeigen(platz);
+        Begrenzen();
+    })();
 }
 
 } // namespace altardienst

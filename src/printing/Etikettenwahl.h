@@ -33,7 +33,8 @@ class Etikettenwahl : public QWidget {
     /// Shows the names of the formats and selects the one of `Etikett.Anzahl`.
     void Füllen();
 
-    /// Prints from the place on, and then shows the place where to go on.
+    /// Prints from the place on, and then shows the place where to go on. Trapped, as every report:
+    /// a place that is no number prints nothing.
     void Drucken(const Etikettenleute &leute);
 
   private:

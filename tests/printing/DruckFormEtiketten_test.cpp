@@ -1,0 +1,222 @@
+// The label part of the form Druck: formats, the first place, whom the labels are for.
+#include "printing/Druckfenster.h"
+
+#include "shell/HauptForm.h"
+
+#include <QAction>
+#include <QApplication>
+
+namespace altardienst {
+namespace {
+
+using Liste = std::vector<Text>;
+
+class DruckFormEtikettenTest : public Druckfenster {
+  protected:
+    /// Clicks on the circle of an option.
+    void Wählen(const char *name) const
+    {
+        QWidget *option = Control(name);
+        QTest::mouseClick(option, Qt::LeftButton, {}, {10, option->height() / 2});
+    }
+    bool Gewählt(const char *name) const { return Finden<QRadioButton>(form, name)->isChecked(); }
+
+    /// "Reihe/Spalte" as the form shows them.
+    Text Platz() const { return Zeigt("Reih") + "/" + Zeigt("Spal"); }
+
+    void PlatzEingeben(const char *reihe, const char *spalte) const
+    {
+        Tippen(Control("Reih"), reihe);
+        Tippen(Control("Spal"), spalte);
+    }
+
+    /// The first lines of all labels.
+    Liste Namen()
+    {
+        Liste namen;
+        for (const Text &zeile : Gedruckt("Etiketten"))
+            if (zeile.ends_with("Berg") || zeile.ends_with("Lang"))
+                namen.push_back(zeile.substr(0, zeile.find(' ')));
+        return namen;
+    }
+};
+
+TEST_F(DruckFormEtikettenTest, ÖffnetMitDemGewähltenFormatUndDemErstenPlatz)
+{
+    Etikett.Anzahl = 4;
+    Etikett.Name[9] = "Groß & klein";
+    Öffnen();
+    for (int n = 1; n <= 10; ++n) {
+        const Text name = "O" + std::to_string(n);
+        EXPECT_EQ(Gewählt(name.c_str()), n == 5) << name;
+        EXPECT_EQ(Zeigt(name.c_str()),
+                  n == 10 ? "Groß && klein" : "Format " + std::to_string(n - 1));
+    }
+    EXPECT_EQ(Platz(), "1/1");
+    EXPECT_TRUE(Gewählt("Alles"));
+}
+
+TEST_F(DruckFormEtikettenTest, JedeOptionWähltIhrFormat)
+{
+    Öffnen();
+    for (int n = 10; n >= 1; --n) {
+        Wählen(("O" + std::to_string(n)).c_str());
+        EXPECT_EQ(Etikett.Anzahl, n - 1);
+    }
+    FokusAuf(Control("O1"));
+    QTest::keyClick(Control("O1"), Qt::Key_Down);
+    EXPECT_EQ(Etikett.Anzahl, 1);
+}
+
+TEST_F(DruckFormEtikettenTest, EineNummerOhneFormatWähltKeines)
+{
+    for (const int anzahl : {15, -1, 400}) {
+        Etikett.Anzahl = anzahl;
+        Öffnen();
+        EXPECT_EQ(Etikett.Anzahl, anzahl);
+        EXPECT_EQ(Gedruckt("Etiketten"), Liste{});
+        delete form;
+    }
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(DruckFormEtikettenTest, NachDerWahlLiegtDerPlatzAufDemBogen)
+{
+    Etikett.Reihen[1] = 2;
+    Etikett.Spalten[1] = 2;
+    Öffnen();
+    PlatzEingeben("4", "3");
+    Wählen("O2");
+    EXPECT_EQ(Platz(), "2/2");
+    Wählen("O1");
+    EXPECT_EQ(Platz(), "2/2"); // a larger sheet changes nothing
+    PlatzEingeben("", "");
+    Wählen("O3");
+    EXPECT_EQ(Platz(), "1/1");
+    PlatzEingeben("99", "0");
+    Wählen("O3");
+    EXPECT_EQ(Platz(), "4/1");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(DruckFormEtikettenTest, DieDrehknöpfeBleibenAufDemBogen)
+{
+    Öffnen();
+    Drehen("ÄReih", "ab");
+    EXPECT_EQ(Platz(), "1/1");
+    for (int mal = 0; mal < 5; ++mal) {
+        Drehen("ÄReih", "auf");
+        Drehen("ÄSpal", "auf");
+    }
+    EXPECT_EQ(Platz(), "4/3");
+    Drehen("ÄSpal", "ab");
+    EXPECT_EQ(Platz(), "4/2");
+    PlatzEingeben("x", "2");
+    Drehen("ÄReih", "auf");
+    EXPECT_EQ(Zeigt("Reih"), "x");
+}
+
+TEST_F(DruckFormEtikettenTest, EineOptionGruppeEntscheidetÜberDieLeute)
+{
+    Öffnen();
+    Finden<QComboBox>(form, "Gruppend")->setCurrentIndex(1);
+    EXPECT_EQ(Namen(), (Liste{"Anna", "Ben", "Cara"}));
+    Wählen("GRP");
+    EXPECT_FALSE(Gewählt("Alles"));
+    EXPECT_EQ(Namen(), (Liste{"Ben", "Cara"}));
+    Wählen("Messhelfer");
+    EXPECT_FALSE(Gewählt("GRP"));
+    EXPECT_EQ(Namen(), Liste{"Lea"});
+    Wählen("Alles");
+    EXPECT_FALSE(Gewählt("Messhelfer"));
+    EXPECT_EQ(Namen(), (Liste{"Anna", "Ben", "Cara"}));
+    EXPECT_TRUE(Gewählt("O1")); // a group of its own
+}
+
+TEST_F(DruckFormEtikettenTest, DiePfeiltastenBleibenInIhrerOptionsgruppe)
+{
+    Öffnen();
+    FokusAuf(Control("Alles"));
+    const std::vector<std::pair<const char *, Qt::Key>> schritte = {{"GRP", Qt::Key_Right},
+                                                                    {"Messhelfer", Qt::Key_Right},
+                                                                    {"GRP", Qt::Key_Left},
+                                                                    {"Alles", Qt::Key_Left},
+                                                                    {"Alles", Qt::Key_Down}};
+    for (const auto &[option, taste] : schritte) {
+        QTest::keyClick(QApplication::focusWidget(), taste);
+        EXPECT_TRUE(Gewählt(option)) << option;
+        EXPECT_EQ(Etikett.Anzahl, 0);
+        EXPECT_TRUE(Gewählt("O1"));
+    }
+}
+
+TEST_F(DruckFormEtikettenTest, EineGruppeOhneMitgliedDrucktNichts)
+{
+    Öffnen();
+    Wählen("GRP"); // "Die Kleinen" has none
+    EXPECT_EQ(Namen(), Liste{});
+    EXPECT_EQ(Papier.Zeilen.back(), "EndDoc");
+}
+
+TEST_F(DruckFormEtikettenTest, DanachIstDerNächstePlatzVorgeschlagen)
+{
+    Öffnen();
+    PlatzEingeben("2", "2");
+    EXPECT_EQ(Namen().size(), 3U); // 2/2, 2/3, 3/1
+    EXPECT_EQ(Platz(), "3/2");
+    EXPECT_EQ(Namen().size(), 3U); // 3/2, 3/3, 4/1
+    EXPECT_EQ(Platz(), "4/2");
+}
+
+TEST_F(DruckFormEtikettenTest, EinVorschlagHinterDerLetztenSpalteWirdZurückgeholt)
+{
+    Öffnen();
+    EXPECT_EQ(Namen().size(), 3U); // fills the first row
+    EXPECT_EQ(Platz(), "1/3");
+}
+
+TEST_F(DruckFormEtikettenTest, AbgebrochenBleibtDerPlatz)
+{
+    Papier.Antwort = std::nullopt;
+    Öffnen();
+    PlatzEingeben("2", "3");
+    Drücken("Etiketten");
+    EXPECT_EQ(Platz(), "2/3");
+}
+
+TEST_F(DruckFormEtikettenTest, EinPlatzDerKeineZahlIstDrucktStillNichts)
+{
+    Öffnen();
+    PlatzEingeben("x", "2");
+    EXPECT_EQ(Gedruckt("Etiketten"), Liste{});
+    EXPECT_EQ(Platz(), "x/2");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(DruckFormEtikettenTest, EinLeeresFormatDrucktNichts)
+{
+    Etikett.Reihen[3] = 0;
+    Etikett.Spalten[3] = 0;
+    Öffnen();
+    Wählen("O4");
+    EXPECT_EQ(Gedruckt("Etiketten"), Liste{});
+    Wählen("O1");
+    EXPECT_EQ(Platz(), "1/1");
+    EXPECT_EQ(Namen().size(), 3U);
+}
+
+// The number of the format stays, and so the option now carries the name that was moved there.
+TEST_F(DruckFormEtikettenTest, NachDemSortierenIstDieselbeNummerGewählt)
+{
+    Etikett.Anzahl = 1;
+    auto *haupt = new HauptForm;
+    Finden<QAction>(haupt, "mnuEtiAB")->trigger();
+    Öffnen();
+    EXPECT_TRUE(Gewählt("O2"));
+    EXPECT_EQ(Zeigt("O2"), "Format 8");
+    Finden<QAction>(haupt, "mnuEtiAUF")->trigger();
+    EXPECT_EQ(Etikett.Anzahl, 1);
+}
+
+} // namespace
+} // namespace altardienst

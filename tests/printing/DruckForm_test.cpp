@@ -1,0 +1,286 @@
+// The form Druck: its buttons, the two dates and their weekdays.
+#include "printing/Druckfenster.h"
+
+#include "fenster/Anwendung.h"
+
+#include <algorithm>
+#include <map>
+
+namespace altardienst {
+namespace {
+
+using Liste = std::vector<Text>;
+
+class DruckFormTest : public Druckfenster {};
+
+TEST_F(DruckFormTest, JedesControlHatSeineBeschriftung)
+{
+    Öffnen();
+    EXPECT_EQ(form->objectName(), "Druck");
+    EXPECT_EQ(form->windowTitle(), "Druck");
+    const std::map<const char *, const char *> aufschriften = {
+        {"Messendruck", "Druck des Altardienstes"},
+        {"Meßdienerdruck", "Druck der Meßdienerdaten (alle)"},
+        {"DruckiMeßdieneri", "Druck Meßdienerdaten (Gruppe)"},
+        {"DruckHelfer", "Druck der Helfer"},
+        {"Standarddruck", "Drucken der Standardmessen"},
+        {"Erfassungsbogen", "Drucken des Erfassungsbogens für Meßdiener"},
+        {"Erfaßung", "Druck des Erfassungsbogens für Meßhelfer"},
+        {"Etiketten", "Druck von Adressetiketten"},
+        {"EtikGross", "Druck der Etikettengröße"},
+        {"Alles", "Alle"},
+        {"GRP", "Meßdienergruppe"},
+        {"Ende", "Ende"}};
+    for (const auto &[name, text] : aufschriften)
+        EXPECT_EQ(Zeigt(name), text) << name;
+    const std::map<Text, QWidget *> felder = {
+        {"Gruppe:", Control("Gruppend")},
+        {"Rückgabe des Erfassungsbogen bis zum:", Control("Rückgebend")},
+        {"Dauer des Plans (ca.):", Control("Dauernde")},
+        {"Reihe :", Control("Reih")},
+        {"Spalte :", Control("Spal")}};
+    std::map<Text, QWidget *> gesehen;
+    for (const QLabel *label : form->findChildren<QLabel *>())
+        if (label->buddy())
+            gesehen[Aufschrift(label)] = label->buddy();
+    EXPECT_EQ(gesehen, felder);
+    EXPECT_EQ(Finden<QGroupBox>(form, "EtiGröß")->title(), "Etikettengröße");
+    EXPECT_EQ(Finden<QGroupBox>(form, "Etik")->title(), "Erstes zu bedruckende Etikett in");
+}
+
+// Today is Saturday, the 21st; the plan starts on Saturdays, one week ahead.
+TEST_F(DruckFormTest, ÖffnetMitDerRückgabeAmTagDesVorgeschlagenenPlans)
+{
+    Öffnen();
+    EXPECT_EQ(Zeigt("Rückgebend"), "28.11.2026");
+    EXPECT_EQ(Zeigt("RückTag"), "Samstag   ");
+    EXPECT_EQ(Zeigt("Dauernde"), "26.12.2026");
+    EXPECT_EQ(Zeigt("DauerTag"), "Samstag   ");
+}
+
+TEST_F(DruckFormTest, EinFrühererStartwochentagLiegtWenigerWeitVoraus)
+{
+    Konfig.StartWochentag = 1;
+    Konfig.VorlaufWochen = 3;
+    Konfig.Tage = 0;
+    Öffnen();
+    EXPECT_EQ(Zeigt("Rückgebend"), "06.12.2026");
+    EXPECT_EQ(Zeigt("RückTag"), "Sonntag   ");
+    EXPECT_EQ(Zeigt("Dauernde"), "06.12.2026");
+}
+
+TEST_F(DruckFormTest, WochentageStehenInZehnZeichen)
+{
+    Öffnen();
+    for (const char *tag : {"Sonntag   ", "Montag    ", "Dienstag  ", "Mittwoch  ", "Donnerstag",
+                            "Freitag   ", "Samstag   "}) {
+        Drücken("Plus1");
+        EXPECT_EQ(Zeigt("RückTag"), tag);
+        Drücken("Plus2");
+        EXPECT_EQ(Zeigt("DauerTag"), tag);
+    }
+    EXPECT_EQ(Zeigt("Rückgebend"), "05.12.2026");
+    EXPECT_EQ(Zeigt("Dauernde"), "02.01.2027");
+}
+
+TEST_F(DruckFormTest, AlleKnöpfeDerBeidenTage)
+{
+    Öffnen();
+    for (const auto &[feld, minus, plus, spin] :
+         {std::array{"Rückgebend", "Minus1", "Plus1", "Änderung1"},
+          std::array{"Dauernde", "Minus2", "Plus2", "Änderung2"}}) {
+        const Text anderer = Zeigt(feld == Text("Dauernde") ? "Rückgebend" : "Dauernde");
+        Verlassen(feld, "28.2.2028");
+        Drücken(plus);
+        EXPECT_EQ(Zeigt(feld), "29.02.2028");
+        Drücken(plus);
+        EXPECT_EQ(Zeigt(feld), "01.03.2028");
+        Drücken(minus);
+        EXPECT_EQ(Zeigt(feld), "29.02.2028");
+        Drehen(spin, "auf");
+        EXPECT_EQ(Zeigt(feld), "01.03.2028");
+        Drehen(spin, "ab");
+        EXPECT_EQ(Zeigt(feld), "29.02.2028");
+        FokusAuf(Control(plus));
+        QTest::keyClick(Control(plus), Qt::Key_Plus);
+        EXPECT_EQ(Zeigt(feld), "01.03.2028");
+        EXPECT_EQ(Zeigt(feld == Text("Dauernde") ? "Rückgebend" : "Dauernde"), anderer);
+    }
+    EXPECT_EQ(Zeigt("RückTag"), "Mittwoch  ");
+    EXPECT_EQ(Zeigt("DauerTag"), "Mittwoch  ");
+}
+
+TEST_F(DruckFormTest, BeimVerlassenStehtDerTagInKurzerForm)
+{
+    Öffnen();
+    EXPECT_EQ(Verlassen("Rückgebend", "1/12/27"), "01.12.2027");
+    EXPECT_EQ(Zeigt("RückTag"), "Mittwoch  ");
+    EXPECT_EQ(Verlassen("Dauernde", "7-1-2028"), "07.01.2028");
+    EXPECT_EQ(Zeigt("DauerTag"), "Freitag   ");
+    EXPECT_EQ(Verlassen("Rückgebend", "1.12.2027 14:30"), "01.12.2027");
+}
+
+TEST_F(DruckFormTest, BeimTippenÄndertSichNochNichts)
+{
+    Öffnen();
+    Tippen(Control("Rückgebend"), "1.1.2001");
+    EXPECT_EQ(Zeigt("Rückgebend"), "1.1.2001");
+    EXPECT_EQ(Zeigt("RückTag"), "Samstag   ");
+}
+
+TEST_F(DruckFormTest, EineRückgabeInDerVergangenheitWirdHeute)
+{
+    Öffnen();
+    EXPECT_EQ(Verlassen("Rückgebend", "20.11.2026"), "21.11.2026");
+    EXPECT_EQ(Verlassen("Rückgebend", "21.11.2026"), "21.11.2026");
+    EXPECT_EQ(Verlassen("Rückgebend", "22.11.2026"), "22.11.2026");
+    EXPECT_EQ(Verlassen("Rückgebend", "9:00:00"), "21.11.2026"); // a time has no day
+    Drücken("Minus1");
+    EXPECT_EQ(Zeigt("Rückgebend"), "21.11.2026");
+    EXPECT_EQ(Zeigt("RückTag"), "Samstag   ");
+    EXPECT_EQ(Zeigt("Dauernde"), "26.12.2026"); // does not follow
+}
+
+TEST_F(DruckFormTest, EineDauerInDerVergangenheitZähltAbDerRückgabe)
+{
+    Öffnen();
+    Verlassen("Rückgebend", "1.12.2026");
+    EXPECT_EQ(Verlassen("Dauernde", "20.11.2026"), "29.12.2026");
+    EXPECT_EQ(Zeigt("DauerTag"), "Dienstag  ");
+    EXPECT_EQ(Verlassen("Dauernde", "21.11.2026"), "21.11.2026"); // before the return, not today
+    Drücken("Minus2");
+    EXPECT_EQ(Zeigt("Dauernde"), "29.12.2026");
+}
+
+TEST_F(DruckFormTest, WasKeinTagIstBleibtStehen)
+{
+    Öffnen();
+    for (const char *feld : {"Rückgebend", "Dauernde"}) {
+        for (const char *text : {"", "am Fest", "31.2.2027", "1.12."}) {
+            EXPECT_EQ(Verlassen(feld, text), text);
+            Drücken(feld == Text("Dauernde") ? "Plus2" : "Plus1");
+            EXPECT_EQ(Zeigt(feld), text);
+        }
+        Verlassen(feld, "31.12.9999");
+        Drücken(feld == Text("Dauernde") ? "Plus2" : "Plus1"); // there is no later day
+        EXPECT_EQ(Zeigt(feld), "31.12.9999");
+    }
+    Verlassen("Rückgebend", "am Fest");
+    EXPECT_EQ(Verlassen("Dauernde", "1.1.2001"), "1.1.2001"); // has no return to count from
+    EXPECT_EQ(Zeigt("RückTag"), "Freitag   ");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(DruckFormTest, JederKnopfDrucktSeinenBericht)
+{
+    MesseMitDienern(DatumAus({2026, 11, 22}), 1);
+    Öffnen();
+    const std::map<const char *, const char *> ersteZeilen = {
+        {"Messendruck", "Messen der Pfarrei St. Ägid"},
+        {"Meßdienerdruck", "Meßdiener der Pfarrei St. Ägid"},
+        {"DruckiMeßdieneri", "Meßdiener der Pfarrei St. Ägid"},
+        {"DruckHelfer", "Meßhelfer der Pfarrei St. Ägid"},
+        {"Standarddruck", "Standardmessen der Pfarrei St. Ägid"},
+        {"Wunschpartner", "Wunschpartnerliste"},
+        {"Erfassungsbogen", "Erfassungsbogen für den Altardienst (Meßdiener)"},
+        {"Erfaßung", "Erfassungsbogen für den Altardienst (Meßhelfer)"},
+        {"EtikGross", "Etikettengrößen"},
+        {"Etiketten", "Anna Berg"}};
+    for (const auto &[knopf, zeile] : ersteZeilen) {
+        EXPECT_EQ(Gedruckt(knopf).front(), zeile) << knopf;
+        EXPECT_EQ(Papier.WieOft("Dialog"), 1) << knopf;
+        EXPECT_EQ(Papier.WieOft("EndDoc"), 1) << knopf;
+    }
+}
+
+TEST_F(DruckFormTest, DieBögenNehmenDieTageWieSieStehen)
+{
+    Öffnen();
+    Verlassen("Rückgebend", "am Fest");
+    for (const char *knopf : {"Erfassungsbogen", "Erfaßung"}) {
+        const Liste zeilen = Gedruckt(knopf);
+        EXPECT_EQ(std::ranges::count(zeilen, "Rückgeben bis zum am Fest"), 1);
+        EXPECT_EQ(
+            std::ranges::count(
+                zeilen, "Der nächste Altardienst ist voraussichtlich gültig bis zum 26.12.2026"),
+            1);
+    }
+}
+
+TEST_F(DruckFormTest, DieGruppenlisteNimmtDieGewählteGruppe)
+{
+    Öffnen();
+    auto *gruppen = Finden<QComboBox>(form, "Gruppend");
+    ASSERT_EQ(gruppen->count(), 2);
+    EXPECT_EQ(gruppen->itemText(0), "Die Kleinen");
+    EXPECT_EQ(gruppen->itemText(1), QString::fromUtf8("Die Großen"));
+    EXPECT_EQ(Gedruckt("DruckiMeßdieneri").size(), 2U); // the two titles alone
+    FokusAuf(gruppen);
+    QTest::keyClick(gruppen, Qt::Key_Down);
+    const Liste zeilen = Gedruckt("DruckiMeßdieneri");
+    EXPECT_EQ(zeilen[1], "der Gruppe Die Großen");
+    EXPECT_EQ(zeilen.size(), 2U + 2 * 2);
+}
+
+TEST_F(DruckFormTest, AbgebrochenDrucktKeinKnopfEtwas)
+{
+    MesseMitDienern(DatumAus({2026, 11, 22}), 1);
+    Papier.Antwort = std::nullopt;
+    Öffnen();
+    for (const char *knopf :
+         {"Messendruck", "Meßdienerdruck", "DruckiMeßdieneri", "DruckHelfer", "Standarddruck",
+          "Wunschpartner", "Erfassungsbogen", "Erfaßung", "EtikGross", "Etiketten"}) {
+        Gedruckt(knopf);
+        EXPECT_EQ(Papier.Zeilen, Liste{"Dialog"}) << knopf;
+    }
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(DruckFormTest, EndeGibtDasHauptfensterZurück)
+{
+    QWidget haupt;
+    HauptfensterSetzen(&haupt);
+    haupt.setEnabled(false);
+    Öffnen();
+    Drücken("Ende");
+    EXPECT_TRUE(Warten([&] { return form.isNull(); }));
+    EXPECT_TRUE(haupt.isEnabled());
+    EXPECT_TRUE(haupt.isMaximized());
+}
+
+TEST_F(DruckFormTest, TabFolgtDemAugeUndKeinControlIstStumm)
+{
+    Öffnen();
+    FokusAuf(Control("Messendruck"));
+    EXPECT_EQ(Tabfolge(form), (Liste{"Messendruck",
+                                     "Standarddruck",
+                                     "Meßdienerdruck",
+                                     "DruckiMeßdieneri",
+                                     "Gruppend",
+                                     "Wunschpartner",
+                                     "DruckHelfer",
+                                     "Erfassungsbogen",
+                                     "Erfaßung",
+                                     "Rückgebend",
+                                     "Änderung1",
+                                     "Minus1",
+                                     "Plus1",
+                                     "Dauernde",
+                                     "Änderung2",
+                                     "Minus2",
+                                     "Plus2",
+                                     "Alles",
+                                     "O1",
+                                     "Reih",
+                                     "ÄReih",
+                                     "Spal",
+                                     "ÄSpal",
+                                     "Etiketten",
+                                     "EtikGross",
+                                     "Ende"}));
+    EXPECT_EQ(Stumme(form), Liste{});
+}
+
+} // namespace
+} // namespace altardienst
