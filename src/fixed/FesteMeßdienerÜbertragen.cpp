@@ -5,6 +5,8 @@
 
 namespace altardienst {
 
+bool FesteZuordnungOffen = false;
+
 void FesteMeßdienerÜbertragen()
 {
     constexpr int HöchsterÜbertragener = 200; // entries above it are never carried

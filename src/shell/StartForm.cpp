@@ -7,6 +7,7 @@
 #include "core/tables.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Handler.h"
+#include "fixed/FesteMeßdienerÜbertragen.h"
 #include "planning/MessenBestimmen.h"
 #include "platform/Uhr.h"
 
@@ -131,6 +132,7 @@ void StartForm::Laden()
     Tagchen->setText(Anzeige(WochentagName(vorschlag)));
     Konfig.StartDatum = vorschlag;
     Tagilein->setText(Anzeige(ZahlText(Konfig.Tage)));
+    FesteZuordnungOffen = false;
     if (Konfig.GrenzeAuslöse < 0 || Konfig.GrenzeAuslöse > 99)
         Konfig.GrenzeAuslöse = 60;
 }

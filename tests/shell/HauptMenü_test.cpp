@@ -198,27 +198,6 @@ TEST_F(HauptMenüTest, JederEintragÖffnetSeineFormUndSperrtDasHauptfenster)
     }
 }
 
-TEST_F(HauptMenüTest, HolenUndSichernSpeichernVorher)
-{
-    for (const char *eintrag : {"mnuDatenHolen", "mnuDatenSichern"}) {
-        if (!Eintrag(eintrag)->isEnabled())
-            continue; // the form is not there yet
-        fs::remove(Festplatte / "Konfig.cfg");
-        Wählen(eintrag);
-        EXPECT_TRUE(fs::exists(Festplatte / "Konfig.cfg")) << eintrag;
-    }
-}
-
-TEST_F(HauptMenüTest, InfoLässtDasHauptfensterWieEsIst)
-{
-    if (!Eintrag("mnuHelpAbout")->isEnabled())
-        GTEST_SKIP() << "the form is not there yet";
-    Wählen("mnuHelpAbout");
-    EXPECT_TRUE(Fenster("frmAbout")->isVisible());
-    EXPECT_TRUE(haupt->isEnabled());
-    EXPECT_FALSE(haupt->isMinimized());
-}
-
 TEST_F(HauptMenüTest, DruckMLSetztNurDieDienste)
 {
     MeßdienerAnlegen("Kim", "Adler");

@@ -4,6 +4,7 @@
 #include "core/Allgemein.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Fensterstand.h"
+#include "fixed/FesteMeßdienerÜbertragen.h"
 #include "shell/Programm.h"
 
 #include <QApplication>
@@ -147,6 +148,13 @@ TEST_F(StartFormTest, GrenzeAuslöseAußerhalbVon0Bis99Wird60)
         StartForm neu([] {});
         EXPECT_EQ(Konfig.GrenzeAuslöse, danach) << gelesen;
     }
+}
+
+TEST_F(StartFormTest, DasLadenSchließtDieFesteZuordnung)
+{
+    FesteZuordnungOffen = true;
+    Öffnen();
+    EXPECT_FALSE(FesteZuordnungOffen);
 }
 
 TEST_F(StartFormTest, EinGescheitertesLadenLässtAchtVorgabenStehen)
