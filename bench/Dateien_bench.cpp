@@ -2,6 +2,7 @@
 // the same lines.
 #include "Bestand.h"
 #include "Messung.h"
+#include "kern_bench.h"
 
 #include "core/Allgemein.h"
 #include "core/Dateien.h"

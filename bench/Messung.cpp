@@ -83,9 +83,7 @@ int main(int argc, char **argv)
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 2;
-    DateienMessungen();
-    SortierenMessungen();
-    ZuweisungMessungen();
+    MessungenAnmelden();
     benchmark::RunSpecifiedBenchmarks();
     std::printf("\n");
     for (const Ergebnis &ergebnis : Ergebnisse)

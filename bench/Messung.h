@@ -24,9 +24,7 @@ struct Messung {
 
 void MessungAnmelden(const Messung &messung);
 
-// Each subject registers its measures.
-void DateienMessungen();
-void SortierenMessungen();
-void ZuweisungMessungen();
+/// Registers the measures of a program; each has its own.
+void MessungenAnmelden();
 
 } // namespace altardienst

@@ -2,6 +2,7 @@
 // each record.
 #include "Bestand.h"
 #include "Messung.h"
+#include "kern_bench.h"
 
 #include "core/Sortierbefehle.h"
 #include "core/tables.h"

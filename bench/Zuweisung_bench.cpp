@@ -1,6 +1,7 @@
 // The search for servers by the way with all rules, per draw, against the bare draw.
 #include "Bestand.h"
 #include "Messung.h"
+#include "kern_bench.h"
 
 #include "assignment/MEßdienerzuweiseung.h"
 #include "assignment/Ziehung.h"

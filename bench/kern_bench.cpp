@@ -1,0 +1,15 @@
+// The measures of the part without windows.
+#include "kern_bench.h"
+
+#include "Messung.h"
+
+namespace altardienst {
+
+void MessungenAnmelden()
+{
+    DateienMessungen();
+    SortierenMessungen();
+    ZuweisungMessungen();
+}
+
+} // namespace altardienst

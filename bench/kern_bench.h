@@ -1,0 +1,10 @@
+// The subjects of the part without windows, each of which registers its measures.
+#pragma once
+
+namespace altardienst {
+
+void DateienMessungen();
+void SortierenMessungen();
+void ZuweisungMessungen();
+
+} // namespace altardienst
