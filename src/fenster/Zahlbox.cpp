@@ -5,8 +5,6 @@
 #include "fenster/Bausteine.h"
 #include "fenster/Handler.h"
 
-#include <algorithm>
-
 namespace altardienst {
 
 Zahlbox ZahlboxAnlegen(const char *name, const char *spinName, const char *text)
@@ -47,11 +45,12 @@ void ZahlSetzen(QLineEdit *feld, int zahl)
 
 int Begrenzen(QLineEdit *feld, int von, int bis)
 {
-    const int zahl = ZahlIn(feld);
-    const int erlaubt = std::clamp(zahl, von, bis);
-    if (erlaubt != zahl)
-        ZahlSetzen(feld, erlaubt);
-    return erlaubt;
+    const Single zahl = SingleLesen(TextVon(feld)); // any number, however large
+    if (zahl < von)
+        ZahlSetzen(feld, von);
+    else if (zahl > bis)
+        ZahlSetzen(feld, bis);
+    return ZahlIn(feld);
 }
 
 } // namespace altardienst

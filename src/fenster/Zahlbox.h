@@ -46,7 +46,8 @@ void ZahlenSchreiben(const std::array<QLineEdit *, n> &felder,
         (*spalten[k])[i] = ZahlIn(felder[k]);
 }
 
-/// Brings the number of a box into its limits; returns it. Failure 13 as above.
+/// Brings the number of a box, however large, into its limits; returns what the box then holds.
+/// Failure 13 as above.
 int Begrenzen(QLineEdit *feld, int von, int bis);
 
 } // namespace altardienst
