@@ -12,6 +12,15 @@ Datum WertIn(const QLineEdit *feld)
     return DatumLesen(TextVon(feld));
 }
 
+/// The cursor keeps its place as counted from the end: digits before it may gain or lose a zero,
+/// and typing in the midst of a box goes on where it was.
+void Umschreiben(QLineEdit *feld, const Text &text)
+{
+    const auto vomEnde = feld->text().size() - feld->cursorPosition();
+    Setzen(feld, text);
+    feld->setCursorPosition(static_cast<int>(feld->text().size() - vomEnde));
+}
+
 } // namespace
 
 void TageWeiter(QLineEdit *feld, int tage)
@@ -41,12 +50,12 @@ void MinutenWeiter(QLineEdit *feld, int minuten)
 
 void AlsKurzesDatum(QLineEdit *feld)
 {
-    Setzen(feld, KurzesDatum(WertIn(feld)));
+    Umschreiben(feld, KurzesDatum(WertIn(feld)));
 }
 
 void AlsLangeZeit(QLineEdit *feld)
 {
-    Setzen(feld, LangeZeit(WertIn(feld)));
+    Umschreiben(feld, LangeZeit(WertIn(feld)));
 }
 
 } // namespace altardienst
