@@ -33,6 +33,14 @@ class Ereignisfilter : public QObject {
     std::function<void()> handler;
 };
 
+/// As a file gives it back: one line of Windows-1252. A line break that was pasted would move all
+/// lines behind it.
+QString Speicherbar(QString text)
+{
+    text.replace("\r\n", " ").replace('\n', ' ').replace('\r', ' ');
+    return Anzeige(InAnsiDarstellbar(text.toStdString()));
+}
+
 } // namespace
 
 QString Anzeige(const Text &text)
@@ -67,12 +75,11 @@ QLineEdit *Textfeld(const char *name)
 {
     auto *feld = Benannt(new QLineEdit, name);
     QObject::connect(feld, &QLineEdit::textChanged, feld, [feld](const QString &text) {
-        QString darstellbar = Anzeige(InAnsiDarstellbar(text.toStdString()));
+        QString darstellbar = Speicherbar(text);
         if (darstellbar == text)
             return;
         // One "?" may stand for a character that Qt counts as two.
-        const QString davor = text.left(feld->cursorPosition());
-        const auto stelle = Anzeige(InAnsiDarstellbar(davor.toStdString())).size();
+        const auto stelle = Speicherbar(text.left(feld->cursorPosition())).size();
         feld->setText(darstellbar);
         feld->setCursorPosition(static_cast<int>(stelle));
     });

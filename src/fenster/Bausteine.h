@@ -29,8 +29,8 @@ QPushButton *Knopf(const char *name, const char *beschriftung);
 /// A label; with a control it is that control's buddy and gives it its spoken name.
 QLabel *Beschriftung(const char *name, const char *text, QWidget *zu = nullptr);
 
-/// A text box. A character that the files cannot hold shows as "?" at once, so that what is seen is
-/// what will be stored.
+/// A text box. A character that the files cannot hold shows as "?" at once, and a line break as a
+/// blank, so that what is seen is what will be stored.
 QLineEdit *Textfeld(const char *name);
 
 // Events. The handlers come wrapped in their kind (fenster/Handler.h).

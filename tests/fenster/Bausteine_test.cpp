@@ -68,6 +68,19 @@ TEST_F(BausteineTest, WasDieDateienNichtHaltenWirdSofortFragezeichen)
     EXPECT_EQ(TextVon(feld), "????x");
 }
 
+TEST_F(BausteineTest, EinZeilenumbruchWirdEinLeerzeichen)
+{
+    for (const char *text : {"Hoch\namt", "Hoch\r\namt", "Hoch\ramt"}) {
+        feld->clear();
+        QApplication::clipboard()->setText(text);
+        QTest::keyClick(feld, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(Aufschrift(feld), "Hoch amt");
+        EXPECT_EQ(feld->cursorPosition(), 8);
+    }
+    feld->setText("\n\n");
+    EXPECT_EQ(Aufschrift(feld), "  ");
+}
+
 TEST_F(BausteineTest, DerCursorBleibtHinterDemFragezeichen)
 {
     for (const char *fremd : {"Ł", "😀"}) {
