@@ -6,6 +6,8 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScreen>
+#include <QScrollArea>
 
 namespace altardienst {
 namespace {
@@ -31,6 +33,12 @@ class Ereignisfilter : public QObject {
   private:
     Erkennung meint;
     std::function<void()> handler;
+};
+
+/// Wants as much room as its content, unlike its base.
+class Rollfläche : public QScrollArea {
+  public:
+    QSize sizeHint() const override { return widget()->sizeHint(); }
 };
 
 /// As a file gives it back: one line of Windows-1252. A line break that was pasted would move all
@@ -194,6 +202,25 @@ void Setzen(QLineEdit *feld, const Text &text)
 void Setzen(QLabel *label, const Text &text)
 {
     label->setText(Anzeige(text));
+}
+
+QWidget *Rollbar(QLayout *inhalt)
+{
+    inhalt->setContentsMargins(0, 0, 0, 0);
+    auto *fläche = new QWidget;
+    fläche->setLayout(inhalt);
+    auto *rollbar = new Rollfläche;
+    rollbar->setWidgetResizable(true);
+    rollbar->setFrameShape(QFrame::NoFrame);
+    rollbar->setFocusPolicy(Qt::NoFocus);
+    rollbar->setWidget(fläche);
+    return rollbar;
+}
+
+void GrößeAnpassen(QWidget *fenster)
+{
+    constexpr QSize Rahmen(16, 40); // about what frame and title bar take
+    fenster->resize(fenster->sizeHint().boundedTo(fenster->screen()->availableSize() - Rahmen));
 }
 
 } // namespace altardienst

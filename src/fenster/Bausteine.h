@@ -5,6 +5,7 @@
 #include "fenster/SpinButton.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QString>
@@ -54,5 +55,11 @@ QPushButton *Plusknopf(const char *name, const char *gesprochen);
 /// Sets the text of a label or box from a value of the tables.
 void Setzen(QLineEdit *feld, const Text &text);
 void Setzen(QLabel *label, const Text &text);
+
+/// A part of a window that scrolls where the screen is small or strongly enlarged.
+QWidget *Rollbar(QLayout *inhalt);
+
+/// As large as its content wants, or as the screen allows.
+void GrößeAnpassen(QWidget *fenster);
 
 } // namespace altardienst

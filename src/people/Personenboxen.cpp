@@ -4,8 +4,6 @@
 #include "fenster/Handler.h"
 
 #include <QHBoxLayout>
-#include <QScreen>
-#include <QScrollArea>
 
 #include <algorithm>
 
@@ -13,12 +11,6 @@ namespace altardienst {
 namespace {
 
 constexpr int HöchstePostleitzahl = 99999;
-
-/// Wants as much room as its content, unlike its base.
-class Rollfläche : public QScrollArea {
-  public:
-    QSize sizeHint() const override { return widget()->sizeHint(); }
-};
 
 /// Compared as a floating number, as a number of any length may stand in the box.
 void PostleitzahlBegrenzen(QLineEdit *feld)
@@ -86,25 +78,6 @@ void KnöpfeBeschriften(Datensatzwahl *wahl)
     wahl->Minus->setText("Minus");
     for (QPushButton *knopf : {wahl->Minus, wahl->Plus})
         knopf->setFixedWidth(knopf->fontMetrics().horizontalAdvance("Minus") + 40);
-}
-
-QWidget *Rollbar(QLayout *inhalt)
-{
-    inhalt->setContentsMargins(0, 0, 0, 0);
-    auto *fläche = new QWidget;
-    fläche->setLayout(inhalt);
-    auto *rollbar = new Rollfläche;
-    rollbar->setWidgetResizable(true);
-    rollbar->setFrameShape(QFrame::NoFrame);
-    rollbar->setFocusPolicy(Qt::NoFocus);
-    rollbar->setWidget(fläche);
-    return rollbar;
-}
-
-void GrößeAnpassen(QWidget *fenster)
-{
-    constexpr QSize Rahmen(16, 40); // about what frame and title bar take
-    fenster->resize(fenster->sizeHint().boundedTo(fenster->screen()->availableSize() - Rahmen));
 }
 
 QLayout *Schlußknöpfe(QPushButton *ok, QPushButton *abbrechen)

@@ -81,12 +81,6 @@ int NummerBegrenzen(QLineEdit *feld, int letzter, int anzahl);
 /// The buttons of the record mover say "Plus" and "Minus" in these editors.
 void KnöpfeBeschriften(Datensatzwahl *wahl);
 
-/// A part of a window that scrolls where the screen is small or strongly enlarged.
-QWidget *Rollbar(QLayout *inhalt);
-
-/// As large as its content wants, or as the screen allows.
-void GrößeAnpassen(QWidget *fenster);
-
 /// OK and Abbrechen in the lower right corner of the small dialogs.
 QLayout *Schlußknöpfe(QPushButton *ok, QPushButton *abbrechen);
 
