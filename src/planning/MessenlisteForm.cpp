@@ -13,7 +13,6 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace altardienst {
@@ -83,7 +82,6 @@ void MessenlisteForm::Anordnen()
 
     auto *links = new QVBoxLayout;
     links->setSpacing(14);
-    links->addLayout(kopf);
     links->addLayout(termin);
     links->addLayout(dienste);
     links->addStretch();
@@ -91,7 +89,7 @@ void MessenlisteForm::Anordnen()
     auto *mitte = new QHBoxLayout;
     mitte->setSpacing(20);
     mitte->addLayout(links);
-    mitte->addWidget(Slots(), 1);
+    mitte->addLayout(Slots(), 1);
 
     auto *unten = new QHBoxLayout;
     for (QPushButton *knopf : {Löscher, NeuMeß, Lektoren})
@@ -103,17 +101,19 @@ void MessenlisteForm::Anordnen()
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(16, 16, 16, 16);
     spalte->setSpacing(12);
-    spalte->addLayout(mitte, 1);
+    spalte->addLayout(kopf);
+    spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(unten);
+    GrößeAnpassen(this); // with all rows of slots
     Wahl->Nummer->setFocus();
 }
 
 /// Rows that a mass does not use are hidden from the bottom up, so they leave no hole.
-QWidget *MessenlisteForm::Slots()
+QLayout *MessenlisteForm::Slots()
 {
-    auto *fläche = new QWidget;
-    auto *raster = new QGridLayout(fläche);
+    auto *raster = new QGridLayout;
     raster->setVerticalSpacing(3);
+    raster->setHorizontalSpacing(6);
     for (int k = 0; k < static_cast<int>(MDR.size()); ++k) {
         const auto zeile = static_cast<std::size_t>(k);
         raster->addWidget(MDR[zeile], k, 0);
@@ -121,14 +121,10 @@ QWidget *MessenlisteForm::Slots()
         raster->addWidget(nach[zeile], k, 2);
     }
     raster->setColumnMinimumWidth(0, MDR[0]->fontMetrics().horizontalAdvance("Meßdiener 20 :"));
+    raster->setColumnMinimumWidth(1, 90);
+    raster->setColumnMinimumWidth(2, 90);
     raster->setRowStretch(static_cast<int>(MDR.size()), 1);
-    auto *rollbar = Benannt(new QScrollArea, "Slots");
-    rollbar->setWidgetResizable(true);
-    rollbar->setFrameShape(QFrame::NoFrame);
-    rollbar->setFocusPolicy(Qt::NoFocus);
-    rollbar->setMinimumWidth(420);
-    rollbar->setWidget(fläche);
-    return rollbar;
+    return raster;
 }
 
 Terminfelder::Knöpfe MessenlisteForm::Terminknöpfe() const
@@ -169,9 +165,10 @@ void MessenlisteForm::NummerGeändert()
 
 void MessenlisteForm::Schritt(int richtung)
 {
-    Mitziehen();
     if (Wahl->Nummer->text().isEmpty())
-        ZahlSetzen(Wahl->Nummer, 0);
+        ZahlSetzen(Wahl->Nummer, 0); // shows mass 0, so there is nothing that entries could follow
+    else
+        Mitziehen();
     const int i = ZahlIn(Wahl->Nummer);
     Schreiben(i);
     if (richtung > 0 ? i < LetzterDatensatz : i > 0) {
@@ -227,15 +224,13 @@ void MessenlisteForm::Löschen()
 void MessenlisteForm::NeueMesse()
 {
     hide();
-    auto *neu = new NeuMesseForm(*this);
-    neu->setAttribute(Qt::WA_DeleteOnClose);
-    neu->show();
+    DialogDanebenÖffnen(new NeuMesseForm(*this));
     Zeigen(Messe.Cursor);
 }
 
 void MessenlisteForm::NachNeuerMesse(bool angelegt)
 {
-    show();
+    Wiederkommen();
     if (!angelegt)
         return;
     Abgefangen([this] {
@@ -244,12 +239,16 @@ void MessenlisteForm::NachNeuerMesse(bool angelegt)
     })();
 }
 
+void MessenlisteForm::Wiederkommen()
+{
+    show();
+    activateWindow();
+}
+
 void MessenlisteForm::HelferDerMesse()
 {
     hide();
-    auto *helfer = new LektorrenuswForm([this] { show(); });
-    helfer->setAttribute(Qt::WA_DeleteOnClose);
-    helfer->show();
+    DialogDanebenÖffnen(new LektorrenuswForm([this] { Wiederkommen(); }));
 }
 
 /// A fixed entry follows its mass when the mass is moved.

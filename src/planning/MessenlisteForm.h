@@ -40,7 +40,7 @@ class MessenlisteForm : public QWidget {
 
   private:
     void Anordnen();
-    QWidget *Slots();
+    QLayout *Slots();
     Terminfelder::Knöpfe Terminknöpfe() const;
     void Verbinden();
 
@@ -52,6 +52,7 @@ class MessenlisteForm : public QWidget {
     void Löschen();
     void NeueMesse();
     void HelferDerMesse();
+    void Wiederkommen();
 
     void Mitziehen();
     void Zeigen(int i);

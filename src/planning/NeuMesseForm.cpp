@@ -67,6 +67,12 @@ void NeuMesseForm::Anordnen()
     zahlen->setAlignment(helfer, Qt::AlignTop);
     zahlen->addStretch();
 
+    auto *oben = new QVBoxLayout;
+    oben->setSpacing(18);
+    oben->addLayout(termin);
+    oben->addLayout(zahlen);
+    oben->addStretch();
+
     auto *unten = new QHBoxLayout;
     unten->addStretch();
     for (QPushButton *knopf : {OKButton, CancelButton}) {
@@ -77,10 +83,9 @@ void NeuMesseForm::Anordnen()
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(18);
-    spalte->addLayout(termin);
-    spalte->addLayout(zahlen);
-    spalte->addStretch();
+    spalte->addWidget(Rollbar(oben), 1);
     spalte->addLayout(unten);
+    GrößeAnpassen(this);
     Termin.datendaten->setFocus();
 }
 
