@@ -1,0 +1,178 @@
+// The mass list: deleting, leaving, and the ways that lead into it.
+#include "planning/Messenlistenstand.h"
+
+#include "fenster/Anwendung.h"
+#include "shell/HauptForm.h"
+
+#include <algorithm>
+
+namespace altardienst {
+namespace {
+
+class MessenlisteFormLöschenTest : public Messenlistenstand {};
+class MessenlisteFormEndeTest : public Messenlistenstand {};
+
+TEST_F(MessenlisteFormLöschenTest, LöschenFragtUndTutBeiNeinNichts)
+{
+    Öffnen(5);
+    AllesÄndern();
+    const Satz schirm = Schirm();
+    Drücken("Löscher");
+    ASSERT_EQ(GestellteFragen.size(), 1U);
+    EXPECT_EQ(GestellteFragen[0].Wortlaut, "Wirklich?");
+    EXPECT_EQ(GestellteFragen[0].Titel, "Löschen einer Messe");
+    EXPECT_EQ(MessenJetzt(), vorher);
+    EXPECT_EQ(Schirm(), schirm);
+}
+
+TEST_F(MessenlisteFormLöschenTest, LöschenSchließtDieLückeInJederSpalte)
+{
+    for (const int i : {0, 1, 11, 28, 29, 30}) { // 30: behind the end, takes the last one
+        Öffnen(i);
+        const auto gelöscht = static_cast<std::size_t>(std::min(i, 29));
+        Messenbild modell = vorher;
+        for (std::size_t n = gelöscht; n <= 30; ++n) {
+            modell[n] = vorher[n + 1];
+            for (std::size_t k = ErsterDienst; k < ErsterDienst + 63; k += 3)
+                modell[n][k] = vorher[n][k];
+        }
+        modell[30][0] = "";
+        Antworten = {true};
+        Drücken("Löscher");
+        EXPECT_EQ(MessenJetzt(), modell) << i;
+        EXPECT_EQ(Messe.Anzahl, 29);
+        EXPECT_EQ(Zeigt("maxi"), "29");
+        EXPECT_EQ(Zeigt("Datensatzus"), ZahlText(static_cast<int>(gelöscht)));
+        EXPECT_EQ(Zeigt("Messewesen"), modell[gelöscht][3]);
+        EXPECT_EQ(Zeigt("vor1"), modell[gelöscht][14]);
+        delete form;
+    }
+}
+
+TEST_F(MessenlisteFormLöschenTest, LöschenVergißtWasAufDemSchirmStand)
+{
+    Öffnen(5);
+    AllesÄndern();
+    Antworten = {true};
+    Drücken("Löscher");
+    EXPECT_EQ(Zeigt("Messewesen"), "Art6");
+    EXPECT_EQ(Messe.Messeart[4], "Art4");
+    EXPECT_EQ(Messe.Messeart[5], "Art6");
+}
+
+TEST_F(MessenlisteFormLöschenTest, LöschenLeertDenWochentagDesFreienDatensatzes)
+{
+    Öffnen(5);
+    MesseFüllen(31); // left behind the end
+    Antworten = {true};
+    Drücken("Löscher");
+    EXPECT_EQ(Messe.Messeart[30], "Art31");
+    EXPECT_EQ(Messe.Wochentag[30], "");
+}
+
+TEST_F(MessenlisteFormLöschenTest, ZweiMessenLassenSichNichtLöschen)
+{
+    for (const int anzahl : {0, 1, 2}) {
+        Öffnen(0, anzahl);
+        Antworten = {true};
+        Drücken("Löscher");
+        EXPECT_EQ(GestellteFragen.size(), 1U);
+        EXPECT_EQ(MessenJetzt(), vorher) << anzahl;
+        EXPECT_EQ(Messe.Anzahl, anzahl);
+        GestellteFragen.clear();
+        delete form;
+    }
+    Öffnen(1, 3);
+    Antworten = {true};
+    Drücken("Löscher");
+    EXPECT_EQ(Messe.Anzahl, 2);
+    EXPECT_EQ(Messe.Messeart[1], "Art2");
+}
+
+TEST_F(MessenlisteFormLöschenTest, LöschenOhneNummerTutNichts)
+{
+    Öffnen(5);
+    Eingeben("Datensatzus", "abc");
+    Antworten = {true};
+    Drücken("Löscher");
+    EXPECT_EQ(MessenJetzt(), vorher);
+    EXPECT_EQ(Messe.Anzahl, 30);
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
+}
+
+TEST_F(MessenlisteFormEndeTest, EndeUndSchließenSchreibenDenSchirm)
+{
+    for (const bool mitEnde : {true, false}) {
+        Öffnen(6);
+        AllesÄndern();
+        const Satz schirm = Schirm();
+        if (mitEnde)
+            Drücken("Ende");
+        else
+            form->close();
+        EXPECT_FALSE(form && form->isVisible());
+        Messenbild modell = vorher;
+        modell[6] = Mit(modell[6], schirm);
+        EXPECT_EQ(MessenJetzt(), modell);
+        delete form;
+    }
+}
+
+class MessenlisteImProgramm : public Messenlistenstand {
+  protected:
+    MessenlisteImProgramm()
+    {
+        haupt = new HauptForm;
+        HauptfensterSetzen(haupt);
+        haupt->showMaximized();
+        Zeigen(haupt);
+    }
+
+    void ListeZurück()
+    {
+        Drücken("Ende");
+        EXPECT_TRUE(Warten([&] { return !form; })); // unloaded
+        EXPECT_TRUE(haupt->isEnabled());
+        EXPECT_TRUE(haupt->isMaximized());
+    }
+
+    HauptForm *haupt;
+};
+
+TEST_F(MessenlisteImProgramm, Knopf6UndDerMenüeintragÖffnenSieÜberDemWartendenHauptfenster)
+{
+    MessenFüllen(5);
+    for (const bool mitKnopf : {true, false}) {
+        if (mitKnopf)
+            Klick(haupt->AnzMesse);
+        else
+            Finden<QAction>(haupt, "mnuMessen")->trigger();
+        form = Fenster("Messenliste");
+        EXPECT_FALSE(haupt->isEnabled());
+        EXPECT_TRUE(haupt->isMinimized());
+        EXPECT_EQ(Zeigt("maxi"), "5");
+        ListeZurück();
+    }
+}
+
+TEST_F(MessenlisteImProgramm, Knopf1ZeigtDieNeuenMessenVonDerErstenAn)
+{
+    Konfig.StartDatum = DatumAus({2026, 11, 22});
+    Konfig.Tage = 7;
+    Standardmesse.Wochentag[0] = "Sonntag";
+    Standardmesse.Uhrzeit[0] = ZeitAus(36000);
+    Standardmesse.Messeart[0] = "Hochamt";
+    Standardmesse.Dienerzahl[0] = 4;
+    Messe.Cursor = 3;
+    Klick(haupt->Messenorgani);
+    form = Fenster("Messenliste");
+    EXPECT_EQ(Messe.Cursor, 0);
+    EXPECT_EQ(Zeigt("Datensatzus"), "0");
+    EXPECT_EQ(Zeigt("Messewesen"), "Hochamt");
+    EXPECT_EQ(Zeigt("tagelang"), "Sonntag");
+    ListeZurück();
+    EXPECT_EQ(Messe.Wochentag[0], "Sonntag");
+}
+
+} // namespace
+} // namespace altardienst
