@@ -20,12 +20,14 @@ void EintragAngleichen(QComboBox *wahl)
 
 } // namespace
 
-QComboBox *Textwahl(const char *name)
+QComboBox *Textwahl(const char *name, const char *gesprochen)
 {
     auto *wahl = Benannt(new QComboBox, name);
     wahl->setEditable(true);
     wahl->setLineEdit(Textfeld(""));
     wahl->setCompleter(nullptr);
+    for (QWidget *control : std::initializer_list<QWidget *>{wahl, wahl->lineEdit()})
+        control->setAccessibleName(QString::fromUtf8(gesprochen));
     wahl->setInsertPolicy(QComboBox::NoInsert);
     return wahl;
 }

@@ -11,7 +11,8 @@ namespace altardienst {
 
 /// Nothing is completed while typing: a text that begins like an entry of the list is not yet that
 /// entry.
-QComboBox *Textwahl(const char *name);
+/// `gesprochen` is its name for screen readers.
+QComboBox *Textwahl(const char *name, const char *gesprochen);
 
 /// The list anew; the text stays.
 void ListeSetzen(QComboBox *wahl, const QStringList &liste);

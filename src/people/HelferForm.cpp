@@ -28,9 +28,9 @@ auto Zeitspalten()
 
 } // namespace
 
-QComboBox *Dienstwahl(const char *name)
+QComboBox *Dienstwahl(const char *name, const char *gesprochen)
 {
-    QComboBox *wahl = Textwahl(name);
+    QComboBox *wahl = Textwahl(name, gesprochen);
     ListeSetzen(wahl, {"Lektor", "Kommunionhelfer", "Kantor", "Kollektant"});
     return wahl;
 }
@@ -49,8 +49,8 @@ HelferForm::HelferForm()
       Datensätzig(Beschriftung("Datensätzig", "")),
       Person({"Vorne", "Hinten", "Weg", "PLZetus", "Wohort", "Anruf", "Mailen"}),
       Tagen("Tagen", {"Änderung1", "Änderung2", "Änderung3"}, "Geburtstag"),
-      Dient(Dienstwahl("Dient")), Dient2(Dienstwahl("Dient2")), Abwesenheiten(3),
-      NeuHelfer(Knopf("NeuHelfer", "neuer Helfer")),
+      Dient(Dienstwahl("Dient", "Dienst 1")), Dient2(Dienstwahl("Dient2", "Dienst 2")),
+      Abwesenheiten(3), NeuHelfer(Knopf("NeuHelfer", "neuer Helfer")),
       Datensatzlösch(Knopf("Datensatzlösch", "Datensatz löschen")), Ende(Knopf("Ende", "Ende"))
 {
     Benannt(this, "Helfer");
@@ -204,9 +204,9 @@ void HelferForm::Löschen()
         return;
     HelferLöschen(Helfer.Cursor);
     Zeigen(Helfer.Cursor);
+    AnzahlZeigen();
     if (Nummer() > Helfer.Anzahl)
         ZahlSetzen(Wahl->Nummer, Helfer.Anzahl);
-    AnzahlZeigen();
 }
 
 void HelferForm::NeuerHelfer()

@@ -49,7 +49,7 @@ class HelferForm : public QWidget {
 };
 
 /// The services to choose from; any other text is taken as it stands.
-QComboBox *Dienstwahl(const char *name);
+QComboBox *Dienstwahl(const char *name, const char *gesprochen);
 
 /// A birthday more than 90 calendar years back becomes today.
 void GeburtstagPrüfen(QLineEdit *feld);

@@ -40,14 +40,14 @@ QLabel *Überschrift(const char *text, QWidget *zu = nullptr)
 
 QComboBox *Geschlechtwahl()
 {
-    QComboBox *wahl = Textwahl("Geschl");
+    QComboBox *wahl = Textwahl("Geschl", "Geschlecht");
     ListeSetzen(wahl, {"männlich", "weiblich"});
     return wahl;
 }
 
 QComboBox *Gruppenwahl()
 {
-    return Textwahl("Dieenst");
+    return Textwahl("Dieenst", "Gruppe");
 }
 
 void GruppenlisteFüllen(QComboBox *gruppenwahl)
@@ -92,8 +92,9 @@ MeßdienerForm::MeßdienerForm()
                  {"Check11", "Fr"}}),
       Norm(Benannt(new QRadioButton("normal"), "Norm")),
       Oft(Benannt(new QRadioButton("oft"), "Oft")), Haufigk(Textfeld("Haufigk")), Abwesenheiten(5),
-      Partner(Textwahl("Partner")), VName(Textfeld("VName")), NName(Textfeld("NName")),
-      NeuDiener(Knopf("NeuDiener", "Neuer Meßdiener")), Lösch(Knopf("Lösch", "Datensatz löschen")),
+      Partner(Textwahl("Partner", "Wunschpartner")), VName(Textfeld("VName")),
+      NName(Textfeld("NName")), NeuDiener(Knopf("NeuDiener", "Neuer Meßdiener")),
+      Lösch(Knopf("Lösch", "Datensatz löschen")),
       Aufnahmebestätigung(Knopf("Aufnahmebestätigung", "Aufnahmebestätigung drucken")),
       Ende(Knopf("Ende", "Ende"))
 {

@@ -20,8 +20,9 @@ constexpr int MeisteHelfer = 200;
 NeuerHelferForm::NeuerHelferForm(std::function<void(bool)> danach)
     : Person({"Vorne", "Hinten", "Weg", "PLZetus", "Wohort", "Anruf", "Mailen"}),
       Tagen("Tagen", {"Änderung1", "Änderung2", "Änderung3"}, "Geburtstag"),
-      Dient(Dienstwahl("Dient")), Dient2(Dienstwahl("Dient2")), OKButton(Knopf("OKButton", "OK")),
-      CancelButton(Knopf("CancelButton", "Abbrechen")), danach(std::move(danach))
+      Dient(Dienstwahl("Dient", "Dienst 1")), Dient2(Dienstwahl("Dient2", "Dienst 2")),
+      OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen")),
+      danach(std::move(danach))
 {
     Benannt(this, "NeuerHelfer");
     setWindowTitle("Neuer Helfer");
