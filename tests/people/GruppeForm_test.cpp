@@ -1,0 +1,196 @@
+// The editor of the groups and the dialog for a new one, through their windows.
+#include "people/GruppeForm.h"
+
+#include "people/Personenstand.h"
+
+namespace altardienst {
+namespace {
+
+class GruppeFormTest : public Personenstand {
+  protected:
+    GruppeFormTest()
+    {
+        for (const char *name : {"Rot", "Blau", "Grün"}) {
+            Gruppe.Bezeichnung[Gruppe.Anzahl] = name;
+            ++Gruppe.Anzahl;
+        }
+        for (const char *gruppe : {"Rot", "Blau", "", "Blau"})
+            Meßdiener.Gruppe[MeßdienerAnlegen("Anna", "Adler")] = gruppe;
+    }
+
+    void Öffnen(int cursor = 0)
+    {
+        delete form;
+        Gruppe.Cursor = cursor;
+        form = new GruppeForm;
+        Zeigen(form);
+    }
+
+    QWidget *Neu()
+    {
+        Drücken("NEWGroup");
+        EXPECT_FALSE(form->isVisible());
+        return Fenster("NeuGruppe");
+    }
+};
+
+TEST_F(GruppeFormTest, ZeigtNameNummerUndAnzahl)
+{
+    Öffnen(1);
+    EXPECT_EQ(Gezeigt("Indexi"), "1");
+    EXPECT_EQ(Gezeigt("GBezeichnung"), "Blau");
+    EXPECT_EQ(Gezeigt("Gruppenzahl"), "3");
+    EXPECT_EQ(Stumme(form), std::vector<Text>());
+    EXPECT_LE(form->sizeHint().width(), KleinsterBildschirm.width());
+}
+
+TEST_F(GruppeFormTest, NummerWirdBegrenztUndErhöhtDieAnzahlUmEins)
+{
+    Öffnen();
+    for (const auto &[getippt, danach] : std::vector<std::pair<Text, Text>>{
+             {"5", "3"}, {"-1", "0"}, {"400", "3"}, {"x", "x"}, {"4", "4"}}) {
+        Schreiben("Indexi", getippt);
+        EXPECT_EQ(Gezeigt("Indexi"), danach);
+    }
+    EXPECT_EQ(Gruppe.Anzahl, 4);
+    EXPECT_EQ(Gezeigt("Gruppenzahl"), "4");
+}
+
+TEST_F(GruppeFormTest, UmbenennenErreichtDieMeßdiener)
+{
+    for (const char *weg : {"PLUS", "MINUS", "Ende"}) {
+        Öffnen(1);
+        Schreiben("GBezeichnung", weg);
+        Drücken(weg);
+        EXPECT_EQ(Gruppe.Bezeichnung[1], weg);
+        EXPECT_EQ(Meßdiener.Gruppe[1], weg);
+        EXPECT_EQ(Meßdiener.Gruppe[3], weg);
+        EXPECT_EQ(Meßdiener.Gruppe[0], "Rot");
+    }
+}
+
+TEST_F(GruppeFormTest, DasSchließfeldLäßtDieMeßdienerBeimAltenNamen)
+{
+    Öffnen(1);
+    Schreiben("GBezeichnung", "Lila");
+    form->close();
+    EXPECT_EQ(Gruppe.Bezeichnung[1], "Lila");
+    EXPECT_EQ(Meßdiener.Gruppe[1], "Blau");
+}
+
+TEST_F(GruppeFormTest, EinVergebenerNameWirdStillZurückgenommen)
+{
+    Öffnen(1);
+    Schreiben("GBezeichnung", "Rot");
+    Drücken("PLUS");
+    EXPECT_EQ(Gruppe.Bezeichnung[1], "Blau");
+    EXPECT_EQ(Meßdiener.Gruppe[1], "Blau");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(GruppeFormTest, NameImLeerenPlatzWirdGruppeAllerOhneGruppe)
+{
+    Öffnen(3);
+    Schreiben("GBezeichnung", "Neu");
+    Drücken("Ende");
+    EXPECT_EQ(Gruppe.Anzahl, 4);
+    EXPECT_EQ(Meßdiener.Gruppe[2], "Neu");
+    Öffnen(4);
+    Schreiben("GBezeichnung", "Noch");
+    form->close();
+    EXPECT_EQ(Gruppe.Anzahl, 5) << "adopted by the window's close too";
+}
+
+TEST_F(GruppeFormTest, OhneNamenGehtEsNichtVorwärts)
+{
+    Öffnen(3);
+    Drücken("PLUS");
+    EXPECT_EQ(Gezeigt("Indexi"), "3");
+    Drehen("DPM", -1);
+    EXPECT_EQ(Gezeigt("GBezeichnung"), "Grün");
+    Drehen("DPM", +1);
+    EXPECT_EQ(Gezeigt("Indexi"), "3");
+    Öffnen(0);
+    Drücken("MINUS");
+    EXPECT_EQ(Gezeigt("Indexi"), "0");
+    QTest::keyClick(form, Qt::Key_PageUp);
+    EXPECT_EQ(Gezeigt("Indexi"), "1");
+    QTest::keyClick(form, Qt::Key_PageDown);
+    EXPECT_EQ(Gezeigt("Indexi"), "0");
+}
+
+TEST_F(GruppeFormTest, NummerOhneZahlHältDasSpeichernAuf)
+{
+    Öffnen();
+    Schreiben("Indexi", "");
+    Drücken("PLUS");
+    Drücken("Ende");
+    form->close();
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>(3, "Laufzeitfehler '13': Typen unverträglich"));
+    EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(GruppeFormTest, LöschenFragtUndNimmtDieGruppeDenMeßdienern)
+{
+    Öffnen(1);
+    Drücken("Löschend");
+    ASSERT_EQ(GestellteFragen.size(), 1U);
+    EXPECT_EQ(GestellteFragen[0].Wortlaut, "Wirklich?");
+    EXPECT_EQ(GestellteFragen[0].Titel, "Löschen einer Gruppe");
+    EXPECT_EQ(Meßdiener.Gruppe[1], "Blau");
+    Antworten = {true, true};
+    Drücken("Löschend");
+    EXPECT_EQ(Gruppe.Anzahl, 2);
+    EXPECT_EQ(Gezeigt("GBezeichnung"), "Grün");
+    EXPECT_EQ(Gezeigt("Gruppenzahl"), "2");
+    EXPECT_EQ(Meßdiener.Gruppe[1], "");
+    Meßdiener.Gruppe[0] = "Grün";
+    Drücken("Löschend"); // with two left the group stays
+    EXPECT_EQ(Gruppe.Anzahl, 2);
+    EXPECT_EQ(Gruppe.Bezeichnung[1], "Grün");
+    EXPECT_EQ(Meßdiener.Gruppe[0], "");
+}
+
+TEST_F(GruppeFormTest, NeueGruppeWirdAngehängt)
+{
+    Öffnen(1);
+    QWidget *neu = Neu();
+    EXPECT_EQ(neu->windowTitle(), "Neue Gruppe");
+    EXPECT_EQ(Aufschrift(Finden(neu, "GBezeichnung")), "Neue Gruppe");
+    Klick(Finden(neu, "OKButton"));
+    EXPECT_EQ(Gruppe.Bezeichnung[3], "Neue Gruppe");
+    EXPECT_EQ(Gruppe.Anzahl, 4);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(Gezeigt("GBezeichnung"), "Blau");
+    EXPECT_EQ(Gezeigt("Gruppenzahl"), "4");
+}
+
+TEST_F(GruppeFormTest, NeueGruppeWirdAbgelehnt)
+{
+    Öffnen();
+    QWidget *neu = Neu();
+    Finden<QLineEdit>(neu, "GBezeichnung")->setText("Blau");
+    Klick(Finden(neu, "OKButton"));
+    EXPECT_EQ(GezeigteMeldungen.back(), "Doppelt eingeben! Nicht mit mir!!!!!");
+    Gruppe.Anzahl = 60;
+    Klick(Finden(neu, "OKButton"));
+    EXPECT_EQ(GezeigteMeldungen.back(), "Maximale Anzahl Datensätze für Gruppen erreicht!!");
+    EXPECT_TRUE(neu->isVisible());
+    Gruppe.Anzahl = 59;
+    Finden<QLineEdit>(neu, "GBezeichnung")->setText("Die 60.");
+    Klick(Finden(neu, "OKButton"));
+    EXPECT_EQ(Gruppe.Anzahl, 60);
+}
+
+TEST_F(GruppeFormTest, AbbrechenVerwirft)
+{
+    Öffnen();
+    Klick(Finden(Neu(), "CancelButton"));
+    EXPECT_TRUE(form->isVisible());
+    Neu()->close();
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(Gruppe.Anzahl, 3);
+}
+
+} // namespace
+} // namespace altardienst

@@ -1,0 +1,262 @@
+// The editor of the helpers and the dialog for a new one, through their windows.
+#include "people/HelferForm.h"
+
+#include "people/Personenstand.h"
+
+namespace altardienst {
+namespace {
+
+class HelferFormTest : public Personenstand {
+  protected:
+    HelferFormTest()
+    {
+        HelferAnlegen("Anna", "Adler", "Lektor");
+        HelferAnlegen("Bea", "Berg", "Kantor", "Lektor");
+        HelferAnlegen("Cem", "Cohn", "Kollektant");
+        MesseMitDienern(Heute, 1);
+        Messe.Kollekt2Vor[0] = "Bea";
+        Messe.Kollekt2Nach[0] = "Berg";
+    }
+
+    void Öffnen(int cursor = 0)
+    {
+        delete form;
+        Helfer.Cursor = cursor;
+        form = new HelferForm;
+        Zeigen(form);
+    }
+
+    QWidget *Neu()
+    {
+        Drücken("NeuHelfer");
+        EXPECT_FALSE(form->isVisible());
+        return Fenster("NeuerHelfer");
+    }
+};
+
+TEST_F(HelferFormTest, ZeigtDenDatensatzDesCursors)
+{
+    Öffnen(1);
+    EXPECT_EQ(Gezeigt("Indexen"), "1");
+    EXPECT_EQ(Gezeigt("Vorne"), "Bea");
+    EXPECT_EQ(Gezeigt("Dient"), "Kantor");
+    EXPECT_EQ(Gezeigt("Dient2"), "Lektor");
+    EXPECT_EQ(Gezeigt("Datensätzig"), "3");
+    EXPECT_EQ(Konfig.PlzOrt, "48999 Beispielort");
+    EXPECT_EQ(Stumme(form), std::vector<Text>());
+    EXPECT_LE(form->minimumSizeHint().width(), KleinsterBildschirm.width());
+}
+
+TEST_F(HelferFormTest, NummerZweiHinterDemEndeFälltAufDenLeerenPlatz)
+{
+    Öffnen();
+    Schreiben("Indexen", "5");
+    EXPECT_EQ(Gezeigt("Indexen"), "3");
+    EXPECT_EQ(Helfer.Anzahl, 3);
+    Schreiben("Indexen", "4");
+    EXPECT_EQ(Helfer.Anzahl, 4);
+    Schreiben("Indexen", "-1");
+    EXPECT_EQ(Gezeigt("Indexen"), "0");
+}
+
+TEST_F(HelferFormTest, UmbenennenErreichtDieMessenNurDasSchließfeldNicht)
+{
+    for (const char *weg : {"PLUS", "MINUS", "Ende"}) {
+        Öffnen(1);
+        Schreiben("Vorne", weg);
+        Drücken(weg);
+        EXPECT_EQ(Helfer.Vorname[1], weg);
+        EXPECT_EQ(Messe.Kollekt2Vor[0], weg);
+        EXPECT_EQ(Messe.Lektor1Vor[0], "");
+    }
+    Öffnen(1);
+    Schreiben("Vorne", "Schluß");
+    form->close();
+    EXPECT_EQ(Helfer.Vorname[1], "Schluß");
+    EXPECT_EQ(Messe.Kollekt2Vor[0], "Ende");
+}
+
+TEST_F(HelferFormTest, EinVergebenerNameWirdStillZurückgenommen)
+{
+    Öffnen(1);
+    Schreiben("Vorne", "Anna");
+    Schreiben("Hinten", "Adler");
+    Drücken("Ende");
+    EXPECT_EQ(Helfer.Vorname[1], "Bea");
+    EXPECT_EQ(Helfer.Nachname[1], "Berg");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(HelferFormTest, GespeichertWirdBeimCursorNichtBeiDerNummer)
+{
+    Öffnen(1);
+    Schreiben("Indexen", "x");
+    Schreiben("Weg", "Gasse 1");
+    form->close(); // without the guard, which would want the number
+    EXPECT_EQ(Helfer.Straße[1], "Gasse 1");
+    Öffnen(1);
+    Schreiben("Indexen", "x");
+    Schreiben("Weg", "Gasse 2");
+    Drücken("Ende");
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Laufzeitfehler '13': Typen unverträglich"});
+    EXPECT_EQ(Helfer.Straße[1], "Gasse 1");
+}
+
+TEST_F(HelferFormTest, OhneVornamenGehtEsNichtVorwärts)
+{
+    Öffnen(3);
+    Schreiben("Hinten", "Dorn");
+    Drücken("PLUS");
+    EXPECT_EQ(Gezeigt("Indexen"), "3");
+    EXPECT_EQ(Helfer.Cursor, 3);
+    EXPECT_EQ(Helfer.Nachname[3], "Dorn");
+    EXPECT_EQ(Gezeigt("Hinten"), "") << "the record behind shows";
+}
+
+TEST_F(HelferFormTest, SchließenÜbernimmtDenLeerenPlatzMitEinemNamen)
+{
+    Öffnen(3);
+    form->close();
+    EXPECT_EQ(Helfer.Anzahl, 3);
+    Öffnen(3);
+    Schreiben("Hinten", "Dorn");
+    form->close();
+    EXPECT_EQ(Helfer.Anzahl, 4);
+    Öffnen(4);
+    Schreiben("Vorne", "Dora");
+    Drücken("Ende");
+    EXPECT_EQ(Helfer.Anzahl, 5);
+}
+
+TEST_F(HelferFormTest, BlätternMitTastenUndSpinButton)
+{
+    Öffnen();
+    QTest::keyClick(form, Qt::Key_PageUp);
+    EXPECT_EQ(Gezeigt("Vorne"), "Bea");
+    Drehen("DPM", -1);
+    EXPECT_EQ(Gezeigt("Vorne"), "Anna");
+    EXPECT_TRUE(C("Indexen")->hasFocus());
+    Drücken("MINUS");
+    EXPECT_EQ(Gezeigt("Indexen"), "0");
+    Schreiben("Indexen", "");
+    Drücken("PLUS");
+    EXPECT_EQ(Gezeigt("Indexen"), "1");
+    Schreiben("Indexen", "");
+    Drehen("DPM", +1);
+    EXPECT_EQ(GezeigteMeldungen.size(), 1U);
+}
+
+TEST_F(HelferFormTest, LöschenFragtUndLäßtZweiStehen)
+{
+    Öffnen(1);
+    Drücken("Datensatzlösch");
+    ASSERT_EQ(GestellteFragen.size(), 1U);
+    EXPECT_EQ(GestellteFragen[0].Wortlaut, "Wirklich?");
+    EXPECT_EQ(GestellteFragen[0].Titel, "Löschen eines Helfers");
+    Antworten = {true, true};
+    Drücken("Datensatzlösch");
+    EXPECT_EQ(Helfer.Anzahl, 2);
+    EXPECT_EQ(Gezeigt("Vorne"), "Cem");
+    EXPECT_EQ(Gezeigt("Datensätzig"), "2");
+    EXPECT_EQ(Messe.Kollekt2Vor[0], "Bea") << "the mass goes on naming her";
+    Drücken("Datensatzlösch");
+    EXPECT_EQ(GestellteFragen.size(), 3U);
+    EXPECT_EQ(Helfer.Anzahl, 2);
+}
+
+TEST_F(HelferFormTest, GeburtstagVorMehrAls90KalenderjahrenWirdHeute)
+{
+    Öffnen();
+    Schreiben("Tagen", "1.1.1936");
+    EXPECT_EQ(Gezeigt("Tagen"), "01.01.1936");
+    Drehen("Änderung1", -1); // 31.12.1935
+    EXPECT_EQ(Gezeigt("Tagen"), "21.11.2026");
+    Schreiben("Tagen", "31.1.2000");
+    Drücken("PMon");
+    EXPECT_EQ(Gezeigt("Tagen"), "29.02.2000");
+    Drücken("PJahr");
+    EXPECT_EQ(Gezeigt("Tagen"), "28.02.2001");
+    Drücken("Ptag");
+    Drücken("MMon");
+    Drücken("MJahr");
+    Drücken("MTag");
+    EXPECT_EQ(Gezeigt("Tagen"), "31.01.2000");
+}
+
+TEST_F(HelferFormTest, ZeitenFolgenDenRegelnDerMeßdiener)
+{
+    Öffnen();
+    Schreiben("Start3", "31.12.2023");
+    EXPECT_EQ(Gezeigt("Start3"), "21.11.2026");
+    Schreiben("Start2", "01.12.2026");
+    EXPECT_EQ(Gezeigt("Schluß2"), "01.12.2026");
+    Drehen("ä10", +1);
+    EXPECT_EQ(Gezeigt("Schluß2"), "02.12.2026");
+    Schreiben("Schluß2", "");
+    EXPECT_EQ(Gezeigt("Schluß2"), "01.12.2026") << "today, which is before the start";
+    Schreiben("Start", "");
+    EXPECT_EQ(Gezeigt("Start"), "");
+}
+
+TEST_F(HelferFormTest, WasSichNichtUmwandelnLäßtHältDasSpeichernAuf)
+{
+    for (const char *box : {"PLZetus", "Tagen", "Start"}) {
+        Öffnen();
+        GezeigteMeldungen.clear();
+        Schreiben(box, "x");
+        Drücken("PLUS");
+        form->close();
+        EXPECT_EQ(GezeigteMeldungen,
+                  std::vector<Text>(2, "Laufzeitfehler '13': Typen unverträglich"))
+            << box;
+        EXPECT_TRUE(form->isVisible());
+    }
+}
+
+TEST_F(HelferFormTest, NeuerHelferWirdAngehängt)
+{
+    Helfer.Von1[3] = Heute; // what the slot holds
+    Öffnen(1);
+    QWidget *neu = Neu();
+    EXPECT_EQ(neu->windowTitle(), "Neuer Helfer");
+    EXPECT_EQ(Aufschrift(Finden(neu, "PLZetus")), "48999");
+    EXPECT_EQ(Aufschrift(Finden(neu, "Wohort")), "Beispielort");
+    EXPECT_EQ(Aufschrift(Finden(neu, "Tagen")), "21.11.2026");
+    Finden<QLineEdit>(neu, "Vorne")->setText("Dora");
+    Finden<QLineEdit>(neu, "Hinten")->setText("Dorn");
+    Finden<QComboBox>(neu, "Dient")->setEditText("Küster");
+    Klick(Finden(neu, "OKButton"));
+    EXPECT_EQ(Helfer.Anzahl, 4);
+    EXPECT_EQ(Datensatz(Helfer, 3),
+              (std::vector<Text>{"Dora", "Dorn", "", "48999", "Beispielort", "", "", "21.11.2026",
+                                 "Küster", "", "21.11.2026", "30.12.1899", "30.12.1899",
+                                 "30.12.1899", "30.12.1899", "30.12.1899"}));
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(Gezeigt("Vorne"), "Bea");
+    EXPECT_EQ(Gezeigt("Datensätzig"), "4");
+}
+
+TEST_F(HelferFormTest, NeuerHelferWirdAbgelehntOderVerworfen)
+{
+    Öffnen();
+    QWidget *neu = Neu();
+    Finden<QLineEdit>(neu, "Vorne")->setText("Bea");
+    Finden<QLineEdit>(neu, "Hinten")->setText("Berg");
+    Klick(Finden(neu, "OKButton"));
+    EXPECT_EQ(GezeigteMeldungen.back(), "Doppelt eingeben! Nicht mit mir!!!!!");
+    Helfer.Anzahl = 200;
+    Klick(Finden(neu, "OKButton"));
+    EXPECT_EQ(GezeigteMeldungen.back(), "Maximale Anzahl von Datensätzen für Helfer erreicht!");
+    Helfer.Anzahl = 3;
+    Finden<QLineEdit>(neu, "Hinten")->setText("Neu");
+    Finden<QLineEdit>(neu, "PLZetus")->setText("x");
+    Klick(Finden(neu, "OKButton"));
+    EXPECT_EQ(GezeigteMeldungen.back(), "Laufzeitfehler '13': Typen unverträglich");
+    EXPECT_TRUE(neu->isVisible());
+    Klick(Finden(neu, "CancelButton"));
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(Helfer.Anzahl, 3);
+}
+
+} // namespace
+} // namespace altardienst

@@ -1,0 +1,318 @@
+// A long random walk through the editor of the servers against a model of its rules.
+#include "people/MeßdienerForm.h"
+#include "people/MeßdienerModell.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QPointer>
+#include <QRadioButton>
+
+namespace altardienst {
+namespace {
+
+constexpr int Schritte = 20000;
+class LaufMeßdienerForm : public Fensterstand {
+  protected:
+    LaufMeßdienerForm()
+    {
+        Gruppe.Bezeichnung[0] = "Rot";
+        Gruppe.Bezeichnung[1] = "Blau";
+        Gruppe.Anzahl = 2;
+        for (const char *name : {"Anna", "Bea", "Cem", "Dora"})
+            MeßdienerAnlegen(name, "Adler", 160, "weiblich");
+        for (int m = 0; m < 3; ++m)
+            MesseMitDienern(Heute + m, 20);
+        MesseDienerFest.Anzahl = 1;
+        for (int s = 1; s <= 20; ++s) {
+            Messe.DienerVor[1][s] = vornamen[static_cast<std::size_t>(s) % 5];
+            Messe.DienerNach[1][s] = nachnamen[static_cast<std::size_t>(s) % 4];
+            MesseDienerFest.Vorname[0][s] = "Anna";
+            MesseDienerFest.Nachname[0][s] = nachnamen[static_cast<std::size_t>(s) % 4];
+        }
+        Öffnen();
+        modell.Beginnen();
+    }
+
+    void Öffnen()
+    {
+        gefunden.clear();
+        form = new MeßdienerForm;
+        form->show();
+    }
+
+    QWidget *C(const Text &name)
+    {
+        QWidget *&control = gefunden[name];
+        if (!control)
+            control = Finden(form.data(), name.c_str());
+        return control;
+    }
+
+    void Handlung();
+    void Schreiben(const Text &box, const Text &text)
+    {
+        Wanderer::Schreiben(C(box), text);
+        modell.Setzen(box, text);
+    }
+    void Tippen();
+    void Datumsschritt();
+    void Blättern();
+    void Verlassen();
+    void Auswählen();
+    void Flag();
+    void Löschen();
+    void Neu();
+    void Schließen();
+    void Vergleichen();
+
+    const std::vector<const char *> vornamen = {"Anna", "Bea", "Cem", "Dora", ""};
+    const std::vector<const char *> nachnamen = {"Adler", "Berg", "Co,hn", ""};
+    Wanderer wanderer{20261121};
+    QPointer<MeßdienerForm> form;
+    std::map<Text, QWidget *> gefunden;
+    MeßdienerModell modell;
+    Text zuletzt;
+};
+
+void LaufMeßdienerForm::Tippen()
+{
+    const auto k = static_cast<std::size_t>(wanderer.Wurf(Felder));
+    Text text;
+    switch (Arten[k]) {
+    case 'D':
+        text = wanderer.Eines({"01.01.2026", "15.3.2024", "31.12.2023", "30.12.1899", "29.02.2024",
+                               "24.12.2027", "31.1.2025", "x", ""});
+        break;
+    case 'L':
+        text = wanderer.Eines({"12345", "-7", "100000", "99999", "x"});
+        break;
+    case 'N':
+        text = wanderer.Eines({"0", "2", "5", "150", "300", "-1", "21", "y"});
+        break;
+    default:
+        text = k == 0 || k == 24   ? wanderer.Eines(vornamen)
+               : k == 1 || k == 25 ? wanderer.Eines(nachnamen)
+               : k == 11           ? wanderer.Eines({"Rot", "Blau", "Grün", ""})
+               : k == 12           ? wanderer.Eines({"jjjjjj", "nnnnnn", "jnjnjn", "jj"})
+               : k == 13           ? wanderer.Eines({"jjjjjjjj", "nnnnnnnj", "jnjnjnjn"})
+                                   : wanderer.Eines({"Weg 1", "a \"b\", c", "ß", ""});
+    }
+    Schreiben(Boxen[k], text);
+    zuletzt += Text(Boxen[k]) + "=" + text;
+}
+
+void LaufMeßdienerForm::Datumsschritt()
+{
+    const int einheit = wanderer.Wurf(3);
+    const int richtung = wanderer.Wurf(2) * 2 - 1;
+    const int feld = wanderer.Wurf(13);
+    if (feld < 2) {
+        const Text box = feld == 0 ? "Gebutag" : "Eintritttdatum";
+        const std::array<const char *, 12> knöpfe = {"mTag",    "pTag",    "mMonat", "PMonat",
+                                                     "mJahr",   "pJahr",   "mmTag",  "pptag",
+                                                     "mmMonat", "ppMonat", "mmJahr", "ppJahr"};
+        if (wanderer.Wurf(2) == 0)
+            Finden<QAbstractButton>(
+                form, knöpfe[static_cast<std::size_t>(feld * 6 + einheit * 2 + (richtung > 0))])
+                ->click();
+        else
+            Wanderer::Drehen(C("Änderung" + std::to_string(feld * 3 + einheit + 1)), richtung);
+        modell.Schritt(box, einheit, richtung);
+        zuletzt += box;
+    } else if (feld < 12) {
+        const int n = feld - 2;
+        const Text box = Boxen[static_cast<std::size_t>(14 + n)];
+        Wanderer::Drehen(C("ä" + std::to_string(3 * n + einheit + 1)), richtung);
+        modell.Schritt(box, einheit, richtung);
+        zuletzt += box;
+    } else {
+        Wanderer::Drehen(C("Änderung7"), richtung);
+        Versuch(
+            [&] { modell.Setzen("Groß", ZahlText(Int16Lesen(modell.Texte["Groß"]) + richtung)); });
+    }
+    zuletzt += richtung > 0 ? " auf" : " ab";
+}
+
+void LaufMeßdienerForm::Blättern()
+{
+    const int richtung = wanderer.Wurf(2) * 2 - 1;
+    const bool drehen = wanderer.Wurf(2) == 0;
+    if (drehen)
+        Wanderer::Drehen(C("DPM"), richtung);
+    else
+        Finden<QAbstractButton>(form, richtung > 0 ? "PLUS" : "MINUS")->click();
+    modell.Blättern(richtung, drehen);
+    zuletzt += richtung > 0 ? "vor" : "zurück";
+}
+
+void LaufMeßdienerForm::Verlassen()
+{
+    switch (wanderer.Wurf(3)) {
+    case 0:
+        Wanderer::Verlassen(C("Postleit"));
+        return modell.PostleitzahlVerlassen("Postleit");
+    case 1:
+        Wanderer::Verlassen(C("Dieenst"));
+        return modell.GruppeVerlassen();
+    default:
+        if (wanderer.Wurf(2) == 0) {
+            const Text text = Text(wanderer.Eines(nachnamen)) + "," + wanderer.Eines(vornamen);
+            Wanderer::Schreiben(C("Partner"), text);
+            modell.Texte["Partner"] = text;
+        }
+        Wanderer::Verlassen(C("Partner"));
+        modell.PartnerPrüfen(false);
+        zuletzt += "Partner verlassen";
+    }
+}
+
+void LaufMeßdienerForm::Auswählen()
+{
+    auto *partner = Finden<QComboBox>(form, "Partner");
+    if (partner->count() == 0)
+        return;
+    const int index = wanderer.Wurf(partner->count());
+    partner->setCurrentIndex(index);
+    partner->setEditText(partner->itemText(index));
+    modell.Texte["Partner"] = partner->itemText(index).toStdString();
+    zuletzt += "Partner " + modell.Texte["Partner"];
+    Q_EMIT partner->activated(index);
+    modell.PartnerPrüfen(true);
+}
+
+void LaufMeßdienerForm::Flag()
+{
+    const std::array<const char *, 12> boxen = {"Check1", "Check2",  "Check3",  "Check4",
+                                                "Check5", "Check3a", "Check6",  "Check7",
+                                                "Check8", "Check9",  "Check10", "Check11"};
+    const int k = wanderer.Wurf(14);
+    if (k >= 12) {
+        Finden<QAbstractButton>(form, k == 12 ? "Norm" : "Oft")->click();
+        return modell.Setzen("Haufigk", k == 12 ? "0" : "2");
+    }
+    auto *box = Finden<QCheckBox>(form, boxen[static_cast<std::size_t>(k)]);
+    box->click();
+    Text &flags = modell.Texte[k < 6 ? "Dienstmittig" : "Abgewählt"];
+    const auto stelle = static_cast<std::size_t>(k % 6);
+    if (flags.size() <= stelle)
+        flags.resize(stelle + 1, 'n');
+    flags[stelle] = flags[stelle] == 'j' ? 'n' : 'j';
+    zuletzt += boxen[static_cast<std::size_t>(k)];
+}
+
+void LaufMeßdienerForm::Löschen()
+{
+    const bool ja = wanderer.Wurf(3) > 0;
+    Antworten = {ja};
+    Finden<QAbstractButton>(form, "Lösch")->click();
+    modell.Löschen(ja);
+    zuletzt += "löschen";
+}
+
+void LaufMeßdienerForm::Neu()
+{
+    Finden<QAbstractButton>(form, "NeuDiener")->click();
+    QWidget *neu = Fenster("NeuMeßdiener");
+    const Text vor = wanderer.Eines(vornamen);
+    const Text nach = wanderer.Eines(nachnamen);
+    Finden<QLineEdit>(neu, "Vornamen")->setText(Anzeige(vor));
+    Finden<QLineEdit>(neu, "Nachnamen")->setText(Anzeige(nach));
+    zuletzt += "neu " + vor + " " + nach;
+    if (wanderer.Wurf(4) > 0) {
+        Finden<QAbstractButton>(neu, "OKButton")->click();
+        if (modell.IstDoppelt(vor, nach))
+            modell.Meldungen.push_back("Doppelt eingeben! Nicht mit mir!!!!!");
+        else
+            modell.Neu(vor, nach);
+    }
+    if (neu->isVisible())
+        neu->close();
+    Wanderer::Aufräumen();
+}
+
+void LaufMeßdienerForm::Schließen()
+{
+    const bool ende = wanderer.Wurf(2) == 0;
+    zuletzt += ende ? "Ende" : "schließen";
+    if (ende)
+        Finden<QAbstractButton>(form, "Ende")->click();
+    else
+        form->close();
+    const bool zu = modell.Schließen(ende);
+    ASSERT_EQ(form->isHidden(), zu);
+    if (!zu)
+        return;
+    delete form;
+    Öffnen();
+    modell.Öffnen();
+}
+
+void LaufMeßdienerForm::Handlung()
+{
+    zuletzt.clear();
+    const int wurf = wanderer.Wurf(100);
+    if (wurf < 40 || wurf >= 97)
+        Tippen();
+    else if (wurf < 50)
+        Datumsschritt();
+    else if (wurf < 70)
+        Blättern();
+    else if (wurf < 76)
+        Verlassen();
+    else if (wurf < 80)
+        Auswählen();
+    else if (wurf < 86)
+        Flag();
+    else if (wurf < 91) {
+        const Text nummer = wurf == 86 ? wanderer.Eines({"", "-1", "x", "400"})
+                                       : ZahlText(wanderer.Wurf(modell.Anzahl + 3));
+        Schreiben("Datensätze", nummer);
+        zuletzt += "Nummer " + nummer;
+    } else if (wurf < 95 || modell.Anzahl > Sätze - 8)
+        Löschen();
+    else if (wurf < 96)
+        Neu();
+    else
+        Schließen();
+}
+
+void LaufMeßdienerForm::Vergleichen()
+{
+    ASSERT_EQ(Meßdiener.Anzahl, modell.Anzahl);
+    ASSERT_EQ(Meßdiener.Cursor, modell.Cursor);
+    const int bis = wanderer.Wurf(50) == 0 ? Sätze : std::min(Sätze, modell.Anzahl + 2);
+    for (int i = 0; i < bis; ++i)
+        ASSERT_EQ(Datensatz(Meßdiener, i), modell.S(i)) << "record " << i;
+    ASSERT_TRUE(MeßdienerModell::Plätze() == modell.Messen);
+    for (const auto &[box, text] : modell.Texte)
+        ASSERT_EQ(Wanderer::Lesen(C(box)), text) << box;
+    ASSERT_EQ(static_cast<QRadioButton *>(C("Oft"))->isChecked(), modell.Oft);
+    ASSERT_EQ(static_cast<QCheckBox *>(C("Check3a"))->isChecked(),
+              IstJa(modell.Texte["Dienstmittig"], 6));
+    ASSERT_EQ(static_cast<QCheckBox *>(C("Check6"))->isChecked(),
+              IstJa(modell.Texte["Abgewählt"], 1));
+    ASSERT_EQ(GezeigteMeldungen, modell.Meldungen);
+}
+
+TEST_F(LaufMeßdienerForm, TabellenUndFensterBleibenBeimModell)
+{
+    std::deque<Text> verlauf;
+    for (int schritt = 0; schritt < Schritte; ++schritt) {
+        Handlung();
+        verlauf.push_back(zuletzt);
+        if (verlauf.size() > 8)
+            verlauf.pop_front();
+        Vergleichen();
+        if (HasFailure()) {
+            for (const Text &handlung : verlauf)
+                ADD_FAILURE() << handlung;
+            FAIL() << "at step " << schritt << ", record " << modell.Texte["Datensätze"];
+        }
+        GezeigteMeldungen.clear();
+        modell.Meldungen.clear();
+    }
+}
+
+} // namespace
+} // namespace altardienst

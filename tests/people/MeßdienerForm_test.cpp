@@ -1,0 +1,273 @@
+// The editor of the servers through its window: records, renames, deletes, adoption.
+#include "people/MeßdienerForm.h"
+
+#include "people/Personenstand.h"
+
+#include <QCheckBox>
+#include <QRadioButton>
+
+namespace altardienst {
+namespace {
+
+class MeßdienerFormTest : public Personenstand {
+  protected:
+    MeßdienerFormTest()
+    {
+        MeßdienerAnlegen("Anna", "Adler");
+        MeßdienerAnlegen("Bea", "Berg");
+        MeßdienerAnlegen("Cem", "Cohn");
+    }
+
+    void Öffnen(int cursor = 0)
+    {
+        Meßdiener.Cursor = cursor;
+        form = new MeßdienerForm;
+        Zeigen(form);
+    }
+};
+
+TEST_F(MeßdienerFormTest, ÖffnetAufDemCursorUndBegrenztIhn)
+{
+    Öffnen(1);
+    EXPECT_EQ(Gezeigt("Datensätze"), "1");
+    EXPECT_EQ(Gezeigt("Vornamen"), "Bea");
+    EXPECT_EQ(Gezeigt("MaxIndex"), "3");
+    EXPECT_EQ(Konfig.PlzOrt, "48999 Beispielort");
+    delete form;
+    Öffnen(9); // beyond the place behind the blank slot
+    EXPECT_EQ(Gezeigt("Datensätze"), "3");
+    EXPECT_EQ(Meßdiener.Cursor, 3);
+    EXPECT_EQ(Meßdiener.Anzahl, 3);
+}
+
+TEST_F(MeßdienerFormTest, NummerHinterDemLeerenPlatzErhöhtDieAnzahl)
+{
+    Öffnen();
+    Schreiben("Datensätze", "5");
+    EXPECT_EQ(Gezeigt("Datensätze"), "3");
+    EXPECT_EQ(Meßdiener.Anzahl, 3);
+    Schreiben("Datensätze", "4");
+    EXPECT_EQ(Gezeigt("Datensätze"), "4");
+    EXPECT_EQ(Meßdiener.Anzahl, 4);
+    EXPECT_EQ(Gezeigt("MaxIndex"), "4");
+    Schreiben("Datensätze", "-2");
+    EXPECT_EQ(Gezeigt("Datensätze"), "0");
+    Schreiben("Datensätze", "99999");
+    EXPECT_EQ(Gezeigt("Datensätze"), "4");
+}
+
+TEST_F(MeßdienerFormTest, EinVergebenerNameWirdStillZurückgenommen)
+{
+    Öffnen(1);
+    Schreiben("Vornamen", "Anna");
+    Schreiben("Nachnamen", "Adler");
+    Drücken("PLUS");
+    EXPECT_EQ(Meßdiener.Vorname[1], "Bea");
+    EXPECT_EQ(Meßdiener.Nachname[1], "Berg");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    EXPECT_EQ(Gezeigt("Datensätze"), "2");
+}
+
+TEST_F(MeßdienerFormTest, UmbenennenErreichtAlleNurDasSchließfeldNicht)
+{
+    MesseMitDienern(Heute, 2);
+    Messe.DienerVor[0][2] = MesseDienerFest.Vorname[0][3] = Meßdiener.WunschVorname[0] = "Bea";
+    Messe.DienerNach[0][2] = MesseDienerFest.Nachname[0][3] = Meßdiener.WunschNachname[0] = "Berg";
+    for (const char *weg : {"PLUS", "MINUS", "Ende"}) {
+        SCOPED_TRACE(weg);
+        Öffnen(1);
+        const Text neu = Text("Bea ") + weg;
+        Schreiben("Vornamen", neu);
+        Drücken(weg);
+        EXPECT_EQ(Meßdiener.Vorname[1], neu);
+        EXPECT_EQ(Messe.DienerVor[0][2], neu);
+        EXPECT_EQ(MesseDienerFest.Vorname[0][3], neu);
+        EXPECT_EQ(Meßdiener.WunschVorname[0], neu);
+        delete form;
+    }
+    const Text davor = Messe.DienerVor[0][2];
+    Öffnen(1);
+    Schreiben("Vornamen", "Schluß");
+    form->close();
+    EXPECT_EQ(Meßdiener.Vorname[1], "Schluß");
+    EXPECT_EQ(Messe.DienerVor[0][2], davor);
+    EXPECT_EQ(Meßdiener.WunschVorname[0], davor);
+}
+
+TEST_F(MeßdienerFormTest, NameImLeerenPlatzFülltKeineLeerenSlots)
+{
+    MesseMitDienern(Heute, 3);
+    Öffnen(3);
+    Schreiben("Vornamen", "Dora");
+    Schreiben("Nachnamen", "Dorn");
+    Drücken("PLUS");
+    EXPECT_EQ(Messe.DienerVor[0][1], "");
+    EXPECT_EQ(Meßdiener.WunschVorname[0], "");
+    EXPECT_EQ(Meßdiener.Anzahl, 4) << "leaving the blank slot adopts it";
+}
+
+TEST_F(MeßdienerFormTest, OhneBeideNamenGehtEsNichtVorwärtsAberZurück)
+{
+    Öffnen(1);
+    Schreiben("Vornamen", "");
+    Drücken("PLUS");
+    EXPECT_EQ(Gezeigt("Datensätze"), "1");
+    EXPECT_EQ(Meßdiener.Vorname[1], "");
+    Drücken("MINUS");
+    EXPECT_EQ(Gezeigt("Datensätze"), "0");
+    Drücken("MINUS");
+    EXPECT_EQ(Gezeigt("Datensätze"), "0");
+}
+
+TEST_F(MeßdienerFormTest, BildtastenDrückenPlusUndMinus)
+{
+    Öffnen();
+    QTest::keyClick(form, Qt::Key_PageUp);
+    EXPECT_EQ(Gezeigt("Datensätze"), "1");
+    QTest::keyClick(form, Qt::Key_PageDown);
+    EXPECT_EQ(Gezeigt("Datensätze"), "0");
+    Schreiben("Datensätze", "");
+    QTest::keyClick(form, Qt::Key_PageUp); // begins at 0
+    EXPECT_EQ(Gezeigt("Datensätze"), "1");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    Schreiben("Datensätze", "");
+    Drehen("DPM", +1);
+    EXPECT_EQ(GezeigteMeldungen.size(), 1U) << "the spin button does not fill an empty box";
+}
+
+TEST_F(MeßdienerFormTest, DerCursorLäuftBeimBlätternVorausBisZumSchließen)
+{
+    Öffnen();
+    Drücken("PLUS");
+    EXPECT_EQ(Meßdiener.Cursor, 2);
+    Drücken("Ende");
+    EXPECT_EQ(Meßdiener.Cursor, 1);
+}
+
+TEST_F(MeßdienerFormTest, SchließenÜbernimmtDenLeerenPlatzNurMitBeidenNamen)
+{
+    Öffnen(3);
+    Schreiben("Nachnamen", "Dorn");
+    Drücken("Ende");
+    EXPECT_EQ(Meßdiener.Anzahl, 3);
+    EXPECT_EQ(Meßdiener.Cursor, 2);
+    delete form;
+    Öffnen(3);
+    Schreiben("Vornamen", "Dora");
+    Schreiben("Nachnamen", "Dorn");
+    form->close();
+    EXPECT_EQ(Meßdiener.Anzahl, 4);
+    EXPECT_EQ(Meßdiener.Cursor, 3);
+}
+
+TEST_F(MeßdienerFormTest, LöschenFragtUndLäßtZweiStehen)
+{
+    Öffnen(1);
+    Drücken("Lösch");
+    ASSERT_EQ(GestellteFragen.size(), 1U);
+    EXPECT_EQ(GestellteFragen[0].Wortlaut, "Wirklich?");
+    EXPECT_EQ(GestellteFragen[0].Titel, "Löschen eines Meßdieners");
+    EXPECT_EQ(Meßdiener.Anzahl, 3);
+    Antworten = {true, true};
+    Drücken("Lösch");
+    EXPECT_EQ(Meßdiener.Anzahl, 2);
+    EXPECT_EQ(Gezeigt("Vornamen"), "Cem");
+    EXPECT_EQ(Gezeigt("MaxIndex"), "2");
+    Drücken("Lösch");
+    EXPECT_EQ(GestellteFragen.size(), 3U);
+    EXPECT_EQ(Meßdiener.Anzahl, 2);
+}
+
+TEST_F(MeßdienerFormTest, LöschenAufDemLeerenPlatzNimmtDenLetzten)
+{
+    Öffnen(3);
+    Antworten = {true};
+    Drücken("Lösch");
+    EXPECT_EQ(Meßdiener.Anzahl, 2);
+    EXPECT_EQ(Meßdiener.Vorname[1], "Bea");
+    EXPECT_EQ(Meßdiener.Vorname[2], "");
+    EXPECT_EQ(Gezeigt("Datensätze"), "2");
+    EXPECT_EQ(Gezeigt("Vornamen"), "");
+}
+
+TEST_F(MeßdienerFormTest, WasKeineZahlOderKeinDatumIstHältDasSpeichernAuf)
+{
+    for (const char *box : {"Postleit", "Gebutag", "Groß", "Eintritttdatum", "Start"}) {
+        SCOPED_TRACE(box);
+        Öffnen();
+        Schreiben(box, "x");
+        GezeigteMeldungen.clear();
+        Drücken("PLUS");
+        Drücken("Ende");
+        EXPECT_EQ(GezeigteMeldungen,
+                  std::vector<Text>(2, "Laufzeitfehler '13': Typen unverträglich"));
+        EXPECT_TRUE(form->isVisible());
+        delete form;
+    }
+}
+
+TEST_F(MeßdienerFormTest, EineNummerOhneZahlScheitertVorDemSpeichern)
+{
+    Öffnen();
+    Schreiben("Vornamen", "Neu");
+    Schreiben("Datensätze", "x");
+    Drücken("Ende");
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Laufzeitfehler '13': Typen unverträglich"});
+    EXPECT_EQ(Meßdiener.Vorname[0], "Anna");
+    EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(MeßdienerFormTest, KästchenSchreibenIhreStelle)
+{
+    Öffnen();
+    Drücken("Check3a");
+    EXPECT_EQ(Gezeigt("Dienstmittig"), "jjjjjn");
+    Drücken("Check6");
+    EXPECT_EQ(Gezeigt("Abgewählt"), "jnnnnnnn");
+    Schreiben("Abgewählt", "nxjnnjnj");
+    EXPECT_FALSE(Finden<QCheckBox>(form, "Check6")->isChecked());
+    EXPECT_FALSE(Finden<QCheckBox>(form, "Check7")->isChecked());
+    EXPECT_TRUE(Finden<QCheckBox>(form, "Check8")->isChecked());
+    EXPECT_TRUE(Finden<QCheckBox>(form, "Check11")->isChecked());
+    Drücken("Check7");
+    Drücken("PLUS");
+    EXPECT_EQ(Meßdiener.Wochendienst[0], "njjnnjnj") << "positions 7 and 8 pass through";
+    EXPECT_EQ(Meßdiener.Qualifikation[0], "jjjjjn");
+}
+
+TEST_F(MeßdienerFormTest, HäufigkeitAußerhalbDerOptionenBleibtStehen)
+{
+    Meßdiener.Häufigkeit[0] = 5;
+    Öffnen();
+    EXPECT_TRUE(Finden<QRadioButton>(form, "Oft")->isChecked());
+    Drücken("PLUS");
+    EXPECT_EQ(Meßdiener.Häufigkeit[0], 5);
+    EXPECT_TRUE(Finden<QRadioButton>(form, "Norm")->isChecked());
+    Drücken("Oft");
+    EXPECT_EQ(Gezeigt("Haufigk"), "2");
+    Drücken("Norm");
+    EXPECT_EQ(Gezeigt("Haufigk"), "0");
+    Schreiben("Haufigk", "25");
+    EXPECT_EQ(Gezeigt("Haufigk"), "20");
+}
+
+TEST_F(MeßdienerFormTest, DieBestätigungDrucktWasAufDemSchirmSteht)
+{
+    Konfig.Schriftgröße = 10;
+    Öffnen();
+    Schreiben("Vornamen", "Änne");
+    Drücken("Aufnahmebestätigung");
+    EXPECT_EQ(Papier.WieOft("Print \"Änne Adler\""), 1);
+    EXPECT_EQ(Meßdiener.Vorname[0], "Anna");
+}
+
+TEST_F(MeßdienerFormTest, JedesFeldHatEinenGesprochenenNamenUndPlatz)
+{
+    Öffnen();
+    EXPECT_EQ(Stumme(form), std::vector<Text>());
+    EXPECT_LE(form->minimumSizeHint().width(), KleinsterBildschirm.width());
+    EXPECT_LE(form->minimumSizeHint().height(), KleinsterBildschirm.height());
+}
+
+} // namespace
+} // namespace altardienst

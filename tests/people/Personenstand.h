@@ -1,0 +1,37 @@
+// The fixture of the tests of the people's forms.
+#pragma once
+
+#include "fenster/Fensterstand.h"
+#include "people/Modellschirm.h"
+#include "platform/Drucker.h"
+#include "printing/Druckprotokoll.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QPointer>
+
+#include <utility>
+
+namespace altardienst {
+
+/// Boxes are set at once; what typing and focus do to them is the affair of the tests that say so.
+class Personenstand : public Fensterstand {
+  protected:
+    Personenstand() : zuvor(std::exchange(Drucker, &Papier)) {}
+    ~Personenstand() override { Drucker = zuvor; }
+
+    QWidget *C(const char *name) { return Finden(form.data(), name); }
+    Text Gezeigt(const char *name) { return Wanderer::Lesen(C(name)); }
+    void Schreiben(const char *box, const Text &text) { Wanderer::Schreiben(C(box), text); }
+    void Drücken(const char *knopf) { Finden<QAbstractButton>(form, knopf)->click(); }
+    void Drehen(const char *spin, int richtung) { Wanderer::Drehen(C(spin), richtung); }
+    void Verlassen(const char *box) { Wanderer::Verlassen(C(box)); }
+
+    QPointer<QWidget> form;
+    Druckprotokoll Papier;
+
+  private:
+    DruckerDienst *zuvor;
+};
+
+} // namespace altardienst
