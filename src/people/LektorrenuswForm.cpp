@@ -4,6 +4,7 @@
 #include "core/tables.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Handler.h"
+#include "fenster/Textwahl.h"
 #include "people/Namen.h"
 #include "platform/Meldungen.h"
 
@@ -54,11 +55,8 @@ bool IstHelfer(const Text &listenname)
 
 QComboBox *Namenwahl(const char *name, const char *text)
 {
-    auto *kombo = Benannt(new QComboBox, name);
-    kombo->setEditable(true);
-    kombo->setInsertPolicy(QComboBox::NoInsert);
-    kombo->setMinimumContentsLength(22);
-    kombo->setAccessibleName(QString::fromUtf8(text).remove(':'));
+    QComboBox *kombo = Textwahl(name, QString::fromUtf8(text).remove(':').toUtf8().constData());
+    kombo->setMinimumContentsLength(18);
     return kombo;
 }
 
@@ -80,7 +78,7 @@ LektorrenuswForm::LektorrenuswForm(std::function<void()> danach)
                      Textfeld(n.Nach)};
         const QString wer = QString::fromUtf8(n.Aufschrift).remove(':');
         for (QLineEdit *feld : {Plätze[p].Vor, Plätze[p].Nach})
-            feld->setMinimumWidth(140);
+            feld->setMinimumWidth(90);
         Plätze[p].Vor->setAccessibleName("Vorname " + wer);
         Plätze[p].Nach->setAccessibleName("Nachname " + wer);
     }
@@ -107,6 +105,7 @@ void LektorrenuswForm::Anordnen()
     }
     raster->setColumnStretch(5, 1);
     raster->setColumnStretch(6, 1);
+    raster->setRowStretch(static_cast<int>(Plätze.size()), 1);
 
     auto *unten = new QHBoxLayout;
     unten->addStretch();
@@ -115,9 +114,9 @@ void LektorrenuswForm::Anordnen()
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(18);
-    spalte->addLayout(raster);
-    spalte->addStretch();
+    spalte->addWidget(Rollbar(raster), 1);
     spalte->addLayout(unten);
+    GrößeAnpassen(this);
 }
 
 void LektorrenuswForm::Verbinden()
@@ -133,7 +132,7 @@ void LektorrenuswForm::Verbinden()
         });
     }
     for (std::size_t p = 0; p < Plätze.size(); ++p)
-        BeiFokusVerlust(Plätze[p].LH, Abgefangen([this, p] { KomboVerlassen(p); }));
+        BeiVerlassen(Plätze[p].LH, Abgefangen([this, p] { KomboVerlassen(p); }));
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
 }
 
@@ -142,16 +141,17 @@ void LektorrenuswForm::Füllen()
     const int i = Messe.Cursor;
     for (std::size_t art = 0; art < Zahlen.size(); ++art)
         ZahlSetzen(Zahlen[art].Feld, (*Zahlspalten()[art])[i]);
+    QStringList liste;
     for (int h = 0; h < Helfer.Anzahl; ++h)
-        for (const Platz &platz : Plätze)
-            platz.LH->addItem(Anzeige(Listenname(Helfer.Nachname[h], Helfer.Vorname[h])));
+        liste << Anzeige(Listenname(Helfer.Nachname[h], Helfer.Vorname[h]));
     for (std::size_t p = 0; p < Plätze.size(); ++p) {
         const Text &vor = Namen[p].VorFeld[i];
         const Text &nach = Namen[p].NachFeld[i];
         Setzen(Plätze[p].Vor, vor);
         Setzen(Plätze[p].Nach, nach);
-        const bool besetzt = !vor.empty() && !nach.empty();
-        Plätze[p].LH->setCurrentText(besetzt ? Anzeige(Listenname(nach, vor)) : QString());
+        if (!vor.empty() && !nach.empty())
+            Setzen(Plätze[p].LH, Listenname(nach, vor));
+        ListeSetzen(Plätze[p].LH, liste);
     }
 }
 
@@ -172,9 +172,9 @@ void LektorrenuswForm::ZahlGeändert(std::size_t art)
 void LektorrenuswForm::KomboVerlassen(std::size_t p)
 {
     const Platz &platz = Plätze[p];
-    const Text text = platz.LH->currentText().toStdString();
+    const Text text = TextVon(platz.LH);
     for (std::size_t q = 0; q < Plätze.size(); ++q) {
-        if (q == p || text.empty() || Plätze[q].LH->currentText().toStdString() != text)
+        if (q == p || text.empty() || TextVon(Plätze[q].LH) != text)
             continue;
         Meldungen.Zeigen("Meßhelfer ist schon dieser Messe zugeordnet!!!");
         return KomboZurück(platz);
@@ -189,7 +189,7 @@ void LektorrenuswForm::KomboVerlassen(std::size_t p)
 void LektorrenuswForm::KomboZurück(const Platz &platz)
 {
     const Text name = Listenname(TextVon(platz.Nach), TextVon(platz.Vor));
-    platz.LH->setCurrentText(name == "," ? QString() : Anzeige(name));
+    Setzen(platz.LH, name == "," ? Text() : name);
 }
 
 void LektorrenuswForm::NamenTeilen()
@@ -197,7 +197,7 @@ void LektorrenuswForm::NamenTeilen()
     for (const Platz &platz : Plätze) {
         Text nachname = TextVon(platz.Nach);
         Text vorname = TextVon(platz.Vor);
-        NameTeilen(platz.LH->currentText().toStdString(), nachname, vorname);
+        NameTeilen(TextVon(platz.LH), nachname, vorname);
         Setzen(platz.Nach, nachname);
         Setzen(platz.Vor, vorname);
     }
@@ -215,10 +215,13 @@ void LektorrenuswForm::Schreiben()
     }
 }
 
-/// A count that is no number keeps the dialog open, with the failure shown.
+/// A combo that has the focus is left first: whoever is chosen on the screen stands in the mass,
+/// whichever way the dialog closes. A count that is no number keeps it open, with the failure
+/// shown.
 void LektorrenuswForm::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->ignore();
+    Ende->setFocus();
     Offen([&] {
         Schreiben();
         ereignis->accept();
