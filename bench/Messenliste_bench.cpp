@@ -1,0 +1,57 @@
+// A step through the mass list, until the next mass stands on the screen, against a full repaint of
+// the same window.
+#include "Bestand.h"
+#include "Messung.h"
+
+#include "core/tables.h"
+#include "fenster/Anwendung.h"
+#include "planning/MessenlisteForm.h"
+
+#include <cstdlib>
+
+namespace altardienst {
+namespace {
+
+constexpr int Schritte = 299; // from the first of 300 masses to the last
+
+void MessenBesetzen()
+{
+    BestandFürZuweisung();
+    for (int i = 0; i < Messe.Anzahl; ++i) {
+        Messe.Dienerzahl[i] = 4 + i % 9; // each step shows or hides rows of slots
+        for (int slot = 1; slot <= Messe.Dienerzahl[i]; ++slot) {
+            const int j = (i * 12 + slot) % Meßdiener.Anzahl;
+            Messe.DienerVor[i][slot] = Meßdiener.Vorname[j];
+            Messe.DienerNach[i][slot] = Meßdiener.Nachname[j];
+        }
+    }
+    Messe.Cursor = 0;
+}
+
+} // namespace
+
+void MessungenAnmelden()
+{
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    static int argc = 1;
+    static char name[] = "bench_messenliste";
+    static char *argv[] = {name, nullptr};
+    static QApplication anwendung(argc, argv);
+    AnwendungEinrichten(anwendung);
+    MessenBesetzen();
+    static MessenlisteForm form;
+    form.show();
+    QApplication::processEvents();
+    MessungAnmelden({.Name = "Schritt in der Messenliste",
+                     .Maßstabname = "Fenster neu zeichnen",
+                     .Gemessen = {nullptr,
+                                  [] {
+                                      form.Wahl->Plus->click();
+                                      QApplication::processEvents();
+                                  }},
+                     .Maßstab = {nullptr, [] { form.repaint(); }},
+                     .Ziel = 3,
+                     .Durchläufe = Schritte});
+}
+
+} // namespace altardienst
