@@ -33,7 +33,7 @@ void Etikettenwahl::Anordnen()
 
     for (QLineEdit *feld : {Reih, Spal})
         feld->setFixedWidth(48);
-    auto *platz = new QHBoxLayout(Etik);
+    auto *platz = new QHBoxLayout;
     platz->addWidget(Beschriftung("ReihText", "Reihe :", Reih));
     platz->addWidget(Reih);
     platz->addWidget(ÄReih);
@@ -42,7 +42,9 @@ void Etikettenwahl::Anordnen()
     platz->addWidget(Spal);
     platz->addWidget(ÄSpal);
     platz->addStretch();
-    platz->addWidget(Etiketten);
+    auto *etik = new QVBoxLayout(Etik);
+    etik->addLayout(platz);
+    etik->addWidget(Etiketten, 0, Qt::AlignLeft);
 
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(0, 0, 0, 0);

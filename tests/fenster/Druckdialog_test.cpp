@@ -162,5 +162,12 @@ TEST_F(DruckdialogTest, AlleTexteSindDeutschUndTabFolgtDemAuge)
     EXPECT_EQ(Control("Kopien")->accessibleName(), "Kopien");
 }
 
+TEST_F(DruckdialogTest, PasstAufDenKleinstenBildschirm)
+{
+    Öffnen(ZweiFormen);
+    EXPECT_LE(dialog->width(), KleinsterBildschirm.width());
+    EXPECT_LE(dialog->height(), KleinsterBildschirm.height());
+}
+
 } // namespace
 } // namespace altardienst

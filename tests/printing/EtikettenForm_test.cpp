@@ -324,5 +324,12 @@ TEST_F(EtikettenFormTest, TabFolgtDemAugeUndKeinControlIstStumm)
     EXPECT_EQ(Stumme(form), std::vector<Text>{});
 }
 
+TEST_F(EtikettenFormTest, PasstAufDenKleinstenBildschirm)
+{
+    const QSize platz = Öffnen().size();
+    EXPECT_LE(platz.width(), KleinsterBildschirm.width());
+    EXPECT_LE(platz.height(), KleinsterBildschirm.height());
+}
+
 } // namespace
 } // namespace altardienst
