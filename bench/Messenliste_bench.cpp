@@ -36,10 +36,10 @@ void MessungenAnmelden()
     static int argc = 1;
     static char name[] = "bench_messenliste";
     static char *argv[] = {name, nullptr};
-    static QApplication anwendung(argc, argv);
-    AnwendungEinrichten(anwendung);
+    // Both outlive the exit: by then Qt has taken down what a shown window still refers to.
+    AnwendungEinrichten(*new QApplication(argc, argv));
     MessenBesetzen();
-    static MessenlisteForm form;
+    static MessenlisteForm &form = *new MessenlisteForm;
     form.show();
     QApplication::processEvents();
     MessungAnmelden({.Name = "Schritt in der Messenliste",
