@@ -12,6 +12,7 @@ struct GebietsschemaDienst {
     char Datumstrenner = '.';
     char Zeittrenner = ':';
     char Dezimaltrenner = ',';
+    char Tausendertrenner = '.';
 };
 
 extern GebietsschemaDienst Gebietsschema;
