@@ -1,0 +1,23 @@
+// The division of all figures.
+#pragma once
+
+#include "core/Laufzeitfehler.h"
+
+#include <concepts>
+
+namespace altardienst {
+
+/// Failure 11 if `nenner` is 0: figures of an empty table are not protected against it.
+template <std::floating_point F> F Geteilt(F zähler, F nenner)
+{
+    if (nenner == 0)
+        throw Laufzeitfehler(Laufzeitfehler::DivisionDurchNull);
+    return zähler / nenner;
+}
+
+inline double Geteilt(int zähler, int nenner)
+{
+    return Geteilt<double>(zähler, nenner);
+}
+
+} // namespace altardienst
