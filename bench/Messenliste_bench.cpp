@@ -7,6 +7,8 @@
 #include "fenster/Anwendung.h"
 #include "planning/MessenlisteForm.h"
 
+#include <QImage>
+
 #include <cstdlib>
 
 namespace altardienst {
@@ -26,6 +28,13 @@ void MessenBesetzen()
         }
     }
     Messe.Cursor = 0;
+}
+
+/// Every control once; `repaint` would leave out those with a background of their own.
+void AllesNeuZeichnen(QWidget &fenster)
+{
+    static QImage bild(fenster.size(), QImage::Format_ARGB32_Premultiplied);
+    fenster.render(&bild);
 }
 
 } // namespace
@@ -49,7 +58,7 @@ void MessungenAnmelden()
                                       form.Wahl->Plus->click();
                                       QApplication::processEvents();
                                   }},
-                     .Maßstab = {nullptr, [] { form.repaint(); }},
+                     .Maßstab = {nullptr, [] { AllesNeuZeichnen(form); }},
                      .Ziel = 3,
                      .Durchläufe = Schritte});
 }

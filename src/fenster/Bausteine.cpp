@@ -196,7 +196,9 @@ QPushButton *Plusknopf(const char *name, const char *gesprochen)
 
 void Setzen(QLineEdit *feld, const Text &text)
 {
-    feld->setText(Anzeige(text));
+    const QString neu = Anzeige(text);
+    if (feld->text() != neu) // records are filled in twice, and the second time costs nothing
+        feld->setText(neu);
 }
 
 void Setzen(QLabel *label, const Text &text)

@@ -185,14 +185,23 @@ void MessenlisteForm::DatumGeändert()
 
 void MessenlisteForm::DienerzahlGeändert()
 {
-    const int diener = Dienste.DienerzahlBegrenzen();
-    for (std::size_t k = 0; k < MDR.size(); ++k) {
-        const bool sichtbar = diener > static_cast<int>(k);
-        MDR[k]->setVisible(sichtbar);
-        vor[k]->setVisible(sichtbar);
-        nach[k]->setVisible(sichtbar);
-    }
+    ZeilenZeigen(Dienste.DienerzahlBegrenzen());
     Beschriften();
+}
+
+/// While a mass is filled in, its services lead the number of servers through many values; the rows
+/// follow the last one, since each that comes or goes moves everything else.
+void MessenlisteForm::ZeilenZeigen(int diener)
+{
+    if (füllt)
+        return;
+    QLayout *ordnung = MDR[0]->parentWidget()->layout();
+    ordnung->setEnabled(false); // once for all rows
+    for (std::size_t k = 0; k < MDR.size(); ++k)
+        for (QWidget *control : std::initializer_list<QWidget *>{MDR[k], vor[k], nach[k]})
+            control->setVisible(diener > static_cast<int>(k));
+    ordnung->setEnabled(true);
+    ordnung->invalidate();
 }
 
 void MessenlisteForm::Beschriften()
@@ -264,7 +273,10 @@ void MessenlisteForm::Zeigen(int i)
     Setzen(Termin.datendaten, KurzesDatum(Messe.Datum[i]));
     Setzen(Termin.Uhrwerk, LangeZeit(Messe.Uhrzeit[i]));
     Setzen(Messewesen, Messe.Messeart[i]);
+    füllt = true;
     Dienste.Zeigen(Messe, i);
+    füllt = false;
+    ZeilenZeigen(ZahlIn(Dienste.Dienerzahl.Feld));
     for (std::size_t k = 0; k < MDR.size(); ++k) {
         const int slot = static_cast<int>(k) + 1;
         Setzen(vor[k], Messe.DienerVor[i][slot]);

@@ -48,6 +48,7 @@ class MessenlisteForm : public QWidget {
     void Schritt(int richtung);
     void DatumGeändert();
     void DienerzahlGeändert();
+    void ZeilenZeigen(int diener);
     void Beschriften();
     void Löschen();
     void NeueMesse();
@@ -58,6 +59,8 @@ class MessenlisteForm : public QWidget {
     void Zeigen(int i);
     void Schreiben(int i);
     void AnzahlZeigen();
+
+    bool füllt = false;
 };
 
 } // namespace altardienst
