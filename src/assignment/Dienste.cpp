@@ -1,6 +1,7 @@
 // From the counts of a mass to the services of its slots.
 #include "assignment/Dienste.h"
 
+#include "core/SchleifenZähler.h"
 #include "core/tables.h"
 
 #include <algorithm>
@@ -40,10 +41,11 @@ void ErsteDreiSchreiben(Diensteschreiber &schreiber, int i)
 
 void DiensteVerteilen()
 {
-    for (int i = 0; i <= Messe.Anzahl; ++i)
+    Int16 &i = SchleifenZähler;
+    for (i = 0; i <= Messe.Anzahl; ++i)
         for (int k = 0; k <= MesseTabelle::HöchsterSlot; ++k)
             Messe.DienerDienst[i][k] = "Allgemein";
-    for (int i = 0; i <= Messe.Anzahl; ++i) {
+    for (i = 0; i <= Messe.Anzahl; ++i) {
         Diensteschreiber schreiber(i);
         ErsteDreiSchreiben(schreiber, i);
         schreiber.Schreiben("Weihrauch", std::min<int>(Messe.Weihrauch[i], HöchstensSonst));

@@ -1,6 +1,7 @@
 // Readers and writers of the eight data files.
 #include "core/Dateien.h"
 
+#include "core/SchleifenZähler.h"
 #include "core/tables.h"
 
 #include <algorithm>
@@ -11,14 +12,15 @@ namespace {
 template <class Tabelle, class Lesart>
 void DatensätzeLesen(Tabelle &tabelle, Zeilenleser &zeilen, Lesart feldleser)
 {
-    for (int i = 0; i <= Tabelle::HöchsterInDatei && !zeilen.AmEnde(); ++i)
-        FürJedesFeld(tabelle.Felder(), i, feldleser);
+    SchleifenZähler = 0;
+    for (; SchleifenZähler <= Tabelle::HöchsterInDatei && !zeilen.AmEnde(); ++SchleifenZähler)
+        FürJedesFeld(tabelle.Felder(), SchleifenZähler, feldleser);
 }
 
 template <class Tabelle> void DatensätzeSchreiben(Tabelle &tabelle, Feldschreiber schreiben)
 {
-    for (int i = 0; i <= Tabelle::HöchsterInDatei; ++i)
-        FürJedesFeld(tabelle.Felder(), i, schreiben);
+    for (SchleifenZähler = 0; SchleifenZähler <= Tabelle::HöchsterInDatei; ++SchleifenZähler)
+        FürJedesFeld(tabelle.Felder(), SchleifenZähler, schreiben);
 }
 
 /// Header lines: the record shown last and the number of records.
@@ -83,8 +85,8 @@ void HelferLesen(Zeilenleser &zeilen)
 {
     Feldleser lesen(zeilen);
     KopfLesen(Helfer, lesen);
-    for (int i = 0; i <= HelferTabelle::HöchsterInDatei; ++i)
-        FürJedesFeld(Helfer.Felder(), i, lesen);
+    for (SchleifenZähler = 0; SchleifenZähler <= HelferTabelle::HöchsterInDatei; ++SchleifenZähler)
+        FürJedesFeld(Helfer.Felder(), SchleifenZähler, lesen);
 }
 
 void EtikettLesen(Zeilenleser &zeilen)

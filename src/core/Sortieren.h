@@ -1,6 +1,7 @@
 // The adjacent-exchange sort of the sort commands, done on keys; each record moves once.
 #pragma once
 
+#include "core/SchleifenZähler.h"
 #include "core/Spalte.h"
 #include "core/Text.h"
 
@@ -52,8 +53,10 @@ template <class Schlüssel> std::vector<Sortierplatz> Plätze(const std::vector<
 inline void NachbarnTauschen(std::vector<Sortierplatz> &plätze, Sortierbereich bereich)
 {
     Sortierplatz *platz = plätze.data();
-    for (int i = 0; i < bereich.Durchgänge; ++i) {
-        const Sortierplatz *ende = platz + bereich.Vergleiche - (bereich.Schrumpfend ? i : 0);
+    for (SchleifenZähler = 0; SchleifenZähler < bereich.Durchgänge; ++SchleifenZähler) {
+        const Sortierplatz *ende = platz + bereich.Vergleiche;
+        if (bereich.Schrumpfend)
+            ende -= SchleifenZähler;
         for (Sortierplatz *p = platz; p < ende; ++p) {
             if (p[0].Rang <= p[1].Rang)
                 continue;

@@ -1,6 +1,8 @@
 // The one instance of each table.
 #include "core/tables.h"
 
+#include "core/SchleifenZähler.h"
+
 #include <memory>
 
 namespace altardienst {
@@ -13,6 +15,8 @@ GruppeTabelle Gruppe;
 HelferTabelle Helfer;
 EtikettTabelle Etikett;
 MesseDienerFestTabelle MesseDienerFest;
+
+Int16 SchleifenZähler;
 
 namespace {
 
@@ -35,6 +39,7 @@ void TabellenLeeren()
     NeuAnlegen(Helfer);
     NeuAnlegen(Etikett);
     NeuAnlegen(MesseDienerFest);
+    SchleifenZähler = 0;
 }
 
 } // namespace altardienst

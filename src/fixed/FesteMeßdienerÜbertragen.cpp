@@ -1,7 +1,9 @@
 // The carry of the fixed entries into the masses.
 #include "fixed/FesteMeßdienerÜbertragen.h"
 
+#include "core/SchleifenZähler.h"
 #include "core/tables.h"
+#include "platform/Meldungen.h"
 
 namespace altardienst {
 
@@ -10,7 +12,8 @@ bool FesteZuordnungOffen = false;
 void FesteMeßdienerÜbertragen()
 {
     constexpr int HöchsterÜbertragener = 200; // entries above it are never carried
-    for (int m = 0; m <= Messe.Anzahl; ++m) {
+    Int16 &m = SchleifenZähler;
+    for (m = 0; m <= Messe.Anzahl; ++m) {
         for (int r = 0; r <= HöchsterÜbertragener; ++r) {
             if (MesseDienerFest.Datum[r] != Messe.Datum[m] ||
                 MesseDienerFest.Uhrzeit[r] != Messe.Uhrzeit[m])
@@ -25,6 +28,12 @@ void FesteMeßdienerÜbertragen()
             }
         }
     }
+}
+
+void ÜbertragenAufWunsch()
+{
+    if (Meldungen.Fragen("Übertragen in die Messenliste?", "Meßdiener zu Messen"))
+        FesteMeßdienerÜbertragen();
 }
 
 } // namespace altardienst

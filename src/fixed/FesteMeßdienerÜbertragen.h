@@ -11,4 +11,7 @@ extern bool FesteZuordnungOffen;
 /// later entry wins slot by slot; empty slots of an entry leave the mass as it is.
 void FesteMeßdienerÜbertragen();
 
+/// What both dialogs of the fixed entries do last: asks whether to carry, and does it on Ja.
+void ÜbertragenAufWunsch();
+
 } // namespace altardienst
