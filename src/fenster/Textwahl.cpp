@@ -3,7 +3,9 @@
 
 #include "fenster/Bausteine.h"
 
+#include <QEvent>
 #include <QSignalBlocker>
+#include <QStringListModel>
 
 namespace altardienst {
 namespace {
@@ -18,6 +20,20 @@ void EintragAngleichen(QComboBox *wahl)
     wahl->setEditText(text);
 }
 
+/// The wheel scrolls the window: passing over a box, it would choose another entry.
+class Radsperre : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *, QEvent *ereignis) override
+    {
+        if (ereignis->type() != QEvent::Wheel)
+            return false;
+        ereignis->ignore();
+        return true;
+    }
+};
+
 } // namespace
 
 QComboBox *Textwahl(const char *name, const char *gesprochen)
@@ -29,6 +45,8 @@ QComboBox *Textwahl(const char *name, const char *gesprochen)
     for (QWidget *control : std::initializer_list<QWidget *>{wahl, wahl->lineEdit()})
         control->setAccessibleName(QString::fromUtf8(gesprochen));
     wahl->setInsertPolicy(QComboBox::NoInsert);
+    wahl->setFocusPolicy(Qt::StrongFocus);
+    wahl->installEventFilter(new Radsperre(wahl));
     return wahl;
 }
 
@@ -40,6 +58,18 @@ void ListeSetzen(QComboBox *wahl, const QStringList &liste)
     wahl->addItems(liste);
     wahl->setCurrentIndex(-1);
     wahl->setEditText(text);
+}
+
+void ListeTeilen(const std::vector<QComboBox *> &wahlen, const QStringList &liste)
+{
+    auto *modell = new QStringListModel(liste, wahlen.front()->window());
+    for (QComboBox *wahl : wahlen) {
+        const QString text = wahl->currentText();
+        const QSignalBlocker still(wahl);
+        wahl->setModel(modell);
+        wahl->setCurrentIndex(-1);
+        wahl->setEditText(text);
+    }
 }
 
 Text TextVon(const QComboBox *wahl)

@@ -6,6 +6,7 @@
 #include <QComboBox>
 
 #include <functional>
+#include <vector>
 
 namespace altardienst {
 
@@ -16,6 +17,9 @@ QComboBox *Textwahl(const char *name, const char *gesprochen);
 
 /// The list anew; the text stays.
 void ListeSetzen(QComboBox *wahl, const QStringList &liste);
+
+/// One long list that several boxes of a window have in common; their texts stay.
+void ListeTeilen(const std::vector<QComboBox *> &wahlen, const QStringList &liste);
 
 Text TextVon(const QComboBox *wahl);
 void Setzen(QComboBox *wahl, const Text &text);

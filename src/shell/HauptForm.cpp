@@ -10,6 +10,8 @@
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Handler.h"
+#include "fixed/MesseDienerFestForm.h"
+#include "fixed/NeuMesseDienerFestForm.h"
 #include "people/GruppeForm.h"
 #include "people/HelferForm.h"
 #include "people/MeßdienerForm.h"
@@ -179,7 +181,8 @@ void HauptForm::MenüDaten()
             [] { DialogÖffnen(new StandardmessenForm); });
     Eintrag(daten, "mnuHelfer", "&Helfer", [] { DialogÖffnen(new HelferForm); });
     Eintrag(daten, "mnuMeßdiener", "&Meßdiener", [] { DialogÖffnen(new MeßdienerForm); });
-    Eintrag(daten, "MnuMESSDIENZUMESS", "Meßdiener &zu Messen", NochNicht);
+    Eintrag(daten, "MnuMESSDIENZUMESS", "Meßdiener &zu Messen",
+            [] { DialogÖffnen(MesseDienerFestForm::Offene()); });
     Eintrag(daten, "mnuMessen", "M&essen", [] { DialogÖffnen(new MessenlisteForm); });
     Trennstrich(daten, "mnuFileBar6");
     Eintrag(daten, "mnuJubGeb", "&Jubiläen und Geburtstage", NochNicht);
@@ -273,7 +276,7 @@ void HauptForm::Verbinden()
         // The one case in which the main window stays enabled behind a dialog.
         DialogDanebenÖffnen(new MessenlisteForm);
     });
-    schritt(Meßdienernern, NochNicht);
+    schritt(Meßdienernern, [] { DialogÖffnen(new NeuMesseDienerFestForm); });
     schritt(Dienstus, MessenMitMeßdienerBesetzen);
     schritt(MeßdienerMessen, WunschpartnerBerücksichtigen);
     schritt(Helfend, MessenMitMessehelferBesetzen);

@@ -1,0 +1,224 @@
+// Servers and groups fixed to particular masses, one entry at a time.
+#include "fixed/MesseDienerFestForm.h"
+
+#include "assignment/Dienste.h"
+#include "core/Umwandlung.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "fenster/Vordergrund.h"
+#include "fenster/Zahlbox.h"
+#include "fixed/FesteEinträge.h"
+#include "fixed/FesteMeßdienerÜbertragen.h"
+#include "fixed/NeuMesseDienerFestForm.h"
+#include "platform/Meldungen.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QPointer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace altardienst {
+namespace {
+
+constexpr int HöchsteNummer = 200; // as many entries as the dialog for new ones lets in
+constexpr int PlusBis = 600;       // above it `Plus` shows no next entry
+
+QPointer<MesseDienerFestForm> offene;
+
+} // namespace
+
+MesseDienerFestForm::MesseDienerFestForm()
+    : Wahl(new Datensatzwahl({"Index", "Plus", "Minus", "DatensatzWechsel"})),
+      MaxIndex(Beschriftung("MaxIndex", "")),
+      Felder({.Leereintrag = true,
+              .Dienerzahl = [] {
+    return MesseDienerFest.Index[MesseDienerFest.Cursor]; },
+              .DienerzahlAblegen =
+                  [this](Int16 zahl) {
+    MesseDienerFest.Index[ZahlIn(Wahl->Nummer)] = zahl; },
+              .Dienste = []() -> auto & { return MesseDienerFest.Dienst[MesseDienerFest.Cursor];
+} // namespace altardienst
+}),
+      Hinzu(Knopf("Hinzu", "Datensatz hinzufügen")), Löschen(Knopf("Löschen", "Datensatz löschen")),
+      OKbutton(Knopf("OKbutton", "OK"))
+{
+    Benannt(this, "MesseDienerFest");
+    setWindowTitle("Meßdiener fest zu einer Messe zuordnen");
+    offene = this;
+    Anordnen();
+    Verbinden();
+    Abgefangen([this] {
+        DiensteVerteilen();
+        Felder.ListenFüllen();
+        Aufschlagen();
+    })();
+}
+
+MesseDienerFestForm *MesseDienerFestForm::Offene()
+{
+    if (!FesteZuordnungOffen || !offene)
+        return new MesseDienerFestForm;
+    offene->setEnabled(true);
+    offene->setWindowState(offene->windowState() & ~Qt::WindowMinimized);
+    return offene;
+}
+
+void MesseDienerFestForm::Zurück()
+{
+    if (!FesteZuordnungOffen || !offene)
+        return;
+    offene->setEnabled(true);
+    offene->showMaximized();
+    offene->activateWindow();
+}
+
+void MesseDienerFestForm::Anordnen()
+{
+    auto *kopf = new QHBoxLayout;
+    kopf->addWidget(Wahl);
+    kopf->addSpacing(24);
+    kopf->addWidget(Beschriftung("", "Anzahl Datensätze:"));
+    kopf->addWidget(MaxIndex);
+    kopf->addStretch();
+
+    auto *unten = new QHBoxLayout;
+    for (QPushButton *knopf : {Hinzu, Löschen})
+        unten->addWidget(knopf);
+    unten->addStretch();
+    OKbutton->setMinimumWidth(110);
+    unten->addWidget(OKbutton);
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(16, 16, 16, 16);
+    spalte->setSpacing(12);
+    spalte->addLayout(kopf);
+    spalte->addLayout(Felder.Messenzeile());
+    spalte->addWidget(Rollbar(Felder.Slotzeilen()), 1);
+    spalte->addLayout(unten);
+    GrößeAnpassen(this); // with all rows of slots
+    Wahl->Nummer->setFocus();
+}
+
+void MesseDienerFestForm::Verbinden()
+{
+    Wahl->BeiWechsel(Abgefangen([this] { NummerGeändert(); }));
+    Wahl->BeiSchritt([this](int richtung) { Abgefangen([&] { Schritt(richtung); })(); });
+    Wahl->DPM->BeiAb(Abgefangen([this] { Wechseln(-1); }));
+    Wahl->DPM->BeiAuf(Abgefangen([this] { Wechseln(+1); }));
+    Felder.Verbinden();
+    connect(Hinzu, &QPushButton::clicked, this, [this] { Hinzufügen(); });
+    connect(Löschen, &QPushButton::clicked, this, Abgefangen([this] { EintragLöschen(); }));
+    connect(OKbutton, &QPushButton::clicked, this, Abgefangen([this] {
+                Speichern();
+                close();
+            }));
+    BeiRückkehr(this, Abgefangen([this] { Aufschlagen(); }));
+}
+
+/// The entry shown last, with the counts of the masses as they are now.
+void MesseDienerFestForm::Aufschlagen()
+{
+    FesteZuordnungOffen = true;
+    DienerzahlenBestimmen();
+    MesseDienerFest.Cursor = std::clamp<int>(MesseDienerFest.Cursor, 0, MesseDienerFest.Anzahl);
+    ZahlSetzen(Wahl->Nummer, MesseDienerFest.Cursor);
+    Felder.Zeigen(MesseDienerFest.Cursor);
+    Felder.DatumUhrzeitAngleichen();
+    Zeigen();
+}
+
+/// `Messen` takes the date and time of the entry that is left, and keeps them: only the buttons and
+/// keys bring it in line with the new one.
+void MesseDienerFestForm::NummerGeändert()
+{
+    Felder.DatumUhrzeitAngleichen();
+    const int höchste = std::min<int>(MesseDienerFest.Anzahl, HöchsteNummer);
+    MesseDienerFest.Cursor = Begrenzen(Wahl->Nummer, 0, höchste);
+    Felder.Zeigen(MesseDienerFest.Cursor);
+    Zeigen();
+}
+
+/// By key the focus moves too, so that the box being filled in is left before it is written.
+void MesseDienerFestForm::Schritt(int richtung)
+{
+    if (!Wahl->isAncestorOf(focusWidget()))
+        Wahl->Nummer->setFocus();
+    Felder.DatumUhrzeitAngleichen();
+    Felder.Schreiben(MesseDienerFest.Cursor);
+    const bool leer = Wahl->Nummer->text().isEmpty();
+    const int nummer = leer ? 0 : ZahlIn(Wahl->Nummer);
+    if (richtung > 0 ? nummer < PlusBis : nummer > 0)
+        Felder.Zeigen(MesseDienerFest.Cursor + richtung);
+    if (leer)
+        ZahlSetzen(Wahl->Nummer, 0);
+    Felder.DatumUhrzeitAngleichen();
+    ZahlSetzen(Wahl->Nummer, Int16(ZahlIn(Wahl->Nummer)) + richtung);
+    Felder.DatumUhrzeitAngleichen();
+    Felder.DienstBeschriftungSetzen();
+    Felder.MeßdienerZeilenEinblenden();
+}
+
+/// The spin button leaves all else to the change of the number.
+void MesseDienerFestForm::Wechseln(int richtung)
+{
+    Felder.DatumUhrzeitAngleichen();
+    Felder.Schreiben(MesseDienerFest.Cursor);
+    ZahlSetzen(Wahl->Nummer, Int16(ZahlIn(Wahl->Nummer)) + richtung);
+}
+
+void MesseDienerFestForm::Hinzufügen()
+{
+    setEnabled(false);
+    showMinimized();
+    DialogDanebenÖffnen(new NeuMesseDienerFestForm);
+}
+
+void MesseDienerFestForm::EintragLöschen()
+{
+    if (MesseDienerFest.Anzahl < 2 ||
+        !Meldungen.Fragen("Wirklich?", "Löschen der Zuordnung Meßdiener Messe"))
+        return;
+    FestenEintragLöschen(ZahlIn(Wahl->Nummer));
+    if (ZahlIn(Wahl->Nummer) > MesseDienerFest.Anzahl)
+        ZahlSetzen(Wahl->Nummer, MesseDienerFest.Anzahl);
+    MesseDienerFest.Cursor = ZahlIn(Wahl->Nummer);
+    Felder.Zeigen(MesseDienerFest.Cursor);
+    Zeigen();
+}
+
+void MesseDienerFestForm::Speichern()
+{
+    Felder.Übernehmen();
+    Felder.DatumUhrzeitAngleichen();
+    Felder.Schreiben(MesseDienerFest.Cursor);
+    gespeichert = true;
+}
+
+/// What follows from the date, the time and the names on the screen.
+void MesseDienerFestForm::Zeigen()
+{
+    Felder.NamenZeigen();
+    Felder.DienstBeschriftungSetzen();
+    Felder.MeßdienerZeilenEinblenden();
+    Setzen(MaxIndex, ZahlText(MesseDienerFest.Anzahl));
+}
+
+/// The window's own close presses `OKbutton`; an entry that cannot be stored does not hold it up.
+void MesseDienerFestForm::closeEvent(QCloseEvent *ereignis)
+{
+    if (!gespeichert) {
+        OKbutton->setFocus(); // the box being filled in is left
+        Abgefangen([this] { Speichern(); })();
+    }
+    Felder.Stilllegen();
+    hide();
+    FesteZuordnungOffen = false;
+    Abgefangen(ÜbertragenAufWunsch)();
+    ereignis->accept();
+    HauptfensterZurück();
+}
+
+} // namespace altardienst

@@ -1,0 +1,46 @@
+// Servers and groups fixed to particular masses, one entry at a time.
+#pragma once
+
+#include "fenster/Datensatzwahl.h"
+#include "fixed/Zuordnungsfelder.h"
+
+namespace altardienst {
+
+/// There is one at most, which the dialog for a new entry comes back to. All handlers are trapped.
+class MesseDienerFestForm : public QWidget {
+  public:
+    /// The one that is open, enabled again, or a new one.
+    static MesseDienerFestForm *Offene();
+
+    /// Brings back the one that is open, if there is one.
+    static void Zurück();
+
+    Datensatzwahl *Wahl; // Index, Plus, Minus, DatensatzWechsel
+    QLabel *MaxIndex;
+    Zuordnungsfelder Felder; // Messen, DatumD, Zeitd, ME1 to 20, MDiener1 to 20 and their names
+    QPushButton *Hinzu;
+    QPushButton *Löschen;
+    QPushButton *OKbutton;
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    MesseDienerFestForm();
+    void Anordnen();
+    void Verbinden();
+
+    void Aufschlagen();
+    void NummerGeändert();
+    void Schritt(int richtung);
+    void Wechseln(int richtung);
+    void Hinzufügen();
+    void EintragLöschen();
+    void Speichern();
+
+    void Zeigen();
+
+    bool gespeichert = false; // `OKbutton` has done its work
+};
+
+} // namespace altardienst

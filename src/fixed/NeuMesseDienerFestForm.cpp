@@ -1,0 +1,115 @@
+// The dialog that adds a fixed entry.
+#include "fixed/NeuMesseDienerFestForm.h"
+
+#include "assignment/Dienste.h"
+#include "core/Umwandlung.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "fixed/FesteEinträge.h"
+#include "fixed/FesteMeßdienerÜbertragen.h"
+#include "fixed/MesseDienerFestForm.h"
+#include "platform/Meldungen.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+constexpr int MeisteEinträge = 200;
+
+} // namespace
+
+NeuMesseDienerFestForm::NeuMesseDienerFestForm()
+    : Felder({.Leereintrag = false,
+              .Dienerzahl = [this] {
+    return DienerAnzahl; },
+              .DienerzahlAblegen = [this](Int16 zahl) {
+    DienerAnzahl = zahl; },
+              .Dienste = [this]() -> auto & { return Dienste;
+} // namespace altardienst
+}),
+      Anfügen(Knopf("Anfügen", "Anfügen")), Abrechen(Knopf("Abrechen", "Abbrechen"))
+{
+    Benannt(this, "NeuMesseDienerFest");
+    setWindowTitle("Meßdiener Messe zuordnen");
+    Anordnen();
+    Verbinden();
+    Abgefangen([this] {
+        DiensteVerteilen();
+        Felder.MeßdienerZeilenEinblenden();
+        Felder.ListenFüllen();
+        Vorschlagen();
+    })();
+}
+
+void NeuMesseDienerFestForm::Anordnen()
+{
+    auto *unten = new QHBoxLayout;
+    unten->addStretch();
+    for (QPushButton *knopf : {Anfügen, Abrechen}) {
+        knopf->setMinimumWidth(110);
+        unten->addWidget(knopf);
+    }
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(16, 16, 16, 16);
+    spalte->setSpacing(12);
+    spalte->addLayout(Felder.Messenzeile());
+    spalte->addWidget(Rollbar(Felder.Slotzeilen()), 1);
+    spalte->addLayout(unten);
+    GrößeAnpassen(this); // with all rows of slots
+    Felder.Messen->setFocus();
+}
+
+void NeuMesseDienerFestForm::Verbinden()
+{
+    Felder.Verbinden();
+    connect(Anfügen, &QPushButton::clicked, this, Abgefangen([this] { EintragAnfügen(); }));
+    connect(Abrechen, &QPushButton::clicked, this, [this] { close(); });
+}
+
+/// The first mass; without masses its empty date shows as "00:00:00".
+void NeuMesseDienerFestForm::Vorschlagen()
+{
+    DienerAnzahl = Messe.Dienerzahl[0];
+    Setzen(Felder.DatumD, DatumText(Messe.Datum[0]));
+    Setzen(Felder.Zeitd, DatumText(Messe.Uhrzeit[0]));
+    Felder.MesseZeigen();
+    Felder.MesseDiensteHolen();
+    Felder.MeßdienerZeilenEinblenden();
+}
+
+void NeuMesseDienerFestForm::EintragAnfügen()
+{
+    if (Felder.Messen->currentText().isEmpty())
+        return Meldungen.Zeigen("Kein korrekter Datensatz!!");
+    const int i = MesseDienerFest.Anzahl;
+    // With no entry yet, date and time are not even read.
+    if (i >= 1 &&
+        HatFestenEintrag(DatumLesen(TextVon(Felder.DatumD)), DatumLesen(TextVon(Felder.Zeitd))))
+        return Meldungen.Zeigen("Lege keinen doppelten Datensatz an");
+    if (i >= MeisteEinträge)
+        return;
+    Felder.DatumUhrzeitAngleichen();
+    Felder.Schreiben(i);
+    for (int slot = 1; slot <= MesseDienerFestTabelle::HöchsterSlot; ++slot)
+        MesseDienerFest.Dienst[i][slot] = Dienste[slot];
+    Felder.ZeilenLeeren(0);
+    DienerAnzahl = 0;
+    Felder.MeßdienerZeilenEinblenden();
+    ++MesseDienerFest.Anzahl;
+    Vorschlagen();
+}
+
+void NeuMesseDienerFestForm::closeEvent(QCloseEvent *ereignis)
+{
+    Felder.Stilllegen();
+    Abgefangen(ÜbertragenAufWunsch)();
+    ereignis->accept();
+    HauptfensterZurück();
+    MesseDienerFestForm::Zurück();
+}
+
+} // namespace altardienst

@@ -1,0 +1,34 @@
+// The dialog that adds a fixed entry.
+#pragma once
+
+#include "fixed/Zuordnungsfelder.h"
+
+#include <QPushButton>
+#include <QWidget>
+
+namespace altardienst {
+
+/// Stays open after each new entry, with the first mass as its proposal. All handlers are trapped.
+class NeuMesseDienerFestForm : public QWidget {
+  public:
+    NeuMesseDienerFestForm();
+
+    Zuordnungsfelder Felder; // Messen, DatumD, Zeitd, ME1 to 20, MDiener1 to 20 and their names
+    QPushButton *Anfügen;
+    QPushButton *Abrechen;
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void Anordnen();
+    void Verbinden();
+
+    void Vorschlagen();
+    void EintragAnfügen();
+
+    Int16 DienerAnzahl;                    // servers of the chosen mass
+    Zuordnungsfelder::Dienstnamen Dienste; // and their services
+};
+
+} // namespace altardienst
