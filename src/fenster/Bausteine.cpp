@@ -38,7 +38,11 @@ class Ereignisfilter : public QObject {
 /// Wants as much room as its content, unlike its base.
 class Rollfläche : public QScrollArea {
   public:
-    QSize sizeHint() const override { return widget()->sizeHint(); }
+    QSize sizeHint() const override
+    {
+        constexpr QSize Rundung(2, 2); // some controls grow by a pixel when they are shown
+        return widget()->sizeHint() + Rundung;
+    }
 };
 
 /// As a file gives it back: one line of Windows-1252. A line break that was pasted would move all
@@ -222,6 +226,8 @@ QWidget *Rollbar(QLayout *inhalt)
 void GrößeAnpassen(QWidget *fenster)
 {
     constexpr QSize Rahmen(16, 40); // about what frame and title bar take
+    for (QWidget *control : fenster->findChildren<QWidget *>())
+        control->ensurePolished(); // the style sheet makes some of them larger
     fenster->resize(fenster->sizeHint().boundedTo(fenster->screen()->availableSize() - Rahmen));
 }
 

@@ -51,6 +51,7 @@ DruckForm::DruckForm()
     Anordnen();
     Verbinden();
     Offen([this] { Öffnen(); })();
+    GrößeAnpassen(this); // with the names of the groups and formats
 }
 
 void DruckForm::Anordnen()
@@ -73,7 +74,7 @@ void DruckForm::Anordnen()
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(16, 16, 16, 16);
     spalte->setSpacing(12);
-    spalte->addLayout(oben, 1);
+    spalte->addWidget(Rollbar(oben), 1);
     spalte->addLayout(unten);
     Messendruck->setFocus();
 }

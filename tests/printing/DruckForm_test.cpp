@@ -3,6 +3,8 @@
 
 #include "fenster/Anwendung.h"
 
+#include <QScrollBar>
+
 #include <algorithm>
 #include <map>
 
@@ -280,6 +282,20 @@ TEST_F(DruckFormTest, TabFolgtDemAugeUndKeinControlIstStumm)
                                      "EtikGross",
                                      "Ende"}));
     EXPECT_EQ(Stumme(form), Liste{});
+}
+
+TEST_F(DruckFormTest, AufDemKleinstenBildschirmRolltDerInhalt)
+{
+    Öffnen();
+    EXPECT_LE(form->minimumSizeHint().width(), KleinsterBildschirm.width());
+    EXPECT_LE(form->minimumSizeHint().height(), KleinsterBildschirm.height());
+}
+
+TEST_F(DruckFormTest, WoPlatzIstGibtEsKeineRollbalken)
+{
+    Öffnen();
+    for (QScrollBar *balken : form->findChildren<QScrollBar *>())
+        EXPECT_FALSE(balken->isVisible());
 }
 
 } // namespace
