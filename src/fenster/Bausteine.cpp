@@ -9,6 +9,8 @@
 #include <QScreen>
 #include <QScrollArea>
 
+#include <utility>
+
 namespace altardienst {
 namespace {
 
@@ -40,7 +42,7 @@ class Rollfläche : public QScrollArea {
   public:
     QSize sizeHint() const override
     {
-        constexpr QSize Rundung(2, 2); // some controls grow by a pixel when they are shown
+        constexpr QSize Rundung(4, 4); // some controls grow by a pixel or two when they are drawn
         return widget()->sizeHint() + Rundung;
     }
 };
@@ -225,10 +227,20 @@ QWidget *Rollbar(QLayout *inhalt)
 
 void GrößeAnpassen(QWidget *fenster)
 {
-    constexpr QSize Rahmen(16, 40); // about what frame and title bar take
-    for (QWidget *control : fenster->findChildren<QWidget *>())
-        control->ensurePolished(); // the style sheet makes some of them larger
-    fenster->resize(fenster->sizeHint().boundedTo(fenster->screen()->availableSize() - Rahmen));
+    const auto anpassen = [fenster] {
+        constexpr QSize Rahmen(16, 40); // about what frame and title bar take
+        for (QScrollArea *fläche : fenster->findChildren<QScrollArea *>())
+            fläche->updateGeometry(); // it doesn't follow its content by itself
+        fenster->resize(fenster->sizeHint().boundedTo(fenster->screen()->availableSize() - Rahmen));
+    };
+    anpassen();
+    // Some controls know their size only once they are shown.
+    new Ereignisfilter(
+        fenster,
+        [erstes = true](QEvent *ereignis) mutable {
+            return ereignis->type() == QEvent::Show && std::exchange(erstes, false);
+        },
+        anpassen);
 }
 
 } // namespace altardienst
