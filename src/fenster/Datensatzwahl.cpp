@@ -11,14 +11,15 @@ namespace altardienst {
 Datensatzwahl::Datensatzwahl(const Datensatznamen &namen)
     : Nummer(Textfeld(namen.Nummer)), Minus(Minusknopf(namen.Minus, "voriger Datensatz")),
       Plus(Plusknopf(namen.Plus, "nächster Datensatz")),
-      DPM(new SpinButton(namen.DPM, "Datensatz wechseln"))
+      DPM(namen.DPM ? new SpinButton(namen.DPM, "Datensatz wechseln") : nullptr)
 {
     Nummer->setAccessibleName("Nummer des Datensatzes");
     Nummer->setFixedWidth(64);
     auto *reihe = new QHBoxLayout(this);
     reihe->setContentsMargins(0, 0, 0, 0);
     for (QWidget *control : std::initializer_list<QWidget *>{Nummer, DPM, Minus, Plus})
-        reihe->addWidget(control);
+        if (control)
+            reihe->addWidget(control);
     reihe->addStretch();
 }
 

@@ -12,12 +12,12 @@
 
 namespace altardienst {
 
-/// The names of the four controls, which differ from form to form.
+/// The names of the controls, which differ from form to form.
 struct Datensatznamen {
     const char *Nummer;
     const char *Plus;
     const char *Minus;
-    const char *DPM;
+    const char *DPM = nullptr; // the spin button, which not every form has
 };
 
 /// Lays its controls out in a row. What a move writes and shows is the form's affair.
@@ -28,7 +28,7 @@ class Datensatzwahl : public QWidget {
     QLineEdit *Nummer;
     QPushButton *Minus;
     QPushButton *Plus;
-    SpinButton *DPM;
+    SpinButton *DPM; // null without a name
 
     /// Runs with +1 on `Plus`, the up event of `DPM` and Page Up, with -1 on their counterparts.
     /// The keys work in the whole window of the form.
