@@ -30,10 +30,11 @@ void BerichtDrucken(const Druckanfrage &anfrage, const std::function<void(int mo
     }
 }
 
-void BerichtEröffnen(const std::vector<Text> &titel)
+void BerichtEröffnen(const std::vector<Text> &titel, Titelschrift schrift)
 {
     Drucker->FontSize(Konfig.Überschriftgröße);
-    Drucker->FontName(Konfig.Schriftart);
+    if (schrift == Titelschrift::AusKonfig)
+        Drucker->FontName(Konfig.Schriftart);
     Drucker->FontBold(true);
     Drucker->FontItalic(false);
     Drucker->FontStrikethru(false);

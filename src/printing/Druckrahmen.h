@@ -18,9 +18,13 @@ Single UntereGrenze();
 /// a failure during the report stops it at once, without a message and without output.
 void BerichtDrucken(const Druckanfrage &anfrage, const std::function<void(int modus)> &bericht);
 
+/// Which font a report begins with: the one of the settings, or the one that the printer has.
+enum class Titelschrift { AusKonfig, Vorige };
+
 /// The opening of a report: its title lines in the heading font, underlined and bold, an empty
 /// line, then the body font.
-void BerichtEröffnen(const std::vector<Text> &titel);
+void BerichtEröffnen(const std::vector<Text> &titel,
+                     Titelschrift schrift = Titelschrift::AusKonfig);
 
 /// The body font without attributes, as labels are printed.
 void Grundschrift();

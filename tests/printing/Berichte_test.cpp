@@ -1,4 +1,5 @@
 // What holds for every report alike: cancel, and a printer error at any of its operations.
+#include "anniversaries/JubiGebuDruck.h"
 #include "printing/Druckstand.h"
 #include "printing/Erfassungsbogen.h"
 #include "printing/Etikettendruck.h"
@@ -22,6 +23,18 @@ void Etikettenlauf()
     EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
 }
 
+void Geburtstagslauf()
+{
+    GeburtstageSuchen(Gruppende::Alle, 12);
+    GeburtstageDrucken(Gruppende::Alle, 12);
+}
+
+void Jubiläumslauf()
+{
+    JubiläenSuchen(15);
+    JubiläenDrucken(15);
+}
+
 const Bericht Berichte[] = {
     {"Plan", 0, PlanDrucken},
     {"Helferbogen", 1, PlanDrucken},
@@ -37,6 +50,8 @@ const Bericht Berichte[] = {
     {"BogenHelfer", 0, [] { ErfassungsbogenHelferDrucken("1", "2"); }},
     {"Etikettenformate", 0, EtikettengrößenDrucken},
     {"Etiketten", 0, Etikettenlauf},
+    {"Geburtstage", 0, Geburtstagslauf},
+    {"Mitgliedsjahre", 0, Jubiläumslauf},
 };
 
 class BerichteTest : public Druckstand, public ::testing::WithParamInterface<Bericht> {
