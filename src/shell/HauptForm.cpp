@@ -1,6 +1,7 @@
 // The main window: the seven steps of making a plan, the menu, the clock and the picture.
 #include "shell/HauptForm.h"
 
+#include "anniversaries/JubiGebuForm.h"
 #include "assignment/Dienste.h"
 #include "assignment/Zuweisungsrahmen.h"
 #include "core/Allgemein.h"
@@ -185,7 +186,8 @@ void HauptForm::MenüDaten()
             [] { DialogÖffnen(MesseDienerFestForm::Offene()); });
     Eintrag(daten, "mnuMessen", "M&essen", [] { DialogÖffnen(new MessenlisteForm); });
     Trennstrich(daten, "mnuFileBar6");
-    Eintrag(daten, "mnuJubGeb", "&Jubiläen und Geburtstage", NochNicht);
+    Eintrag(daten, "mnuJubGeb", "&Jubiläen und Geburtstage",
+            [] { DialogÖffnen(new JubiGebuForm); });
 
     QMenu *diener = Menü(daten, "mnuStatistiken", "S&tatistik Meßdiener");
     Eintrag(diener, "mnuStatistik", "Meßdiener &allgemein", NochNicht);

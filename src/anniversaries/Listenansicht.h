@@ -1,0 +1,53 @@
+// A window that shows the rows of a list one by one; nothing in it can be changed.
+#pragma once
+
+#include "core/tables.h"
+#include "fenster/Datensatzwahl.h"
+
+#include <functional>
+
+namespace altardienst {
+
+/// What a row shows.
+struct Listenzeile {
+    Text Name;
+    Datum Tag;
+    Int16 Jahre;
+    Text Telefon;
+};
+
+/// The words of a window.
+struct Listenworte {
+    const char *Fenster; // its object name
+    const char *Titel;
+    const char *Tag;
+    const char *Jahre;
+};
+
+/// Stands in front of the form that opened it, which waits until it is closed.
+class Listenansicht : public QWidget {
+  public:
+    /// The number box goes from 0 to `anzahl`, where the blank row behind the last one shows.
+    Listenansicht(const Listenworte &worte, int anzahl,
+                  std::function<Listenzeile(int)> zeileDerListe);
+
+    Datensatzwahl *Wahl; // Nu, Plus, Minus
+    QLabel *Letzter;     // of the index
+    QLabel *Datensätze;  // their number
+    QLineEdit *Name;
+    QLineEdit *Tag;
+    QLineEdit *Jahre;
+    QLineEdit *Telefon;
+    QPushButton *Ende;
+
+  private:
+    void Anordnen(const Listenworte &worte);
+    void Verbinden();
+    void NummerGeändert();
+    void Zeigen(const Listenzeile &zeile);
+
+    int anzahl;
+    std::function<Listenzeile(int)> zeileDerListe;
+};
+
+} // namespace altardienst
