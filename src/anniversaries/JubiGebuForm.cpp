@@ -38,6 +38,7 @@ QGroupBox *Rahmen(const char *name, const char *titel, const QButtonGroup *wahl,
 {
     auto *rahmen = Benannt(new QGroupBox(QString::fromUtf8(titel)), name);
     auto *raster = new QGridLayout(rahmen);
+    raster->setContentsMargins(8, 4, 8, 4);
     raster->setVerticalSpacing(2);
     int n = 0;
     for (QAbstractButton *option : wahl->buttons()) {
@@ -45,14 +46,6 @@ QGroupBox *Rahmen(const char *name, const char *titel, const QButtonGroup *wahl,
         ++n;
     }
     return rahmen;
-}
-
-QHBoxLayout *Nebeneinander(std::initializer_list<QWidget *> controls)
-{
-    auto *reihe = new QHBoxLayout;
-    for (QWidget *control : controls)
-        reihe->addWidget(control);
-    return reihe;
 }
 
 } // namespace
@@ -106,19 +99,51 @@ JubiGebuForm::JubiGebuForm()
     Offen([this] { GeburtstageFüllen(); })();
     Offen([this] { JubiläenFüllen(); })();
     Etikettenrahmen->Füllen();
+    GrößeAnpassen(this);
 }
 
 void JubiGebuForm::Anordnen()
 {
-    auto *links = new QVBoxLayout;
-    links->setSpacing(10);
-    links->addWidget(Geburtstagsteil());
-    links->addWidget(Jubiläumsteil());
-    links->addStretch();
-    auto *oben = new QHBoxLayout;
-    oben->setSpacing(14);
-    oben->addLayout(links);
-    oben->addWidget(Etikettenteil(), 1);
+    auto *geburtstage = new QVBoxLayout;
+    geburtstage->setSpacing(6);
+    geburtstage->addWidget(Rahmen("Gruppende", "Gruppe", Gruppe, 2));
+    geburtstage->addWidget(Rahmen("Geburtstagsmonat", "Geburtsmonat", Monat, 2));
+    for (QPushButton *knopf : {AnsichtGeb, DruckGebu})
+        geburtstage->addWidget(knopf);
+    geburtstage->addStretch();
+
+    // Without a group of their own they would take in the options of the frame below.
+    auto *liste = new QButtonGroup(this);
+    auto *leute = new QHBoxLayout;
+    leute->setSpacing(12);
+    leute->addWidget(Beschriftung("", "Etiketten für:"));
+    for (QRadioButton *option : {Geburtstage, Jubiläum}) {
+        liste->addButton(option);
+        leute->addWidget(option);
+    }
+    leute->addStretch();
+    auto *etiketten = new QVBoxLayout;
+    etiketten->setSpacing(6);
+    etiketten->addLayout(leute);
+    etiketten->addWidget(Etikettenrahmen);
+    etiketten->addStretch();
+
+    auto *jubiläen = new QGridLayout;
+    jubiläen->setHorizontalSpacing(14);
+    jubiläen->setVerticalSpacing(6);
+    jubiläen->addWidget(Rahmen("Jahreszahl", "Anzahl Jahre", Jahre, 8), 0, 0, 2, 1);
+    jubiläen->addWidget(AnsichtJubiMeß, 0, 1, Qt::AlignBottom);
+    jubiläen->addWidget(JubiläumMeßdiener, 1, 1, Qt::AlignBottom);
+    jubiläen->setColumnStretch(0, 1);
+
+    auto *teile = new QGridLayout;
+    teile->setHorizontalSpacing(14);
+    teile->setVerticalSpacing(6);
+    teile->addLayout(geburtstage, 0, 0);
+    teile->addLayout(etiketten, 0, 1);
+    teile->addLayout(jubiläen, 1, 0, 1, 2);
+    teile->setColumnStretch(1, 1);
+    teile->setRowStretch(2, 1);
 
     auto *unten = new QHBoxLayout;
     unten->addStretch();
@@ -126,47 +151,11 @@ void JubiGebuForm::Anordnen()
     unten->addWidget(Ende);
 
     auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(14, 14, 14, 14);
-    spalte->setSpacing(10);
-    spalte->addWidget(Rollbar(oben), 1);
+    spalte->setContentsMargins(12, 12, 12, 12);
+    spalte->setSpacing(14);
+    spalte->addWidget(Rollbar(teile), 1);
     spalte->addLayout(unten);
-    GrößeAnpassen(this);
     Monat->checkedButton()->setFocus();
-}
-
-QWidget *JubiGebuForm::Geburtstagsteil()
-{
-    auto *teil = Benannt(new QGroupBox("Geburtstage"), "Geburtstagsteil");
-    auto *spalte = new QVBoxLayout(teil);
-    spalte->addWidget(Rahmen("Gruppende", "Gruppe", Gruppe, 3));
-    spalte->addWidget(Rahmen("Geburtstagsmonat", "Geburtsmonat", Monat, 4));
-    spalte->addLayout(Nebeneinander({AnsichtGeb, DruckGebu}));
-    return teil;
-}
-
-QWidget *JubiGebuForm::Jubiläumsteil()
-{
-    auto *teil = Benannt(new QGroupBox("Jubiläen"), "Jubiläumsteil");
-    auto *spalte = new QVBoxLayout(teil);
-    spalte->addWidget(Rahmen("Jahreszahl", "Anzahl Jahre", Jahre, 8));
-    spalte->addLayout(Nebeneinander({AnsichtJubiMeß, JubiläumMeßdiener}));
-    return teil;
-}
-
-QWidget *JubiGebuForm::Etikettenteil()
-{
-    auto *teil = Benannt(new QGroupBox("Etiketten"), "Etikettenteil");
-    // Without a group of their own they would take in the options of the frame below.
-    auto *wahl = new QButtonGroup(teil);
-    wahl->addButton(Geburtstage);
-    wahl->addButton(Jubiläum);
-    auto *spalte = new QVBoxLayout(teil);
-    QHBoxLayout *leute = Nebeneinander({Geburtstage, Jubiläum});
-    leute->addStretch();
-    spalte->addLayout(leute);
-    spalte->addWidget(Etikettenrahmen);
-    spalte->addStretch();
-    return teil;
 }
 
 void JubiGebuForm::Verbinden()

@@ -30,9 +30,6 @@ class JubiGebuForm : public QWidget {
 
   private:
     void Anordnen();
-    QWidget *Geburtstagsteil();
-    QWidget *Jubiläumsteil();
-    QWidget *Etikettenteil();
     void Verbinden();
 
     void GeburtstageFüllen();
