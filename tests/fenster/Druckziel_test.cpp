@@ -1,5 +1,6 @@
 // Where a report goes on the printer on Qt: files that are whole or not there at all, printers that
 // vanish, bad settings; and the sample parish on paper.
+#include "anniversaries/JubiGebuDruck.h"
 #include "assignment/Zuweisungsrahmen.h"
 #include "core/Allgemein.h"
 #include "fenster/Bausteine.h"
@@ -243,6 +244,27 @@ TEST_F(BeispielAufPapierTest, DerPlanStehtMitZehnPunktAufA4)
     EXPECT_NE(PdfText(datei).find("Messen der Pfarrei St. Lambertus Quellersheim"), Text::npos);
 }
 
+TEST_F(BeispielAufPapierTest, GeburtstageUndJubiläenZurückgelesen)
+{
+    const auto stehtDa = [&](const Text &text) {
+        EXPECT_NE(PdfText(datei).find(text), Text::npos) << text;
+    };
+    GeburtstageSuchen(Gruppende::Alle, 3);
+    GeburtstageDrucken(Gruppende::Alle, 3);
+    stehtDa("Geburtstage der Meßdiener und Meßhelfer im März");
+    for (int i = 0; i < Geburtstagsliste.Anzahl; ++i)
+        stehtDa(Geburtstagsliste.Vorname[i] + " " + Geburtstagsliste.Nachname[i] +
+                ", Geburtstag: ");
+    const PdfInhalt pdf = PdfLesen(datei);
+    ASSERT_GT(Geburtstagsliste.Anzahl, 1);
+    EXPECT_EQ(pdf.Seiten.size(), 1U); // none behind the last row
+    EXPECT_NEAR(pdf.Wort("Geburtstage").Links, Konfig.RandLinks * 72 / 25.4, 1.5);
+    JubiläenSuchen(0);
+    JubiläenDrucken(0);
+    stehtDa("Jubiläum von 0 Jahren der Meßdiener");
+    stehtDa(", Eintrittsdatum: ");
+}
+
 TEST_F(BeispielAufPapierTest, AlleBerichtePassenAufDasBlatt)
 {
     const std::vector<std::pair<const char *, std::function<void()>>> berichte = {
@@ -254,7 +276,16 @@ TEST_F(BeispielAufPapierTest, AlleBerichtePassenAufDasBlatt)
         {"Etikettengrößen", EtikettengrößenDrucken},
         {"Bogen", [] { ErfassungsbogenMeßdienerDrucken("28.11.2026", "26.12.2026"); }},
         {"Helferbogen", [] { ErfassungsbogenHelferDrucken("28.11.2026", "26.12.2026"); }},
-        {"Etiketten", Etikettenlauf}};
+        {"Etiketten", Etikettenlauf},
+        {"Geburtstage",
+         [] {
+             GeburtstageSuchen(Gruppende::Alle, 5);
+             GeburtstageDrucken(Gruppende::Alle, 5);
+         }},
+        {"Jubiläum", [] {
+             JubiläenSuchen(15);
+             JubiläenDrucken(15);
+         }}};
     for (modus = 0; modus <= 1; ++modus)
         for (const auto &[name, bericht] : berichte) {
             bericht();
