@@ -107,6 +107,17 @@ TEST_F(PlanlaufTest, EinsVierFünfMeldetSichOhneFrage)
                                 "Meldung: Fertig mit Helfer Messen zuordnen\n");
 }
 
+TEST_F(PlanlaufTest, MenüeinträgeÖffnenIhreFensterInDerFolge)
+{
+    fs::create_directory(Festplatte / "bilder");
+    const Ergebnis ergebnis =
+        Lauf({}, {"--menue", "mnuHelfer,mnuGruppe", "--bilder", Datei("bilder")});
+    EXPECT_EQ(ergebnis.Wert, 0) << ergebnis.Fehler;
+    EXPECT_TRUE(fs::exists(Festplatte / "bilder" / "03-Helfer.png"));
+    EXPECT_TRUE(fs::exists(Festplatte / "bilder" / "04-Gruppe.png"));
+    EXPECT_EQ(Lauf({}, {"--menue", "mnuGibtEsNicht"}).Wert, 1);
+}
+
 TEST_F(PlanlaufTest, NeinBesetztKeineMeßdiener)
 {
     const Ergebnis ergebnis = Lauf({"1", "3"}, {"--antwort", "nein"});

@@ -15,6 +15,7 @@
 #include "shell/StartForm.h"
 
 #include <QCommandLineParser>
+#include <QTemporaryFile>
 #include <QTimer>
 
 #include <cstdio>
@@ -30,6 +31,7 @@ struct Auftrag {
     QString Start;
     QString Tage;
     QList<int> Schritte;
+    QStringList Einträge;
     std::filesystem::path Text;
     QString Pdf;
     QString Berichte;
@@ -59,6 +61,8 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption tage("tage", "days of the plan", "N");
     const QCommandLineOption saat("saat", "seed of the draw, in place of the clock's", "N");
     const QCommandLineOption schritte("schritte", "buttons to press, such as 1,4,5", "LISTE");
+    const QCommandLineOption menü(
+        "menue", "menu entries to choose behind the steps, such as mnuHelfer,mnuGruppe", "LISTE");
     const QCommandLineOption text("text", "write the plan as text", "FILE");
     const QCommandLineOption pdf("pdf", "print the plan to a PDF file", "FILE");
     const QCommandLineOption berichte(
@@ -68,7 +72,7 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption antwort("antwort", "answer to every question", "ja|nein", "ja");
     zeile.addHelpOption();
     zeile.addOptions(
-        {daten, heute, start, tage, saat, schritte, text, pdf, berichte, bilder, antwort});
+        {daten, heute, start, tage, saat, schritte, menü, text, pdf, berichte, bilder, antwort});
     zeile.process(*QCoreApplication::instance());
     const QStringList übrig = zeile.positionalArguments();
     if (!übrig.isEmpty()) // such as the rest of "1, 4, 5"
@@ -94,6 +98,7 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
             throw std::invalid_argument("--schritte takes numbers from 1 to 7");
         auftrag.Schritte.append(schritt);
     }
+    auftrag.Einträge = zeile.value(menü).split(',', Qt::SkipEmptyParts);
     auftrag.Text = Pfad(zeile.value(text));
     auftrag.Pdf = zeile.value(pdf);
     auftrag.Berichte = zeile.value(berichte);
@@ -158,6 +163,17 @@ class Lauf {
             if (!knopf->isEnabled())
                 throw std::runtime_error("button " + std::to_string(schritt) + " is disabled");
             knopf->click();
+            AndereSchließen();
+        }
+    }
+
+    void Menü()
+    {
+        for (const QString &name : auftrag.Einträge) {
+            auto *eintrag = haupt->findChild<QAction *>(name);
+            if (!eintrag || !eintrag->isEnabled())
+                throw std::runtime_error("no menu entry " + name.toStdString());
+            eintrag->trigger();
             AndereSchließen();
         }
     }
@@ -259,6 +275,18 @@ class Lauf {
     }};
 };
 
+/// The platform without a screen, as large as the smallest one in use; its description goes to the
+/// file.
+QByteArray OhneBildschirm(QTemporaryFile &beschreibung)
+{
+    if (!beschreibung.open())
+        return "offscreen";
+    beschreibung.write(R"({"screens":[{"name":"","x":0,"y":0,"width":1024,"height":768,)"
+                       R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})");
+    beschreibung.close();
+    return "offscreen:configfile=" + beschreibung.fileName().toLocal8Bit();
+}
+
 int Gescheitert(const char *grund)
 {
     std::fprintf(stderr, "planlauf: %s\n", grund);
@@ -269,8 +297,9 @@ int Gescheitert(const char *grund)
 
 int main(int argc, char *argv[])
 {
+    QTemporaryFile bildschirm;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", OhneBildschirm(bildschirm));
     QApplication anwendung(argc, argv);
     AnwendungEinrichten(anwendung);
     int ergebnis = 0;
@@ -281,6 +310,7 @@ int main(int argc, char *argv[])
             try {
                 lauf.Starten();
                 lauf.Schritte();
+                lauf.Menü();
                 lauf.TextSchreiben();
                 lauf.Drucken();
                 lauf.Beenden();
