@@ -19,6 +19,7 @@ namespace {
 constexpr double TwipsProZoll = 1440;
 constexpr Single KurzeSeite = 11906; // A4, 210 mm
 constexpr Single LangeSeite = 16838; // A4, 297 mm
+constexpr double Bildrand = 850;     // 15 mm
 
 [[noreturn]] void Druckerfehler()
 {
@@ -166,22 +167,52 @@ void DruckerQt::SchriftSetzen()
     schriftGeändert = false;
 }
 
-void DruckerQt::Print(const Text &text)
+/// The paper for what comes next: of a new document, or of a page that was turned.
+void DruckerQt::SeiteBereitstellen()
 {
     if (!stift)
         Beginnen();
     if (neueSeite && !drucker->newPage())
         Druckerfehler();
     neueSeite = false;
+}
+
+void DruckerQt::FehlerPrüfen() const
+{
+    if (drucker->printerState() == QPrinter::Error)
+        Druckerfehler();
+}
+
+void DruckerQt::Print(const Text &text)
+{
+    SeiteBereitstellen();
     SchriftSetzen();
     if (!text.empty()) {
         const double punkte = drucker->resolution() / TwipsProZoll;
         stift->drawText(QPointF(x * punkte, (y + oberlänge) * punkte), Anzeige(text));
     }
-    if (drucker->printerState() == QPrinter::Error)
-        Druckerfehler();
+    FehlerPrüfen();
     y += static_cast<Single>(zeilenhöhe);
     x = 0;
+}
+
+void DruckerQt::Picture(const Druckbild &bild)
+{
+    SeiteBereitstellen();
+    const double punkte = drucker->resolution() / TwipsProZoll;
+    const QSizeF platz((KurzeSeite - 2 * Bildrand) * punkte, (LangeSeite - 2 * Bildrand) * punkte);
+    const QSizeF größe =
+        QSizeF(bild.Größe)
+            .scaled(richtung == Querformat ? platz.transposed() : platz, Qt::KeepAspectRatio);
+    stift->save();
+    stift->translate(Bildrand * punkte, Bildrand * punkte);
+    // A picture that is played is brought to the resolution of the printer already.
+    const double gespielt = drucker->logicalDpiX() / static_cast<double>(bild.Bild.logicalDpiX());
+    const double maßstab = größe.width() / bild.Größe.width() / gespielt;
+    stift->scale(maßstab, maßstab);
+    stift->drawPicture(0, 0, bild.Bild);
+    stift->restore();
+    FehlerPrüfen();
 }
 
 void DruckerQt::NewPage()

@@ -4,6 +4,7 @@
 #include "platform/Drucker.h"
 
 #include <QFont>
+#include <QPicture>
 #include <QPrinter>
 #include <QString>
 
@@ -19,6 +20,12 @@ namespace altardienst {
 struct Druckauswahl {
     int Modus = 0; // 1: the second layout
     std::shared_ptr<QPrinter> Ziel;
+};
+
+/// A picture as strokes and letters, so that it is as sharp as the printer.
+struct Druckbild {
+    QPicture Bild;
+    QSize Größe; // of the window it shows, in its pixels
 };
 
 /// A printer that writes a PDF file.
@@ -48,12 +55,15 @@ class DruckerQt : public DruckerDienst {
     Single Height() const override;
     void Orientation(int richtung) override;
     void Print(const Text &text) override;
+    void Picture(const Druckbild &bild) override;
     void NewPage() override;
     void EndDoc() override;
     void Verwerfen() override;
 
   private:
     void Beginnen();
+    void SeiteBereitstellen();
+    void FehlerPrüfen() const;
     void SchriftSetzen();
     void Vergessen();
     QString Teildatei() const;

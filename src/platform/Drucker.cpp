@@ -22,6 +22,10 @@ class KeinDrucker : public DruckerDienst {
     Single Height() const override { return 0; }
     void Orientation(int) override {}
     void Print(const Text &) override { throw Laufzeitfehler(Laufzeitfehler::Druckerfehler); }
+    void Picture(const Druckbild &) override
+    {
+        throw Laufzeitfehler(Laufzeitfehler::Druckerfehler);
+    }
     void NewPage() override {}
     void EndDoc() override {}
     void Verwerfen() override {}

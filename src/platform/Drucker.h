@@ -16,6 +16,9 @@ struct Druckanfrage {
     bool HatZweiFormen() const { return !ZweiteForm.empty(); }
 };
 
+/// A picture that takes a page; how it is drawn is the affair of whoever makes and prints it.
+struct Druckbild;
+
 /// All lengths in twips (1440 to the inch) from the upper left corner of the paper. A document
 /// begins with the first page operation and ends with `EndDoc`. Every operation may raise failure
 /// 482 (Druckerfehler).
@@ -58,6 +61,9 @@ class DruckerDienst {
     /// Writes the text at the cursor and ends the line: the cursor goes down by the height of a
     /// line and to the left edge of the paper.
     virtual void Print(const Text &text) = 0;
+
+    /// Puts the picture onto the page, as large as it goes with the same margin on all sides.
+    virtual void Picture(const Druckbild &bild) = 0;
 
     /// A page on which nothing was written gives no empty sheet.
     virtual void NewPage() = 0;

@@ -100,6 +100,11 @@ void Druckprotokoll::Print(const Text &text)
     y += Zeilenhöhe;
 }
 
+void Druckprotokoll::Picture(const Druckbild &)
+{
+    Schreiben("Picture");
+}
+
 void Druckprotokoll::NewPage()
 {
     Schreiben("NewPage");

@@ -40,6 +40,7 @@ class Druckprotokoll : public DruckerDienst {
     Single Height() const override { return Seitenhöhe; }
     void Orientation(int richtung) override;
     void Print(const Text &text) override;
+    void Picture(const Druckbild &bild) override;
     void NewPage() override;
     void EndDoc() override;
     void Verwerfen() override;

@@ -1,0 +1,72 @@
+// The content of a window on paper.
+#include "fenster/Fensterdruck.h"
+
+#include "fenster/DruckerQt.h"
+#include "printing/Druckrahmen.h"
+
+#include <QLayout>
+#include <QPainter>
+#include <QPushButton>
+
+namespace altardienst {
+namespace {
+
+/// Makes a window ready for paper until it goes: black on white, without command buttons.
+class Druckansicht {
+  public:
+    explicit Druckansicht(QWidget *fenster)
+        : fenster(fenster), fokus(fenster->focusWidget()), farben(fenster->palette())
+    {
+        for (auto *knopf : fenster->findChildren<QPushButton *>())
+            if (!knopf->isHidden()) {
+                knöpfe.append(knopf);
+                knopf->hide();
+            }
+        QPalette papier = farben;
+        for (const auto rolle : {QPalette::Window, QPalette::Base})
+            papier.setColor(rolle, Qt::white);
+        for (const auto rolle : {QPalette::WindowText, QPalette::Text})
+            papier.setColor(rolle, Qt::black);
+        fenster->setPalette(papier);
+        fenster->layout()->activate();
+    }
+    Druckansicht(const Druckansicht &) = delete;
+    Druckansicht &operator=(const Druckansicht &) = delete;
+    ~Druckansicht()
+    {
+        fenster->setPalette(farben);
+        for (QPushButton *knopf : knöpfe)
+            knopf->show();
+        fenster->layout()->activate();
+        if (fokus)
+            fokus->setFocus();
+    }
+
+  private:
+    QWidget *fenster;
+    QWidget *fokus;
+    QPalette farben;
+    QList<QPushButton *> knöpfe;
+};
+
+/// A printer as the target would give a blown-up screen picture; a QPicture keeps the strokes.
+Druckbild Aufnahme(QWidget *fenster)
+{
+    const Druckansicht ansicht(fenster);
+    Druckbild bild = {QPicture(), fenster->size()};
+    QPainter stift(&bild.Bild);
+    fenster->render(&stift);
+    return bild;
+}
+
+} // namespace
+
+void FensterDrucken(QWidget *fenster)
+{
+    BerichtDrucken({}, [&](int) {
+        Drucker->Picture(Aufnahme(fenster));
+        Drucker->EndDoc();
+    });
+}
+
+} // namespace altardienst
