@@ -24,6 +24,14 @@
 #include "printing/DruckForm.h"
 #include "printing/EtikettenForm.h"
 #include "printing/Plandruck.h"
+#include "statistics/SkalierungForm.h"
+#include "statistics/StatDienstForm.h"
+#include "statistics/StatHelferForm.h"
+#include "statistics/StatMeßdienstForm.h"
+#include "statistics/Statistik2Form.h"
+#include "statistics/StatistikAllgForm.h"
+#include "statistics/StatistikForm.h"
+#include "statistics/StatistikHelferForm.h"
 
 #include <QAction>
 #include <QApplication>
@@ -190,17 +198,22 @@ void HauptForm::MenüDaten()
             [] { DialogÖffnen(new JubiGebuForm); });
 
     QMenu *diener = Menü(daten, "mnuStatistiken", "S&tatistik Meßdiener");
-    Eintrag(diener, "mnuStatistik", "Meßdiener &allgemein", NochNicht);
-    Eintrag(diener, "mnuStatistikGröße", "Meßdiener &Größe", NochNicht);
-    Eintrag(diener, "mnuMessendienst", "Messendiens&t", NochNicht);
-    Eintrag(diener, "mnuStatDienst", "Anzahl Die&nste Meßdiener im Plan", NochNicht);
-    SperrenWennLeer(diener);
+    Eintrag(diener, "mnuStatistik", "Meßdiener &allgemein",
+            [] { DialogÖffnen(new StatistikForm); });
+    Eintrag(diener, "mnuStatistikGröße", "Meßdiener &Größe",
+            [] { DialogÖffnen(new Statistik2Form); });
+    Eintrag(diener, "mnuMessendienst", "Messendiens&t",
+            [] { DialogÖffnen(new StatMeßdienstForm); });
+    Eintrag(diener, "mnuStatDienst", "Anzahl Die&nste Meßdiener im Plan",
+            [] { DialogÖffnen(new StatDienstForm); });
 
     QMenu *helfer = Menü(daten, "mnuStatistikHilf", "Statistik He&lfer");
-    Eintrag(helfer, "mnuStatistikHilfA", "Helfer &allgemein", NochNicht);
-    Eintrag(helfer, "mnuHelferMessendienst", "Messendiens&t Helfer", NochNicht);
-    Eintrag(helfer, "mnuStatHDienst", "Anzahl Die&nste Helfer im Plan", NochNicht);
-    SperrenWennLeer(helfer);
+    Eintrag(helfer, "mnuStatistikHilfA", "Helfer &allgemein",
+            [] { DialogÖffnen(new StatistikAllgForm); });
+    Eintrag(helfer, "mnuHelferMessendienst", "Messendiens&t Helfer",
+            [] { DialogÖffnen(new StatistikHelferForm); });
+    Eintrag(helfer, "mnuStatHDienst", "Anzahl Die&nste Helfer im Plan",
+            [] { DialogÖffnen(new StatHelferForm); });
 }
 
 void HauptForm::MenüSortieren()
@@ -310,6 +323,8 @@ void HauptForm::keyPressEvent(QKeyEvent *taste)
     if (nummer >= 0 && nummer < static_cast<int>(schritte.size()) &&
         taste->modifiers() == Qt::NoModifier)
         schritte[static_cast<std::size_t>(nummer)]->click();
+    else if (taste->key() == Qt::Key_F12)
+        DialogÖffnen(new SkalierungForm);
     else
         QMainWindow::keyPressEvent(taste);
 }

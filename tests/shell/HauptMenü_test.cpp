@@ -183,6 +183,7 @@ TEST_F(HauptMenüTest, JederEintragÖffnetSeineFormUndSperrtDasHauptfenster)
         {"mnuDatenHolen", "Dateikopie"},
         {"mnuDatenSichern", "Datensicherung"},
     };
+    MeßdienerAnlegen("Kim", "Adler"); // there are no figures about nobody
     for (const auto &[eintrag, form] : formen) {
         if (!Eintrag(eintrag)->isEnabled())
             continue; // the form is not there yet

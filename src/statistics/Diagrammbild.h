@@ -1,0 +1,39 @@
+// A chart: bars of categories, or two directions of classes against each other.
+#pragma once
+
+#include "core/Text.h"
+
+#include <QWidget>
+
+#include <vector>
+
+namespace altardienst {
+
+/// How large a window with a chart opens; it fits the smallest screen.
+constexpr QSize Diagrammfenster(680, 484);
+
+class Diagrammbild : public QWidget {
+  public:
+    Diagrammbild(const char *name, const char *titel);
+
+    struct Achse {
+        const char *Titel;
+        std::vector<Text> Klassen;
+    };
+
+    /// A bar for each class with its count above it; the axis of the counts has whole numbers
+    /// alone.
+    void BalkenZeigen(const Achse &klassen, const char *anzahltitel,
+                      const std::vector<int> &anzahl);
+
+    /// A field for each pair of classes, the darker the higher its count, with the count written
+    /// in. `anzahl` holds the rows of `hoch` one after the other.
+    void KreuztafelZeigen(const Achse &quer, const Achse &hoch, const std::vector<int> &anzahl);
+
+  private:
+    class Zeichnung;
+
+    Zeichnung *zeichnung;
+};
+
+} // namespace altardienst

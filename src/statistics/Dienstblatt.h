@@ -1,0 +1,56 @@
+// One person of a table of services on the screen, with the number box to choose the person.
+#pragma once
+
+#include "core/Umwandlung.h"
+#include "statistics/Dienstzählung.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+namespace altardienst {
+
+/// What is shown of a person: names, counts, their sum.
+template <std::size_t arten> std::vector<Text> TexteDer(const Dienstzeile<arten> &zeile)
+{
+    std::vector<Text> texte = {zeile.Vorname, zeile.Nachname};
+    for (const int anzahl : zeile.Dienste)
+        texte.push_back(ZahlText(anzahl));
+    texte.push_back(ZahlText(zeile.Insgesamt()));
+    return texte;
+}
+
+struct Dienstblattnamen {
+    const char *Nummer; // of the number box
+    struct Feld {
+        const char *Name;
+        const char *Text;
+    };
+    std::vector<Feld> Felder; // what is shown of a person
+};
+
+/// Shows the person of number 0 first; a number of `anzahl` or more falls back to 0.
+class Dienstblatt : public QWidget {
+  public:
+    /// `zeile` gives the texts of the fields of a person.
+    Dienstblatt(const Dienstblattnamen &namen, int anzahl,
+                std::function<std::vector<Text>(int)> zeile);
+
+    QLineEdit *Nummer;
+    QPushButton *MINUS;
+    QPushButton *PLUS;
+    std::vector<QLabel *> Felder;
+
+  private:
+    void NummerGeändert();
+    void Schritt(int richtung);
+
+    int anzahl;
+    std::function<std::vector<Text>(int)> zeile;
+};
+
+} // namespace altardienst

@@ -1,0 +1,60 @@
+// The services of each server in the plan.
+#include "statistics/StatDienstForm.h"
+
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "statistics/Dienstlisten.h"
+#include "statistics/Zahlentafel.h"
+
+#include <QCloseEvent>
+#include <QVBoxLayout>
+
+namespace altardienst {
+
+StatDienstForm::StatDienstForm() : zählung(MeßdienerdiensteZählen())
+{
+    Blatt = new Dienstblatt({"INDEXLEIN",
+                             {{"V", "Vorname"},
+                              {"N", "Nachname"},
+                              {"G", "Gabenbereitung"},
+                              {"L", "Leuchter"},
+                              {"F", "Flambeau"},
+                              {"W", "Weihrauch"},
+                              {"K", "Kreuzträger"},
+                              {"A", "Allgemein"},
+                              {"I", "Insgesamt"}}},
+                            Meßdiener.Anzahl, [this](int i) { return TexteDer(zählung[i]); });
+    Druckern = Knopf("Druckern", "Drucken");
+    Ende = Knopf("Ende", "Ende");
+    Benannt(this, "StatDienst");
+    setWindowTitle("Statistik Dienste Meßdiener");
+    Anordnen();
+    Verbinden();
+}
+
+void StatDienstForm::Anordnen()
+{
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(20, 16, 20, 14);
+    spalte->setSpacing(14);
+    spalte->addWidget(Blatt);
+    spalte->addLayout(Knopfreihe({Druckern, Ende}));
+    setMinimumWidth(380);
+    Blatt->PLUS->setFocus();
+}
+
+void StatDienstForm::Verbinden()
+{
+    connect(Druckern, &QPushButton::clicked, this,
+            Offen([this] { MeßdienerdiensteDrucken(zählung); }));
+    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void StatDienstForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    HauptfensterZurück();
+}
+
+} // namespace altardienst

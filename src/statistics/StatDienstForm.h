@@ -1,0 +1,28 @@
+// The services of each server in the plan.
+#pragma once
+
+#include "statistics/Dienstblatt.h"
+#include "statistics/Dienstzählung.h"
+
+namespace altardienst {
+
+/// Failure 9 if the tables are fuller than there is room for: the window does not come to be.
+class StatDienstForm : public QWidget {
+  public:
+    StatDienstForm();
+
+    Dienstblatt *Blatt; // V, N, G, L, F, W, K, A, I, INDEXLEIN, MINUS, PLUS
+    QPushButton *Druckern;
+    QPushButton *Ende;
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void Anordnen();
+    void Verbinden();
+
+    Meßdienerzählung zählung; // as of the opening
+};
+
+} // namespace altardienst

@@ -1,0 +1,58 @@
+// The services of each helper in the plan.
+#include "statistics/StatHelferForm.h"
+
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "statistics/Dienstlisten.h"
+#include "statistics/Zahlentafel.h"
+
+#include <QCloseEvent>
+#include <QVBoxLayout>
+
+namespace altardienst {
+
+StatHelferForm::StatHelferForm() : zählung(HelferdiensteZählen())
+{
+    Blatt = new Dienstblatt({"Indexchen",
+                             {{"V1", "Vorname"},
+                              {"N1", "Nachname"},
+                              {"LE1", "Lektor"},
+                              {"KM1", "Kommunionhelfer"},
+                              {"KN1", "Kantor"},
+                              {"KL1", "Kollektant"},
+                              {"IN1", "Insgesamt"}}},
+                            Helfer.Anzahl, [this](int i) { return TexteDer(zählung[i]); });
+    Dluckeln = Knopf("Dluckeln", "Drucken");
+    Ende = Knopf("Ende", "Ende");
+    Benannt(this, "StatHelfer");
+    setWindowTitle("Statistik Dienste Helfer");
+    Anordnen();
+    Verbinden();
+}
+
+void StatHelferForm::Anordnen()
+{
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(20, 16, 20, 14);
+    spalte->setSpacing(14);
+    spalte->addWidget(Blatt);
+    spalte->addLayout(Knopfreihe({Dluckeln, Ende}));
+    setMinimumWidth(380);
+    Blatt->PLUS->setFocus();
+}
+
+void StatHelferForm::Verbinden()
+{
+    connect(Dluckeln, &QPushButton::clicked, this,
+            Offen([this] { HelferdiensteDrucken(zählung); }));
+    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void StatHelferForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    HauptfensterZurück();
+}
+
+} // namespace altardienst

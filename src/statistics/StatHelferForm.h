@@ -1,0 +1,28 @@
+// The services of each helper in the plan.
+#pragma once
+
+#include "statistics/Dienstblatt.h"
+#include "statistics/Dienstzählung.h"
+
+namespace altardienst {
+
+/// Failure 9 if the tables are fuller than there is room for: the window does not come to be.
+class StatHelferForm : public QWidget {
+  public:
+    StatHelferForm();
+
+    Dienstblatt *Blatt; // V1, N1, LE1, KM1, KN1, KL1, IN1, Indexchen, MINUS, PLUS
+    QPushButton *Dluckeln;
+    QPushButton *Ende;
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void Anordnen();
+    void Verbinden();
+
+    Helferzählung zählung; // as of the opening
+};
+
+} // namespace altardienst

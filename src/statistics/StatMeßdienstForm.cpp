@@ -1,0 +1,84 @@
+// The services of servers that the masses of the plan call for.
+#include "statistics/StatMeßdienstForm.h"
+
+#include "core/Umwandlung.h"
+#include "core/Zahlenmuster.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Fensterdruck.h"
+#include "fenster/Handler.h"
+#include "statistics/Messendienste.h"
+#include "statistics/Zahlentafel.h"
+
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QVBoxLayout>
+
+namespace altardienst {
+
+StatMeßdienstForm::StatMeßdienstForm()
+    : MGges(Zahl("MGges")), MGMes(Zahl("MGMes")), MLges(Zahl("MLges")), MLMes(Zahl("MLMes")),
+      MFges(Zahl("MFges")), MFMes(Zahl("MFMes")), MWges(Zahl("MWges")), MWMes(Zahl("MWMes")),
+      MKges(Zahl("MKges")), MKMes(Zahl("MKMes")), MAges(Zahl("MAges")), MAMes(Zahl("MAMes")),
+      DMges(Zahl("DMges")), DMm(Zahl("DMm")), DjM(Zahl("DjM")), Druck(Knopf("Druck", "Drucken")),
+      Ende(Knopf("Ende", "Ende"))
+{
+    Benannt(this, "StatMeßdienst");
+    setWindowTitle("Statistik Messendienst");
+    Anordnen();
+    Verbinden();
+    Füllen();
+}
+
+void StatMeßdienstForm::Anordnen()
+{
+    auto *rahmen = new QGroupBox("Meßdienerdienste");
+    auto *tafel = new Zahlentafel({"Messendienst", "Insgesamt", "pro Messe"});
+    tafel->Zeile("Gabenbereitung", {MGges, MGMes});
+    tafel->Zeile("Leuchter", {MLges, MLMes});
+    tafel->Zeile("Flambeau", {MFges, MFMes});
+    tafel->Zeile("Weihrauch", {MWges, MWMes});
+    tafel->Zeile("Kreuzträger", {MKges, MKMes});
+    tafel->Zeile("Allgemein", {MAges, MAMes});
+    tafel->Zeile("Dienste Meßdiener gesamt", {DMges});
+    tafel->Zeile("Dienste je Messe", {nullptr, DMm});
+    tafel->Zeile("Dienste je Meßdiener", {nullptr, DjM});
+    rahmen->setLayout(tafel);
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(16, 14, 16, 14);
+    spalte->setSpacing(12);
+    spalte->addWidget(rahmen);
+    spalte->addStretch();
+    spalte->addLayout(Knopfreihe({Druck, Ende}));
+    setMinimumWidth(420);
+    Ende->setFocus();
+}
+
+void StatMeßdienstForm::Verbinden()
+{
+    connect(Druck, &QPushButton::clicked, this, Offen([this] { FensterDrucken(this); }));
+    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void StatMeßdienstForm::Füllen()
+{
+    const Messendienste d = MessendiensteAuswerten();
+    const std::array gesamt = {MGges, MLges, MFges, MWges, MKges, MAges};
+    const std::array jeMesse = {MGMes, MLMes, MFMes, MWMes, MKMes, MAMes};
+    for (std::size_t k = 0; k < gesamt.size(); ++k) {
+        Setzen(gesamt[k], ZahlText(d.Gesamt[k]));
+        Setzen(jeMesse[k], Format(d.JeMesse[k], "##,####0.000"));
+    }
+    Setzen(DMges, Format(d.Dienste, "###,#000.0"));
+    Setzen(DMm, Format(d.DiensteJeMesse, "##,####0.000"));
+    Setzen(DjM, Format(d.DiensteJeMeßdiener, "##,####0.000"));
+}
+
+void StatMeßdienstForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    HauptfensterZurück();
+}
+
+} // namespace altardienst

@@ -1,0 +1,36 @@
+// The services of servers that the masses of the plan call for.
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+
+namespace altardienst {
+
+/// Failure 11 if services are wanted and there are no servers: the window does not come to be.
+class StatMeßdienstForm : public QWidget {
+  public:
+    StatMeßdienstForm();
+
+    QLabel *MGges, *MGMes; // total and per mass: Gabenbereitung
+    QLabel *MLges, *MLMes; // Leuchter
+    QLabel *MFges, *MFMes; // Flambeau
+    QLabel *MWges, *MWMes; // Weihrauch
+    QLabel *MKges, *MKMes; // Kreuzträger
+    QLabel *MAges, *MAMes; // Allgemein
+    QLabel *DMges;         // all services
+    QLabel *DMm;           // per mass
+    QLabel *DjM;           // per server
+    QPushButton *Druck;
+    QPushButton *Ende;
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void Anordnen();
+    void Verbinden();
+    void Füllen();
+};
+
+} // namespace altardienst

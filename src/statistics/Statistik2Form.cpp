@@ -1,0 +1,84 @@
+// Heights of the servers.
+#include "statistics/Statistik2Form.h"
+
+#include "core/Umwandlung.h"
+#include "core/Zahlenmuster.h"
+#include "core/tables.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Fensterdruck.h"
+#include "fenster/Handler.h"
+#include "platform/Uhr.h"
+#include "statistics/Diagramm2Form.h"
+#include "statistics/Meßdienerstatistik.h"
+#include "statistics/Teilen.h"
+#include "statistics/Zahlentafel.h"
+
+#include <QCloseEvent>
+#include <QVBoxLayout>
+
+namespace altardienst {
+
+Statistik2Form::Statistik2Form()
+    : Tagchus(Beschriftung("Tagchus", "")), a(Zahlen<13>("a")), b(Zahlen<13>("b")),
+      c(Zahlen<13>("c")), G(Zahl("G")), A(Zahl("A")), Diagramm(Knopf("Diagramm", "Diagramm")),
+      Druck(Knopf("Druck", "Drucken")), Ende(Knopf("Ende", "Ende"))
+{
+    Benannt(this, "Statistik2");
+    setWindowTitle("Statistik (Meßdienergröße)");
+    Anordnen();
+    Verbinden();
+    Füllen();
+}
+
+void Statistik2Form::Anordnen()
+{
+    auto *tafel = new Zahlentafel({"Größe in cm", "Anzahl absolut", "Anzahl relativ"});
+    for (std::size_t k = 0; k < a.size(); ++k) {
+        a[k]->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        tafel->Zeile(a[k], {b[k], c[k]});
+    }
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(20, 14, 20, 14);
+    spalte->setSpacing(10);
+    spalte->addLayout(Satz({Beschriftung("", "Größe der Meßdiener am"), Tagchus}));
+    spalte->addLayout(tafel);
+    spalte->addLayout(Satz({Beschriftung("", "Durchschnittsgröße "), G, Beschriftung("", "cm")}));
+    spalte->addLayout(Satz({Beschriftung("", "Abweichung von"), A, Beschriftung("", "cm")}));
+    spalte->addStretch();
+    spalte->addLayout(Knopfreihe({Diagramm, Druck, Ende}));
+    setMinimumWidth(400);
+    Ende->setFocus();
+}
+
+void Statistik2Form::Verbinden()
+{
+    connect(Diagramm, &QPushButton::clicked, this, Offen([this] {
+                auto *diagramm = new Diagramm2Form(this);
+                hide();
+                DialogDanebenÖffnen(diagramm);
+            }));
+    connect(Druck, &QPushButton::clicked, this, Offen([this] { FensterDrucken(this); }));
+    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void Statistik2Form::Füllen()
+{
+    const Größenstatistik s = GrößenAuswerten();
+    Setzen(Tagchus, KurzesDatum(Uhr.Heute()));
+    for (std::size_t k = 0; k < a.size(); ++k) {
+        Setzen(a[k], Größenklasse(static_cast<int>(k)));
+        Setzen(b[k], ZahlText(s.Anzahl[k]));
+        Setzen(c[k], Format(Geteilt(s.Anzahl[k], Meßdiener.Anzahl), "##,##0.00%"));
+    }
+    Setzen(G, Format(s.Mittel, "##,####0.000"));
+    Setzen(A, Format(s.Abweichung, "##,####0.000"));
+}
+
+void Statistik2Form::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    HauptfensterZurück();
+}
+
+} // namespace altardienst

@@ -1,0 +1,78 @@
+// How the services that the helpers offer are distributed.
+#include "statistics/StatistikAllgForm.h"
+
+#include "core/Umwandlung.h"
+#include "core/Zahlenmuster.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Fensterdruck.h"
+#include "fenster/Handler.h"
+#include "platform/Uhr.h"
+#include "statistics/Messendienste.h"
+#include "statistics/Zahlentafel.h"
+
+#include <QCloseEvent>
+#include <QVBoxLayout>
+
+namespace altardienst {
+
+StatistikAllgForm::StatistikAllgForm()
+    : DD1(Beschriftung("DD1", "")), LE1(Zahl("LE1")), Le2(Zahl("Le2")), Kom1(Zahl("Kom1")),
+      Kom2(Zahl("Kom2")), Ka1(Zahl("Ka1")), Ka2(Zahl("Ka2")), Kol1(Zahl("Kol1")),
+      Kol2(Zahl("Kol2")), I1(Zahl("I1")), I2(Zahl("I2")), Druck(Knopf("Druck", "Drucken")),
+      Ente(Knopf("Ente", "Ende"))
+{
+    Benannt(this, "StatistikAllg");
+    setWindowTitle("Statistik Helfer allgemein");
+    Anordnen();
+    Verbinden();
+    Füllen();
+}
+
+void StatistikAllgForm::Anordnen()
+{
+    auto *tafel = new Zahlentafel({"Dienste", "Anzahl Wert", "Anzahl Prozentual"});
+    tafel->Zeile("Lektor", {LE1, Le2});
+    tafel->Zeile("Kommunionhelfer", {Kom1, Kom2});
+    tafel->Zeile("Kantor", {Ka1, Ka2});
+    tafel->Zeile("Kollektant", {Kol1, Kol2});
+    tafel->Zeile("Insgesamt", {I1, I2});
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(20, 14, 20, 14);
+    spalte->setSpacing(14);
+    spalte->addLayout(Satz({Beschriftung("", "Dienste der Helfer in Verteilung am"), DD1}));
+    spalte->addLayout(tafel);
+    spalte->addStretch();
+    spalte->addLayout(Knopfreihe({Druck, Ente}));
+    setMinimumWidth(420);
+    Ente->setFocus();
+}
+
+void StatistikAllgForm::Verbinden()
+{
+    connect(Druck, &QPushButton::clicked, this, Offen([this] { FensterDrucken(this); }));
+    connect(Ente, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void StatistikAllgForm::Füllen()
+{
+    Setzen(DD1, KurzesDatum(Uhr.Heute()));
+    const Helferangebot d = HelferangebotAuswerten();
+    const std::array anzahl = {LE1, Kom1, Ka1, Kol1};
+    const std::array anteil = {Le2, Kom2, Ka2, Kol2};
+    for (std::size_t k = 0; k < anzahl.size(); ++k) {
+        Setzen(anzahl[k], ZahlText(d.Anzahl[k]));
+        Setzen(anteil[k], Format(d.Anteil[k], "##,##0.00%"));
+    }
+    Setzen(I1, ZahlText(d.Insgesamt));
+    Setzen(I2, Format(d.AnteilInsgesamt, "##,##0.00%"));
+}
+
+void StatistikAllgForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    HauptfensterZurück();
+}
+
+} // namespace altardienst

@@ -1,0 +1,32 @@
+// How the services that the helpers offer are distributed.
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+
+namespace altardienst {
+
+class StatistikAllgForm : public QWidget {
+  public:
+    StatistikAllgForm();
+
+    QLabel *DD1;
+    QLabel *LE1, *Le2;   // count and share: Lektor
+    QLabel *Kom1, *Kom2; // Kommunionhelfer
+    QLabel *Ka1, *Ka2;   // Kantor
+    QLabel *Kol1, *Kol2; // Kollektant
+    QLabel *I1, *I2;     // all
+    QPushButton *Druck;
+    QPushButton *Ente;
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void Anordnen();
+    void Verbinden();
+    void Füllen();
+};
+
+} // namespace altardienst

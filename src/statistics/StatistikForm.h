@@ -1,0 +1,43 @@
+// Age, years of membership and composition of the servers.
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+
+#include <array>
+
+namespace altardienst {
+
+/// Failure 11 without servers: the window does not come to be.
+class StatistikForm : public QWidget {
+  public:
+    StatistikForm();
+
+    QLabel *Tagchen;
+    std::array<QLabel *, 12> a;  // age, a9 to a20
+    std::array<QLabel *, 12> aa; // its share, aa9, AA10, aa11 to aa20
+    QLabel *b0;
+    std::array<QLabel *, 16> d;  // membership, d0 to d15
+    std::array<QLabel *, 16> dd; // its share
+    QLabel *c20;
+    std::array<QLabel *, 8> e;  // composition, e0 to e7
+    std::array<QLabel *, 8> ee; // its share
+    QPushButton *Diagramm;
+    QPushButton *Druck;
+    QPushButton *Ende;
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void Anordnen();
+    void Verbinden();
+    void Füllen();
+
+    QLayout *Alterstafel();
+    QLayout *Zugehörigkeitstafel();
+    QLayout *Zusammensetzungstafel();
+};
+
+} // namespace altardienst

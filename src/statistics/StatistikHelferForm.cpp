@@ -1,0 +1,81 @@
+// The services of helpers that the masses of the plan call for.
+#include "statistics/StatistikHelferForm.h"
+
+#include "core/Umwandlung.h"
+#include "core/Zahlenmuster.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Fensterdruck.h"
+#include "fenster/Handler.h"
+#include "statistics/Messendienste.h"
+#include "statistics/Zahlentafel.h"
+
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QVBoxLayout>
+
+namespace altardienst {
+
+StatistikHelferForm::StatistikHelferForm()
+    : LL1(Zahl("LL1")), LL2(Zahl("LL2")), KOR1(Zahl("KOR1")), KOR2(Zahl("KOR2")),
+      KAR1(Zahl("KAR1")), KAR2(Zahl("KAR2")), KLR1(Zahl("KLR1")), KLR2(Zahl("KLR2")),
+      DHI(Zahl("DHI")), DHM(Zahl("DHM")), DHH(Zahl("DHH")), Druck(Knopf("Druck", "Drucken")),
+      Ende(Knopf("Ende", "Ende"))
+{
+    Benannt(this, "StatistikHelfer");
+    setWindowTitle("Statistik Helferdienste Messe");
+    Anordnen();
+    Verbinden();
+    Füllen();
+}
+
+void StatistikHelferForm::Anordnen()
+{
+    auto *rahmen = new QGroupBox("Helferdienste");
+    auto *tafel = new Zahlentafel({"Messendienst", "Insgesamt", "pro Messe"});
+    tafel->Zeile("Lektor", {LL1, LL2});
+    tafel->Zeile("Kommunionhelfer", {KOR1, KOR2});
+    tafel->Zeile("Kantor", {KAR1, KAR2});
+    tafel->Zeile("Kollektor", {KLR1, KLR2});
+    tafel->Zeile("Dienste Helfer insgesamt", {DHI});
+    tafel->Zeile("Dienste je Messe", {nullptr, DHM});
+    tafel->Zeile("Dienste je Helfer", {nullptr, DHH});
+    rahmen->setLayout(tafel);
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(16, 14, 16, 14);
+    spalte->setSpacing(12);
+    spalte->addWidget(rahmen);
+    spalte->addStretch();
+    spalte->addLayout(Knopfreihe({Druck, Ende}));
+    setMinimumWidth(420);
+    Ende->setFocus();
+}
+
+void StatistikHelferForm::Verbinden()
+{
+    connect(Druck, &QPushButton::clicked, this, Offen([this] { FensterDrucken(this); }));
+    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void StatistikHelferForm::Füllen()
+{
+    const Helferdienste d = HelferdiensteAuswerten();
+    const std::array gesamt = {LL1, KOR1, KAR1, KLR1};
+    const std::array anteil = {LL2, KOR2, KAR2, KLR2};
+    for (std::size_t k = 0; k < gesamt.size(); ++k) {
+        Setzen(gesamt[k], ZahlText(d.Gesamt[k]));
+        Setzen(anteil[k], Format(d.Anteil[k], "##,##0.00%"));
+    }
+    Setzen(DHI, ZahlText(d.Dienste));
+    Setzen(DHM, Format(d.DiensteJeMesse, "##,####0.000"));
+    Setzen(DHH, Format(d.DiensteJeHelfer, "##,####0.000"));
+}
+
+void StatistikHelferForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    HauptfensterZurück();
+}
+
+} // namespace altardienst

@@ -1,0 +1,34 @@
+// The services of helpers that the masses of the plan call for.
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+
+namespace altardienst {
+
+/// Failure 11 if services are wanted and there are no helpers: the window does not come to be.
+class StatistikHelferForm : public QWidget {
+  public:
+    StatistikHelferForm();
+
+    QLabel *LL1, *LL2;   // total and share of all: Lektor
+    QLabel *KOR1, *KOR2; // Kommunionhelfer
+    QLabel *KAR1, *KAR2; // Kantor
+    QLabel *KLR1, *KLR2; // Kollektant
+    QLabel *DHI;         // all services
+    QLabel *DHM;         // per mass
+    QLabel *DHH;         // per helper
+    QPushButton *Druck;
+    QPushButton *Ende;
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void Anordnen();
+    void Verbinden();
+    void Füllen();
+};
+
+} // namespace altardienst

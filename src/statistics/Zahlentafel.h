@@ -1,0 +1,54 @@
+// A table of figures in a form, and the row of buttons below it.
+#pragma once
+
+#include "core/Umwandlung.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include <array>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+namespace altardienst {
+
+/// A label for a figure, with its name.
+QLabel *Zahl(const char *name);
+
+/// Labels for figures with a number in their name, such as `a9` to `a20`.
+template <std::size_t n> std::array<QLabel *, n> Zahlen(const char *name, int erste = 0)
+{
+    std::array<QLabel *, n> zahlen;
+    for (std::size_t k = 0; k < n; ++k)
+        zahlen[k] = Zahl((name + std::to_string(erste + static_cast<int>(k))).c_str());
+    return zahlen;
+}
+
+/// What such labels show.
+template <std::size_t n> std::vector<int> ZahlenIn(const std::array<QLabel *, n> &labels)
+{
+    std::vector<int> zahlen;
+    for (const QLabel *label : labels)
+        zahlen.push_back(Int32Lesen(label->text().toStdString()));
+    return zahlen;
+}
+
+/// Under its heads the rows of a label and its figures.
+class Zahlentafel : public QGridLayout {
+  public:
+    explicit Zahlentafel(std::initializer_list<const char *> köpfe);
+
+    /// Figures without one at a place leave it empty.
+    void Zeile(QLabel *was, std::initializer_list<QLabel *> zahlen);
+    void Zeile(const char *was, std::initializer_list<QLabel *> zahlen);
+};
+
+/// Text and figures one after the other, such as "Durchschnitt", a figure, "Jahre".
+QLayout *Satz(std::initializer_list<QWidget *> teile);
+
+/// At the right end of the form.
+QLayout *Knopfreihe(std::initializer_list<QPushButton *> knöpfe);
+
+} // namespace altardienst
