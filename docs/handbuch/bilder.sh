@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Makes the handbook's pictures anew: docs/handbuch/bilder.sh [PLANLAUF]
+set -euo pipefail
+planlauf=$(realpath "${1:-$(dirname "$0")/../../build/dev/planlauf}")
+cd "$(dirname "$0")/.."
+arbeit=$(mktemp -d)
+trap 'rm -rf "$arbeit"' EXIT
+cp -r ../data/beispiel "$arbeit/daten"
+mkdir "$arbeit/bilder"
+env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --saat 1 \
+    --schritte 1,4,5,6,2 --menue mnuStandardmessen,mnuMeßdiener,mnuHelfer,mnuFilePrint \
+    --bilder "$arbeit/bilder" >/dev/null 2>&1
+
+# The last picture of a window is the one with the finished plan.
+bild() {
+    cp "$(ls "$arbeit"/bilder/*-"$1".png | tail -1)" "bilder/$2.png"
+}
+bild Haupt haupt
+bild Standardmessen standardmessen
+bild Messenliste messenliste
+bild NeuMesseDienerFest fest
+bild Meßdiener messdiener
+bild Helfer helfer
+bild Druck druck
