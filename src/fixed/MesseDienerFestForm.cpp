@@ -123,7 +123,8 @@ void MesseDienerFestForm::Aufschlagen()
 {
     FesteZuordnungOffen = true;
     DienerzahlenBestimmen();
-    MesseDienerFest.Cursor = std::clamp<int>(MesseDienerFest.Cursor, 0, MesseDienerFest.Anzahl);
+    MesseDienerFest.Cursor =
+        std::max(0, std::min<int>(MesseDienerFest.Cursor, MesseDienerFest.Anzahl));
     ZahlSetzen(Wahl->Nummer, MesseDienerFest.Cursor);
     Felder.Zeigen(MesseDienerFest.Cursor);
     Felder.DatumUhrzeitAngleichen();
@@ -135,7 +136,7 @@ void MesseDienerFestForm::Aufschlagen()
 void MesseDienerFestForm::NummerGeändert()
 {
     Felder.DatumUhrzeitAngleichen();
-    const int höchste = std::min<int>(MesseDienerFest.Anzahl, HöchsteNummer);
+    const int höchste = std::clamp<int>(MesseDienerFest.Anzahl, 0, HöchsteNummer);
     MesseDienerFest.Cursor = Begrenzen(Wahl->Nummer, 0, höchste);
     Felder.Zeigen(MesseDienerFest.Cursor);
     Zeigen();

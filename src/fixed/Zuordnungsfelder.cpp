@@ -42,7 +42,7 @@ QLineEdit *Namensfeld(const Text &name, const Text &gesprochen)
 Zuordnungsfelder::Slot SlotAnlegen(int nummer)
 {
     const Text n = ZahlText(nummer);
-    QComboBox *wahl = Listenwahl(("MDiener" + n).c_str(), "", 20);
+    QComboBox *wahl = Listenwahl(("MDiener" + n).c_str(), ("Meßdiener " + n).c_str(), 20);
     return {Beschriftung(("ME" + n).c_str(), ("Meßdiener " + n + " :").c_str(), wahl), wahl,
             Namensfeld("MDV" + n, "Vorname Meßdiener " + n),
             Namensfeld("MDN" + n, "Nachname Meßdiener " + n)};

@@ -4,6 +4,7 @@
 #include "core/Umwandlung.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Textwahl.h"
+#include "fixed/FesteMeßdienerÜbertragen.h"
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
 #include "planning/Formstand.h"
@@ -18,6 +19,7 @@ class Zuordnungsstand : public Formstand {
   protected:
     Zuordnungsstand()
     {
+        FesteZuordnungOffen = false;
         for (const char *name :
              {"Abel",  "Bauer", "Conrad", "Dahl",  "Ebert",  "Funk", "Groß", "Höß",
               "Imhof", "Jung",  "Klein",  "Lenz",  "Maurer", "Noll", "Otto", "Pohl",
@@ -60,11 +62,13 @@ class Zuordnungsstand : public Formstand {
     void ListeÖffnen()
     {
         form = MesseDienerFestForm::Offene();
+        DialogÖffnen(form);
         Zeigen(form);
     }
     void NeuÖffnen()
     {
         form = new NeuMesseDienerFestForm;
+        DialogÖffnen(form);
         Zeigen(form);
     }
 
