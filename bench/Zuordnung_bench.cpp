@@ -9,7 +9,7 @@
 #include "fixed/NeuMesseDienerFestForm.h"
 
 #include <cstdlib>
-#include <memory>
+#include <string>
 
 namespace altardienst {
 namespace {
@@ -40,11 +40,11 @@ void GroßePfarrei()
     }
 }
 
-std::unique_ptr<QWidget> offen;
+QWidget *offen = nullptr; // the last one outlives the exit
 
 void Öffnen(QWidget *dialog)
 {
-    offen.reset(dialog);
+    offen = dialog;
     dialog->show();
     QApplication::processEvents();
 }
@@ -53,7 +53,7 @@ void ÖffnenMessen(const char *name, QWidget *(*dialog)())
 {
     const auto arbeit = [dialog](void (*pfarrei)()) {
         return Arbeit{[pfarrei] {
-                          offen.reset();
+                          delete offen;
                           pfarrei();
                       },
                       [dialog] { Öffnen(dialog()); }};
@@ -74,7 +74,7 @@ void MessungenAnmelden()
     static int argc = 1;
     static char name[] = "bench_zuordnung";
     static char *argv[] = {name, nullptr};
-    // Outlives the exit: by then Qt has taken down what a shown window still refers to.
+    // Outlives the exit too: by then Qt has taken down what a shown window still refers to.
     AnwendungEinrichten(*new QApplication(argc, argv));
     ÖffnenMessen("Feste Einträge öffnen",
                  []() -> QWidget * { return MesseDienerFestForm::Offene(); });
