@@ -5,6 +5,7 @@
 #include "fenster/Bausteine.h"
 
 #include <QFile>
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPainter>
@@ -67,6 +68,15 @@ std::optional<int> DruckerQt::Dialog(const Druckanfrage &anfrage)
         return std::nullopt;
     drucker = auswahl->Ziel;
     return auswahl->Modus;
+}
+
+std::vector<Text> DruckerQt::Schriften() const
+{
+    std::vector<Text> namen;
+    for (const QString &name : QFontDatabase::families())
+        if (!QFontDatabase::isPrivateFamily(name))
+            namen.push_back(name.toStdString());
+    return namen;
 }
 
 void DruckerQt::FontName(const Text &name)

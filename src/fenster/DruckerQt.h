@@ -43,6 +43,7 @@ class DruckerQt : public DruckerDienst {
     ~DruckerQt() override;
 
     std::optional<int> Dialog(const Druckanfrage &anfrage) override;
+    std::vector<Text> Schriften() const override;
     void FontName(const Text &name) override;
     void FontSize(int punkte) override;
     void FontBold(bool an) override;

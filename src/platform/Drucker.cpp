@@ -10,6 +10,7 @@ namespace {
 class KeinDrucker : public DruckerDienst {
   public:
     std::optional<int> Dialog(const Druckanfrage &) override { return std::nullopt; }
+    std::vector<Text> Schriften() const override { return {}; }
     void FontName(const Text &) override {}
     void FontSize(int) override {}
     void FontBold(bool) override {}

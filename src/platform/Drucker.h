@@ -5,6 +5,7 @@
 #include "core/Text.h"
 
 #include <optional>
+#include <vector>
 
 namespace altardienst {
 
@@ -37,6 +38,9 @@ class DruckerDienst {
 
     /// The print dialog; its numeric mode, or nothing if it was cancelled.
     virtual std::optional<int> Dialog(const Druckanfrage &anfrage) = 0;
+
+    /// Names of the fonts to print in, in the platform's order.
+    virtual std::vector<Text> Schriften() const = 0;
 
     // Attributes of the font in use. A size outside 1 to 2160 points is a printer error; a font
     // that is not there is replaced by a similar one.

@@ -15,6 +15,7 @@ class Druckprotokoll : public DruckerDienst {
     std::vector<Text> Zeilen;
 
     std::optional<int> Antwort = 0; // of the print dialog; none: cancelled
+    std::vector<Text> Schriftarten; // the fonts of the printer
     Single Zeilenhöhe = 240;        // twips
     Single Seitenhöhe = 16838;      // twips
     int FehlerBei = 0;              // the line of the log that fails, from 1; 0: none
@@ -28,6 +29,7 @@ class Druckprotokoll : public DruckerDienst {
     void Leeren();
 
     std::optional<int> Dialog(const Druckanfrage &anfrage) override;
+    std::vector<Text> Schriften() const override { return Schriftarten; }
     void FontName(const Text &name) override;
     void FontSize(int punkte) override;
     void FontBold(bool an) override;
