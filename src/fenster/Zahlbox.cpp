@@ -33,6 +33,20 @@ void DrehenVerbinden(const Zahlbox &box)
     });
 }
 
+void DrehenMitFokus(const Zahlbox &box)
+{
+    SchritteVerbinden(nullptr, nullptr, box.Spin, [feld = box.Feld](int richtung) {
+        Schrittweise([&] { ZahlSetzen(feld, Int16(ZahlIn(feld)) + richtung); },
+                     [&] { feld->setFocus(); })();
+    });
+}
+
+void BegrenztVerbinden(QLineEdit *feld, Int16 &wert, int von, int bis)
+{
+    QObject::connect(feld, &QLineEdit::textChanged, feld,
+                     Abgefangen([feld, &wert, von, bis] { wert = Begrenzen(feld, von, bis); }));
+}
+
 int ZahlIn(const QLineEdit *feld)
 {
     return Int16Lesen(TextVon(feld));

@@ -1,6 +1,7 @@
 // The number box of the record editors: a text box with a spin button beside it, clipped on change.
 #pragma once
 
+#include "core/Int16.h"
 #include "fenster/SpinButton.h"
 
 #include <QGridLayout>
@@ -24,6 +25,13 @@ void ZahlboxAnordnen(QGridLayout *raster, int zeile, int spalte, const char *tex
 
 /// The spin button adds or takes one. Trapped: a box without a number stays as it is.
 void DrehenVerbinden(const Zahlbox &box);
+
+/// The same, and gives the box the focus.
+void DrehenMitFokus(const Zahlbox &box);
+
+/// On every change the box is clipped, and then the field takes its number. Without a number both
+/// stay as they are.
+void BegrenztVerbinden(QLineEdit *feld, Int16 &wert, int von, int bis);
 
 /// Failure 13 if the box holds no number.
 int ZahlIn(const QLineEdit *feld);

@@ -24,6 +24,8 @@
 #include "printing/DruckForm.h"
 #include "printing/EtikettenForm.h"
 #include "printing/Plandruck.h"
+#include "settings/KonfigurationForm.h"
+#include "settings/ZusatzKonfigForm.h"
 #include "statistics/SkalierungForm.h"
 #include "statistics/StatDienstForm.h"
 #include "statistics/StatHelferForm.h"
@@ -181,7 +183,8 @@ void HauptForm::MenüDatei()
 void HauptForm::MenüDaten()
 {
     QMenu *daten = Menü(menuBar(), "mnuDaten", "D&aten");
-    Eintrag(daten, "mnuKonfiguration", "&Konfiguration", NochNicht);
+    Eintrag(daten, "mnuKonfiguration", "&Konfiguration",
+            [] { DialogÖffnen(new KonfigurationForm); });
     Eintrag(daten, "mnuHintergrund", "Hi&ntergrund", NochNicht);
     Eintrag(daten, "mnuEtiketten", "Et&ikettengröße", [] { DialogÖffnen(new EtikettenForm); });
     Trennstrich(daten, "mnufilebar7");
@@ -323,6 +326,8 @@ void HauptForm::keyPressEvent(QKeyEvent *taste)
     if (nummer >= 0 && nummer < static_cast<int>(schritte.size()) &&
         taste->modifiers() == Qt::NoModifier)
         schritte[static_cast<std::size_t>(nummer)]->click();
+    else if (taste->key() == Qt::Key_F11)
+        DialogÖffnen(new ZusatzKonfigForm);
     else if (taste->key() == Qt::Key_F12)
         DialogÖffnen(new SkalierungForm);
     else

@@ -1,0 +1,74 @@
+// The settings of the parish, of the plan and of everything printed.
+#pragma once
+
+#include "core/tables.h"
+#include "fenster/Zahlbox.h"
+#include "people/Flagboxen.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace altardienst {
+
+/// Every control writes its field at once; leaving the form checks nothing.
+class KonfigurationForm : public QWidget {
+  public:
+    KonfigurationForm();
+
+    QLineEdit *Bezeichnung;
+    QLineEdit *Straß;
+    QLineEdit *Örtchus;
+    QLineEdit *Datumsen;
+    SpinButton *SpinButton1;
+    QLabel *tagi;     // weekday of the start date
+    Zahlbox tagilein; // Änderung1
+    QLabel *Endet;
+    QLabel *Dayig;
+    Zahlbox DiffG;       // Änderung6
+    Zahlbox GrenzAuslos; // ÄLF
+    QComboBox *Schriftartig;
+    Zahlbox Schriftg;    // Änderung2
+    Zahlbox Über;        // Änderung4
+    Zahlbox Linker;      // Änderung3
+    Zahlbox Unt;         // Änderung5
+    Zahlbox OB;          // Änderung7
+    QLineEdit *DiffJahr; // not shown: the two options stand for it
+    QRadioButton *Hochformat;
+    QRadioButton *Querformat;
+    Flagboxen Flags8;  // Check1 to Check5
+    Flagboxen Flags6;  // Dress, Teflonie, Gebteg, Numm
+    Flagboxen Flags11; // Diner, Help
+    QPushButton *Ende;
+
+  protected:
+    bool eventFilter(QObject *control, QEvent *ereignis) override;
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void Anordnen();
+    QLayout *Gemeinde();
+    QLayout *Zeitraum();
+    QLayout *Zuweisung();
+    QLayout *Schrift();
+    QWidget *Ausrichtung();
+    QLayout *Flags();
+    void Verbinden();
+    void Füllen();
+
+    void PlzOrtVerlassen();
+    void DatumGedreht(int tage);
+    void TageGedreht(int tage);
+    void TageBegrenzen(int bis);
+    void PeriodeBerechnen();
+    void EndeZeigen();
+    void GrößendifferenzGeändert();
+    void SchriftenFüllen();
+
+    bool geschlossen = false;
+};
+
+} // namespace altardienst

@@ -1,0 +1,114 @@
+// The settings of the proposed start, and of the services that are set by hand.
+#include "settings/ZusatzKonfigForm.h"
+
+#include "core/tables.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+constexpr int WenigsteWochen = 1;
+constexpr int MeisteWochen = 20;
+
+QLabel *Absatz(const char *text, QWidget *zu = nullptr)
+{
+    QLabel *label = Beschriftung("", text, zu);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+ZusatzKonfigForm::ZusatzKonfigForm()
+    : Wer(Benannt(new QCheckBox("Weihrauch"), "Wer")),
+      Kr(Benannt(new QCheckBox("Kreuzträger"), "Kr")),
+      WOBO(ZahlboxAnlegen("WOBO", "UI1", "Wochen")), Ende(Knopf("Ende", "Ende"))
+{
+    std::size_t n = 0;
+    for (const char *tag :
+         {"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"}) {
+        OO[n] = Benannt(new QRadioButton(tag), ("OO" + std::to_string(n + 1)).c_str());
+        ++n;
+    }
+    Benannt(this, "ZusatzKonfig");
+    setWindowTitle("Zusätzliche Konfiguration");
+    Anordnen();
+    Verbinden();
+    Füllen();
+}
+
+void ZusatzKonfigForm::Anordnen()
+{
+    auto *dienste = new QHBoxLayout;
+    for (QCheckBox *box : {Wer, Kr})
+        dienste->addWidget(box);
+    dienste->addStretch();
+
+    auto *tage = new QGroupBox("Mit welchem Wochentag bei Aufruf des Programmes beginnen?");
+    auto *raster = new QGridLayout(tage);
+    for (int n = 0; n < static_cast<int>(OO.size()); ++n)
+        raster->addWidget(OO[static_cast<std::size_t>(n)], n / 4, n % 4);
+
+    auto *wochen = new QHBoxLayout;
+    wochen->addWidget(WOBO.Feld);
+    wochen->addWidget(WOBO.Spin);
+    wochen->addWidget(Beschriftung("", "Wochen"));
+    wochen->addStretch();
+
+    auto *unten = new QHBoxLayout;
+    unten->addStretch();
+    Ende->setMinimumWidth(110);
+    unten->addWidget(Ende);
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(20, 20, 20, 20);
+    spalte->setSpacing(12);
+    spalte->addWidget(Absatz("Folgende Dienste können beim angehackelten Kästchen manuell im "
+                             "Altardienst gesetzt werden."));
+    spalte->addLayout(dienste);
+    spalte->addWidget(tage);
+    spalte->addWidget(Absatz("Wieviel Wochen im voraus soll Anfangsdatum beim Programmstart "
+                             "gesetzt werden?",
+                             WOBO.Feld));
+    spalte->addLayout(wochen);
+    spalte->addStretch();
+    spalte->addLayout(unten);
+    resize(520, sizeHint().height());
+    Wer->setFocus();
+}
+
+void ZusatzKonfigForm::Verbinden()
+{
+    for (const auto &[box, wert] :
+         {std::pair{Wer, &Konfig.ManuellWeihrauch}, {Kr, &Konfig.ManuellKreuzträger}})
+        connect(box, &QCheckBox::clicked, this, [wert = wert](bool ja) { *wert = ja ? 1 : 0; });
+    for (int n = 0; n < static_cast<int>(OO.size()); ++n)
+        connect(OO[static_cast<std::size_t>(n)], &QRadioButton::clicked, this,
+                [n] { Konfig.StartWochentag = n + 1; });
+    BegrenztVerbinden(WOBO.Feld, Konfig.VorlaufWochen, WenigsteWochen, MeisteWochen);
+    DrehenMitFokus(WOBO);
+    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void ZusatzKonfigForm::Füllen()
+{
+    Wer->setChecked(Konfig.ManuellWeihrauch == 1);
+    Kr->setChecked(Konfig.ManuellKreuzträger == 1);
+    for (int n = 0; n < static_cast<int>(OO.size()); ++n)
+        OO[static_cast<std::size_t>(n)]->setChecked(n + 1 == Konfig.StartWochentag);
+    ZahlSetzen(WOBO.Feld, Konfig.VorlaufWochen);
+}
+
+void ZusatzKonfigForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    HauptfensterZurück();
+}
+
+} // namespace altardienst

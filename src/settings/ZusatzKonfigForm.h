@@ -1,0 +1,32 @@
+// The settings of the proposed start, and of the services that are set by hand.
+#pragma once
+
+#include "fenster/Zahlbox.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace altardienst {
+
+/// Every control writes its field at once; leaving the form checks nothing.
+class ZusatzKonfigForm : public QWidget {
+  public:
+    ZusatzKonfigForm();
+
+    QCheckBox *Wer;
+    QCheckBox *Kr;
+    std::array<QRadioButton *, 7> OO; // OO1 to OO7
+    Zahlbox WOBO;                     // UI1
+    QPushButton *Ende;
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void Anordnen();
+    void Verbinden();
+    void Füllen();
+};
+
+} // namespace altardienst
