@@ -2,6 +2,7 @@
 #include "fenster/Bausteine.h"
 
 #include "core/Ansi.h"
+#include "fenster/Tippgedächtnis.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -97,6 +98,7 @@ QLineEdit *Textfeld(const char *name)
         feld->setText(darstellbar);
         feld->setCursorPosition(static_cast<int>(stelle));
     });
+    new Tippgedächtnis(feld);
     return feld;
 }
 

@@ -171,18 +171,28 @@ void LektorrenuswForm::ZahlGeändert(std::size_t art)
 
 void LektorrenuswForm::KomboVerlassen(std::size_t p)
 {
+    if (meldet)
+        return;
     const Platz &platz = Plätze[p];
     const Text text = TextVon(platz.LH);
     for (std::size_t q = 0; q < Plätze.size(); ++q) {
         if (q == p || text.empty() || TextVon(Plätze[q].LH) != text)
             continue;
-        Meldungen.Zeigen("Meßhelfer ist schon dieser Messe zugeordnet!!!");
+        Melden("Meßhelfer ist schon dieser Messe zugeordnet!!!");
         return KomboZurück(platz);
     }
     if (text.empty() || IstHelfer(text))
         return NamenTeilen();
-    Meldungen.Zeigen("Meßhelfer ist unbekannt!! Auswählen oder neu eingeben!!");
+    Melden("Meßhelfer ist unbekannt!! Auswählen oder neu eingeben!!");
     KomboZurück(platz);
+}
+
+/// The message takes the focus from the box that has just got it; that is no leaving.
+void LektorrenuswForm::Melden(const char *meldung)
+{
+    meldet = true;
+    Meldungen.Zeigen(meldung);
+    meldet = false;
 }
 
 /// Back to the names of the place.

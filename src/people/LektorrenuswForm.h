@@ -44,9 +44,11 @@ class LektorrenuswForm : public QWidget {
     void KomboVerlassen(std::size_t p);
     void KomboZurück(const Platz &platz);
     void NamenTeilen();
+    void Melden(const char *meldung);
     void Schreiben();
 
     std::function<void()> danach;
+    bool meldet = false;
 };
 
 } // namespace altardienst

@@ -55,10 +55,13 @@ std::array<QLineEdit *, 7> Dienstboxen::Felder() const
             Dienste[3].Feld, Dienste[4].Feld, Allgemein.Feld};
 }
 
-Dienstwünsche Dienstboxen::Wünsche() const
+void Dienstboxen::Lesen(Dienstwünsche &wünsche) const
 {
-    return {ZahlIn(Dienste[0].Feld), ZahlIn(Dienste[1].Feld), ZahlIn(Dienste[2].Feld),
-            ZahlIn(Dienste[3].Feld), ZahlIn(Dienste[4].Feld)};
+    wünsche.Gabenbereitung = ZahlIn(Dienste[0].Feld);
+    wünsche.Leuchter = ZahlIn(Dienste[1].Feld);
+    wünsche.Flambeau = ZahlIn(Dienste[2].Feld);
+    wünsche.Weihrauch = ZahlIn(Dienste[3].Feld);
+    wünsche.Kreuzträger = ZahlIn(Dienste[4].Feld);
 }
 
 int Dienstboxen::SummeDerDienste() const

@@ -48,7 +48,8 @@ class Dienstboxen {
     /// All seven boxes, in the order of the screen.
     std::array<QLineEdit *, 7> Felder() const;
 
-    Dienstwünsche Wünsche() const;
+    /// In the order of the screen up to the first box that holds no number; failure 13 then.
+    void Lesen(Dienstwünsche &wünsche) const;
 
   private:
     template <class Tabelle> static auto Spalten(Tabelle &t)

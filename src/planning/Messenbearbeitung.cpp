@@ -9,15 +9,17 @@
 
 namespace altardienst {
 
-void FesteEintraegeMitziehen(int i, Datum datum, Datum uhrzeit)
+void FesteEintraegeMitziehen(int i, const Text &datum, const Text &uhrzeit)
 {
     const Datum alterTag = Messe.Datum[i];
     const Datum alteZeit = Messe.Uhrzeit[i];
     for (int k = 0; k <= MesseDienerFest.Anzahl; ++k) {
         if (MesseDienerFest.Datum[k] != alterTag || MesseDienerFest.Uhrzeit[k] != alteZeit)
             continue;
-        MesseDienerFest.Datum[k] = datum;
-        MesseDienerFest.Uhrzeit[k] = uhrzeit;
+        const Datum neuerTag = DatumLesen(datum);
+        const Datum neueZeit = DatumLesen(uhrzeit);
+        MesseDienerFest.Datum[k] = neuerTag;
+        MesseDienerFest.Uhrzeit[k] = neueZeit;
     }
 }
 

@@ -13,12 +13,15 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QPointer>
 #include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
 
 constexpr int LetzterDatensatz = 600;
+
+QPointer<MessenlisteForm> offene;
 
 QString Nummeriert(const char *stamm, std::size_t k)
 {
@@ -55,6 +58,20 @@ MessenlisteForm::MessenlisteForm()
     }
     Anordnen();
     Verbinden();
+    Laden();
+    offene = this;
+}
+
+MessenlisteForm *MessenlisteForm::Offene()
+{
+    if (!offene)
+        return new MessenlisteForm;
+    offene->Laden();
+    return offene;
+}
+
+void MessenlisteForm::Laden()
+{
     Abgefangen([this] {
         ZahlSetzen(Wahl->Nummer, Messe.Cursor);
         AnzahlZeigen();
@@ -204,11 +221,22 @@ void MessenlisteForm::ZeilenZeigen(int diener)
     ordnung->invalidate();
 }
 
+/// A service that is no number leaves its slots and all behind them numbered.
 void MessenlisteForm::Beschriften()
 {
-    const auto texte = SlotBeschriftungen(Dienste.Wünsche());
-    for (std::size_t k = 0; k < MDR.size(); ++k)
-        Setzen(MDR[k], texte[k]);
+    Dienstwünsche wünsche;
+    const auto beschriften = [&] {
+        const auto texte = SlotBeschriftungen(wünsche);
+        for (std::size_t k = 0; k < MDR.size(); ++k)
+            Setzen(MDR[k], texte[k]);
+    };
+    try {
+        Dienste.Lesen(wünsche);
+    } catch (const Laufzeitfehler &) {
+        beschriften();
+        throw;
+    }
+    beschriften();
 }
 
 void MessenlisteForm::Löschen()
@@ -263,8 +291,8 @@ void MessenlisteForm::HelferDerMesse()
 /// A fixed entry follows its mass when the mass is moved.
 void MessenlisteForm::Mitziehen()
 {
-    FesteEintraegeMitziehen(ZahlIn(Wahl->Nummer), DatumLesen(TextVon(Termin.datendaten)),
-                            DatumLesen(TextVon(Termin.Uhrwerk)));
+    FesteEintraegeMitziehen(ZahlIn(Wahl->Nummer), TextVon(Termin.datendaten),
+                            TextVon(Termin.Uhrwerk));
 }
 
 void MessenlisteForm::Zeigen(int i)
@@ -310,6 +338,7 @@ void MessenlisteForm::closeEvent(QCloseEvent *ereignis)
         Mitziehen();
         Schreiben(ZahlIn(Wahl->Nummer));
         ereignis->accept();
+        offene.clear();
         HauptfensterZurück();
     })();
 }

@@ -14,6 +14,10 @@ class MessenlisteForm : public QWidget {
   public:
     MessenlisteForm();
 
+    /// The list that is open already, with its mass read anew, as the main window stays in use
+    /// beside it; otherwise a new one.
+    static MessenlisteForm *Offene();
+
     Datensatzwahl *Wahl; // Datensatzus, Plus, Minus, DPM
     QLabel *maxi;
     Terminfelder Termin;      // tagelang, Taga, datendaten, Uhrwerk, Änderung1 to 6
@@ -39,6 +43,7 @@ class MessenlisteForm : public QWidget {
     void closeEvent(QCloseEvent *ereignis) override;
 
   private:
+    void Laden();
     void Anordnen();
     QLayout *Slots();
     Terminfelder::Knöpfe Terminknöpfe() const;

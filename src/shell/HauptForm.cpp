@@ -195,7 +195,7 @@ void HauptForm::MenüDaten()
     Eintrag(daten, "mnuMeßdiener", "&Meßdiener", [] { DialogÖffnen(new MeßdienerForm); });
     Eintrag(daten, "MnuMESSDIENZUMESS", "Meßdiener &zu Messen",
             [] { DialogÖffnen(MesseDienerFestForm::Offene()); });
-    Eintrag(daten, "mnuMessen", "M&essen", [] { DialogÖffnen(new MessenlisteForm); });
+    Eintrag(daten, "mnuMessen", "M&essen", [] { DialogÖffnen(MessenlisteForm::Offene()); });
     Trennstrich(daten, "mnuFileBar6");
     Eintrag(daten, "mnuJubGeb", "&Jubiläen und Geburtstage",
             [] { DialogÖffnen(new JubiGebuForm); });
@@ -292,13 +292,13 @@ void HauptForm::Verbinden()
     schritt(Messenorgani, [] {
         MessenNeuBestimmen();
         // The one case in which the main window stays enabled behind a dialog.
-        DialogDanebenÖffnen(new MessenlisteForm);
+        DialogDanebenÖffnen(MessenlisteForm::Offene());
     });
     schritt(Meßdienernern, [] { DialogÖffnen(new NeuMesseDienerFestForm); });
     schritt(Dienstus, MessenMitMeßdienerBesetzen);
     schritt(MeßdienerMessen, WunschpartnerBerücksichtigen);
     schritt(Helfend, MessenMitMessehelferBesetzen);
-    schritt(AnzMesse, [] { DialogÖffnen(new MessenlisteForm); });
+    schritt(AnzMesse, [] { DialogÖffnen(MessenlisteForm::Offene()); });
     schritt(Messendruck, PlanDrucken);
 
     connect(Timer1, &QTimer::timeout, this, Abgefangen([this] { Takt(); }));

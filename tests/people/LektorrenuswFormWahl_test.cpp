@@ -75,6 +75,44 @@ TEST_F(LektorrenuswFormWahlTest, EinUnbekannterNameGehtZurück)
     }
 }
 
+// Told by a real message box, which takes the focus from the place that was entered next.
+TEST_F(LektorrenuswFormWahlTest, EinUnbekannterGehtAuchAufDemWegZumNächstenPlatzZurück)
+{
+    for (const char *text : {"Niemand,Nina", "Bauer,Bernd"}) {
+        Öffnen();
+        EchteMeldungen();
+        int meldungen = 0;
+        Beantworten([&](QMessageBox *box) {
+            ++meldungen;
+            box->accept();
+        });
+        LH(0)->setFocus();
+        LH(0)->setCurrentText(text);
+        LH(2)->setFocus();
+        EXPECT_EQ(meldungen, 1) << text;
+        EXPECT_EQ(LH(0)->currentText(), "Abel,Anna");
+        EXPECT_EQ(Zeigt("Lecki1Vor"), "Anna");
+        EXPECT_EQ(Zeigt("Lecki1nach"), "Abel");
+        delete form;
+    }
+}
+
+TEST_F(LektorrenuswFormWahlTest, DoppeltGiltVorUnbekannt)
+{
+    Helfer.Anzahl = 0;
+    Öffnen();
+    Wählen(0, "Bauer,Bernd");
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{Schon});
+}
+
+TEST_F(LektorrenuswFormWahlTest, NurEinKommaAlleinWirdLeer)
+{
+    (*Vor[3])[2].clear();
+    Öffnen();
+    Wählen(3, "Niemand,Nina");
+    EXPECT_EQ(LH(3)->currentText(), "Dahl,");
+}
+
 TEST_F(LektorrenuswFormWahlTest, OhneNamenGehtDasFeldAufLeerZurück)
 {
     Öffnen();

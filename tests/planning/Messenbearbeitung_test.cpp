@@ -30,7 +30,7 @@ TEST_F(MessenbearbeitungTest, FesteEintraegeMitziehenNurBeiGleichemTagUndGleiche
     Fest(2, Sonntag + 1, Zehn);
     Fest(3, Sonntag, Zehn);
     MesseDienerFest.Anzahl = 4;
-    FesteEintraegeMitziehen(0, Sonntag + 7, Elf);
+    FesteEintraegeMitziehen(0, KurzesDatum(Sonntag + 7), LangeZeit(Elf));
     const std::array erwartet = {std::pair(Sonntag + 7, Elf), std::pair(Sonntag, Elf),
                                  std::pair(Sonntag + 1, Zehn), std::pair(Sonntag + 7, Elf)};
     for (int k = 0; k < 4; ++k) {
@@ -49,7 +49,7 @@ TEST_F(MessenbearbeitungTest, FesteEintraegeMitziehenGehtBisZumFreienDatensatz)
     for (int k = 0; k < 4; ++k)
         Fest(k, Sonntag, Zehn);
     MesseDienerFest.Anzahl = 2;
-    FesteEintraegeMitziehen(0, Sonntag, Elf);
+    FesteEintraegeMitziehen(0, KurzesDatum(Sonntag), LangeZeit(Elf));
     EXPECT_EQ(MesseDienerFest.Uhrzeit[2], Elf);
     EXPECT_EQ(MesseDienerFest.Uhrzeit[3], Zehn);
 }
@@ -61,7 +61,7 @@ TEST_F(MessenbearbeitungTest, FesteEintraegeMitziehenNimmtDieMesseAufDemSchirm)
     Fest(0, Sonntag, Zehn);
     Fest(1, Sonntag, Elf);
     MesseDienerFest.Anzahl = 2;
-    FesteEintraegeMitziehen(1, Sonntag + 3, Zehn);
+    FesteEintraegeMitziehen(1, KurzesDatum(Sonntag + 3), LangeZeit(Zehn));
     EXPECT_EQ(MesseDienerFest.Datum[0], Sonntag);
     EXPECT_EQ(MesseDienerFest.Datum[1], Sonntag + 3);
     EXPECT_EQ(MesseDienerFest.Uhrzeit[1], Zehn);

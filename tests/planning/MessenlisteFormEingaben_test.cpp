@@ -278,6 +278,35 @@ TEST_F(MessenlisteFormEingabenTest, WasSichNichtUmwandelnLässtHältDasSpeichern
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
 }
 
+// Date and time are converted in their turn where no entry needs them.
+TEST_F(MessenlisteFormEingabenTest, OhneFestenEintragStehtWasVorDemSchlechtenTerminLiegt)
+{
+    for (const std::size_t k : {1U, 2U}) {
+        AllesÄndern();
+        Eingeben(Boxen()[k].c_str(), "abc");
+        const Satz schirm = Schirm();
+        Drücken("Plus");
+        Messenbild modell = vorher;
+        modell[4] = Mit(modell[4], schirm, k);
+        EXPECT_EQ(MessenJetzt(), modell) << k;
+        EXPECT_EQ(Zeigt("Datensatzus"), "4");
+        MesseFüllen(4);
+    }
+}
+
+TEST_F(MessenlisteFormEingabenTest, EinSchlechterDienstLässtDieSlotsHinterIhmNummeriert)
+{
+    Dienste({1, 1, 2, 2, 0, 0});
+    Eingeben("Dienster3", "abc");
+    Eingeben("Dienster1", "2");
+    Eingeben("Dienerzahlen", "9");
+    EXPECT_EQ(Slot(1), "Gabenber. :");
+    EXPECT_EQ(Slot(2), "Gabenber. :");
+    EXPECT_EQ(Slot(3), "Leuchter :");
+    for (int k = 4; k <= 20; ++k)
+        EXPECT_EQ(Slot(k), "Meßdiener " + ZahlText(k) + " :");
+}
+
 TEST_F(MessenlisteFormEingabenTest, InDerTabelleStehtWasAufDemSchirmStand)
 {
     for (const Text &box : Boxen()) {

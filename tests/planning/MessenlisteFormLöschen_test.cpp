@@ -49,6 +49,28 @@ TEST_F(MessenlisteFormLöschenTest, LöschenSchließtDieLückeInJederSpalte)
     }
 }
 
+// Filled in once: the change of the date rewrites the weekday, the services the count.
+TEST_F(MessenlisteFormLöschenTest, NachDemLöschenFülltSichDerSchirmEinmalUndDieSlotsSindDieDerMesse)
+{
+    Öffnen(5);
+    Antworten = {true};
+    Messe.Gabenbereitung[6] = 0;
+    Messe.Leuchter[6] = 0;
+    Messe.Flambeau[6] = 0;
+    Messe.Weihrauch[6] = 2;
+    Messe.Kreuzträger[6] = 0;
+    Messe.Allgemein[6] = 3;
+    Messe.Dienerzahl[6] = 5;
+    Drücken("Löscher");
+    EXPECT_EQ(Länge(Zeigt("tagelang")), 10);
+    EXPECT_EQ(Zeigt("Dienerzahlen"), "5");
+    EXPECT_EQ(Slot(1), "Weihrauch :");
+    EXPECT_EQ(Slot(2), "Weihrauch :");
+    EXPECT_EQ(Slot(3), "Meßdiener 3 :");
+    form->close();
+    EXPECT_EQ(Länge(Messe.Wochentag[5]), 10);
+}
+
 TEST_F(MessenlisteFormLöschenTest, LöschenVergißtWasAufDemSchirmStand)
 {
     Öffnen(5);
@@ -172,6 +194,28 @@ TEST_F(MessenlisteImProgramm, Knopf1ZeigtDieNeuenMessenVonDerErstenAn)
     EXPECT_EQ(Zeigt("tagelang"), "Sonntag");
     ListeZurück();
     EXPECT_EQ(Messe.Wochentag[0], "Sonntag");
+}
+
+// The main window stays in use beside the list, so (1) and (6) may be pressed again.
+TEST_F(MessenlisteImProgramm, EsGibtEineListeUndSieZeigtDieMessenNeu)
+{
+    MessenFüllen(5);
+    Klick(haupt->Messenorgani);
+    form = Fenster("Messenliste");
+    Eingeben("Messewesen", "veraltet");
+    MessenFüllen(5);
+    Messe.Cursor = 2;
+    DialogDanebenÖffnen(MessenlisteForm::Offene());
+    EXPECT_EQ(Fenster("Messenliste"), form);
+    EXPECT_EQ(Zeigt("Datensatzus"), "2");
+    EXPECT_EQ(Zeigt("Messewesen"), "Art2");
+    Klick(haupt->AnzMesse);
+    int listen = 0;
+    for (QWidget *fenster : QApplication::topLevelWidgets())
+        listen += fenster->objectName() == "Messenliste" ? 1 : 0;
+    EXPECT_EQ(listen, 1);
+    ListeZurück();
+    EXPECT_EQ(Messe.Messeart[0], "Art0");
 }
 
 } // namespace

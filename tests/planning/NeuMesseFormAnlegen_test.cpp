@@ -61,6 +61,20 @@ TEST_F(NeuMesseFormAnlegenTest, NachOKZeigtDieListeIhreNummerNeu)
     EXPECT_EQ(Messe.DienerVor[0][1], "");
 }
 
+// Filled in once: the change of the date rewrites the weekday, the services the count.
+TEST_F(NeuMesseFormAnlegenTest, DieListeFülltSichNachOKNurEinmal)
+{
+    Öffnen(2);
+    Termin("21.11.2026", "7:00", "Samstag");
+    Drücken("OKButton");
+    EXPECT_EQ(Länge(InDerListe("tagelang")), 10);
+    EXPECT_NE(InDerListe("tagelang"), Messe.Wochentag[2]);
+    EXPECT_EQ(InDerListe("Dienerzahlen"),
+              ZahlText(Messe.Gabenbereitung[2] + Messe.Leuchter[2] + Messe.Flambeau[2] +
+                       Messe.Weihrauch[2] + Messe.Kreuzträger[2] + Messe.Allgemein[2]));
+    EXPECT_NE(InDerListe("Dienerzahlen"), ZahlText(Messe.Dienerzahl[2]));
+}
+
 TEST_F(NeuMesseFormAnlegenTest, EinVergangenesDatumWirdVorDemSchreibenHeute)
 {
     Öffnen();

@@ -155,6 +155,7 @@ TEST_F(StandardmessenFormTest, AnDenEndenWirdNichtsGeschrieben)
         AllesÄndern();
         bewegung.Tun(form);
         EXPECT_EQ(StandardmessenJetzt(), vorher) << bewegung.Name;
+        EXPECT_EQ(Zeigt("Messearten"), "Art" + ZahlText(ende)); // clipped, it is shown again
         EXPECT_EQ(Zeigt("Datensatznummer"), ZahlText(ende));
         EXPECT_EQ(Standardmesse.Anzahl, ende);
         EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
@@ -164,6 +165,17 @@ TEST_F(StandardmessenFormTest, AnDenEndenWirdNichtsGeschrieben)
         prüfen(bewegung, 10);
     for (const Bewegung &bewegung : Rückwärts)
         prüfen(bewegung, 0);
+}
+
+TEST_F(StandardmessenFormTest, EineZeileOhneMesseHatKeinenWochentag)
+{
+    Standardmesse.Wochentag[4].clear();
+    vorher = StandardmessenJetzt();
+    Öffnen(3);
+    Drücken("Plus");
+    EXPECT_EQ(Tage()->currentText(), "");
+    Drücken("Plus");
+    EXPECT_EQ(StandardmessenJetzt(), vorher);
 }
 
 TEST_F(StandardmessenFormTest, NurGezeigteDatensätzeBehaltenIhreDienerzahl)
