@@ -1,0 +1,145 @@
+// The fixture of the tests of statistics windows: they print into a PDF file, and their tables are
+// read by the place of the labels.
+#pragma once
+
+#include "fenster/Anwendung.h"
+#include "fenster/DruckerQt.h"
+#include "fenster/Fensterstand.h"
+#include "fenster/Handler.h"
+#include "fenster/PdfLesen.h"
+
+#include <QPointer>
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+namespace altardienst {
+
+class Statistikstand : public Fensterstand {
+  protected:
+    Statistikstand() : zuvor(std::exchange(Drucker, &drucker))
+    {
+        Benannt(&haupt, "Haupt");
+        HauptfensterSetzen(&haupt);
+        haupt.showMaximized();
+    }
+    ~Statistikstand() override
+    {
+        Drucker = zuvor;
+        HauptfensterSetzen(nullptr);
+    }
+
+    /// As the menu opens it.
+    template <class Form> Form *Öffnen()
+    {
+        auto *neu = new Form;
+        form = neu;
+        DialogÖffnen(neu);
+        Zeigen(neu);
+        return neu;
+    }
+
+    QLabel *Label(const char *name) const { return Finden<QLabel>(form, name); }
+    Text Zeigt(const Text &name) const { return Aufschrift(Label(name.c_str())); }
+    void Drücken(const char *name) const { Klick(Finden(form, name)); }
+
+    /// What stands in a row up to this label, such as "Leuchter|3|1,500".
+    Text ZeileBis(const char *name) const
+    {
+        const QRect ort = Ort(Label(name));
+        Text zeile;
+        for (const QLabel *label : ImFenster()) {
+            const QRect o = Ort(label);
+            if (std::abs(o.center().y() - ort.center().y()) <= 6 && o.left() <= ort.left() &&
+                o.left() >= linkeGrenze)
+                zeile += (zeile.empty() ? "" : "|") + Aufschrift(label);
+        }
+        return zeile;
+    }
+
+    /// What stands next to the right of this label.
+    Text Danach(const char *name) const
+    {
+        const QRect ort = Ort(Label(name));
+        for (const QLabel *label : ImFenster())
+            if (std::abs(Ort(label).center().y() - ort.center().y()) <= 6 &&
+                Ort(label).left() > ort.left())
+                return Aufschrift(label);
+        return "nothing behind " + Text(name);
+    }
+
+    /// What stands over this label at the head of its column.
+    Text Kopf(const char *name) const
+    {
+        const QRect ort = Ort(Label(name));
+        const QLabel *kopf = nullptr;
+        for (const QLabel *label : ImFenster())
+            if (label->font().bold() && Ort(label).bottom() < ort.top() &&
+                Ort(label).left() <= ort.center().x() && ort.center().x() <= Ort(label).right())
+                kopf = label;
+        return kopf ? Aufschrift(kopf) : "nothing above " + Text(name);
+    }
+
+    /// A window that does not come to be: what was told, with the main window left as it was.
+    template <class Form> Text Scheitert()
+    {
+        Offen([] { DialogÖffnen(new Form); })();
+        EXPECT_TRUE(haupt.isEnabled());
+        EXPECT_FALSE(haupt.isMinimized());
+        EXPECT_EQ(QApplication::topLevelWidgets().size(), 1); // of these the main window alone
+        return GezeigteMeldungen.empty() ? "nothing told" : GezeigteMeldungen.back();
+    }
+
+    /// The window closes in this way and the main window is back.
+    void SchließtMit(const std::function<void()> &weg)
+    {
+        EXPECT_FALSE(haupt.isEnabled());
+        EXPECT_TRUE(haupt.isMinimized());
+        weg();
+        EXPECT_TRUE(Warten([&] { return form.isNull(); })) << "not unloaded";
+        EXPECT_TRUE(haupt.isEnabled());
+        EXPECT_TRUE(haupt.isMaximized());
+    }
+
+    /// What the window is held to in its make-up.
+    void IstOrdentlich(const std::vector<Text> &tabfolge)
+    {
+        EXPECT_EQ(Stumme(form), std::vector<Text>());
+        EXPECT_LE(form->width(), KleinsterBildschirm.width());
+        EXPECT_LE(form->height(), KleinsterBildschirm.height());
+        EXPECT_EQ(Tabfolge(form), tabfolge);
+    }
+
+    int linkeGrenze = 0; // of the table that is read, in the window
+    QWidget haupt;
+    QPointer<QWidget> form;
+    const QString datei = Anzeige(Festplatte.string()) + "/Bild.pdf";
+    bool abgebrochen = false; // the print dialog
+
+  private:
+    QRect Ort(const QWidget *control) const
+    {
+        return {control->mapTo(form, QPoint()), control->size()};
+    }
+
+    /// From left to right.
+    std::vector<QLabel *> ImFenster() const
+    {
+        std::vector<QLabel *> labels;
+        for (QLabel *label : form->findChildren<QLabel *>())
+            if (label->isVisibleTo(form) && !label->text().isEmpty())
+                labels.push_back(label);
+        std::ranges::sort(labels, {}, [&](const QLabel *l) { return Ort(l).left(); });
+        return labels;
+    }
+
+    DruckerQt drucker{[this](const Druckanfrage &) -> std::optional<Druckauswahl> {
+        if (abgebrochen)
+            return std::nullopt;
+        return Druckauswahl{0, PdfDrucker(datei)};
+    }};
+    DruckerDienst *zuvor;
+};
+
+} // namespace altardienst
