@@ -8,33 +8,33 @@
 #include <QPainter>
 #include <QPushButton>
 
+#include <utility>
+
 namespace altardienst {
 namespace {
 
 /// Makes a window ready for paper until it goes: black on white, without command buttons.
 class Druckansicht {
   public:
-    explicit Druckansicht(QWidget *fenster)
-        : fenster(fenster), fokus(fenster->focusWidget()), farben(fenster->palette())
+    explicit Druckansicht(QWidget *fenster) : fenster(fenster), fokus(fenster->focusWidget())
     {
         for (auto *knopf : fenster->findChildren<QPushButton *>())
             if (!knopf->isHidden()) {
                 knöpfe.append(knopf);
                 knopf->hide();
             }
-        QPalette papier = farben;
-        for (const auto rolle : {QPalette::Window, QPalette::Base})
-            papier.setColor(rolle, Qt::white);
-        for (const auto rolle : {QPalette::WindowText, QPalette::Text})
-            papier.setColor(rolle, Qt::black);
-        fenster->setPalette(papier);
+        // With a style sheet the colours of a window don't pass to its parts.
+        Umfärben(fenster);
+        for (auto *teil : fenster->findChildren<QWidget *>())
+            Umfärben(teil);
         fenster->layout()->activate();
     }
     Druckansicht(const Druckansicht &) = delete;
     Druckansicht &operator=(const Druckansicht &) = delete;
     ~Druckansicht()
     {
-        fenster->setPalette(farben);
+        for (const auto &[teil, palette] : farben)
+            teil->setPalette(palette);
         for (QPushButton *knopf : knöpfe)
             knopf->show();
         fenster->layout()->activate();
@@ -43,10 +43,21 @@ class Druckansicht {
     }
 
   private:
+    void Umfärben(QWidget *teil)
+    {
+        farben.append({teil, teil->palette()});
+        QPalette papier = teil->palette();
+        for (const auto rolle : {QPalette::Window, QPalette::Base})
+            papier.setColor(rolle, Qt::white);
+        for (const auto rolle : {QPalette::WindowText, QPalette::Text})
+            papier.setColor(rolle, Qt::black);
+        teil->setPalette(papier);
+    }
+
     QWidget *fenster;
     QWidget *fokus;
-    QPalette farben;
     QList<QPushButton *> knöpfe;
+    QList<std::pair<QWidget *, QPalette>> farben;
 };
 
 /// A printer as the target would give a blown-up screen picture; a QPicture keeps the strokes.

@@ -8,6 +8,7 @@
 #include "fenster/Handler.h"
 #include "fenster/PdfLesen.h"
 
+#include <QGroupBox>
 #include <QPointer>
 
 #include <algorithm>
@@ -79,6 +80,25 @@ class Statistikstand : public Fensterstand {
                 Ort(label).left() <= ort.center().x() && ort.center().x() <= Ort(label).right())
                 kopf = label;
         return kopf ? Aufschrift(kopf) : "nothing above " + Text(name);
+    }
+
+    /// The heads of the tables, from left to right.
+    std::vector<Text> Köpfe() const
+    {
+        std::vector<Text> köpfe;
+        for (const QLabel *label : ImFenster())
+            if (label->font().bold())
+                köpfe.push_back(Aufschrift(label));
+        return köpfe;
+    }
+
+    /// The printed letters without what lies between them: text that stands aslant is read by the
+    /// letter.
+    Text Gedruckt() const
+    {
+        Text text = Aufruf("pdftotext", {"-raw", datei, "-"});
+        std::erase_if(text, [](unsigned char zeichen) { return zeichen <= ' '; });
+        return text;
     }
 
     /// A window that does not come to be: what was told, with the main window left as it was.

@@ -1,0 +1,203 @@
+// The services of each server and each helper through their windows.
+#include "statistics/StatDienstForm.h"
+#include "statistics/StatHelferForm.h"
+#include "statistics/Statistikstand.h"
+
+namespace altardienst {
+namespace {
+
+class DienstblattFormTest : public Statistikstand {
+  protected:
+    DienstblattFormTest()
+    {
+        Konfig.Schriftart = "Liberation Sans";
+        Konfig.Schriftgröße = 10;
+        Konfig.Überschriftgröße = 14;
+        Konfig.RandLinks = 20;
+        Konfig.RandOben = 15;
+        Konfig.DiffJahr = 2;
+        for (const char *vorname : {"Anna", "Ben", "Cara"})
+            MeßdienerAnlegen(vorname, "Berg");
+        HelferAnlegen("Lea", "Lang", "Lektor");
+        HelferAnlegen("Max", "Moos", "Kantor");
+        const int i = MesseMitDienern(DatumAus({2026, 11, 22}), 6);
+        int slot = 1;
+        for (const char *dienst : {"Gabenbereitung", "Leuchter", "Flambeau", "Weihrauch",
+                                   "Kreuzträger", "Allgemein", "Leuchter"}) {
+            Messe.DienerVor[i][slot] = slot < 7 ? "Anna" : "Ben";
+            Messe.DienerNach[i][slot] = "Berg";
+            Messe.DienerDienst[i][slot - 1] = dienst;
+            ++slot;
+        }
+        Messe.Lektor1Vor[i] = "Lea";
+        Messe.Lektor1Nach[i] = "Lang";
+        Messe.Komm2Vor[i] = Messe.Kollekt1Vor[i] = "Max";
+        Messe.Komm2Nach[i] = Messe.Kollekt1Nach[i] = "Moos";
+    }
+
+    Text Gezeigt(std::initializer_list<const char *> namen) const
+    {
+        Text zeile;
+        for (const char *name : namen)
+            zeile += (zeile.empty() ? "" : " ") + Zeigt(name);
+        return zeile;
+    }
+    Text Diener() const { return Gezeigt({"V", "N", "G", "L", "F", "W", "K", "A", "I"}); }
+    Text Helferzeile() const { return Gezeigt({"V1", "N1", "LE1", "KM1", "KN1", "KL1", "IN1"}); }
+    Text Nummer(const char *name = "INDEXLEIN") const { return Aufschrift(Finden(form, name)); }
+    void Tippe(const char *text) const { Tippen(Finden(form, "INDEXLEIN"), text); }
+};
+
+TEST_F(DienstblattFormTest, MeßdienerMitIhrenBeschriftungen)
+{
+    Öffnen<StatDienstForm>();
+    EXPECT_EQ(Nummer(), "0");
+    EXPECT_EQ(ZeileBis("V"), "Vorname|Anna");
+    EXPECT_EQ(ZeileBis("N"), "Nachname|Berg");
+    EXPECT_EQ(ZeileBis("G"), "Gabenbereitung|1");
+    EXPECT_EQ(ZeileBis("L"), "Leuchter|1");
+    EXPECT_EQ(ZeileBis("F"), "Flambeau|1");
+    EXPECT_EQ(ZeileBis("W"), "Weihrauch|1");
+    EXPECT_EQ(ZeileBis("K"), "Kreuzträger|1");
+    EXPECT_EQ(ZeileBis("A"), "Allgemein|1");
+    EXPECT_EQ(ZeileBis("I"), "Insgesamt|6");
+}
+
+TEST_F(DienstblattFormTest, HelferMitIhrenBeschriftungen)
+{
+    Öffnen<StatHelferForm>();
+    EXPECT_EQ(Nummer("Indexchen"), "0");
+    EXPECT_EQ(ZeileBis("V1"), "Vorname|Lea");
+    EXPECT_EQ(ZeileBis("N1"), "Nachname|Lang");
+    EXPECT_EQ(ZeileBis("LE1"), "Lektor|1");
+    EXPECT_EQ(ZeileBis("KM1"), "Kommunionhelfer|0");
+    EXPECT_EQ(ZeileBis("KN1"), "Kantor|0");
+    EXPECT_EQ(ZeileBis("KL1"), "Kollektant|0");
+    EXPECT_EQ(ZeileBis("IN1"), "Insgesamt|1");
+    Drücken("PLUS");
+    EXPECT_EQ(Nummer("Indexchen"), "1");
+    EXPECT_EQ(Helferzeile(), "Max Moos 0 1 0 1 2");
+    Drücken("PLUS"); // stays at the last one
+    EXPECT_EQ(Nummer("Indexchen"), "1");
+    Drücken("MINUS");
+    EXPECT_EQ(Helferzeile(), "Lea Lang 1 0 0 0 1");
+}
+
+TEST_F(DienstblattFormTest, PlusUndMinusBleibenInDenSätzen)
+{
+    Öffnen<StatDienstForm>();
+    Drücken("MINUS");
+    EXPECT_EQ(Nummer(), "0");
+    Drücken("PLUS");
+    EXPECT_EQ(Diener(), "Ben Berg 0 1 0 0 0 0 1");
+    Drücken("PLUS");
+    EXPECT_EQ(Diener(), "Cara Berg 0 0 0 0 0 0 0");
+    Drücken("PLUS");
+    EXPECT_EQ(Nummer(), "2");
+    Drücken("MINUS");
+    EXPECT_EQ(Nummer(), "1");
+}
+
+TEST_F(DienstblattFormTest, EineNummerAußerhalbFälltAufNull)
+{
+    Öffnen<StatDienstForm>();
+    for (const char *zahl : {"3", "4", "99"}) {
+        Tippe("1");
+        EXPECT_EQ(Zeigt("V"), "Ben");
+        Tippe(zahl);
+        EXPECT_EQ(Nummer(), "0") << zahl;
+        EXPECT_EQ(Zeigt("V"), "Anna") << zahl;
+    }
+    Tippe("2");
+    EXPECT_EQ(Zeigt("V"), "Cara");
+}
+
+TEST_F(DienstblattFormTest, WasKeineNummerIstLäßtDieZeileStehen)
+{
+    Öffnen<StatDienstForm>();
+    for (const char *text : {"", "x", "-1"}) {
+        Tippe("1");
+        Tippe(text);
+        EXPECT_EQ(Nummer(), text);
+        EXPECT_EQ(Zeigt("V"), "Ben");
+    }
+    Tippe("x");
+    Drücken("PLUS");
+    Drücken("MINUS");
+    EXPECT_EQ(Nummer(), "x");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(DienstblattFormTest, OhneMeßdienerBleibtDieZeileNull)
+{
+    Meßdiener.Anzahl = 0;
+    Öffnen<StatDienstForm>();
+    EXPECT_EQ(Nummer(), "0");
+    EXPECT_EQ(Zeigt("V"), "Anna"); // the record behind the last one, as it stands
+    Drücken("PLUS");
+    EXPECT_EQ(Nummer(), "0");
+    Tippe("1");
+    EXPECT_EQ(Nummer(), "0");
+    delete form;
+    Helfer.Anzahl = 0;
+    Öffnen<StatHelferForm>();
+    EXPECT_EQ(Nummer("Indexchen"), "0");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(DienstblattFormTest, ZuVieleSätzeSindEinFehler)
+{
+    Messe.Anzahl = 603;
+    EXPECT_EQ(Scheitert<StatDienstForm>(),
+              "Laufzeitfehler '9': Index außerhalb des gültigen Bereichs");
+    EXPECT_EQ(Scheitert<StatHelferForm>(),
+              "Laufzeitfehler '9': Index außerhalb des gültigen Bereichs");
+}
+
+TEST_F(DienstblattFormTest, MeßdienerlisteAufPapier)
+{
+    Öffnen<StatDienstForm>();
+    EXPECT_EQ(Aufschrift(Finden(form, "Druckern")), "Drucken");
+    Messe.DienerVor[0][1] = "Cara"; // later than the opening
+    Drücken("Druckern");
+    const Text papier = PdfText(datei);
+    for (const char *zeile : {"Statistik Meßdiener mit Anzahl Dienste",
+                              "Anna Berg , G.: 1 , L.: 1 , F.: 1 , W.: 1 , K.: 1 , A.: 1 , I.: 6",
+                              "Ben Berg , G.: 0 , L.: 1 , F.: 0 , W.: 0 , K.: 0 , A.: 0 , I.: 1",
+                              "Cara Berg , G.: 0 , L.: 0 , F.: 0 , W.: 0 , K.: 0 , A.: 0 , I.: 0",
+                              "G: Gabenbereitung, L: Leuchter, F: Flambeau, W: Weihrauch",
+                              "K: Kreuzträger, A: Allgemein, I: Insgesamt"})
+        EXPECT_NE(papier.find(zeile), Text::npos) << zeile << "\n" << papier;
+    const PdfInhalt pdf = PdfLesen(datei);
+    ASSERT_EQ(pdf.Seiten.size(), 1U);
+    EXPECT_GT(pdf.Seiten[0].Breite, pdf.Seiten[0].Höhe); // as set for the lists of people
+}
+
+TEST_F(DienstblattFormTest, HelferlisteAufPapier)
+{
+    Öffnen<StatHelferForm>();
+    EXPECT_EQ(Aufschrift(Finden(form, "Dluckeln")), "Drucken");
+    Drücken("Dluckeln");
+    const Text papier = PdfText(datei);
+    for (const char *zeile : {"Statistik Helfer mit Anzahl Dienste",
+                              "Lea Lang , Lektor: 1 , Kommunion: 0 , Kantor: 0 , Kollek.: 0",
+                              "Max Moos , Lektor: 0 , Kommunion: 1 , Kantor: 0 , Kollek.: 1"})
+        EXPECT_NE(papier.find(zeile), Text::npos) << zeile << "\n" << papier;
+}
+
+TEST_F(DienstblattFormTest, Ordnung)
+{
+    Öffnen<StatDienstForm>();
+    EXPECT_EQ(form->objectName(), "StatDienst");
+    EXPECT_EQ(form->windowTitle(), "Statistik Dienste Meßdiener");
+    IstOrdentlich({"PLUS", "Druckern", "Ende", "MINUS", "INDEXLEIN"});
+    SchließtMit([&] { Drücken("Ende"); });
+    Öffnen<StatHelferForm>();
+    EXPECT_EQ(form->objectName(), "StatHelfer");
+    EXPECT_EQ(form->windowTitle(), "Statistik Dienste Helfer");
+    IstOrdentlich({"PLUS", "Dluckeln", "Ende", "MINUS", "Indexchen"});
+    SchließtMit([&] { form->close(); });
+}
+
+} // namespace
+} // namespace altardienst
