@@ -58,7 +58,7 @@ void Messen(benchmark::State &lauf, const Messung &messung)
         return Median(werte) / messung.Einheiten * 1e6;
     };
     char zahlen[160];
-    std::snprintf(zahlen, sizeof zahlen, "%.3f us, %s: %.3f us, ratio %.2f, target %.0f: %s",
+    std::snprintf(zahlen, sizeof zahlen, "%.3f us, %s: %.3f us, ratio %.3g, target %.3g: %s",
                   mikrosekunden(zeiten), messung.Maßstabname.c_str(), mikrosekunden(maßstäbe),
                   verhältnis, messung.Ziel, erreicht ? "reached" : "MISSED");
     Ergebnisse.push_back({messung.Name + ": " + zahlen, erreicht});
