@@ -7,61 +7,53 @@
 #include "fenster/Zahlbox.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 namespace altardienst {
 
 Dienstblatt::Dienstblatt(const Dienstblattnamen &namen, int anzahl,
                          std::function<std::vector<Text>(int)> zeile)
-    : Nummer(Textfeld(namen.Nummer)), MINUS(Minusknopf("MINUS", "vorige Person")),
-      PLUS(Plusknopf("PLUS", "nächste Person")), anzahl(anzahl), zeile(std::move(zeile))
+    : Wahl(new Datensatzwahl({namen.Nummer, "PLUS", "MINUS"})), anzahl(anzahl),
+      zeile(std::move(zeile))
 {
     auto *raster = new QGridLayout;
     raster->setHorizontalSpacing(16);
     raster->setVerticalSpacing(6);
+    int reihe = 0;
     for (const auto &[name, text] : namen.Felder) {
         QLabel *feld = Beschriftung(name, "");
-        raster->addWidget(Beschriftung("", text), raster->rowCount(), 0);
-        raster->addWidget(feld, raster->rowCount() - 1, 1);
+        raster->addWidget(Beschriftung("", text), reihe, 0);
+        raster->addWidget(feld, reihe++, 1);
         Felder.push_back(feld);
     }
     raster->setColumnStretch(1, 1);
 
-    Nummer->setFixedWidth(60);
-    Nummer->setAccessibleName("Nummer der Person");
-    auto *wahl = new QHBoxLayout;
-    for (QWidget *control : std::initializer_list<QWidget *>{MINUS, Nummer, PLUS})
-        wahl->addWidget(control);
-    wahl->addStretch();
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(0, 0, 0, 0);
     spalte->setSpacing(14);
+    spalte->addWidget(Wahl);
     spalte->addLayout(raster);
     spalte->addStretch();
-    spalte->addLayout(wahl);
 
-    connect(Nummer, &QLineEdit::textChanged, this, Abgefangen([this] { NummerGeändert(); }));
-    SchritteVerbinden(MINUS, PLUS, nullptr,
-                      [this](int richtung) { Abgefangen([&] { Schritt(richtung); })(); });
-    ZahlSetzen(Nummer, 0);
+    Wahl->BeiWechsel(Abgefangen([this] { NummerGeändert(); }));
+    Wahl->BeiSchritt([this](int richtung) { Abgefangen([&] { Schritt(richtung); })(); });
+    ZahlSetzen(Wahl->Nummer, 0);
 }
 
 void Dienstblatt::NummerGeändert()
 {
-    if (ZahlIn(Nummer) >= anzahl)
-        ZahlSetzen(Nummer, 0);
-    const std::vector<Text> texte = zeile(ZahlIn(Nummer));
+    if (ZahlIn(Wahl->Nummer) >= anzahl)
+        ZahlSetzen(Wahl->Nummer, 0);
+    const std::vector<Text> texte = zeile(ZahlIn(Wahl->Nummer));
     for (std::size_t k = 0; k < Felder.size(); ++k)
         Setzen(Felder[k], texte[k]);
 }
 
 void Dienstblatt::Schritt(int richtung)
 {
-    const int nummer = ZahlIn(Nummer);
+    const int nummer = ZahlIn(Wahl->Nummer);
     if (richtung > 0 ? nummer < anzahl - 1 : nummer > 0)
-        ZahlSetzen(Nummer, nummer + richtung);
+        ZahlSetzen(Wahl->Nummer, nummer + richtung);
 }
 
 } // namespace altardienst

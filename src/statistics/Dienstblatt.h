@@ -2,11 +2,10 @@
 #pragma once
 
 #include "core/Umwandlung.h"
+#include "fenster/Datensatzwahl.h"
 #include "statistics/Dienstzählung.h"
 
 #include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QWidget>
 
 #include <functional>
@@ -40,9 +39,7 @@ class Dienstblatt : public QWidget {
     Dienstblatt(const Dienstblattnamen &namen, int anzahl,
                 std::function<std::vector<Text>(int)> zeile);
 
-    QLineEdit *Nummer;
-    QPushButton *MINUS;
-    QPushButton *PLUS;
+    Datensatzwahl *Wahl; // the number box, PLUS, MINUS
     std::vector<QLabel *> Felder;
 
   private:

@@ -41,7 +41,7 @@ void StatDienstForm::Anordnen()
     spalte->addWidget(Blatt);
     spalte->addLayout(Knopfreihe({Druckern, Ende}));
     setMinimumWidth(380);
-    Blatt->PLUS->setFocus();
+    Blatt->Wahl->Nummer->setFocus();
 }
 
 void StatDienstForm::Verbinden()

@@ -39,7 +39,7 @@ void StatHelferForm::Anordnen()
     spalte->addWidget(Blatt);
     spalte->addLayout(Knopfreihe({Dluckeln, Ende}));
     setMinimumWidth(380);
-    Blatt->PLUS->setFocus();
+    Blatt->Wahl->Nummer->setFocus();
 }
 
 void StatHelferForm::Verbinden()

@@ -190,12 +190,12 @@ TEST_F(DienstblattFormTest, Ordnung)
     Öffnen<StatDienstForm>();
     EXPECT_EQ(form->objectName(), "StatDienst");
     EXPECT_EQ(form->windowTitle(), "Statistik Dienste Meßdiener");
-    IstOrdentlich({"PLUS", "Druckern", "Ende", "MINUS", "INDEXLEIN"});
+    IstOrdentlich({"INDEXLEIN", "MINUS", "PLUS", "Druckern", "Ende"});
     SchließtMit([&] { Drücken("Ende"); });
     Öffnen<StatHelferForm>();
     EXPECT_EQ(form->objectName(), "StatHelfer");
     EXPECT_EQ(form->windowTitle(), "Statistik Dienste Helfer");
-    IstOrdentlich({"PLUS", "Dluckeln", "Ende", "MINUS", "Indexchen"});
+    IstOrdentlich({"Indexchen", "MINUS", "PLUS", "Dluckeln", "Ende"});
     SchließtMit([&] { form->close(); });
 }
 
