@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <QScrollArea>
+#include <QStyle>
 
 #include <utility>
 
@@ -194,7 +195,7 @@ QPushButton *Schrittknopf(const char *name, const char *zeichen, const char *ges
 
 QPushButton *Minusknopf(const char *name, const char *gesprochen)
 {
-    return Schrittknopf(name, "−", gesprochen);
+    return Schrittknopf(name, "-", gesprochen);
 }
 
 QPushButton *Plusknopf(const char *name, const char *gesprochen)
@@ -233,7 +234,15 @@ void GrößeAnpassen(QWidget *fenster)
         constexpr QSize Rahmen(16, 40); // about what frame and title bar take
         for (QScrollArea *fläche : fenster->findChildren<QScrollArea *>())
             fläche->updateGeometry(); // it doesn't follow its content by itself
-        fenster->resize(fenster->sizeHint().boundedTo(fenster->screen()->availableSize() - Rahmen));
+        const QSize platz = fenster->screen()->availableSize() - Rahmen;
+        const int balken = fenster->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2;
+        QSize größe = fenster->sizeHint();
+        // The bar for one direction takes room in the other.
+        if (größe.height() > platz.height())
+            größe.rwidth() += balken;
+        else if (größe.width() > platz.width())
+            größe.rheight() += balken;
+        fenster->resize(größe.boundedTo(platz));
     };
     anpassen();
     // Some controls know their size only once they are shown.

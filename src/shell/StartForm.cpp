@@ -24,7 +24,7 @@ namespace altardienst {
 StartForm::StartForm(std::function<void()> starten)
     : Datumsen(Textfeld("Datumsen")), Tagchen(Beschriftung("Tagchen", "")),
       SpinButton1(new SpinButton("SpinButton1", "Startdatum um einen Tag ändern")),
-      Minus(Knopf("Minus", "−")), Plus(Knopf("Plus", "+")), Tagilein(Textfeld("Tagilein")),
+      Minus(Knopf("Minus", "-")), Plus(Knopf("Plus", "+")), Tagilein(Textfeld("Tagilein")),
       Änderung1(new SpinButton("Änderung1", "Anzahl Tage ändern")),
       Endet(Beschriftung("Endet", "")), Dayig(Beschriftung("Dayig", "")),
       UHRZEIT(Beschriftung("UHRZEIT", "")), Starten(Knopf("Starten", "Starten")),

@@ -64,7 +64,7 @@ TEST_F(StartFormTest, JedesControlTrägtSeinenNamenUndSeineBeschriftung)
         {"Datumsen", "28.11.2026"},
         {"Tagchen", "Samstag"},
         {"Plus", "+"},
-        {"Minus", "−"},
+        {"Minus", "-"},
         {"Tagezahl", "Anzahl Tage: "},
         {"Tagilein", "28"},
         {"bissig", "bis zum:"},
