@@ -5,6 +5,8 @@
 #include "fenster/Fensterstand.h"
 #include "fenster/PdfLesen.h"
 
+#include <QFontDatabase>
+
 #include <algorithm>
 
 namespace altardienst {
@@ -54,6 +56,20 @@ TEST_F(DruckerQtTest, WortabständeBleiben)
     const PdfInhalt pdf = Fertig();
     EXPECT_NEAR(pdf.Wörter[0].Links, 72 + 2 * 2.78, 0.2); // two blanks of 0.278 em
     EXPECT_GT(pdf.Wörter[2].Links - pdf.Wörter[1].Rechts, 14 * 2.7);
+}
+
+TEST_F(DruckerQtTest, NenntDieSchriftenDerPlattformInIhrerFolge)
+{
+    const std::vector<Text> schriften = drucker.Schriften();
+    EXPECT_EQ(std::ranges::count(schriften, "Liberation Sans"), 1);
+    const QStringList alle = QFontDatabase::families();
+    qsizetype stelle = -1;
+    for (const Text &name : schriften) {
+        const qsizetype nächste = alle.indexOf(Anzeige(name));
+        EXPECT_GT(nächste, stelle) << name;
+        stelle = nächste;
+    }
+    EXPECT_TRUE(Drucker->Schriften().empty()); // without a printer
 }
 
 TEST_F(DruckerQtTest, MillimeterSindMillimeter)

@@ -1,0 +1,73 @@
+// The fixture of the tests of the settings: a parish whose settings all lie within their limits.
+#pragma once
+
+#include "fenster/Fensterstand.h"
+#include "printing/Druckprotokoll.h"
+#include "settings/KonfigurationForm.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QPointer>
+
+#include <utility>
+
+namespace altardienst {
+
+/// Today is Saturday, 21.11.2026; the plan starts a week later.
+class Konfigurationsstand : public Fensterstand {
+  protected:
+    Konfigurationsstand() : zuvor(std::exchange(Drucker, &Papier))
+    {
+        Konfig.Gemeinde = "St. Ägid";
+        Konfig.Straße = "Kirchplatz 1";
+        Konfig.PlzOrt = "43217 Quellersheim";
+        Konfig.DiffJahr = 1;
+        Konfig.DiffGröße = 10;
+        Konfig.Tage = 28;
+        Konfig.Schriftart = "Liberation Sans";
+        Konfig.Schriftgröße = 9;
+        Konfig.Überschriftgröße = 14;
+        Konfig.RandLinks = 20;
+        Konfig.RandUnten = 16;
+        Konfig.RandOben = 12;
+        Konfig.GrenzeAuslöse = 60;
+        Konfig.StartDatum = Heute + 7;
+        Papier.Schriftarten = {"Zeta", "Liberation Sans", "Alpha"};
+    }
+    ~Konfigurationsstand() override { Drucker = zuvor; }
+
+    void Öffnen()
+    {
+        delete form;
+        form = new KonfigurationForm;
+        form->setAttribute(Qt::WA_DeleteOnClose);
+        Zeigen(form);
+    }
+
+    QWidget *Control(const char *name) const { return Finden(form, name); }
+    Text Zeigt(const char *name) const { return Aufschrift(Control(name)); }
+    void Drehen(const char *spin, const char *richtung) const
+    {
+        Klick(Finden(Control(spin), richtung));
+    }
+    void Enter(const char *name) const { QTest::keyClick(Control(name), Qt::Key_Return); }
+
+    /// Pastes over the content of a box, which is one change.
+    void Einfügen(const char *name, const char *text) const
+    {
+        FokusAuf(Control(name));
+        QApplication::clipboard()->setText(QString::fromUtf8(text));
+        QTest::keyClick(Control(name), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(Control(name), Qt::Key_V, Qt::ControlModifier);
+    }
+    void Leeren(const char *name) const { Tippen(Control(name), ""); }
+    void Verlassen() const { FokusAuf(Control("Ende")); }
+
+    Druckprotokoll Papier;
+    QPointer<KonfigurationForm> form;
+
+  private:
+    DruckerDienst *zuvor;
+};
+
+} // namespace altardienst
