@@ -14,8 +14,8 @@ constexpr int StellenDouble = 15;
 constexpr int StellenSingle = 7;
 
 struct Muster {
-    int Ganze = 0;   // digits before the decimal separator, at least
-    int Stellen = 0; // digits behind it
+    std::size_t Ganze = 0;   // digits before the decimal separator, at least
+    std::size_t Stellen = 0; // digits behind it
     bool Tausender = false;
     bool Prozent = false;
 };
@@ -24,8 +24,8 @@ Muster MusterLesen(std::string_view text)
 {
     const std::string_view ganze = text.substr(0, text.find('.'));
     const std::string_view bruch = text.substr(ganze.size());
-    return {.Ganze = static_cast<int>(std::ranges::count(ganze, '0')),
-            .Stellen = static_cast<int>(std::ranges::count(bruch, '0')),
+    return {.Ganze = static_cast<std::size_t>(std::ranges::count(ganze, '0')),
+            .Stellen = static_cast<std::size_t>(std::ranges::count(bruch, '0')),
             .Tausender = ganze.find(',') != std::string_view::npos,
             .Prozent = text.ends_with('%')};
 }
@@ -78,13 +78,13 @@ Text Gemustert(double zahl, std::string_view text, int genauigkeit)
     Ziffernfolge folge = ZiffernVon(std::fabs(zahl), genauigkeit);
     if (muster.Prozent)
         folge.Komma += 2;
-    std::string ziffern = Gerundet(folge, muster.Stellen);
+    std::string ziffern = Gerundet(folge, static_cast<int>(muster.Stellen));
     ziffern.erase(0, std::min(ziffern.find_first_not_of('0'), ziffern.size()));
     const bool negativ = zahl < 0 && !ziffern.empty();
-    const auto mindestens = static_cast<std::size_t>(muster.Ganze + muster.Stellen);
+    const std::size_t mindestens = muster.Ganze + muster.Stellen;
     if (ziffern.size() < mindestens)
         ziffern.insert(0, mindestens - ziffern.size(), '0');
-    const std::size_t komma = ziffern.size() - static_cast<std::size_t>(muster.Stellen);
+    const std::size_t komma = ziffern.size() - muster.Stellen;
     if (muster.Stellen > 0)
         ziffern.insert(komma, 1, Gebietsschema.Dezimaltrenner);
     if (muster.Tausender)

@@ -30,6 +30,7 @@ template <std::size_t n> std::array<QLabel *, n> Zahlen(const char *name, int er
 template <std::size_t n> std::vector<int> ZahlenIn(const std::array<QLabel *, n> &labels)
 {
     std::vector<int> zahlen;
+    zahlen.reserve(n);
     for (const QLabel *label : labels)
         zahlen.push_back(Int32Lesen(label->text().toStdString()));
     return zahlen;
