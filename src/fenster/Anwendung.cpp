@@ -9,6 +9,7 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QPointer>
+#include <QTimer>
 #include <QTranslator>
 
 namespace altardienst {
@@ -27,6 +28,24 @@ QWidget[spinButton="true"] { border: 1px solid transparent; }
 QWidget[spinButton="true"]:focus { border: 1px solid #008000; }
 )";
 
+class Mausschlucker : public QObject {
+  public:
+    using QObject::QObject;
+    bool eventFilter(QObject *, QEvent *ereignis) override
+    {
+        return ereignis->type() == QEvent::MouseButtonPress;
+    }
+};
+
+/// A box that is left by a press of the mouse may bring a message. The press reaches its button
+/// only behind it, and its release never: the button would hang, or a spin button run on.
+void DruckVerwerfen()
+{
+    auto *schlucker = new Mausschlucker(qApp);
+    qApp->installEventFilter(schlucker);
+    QTimer::singleShot(0, schlucker, &QObject::deleteLater);
+}
+
 QMessageBox::StandardButton MeldungZeigen(const Text &text, const Text &titel,
                                           QMessageBox::StandardButtons knöpfe,
                                           QMessageBox::StandardButton vorgabe)
@@ -38,7 +57,11 @@ QMessageBox::StandardButton MeldungZeigen(const Text &text, const Text &titel,
     box.setText(Anzeige(text));
     box.setStandardButtons(knöpfe);
     box.setDefaultButton(vorgabe);
-    return static_cast<QMessageBox::StandardButton>(box.exec());
+    const bool beiMausdruck = QGuiApplication::mouseButtons() != Qt::NoButton;
+    const auto antwort = static_cast<QMessageBox::StandardButton>(box.exec());
+    if (beiMausdruck)
+        DruckVerwerfen();
+    return antwort;
 }
 
 } // namespace

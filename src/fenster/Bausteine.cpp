@@ -4,6 +4,7 @@
 #include "core/Ansi.h"
 #include "fenster/Tippgedächtnis.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -108,8 +109,12 @@ void BeiFokusVerlust(QWidget *control, std::function<void()> handler)
     new Ereignisfilter(
         control,
         [](QEvent *ereignis) {
-            return ereignis->type() == QEvent::FocusOut &&
-                   static_cast<QFocusEvent *>(ereignis)->reason() != Qt::PopupFocusReason;
+            if (ereignis->type() != QEvent::FocusOut)
+                return false;
+            const Qt::FocusReason grund = static_cast<QFocusEvent *>(ereignis)->reason();
+            const bool anderesProgramm =
+                grund == Qt::ActiveWindowFocusReason && !QApplication::activeWindow();
+            return grund != Qt::PopupFocusReason && !anderesProgramm;
         },
         std::move(handler));
 }

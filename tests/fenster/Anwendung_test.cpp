@@ -117,6 +117,33 @@ TEST_F(AnwendungTest, EineMeldungHatTitelTextUndOk)
     EXPECT_TRUE(gesehen);
 }
 
+// The message of a box that a press of the mouse has left.
+TEST_F(AnwendungTest, EinKnopfHängtNichtHinterEinerMeldung)
+{
+    EchteMeldungen();
+    int meldungen = 0;
+    Beantworten([&](QMessageBox *box) {
+        ++meldungen;
+        box->accept();
+    });
+    int klicks = 0;
+    QObject::connect(erster, &QPushButton::clicked, erster, [&] { ++klicks; });
+    BeiFokusVerlust(zweiter, [&] {
+        if (meldungen == 0)
+            Meldungen.Zeigen("falsch");
+    });
+    FokusAuf(zweiter);
+    const QPoint stelle = erster->mapTo(haupt, erster->rect().center());
+    QTest::mousePress(haupt->windowHandle(), Qt::LeftButton, {}, stelle);
+    EXPECT_EQ(meldungen, 1);
+    EXPECT_FALSE(erster->isDown());
+    QTest::mouseRelease(haupt->windowHandle(), Qt::LeftButton, {}, stelle);
+    EXPECT_EQ(klicks, 0);
+    QCoreApplication::processEvents();
+    QTest::mouseClick(haupt->windowHandle(), Qt::LeftButton, {}, stelle);
+    EXPECT_EQ(klicks, 1);
+}
+
 TEST_F(AnwendungTest, EineFrageHatTitelTextJaUndNein)
 {
     EchteMeldungen();

@@ -116,6 +116,15 @@ TEST_F(BausteineTest, FokusVerlustKommtBeimVerlassenUndBeimÖffnenEinesFensters)
     EXPECT_EQ(ereignisse, (Liste{"verlassen", "verlassen", "verlassen"}));
 }
 
+TEST_F(BausteineTest, EinAnderesProgrammIstKeinVerlassen)
+{
+    BeiFokusVerlust(feld, Merken("verlassen"));
+    FokusAuf(feld);
+    QApplication::setActiveWindow(nullptr);
+    EXPECT_FALSE(feld->hasFocus());
+    EXPECT_EQ(ereignisse, Liste{});
+}
+
 TEST_F(BausteineTest, DasEigeneKontextmenüIstKeinVerlassen)
 {
     BeiFokusVerlust(feld, Merken("verlassen"));
