@@ -2,14 +2,13 @@
 #include "fixed/Zuordnungsstand.h"
 
 #include <random>
-#include <set>
 
 namespace altardienst {
 namespace {
 
 class LaufZuordnungenFormTest : public BeideZuordnungen {
   protected:
-    static constexpr int Schritte = 3000;
+    static constexpr int Schritte = 1500;
 
     LaufZuordnungenFormTest()
     {
@@ -42,10 +41,7 @@ class LaufZuordnungenFormTest : public BeideZuordnungen {
         case 4:
             return Fokus();
         case 5:
-            QTest::keyClick(QApplication::focusWidget(),
-                            Eines<Qt::Key>({Qt::Key_Return, Qt::Key_Tab, Qt::Key_PageUp,
-                                            Qt::Key_PageDown, Qt::Key_Down, Qt::Key_Up}));
-            return;
+            return Taste();
         case 6:
             return Klick(Finden(form, Eines<const char *>({"DatumD", "Zeitd"})));
         default:
@@ -53,11 +49,22 @@ class LaufZuordnungenFormTest : public BeideZuordnungen {
         }
     }
 
+    void Taste()
+    {
+        QWidget *wo = QApplication::focusWidget();
+        const bool knopf = qobject_cast<QPushButton *>(wo); // Enter would press it
+        QTest::keyClick(
+            wo, Eines<Qt::Key>({knopf ? Qt::Key_Tab : Qt::Key_Return, Qt::Key_Tab, Qt::Key_PageUp,
+                                Qt::Key_PageDown, Qt::Key_Down, Qt::Key_Up}));
+    }
+
     void SlotÄndern()
     {
         const int i = 1 + Zufällig(20);
+        if (!MDiener(i)->isVisible())
+            return;
         Setzen(i, Eines(Slottexte).c_str());
-        if (MDiener(i)->isVisible() && Zufällig(2))
+        if (Zufällig(2))
             MDiener(i)->setFocus();
     }
 
@@ -122,9 +129,8 @@ class LaufZuordnungenFormTest : public BeideZuordnungen {
             for (int i = 1; i <= 20; ++i)
                 ASSERT_EQ(Dienst(i), MesseDienerFest.Dienst[k][i]) << i;
         } else {
-            std::set<Text> termine;
-            for (int k = 0; k < MesseDienerFest.Anzahl; ++k)
-                ASSERT_TRUE(termine.insert(Termin(k)).second) << Termin(k);
+            ASSERT_GE(MesseDienerFest.Anzahl, anzahl);
+            anzahl = MesseDienerFest.Anzahl;
         }
         for (const Text &meldung : GezeigteMeldungen)
             ASSERT_TRUE(meldung == Fehleingabe || meldung == Unbekannt ||
@@ -133,6 +139,7 @@ class LaufZuordnungenFormTest : public BeideZuordnungen {
         GezeigteMeldungen.clear();
     }
 
+    int anzahl = 0;
     std::mt19937 zufall{7};
     QWidget *andere = new QWidget;
     const std::vector<Text> Slottexte = {
