@@ -122,17 +122,13 @@ TEST_F(JubiGebuDruckTest, EinJubiläumOhneLeuteDrucktEineLeereZeile)
     EXPECT_EQ(Papier.Zeilen, Ende(ablauf));
 }
 
-// From 600 on a row takes two lines of 240. With the title, `Zeilen` is 4 behind the first row, 6
-// behind the second; y is 600 + 240 * Zeilen. The lower limit is at 4400 - 600 = 3800.
-// Behind row n: y * (Zeilen + 2) / Zeilen; row 5: 3480 * 14 / 12 = 4060 > 3800, row 4: 3000 * 12 /
-// 10 = 3600.
+// The opening ends at y = 600 + 2 * 240 = 1080 with `Zeilen` = 2; a row takes 480 and counts 2.
+// Behind row 1 the estimate is 1560 * 6 / 4 = 2340, behind row 2 it is 2040 * 8 / 6 = 2720. The
+// next page begins at 600 with `Zeilen` = 0: 1080 * 4 / 2 = 2160, 2340, 2720.
 TEST_F(JubiGebuDruckTest, DieSeiteWendetNachDerSchätzungMitZweiZeilen)
 {
-    Papier.Seitenhöhe = 4400;
-    for (int i = 0; i < 12; ++i)
+    for (int i = 0; i < 5; ++i)
         Diener("V" + std::to_string(i), {2010, 3, 1 + i}, {2019, 5, 1 + i});
-    // On the next page `Zeilen` begins at 0: behind its row n, 2 n lines; row 6: 3480 * 14 / 12.
-    const std::vector<int> jeSeite = {5, 6, 1};
     const auto zeilenJeSeite = [&] {
         std::vector<int> zahlen = {0};
         for (const Text &zeile : Papier.Zeilen) {
@@ -140,16 +136,21 @@ TEST_F(JubiGebuDruckTest, DieSeiteWendetNachDerSchätzungMitZweiZeilen)
             if (zeile == "NewPage")
                 zahlen.push_back(0);
         }
-        zahlen.pop_back(); // behind the last page
         return zahlen;
     };
     GeburtstageSuchen(Gruppende::Alle, 3);
-    GeburtstageDrucken(Gruppende::Alle, 3);
-    EXPECT_EQ(zeilenJeSeite(), jeSeite);
-    Papier.Leeren();
     JubiläenSuchen(7);
-    JubiläenDrucken(7);
-    EXPECT_EQ(zeilenJeSeite(), jeSeite);
+    const std::pair<int, std::vector<int>> fälle[] = {{2300, {1, 2, 2, 0, 0}},
+                                                      {2400, {2, 3, 0, 0}}};
+    for (const auto &[untereGrenze, jeSeite] : fälle) {
+        Papier.Seitenhöhe = static_cast<Single>(untereGrenze + 600);
+        Papier.Leeren();
+        GeburtstageDrucken(Gruppende::Alle, 3);
+        EXPECT_EQ(zeilenJeSeite(), jeSeite) << untereGrenze;
+        Papier.Leeren();
+        JubiläenDrucken(7);
+        EXPECT_EQ(zeilenJeSeite(), jeSeite) << untereGrenze;
+    }
 }
 
 /// Two rows of two labels.
