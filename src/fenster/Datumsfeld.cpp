@@ -3,6 +3,7 @@
 
 #include "core/Umwandlung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Gelesen.h"
 #include "fenster/Handler.h"
 #include "fenster/Terminbox.h"
 #include "platform/Uhr.h"
@@ -101,7 +102,7 @@ void Datumsfeld::Zeigen(double datum) const
 
 double Datumsfeld::Wert() const
 {
-    return DatumLesen(TextVon(Feld));
+    return Gelesen(Feld, DatumLesen);
 }
 
 int JahreBisHeute(const QLineEdit *feld)

@@ -47,7 +47,7 @@ class Datumsfeld {
 
     void Zeigen(double datum) const;
 
-    /// Failure 13 if the box holds no date.
+    /// Failure 13 if the box holds no date; it then takes the focus.
     double Wert() const;
 
   private:

@@ -114,7 +114,7 @@ void GruppeForm::Schritt(int richtung)
 /// without a word, a new one is pushed to the servers.
 void GruppeForm::Umbenennen()
 {
-    const int i = Nummer();
+    const int i = Gelesen(Wahl->Nummer, Int16Lesen);
     if (IstAndereGruppe(i, TextVon(GBezeichnung)))
         Zeigen(i);
     GruppeUmbenennen(i, TextVon(GBezeichnung));
@@ -169,7 +169,7 @@ void GruppeForm::Zeigen(int i)
 
 void GruppeForm::Schreiben()
 {
-    Gruppe.Bezeichnung[Nummer()] = TextVon(GBezeichnung);
+    Gruppe.Bezeichnung[Gelesen(Wahl->Nummer, Int16Lesen)] = TextVon(GBezeichnung);
 }
 
 void GruppeForm::AnzahlZeigen()

@@ -193,7 +193,7 @@ void HelferForm::Schritt(int richtung)
 /// without a word, a new one is pushed to the masses.
 void HelferForm::Umbenennen()
 {
-    if (IstAndererHelfer(Nummer(), Person.Name()))
+    if (IstAndererHelfer(Gelesen(Wahl->Nummer, Int16Lesen), Person.Name()))
         Person.NameZeigen(Helfer, Helfer.Cursor);
     HelferUmbenennen(Helfer.Cursor, Person.Name());
 }

@@ -298,7 +298,7 @@ void MeßdienerForm::Schritt(int richtung)
 /// without a word, a new one is pushed to all who name the server.
 void MeßdienerForm::Umbenennen()
 {
-    const int i = Nummer();
+    const int i = Gelesen(Wahl->Nummer, Int16Lesen);
     if (IstAndererMeßdiener(i, Person.Name()))
         Person.NameZeigen(Meßdiener, i);
     MeßdienerUmbenennen(i, Person.Name());
@@ -403,7 +403,7 @@ void MeßdienerForm::Bestätigen() const
 /// Writes the screen; a server typed into the blank slot with both names is adopted.
 void MeßdienerForm::Abschließen()
 {
-    Schreiben(Nummer());
+    Schreiben(Gelesen(Wahl->Nummer, Int16Lesen));
     const Personenname name = Person.Name();
     if (Nummer() == Meßdiener.Anzahl && !name.Vorname.empty() && !name.Nachname.empty())
         ++Meßdiener.Anzahl;
@@ -439,7 +439,7 @@ void MeßdienerForm::Schreiben(int i)
     Person.Schreiben(Meßdiener, i);
     Meßdiener.Geburtstag[i] = Gebutag.Wert();
     Meßdiener.Geschlecht[i] = TextVon(Geschl);
-    Meßdiener.Größe[i] = ZahlIn(Groß.Feld);
+    Meßdiener.Größe[i] = Gelesen(Groß.Feld, Int16Lesen);
     Meßdiener.Eintrittsdatum[i] = Eintritttdatum.Wert();
     Meßdiener.Gruppe[i] = TextVon(Dieenst);
     Meßdiener.Qualifikation[i] = TextVon(Dienstmittig.Feld);

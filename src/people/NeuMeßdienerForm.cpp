@@ -96,7 +96,7 @@ void NeuMeßdienerForm::Anlegen()
     Person.Schreiben(Meßdiener, i);
     Meßdiener.Geburtstag[i] = Gebutag.Wert();
     Meßdiener.Geschlecht[i] = TextVon(Geschl);
-    Meßdiener.Größe[i] = ZahlIn(Groß.Feld);
+    Meßdiener.Größe[i] = Gelesen(Groß.Feld, Int16Lesen);
     Meßdiener.Eintrittsdatum[i] = Eintritttdatum.Wert();
     Meßdiener.Gruppe[i] = TextVon(Dieenst);
     ++Meßdiener.Anzahl;

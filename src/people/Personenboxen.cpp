@@ -2,10 +2,9 @@
 #include "people/Personenboxen.h"
 
 #include "fenster/Handler.h"
+#include "fenster/Zahlbox.h"
 
 #include <QHBoxLayout>
-
-#include <algorithm>
 
 namespace altardienst {
 namespace {
@@ -61,15 +60,9 @@ void Personenboxen::OrtVorschlagen() const
 
 int NummerBegrenzen(QLineEdit *feld, int letzter, int anzahl)
 {
-    const auto nummer = [feld] { return Int32Lesen(TextVon(feld)); };
-    const auto setzen = [feld](int zahl) { Setzen(feld, ZahlText(zahl)); };
-    if (nummer() < 0)
-        setzen(0);
-    if (nummer() > letzter)
-        setzen(letzter);
-    if (nummer() > anzahl + 1)
-        setzen(anzahl);
-    return nummer();
+    if (Begrenzen(feld, 0, letzter) > anzahl + 1)
+        ZahlSetzen(feld, anzahl);
+    return ZahlIn(feld);
 }
 
 void KnöpfeBeschriften(Datensatzwahl *wahl)

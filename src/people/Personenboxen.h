@@ -5,6 +5,7 @@
 #include "core/Umwandlung.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Datensatzwahl.h"
+#include "fenster/Gelesen.h"
 #include "people/Personen.h"
 
 #include <QGridLayout>
@@ -57,7 +58,7 @@ class Personenboxen {
         t.Vorname[i] = TextVon(Vorname);
         t.Nachname[i] = TextVon(Nachname);
         t.Straße[i] = TextVon(Straße);
-        t.PLZ[i] = Int32Lesen(TextVon(PLZ));
+        t.PLZ[i] = Gelesen(PLZ, Int32Lesen);
         t.Ort[i] = TextVon(Ort);
         t.Telefon[i] = TextVon(Telefon);
         t.EMail[i] = TextVon(EMail);
@@ -74,8 +75,8 @@ class Personenboxen {
 };
 
 /// The rule of the number box of the three editors: below 0 it becomes 0, above `letzter` it
-/// becomes that, beyond the place behind the blank slot it falls back to the blank slot. Returns
-/// the number. Failure 13 if the box holds none.
+/// becomes that, beyond the place behind the blank slot it falls back to the blank slot, however
+/// large the number is. Returns the number. Failure 13 if the box holds none.
 int NummerBegrenzen(QLineEdit *feld, int letzter, int anzahl);
 
 /// The buttons of the record mover say "Plus" and "Minus" in these editors.
