@@ -34,6 +34,7 @@ NeuGruppeForm::NeuGruppeForm(std::function<void(bool)> danach)
     setWindowTitle("Neue Gruppe");
     Anordnen();
     connect(OKButton, &QPushButton::clicked, this, Offen([this] { Anlegen(); }));
+    BeiEingabetaste(GBezeichnung, Offen([this] { Anlegen(); }));
     connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
     GBezeichnung->setText("Neue Gruppe");
     GBezeichnung->selectAll();

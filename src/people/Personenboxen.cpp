@@ -5,6 +5,7 @@
 #include "fenster/Zahlbox.h"
 
 #include <QHBoxLayout>
+#include <QShortcut>
 
 namespace altardienst {
 namespace {
@@ -81,6 +82,8 @@ QLayout *Schlußknöpfe(QPushButton *ok, QPushButton *abbrechen)
         knopf->setMinimumWidth(110);
         reihe->addWidget(knopf);
     }
+    QObject::connect(new QShortcut(Qt::Key_Escape, abbrechen), &QShortcut::activated, abbrechen,
+                     &QPushButton::click);
     return reihe;
 }
 
