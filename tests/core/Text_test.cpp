@@ -63,6 +63,17 @@ TEST(Text, FlagsWerdenNachPositionGelesen)
     EXPECT_TRUE(IstJa("ßj", 2));
 }
 
+TEST(Text, FlagsWerdenNachPositionGesetzt)
+{
+    EXPECT_EQ(MitFlag("jjj", 1, false), "njj");
+    EXPECT_EQ(MitFlag("nnn", 3, true), "nnj");
+    EXPECT_EQ(MitFlag("jxj", 2, true), "jjj") << "anything else gives way";
+    EXPECT_EQ(MitFlag("jjjjjjjx", 6, false), "jjjjjnjx") << "the others pass through";
+    EXPECT_EQ(MitFlag("j", 4, true), "jnnj");
+    EXPECT_EQ(MitFlag("", 2, false), "nn");
+    EXPECT_EQ(MitFlag("ßj", 2, false), "ßn") << "characters, not bytes";
+}
+
 TEST(Text, VergleichtBinär)
 {
     std::vector<Text> texte = {"Ähre", "apfel", "", "Zaun", "ßa", "zaun", "Apfel", "öl", "Apfe"};
