@@ -220,7 +220,7 @@ void LaufGruppeForm::Handlung()
         modell.Blättern(richtung);
         zuletzt = richtung > 0 ? "vor" : "zurück";
     } else if (wurf < 75)
-        Schreiben("Indexi", wurf == 74 ? wanderer.Eines({"", "-1", "x", "101", "40000"})
+        Schreiben("Indexi", wurf == 74 ? wanderer.Eines({"", "-1", "x", "101", "3000000000"})
                                        : ZahlText(wanderer.Wurf(modell.Anzahl + 3)));
     else if (wurf < 83 || modell.Anzahl > 95) {
         const bool ja = wanderer.Wurf(3) > 0;

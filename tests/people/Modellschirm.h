@@ -116,7 +116,7 @@ class Modellschirm {
     void Klemmen(const Text &box, int von, int bis)
     {
         Versuch([&] {
-            const int zahl = Int16Lesen(Texte[box]);
+            const Single zahl = SingleLesen(Texte[box]);
             if (zahl < von || zahl > bis)
                 Setzen(box, ZahlText(zahl < von ? von : bis));
         });
@@ -125,7 +125,7 @@ class Modellschirm {
     void PostleitzahlVerlassen(const Text &box)
     {
         Versuch([&] {
-            const Int32 zahl = Int32Lesen(Texte[box]);
+            const Single zahl = SingleLesen(Texte[box]);
             if (zahl < 0)
                 Setzen(box, "0");
             else if (zahl > 99999)
@@ -137,11 +137,11 @@ class Modellschirm {
     void NummerBegrenzen(const Text &box, int letzter, int anzahl)
     {
         Versuch([&] {
-            if (Int32Lesen(Texte[box]) < 0)
+            if (SingleLesen(Texte[box]) < 0)
                 Setzen(box, "0");
-            if (Int32Lesen(Texte[box]) > letzter)
+            if (SingleLesen(Texte[box]) > letzter)
                 Setzen(box, ZahlText(letzter));
-            if (Int32Lesen(Texte[box]) > anzahl + 1)
+            if (SingleLesen(Texte[box]) > anzahl + 1)
                 Setzen(box, ZahlText(anzahl));
         });
     }

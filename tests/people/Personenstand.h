@@ -26,6 +26,14 @@ class Personenstand : public Fensterstand {
     void Drücken(const char *knopf) { Finden<QAbstractButton>(form, knopf)->click(); }
     void Drehen(const char *spin, int richtung) { Wanderer::Drehen(C(spin), richtung); }
     void Verlassen(const char *box) { Wanderer::Verlassen(C(box)); }
+    std::vector<Text> Liste(const char *box)
+    {
+        std::vector<Text> einträge;
+        auto *wahl = Finden<QComboBox>(form, box);
+        for (int i = 0; i < wahl->count(); ++i)
+            einträge.push_back(wahl->itemText(i).toStdString());
+        return einträge;
+    }
 
     QPointer<QWidget> form;
     Druckprotokoll Papier;
