@@ -1,4 +1,4 @@
-// The editor of the groups and the dialog for a new one, through their windows.
+// The editor of the groups through its window.
 #include "people/GruppeForm.h"
 
 #include "people/Personenstand.h"
@@ -24,13 +24,6 @@ class GruppeFormTest : public Personenstand {
         Gruppe.Cursor = cursor;
         form = new GruppeForm;
         Zeigen(form);
-    }
-
-    QWidget *Neu()
-    {
-        Drücken("NEWGroup");
-        EXPECT_FALSE(form->isVisible());
-        return Fenster("NeuGruppe");
     }
 };
 
@@ -149,47 +142,6 @@ TEST_F(GruppeFormTest, LöschenFragtUndNimmtDieGruppeDenMeßdienern)
     EXPECT_EQ(Gruppe.Anzahl, 2);
     EXPECT_EQ(Gruppe.Bezeichnung[1], "Grün");
     EXPECT_EQ(Meßdiener.Gruppe[0], "");
-}
-
-TEST_F(GruppeFormTest, NeueGruppeWirdAngehängt)
-{
-    Öffnen(1);
-    QWidget *neu = Neu();
-    EXPECT_EQ(neu->windowTitle(), "Neue Gruppe");
-    EXPECT_EQ(Aufschrift(Finden(neu, "GBezeichnung")), "Neue Gruppe");
-    Klick(Finden(neu, "OKButton"));
-    EXPECT_EQ(Gruppe.Bezeichnung[3], "Neue Gruppe");
-    EXPECT_EQ(Gruppe.Anzahl, 4);
-    EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(Gezeigt("GBezeichnung"), "Blau");
-    EXPECT_EQ(Gezeigt("Gruppenzahl"), "4");
-}
-
-TEST_F(GruppeFormTest, NeueGruppeWirdAbgelehnt)
-{
-    Öffnen();
-    QWidget *neu = Neu();
-    Finden<QLineEdit>(neu, "GBezeichnung")->setText("Blau");
-    Klick(Finden(neu, "OKButton"));
-    EXPECT_EQ(GezeigteMeldungen.back(), "Doppelt eingeben! Nicht mit mir!!!!!");
-    Gruppe.Anzahl = 60;
-    Klick(Finden(neu, "OKButton"));
-    EXPECT_EQ(GezeigteMeldungen.back(), "Maximale Anzahl Datensätze für Gruppen erreicht!!");
-    EXPECT_TRUE(neu->isVisible());
-    Gruppe.Anzahl = 59;
-    Finden<QLineEdit>(neu, "GBezeichnung")->setText("Die 60.");
-    Klick(Finden(neu, "OKButton"));
-    EXPECT_EQ(Gruppe.Anzahl, 60);
-}
-
-TEST_F(GruppeFormTest, AbbrechenVerwirft)
-{
-    Öffnen();
-    Klick(Finden(Neu(), "CancelButton"));
-    EXPECT_TRUE(form->isVisible());
-    Neu()->close();
-    EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(Gruppe.Anzahl, 3);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// The editor of the helpers and the dialog for a new one, through their windows.
+// The editor of the helpers through its window.
 #include "people/HelferForm.h"
 
 #include "people/Personenstand.h"
@@ -24,13 +24,6 @@ class HelferFormTest : public Personenstand {
         Helfer.Cursor = cursor;
         form = new HelferForm;
         Zeigen(form);
-    }
-
-    QWidget *Neu()
-    {
-        Drücken("NeuHelfer");
-        EXPECT_FALSE(form->isVisible());
-        return Fenster("NeuerHelfer");
     }
 };
 
@@ -211,51 +204,6 @@ TEST_F(HelferFormTest, WasSichNichtUmwandelnLäßtHältDasSpeichernAuf)
             << box;
         EXPECT_TRUE(form->isVisible());
     }
-}
-
-TEST_F(HelferFormTest, NeuerHelferWirdAngehängt)
-{
-    Helfer.Von1[3] = Heute; // what the slot holds
-    Öffnen(1);
-    QWidget *neu = Neu();
-    EXPECT_EQ(neu->windowTitle(), "Neuer Helfer");
-    EXPECT_EQ(Aufschrift(Finden(neu, "PLZetus")), "48999");
-    EXPECT_EQ(Aufschrift(Finden(neu, "Wohort")), "Beispielort");
-    EXPECT_EQ(Aufschrift(Finden(neu, "Tagen")), "21.11.2026");
-    Finden<QLineEdit>(neu, "Vorne")->setText("Dora");
-    Finden<QLineEdit>(neu, "Hinten")->setText("Dorn");
-    Finden<QComboBox>(neu, "Dient")->setEditText("Küster");
-    Klick(Finden(neu, "OKButton"));
-    EXPECT_EQ(Helfer.Anzahl, 4);
-    EXPECT_EQ(Datensatz(Helfer, 3),
-              (std::vector<Text>{"Dora", "Dorn", "", "48999", "Beispielort", "", "", "21.11.2026",
-                                 "Küster", "", "21.11.2026", "30.12.1899", "30.12.1899",
-                                 "30.12.1899", "30.12.1899", "30.12.1899"}));
-    EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(Gezeigt("Vorne"), "Bea");
-    EXPECT_EQ(Gezeigt("Datensätzig"), "4");
-}
-
-TEST_F(HelferFormTest, NeuerHelferWirdAbgelehntOderVerworfen)
-{
-    Öffnen();
-    QWidget *neu = Neu();
-    Finden<QLineEdit>(neu, "Vorne")->setText("Bea");
-    Finden<QLineEdit>(neu, "Hinten")->setText("Berg");
-    Klick(Finden(neu, "OKButton"));
-    EXPECT_EQ(GezeigteMeldungen.back(), "Doppelt eingeben! Nicht mit mir!!!!!");
-    Helfer.Anzahl = 200;
-    Klick(Finden(neu, "OKButton"));
-    EXPECT_EQ(GezeigteMeldungen.back(), "Maximale Anzahl von Datensätzen für Helfer erreicht!");
-    Helfer.Anzahl = 3;
-    Finden<QLineEdit>(neu, "Hinten")->setText("Neu");
-    Finden<QLineEdit>(neu, "PLZetus")->setText("x");
-    Klick(Finden(neu, "OKButton"));
-    EXPECT_EQ(GezeigteMeldungen.back(), "Laufzeitfehler '13': Typen unverträglich");
-    EXPECT_TRUE(neu->isVisible());
-    Klick(Finden(neu, "CancelButton"));
-    EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(Helfer.Anzahl, 3);
 }
 
 } // namespace

@@ -59,6 +59,19 @@ TEST_F(PersonenTest, LöschenEinesMeßdienersRücktJedesFeldVor)
     }
 }
 
+TEST_F(PersonenTest, LöschenDesEinzigenMeßdienersLäßtDieAnzahl)
+{
+    MeßdienerAnlegen("Anna", "Adler");
+    Meßdiener.Vorname[1] = "Leer";
+    MeßdienerLöschen(0);
+    EXPECT_EQ(Meßdiener.Anzahl, 1);
+    EXPECT_EQ(Meßdiener.Vorname[0], "Leer") << "the blank slot, moved up";
+    EXPECT_EQ(Meßdiener.Vorname[1], "");
+    MeßdienerAnlegen("Bea", "Berg");
+    MeßdienerLöschen(0);
+    EXPECT_EQ(Meßdiener.Anzahl, 1);
+}
+
 TEST_F(PersonenTest, LöschenEinesMeßdienersLeertDieWünscheNachIhm)
 {
     for (const char *name : {"Anna", "Bea", "Cem"})

@@ -1,0 +1,113 @@
+// The list of wish partners of the editor of the servers, and choosing from it by keyboard.
+#include "people/MeßdienerForm.h"
+
+#include "people/Personenstand.h"
+
+#include <QAbstractItemView>
+
+namespace altardienst {
+namespace {
+
+class PartnerlisteForm : public Personenstand {
+  protected:
+    PartnerlisteForm()
+    {
+        MeßdienerAnlegen("Cem", "Cohn"); // not in the order of the alphabet
+        MeßdienerAnlegen("Anna", "Adler");
+        MeßdienerAnlegen("", "Namenlos");
+        MeßdienerAnlegen("Bea", "Berg");
+        MeßdienerAnlegen("Ohne", "");
+        Meßdiener.Vorname[5] = "Leerer"; // the blank slot
+        Meßdiener.Nachname[5] = "Platz";
+        form = new MeßdienerForm;
+        Zeigen(form);
+    }
+    using Namen = std::vector<Text>;
+};
+
+TEST_F(PartnerlisteForm, StehtInDerReihenfolgeDerDatensätzeMitBeidenNamen)
+{
+    EXPECT_EQ(Liste("Partner"), (Namen{"Cohn,Cem", "Adler,Anna", "Berg,Bea"}));
+}
+
+TEST_F(PartnerlisteForm, FolgtDemBlättern)
+{
+    for (const char *weg : {"PLUS", "MINUS"}) {
+        SCOPED_TRACE(weg);
+        Schreiben("Datensätze", "1");
+        Schreiben("Vornamen", weg);
+        Drücken(weg);
+        EXPECT_EQ(Liste("Partner"), (Namen{"Cohn,Cem", Text("Adler,") + weg, "Berg,Bea"}));
+        Schreiben("Datensätze", "1");
+        Schreiben("Vornamen", "Anna");
+        Drehen("DPM", *weg == 'P' ? +1 : -1);
+        EXPECT_EQ(Liste("Partner"), (Namen{"Cohn,Cem", "Adler,Anna", "Berg,Bea"}));
+    }
+    Schreiben("Datensätze", "2");
+    Schreiben("Vornamen", "Nora");
+    Drücken("PLUS");
+    EXPECT_EQ(Liste("Partner"), (Namen{"Cohn,Cem", "Adler,Anna", "Namenlos,Nora", "Berg,Bea"}));
+}
+
+TEST_F(PartnerlisteForm, VerliertDenGelöschten)
+{
+    Schreiben("Datensätze", "1");
+    Antworten = {true};
+    Drücken("Lösch");
+    EXPECT_EQ(Liste("Partner"), (Namen{"Cohn,Cem", "Berg,Bea"}));
+}
+
+TEST_F(PartnerlisteForm, BekommtDenNeuenAnsEnde)
+{
+    Meßdiener.Vorname[5] = Meßdiener.Nachname[5] = "";
+    Drücken("NeuDiener");
+    QWidget *neu = Fenster("NeuMeßdiener");
+    Wanderer::Schreiben(Finden(neu, "Vornamen"), "Aaron");
+    Wanderer::Schreiben(Finden(neu, "Nachnamen"), "Aal");
+    Klick(Finden(neu, "OKButton"));
+    EXPECT_EQ(Liste("Partner"), (Namen{"Cohn,Cem", "Adler,Anna", "Berg,Bea", "Aal,Aaron"}));
+}
+
+TEST_F(PartnerlisteForm, TastenWählenAusDerListe)
+{
+    FokusAuf(C("Partner"));
+    QTest::keyClick(C("Partner"), Qt::Key_Down);
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Ein und dieselbe Person!!!"})
+        << "the first of the list is the server himself";
+    EXPECT_EQ(Gezeigt("Partner"), "");
+    FokusAuf(C("Datensätze"));
+    Schreiben("Datensätze", "3");
+    FokusAuf(C("Partner"));
+    GezeigteMeldungen.clear();
+    QTest::keyClick(C("Partner"), Qt::Key_Down);
+    EXPECT_EQ(Gezeigt("Partner"), "Cohn,Cem");
+    EXPECT_EQ(Gezeigt("NName"), "Cohn");
+    EXPECT_EQ(Gezeigt("VName"), "Cem");
+    QTest::keyClick(C("Partner"), Qt::Key_Down);
+    EXPECT_EQ(Gezeigt("NName") + "/" + Gezeigt("VName"), "Adler/Anna");
+    QTest::keyClick(C("Partner"), Qt::Key_Up);
+    EXPECT_EQ(Gezeigt("NName") + "/" + Gezeigt("VName"), "Cohn/Cem");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    Drücken("MINUS");
+    EXPECT_EQ(Meßdiener.WunschVorname[3], "Cem");
+    EXPECT_EQ(Meßdiener.WunschNachname[3], "Cohn");
+}
+
+TEST_F(PartnerlisteForm, AuchAusDerAufgeklapptenListe)
+{
+    auto *partner = Finden<QComboBox>(form, "Partner");
+    FokusAuf(partner);
+    partner->showPopup();
+    QWidget *liste = QApplication::activePopupWidget();
+    ASSERT_NE(liste, nullptr);
+    auto *ansicht = liste->findChild<QAbstractItemView *>();
+    ASSERT_NE(ansicht, nullptr);
+    QTest::keyClick(ansicht, Qt::Key_End);
+    QTest::keyClick(ansicht, Qt::Key_Return);
+    EXPECT_EQ(Gezeigt("Partner"), "Berg,Bea");
+    EXPECT_EQ(Gezeigt("NName") + "/" + Gezeigt("VName"), "Berg/Bea");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+} // namespace
+} // namespace altardienst
