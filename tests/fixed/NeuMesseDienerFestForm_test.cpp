@@ -262,6 +262,24 @@ TEST_F(NeuMesseDienerFestFormTest, EineFalscheEingabeHältDasSchließenNichtAuf)
     EXPECT_EQ(GezeigteMeldungen, Liste{}); // nothing of it is kept
 }
 
+TEST_F(NeuMesseDienerFestFormTest, DieFrageVerläßtKeineBox)
+{
+    EchteMeldungen();
+    Öffnen();
+    FokusAuf(MDiener(1));
+    Setzen(1, "Niemand,Nina");
+    Beantworten([](QMessageBox *box) {
+        EXPECT_EQ(box->text().toStdString(), "Übertragen in die Messenliste?");
+        if (auto *nein = box->button(QMessageBox::No))
+            return nein->click();
+        Beantworten([](QMessageBox *frage) { frage->button(QMessageBox::No)->click(); });
+        box->accept();
+    });
+    form->close();
+    EXPECT_EQ(Messe.DienerNach[0][1], "");
+    EXPECT_TRUE(Warten([&] { return !form; }));
+}
+
 TEST_F(NeuMesseDienerFestFormTest, AufJaStehtDerEintragInDerMesseEineGruppeWieEinePerson)
 {
     Messe.DienerVor[0][2] = "Alt";
