@@ -8,6 +8,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <sstream>
+
+#ifdef _WIN32
+#include <io.h>
+#include <windows.h>
+#else
+#include <unistd.h>
+#endif
 
 namespace altardienst {
 namespace {
@@ -68,12 +76,25 @@ std::string Lesen(const fs::path &pfad)
     }
 }
 
-void Ausgeben(const fs::path &pfad, const char *art, std::string_view inhalt)
+/// Returns when the medium itself holds what was written.
+bool Durchschreiben(std::FILE *datei)
+{
+#ifdef _WIN32
+    return std::fflush(datei) == 0 && _commit(_fileno(datei)) == 0;
+#else
+    return std::fflush(datei) == 0 && fsync(fileno(datei)) == 0;
+#endif
+}
+
+void Ausgeben(const fs::path &pfad, const char *art, std::string_view inhalt,
+              bool durchschreiben = false)
 {
     Datei datei = Öffnen(pfad, art);
     if (!datei)
         Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
     if (std::fwrite(inhalt.data(), 1, inhalt.size(), datei.get()) != inhalt.size())
+        Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
+    if (durchschreiben && !Durchschreiben(datei.get()))
         Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
     if (std::fclose(datei.release()) != 0) // what is still buffered may fail here
         Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
@@ -83,6 +104,31 @@ bool IstDatei(const fs::path &pfad)
 {
     std::error_code fehler;
     return fs::exists(pfad, fehler) && !fs::is_directory(pfad, fehler);
+}
+
+void Kopieren(const fs::path &von, const fs::path &nach)
+{
+    std::error_code fehler;
+    fs::path ziel = nach;
+    if (fs::exists(nach, fehler)) {
+        ziel = fs::canonical(nach, fehler); // behind a link, so that the link stays one
+        const bool schreibbar =
+            (fs::status(ziel, fehler).permissions() & fs::perms::owner_write) != fs::perms::none;
+        if (fs::equivalent(von, ziel, fehler) || !schreibbar)
+            throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
+    }
+    fs::path daneben = ziel;
+    daneben += ".neu";
+    const std::string inhalt = Lesen(von);
+    try {
+        Ausgeben(daneben, "wb", inhalt, true);
+        fs::rename(daneben, ziel, fehler);
+        if (fehler)
+            Gescheitert(fehler.value(), Laufzeitfehler::PfadNichtGefunden);
+    } catch (const Laufzeitfehler &) {
+        fs::remove(daneben, fehler);
+        throw;
+    }
 }
 
 std::optional<Text> Suchen(const fs::path &verzeichnis, const Text &name)
@@ -157,6 +203,19 @@ fs::path Heimverzeichnis()
 
 #endif
 
+/// The directory in which the running program lies.
+fs::path OrtDesProgramms()
+{
+#ifdef _WIN32
+    wchar_t datei[MAX_PATH] = {};
+    return GetModuleFileNameW(nullptr, datei, MAX_PATH) ? fs::path(datei).parent_path()
+                                                        : fs::path();
+#else
+    std::error_code fehler;
+    return fs::read_symlink("/proc/self/exe", fehler).parent_path();
+#endif
+}
+
 fs::path Programmverzeichnis()
 {
 #ifdef _WIN32
@@ -177,6 +236,25 @@ fs::path Diskette()
 #endif
 }
 
+/// A blank and its like stand in a table of mounts as a backslash with three octal digits.
+Text OhneUmschreibung(std::string_view umschrieben)
+{
+    constexpr std::size_t Ziffern = 3;
+    Text text;
+    for (std::size_t i = 0; i < umschrieben.size(); ++i) {
+        if (umschrieben[i] != '\\' || i + Ziffern >= umschrieben.size()) {
+            text += umschrieben[i];
+            continue;
+        }
+        int zeichen = 0;
+        for (std::size_t k = 1; k <= Ziffern; ++k)
+            zeichen = 8 * zeichen + (umschrieben[i + k] - '0');
+        text += static_cast<char>(zeichen);
+        i += Ziffern;
+    }
+    return text;
+}
+
 std::vector<Wurzel> Wurzeln()
 {
     std::vector<Wurzel> wurzeln;
@@ -190,8 +268,16 @@ std::vector<Wurzel> Wurzeln()
 #else
     wurzeln.push_back({"Persönlicher Ordner", Heimverzeichnis()});
     wurzeln.push_back({"Diskette", Diskette()});
+    try {
+        std::ranges::move(EingehängteDatenträger(Lesen("/proc/self/mounts")),
+                          std::back_inserter(wurzeln));
+    } catch (const Laufzeitfehler &) {
+        // A machine without such a table has no media to offer.
+    }
     wurzeln.push_back({"Dateisystem", "/"});
 #endif
+    if (const fs::path daten = MitgelieferteDaten(OrtDesProgramms()); !daten.empty())
+        wurzeln.push_back({"Mitgelieferte Daten", daten});
     return wurzeln;
 }
 
@@ -206,6 +292,40 @@ Text TextVon(const std::filesystem::path &pfad)
 {
     std::u8string text = pfad.u8string();
     return Text(text.begin(), text.end());
+}
+
+Text OrdnerText(const std::filesystem::path &verzeichnis)
+{
+    return TextVon(verzeichnis / "");
+}
+
+std::vector<Wurzel> EingehängteDatenträger(std::string_view tabelle)
+{
+    std::vector<Wurzel> wurzeln;
+    std::istringstream zeilen{std::string(tabelle)};
+    for (std::string zeile; std::getline(zeilen, zeile);) {
+        std::istringstream felder(zeile);
+        std::string gerät;
+        std::string verzeichnis;
+        felder >> gerät >> verzeichnis;
+        const fs::path pfad = PfadAus(OhneUmschreibung(verzeichnis));
+        const std::string ort = verzeichnis + '/';
+        if (pfad != Diskette() && (ort.starts_with("/media/") || ort.starts_with("/run/media/") ||
+                                   ort.starts_with("/mnt/")))
+            wurzeln.push_back({TextVon(pfad.filename()), pfad});
+    }
+    return wurzeln;
+}
+
+fs::path MitgelieferteDaten(const fs::path &ort)
+{
+    std::error_code fehler;
+    for (const char *weg : {"../share/altardienst", "data", "../../data"}) {
+        const fs::path daten = (ort / weg).lexically_normal();
+        if (fs::is_directory(daten / "leer", fehler))
+            return daten;
+    }
+    return {};
 }
 
 LaufwerkeDienst Systemlaufwerke()
@@ -223,6 +343,7 @@ LaufwerkeDienst Systemlaufwerke()
     dienst.Anhängen = [](const fs::path &pfad, std::string_view inhalt) {
         Ausgeben(pfad, "ab", inhalt);
     };
+    dienst.Kopieren = Kopieren;
     dienst.AttributeLöschen = AttributeLöschen;
     dienst.VerzeichnisAnlegen = VerzeichnisAnlegen;
     return dienst;

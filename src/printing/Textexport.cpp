@@ -11,7 +11,7 @@ namespace altardienst {
 Exportziel PfadBilden(const std::filesystem::path &verzeichnis, const Text &name)
 {
     Exportziel ziel;
-    ziel.Ordner = TextVon(verzeichnis / ""); // a root already ends with its separator
+    ziel.Ordner = OrdnerText(verzeichnis);
     ziel.NurName = (name.empty() ? "Datei" : name) + ".txt";
     ziel.VollerPfad = ziel.Ordner + ziel.NurName;
     return ziel;

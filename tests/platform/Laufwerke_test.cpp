@@ -111,6 +111,28 @@ TEST_F(LaufwerkeTest, TexteUndPfadeSindEinUndDasselbe)
     EXPECT_EQ(TextVon(PfadAus("a") / PfadAus("ß")), TextVon(PfadAus("a/ß").make_preferred()));
 }
 
+TEST_F(LaufwerkeTest, EinOrdnerEndetMitEinemTrenner)
+{
+    EXPECT_EQ(OrdnerText("/"), "/");
+    EXPECT_EQ(OrdnerText("/a/b"), TextVon(fs::path("/a/b/")));
+    EXPECT_EQ(OrdnerText("/a/b/"), TextVon(fs::path("/a/b/")));
+}
+
+TEST_F(LaufwerkeTest, MitgelieferteDatenLiegenInstalliertDanebenOderImBau)
+{
+    EXPECT_EQ(MitgelieferteDaten(Festplatte / "bin"), "");
+    for (const char *ort : {"data", "share/altardienst", "bin/data"}) {
+        fs::create_directories(Festplatte / "bin");
+        fs::create_directories(Festplatte / ort / "leer");
+        const fs::path programm =
+            Text(ort) == "data" ? Festplatte / "build" / "dev" : Festplatte / "bin";
+        EXPECT_EQ(MitgelieferteDaten(programm), Festplatte / ort);
+        fs::remove_all(Festplatte / ort);
+    }
+    fs::create_directories(Festplatte / "share" / "altardienst");
+    EXPECT_EQ(MitgelieferteDaten(Festplatte / "bin"), "") << "without the data in it";
+}
+
 #ifndef _WIN32
 
 /// An environment variable for one test.
@@ -144,10 +166,32 @@ TEST_F(LaufwerkeTest, OhneAngabeLiegenDieDatenBeimBenutzer)
     Umgebung heim("HOME", "/home/küster");
     EXPECT_EQ(System.Programmverzeichnis(), "/home/küster/.local/share/Altardienst");
     EXPECT_EQ(System.Diskette(), "/media/floppy");
-    ASSERT_EQ(System.Wurzeln().size(), 3U);
-    EXPECT_EQ(System.Wurzeln()[0].Pfad, "/home/küster");
-    EXPECT_EQ(System.Wurzeln()[1].Pfad, "/media/floppy");
-    EXPECT_EQ(System.Wurzeln()[2].Pfad, "/");
+    const auto wurzeln = System.Wurzeln();
+    ASSERT_GE(wurzeln.size(), 3U);
+    EXPECT_EQ(wurzeln[0].Pfad, "/home/küster");
+    EXPECT_EQ(wurzeln[1].Pfad, "/media/floppy");
+    EXPECT_EQ(wurzeln.back().Pfad, "/");
+}
+
+TEST_F(LaufwerkeTest, EingehängteDatenträgerSindWurzelnAndereDateisystemeNicht)
+{
+    Umgebung diskette("ALTARDIENST_DISKETTE", "/media/diskette");
+    const auto wurzeln =
+        EingehängteDatenträger("/dev/sda1 / ext4 rw,relatime 0 0\n"
+                               "proc /proc proc rw 0 0\n"
+                               "/dev/sdb1 /media/kuester/USB\\040STICK vfat rw 0 0\n"
+                               "/dev/sdc1 /run/media/kuester/Größe\\134 exfat rw 0 0\n"
+                               "/dev/fd0 /media/diskette vfat rw 0 0\n"
+                               "/dev/sdd1 /mnt ext4 rw 0 0\n"
+                               "/dev/sde1 /mntx ext4 rw 0 0\n"
+                               "\n"
+                               "halb");
+    ASSERT_EQ(wurzeln.size(), 3U);
+    EXPECT_EQ(wurzeln[0].Name, "USB STICK");
+    EXPECT_EQ(wurzeln[0].Pfad, "/media/kuester/USB STICK");
+    EXPECT_EQ(wurzeln[1].Name, "Größe\\");
+    EXPECT_EQ(wurzeln[2].Pfad, "/mnt");
+    EXPECT_TRUE(EingehängteDatenträger("").empty());
 }
 
 #endif
