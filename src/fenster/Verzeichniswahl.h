@@ -32,13 +32,20 @@ class Verzeichniswahl {
     /// be read; the lists then stay as they are.
     void Öffnen(const std::filesystem::path &neu);
 
+    /// Opens the first drive that can be read; if none can, the lists stay empty.
+    void Beginnen();
+
     /// Reads the directory again, without `BeiWechsel`.
     void Auffrischen();
 
     /// Runs after each change of the directory.
     std::function<void()> BeiWechsel = [] {};
 
+    /// The name of a file in the list, also where the screen cannot show it.
+    static Text Name(const QListWidgetItem *eintrag);
+
   private:
+    void LaufwerkÖffnen();
     void EintragÖffnen(const QListWidgetItem *eintrag);
     void Füllen(const std::filesystem::path &neu);
 

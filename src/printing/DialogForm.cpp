@@ -27,7 +27,7 @@ DialogForm::DialogForm()
     Anordnen();
     Verbinden();
     Überschreib->setChecked(true); // one of the two, even if no directory can be read
-    Abgefangen([this] { Wahl.Öffnen(Laufwerke.Wurzeln().front().Pfad); })();
+    Wahl.Beginnen();
 }
 
 void DialogForm::Anordnen()

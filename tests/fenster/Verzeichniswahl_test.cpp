@@ -3,6 +3,8 @@
 
 #include "fenster/Fensterstand.h"
 
+#include <QAbstractItemView>
+#include <QElapsedTimer>
 #include <QVBoxLayout>
 
 namespace altardienst {
@@ -157,6 +159,87 @@ TEST_F(VerzeichniswahlTest, AuffrischenLiestNeuUndMeldetKeinenWechsel)
     EXPECT_EQ(Zeilen(w.Verzeichnis), (Liste{"..", "Bilder", "Neu", "Texte"}));
     EXPECT_EQ(Zeilen(w.Dateien), (Liste{"b.txt", "neu.txt", "Äpfel.txt"}));
     EXPECT_EQ(wechsel, 0);
+}
+
+TEST_F(VerzeichniswahlTest, BeginntAufDemErstenLesbarenLaufwerk)
+{
+    Laufwerke.Wurzeln = [this] {
+        return std::vector<Wurzel>{{"weg", Festplatte / "weg"},
+                                   {"Datei", Festplatte / "b.txt"},
+                                   {"Diskette", Diskette},
+                                   {"Festplatte", Festplatte}};
+    };
+    Verzeichniswahl &w = Öffnen();
+    Verzeichniswahl neue("a", "b", "c");
+    int gewechselt = 0;
+    neue.BeiWechsel = [&] { ++gewechselt; };
+    neue.Beginnen();
+    EXPECT_EQ(neue.Pfad(), Diskette);
+    EXPECT_EQ(neue.Laufwerk->currentText(), "Diskette");
+    EXPECT_EQ(Zeilen(neue.Dateien), Liste{"alt.txt"});
+    EXPECT_EQ(gewechselt, 1);
+    EXPECT_EQ(w.Pfad(), Festplatte);
+    for (QWidget *liste :
+         std::initializer_list<QWidget *>{neue.Laufwerk, neue.Verzeichnis, neue.Dateien})
+        delete liste;
+}
+
+TEST_F(VerzeichniswahlTest, DasselbeLaufwerkNochEinmalFührtAusDerTiefeZurück)
+{
+    Verzeichniswahl &w = Öffnen();
+    w.Öffnen(Festplatte / "Texte" / "Größen");
+    FokusAuf(w.Laufwerk);
+    w.Laufwerk->showPopup();
+    QTest::keyClick(w.Laufwerk->view(), Qt::Key_Return);
+    EXPECT_EQ(w.Pfad(), Festplatte);
+}
+
+TEST_F(VerzeichniswahlTest, EinNameDerKeinTextIstLässtSichÖffnen)
+{
+    const Text name = "alt\xe4"; // as an old diskette has it
+    fs::create_directories(Festplatte / name / "darin");
+    DateiSchreiben(Festplatte / (name + ".txt"), "");
+    Verzeichniswahl &w = Öffnen();
+    w.Auffrischen();
+    ASSERT_EQ(w.Verzeichnis->count(), 4);
+    ZeileWählen(w.Verzeichnis, 3);
+    EXPECT_EQ(w.Pfad(), Festplatte / name);
+    EXPECT_EQ(Zeilen(w.Verzeichnis), (Liste{"..", "darin"}));
+    ZeileWählen(w.Verzeichnis, 0);
+    EXPECT_EQ(Verzeichniswahl::Name(w.Dateien->item(0)), name + ".txt");
+}
+
+TEST_F(VerzeichniswahlTest, SchlechteVerzeichnisseLassenDieListenStehen)
+{
+    fs::create_symlink("Kreis", Festplatte / "Kreis");
+    fs::create_symlink("nirgends", Festplatte / "Verweis");
+    Verzeichniswahl &w = Öffnen();
+    for (const fs::path &pfad :
+         {Festplatte / "Kreis", Festplatte / "Verweis", Festplatte / "b.txt",
+          Festplatte / std::string(5000, 'x'), fs::path(), fs::path("relativ")})
+        EXPECT_NE(NummerDesFehlers([&] { w.Öffnen(pfad); }), 0) << pfad;
+    EXPECT_EQ(w.Pfad(), Festplatte);
+    EXPECT_EQ(Zeilen(w.Verzeichnis), (Liste{"..", "Bilder", "Texte"}));
+    EXPECT_EQ(wechsel, 0);
+}
+
+TEST_F(VerzeichniswahlTest, ZehntausendEinträgeStehenSofortDa)
+{
+    const fs::path voll = Festplatte / "voll";
+    for (int i = 0; i < 5000; ++i) {
+        fs::create_directories(voll / ("Ordner " + std::to_string(i)));
+        DateiSchreiben(voll / ("Datei " + std::to_string(i)), "");
+    }
+    Verzeichniswahl &w = Öffnen();
+    QElapsedTimer uhr;
+    uhr.start();
+    w.Öffnen(voll);
+    QCoreApplication::processEvents();
+    const auto dauer = uhr.elapsed();
+    RecordProperty("ms", static_cast<int>(dauer));
+    EXPECT_LT(dauer, 1000) << "far more than it takes";
+    EXPECT_EQ(w.Verzeichnis->count(), 5001);
+    EXPECT_EQ(w.Dateien->count(), 5000);
 }
 
 } // namespace
