@@ -1,6 +1,8 @@
 // The fixture of all tests.
 #include "Prüfstand.h"
 
+#include "core/Allgemein.h"
+
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -26,6 +28,8 @@ Prüfstand::Prüfstand()
       zufallZuvor(Zufall), meldungenZuvor(Meldungen), laufwerkeZuvor(Laufwerke)
 {
     TabellenLeeren();
+    NachKopie = 0;
+    DateienKopierenZeigen = [] {};
     Festplatte = wurzel / "Festplatte";
     Diskette = wurzel / "Diskette";
     fs::create_directories(Festplatte);

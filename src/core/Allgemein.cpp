@@ -12,16 +12,6 @@ namespace {
 
 using std::filesystem::path;
 
-/// The order in which the error paths ask for the files.
-constexpr std::array<Dateinummer, 8> Suchfolge = {
-    DateiEtikett, DateiGruppe,        DateiHelfer, DateiMeßdiener,
-    DateiMesse,   DateiStandardmesse, DateiKonfig, DateiMesseDienerFest};
-
-const Datei &DateiMit(Dateinummer nummer)
-{
-    return Dateien[static_cast<std::size_t>(nummer)];
-}
-
 bool Vorhanden(const path &verzeichnis, const Datei &datei)
 {
     return Laufwerke.Suchen(verzeichnis, datei.Suche).has_value();
@@ -58,32 +48,51 @@ void AlleDateienSchreiben(const path &verzeichnis)
 }
 
 /// The first-run path, taken on any failure of the load: only the first missing file is named,
-/// whatever failed.
-void ErststartPfad(const path &verzeichnis)
+/// whatever failed. True if the load is to go on behind what failed.
+bool ErststartPfad(const path &verzeichnis)
 {
+    NachKopie = 0;
+    bool MeldungGezeigt = false;
     Laufwerke.VerzeichnisAnlegen(verzeichnis);
     for (Dateinummer nummer : Suchfolge) {
         const Datei &datei = DateiMit(nummer);
         if (Vorhanden(verzeichnis, datei))
             continue;
-        Meldungen.Zeigen("Bitte Daten von Diskette einlesen oder kopieren, da Datei - " +
-                         Text(datei.Suche) +
-                         " - im Verzeichnis - C:\\programm\\Altardienst\\ - fehlt!");
-        return;
+        if (!MeldungGezeigt) {
+            DateienKopierenZeigen();
+            Meldungen.Zeigen("Bitte Daten von Diskette einlesen oder kopieren, da Datei - " +
+                             Text(datei.Suche) +
+                             " - im Verzeichnis - C:\\programm\\Altardienst\\ - fehlt!");
+        }
+        MeldungGezeigt = true;
+        // Cleared above, so it was set while the message was open.
+        if (NachKopie != 0)
+            return true;
     }
+    return false;
 }
 
 } // namespace
 
+int NachKopie = 0;
+std::function<void()> DateienKopierenZeigen = [] {};
+
 void VonFestplatteLaden()
 {
-    path verzeichnis = Laufwerke.Programmverzeichnis();
-    try {
-        KonfigUndStandardmessenLesen(verzeichnis);
-        for (std::size_t i = DateiMeßdiener; i < Dateien.size(); ++i)
-            DateiLesen(verzeichnis, Dateien[i]);
-    } catch (const Laufzeitfehler &) {
-        ErststartPfad(verzeichnis);
+    const path verzeichnis = Laufwerke.Programmverzeichnis();
+    const auto geht = [&](const auto &schritt) {
+        try {
+            schritt();
+            return true;
+        } catch (const Laufzeitfehler &) {
+            return ErststartPfad(verzeichnis);
+        }
+    };
+    for (const Datei &datei : Dateien) {
+        if (!geht([&] { DateiLesen(verzeichnis, datei); }))
+            return;
+        if (&datei == &DateiMit(DateiKonfig))
+            SkalenBegrenzen();
     }
 }
 

@@ -34,6 +34,16 @@ enum Dateinummer {
 /// In the order in which a whole load reads and a whole save writes them.
 extern const std::array<Datei, 8> Dateien;
 
+/// The order in which files are asked for that may be missing.
+constexpr std::array<Dateinummer, 8> Suchfolge = {
+    DateiEtikett, DateiGruppe,        DateiHelfer, DateiMeßdiener,
+    DateiMesse,   DateiStandardmesse, DateiKonfig, DateiMesseDienerFest};
+
+inline const Datei &DateiMit(Dateinummer nummer)
+{
+    return Dateien[static_cast<std::size_t>(nummer)];
+}
+
 /// The two header lines of the servers alone.
 void MeßdienerKopfLesen(Zeilenleser &zeilen);
 

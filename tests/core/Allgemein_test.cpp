@@ -25,6 +25,8 @@ Text Fehlt(const Text &datei)
            " - im Verzeichnis - C:\\programm\\Altardienst\\ - fehlt!";
 }
 
+using Liste = std::vector<Text>;
+
 class Allgemein : public Prüfstand {
   protected:
     /// A few values by which one sees which files a load brought.
@@ -249,6 +251,49 @@ TEST_F(Allgemein, FehlendeDateiBeendetDasLadenAnIhrerStelle)
             EXPECT_EQ(Kennzeichen()[static_cast<std::size_t>(i)], i < datei ? "neu" : "alt")
                 << Namen[datei] << " missing, " << Namen[i];
     }
+}
+
+TEST_F(Allgemein, FehltEineDateiKommtDerKopierdialogVorDerMeldung)
+{
+    Liste ablauf;
+    DateienKopierenZeigen = [&] { ablauf.emplace_back("Dialog"); };
+    Meldungen.Zeigen = [&](const Text &text) { ablauf.push_back(text); };
+    AufFestplatteSpeichern();
+    VonFestplatteLaden();
+    EXPECT_EQ(ablauf, Liste{});
+    fs::remove(Festplatte / "Helfer.dat");
+    fs::remove(Festplatte / "Konfig.cfg");
+    VonFestplatteLaden();
+    EXPECT_EQ(ablauf, (Liste{"Dialog", Fehlt("helfer.dat")})) << "one for both";
+    ablauf.clear();
+    DateiSchreiben(Festplatte / "Helfer.dat", "");
+    DateiSchreiben(Festplatte / "Konfig.cfg", "x");
+    VonFestplatteLaden();
+    EXPECT_EQ(ablauf, Liste{}) << "a bad value alone";
+}
+
+TEST_F(Allgemein, EinGescheitertesLadenLöschtNachKopieEinGelungenesNicht)
+{
+    AufFestplatteSpeichern();
+    NachKopie = 12;
+    VonFestplatteLaden();
+    EXPECT_EQ(NachKopie, 12);
+    DateiSchreiben(Festplatte / "Konfig.cfg", "x");
+    VonFestplatteLaden();
+    EXPECT_EQ(NachKopie, 0);
+}
+
+TEST_F(Allgemein, WirdNachKopieWährendDerMeldungGesetztGehtDasLadenDahinterWeiter)
+{
+    DateienBereitstellen();
+    fs::remove(Festplatte / "Gruppen.dat");
+    Meldungen.Zeigen = [&](const Text &text) {
+        GezeigteMeldungen.push_back(text);
+        NachKopie = 12;
+    };
+    VonFestplatteLaden();
+    EXPECT_EQ(GezeigteMeldungen, Liste{Fehlt("gruppen.dat")});
+    EXPECT_EQ(Kennzeichen(), (Liste{"neu", "neu", "neu", "neu", "alt", "neu", "neu", "neu"}));
 }
 
 TEST_F(Allgemein, FalscherWertBeendetDasLadenOhneEinWort)
