@@ -3,12 +3,15 @@
 
 #include "fenster/Bausteine.h"
 #include "fenster/Druckdialog.h"
+#include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
+#include "platform/Systeminfo.h"
 
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPointer>
+#include <QProcess>
 #include <QTimer>
 #include <QTranslator>
 
@@ -77,6 +80,9 @@ void AnwendungEinrichten(QApplication &anwendung)
         QApplication::installTranslator(deutsch);
     anwendung.setStyleSheet(Stil);
 
+    Systeminfo.Starten = [](const std::filesystem::path &programm) {
+        QProcess::startDetached(Anzeige(TextVon(programm)), {});
+    };
     static DruckerQt drucker(DruckdialogZeigen);
     Drucker = &drucker;
     Meldungen.Zeigen = [](const Text &text) {

@@ -24,8 +24,11 @@
 #include "printing/DruckForm.h"
 #include "printing/EtikettenForm.h"
 #include "printing/Plandruck.h"
+#include "settings/HintergrundsucheForm.h"
 #include "settings/KonfigurationForm.h"
+#include "settings/KopierForm.h"
 #include "settings/ZusatzKonfigForm.h"
+#include "settings/frmAboutForm.h"
 #include "statistics/SkalierungForm.h"
 #include "statistics/StatDienstForm.h"
 #include "statistics/StatHelferForm.h"
@@ -41,13 +44,11 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QPointer>
 #include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
-
-/// What an entry or button does whose dialog is not there: it stands in its place, disabled.
-const std::function<void()> NochNicht;
 
 QMenu *Menü(QWidget *in, const char *name, const char *beschriftung)
 {
@@ -63,23 +64,12 @@ void Eintrag(QMenu *menü, const char *name, const char *beschriftung,
              const std::function<void()> &aktion)
 {
     auto *eintrag = Benannt(menü->addAction(QString::fromUtf8(beschriftung)), name);
-    eintrag->setEnabled(static_cast<bool>(aktion));
-    if (aktion)
-        QObject::connect(eintrag, &QAction::triggered, menü, Offen(aktion));
+    QObject::connect(eintrag, &QAction::triggered, menü, Offen(aktion));
 }
 
 void Trennstrich(QMenu *menü, const char *name)
 {
     Benannt(menü->addSeparator(), name);
-}
-
-/// A submenu none of whose entries can be chosen is disabled as a whole.
-void SperrenWennLeer(QMenu *menü)
-{
-    for (const QAction *eintrag : menü->actions())
-        if (eintrag->isEnabled())
-            return;
-    menü->menuAction()->setEnabled(false);
 }
 
 void Enden(int ergebnis)
@@ -106,6 +96,15 @@ void Beenden()
 {
     if (SpeichernOderEnden())
         Enden(0);
+}
+
+/// The main window stays as it is, so the entry can be chosen again while the window is open.
+void InfoZeigen()
+{
+    static QPointer<frmAboutForm> info;
+    if (!info)
+        info = new frmAboutForm;
+    DialogDanebenÖffnen(info);
 }
 
 } // namespace
@@ -185,7 +184,8 @@ void HauptForm::MenüDaten()
     QMenu *daten = Menü(menuBar(), "mnuDaten", "D&aten");
     Eintrag(daten, "mnuKonfiguration", "&Konfiguration",
             [] { DialogÖffnen(new KonfigurationForm); });
-    Eintrag(daten, "mnuHintergrund", "Hi&ntergrund", NochNicht);
+    Eintrag(daten, "mnuHintergrund", "Hi&ntergrund",
+            [] { DialogÖffnen(new HintergrundsucheForm); });
     Eintrag(daten, "mnuEtiketten", "Et&ikettengröße", [] { DialogÖffnen(new EtikettenForm); });
     Trennstrich(daten, "mnufilebar7");
     Eintrag(daten, "mnuGruppe", "&Gruppe", [] { DialogÖffnen(new GruppeForm); });
@@ -270,24 +270,27 @@ void HauptForm::MenüZusatz()
     Eintrag(diskette, "mnuDatenladenD", "&laden", VonDisketteLaden);
 
     QMenu *daten = Menü(zusatz, "mnuDatamenu", "Dat&en");
-    Eintrag(daten, "mnuDatenHolen", "Daten &holen", NochNicht);
-    Eintrag(daten, "mnuDatenSichern", "Daten &sichern", NochNicht);
-    SperrenWennLeer(daten);
+    Eintrag(daten, "mnuDatenHolen", "Daten &holen", [] {
+        if (SpeichernOderEnden())
+            DialogÖffnen(new DateikopieForm);
+    });
+    Eintrag(daten, "mnuDatenSichern", "Daten &sichern", [] {
+        if (SpeichernOderEnden())
+            DialogÖffnen(new DatensicherungForm);
+    });
     Eintrag(zusatz, "DruckML", "Dienste &richtig setzen für Messenlistausdruck", DiensteVerteilen);
 }
 
 void HauptForm::MenüHilfe()
 {
     QMenu *hilfe = Menü(menuBar(), "mnuHelp", "&?");
-    Eintrag(hilfe, "mnuHelpAbout", "&Info zur Anwendung", NochNicht);
+    Eintrag(hilfe, "mnuHelpAbout", "&Info zur Anwendung", InfoZeigen);
 }
 
 void HauptForm::Verbinden()
 {
     auto schritt = [this](QPushButton *knopf, const std::function<void()> &aktion) {
-        knopf->setEnabled(static_cast<bool>(aktion));
-        if (aktion)
-            connect(knopf, &QPushButton::clicked, this, Offen(aktion));
+        connect(knopf, &QPushButton::clicked, this, Offen(aktion));
     };
     schritt(Messenorgani, [] {
         MessenNeuBestimmen();

@@ -90,7 +90,7 @@ void Hintergrundbild::Zeigen(const Text &pfad)
         return;
     }
     const QFileInfo datei(Anzeige(pfad));
-    if (!datei.exists() || (pfad == gezeigterPfad && datei.lastModified() == gezeigterStand &&
+    if (!datei.isFile() || (pfad == gezeigterPfad && datei.lastModified() == gezeigterStand &&
                             datei.size() == gezeigteGröße))
         return;
     gezeigterPfad = pfad;

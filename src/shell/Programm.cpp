@@ -1,20 +1,72 @@
 // The way from the start dialog to the main window.
 #include "shell/Programm.h"
 
+#include "core/Allgemein.h"
 #include "fenster/Anwendung.h"
+#include "settings/KopierForm.h"
 #include "shell/HauptForm.h"
 #include "shell/StartForm.h"
 
+#include <QPointer>
+
 namespace altardienst {
+namespace {
+
+QPointer<StartForm> Start;
+QPointer<HauptForm> Haupt;
+QPointer<DateienKopierenForm> Erstkopie;
+
+bool WirdKopiert()
+{
+    return Erstkopie && Erstkopie->isVisible();
+}
+
+/// A start dialog that was shown anew behind a load from the menu leads back to the main window
+/// that is there.
+void HauptZeigen()
+{
+    if (!Haupt) {
+        Haupt = new HauptForm;
+        HauptfensterSetzen(Haupt);
+    }
+    Haupt->showMaximized();
+    Haupt->activateWindow();
+}
+
+void KopierdialogZeigen()
+{
+    if (!WirdKopiert()) {
+        Erstkopie = new DateienKopierenForm;
+        DialogDanebenÖffnen(Erstkopie);
+    }
+    if (Start)
+        Start->hide();
+}
+
+} // namespace
 
 void ProgrammStarten()
 {
-    auto *start = new StartForm([] {
-        auto *haupt = new HauptForm;
-        HauptfensterSetzen(haupt);
-        haupt->showMaximized();
-    });
-    start->show();
+    DateienKopierenZeigen = KopierdialogZeigen;
+    StartNeuZeigen();
+}
+
+void StartZeigen()
+{
+    if (!Start)
+        Start = new StartForm(HauptZeigen);
+    if (!WirdKopiert())
+        DialogDanebenÖffnen(Start);
+}
+
+void StartNeuZeigen()
+{
+    if (Start) {
+        Start->hide();
+        Start->deleteLater();
+        Start.clear();
+    }
+    StartZeigen();
 }
 
 } // namespace altardienst

@@ -17,6 +17,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
 
 namespace altardienst {
@@ -208,8 +209,12 @@ void StartForm::TagileinGeändert()
 void StartForm::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->accept();
+    const QWidgetList fenster = QApplication::topLevelWidgets();
+    const bool letztes = std::ranges::none_of(
+        fenster, [this](const QWidget *eines) { return eines != this && eines->isVisible(); });
     // Nothing was planned yet, so nothing is saved.
-    QApplication::exit();
+    if (letztes)
+        QApplication::exit();
 }
 
 } // namespace altardienst

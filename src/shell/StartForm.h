@@ -19,7 +19,7 @@ namespace altardienst {
 class StartForm : public QWidget {
   public:
     /// Loads the eight files and fills the screen. `starten` shows the main window; closing the
-    /// form before that ends the program without saving.
+    /// form as the last window ends the program without saving.
     explicit StartForm(std::function<void()> starten);
 
     QLineEdit *Datumsen;

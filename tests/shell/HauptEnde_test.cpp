@@ -1,6 +1,7 @@
 // Leaving the program, and saving that fails.
 #include "shell/Hauptstand.h"
 
+#include "core/Allgemein.h"
 #include "printing/DialogForm.h"
 #include "shell/Programm.h"
 
@@ -70,6 +71,7 @@ TEST_F(HauptEndeTest, BeendenImMenüSpeichertAlleAchtDateienUndEntlädt)
 
 TEST_F(HauptEndeTest, DasEndeEntlädtAuchStartUndOffeneDialoge)
 {
+    AufFestplatteSpeichern();
     EXPECT_EQ(Programmlauf([] {
                   ProgrammStarten();
                   Klick(Finden(Fenster("Start"), "Starten"));
@@ -112,6 +114,23 @@ TEST_F(HauptEndeTest, ScheitertSpeichernImMenüEndetDasProgrammAuch)
               61);
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Laufzeitfehler '61': Datenträger voll"});
     EXPECT_EQ(Geschrieben(), (std::vector<Text>{"Konfig.cfg", "Standard.dat"}));
+}
+
+TEST_F(HauptEndeTest, ScheitertDasSpeichernVorHolenOderSichernEndetDasProgrammOhneDialog)
+{
+    auto schreiben = Laufwerke.Schreiben;
+    for (const char *eintrag : {"mnuDatenHolen", "mnuDatenSichern"}) {
+        Laufwerke.Schreiben = schreiben;
+        DatenträgerFüllen();
+        GezeigteMeldungen.clear();
+        EXPECT_EQ(Programmlauf([&] {
+                      Öffnen();
+                      Wählen(eintrag);
+                      EXPECT_FALSE(IstOffen("Dateikopie") || IstOffen("Datensicherung"));
+                  }),
+                  61);
+        EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Laufzeitfehler '61': Datenträger voll"});
+    }
 }
 
 TEST_F(HauptEndeTest, DieMeldungEinesGescheitertenSpeichernsIstEinFenster)

@@ -10,6 +10,7 @@
 #include "platform/Zufall.h"
 #include "printing/DialogForm.h"
 #include "printing/DruckForm.h"
+#include "settings/KopierForm.h"
 #include "shell/HauptForm.h"
 #include "shell/Programm.h"
 #include "shell/StartForm.h"
@@ -124,12 +125,20 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     return auftrag;
 }
 
-template <class Form> Form *Fenster()
+/// The visible window of that kind, null if there is none.
+template <class Form> Form *OffenesFenster()
 {
     QCoreApplication::processEvents();
     for (QWidget *fenster : QApplication::topLevelWidgets())
         if (auto *form = dynamic_cast<Form *>(fenster); form && form->isVisible())
             return form;
+    return nullptr;
+}
+
+template <class Form> Form *Fenster()
+{
+    if (Form *form = OffenesFenster<Form>())
+        return form;
     throw std::runtime_error("a window did not open");
 }
 
@@ -140,6 +149,10 @@ class Lauf {
     void Starten()
     {
         ProgrammStarten();
+        if (auto *kopie = OffenesFenster<DateienKopierenForm>()) { // where files are missing
+            Bild(kopie);
+            kopie->close();
+        }
         auto *start = Fenster<StartForm>();
         if (!auftrag.Start.isEmpty())
             start->Datumsen->setText(auftrag.Start);

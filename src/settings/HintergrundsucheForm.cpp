@@ -1,0 +1,81 @@
+// The dialog that chooses the picture behind the main window.
+#include "settings/HintergrundsucheForm.h"
+
+#include "core/tables.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "platform/Laufwerke.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace altardienst {
+
+HintergrundsucheForm::HintergrundsucheForm()
+    : Wahl("Laufw", "Verz", "Dateie"), Bild(new Hintergrundbild("Bild")),
+      Ende(Knopf("Ende", "Ende"))
+{
+    Benannt(this, "Hintergrundsuche");
+    setWindowTitle("Hintergrund");
+    Anordnen();
+    Verbinden();
+    Wahl.Beginnen();
+    Bild->Zeigen(Konfig.Hintergrund);
+}
+
+void HintergrundsucheForm::Anordnen()
+{
+    auto *links = new QVBoxLayout;
+    links->addWidget(Wahl.Laufwerk);
+    links->addWidget(Wahl.Verzeichnis, 2);
+    links->addWidget(Wahl.Dateien, 3);
+
+    auto *oben = new QHBoxLayout;
+    oben->setSpacing(12);
+    oben->addLayout(links, 2);
+    oben->addWidget(Bild, 3);
+
+    auto *unten = new QHBoxLayout;
+    unten->addStretch();
+    Ende->setMinimumWidth(110);
+    unten->addWidget(Ende);
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(16, 16, 16, 16);
+    spalte->setSpacing(12);
+    spalte->addLayout(oben, 1);
+    spalte->addLayout(unten);
+    resize(660, 440);
+    Wahl.Dateien->setFocus();
+}
+
+void HintergrundsucheForm::Verbinden()
+{
+    connect(Wahl.Dateien, &QListWidget::itemSelectionChanged, this, [this] { DateiGewählt(); });
+    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void HintergrundsucheForm::DateiGewählt()
+{
+    const auto gewählt = Wahl.Dateien->selectedItems();
+    if (gewählt.isEmpty()) // the list was filled anew
+        return;
+    const Text name = Verzeichniswahl::Name(gewählt.front());
+    if (name.find_first_of("\r\n") != Text::npos) // would move all lines of the file behind it
+        return;
+    // In a root two separators follow each other; no platform minds.
+    const Text trenner = TextVon(std::filesystem::path(
+        std::filesystem::path::string_type(1, std::filesystem::path::preferred_separator)));
+    Konfig.Hintergrund = TextVon(Wahl.Pfad()) + trenner + name;
+    Bild->Zeigen(Konfig.Hintergrund);
+}
+
+void HintergrundsucheForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    HauptfensterZurück();
+}
+
+} // namespace altardienst

@@ -1,0 +1,205 @@
+// The three dialogs that copy the eight data files.
+#include "settings/KopierForm.h"
+
+#include "core/Allgemein.h"
+#include "fenster/Anwendung.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "platform/Laufwerke.h"
+#include "shell/Programm.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+constexpr int NachKopieImErststart = 12;
+
+void InsHauptfenster(bool)
+{
+    HauptfensterZurück();
+}
+
+void Neuladen()
+{
+    NachKopie = NachKopieImErststart;
+    VonFestplatteLaden();
+}
+
+void InDenStart(bool kopiert)
+{
+    if (kopiert)
+        StartNeuZeigen();
+    else {
+        NachKopie = 0;
+        StartZeigen();
+    }
+}
+
+constexpr const char *Holen = "Datendateien kopieren";
+
+const Kopierdialog Datensicherung{"Datensicherung", "Daten sichern", true, [] {}, InsHauptfenster};
+const Kopierdialog Dateikopie{"Dateikopie", Holen, false, VonFestplatteLaden, InsHauptfenster};
+const Kopierdialog DateienKopieren{"DateienKopieren", Holen, false, Neuladen, InDenStart};
+
+/// Keeps its place while it cannot be seen.
+void PlatzBehalten(QWidget *control)
+{
+    QSizePolicy platz = control->sizePolicy();
+    platz.setRetainSizeWhenHidden(true);
+    control->setSizePolicy(platz);
+}
+
+QRadioButton *Option(const Text &name, const char *beschriftung)
+{
+    return Benannt(new QRadioButton(QString::fromUtf8(beschriftung)), name.c_str());
+}
+
+} // namespace
+
+DatensicherungForm::DatensicherungForm() : KopierForm(Datensicherung) {}
+DateikopieForm::DateikopieForm() : KopierForm(Dateikopie) {}
+DateienKopierenForm::DateienKopierenForm() : KopierForm(DateienKopieren) {}
+
+KopierForm::KopierForm(const Kopierdialog &dialog)
+    : Wahl("Drive1", "Dir1", "Dateien"), EoA(Benannt(new QGroupBox("Daten ?"), "EoA")),
+      Alle(Option("Alle", "Alle")), Einzel(Option("Einzel", "Einzel")),
+      Welche(Benannt(new QGroupBox("Welche ?"), "Welche")), Datei(Beschriftung("Datei", "")),
+      OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen")),
+      dialog(dialog)
+{
+    Benannt(this, dialog.Name);
+    setWindowTitle(dialog.Titel);
+    for (std::size_t k = 0; k < O.size(); ++k)
+        O[k] = Option("O" + std::to_string(k + 1), Kopierdateien[k].Beschriftung);
+    if (dialog.Hinaus) {
+        VZ = Textfeld("VZ");
+        Verzeichnis = Knopf("Verzeichnis", "Verzeichnis erstellen");
+    }
+    Anordnen();
+    Verbinden();
+    OKButton->hide();
+    Alle->setChecked(true);
+    Wahl.Beginnen();
+}
+
+void KopierForm::Anordnen()
+{
+    Datei->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    Datei->setWordWrap(true);
+    // A long path must not widen the window beyond the screen.
+    Datei->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+
+    auto *links = new QVBoxLayout;
+    links->addWidget(Wahl.Laufwerk);
+    links->addWidget(Wahl.Verzeichnis);
+    if (VZ) {
+        VZ->setAccessibleName("Name des neuen Verzeichnisses");
+        VZ->setPlaceholderText("neues Verzeichnis");
+        VZ->setStyleSheet("QLineEdit { background-color: #ffffff; }"
+                          "QLineEdit:focus { background-color: #00ff00; }");
+        links->addWidget(VZ);
+        links->addWidget(Verzeichnis);
+    }
+
+    auto *umfang = new QHBoxLayout(EoA);
+    umfang->addWidget(Alle);
+    umfang->addWidget(Einzel);
+    umfang->addStretch();
+    auto *welche = new QVBoxLayout(Welche);
+    for (QRadioButton *option : O)
+        welche->addWidget(option);
+    auto *rechts = new QVBoxLayout;
+    rechts->addWidget(EoA);
+    rechts->addWidget(Welche);
+    rechts->addStretch();
+
+    auto *oben = new QHBoxLayout;
+    oben->setSpacing(12);
+    oben->addLayout(links, 1);
+    oben->addWidget(Wahl.Dateien, 1);
+    oben->addLayout(rechts);
+
+    auto *unten = new QHBoxLayout;
+    unten->addStretch();
+    for (QPushButton *knopf : {OKButton, CancelButton}) {
+        knopf->setMinimumWidth(110);
+        unten->addWidget(knopf);
+    }
+    PlatzBehalten(Welche);
+    PlatzBehalten(OKButton);
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(16, 16, 16, 16);
+    spalte->setSpacing(12);
+    spalte->addLayout(oben, 1);
+    spalte->addWidget(Datei);
+    spalte->addLayout(unten);
+    resize(660, 440);
+    Wahl.Verzeichnis->setFocus();
+}
+
+void KopierForm::Verbinden()
+{
+    for (QRadioButton *option : {Alle, Einzel})
+        connect(option, &QRadioButton::toggled, this, [this] { UmfangGewählt(); });
+    Wahl.BeiWechsel = [this] { VerzeichnisGewechselt(); };
+    if (VZ)
+        connect(Verzeichnis, &QPushButton::clicked, this,
+                Abgefangen([this] { VerzeichnisErstellen(); }));
+    connect(OKButton, &QPushButton::clicked, this, Offen([this] { Kopieren(); }));
+    connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void KopierForm::UmfangGewählt()
+{
+    Welche->setVisible(Einzel->isChecked());
+    if (Einzel->isChecked())
+        O.front()->setChecked(true);
+}
+
+void KopierForm::VerzeichnisGewechselt()
+{
+    Setzen(Datei, OrdnerText(Wahl.Pfad()));
+    OKButton->setVisible(AlleDateienVorhanden(Quelle()));
+}
+
+/// The new directory is shown but not entered; one that cannot be made is passed over.
+void KopierForm::VerzeichnisErstellen()
+{
+    const Text name = TextVon(VZ);
+    if (name.empty())
+        return;
+    Schrittweise([&] { Laufwerke.VerzeichnisAnlegen(PfadAus(OrdnerText(Wahl.Pfad()) + name)); },
+                 [&] { Wahl.Auffrischen(); })();
+}
+
+std::filesystem::path KopierForm::Quelle() const
+{
+    return dialog.Hinaus ? Laufwerke.Programmverzeichnis() : Wahl.Pfad();
+}
+
+void KopierForm::Kopieren()
+{
+    const auto ziel = dialog.Hinaus ? Wahl.Pfad() : Laufwerke.Programmverzeichnis();
+    if (Alle->isChecked())
+        AlleDateienKopieren(Quelle(), ziel);
+    else
+        for (std::size_t k = 0; k < O.size(); ++k)
+            if (O[k]->isChecked())
+                DateiKopieren(Kopierdateien[k], Quelle(), ziel);
+    dialog.NachKopie();
+    kopiert = true;
+    close();
+}
+
+void KopierForm::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    hide(); // what comes next looks whether this dialog is still there
+    dialog.Danach(kopiert);
+}
+
+} // namespace altardienst

@@ -1,0 +1,80 @@
+// The three dialogs that copy the eight data files, which are one but for a few words.
+#pragma once
+
+#include "fenster/Verzeichniswahl.h"
+#include "settings/Dateikopie.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QWidget>
+
+#include <array>
+
+namespace altardienst {
+
+/// What tells the dialogs apart.
+struct Kopierdialog {
+    const char *Name;
+    const char *Titel;
+    bool Hinaus;         // from the program's directory to the one picked; else the other way
+    void (*NachKopie)(); // behind the copy, before the form goes
+    void (*Danach)(bool kopiert); // when the form is gone
+};
+
+/// OK can only be seen while the directory that is copied from holds all eight files. A copy that
+/// fails is shown and leaves the dialog open.
+class KopierForm : public QWidget {
+  public:
+    explicit KopierForm(const Kopierdialog &dialog);
+
+    Verzeichniswahl Wahl;    // Drive1, Dir1, Dateien
+    QLineEdit *VZ = nullptr; // only where the way is out, like the button
+    QPushButton *Verzeichnis = nullptr;
+    QGroupBox *EoA;
+    QRadioButton *Alle;
+    QRadioButton *Einzel;
+    QGroupBox *Welche;
+    std::array<QRadioButton *, 8> O; // O1 to O8
+    QLabel *Datei;
+    QPushButton *OKButton;
+    QPushButton *CancelButton;
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void Anordnen();
+    void Verbinden();
+
+    void UmfangGewählt();
+    void VerzeichnisGewechselt();
+    void VerzeichnisErstellen();
+    void Kopieren();
+    std::filesystem::path Quelle() const;
+
+    const Kopierdialog &dialog;
+    bool kopiert = false;
+};
+
+/// "Daten sichern": out of the program's directory.
+class DatensicherungForm : public KopierForm {
+  public:
+    DatensicherungForm();
+};
+
+/// "Datendateien kopieren" from the menu: into the program's directory, which is then loaded.
+class DateikopieForm : public KopierForm {
+  public:
+    DateikopieForm();
+};
+
+/// "Datendateien kopieren" of the first start: the same, and the start dialog comes back with it.
+class DateienKopierenForm : public KopierForm {
+  public:
+    DateienKopierenForm();
+};
+
+} // namespace altardienst

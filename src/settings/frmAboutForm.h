@@ -1,0 +1,36 @@
+// What the program says of itself.
+#pragma once
+
+#include "shell/Hintergrundbild.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+
+namespace altardienst {
+
+/// Name, version, licence and warning from the build, and the way to the platform's information on
+/// the system. The main window stays as it is.
+class frmAboutForm : public QWidget {
+  public:
+    frmAboutForm();
+
+    Hintergrundbild *picIcon;
+    QLabel *lblTitle;
+    QLabel *lblVersion;
+    QLabel *lblDescription;
+    QLabel *LBLXXXX;
+    QLabel *Writen;
+    QLabel *lblDisclaimer;
+    QPushButton *cmdOK;
+    QPushButton *cmdSysInfo;
+
+  protected:
+    void keyPressEvent(QKeyEvent *taste) override;
+
+  private:
+    void Anordnen();
+    void Verbinden();
+};
+
+} // namespace altardienst

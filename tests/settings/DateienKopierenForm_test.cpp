@@ -1,0 +1,228 @@
+// The copy dialog of the first start, and the start dialog that it stands in for.
+#include "settings/Kopierstand.h"
+
+#include "core/Allgemein.h"
+#include "shell/Programm.h"
+
+#include <QAction>
+#include <QTimer>
+
+namespace altardienst {
+namespace {
+
+namespace fs = std::filesystem;
+
+Text Fehlt(const Text &datei)
+{
+    return "Bitte Daten von Diskette einlesen oder kopieren, da Datei - " + datei +
+           " - im Verzeichnis - C:\\programm\\Altardienst\\ - fehlt!";
+}
+
+/// The diskette holds a parish with a period of 28 days; the program's directory is empty. No main
+/// window is there yet.
+class DateienKopierenFormTest : public Kopierstand {
+  protected:
+    DateienKopierenFormTest()
+    {
+        delete haupt;
+        const path zuvor = Festplatte;
+        Festplatte = Diskette;
+        Konfig.Tage = 28;
+        Konfig.Gemeinde = "St. Martin";
+        AufFestplatteSpeichern();
+        Festplatte = zuvor;
+        TabellenLeeren();
+    }
+
+    void Starten()
+    {
+        ProgrammStarten();
+        Nehmen();
+    }
+
+    void Nehmen()
+    {
+        form = static_cast<KopierForm *>(Fenster("DateienKopieren"));
+        Zeigen(form);
+    }
+
+    void VonDisketteKopieren() const
+    {
+        NächstesLaufwerk();
+        Klick(form->OKButton);
+    }
+
+    static Text Tage() { return Aufschrift(Finden(Fenster("Start"), "Tagilein")); }
+
+    static int Anzahl(const char *name)
+    {
+        int anzahl = 0;
+        for (const QWidget *fenster : QApplication::topLevelWidgets())
+            anzahl += fenster->objectName() == name;
+        return anzahl;
+    }
+};
+
+TEST_F(DateienKopierenFormTest, StehtAnStelleDesStarts)
+{
+    bool dialogOffen = false;
+    Meldungen.Zeigen = [&](const Text &text) {
+        GezeigteMeldungen.push_back(text);
+        dialogOffen = IstOffen("DateienKopieren");
+    };
+    Starten();
+    EXPECT_TRUE(dialogOffen) << "below the message";
+    EXPECT_EQ(GezeigteMeldungen, Liste{Fehlt("etiketten.dat")});
+    EXPECT_FALSE(IstOffen("Start"));
+    EXPECT_EQ(form->windowTitle(), "Datendateien kopieren");
+    EXPECT_FALSE(form->findChild<QWidget *>("VZ"));
+    EXPECT_FALSE(form->findChild<QWidget *>("Verzeichnis"));
+    EXPECT_FALSE(ZeigtOK());
+}
+
+TEST_F(DateienKopierenFormTest, NachDerKopieWirdDerStartNeuGeladen)
+{
+    Starten();
+    VonDisketteKopieren();
+    EXPECT_EQ(NachKopie, 12);
+    EXPECT_EQ(Tage(), "28");
+    EXPECT_EQ(Konfig.Gemeinde, "St. Martin");
+    EXPECT_FALSE(IstOffen("DateienKopieren"));
+    EXPECT_TRUE(Warten([&] { return !form && Anzahl("Start") == 1; }));
+    EXPECT_EQ(GezeigteMeldungen.size(), 1U);
+    for (const auto &[name, klein] : AchtNamen)
+        EXPECT_TRUE(DateiLesen(Festplatte / PfadAus(klein)) == DateiLesen(Diskette / PfadAus(name)))
+            << name;
+}
+
+TEST_F(DateienKopierenFormTest, DasKopierteProgrammIstBrauchbarAberNochOhneSicherung)
+{
+    Starten();
+    VonDisketteKopieren();
+    Klick(Finden(Fenster("Start"), "Starten"));
+    QWidget *fenster = Fenster("Haupt");
+    Finden<QAction>(fenster, "mnuDatenSichern")->trigger();
+    EXPECT_FALSE(Finden(Fenster("Datensicherung"), "OKButton")->isVisible())
+        << "the files in small letters count as missing";
+    Fenster("Datensicherung")->close();
+    for (const auto &[name, klein] : AchtNamen)
+        fs::rename(Festplatte / PfadAus(klein), Festplatte / PfadAus(name));
+    Finden<QAction>(fenster, "mnuDatenSichern")->trigger();
+    EXPECT_TRUE(Finden(Fenster("Datensicherung"), "OKButton")->isVisible());
+}
+
+TEST_F(DateienKopierenFormTest, AbbrechenUndSchließenZeigenDenStartWieErWar)
+{
+    for (bool abbrechen : {true, false}) {
+        Starten();
+        NachKopie = 12;
+        const int meldungen = static_cast<int>(GezeigteMeldungen.size());
+        if (abbrechen)
+            Klick(form->CancelButton);
+        else
+            form->close();
+        EXPECT_EQ(NachKopie, 0);
+        EXPECT_EQ(Tage(), "7");
+        EXPECT_EQ(static_cast<int>(GezeigteMeldungen.size()), meldungen) << "nothing is loaded";
+        EXPECT_TRUE(DateienIn(Festplatte).empty());
+        EXPECT_TRUE(Warten([&] { return !form; }));
+    }
+}
+
+TEST_F(DateienKopierenFormTest, EineEinzelneDateiGibtDenDialogNochEinmal)
+{
+    Starten();
+    NächstesLaufwerk();
+    EinzelneWählen(1);
+    GezeigteMeldungen.clear();
+    Klick(form->OKButton);
+    // The load behind the copy, and that of the start dialog shown anew.
+    EXPECT_EQ(GezeigteMeldungen, (Liste{Fehlt("gruppen.dat"), Fehlt("gruppen.dat")}));
+    EXPECT_EQ(NachKopie, 0);
+    EXPECT_FALSE(IstOffen("Start"));
+    EXPECT_TRUE(Warten([&] { return !form && Anzahl("DateienKopieren") == 1; }));
+    EXPECT_EQ(DateienIn(Festplatte), Liste{"etiketten.dat"});
+    Nehmen();
+    VonDisketteKopieren();
+    EXPECT_EQ(Tage(), "28");
+}
+
+TEST_F(DateienKopierenFormTest, EineGescheiterteKopieLässtDenDialogStehen)
+{
+    Laufwerke.Kopieren = [](const path &, const path &) {
+        throw Laufzeitfehler(Laufzeitfehler::DatenträgerVoll);
+    };
+    Starten();
+    GezeigteMeldungen.clear();
+    VonDisketteKopieren();
+    EXPECT_EQ(GezeigteMeldungen, Liste{"Laufzeitfehler '61': Datenträger voll"});
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_FALSE(IstOffen("Start"));
+    EXPECT_EQ(NachKopie, 0);
+    Klick(form->CancelButton);
+    EXPECT_EQ(Tage(), "7");
+}
+
+TEST_F(DateienKopierenFormTest, EinFalscherWertInDerKopieLädtBisZuIhmOhneEinWort)
+{
+    DateiSchreiben(Diskette / "Standard.dat", "x");
+    Starten();
+    GezeigteMeldungen.clear();
+    VonDisketteKopieren();
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    EXPECT_EQ(NachKopie, 0);
+    EXPECT_EQ(Tage(), "28") << "the settings come before it";
+}
+
+TEST_F(DateienKopierenFormTest, DasLadenImMenüFührtAuchHierherUndZurückInsHauptfenster)
+{
+    Starten();
+    VonDisketteKopieren();
+    Klick(Finden(Fenster("Start"), "Starten"));
+    QWidget *fenster = Fenster("Haupt");
+    fs::remove(Festplatte / "helfer.dat");
+    GezeigteMeldungen.clear();
+    Finden<QAction>(fenster, "mnuDatenladen")->trigger();
+    EXPECT_EQ(GezeigteMeldungen, Liste{Fehlt("helfer.dat")});
+    EXPECT_TRUE(fenster->isEnabled()) << "the load doesn't touch the main window";
+    Nehmen();
+    VonDisketteKopieren();
+    EXPECT_EQ(Tage(), "28");
+    Klick(Finden(Fenster("Start"), "Starten"));
+    EXPECT_EQ(Anzahl("Haupt"), 1);
+    EXPECT_EQ(Fenster("Haupt"), fenster);
+}
+
+TEST_F(DateienKopierenFormTest, SchließenDesStartsNebenDemHauptfensterBeendetNichts)
+{
+    const int ergebnis = Programmlauf([this] {
+        Starten();
+        VonDisketteKopieren();
+        Klick(Finden(Fenster("Start"), "Starten"));
+        QWidget *fenster = Fenster("Haupt");
+        StartNeuZeigen();
+        Fenster("Start")->close();
+        QTimer::singleShot(200, fenster, [fenster] {
+            Konfig.Gemeinde = "noch da";
+            fenster->close();
+        });
+    });
+    EXPECT_EQ(ergebnis, 0);
+    EXPECT_TRUE(DateiLesen(Festplatte / "konfig.cfg").starts_with("noch da\r\n"));
+}
+
+TEST_F(DateienKopierenFormTest, EinGeschlossenerStartWirdNeuGeladen)
+{
+    Starten();
+    VonDisketteKopieren();
+    Klick(Finden(Fenster("Start"), "Starten"));
+    StartNeuZeigen();
+    Fenster("Start")->close();
+    EXPECT_TRUE(Warten([] { return Anzahl("Start") == 0; }));
+    Konfig.Tage = 99;
+    StartZeigen();
+    EXPECT_EQ(Tage(), "28");
+}
+
+} // namespace
+} // namespace altardienst
