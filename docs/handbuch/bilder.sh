@@ -6,9 +6,10 @@ cd "$(dirname "$0")/.."
 arbeit=$(mktemp -d)
 trap 'rm -rf "$arbeit"' EXIT
 cp -r ../data/beispiel "$arbeit/daten"
-mkdir "$arbeit/bilder"
+mkdir -p "$arbeit/bilder" "$arbeit/pfarrbuero/"{Bilder,Dokumente,Sicherung}
+export HOME=$arbeit/pfarrbuero
 env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --saat 1 \
-    --schritte 1,4,5,6,2 --menue mnuStandardmessen,mnuMeßdiener,mnuHelfer,mnuFilePrint \
+    --schritte 1,4,5,6,2 --menue mnuStandardmessen,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuDatenSichern \
     --bilder "$arbeit/bilder" >/dev/null 2>&1
 
 # The last picture of a window is the one with the finished plan.
@@ -22,3 +23,10 @@ bild NeuMesseDienerFest fest
 bild Meßdiener messdiener
 bild Helfer helfer
 bild Druck druck
+bild Datensicherung sichern
+
+# The first start.
+mkdir "$arbeit/erster"
+env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/nichts" --schritte "" \
+    --bilder "$arbeit/erster" >/dev/null 2>&1
+cp "$arbeit"/erster/*-DateienKopieren.png bilder/kopieren.png
