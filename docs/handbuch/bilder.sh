@@ -9,7 +9,8 @@ cp -r ../data/beispiel "$arbeit/daten"
 mkdir -p "$arbeit/bilder" "$arbeit/pfarrbuero/"{Bilder,Dokumente,Sicherung}
 export HOME=$arbeit/pfarrbuero
 env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --saat 1 \
-    --schritte 1,4,5,6,2 --menue mnuStandardmessen,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuDatenSichern \
+    --schritte 1,4,5,6,2 \
+    --menue mnuStandardmessen,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern \
     --bilder "$arbeit/bilder" >/dev/null 2>&1
 
 # The last picture of a window is the one with the finished plan.
@@ -23,6 +24,9 @@ bild NeuMesseDienerFest fest
 bild Meßdiener messdiener
 bild Helfer helfer
 bild Druck druck
+bild Konfiguration konfiguration
+bild JubiGebu jubigebu
+bild Statistik statistik
 bild Datensicherung sichern
 
 # The first start.
