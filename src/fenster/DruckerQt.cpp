@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 namespace altardienst {
 namespace {
@@ -41,6 +42,12 @@ bool Ersetzen(const QString &alt, const QString &neu)
     std::error_code fehler;
     std::filesystem::rename(neu.toStdU16String(), alt.toStdU16String(), fehler);
     return !fehler;
+}
+
+/// What a twip is on the device, in the dots that it counts.
+double PunkteProTwip(const QPainter &stift)
+{
+    return stift.device()->logicalDpiX() / TwipsProZoll;
 }
 
 } // namespace
@@ -144,10 +151,10 @@ void DruckerQt::Orientation(int neu)
     richtung = neu;
 }
 
+/// Opens the printer. A report that fails is not to leave half a document in its queue, and not
+/// every printer takes back what it was given; so nothing goes there before the report has ended.
 void DruckerQt::Beginnen()
 {
-    if (!drucker)
-        Druckerfehler();
     drucker->setDocName("Altardienst");
     drucker->setCreator("Altardienst");
     drucker->setPageSize(QPageSize(QPageSize::A4));
@@ -162,14 +169,24 @@ void DruckerQt::Beginnen()
         stift.reset();
         Druckerfehler();
     }
-    schriftGeändert = true;
+}
+
+/// Draws on the page, as soon as the printer is open.
+void DruckerQt::Zeichnen(Zeichnung zeichnung)
+{
+    if (!drucker)
+        Druckerfehler();
+    if (seiten.empty() || neueSeite)
+        seiten.emplace_back();
+    neueSeite = false;
+    seiten.back().push_back(std::move(zeichnung));
 }
 
 void DruckerQt::SchriftSetzen()
 {
     if (!schriftGeändert)
         return;
-    stift->setFont(schrift);
+    Zeichnen([schrift = schrift](QPainter &stift) { stift.setFont(schrift); });
     const QFontMetricsF maße(schrift, drucker.get());
     const double twips = TwipsProZoll / drucker->resolution();
     zeilenhöhe = maße.lineSpacing() * twips;
@@ -177,81 +194,79 @@ void DruckerQt::SchriftSetzen()
     schriftGeändert = false;
 }
 
-/// The paper for what comes next: of a new document, or of a page that was turned.
-void DruckerQt::SeiteBereitstellen()
-{
-    if (!stift)
-        Beginnen();
-    if (neueSeite && !drucker->newPage())
-        Druckerfehler();
-    neueSeite = false;
-}
-
-void DruckerQt::FehlerPrüfen() const
-{
-    if (drucker->printerState() == QPrinter::Error)
-        Druckerfehler();
-}
-
 void DruckerQt::Print(const Text &text)
 {
-    SeiteBereitstellen();
     SchriftSetzen();
-    if (!text.empty()) {
-        const double punkte = drucker->resolution() / TwipsProZoll;
-        stift->drawText(QPointF(x * punkte, (y + oberlänge) * punkte), Anzeige(text));
-    }
-    FehlerPrüfen();
+    Zeichnen([ort = QPointF(x, y + oberlänge), text = Anzeige(text)](QPainter &stift) {
+        if (!text.isEmpty())
+            stift.drawText(ort * PunkteProTwip(stift), text);
+    });
     y += static_cast<Single>(zeilenhöhe);
     x = 0;
 }
 
 void DruckerQt::Picture(const Druckbild &bild)
 {
-    SeiteBereitstellen();
-    const double punkte = drucker->resolution() / TwipsProZoll;
-    const QSizeF platz((KurzeSeite - 2 * Bildrand) * punkte, (LangeSeite - 2 * Bildrand) * punkte);
-    const QSizeF größe =
-        QSizeF(bild.Größe)
-            .scaled(richtung == Querformat ? platz.transposed() : platz, Qt::KeepAspectRatio);
-    stift->save();
-    stift->translate(Bildrand * punkte, Bildrand * punkte);
-    // A picture that is played is brought to the resolution of the printer already.
-    const double gespielt = drucker->logicalDpiX() / static_cast<double>(bild.Bild.logicalDpiX());
-    const double maßstab = größe.width() / bild.Größe.width() / gespielt;
-    stift->scale(maßstab, maßstab);
-    stift->drawPicture(0, 0, bild.Bild);
-    stift->restore();
-    FehlerPrüfen();
+    QSizeF platz(KurzeSeite - 2 * Bildrand, LangeSeite - 2 * Bildrand);
+    if (richtung == Querformat)
+        platz.transpose();
+    const QSizeF größe = QSizeF(bild.Größe).scaled(platz, Qt::KeepAspectRatio);
+    Zeichnen([bild, größe](QPainter &stift) {
+        const double punkte = PunkteProTwip(stift);
+        // A picture that is played is brought to the resolution of the printer already.
+        const double gespielt =
+            stift.device()->logicalDpiX() / static_cast<double>(bild.Bild.logicalDpiX());
+        const double maßstab = größe.width() * punkte / bild.Größe.width() / gespielt;
+        stift.save();
+        stift.translate(Bildrand * punkte, Bildrand * punkte);
+        stift.scale(maßstab, maßstab);
+        stift.drawPicture(0, 0, bild.Bild);
+        stift.restore();
+    });
 }
 
 void DruckerQt::NewPage()
 {
-    neueSeite = stift != nullptr;
+    neueSeite = !seiten.empty();
     x = 0;
     y = 0;
 }
 
-void DruckerQt::EndDoc()
+void DruckerQt::SeitenAusgeben()
 {
-    if (stift) {
-        if (!stift->end())
+    Beginnen();
+    bool erste = true;
+    for (const Seite &seite : seiten) {
+        if (!std::exchange(erste, false) && !drucker->newPage())
             Druckerfehler();
-        if (!pdf.isEmpty() && !(IstVollständig(Teildatei()) && Ersetzen(pdf, Teildatei())))
+        for (const Zeichnung &zeichnung : seite)
+            zeichnung(*stift);
+        if (drucker->printerState() == QPrinter::Error)
             Druckerfehler();
     }
+    if (!stift->end())
+        Druckerfehler();
+    if (!pdf.isEmpty() && !(IstVollständig(Teildatei()) && Ersetzen(pdf, Teildatei())))
+        Druckerfehler();
+}
+
+void DruckerQt::EndDoc()
+{
+    if (!seiten.empty())
+        SeitenAusgeben();
     Vergessen();
 }
 
 void DruckerQt::Verwerfen()
 {
-    if (stift && stift->isActive()) {
+    if (stift && stift->isActive()) { // the printer itself failed
         drucker->abort();
         stift->end();
     }
     if (!pdf.isEmpty())
         QFile::remove(Teildatei());
     Vergessen();
+    richtung = Hochformat; // the report that turned the page does not get to turn it back
 }
 
 QString DruckerQt::Teildatei() const
@@ -264,7 +279,9 @@ void DruckerQt::Vergessen()
     stift.reset();
     drucker.reset();
     pdf.clear();
+    seiten.clear();
     neueSeite = false;
+    schriftGeändert = true; // each document sets its font anew
     x = 0;
     y = 0;
 }

@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class QPainter;
 
@@ -31,9 +32,10 @@ struct Druckbild {
 /// A printer that writes a PDF file.
 std::shared_ptr<QPrinter> PdfDrucker(const QString &datei);
 
-/// A4, measured from the paper's edge. The document begins with the first line that is written, so
-/// a report without output leaves no file. A PDF is made beside its place, under its name and
-/// ".teil", and takes the place of an older one when it is whole.
+/// A4, measured from the paper's edge. Pages are kept back until the document ends, so that a
+/// report that fails leaves nothing in the printer's queue; a report without output leaves no file.
+/// A PDF is made beside its place, under its name and ".teil", and takes the place of an older one
+/// when it is whole.
 class DruckerQt : public DruckerDienst {
   public:
     /// What stands before each report; nothing if it was cancelled.
@@ -62,10 +64,13 @@ class DruckerQt : public DruckerDienst {
     void Verwerfen() override;
 
   private:
-    void Beginnen();
-    void SeiteBereitstellen();
-    void FehlerPrüfen() const;
+    using Zeichnung = std::function<void(QPainter &)>;
+    using Seite = std::vector<Zeichnung>;
+
+    void Zeichnen(Zeichnung zeichnung);
     void SchriftSetzen();
+    void Beginnen();
+    void SeitenAusgeben();
     void Vergessen();
     QString Teildatei() const;
 
@@ -75,12 +80,13 @@ class DruckerQt : public DruckerDienst {
     bool schriftGeändert = true;
     Single x = 0;
     Single y = 0;
-    double zeilenhöhe = 0;  // twips, of the font in use
-    double oberlänge = 0;   // twips from the top of a line to its base
+    double zeilenhöhe = 0; // twips, of the font in use
+    double oberlänge = 0;  // twips from the top of a line to its base
+    std::vector<Seite> seiten;
     bool neueSeite = false; // a page turned but not yet written on
 
     std::shared_ptr<QPrinter> drucker;
-    QString pdf; // the file of the document that was begun, empty on paper
+    QString pdf; // the file of the document that is given out, empty on paper
     std::unique_ptr<QPainter> stift;
 };
 

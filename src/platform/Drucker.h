@@ -73,7 +73,7 @@ class DruckerDienst {
     virtual void NewPage() = 0;
     virtual void EndDoc() = 0;
 
-    /// Gives up a document that has not ended; nothing of it comes out.
+    /// Gives up a document that has not ended; nothing of it comes out. The page is upright again.
     virtual void Verwerfen() = 0;
 };
 
