@@ -2,26 +2,52 @@
 #include "fenster/Druckdialog.h"
 
 #include "fenster/Bausteine.h"
+#include "platform/Meldungen.h"
 
 #include <QApplication>
 #include <QButtonGroup>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QStandardPaths>
 #include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
 
-/// The PDF file chosen last, proposed again for the next report.
+/// The PDF file chosen last.
 QString &LetztePdfDatei()
 {
-    static QString datei = QDir::home().filePath("Altardienst.pdf");
+    static QString datei;
     return datei;
+}
+
+/// Where files go that are named without a directory: nobody would find them in that of the
+/// process.
+QDir Ablage()
+{
+    const QDir dokumente = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return dokumente.exists() ? dokumente : QDir::home();
+}
+
+bool IstBeschreibbar(const QString &datei)
+{
+    const QFileInfo ziel(datei);
+    const QFileInfo verzeichnis(ziel.path());
+    return verzeichnis.isDir() && verzeichnis.isWritable() && !ziel.isDir();
+}
+
+/// The last file again, unless its directory has gone meanwhile.
+QString PdfVorschlag()
+{
+    const QString letzte = LetztePdfDatei();
+    return !letzte.isEmpty() && IstBeschreibbar(letzte) ? letzte
+                                                        : Ablage().filePath("Altardienst.pdf");
 }
 
 template <class Control> Control *Option(const char *name, const QString &text)
@@ -31,13 +57,18 @@ template <class Control> Control *Option(const char *name, const QString &text)
 
 } // namespace
 
-DruckdialogForm::DruckdialogForm(const Druckanfrage &anfrage)
+Druckerliste EingerichteteDrucker()
+{
+    return {QPrinterInfo::availablePrinterNames(), QPrinterInfo::defaultPrinterName()};
+}
+
+DruckdialogForm::DruckdialogForm(const Druckanfrage &anfrage, const Druckerliste &liste)
     : Papier(Option<QRadioButton>("Papier", "Drucker:")),
       Druckername(Benannt(new QComboBox, "Druckername")),
       Einstellungen(Knopf("Einstellungen", "Einstellungen...")),
       Kopien(Benannt(new QSpinBox, "Kopien")), Pdf(Option<QRadioButton>("Pdf", "PDF-Datei:")),
-      PdfDatei(Benannt(new QLineEdit(LetztePdfDatei()), "PdfDatei")),
-      Durchsuchen(Knopf("Durchsuchen", "Durchsuchen...")),
+      PdfDatei(Benannt(new QLineEdit(PdfVorschlag()), "PdfDatei")),
+      Durchsuchen(Knopf("Durchsuchen", "Durchsuchen...")), Hinweis(Beschriftung("Hinweis", "")),
       Ausführung(Benannt(new QGroupBox("Ausführung"), "Ausführung")),
       ErsteForm(Option<QRadioButton>("ErsteForm", Anzeige(anfrage.ErsteForm))),
       ZweiteForm(Option<QRadioButton>("ZweiteForm", Anzeige(anfrage.ZweiteForm))),
@@ -49,8 +80,8 @@ DruckdialogForm::DruckdialogForm(const Druckanfrage &anfrage)
     Druckername->setAccessibleName("Drucker");
     PdfDatei->setAccessibleName("PDF-Datei");
     Kopien->setRange(1, 99);
-    Druckername->addItems(QPrinterInfo::availablePrinterNames());
-    Druckername->setCurrentText(QPrinterInfo::defaultPrinterName());
+    Druckername->addItems(liste.Namen);
+    Druckername->setCurrentText(liste.Vorgabe);
     const bool hatDrucker = Druckername->count() > 0;
     if (!hatDrucker)
         Druckername->setPlaceholderText("kein Drucker eingerichtet");
@@ -82,6 +113,7 @@ void DruckdialogForm::Anordnen()
     raster->addWidget(Pdf, 2, 0);
     raster->addWidget(PdfDatei, 2, 1);
     raster->addWidget(Durchsuchen, 2, 2);
+    raster->addWidget(Hinweis, 3, 1, 1, 2);
 
     auto *formen = new QHBoxLayout(Ausführung);
     formen->addWidget(ErsteForm);
@@ -111,7 +143,11 @@ void DruckdialogForm::Verbinden()
     connect(PdfDatei, &QLineEdit::textChanged, this, [this] { ZielGewählt(); });
     connect(Einstellungen, &QPushButton::clicked, this, [this] { EinstellungenZeigen(); });
     connect(Durchsuchen, &QPushButton::clicked, this, [this] { PdfSuchen(); });
-    connect(OKButton, &QPushButton::clicked, this, [this] { accept(); });
+    BeiFokusVerlust(PdfDatei, [this] {
+        if (const QString pfad = PdfPfad(); !pfad.isEmpty())
+            PdfDatei->setText(pfad);
+    });
+    connect(OKButton, &QPushButton::clicked, this, [this] { Bestätigen(); });
     connect(CancelButton, &QPushButton::clicked, this, [this] { reject(); });
 }
 
@@ -122,7 +158,34 @@ void DruckdialogForm::ZielGewählt()
         control->setEnabled(aufPapier);
     for (QWidget *control : std::initializer_list<QWidget *>{PdfDatei, Durchsuchen})
         control->setEnabled(!aufPapier);
-    OKButton->setEnabled(aufPapier || !PdfDatei->text().isEmpty());
+    const QString pfad = PdfPfad();
+    const bool beschreibbar = !pfad.isEmpty() && IstBeschreibbar(pfad);
+    OKButton->setEnabled(aufPapier || beschreibbar);
+    Hinweis->setText(aufPapier || pfad.isEmpty() || beschreibbar
+                         ? ""
+                         : "In dieses Verzeichnis läßt sich nichts schreiben.");
+}
+
+/// The file as it will be written; empty without a name.
+QString DruckdialogForm::PdfPfad() const
+{
+    QString name = PdfDatei->text().trimmed();
+    if (name.isEmpty() || name.endsWith('/'))
+        return {};
+    if (!name.endsWith(".pdf", Qt::CaseInsensitive))
+        name += ".pdf";
+    return QDir::cleanPath(Ablage().absoluteFilePath(name));
+}
+
+void DruckdialogForm::Bestätigen()
+{
+    const QString pfad = PdfPfad();
+    if (Pdf->isChecked() && pfad != ersetzbar && QFileInfo::exists(pfad) &&
+        !Meldungen.Fragen("Die Datei " + pfad.toStdString() +
+                              " gibt es schon. Soll sie ersetzt werden?",
+                          "Drucken"))
+        return;
+    accept();
 }
 
 /// The platform's own dialog, for what this one leaves out (tray, both sides, colour).
@@ -140,9 +203,11 @@ void DruckdialogForm::EinstellungenZeigen()
 void DruckdialogForm::PdfSuchen()
 {
     const QString datei =
-        QFileDialog::getSaveFileName(this, "PDF-Datei", PdfDatei->text(), "PDF-Dateien (*.pdf)");
-    if (!datei.isEmpty())
-        PdfDatei->setText(datei);
+        QFileDialog::getSaveFileName(this, "PDF-Datei", PdfPfad(), "PDF-Dateien (*.pdf)");
+    if (datei.isEmpty())
+        return;
+    ersetzbar = datei; // the system's dialog has asked already
+    PdfDatei->setText(datei);
 }
 
 Druckauswahl DruckdialogForm::Auswahl() const
@@ -150,8 +215,8 @@ Druckauswahl DruckdialogForm::Auswahl() const
     Druckauswahl auswahl;
     auswahl.Modus = ZweiteForm->isChecked() ? DruckerDienst::ZweiteForm : 0;
     if (Pdf->isChecked()) {
-        LetztePdfDatei() = PdfDatei->text();
-        auswahl.Ziel = PdfDrucker(PdfDatei->text());
+        LetztePdfDatei() = PdfPfad();
+        auswahl.Ziel = PdfDrucker(PdfPfad());
     } else {
         papier->setPrinterName(Druckername->currentText());
         papier->setCopyCount(Kopien->value());

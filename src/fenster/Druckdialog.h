@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -13,10 +14,20 @@
 
 namespace altardienst {
 
+/// The printers that can be chosen, and the one preselected.
+struct Druckerliste {
+    QStringList Namen;
+    QString Vorgabe;
+};
+
+/// Those that the system has.
+Druckerliste EingerichteteDrucker();
+
 /// Works without any printer: then only the PDF file can be chosen.
 class DruckdialogForm : public QDialog {
   public:
-    explicit DruckdialogForm(const Druckanfrage &anfrage);
+    explicit DruckdialogForm(const Druckanfrage &anfrage,
+                             const Druckerliste &liste = EingerichteteDrucker());
 
     QRadioButton *Papier;
     QComboBox *Druckername;
@@ -25,6 +36,7 @@ class DruckdialogForm : public QDialog {
     QRadioButton *Pdf;
     QLineEdit *PdfDatei;
     QPushButton *Durchsuchen;
+    QLabel *Hinweis;       // why a PDF file cannot be written there
     QGroupBox *Ausführung; // hidden where a report has one layout
     QRadioButton *ErsteForm;
     QRadioButton *ZweiteForm;
@@ -40,8 +52,10 @@ class DruckdialogForm : public QDialog {
     void ZielGewählt();
     void EinstellungenZeigen();
     void PdfSuchen();
-
+    QString PdfPfad() const;
+    void Bestätigen();
     std::shared_ptr<QPrinter> papier;
+    QString ersetzbar; // the file that may be replaced without a question
 };
 
 /// Shows the dialog; nothing if it was cancelled.
