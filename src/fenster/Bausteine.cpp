@@ -2,6 +2,7 @@
 #include "fenster/Bausteine.h"
 
 #include "core/Ansi.h"
+#include "fenster/Textwahl.h"
 #include "fenster/Tippgedächtnis.h"
 
 #include <QApplication>
@@ -225,6 +226,8 @@ QWidget *Rollbar(QLayout *inhalt)
     inhalt->setContentsMargins(0, 0, 0, 0);
     auto *fläche = new QWidget;
     fläche->setLayout(inhalt);
+    for (auto *wahl : fläche->findChildren<QComboBox *>())
+        RadSperren(wahl);
     auto *rollbar = new Rollfläche;
     rollbar->setWidgetResizable(true);
     rollbar->setFrameShape(QFrame::NoFrame);

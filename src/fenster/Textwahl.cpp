@@ -20,7 +20,7 @@ void EintragAngleichen(QComboBox *wahl)
     wahl->setEditText(text);
 }
 
-/// The wheel scrolls the window: passing over a box, it would choose another entry.
+/// Hands the wheel on to what lies behind a box: passing over it, it would choose another entry.
 class Radsperre : public QObject {
   public:
     using QObject::QObject;
@@ -45,9 +45,14 @@ QComboBox *Textwahl(const char *name, const char *gesprochen)
     for (QWidget *control : std::initializer_list<QWidget *>{wahl, wahl->lineEdit()})
         control->setAccessibleName(QString::fromUtf8(gesprochen));
     wahl->setInsertPolicy(QComboBox::NoInsert);
-    wahl->setFocusPolicy(Qt::StrongFocus);
-    wahl->installEventFilter(new Radsperre(wahl));
+    RadSperren(wahl);
     return wahl;
+}
+
+void RadSperren(QComboBox *wahl)
+{
+    wahl->setFocusPolicy(Qt::StrongFocus); // nor does the wheel bring the focus
+    wahl->installEventFilter(new Radsperre(wahl));
 }
 
 void ListeSetzen(QComboBox *wahl, const QStringList &liste)

@@ -15,6 +15,9 @@ namespace altardienst {
 /// `gesprochen` is its name for screen readers.
 QComboBox *Textwahl(const char *name, const char *gesprochen);
 
+/// The wheel scrolls the window instead of choosing another entry unseen.
+void RadSperren(QComboBox *wahl);
+
 /// The list anew; the text stays.
 void ListeSetzen(QComboBox *wahl, const QStringList &liste);
 

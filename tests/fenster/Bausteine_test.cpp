@@ -5,7 +5,9 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 namespace altardienst {
 namespace {
@@ -34,6 +36,38 @@ class BausteineTest : public Fensterstand {
 };
 
 using Liste = std::vector<Text>;
+
+/// One notch of the wheel over a control; whether it keeps that for itself.
+bool Raddrehung(QWidget *control)
+{
+    const QPointF mitte = control->rect().center();
+    QWheelEvent rad(mitte, control->mapToGlobal(mitte), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+    QApplication::sendEvent(control, &rad);
+    return rad.isAccepted();
+}
+
+TEST_F(BausteineTest, ImRollbarenTeilGehtDasRadAnEinerAuswahlVorbei)
+{
+    auto *inhalt = new QVBoxLayout;
+    auto *innen = new QHBoxLayout; // as deep as a form has it
+    auto *wahl = new QComboBox;
+    auto *woanders = new QComboBox;
+    for (QComboBox *eine : {wahl, woanders})
+        eine->addItems({"Die Kleinen", "Die Großen"});
+    innen->addWidget(wahl);
+    inhalt->addLayout(innen);
+    fenster.layout()->addWidget(Rollbar(inhalt));
+    fenster.layout()->addWidget(woanders);
+    EXPECT_TRUE(Raddrehung(woanders));
+    EXPECT_EQ(woanders->currentIndex(), 1);
+    EXPECT_FALSE(Raddrehung(wahl));
+    EXPECT_EQ(wahl->currentIndex(), 0);
+    EXPECT_EQ(wahl->focusPolicy(), Qt::StrongFocus); // not by the wheel
+    FokusAuf(wahl);
+    QTest::keyClick(wahl, Qt::Key_Down);
+    EXPECT_EQ(wahl->currentIndex(), 1);
+}
 
 TEST_F(BausteineTest, NamenUndBeschriftungenKommenMitUmlautenAn)
 {
