@@ -111,14 +111,19 @@ void MessenKürzen()
 
 } // namespace
 
+Datum StartDatumRechnen()
+{
+    const Datum heute = Uhr.Heute();
+    return heute + 7.0 * Konfig.VorlaufWochen + Konfig.StartWochentag - Wochentag(heute);
+}
+
 Datum StartDatumVorschlagen()
 {
     if (Konfig.StartWochentag < 1 || Konfig.StartWochentag > 7)
         Konfig.StartWochentag = 7;
     if (Konfig.VorlaufWochen < 1 || Konfig.VorlaufWochen > 20)
         Konfig.VorlaufWochen = 1;
-    Datum heute = Uhr.Heute();
-    return heute + (Konfig.VorlaufWochen * 7 + Konfig.StartWochentag - Wochentag(heute));
+    return StartDatumRechnen();
 }
 
 void FesteEinträgeLeeren()

@@ -5,6 +5,10 @@
 
 namespace altardienst {
 
+/// The day `Konfig.VorlaufWochen` weeks from today, moved to the weekday `Konfig.StartWochentag` of
+/// its week. Takes both settings as they stand.
+Datum StartDatumRechnen();
+
 /// The first day of the plan as proposed at the program's start. Brings `Konfig.StartWochentag` and
 /// `Konfig.VorlaufWochen` into their ranges.
 Datum StartDatumVorschlagen();

@@ -21,6 +21,15 @@
 #include <cmath>
 
 namespace altardienst {
+namespace {
+
+void TagZeigen(QLineEdit *feld, QLabel *wochentag, Datum datum)
+{
+    Setzen(feld, KurzesDatum(datum));
+    Setzen(wochentag, WochentagNameGefüllt(datum));
+}
+
+} // namespace
 
 DruckForm::DruckForm()
     : Messendruck(Knopf("Messendruck", "Druck des Altardienstes")),
@@ -173,13 +182,11 @@ void DruckForm::Verbinden()
 
 void DruckForm::Öffnen()
 {
-    const Datum rückgabe = StartDatumVorschlagen();
-    Setzen(Rückgebend, KurzesDatum(rückgabe));
-    Setzen(Dauernde, KurzesDatum(rückgabe + Konfig.Tage));
+    const Datum rückgabe = StartDatumRechnen();
+    TagZeigen(Rückgebend, RückTag, rückgabe);
+    TagZeigen(Dauernde, DauerTag, rückgabe + Konfig.Tage);
     for (int i = 0; i < Gruppe.Anzahl; ++i)
         Gruppend->addItem(Anzeige(Gruppe.Bezeichnung[i]));
-    RückgabeFassen();
-    DauerFassen();
     Alles->setChecked(true);
     Etikettenrahmen->Füllen();
 }
@@ -195,8 +202,7 @@ void DruckForm::RückgabeFassen()
     Datum datum = std::trunc(DatumLesen(TextVon(Rückgebend)));
     if (datum < Uhr.Heute())
         datum = Uhr.Heute();
-    Setzen(Rückgebend, KurzesDatum(datum));
-    Setzen(RückTag, WochentagNameGefüllt(datum));
+    TagZeigen(Rückgebend, RückTag, datum);
 }
 
 void DruckForm::DauerFassen()
@@ -204,8 +210,7 @@ void DruckForm::DauerFassen()
     Datum datum = std::trunc(DatumLesen(TextVon(Dauernde)));
     if (datum < Uhr.Heute())
         datum = DatumLesen(TextVon(Rückgebend)) + Konfig.Tage;
-    Setzen(Dauernde, KurzesDatum(datum));
-    Setzen(DauerTag, WochentagNameGefüllt(datum));
+    TagZeigen(Dauernde, DauerTag, datum);
 }
 
 void DruckForm::EtikettenDrucken()

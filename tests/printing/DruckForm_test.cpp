@@ -1,9 +1,12 @@
 // The form Druck: its buttons, the two dates and their weekdays.
 #include "printing/Druckfenster.h"
 
+#include "core/Umwandlung.h"
 #include "fenster/Anwendung.h"
 
+#include <QApplication>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <map>
@@ -69,6 +72,30 @@ TEST_F(DruckFormTest, EinFrühererStartwochentagLiegtWenigerWeitVoraus)
     EXPECT_EQ(Zeigt("Rückgebend"), "06.12.2026");
     EXPECT_EQ(Zeigt("RückTag"), "Sonntag   ");
     EXPECT_EQ(Zeigt("Dauernde"), "06.12.2026");
+}
+
+// Only the dialog at the program's start corrects them.
+TEST_F(DruckFormTest, DieEinstellungenBleibenWieSieSind)
+{
+    Konfig.StartWochentag = 9;
+    Konfig.VorlaufWochen = 22;
+    Öffnen();
+    EXPECT_EQ(Konfig.StartWochentag, 9);
+    EXPECT_EQ(Konfig.VorlaufWochen, 22);
+    EXPECT_EQ(Zeigt("Rückgebend"), KurzesDatum(Heute + 22 * 7 + 9 - 7));
+    EXPECT_EQ(Zeigt("Dauernde"), KurzesDatum(Heute + 22 * 7 + 9 - 7 + 28));
+}
+
+TEST_F(DruckFormTest, BeimÖffnenWirdDieRückgabeNichtErsetzt)
+{
+    Konfig.StartWochentag = 1;
+    Konfig.VorlaufWochen = 0;
+    Öffnen();
+    EXPECT_EQ(Zeigt("Rückgebend"), "15.11.2026"); // six days ago
+    EXPECT_EQ(Zeigt("RückTag"), "Sonntag   ");
+    EXPECT_EQ(Zeigt("Dauernde"), "13.12.2026");
+    EXPECT_EQ(Zeigt("DauerTag"), "Sonntag   ");
+    EXPECT_EQ(Konfig.VorlaufWochen, 0);
 }
 
 TEST_F(DruckFormTest, WochentageStehenInZehnZeichen)
@@ -222,6 +249,17 @@ TEST_F(DruckFormTest, DieGruppenlisteNimmtDieGewählteGruppe)
     const Liste zeilen = Gedruckt("DruckiMeßdieneri");
     EXPECT_EQ(zeilen[1], "der Gruppe Die Großen");
     EXPECT_EQ(zeilen.size(), 2U + 2 * 2);
+}
+
+TEST_F(DruckFormTest, DasMausradWechseltKeineGruppe)
+{
+    Öffnen();
+    auto *gruppen = Finden<QComboBox>(form, "Gruppend");
+    const QPointF mitte = gruppen->rect().center();
+    QWheelEvent rad(mitte, gruppen->mapToGlobal(mitte), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+    QApplication::sendEvent(gruppen, &rad);
+    EXPECT_EQ(gruppen->currentIndex(), 0);
 }
 
 TEST_F(DruckFormTest, AbgebrochenDrucktKeinKnopfEtwas)
