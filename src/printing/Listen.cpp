@@ -3,6 +3,7 @@
 
 #include "core/Umwandlung.h"
 #include "core/tables.h"
+#include "people/Personen.h"
 #include "printing/Druckrahmen.h"
 #include "printing/Druckwerte.h"
 
@@ -139,7 +140,7 @@ void MeßdienergruppeDrucken(const Text &gruppe)
         .Titel = {"Meßdiener der Pfarrei " + Konfig.Gemeinde, "", "der Gruppe " + gruppe, ""},
         .TitelZeilen = 5,
         .Anzahl = Meßdiener.Anzahl,
-        .Gehört = [&](int i) { return Meßdiener.Gruppe[i] == gruppe; },
+        .Gehört = [&](int i) { return IstInGruppe(i, gruppe); },
         .Breit =
             [](int i) {
                 return std::vector{Adresszeile(Meßdiener, i), GeburtstagZeile(i)};

@@ -160,6 +160,55 @@ TEST_F(PersonenlistenTest, AndereGruppenZählenNicht)
     EXPECT_EQ(Papier.WieOft("NewPage"), 1);
 }
 
+// A page that was turned has no line counted on it when the next one is passed over.
+TEST_F(PersonenlistenTest, AndereGruppenPrüfenDieSeiteNicht)
+{
+    const int mia = MeßdienerAnlegen("Mia", "Moos");
+    Meßdiener.Gruppe[mia] = "Die Großen"; // after Jörg, who is in none
+    Papier.Seitenhöhe = 3400;
+    for (const int modus : {0, 1}) {
+        Papier.Leeren();
+        Papier.Antwort = modus;
+        Konfig.Flags6 = "nnnnnn";
+        MeßdienergruppeDrucken("Die Großen");
+        std::vector<Text> folge;
+        for (const Text &zeile : Papier.Zeilen)
+            for (const char *wort : {"Anna", "Jörg", "Mia", "NewPage", "EndDoc", "Verwerfen"})
+                if (zeile.find(wort) != Text::npos)
+                    folge.emplace_back(wort);
+        EXPECT_EQ(folge, (std::vector<Text>{"Anna", "NewPage", "Mia", "NewPage", "EndDoc"}));
+    }
+}
+
+TEST_F(PersonenlistenTest, OhneGewählteGruppeStehtNiemandDa)
+{
+    Meßdiener.Gruppe[0] = "";
+    MeßdienergruppeDrucken("");
+    Ablauf ablauf = Anfang({"Meßdiener der Pfarrei St. Ägid", "", "der Gruppe ", ""});
+    EXPECT_EQ(Papier.Zeilen, MitSchluss(ablauf));
+}
+
+TEST_F(PersonenlistenTest, JederAndereModusIstDieAusführlicheListe)
+{
+    const auto listen = {+[] { AlleMeßdienerDrucken(); },
+                         +[] { MeßdienergruppeDrucken("Die Großen"); },
+                         +[] { AlleHelferDrucken(); }};
+    for (const auto liste : listen) {
+        std::vector<std::vector<Text>> läufe;
+        for (const int modus : {0, -1, 2, 7}) {
+            Papier.Leeren();
+            Papier.Antwort = modus;
+            liste();
+            läufe.push_back(Papier.Zeilen);
+            EXPECT_EQ(läufe.back(), läufe.front()) << modus;
+        }
+        Papier.Leeren();
+        Papier.Antwort = 1;
+        liste();
+        EXPECT_NE(Papier.Zeilen, läufe.front());
+    }
+}
+
 TEST_F(PersonenlistenTest, DieHelferAusführlich)
 {
     AlleHelferDrucken();

@@ -39,6 +39,15 @@ Anlegen MesseMit(int dienerzahl, const Text &art = "Messe")
     };
 }
 
+/// Under these settings of what the forms offer.
+Anlegen MitFlags11(const Text &flags, const Anlegen &reihe)
+{
+    return [=] {
+        Konfig.Flags11 = flags;
+        reihe();
+    };
+}
+
 /// A mass with two servers and these helpers.
 Anlegen MesseMitHelfern(int lektor, int komm, int kantor, int kollekt)
 {
@@ -99,6 +108,8 @@ const Fall Fälle[] = {
     {"PlanMitAnderenHelferdiensten", 0, MesseMitHelfern(0, 1, 0, 1), PlanDrucken, 4, 5, 5, 6, 7, 6},
     {"PlanMitAllenHelferdiensten", 0, MesseMitHelfern(1, 1, 1, 1), PlanDrucken, 4, 5, 7, 8, 7, 6},
     {"Helferbogen", 1, MesseMit(2), PlanDrucken, 4, 5, 7, 6, 6, 6, 0},
+    {"HelferbogenOhneHelferdienste", 1, MitFlags11("jnjjjjjjjjj", MesseMit(2)), PlanDrucken, 4, 5,
+     2, 2, 6, 6, 0},
     {"HelferbogenWochendienst", 1, MesseMit(2, "Wochendienst"), PlanDrucken, 4, 5, 2, 2, 6, 6, 0},
 };
 
