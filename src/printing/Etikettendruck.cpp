@@ -2,6 +2,7 @@
 #include "printing/Etikettendruck.h"
 
 #include "core/tables.h"
+#include "people/Personen.h"
 #include "printing/Druckrahmen.h"
 #include "printing/Druckwerte.h"
 
@@ -28,7 +29,7 @@ void EtikettDrucken(const Anschrift &anschrift, int r, int c)
 
 /// Walks the sheets cell by cell until the people are used up, and leaves in `r` and `c` the cell
 /// at which it stopped.
-void BögenFüllen(const Etikettenleute &leute, Etikettenplatz &anfang, int &r, int &c)
+void BögenFüllen(const Etikettenleute &leute, Etikettenplatz anfang, int &r, int &c)
 {
     const int reihen = Etikett.Reihen[Etikett.Anzahl];
     const int spalten = Etikett.Spalten[Etikett.Anzahl];
@@ -70,7 +71,7 @@ Etikettenleute EtikettenAllerMeßdiener()
 Etikettenleute EtikettenDerGruppe(const Text &gruppe)
 {
     Etikettenleute leute = EtikettenAllerMeßdiener();
-    leute.Gehört = [gruppe](int i) { return Meßdiener.Gruppe[i] == gruppe; };
+    leute.Gehört = [gruppe](int i) { return IstInGruppe(i, gruppe); };
     return leute;
 }
 
@@ -88,9 +89,9 @@ void EtikettenDrucken(const Etikettenleute &leute, Etikettenplatz &platz)
         int r = 0;
         int c = 0;
         BögenFüllen(leute, platz, r, c);
+        Drucker->EndDoc();
         platz.Reihe = r + 1;
         platz.Spalte = c + 2;
-        Drucker->EndDoc();
     });
 }
 

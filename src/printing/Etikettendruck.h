@@ -32,6 +32,7 @@ Etikettenleute EtikettenAllerHelfer();
 /// Prints a label for each of the people on sheets of the format `Etikett.Anzahl`, after the print
 /// dialog. `platz` is where the first one goes and afterwards the proposal where to go on; a column
 /// of the proposal may lie beyond the sheet. A format without rows or columns is a printer error.
+/// If nothing came out, `platz` stays.
 void EtikettenDrucken(const Etikettenleute &leute, Etikettenplatz &platz);
 
 /// Brings a place onto the sheet of the chosen format.

@@ -5,12 +5,26 @@
 #include "core/tables.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Handler.h"
+#include "fenster/Zahlbox.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace altardienst {
+namespace {
+
+/// The row or column in a box; a number beyond all sheets is as good as the largest that can still
+/// take a step.
+int Stelle(const QLineEdit *feld)
+{
+    constexpr Single Größte = 32766;
+    return GerundetInt16(std::clamp(SingleLesen(TextVon(feld)), -Größte, Größte));
+}
+
+} // namespace
 
 Etikettenwahl::Etikettenwahl(const char *knopfBeschriftung)
     : EtiGröß(Benannt(new QGroupBox("Etikettengröße"), "EtiGröß")),
@@ -63,7 +77,7 @@ void Etikettenwahl::Verbinden()
         BeiFokusVerlust(box, Abgefangen([this] { Begrenzen(); }));
         SchritteVerbinden(nullptr, nullptr, spin, [this, box](int richtung) {
             Abgefangen([&] {
-                Setzen(box, ZahlText(Int16Lesen(TextVon(box)) + richtung));
+                ZahlSetzen(box, Stelle(box) + richtung);
                 Begrenzen();
             })();
         });
@@ -85,13 +99,13 @@ void Etikettenwahl::Füllen()
 
 Etikettenplatz Etikettenwahl::Platz() const
 {
-    return {Int16Lesen(TextVon(Reih)), Int16Lesen(TextVon(Spal))};
+    return {Stelle(Reih), Stelle(Spal)};
 }
 
 void Etikettenwahl::Zeigen(const Etikettenplatz &platz)
 {
-    Setzen(Reih, ZahlText(platz.Reihe));
-    Setzen(Spal, ZahlText(platz.Spalte));
+    ZahlSetzen(Reih, platz.Reihe);
+    ZahlSetzen(Spal, platz.Spalte);
 }
 
 void Etikettenwahl::Begrenzen()

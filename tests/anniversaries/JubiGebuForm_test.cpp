@@ -228,8 +228,8 @@ TEST_F(JubiGebuFormTest, DasFormatGiltAuchHier)
 TEST_F(JubiGebuFormTest, SchlechteEingabenInReiheUndSpalte)
 {
     Öffnen();
-    const std::pair<const char *, const char *> fälle[] = {
-        {"x", "x"}, {"", "1"}, {"40000", "40000"}, {"-1", "1"}, {"0", "1"}, {"99", "4"}};
+    const std::pair<const char *, const char *> fälle[] = {{"x", "x"},  {"", "1"},  {"40000", "4"},
+                                                           {"-1", "1"}, {"0", "1"}, {"99", "4"}};
     for (const auto &[eingabe, zeigt] : fälle) {
         Tippen(Control("Reih"), eingabe);
         FokusAuf(Control("Ende"));

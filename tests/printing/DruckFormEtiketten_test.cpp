@@ -184,6 +184,46 @@ TEST_F(DruckFormEtikettenTest, AbgebrochenBleibtDerPlatz)
     EXPECT_EQ(Platz(), "2/3");
 }
 
+TEST_F(DruckFormEtikettenTest, NachEinemDruckerfehlerStehtDerPlatzWieZuvor)
+{
+    Öffnen();
+    PlatzEingeben("2", "2");
+    for (const int fehler : {2, 10, 15}) { // the font, the first label, the second one
+        Papier.FehlerBei = fehler;
+        Gedruckt("Etiketten");
+        EXPECT_EQ(Papier.Zeilen.back(), "Verwerfen");
+        EXPECT_EQ(Platz(), "2/2") << fehler;
+    }
+    Papier.FehlerBei = 0;
+    EXPECT_EQ(Namen().size(), 3U);
+    EXPECT_EQ(Platz(), "3/2");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(DruckFormEtikettenTest, EineZahlJenseitsAllerBögenWirdZurückgeholt)
+{
+    Öffnen();
+    for (const char *zahl : {"32767", "32768", "99999", "1234567890"}) {
+        PlatzEingeben(zahl, zahl);
+        FokusAuf(Control("Ende"));
+        EXPECT_EQ(Platz(), "4/3") << zahl;
+        const Text negativ = Text("-") + zahl;
+        PlatzEingeben(negativ.c_str(), negativ.c_str());
+        FokusAuf(Control("Ende"));
+        EXPECT_EQ(Platz(), "1/1") << zahl;
+        PlatzEingeben(zahl, zahl);
+        QTest::keyClick(Control("ÄReih"), Qt::Key_Up); // without leaving the boxes
+        EXPECT_EQ(Platz(), "4/3") << zahl;
+        PlatzEingeben(zahl, zahl);
+        Wählen("O2");
+        EXPECT_EQ(Platz(), "4/3") << zahl;
+        PlatzEingeben(zahl, "1");
+        EXPECT_EQ(Gedruckt("Etiketten").size(), 6U) << zahl; // no street
+        EXPECT_EQ(Platz(), "4/3") << zahl;
+    }
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
 TEST_F(DruckFormEtikettenTest, EinPlatzDerKeineZahlIstDrucktStillNichts)
 {
     Öffnen();

@@ -193,6 +193,41 @@ TEST_F(EtikettendruckTest, StehtHinterDerGruppeNochJemandEndetDerLaufAmNächsten
     EXPECT_EQ(Papier.Zeilen.back(), "EndDoc");
 }
 
+// Whether anybody of the group is left shows only on the sheet that was turned to for him.
+TEST_F(EtikettendruckTest, FülltDieGruppeDenBogenUndStehtNochJemandDahinterWirdGewendet)
+{
+    MeßdienerAnzahl(7);
+    InGruppe("Die Großen", {0, 1, 2, 3, 4, 5});
+    EtikettenDrucken(EtikettenDerGruppe("Die Großen"), platz);
+    EXPECT_EQ(Plätze(), (Liste{"V0 00", "V1 01", "V2 10", "V3 11", "V4 20", "V5 21", "Seite"}));
+    EXPECT_EQ(Papier.Zeilen.back(), "EndDoc");
+    EXPECT_EQ(platz.Reihe, 1);
+    EXPECT_EQ(platz.Spalte, 2);
+}
+
+TEST_F(EtikettendruckTest, WerKeineGruppeHatIstInKeinerAuchNichtInDerOhneNamen)
+{
+    MeßdienerAnzahl(3);
+    EtikettenDrucken(EtikettenDerGruppe(""), platz);
+    EXPECT_EQ(Plätze(), Liste{});
+    EXPECT_EQ(Papier.Zeilen.back(), "EndDoc");
+}
+
+TEST_F(EtikettendruckTest, NachEinemFehlerIstDerPlatzWieZuvor)
+{
+    MeßdienerAnzahl(8);
+    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    const int operationen = static_cast<int>(Papier.Zeilen.size());
+    for (int n = 1; n <= operationen; ++n) { // the last one is EndDoc
+        Papier.Leeren();
+        Papier.FehlerBei = n;
+        platz = {2, 2};
+        EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+        EXPECT_EQ(platz.Reihe, 2) << n;
+        EXPECT_EQ(platz.Spalte, 2) << n;
+    }
+}
+
 TEST_F(EtikettendruckTest, EineGruppeOhneMitgliedErgibtKeinEtikett)
 {
     MeßdienerAnzahl(3);
