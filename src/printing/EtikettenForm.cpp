@@ -6,6 +6,7 @@
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Handler.h"
+#include "fenster/Zahlbox.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -26,10 +27,11 @@ void LängeBegrenzen(QLineEdit *feld, Single schritt = 0)
     Setzen(feld, ZahlText(std::clamp(länge, 0.1F, 330.1F)));
 }
 
+/// Rows or columns; the box may hold any number, however large.
 void ZahlBegrenzen(QLineEdit *feld, int schritt = 0)
 {
-    const int zahl = Int16Lesen(TextVon(feld)) + schritt;
-    Setzen(feld, ZahlText(std::clamp(zahl, 1, 20)));
+    const int zahl = GerundetInt16(std::clamp(SingleLesen(TextVon(feld)), 0.0F, 21.0F));
+    ZahlSetzen(feld, std::clamp(zahl + schritt, 1, 20));
 }
 
 } // namespace
@@ -52,7 +54,7 @@ EtikettenForm::EtikettenForm()
     setWindowTitle("Etikettengrößen");
     Anordnen();
     Verbinden();
-    Setzen(Wahl->Nummer, ZahlText(Etikett.Anzahl));
+    ZahlSetzen(Wahl->Nummer, Etikett.Anzahl);
 }
 
 void EtikettenForm::Anordnen()
@@ -120,20 +122,16 @@ void EtikettenForm::Verbinden()
 /// Typing a number shows that format, without storing what was on the screen.
 void EtikettenForm::IndGeändert()
 {
-    const int format = Int16Lesen(TextVon(Wahl->Nummer));
-    const int erlaubt = std::clamp(format, 0, LetztesFormat);
-    if (erlaubt != format)
-        return Setzen(Wahl->Nummer, ZahlText(erlaubt));
-    Etikett.Anzahl = erlaubt;
+    Etikett.Anzahl = Begrenzen(Wahl->Nummer, 0, LetztesFormat);
     Zeigen();
 }
 
 void EtikettenForm::Schritt(int richtung)
 {
     Schreiben();
-    const int nächstes = Int16Lesen(TextVon(Wahl->Nummer)) + richtung;
+    const int nächstes = Etikett.Anzahl + richtung;
     if (nächstes >= 0 && nächstes <= LetztesFormat)
-        Setzen(Wahl->Nummer, ZahlText(nächstes));
+        ZahlSetzen(Wahl->Nummer, nächstes);
 }
 
 void EtikettenForm::Zeigen()
@@ -157,7 +155,7 @@ void EtikettenForm::Schreiben()
         feld->clearFocus();
         feld->setFocus();
     }
-    const int i = Int16Lesen(TextVon(Wahl->Nummer));
+    const int i = Etikett.Anzahl; // the format shown, even where its number is half typed
     Etikett.Name[i] = TextVon(N);
     Etikett.RandOU[i] = SingleLesen(TextVon(OU));
     Etikett.RandLR[i] = SingleLesen(TextVon(LR));

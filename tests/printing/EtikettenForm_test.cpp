@@ -1,63 +1,17 @@
 // The editor of the label formats.
-#include "printing/EtikettenForm.h"
+#include "printing/Etikettenfenster.h"
 
 #include "fenster/Anwendung.h"
-#include "fenster/Fensterstand.h"
 #include "shell/HauptForm.h"
 
 #include <QAction>
-#include <QPointer>
 
 #include <map>
 
 namespace altardienst {
 namespace {
 
-/// Ten formats; the one of record k is called "Format k" and has the measures k + 1 to k + 5 mm
-/// with k + 1 rows and k + 2 columns.
-class EtikettenFormTest : public Fensterstand {
-  protected:
-    EtikettenFormTest()
-    {
-        for (int k = 0; k < 10; ++k) {
-            Etikett.Name[k] = "Format " + std::to_string(k);
-            auto mm = static_cast<Single>(k);
-            for (auto *länge : Längen)
-                (*länge)[k] = mm += 1;
-            Etikett.Reihen[k] = k + 1;
-            Etikett.Spalten[k] = k + 2;
-        }
-        Etikett.Anzahl = 2;
-    }
-
-    QWidget &Öffnen()
-    {
-        form = new EtikettenForm;
-        form->setAttribute(Qt::WA_DeleteOnClose);
-        Fensterstand::Zeigen(form);
-        return *form;
-    }
-
-    QWidget *Control(const char *name) const { return Finden(form, name); }
-    Text Zeigt(const char *name) const { return Aufschrift(Control(name)); }
-    void Eingeben(const char *name, const char *text) const { Tippen(Control(name), text); }
-    void Drehen(const char *spin, const char *richtung) const
-    {
-        Klick(Finden(Control(spin), richtung));
-    }
-    /// Types into a box and leaves it.
-    Text Verlassen(const char *name, const char *text) const
-    {
-        Eingeben(name, text);
-        FokusAuf(Control("N"));
-        return Zeigt(name);
-    }
-
-    static constexpr std::array Längen = {&Etikett.RandOU, &Etikett.RandLR, &Etikett.Höhe,
-                                          &Etikett.Breite, &Etikett.Steg};
-    static constexpr std::array Längenfelder = {"OU", "LR", "H", "B", "ST"};
-    QPointer<QWidget> form;
-};
+class EtikettenFormTest : public Etikettenfenster {};
 
 TEST_F(EtikettenFormTest, JedesFeldHatSeineBeschriftung)
 {
@@ -120,21 +74,6 @@ TEST_F(EtikettenFormTest, EineGetippteNummerZeigtDasFormatUndSpeichertNichts)
     EXPECT_EQ(Etikett.Name[5], "Format 5");
 }
 
-TEST_F(EtikettenFormTest, DieNummerWirdBeimTippenBegrenzt)
-{
-    Öffnen();
-    Eingeben("Ind", "10");
-    EXPECT_EQ(Zeigt("Ind"), "9");
-    EXPECT_EQ(Zeigt("N"), "Format 9");
-    Eingeben("Ind", "-1");
-    EXPECT_EQ(Zeigt("Ind"), "0");
-    EXPECT_EQ(Etikett.Anzahl, 0);
-    Eingeben("Ind", "x");
-    EXPECT_EQ(Zeigt("Ind"), "x");
-    EXPECT_EQ(Zeigt("N"), "Format 0");
-    EXPECT_TRUE(GezeigteMeldungen.empty());
-}
-
 TEST_F(EtikettenFormTest, WeiterUndZurückSchreibenErstUndZeigenDann)
 {
     Öffnen();
@@ -172,82 +111,6 @@ TEST_F(EtikettenFormTest, AlleWegeZumNächstenUndVorigenFormat)
     EXPECT_EQ(Zeigt("Ind"), "2");
 }
 
-TEST_F(EtikettenFormTest, AnDenEndenGehtEsNichtWeiter)
-{
-    Etikett.Anzahl = 9;
-    Öffnen();
-    Eingeben("N", "letztes");
-    Klick(Control("Plus"));
-    EXPECT_EQ(Zeigt("Ind"), "9");
-    EXPECT_EQ(Zeigt("N"), "letztes");
-    Eingeben("Ind", "0");
-    Klick(Control("Minus"));
-    EXPECT_EQ(Zeigt("Ind"), "0");
-}
-
-TEST_F(EtikettenFormTest, LängenLiegenBeimVerlassenInIhrenGrenzen)
-{
-    Öffnen();
-    for (const char *feld : Längenfelder) {
-        EXPECT_EQ(Verlassen(feld, "0,05"), "0,1") << feld;
-        EXPECT_EQ(Verlassen(feld, "0,1"), "0,1") << feld;
-        EXPECT_EQ(Verlassen(feld, "-7"), "0,1") << feld;
-        EXPECT_EQ(Verlassen(feld, "330,1"), "330,1") << feld;
-        EXPECT_EQ(Verlassen(feld, "330,2"), "330,1") << feld;
-        EXPECT_EQ(Verlassen(feld, "63,55"), "63,55") << feld;
-        EXPECT_EQ(Verlassen(feld, "breit"), "breit") << feld; // no number stays as it is
-        Eingeben(feld, "1");
-    }
-    EXPECT_TRUE(GezeigteMeldungen.empty());
-    EXPECT_EQ(Etikett.RandOU[2], 3); // nothing is stored yet
-}
-
-TEST_F(EtikettenFormTest, ReihenUndSpaltenLiegenZwischenEinsUndZwanzig)
-{
-    Öffnen();
-    for (const char *feld : {"R", "S"}) {
-        EXPECT_EQ(Verlassen(feld, "0"), "1") << feld;
-        EXPECT_EQ(Verlassen(feld, "1"), "1") << feld;
-        EXPECT_EQ(Verlassen(feld, "20"), "20") << feld;
-        EXPECT_EQ(Verlassen(feld, "21"), "20") << feld;
-        EXPECT_EQ(Verlassen(feld, "2,5"), "2") << feld;
-        EXPECT_EQ(Verlassen(feld, ""), "") << feld;
-    }
-    EXPECT_TRUE(GezeigteMeldungen.empty());
-}
-
-TEST_F(EtikettenFormTest, DieSiebenDrehknöpfeUndIhreGrenzen)
-{
-    Öffnen();
-    for (std::size_t k = 0; k < Längenfelder.size(); ++k) {
-        const char *feld = Längenfelder[k];
-        const Text spin = "Ä" + std::to_string(k + 1);
-        Eingeben(feld, "69,8");
-        Drehen(spin.c_str(), "auf");
-        EXPECT_EQ(Zeigt(feld), "69,9") << feld;
-        Drehen(spin.c_str(), "ab");
-        Drehen(spin.c_str(), "ab");
-        EXPECT_EQ(Zeigt(feld), "69,7") << feld;
-        Eingeben(feld, "0,1");
-        Drehen(spin.c_str(), "ab");
-        EXPECT_EQ(Zeigt(feld), "0,1") << feld;
-        Eingeben(feld, "330,1");
-        Drehen(spin.c_str(), "auf");
-        EXPECT_EQ(Zeigt(feld), "330,1") << feld;
-    }
-    for (const auto &[feld, spin] : {std::pair{"R", "Ä6"}, {"S", "Ä7"}}) {
-        Eingeben(feld, "19");
-        Drehen(spin, "auf");
-        EXPECT_EQ(Zeigt(feld), "20") << feld;
-        Drehen(spin, "auf");
-        EXPECT_EQ(Zeigt(feld), "20") << feld;
-        Eingeben(feld, "2");
-        Drehen(spin, "ab");
-        Drehen(spin, "ab");
-        EXPECT_EQ(Zeigt(feld), "1") << feld;
-    }
-}
-
 TEST_F(EtikettenFormTest, EndeSchreibtUndGibtDasHauptfensterZurück)
 {
     QWidget haupt;
@@ -270,33 +133,6 @@ TEST_F(EtikettenFormTest, EndeSchreibtUndGibtDasHauptfensterZurück)
     EXPECT_TRUE(haupt.isEnabled());
     EXPECT_TRUE(haupt.isMaximized());
     EXPECT_TRUE(Warten([&] { return form.isNull(); }));
-}
-
-TEST_F(EtikettenFormTest, SchließenUndSeitentastenHaltenDieGrenzenAuchOhneVerlassen)
-{
-    Öffnen();
-    Eingeben("H", "0,05");
-    QTest::keyClick(Control("H"), Qt::Key_PageUp);
-    EXPECT_EQ(Etikett.Höhe[2], 0.1F);
-    EXPECT_TRUE(Control("H")->hasFocus());
-    Eingeben("R", "99");
-    form->close();
-    EXPECT_EQ(Etikett.Reihen[3], 20);
-}
-
-TEST_F(EtikettenFormTest, EinFeldOhneZahlHältDasFensterOffen)
-{
-    Öffnen();
-    Eingeben("N", "neu");
-    Eingeben("B", "breit");
-    Klick(Control("Ende"));
-    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Laufzeitfehler '13': Typen unverträglich"});
-    EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(Etikett.Name[2], "neu"); // the boxes before it are written
-    EXPECT_EQ(Etikett.Breite[2], 6);
-    Klick(Control("Plus"));
-    EXPECT_EQ(Zeigt("Ind"), "2");
-    EXPECT_EQ(GezeigteMeldungen.size(), 2U);
 }
 
 // The selected number stays, and so stands for whatever the sort has moved there.
