@@ -190,6 +190,24 @@ TEST_F(PlanlaufTest, SchreibtDenPlanAlsPdf)
     EXPECT_TRUE(DateiLesen(Festplatte / "plan.pdf").starts_with("%PDF"));
 }
 
+TEST_F(PlanlaufTest, DruckenAlleBerichteInAllenAusführungen)
+{
+    fs::create_directories(Festplatte / "berichte");
+    const Ergebnis ergebnis = Lauf({"1", "4", "5"}, {"--berichte", Datei("berichte")});
+    EXPECT_EQ(ergebnis.Wert, 0) << ergebnis.Fehler;
+    Liste namen;
+    for (const auto &datei : fs::directory_iterator(Festplatte / "berichte")) {
+        namen.push_back(TextVon(datei.path().filename()));
+        EXPECT_TRUE(DateiLesen(datei.path()).starts_with("%PDF")) << datei.path();
+    }
+    std::sort(namen.begin(), namen.end());
+    EXPECT_EQ(namen, (Liste{"DruckHelfer-2.pdf", "DruckHelfer.pdf", "DruckiMeßdieneri-2.pdf",
+                            "DruckiMeßdieneri.pdf", "Erfassungsbogen.pdf", "Erfaßung.pdf",
+                            "EtikGross.pdf", "Etiketten.pdf", "Messendruck-2.pdf",
+                            "Messendruck.pdf", "Meßdienerdruck-2.pdf", "Meßdienerdruck.pdf",
+                            "Standarddruck.pdf", "Wunschpartner.pdf"}));
+}
+
 TEST_F(PlanlaufTest, EinLeeresVerzeichnisWirdWieBeimErstenStartGefüllt)
 {
     fs::remove_all(Festplatte);
