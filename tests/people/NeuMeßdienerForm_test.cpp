@@ -43,6 +43,17 @@ TEST_F(NeuMeßdienerFormTest, SchlägtOrtHeuteUndGrößeVor)
     EXPECT_LE(neu->minimumSizeHint().height(), KleinsterBildschirm.height());
 }
 
+TEST_F(NeuMeßdienerFormTest, ErgänztEinenZuKurzenOrt)
+{
+    neu->close();
+    Konfig.PlzOrt = "1234567"; // since the editor was opened
+    Drücken("NeuDiener");
+    neu = Fenster("NeuMeßdiener");
+    EXPECT_EQ(Konfig.PlzOrt, "48999 Beispielort");
+    EXPECT_EQ(NText("Postleit"), "48999");
+    EXPECT_EQ(NText("Gemeinde"), "Beispielort");
+}
+
 TEST_F(NeuMeßdienerFormTest, HängtDenNeuenAnUndZeigtDenAltenDatensatz)
 {
     Meßdiener.Häufigkeit[2] = 2; // what the slot holds
