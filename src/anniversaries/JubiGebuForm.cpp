@@ -6,6 +6,7 @@
 #include "anniversaries/JubiläumsanzeigeForm.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 
 #include <QCloseEvent>
@@ -145,16 +146,11 @@ void JubiGebuForm::Anordnen()
     teile->setColumnStretch(1, 1);
     teile->setRowStretch(2, 1);
 
-    auto *unten = new QHBoxLayout;
-    unten->addStretch();
-    Ende->setMinimumWidth(110);
-    unten->addWidget(Ende);
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(12, 12, 12, 12);
     spalte->setSpacing(14);
     spalte->addWidget(Rollbar(teile), 1);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Ende}));
     Monat->checkedButton()->setFocus();
 }
 

@@ -3,6 +3,7 @@
 
 #include "core/Umwandlung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "fenster/Zahlbox.h"
 
@@ -63,18 +64,13 @@ void Listenansicht::Anordnen(const Listenworte &worte)
         raster->addWidget(feld, reihe++, 1);
     }
 
-    auto *unten = new QHBoxLayout;
-    unten->addStretch();
-    Ende->setMinimumWidth(110);
-    unten->addWidget(Ende);
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(18);
     spalte->addLayout(kopf);
     spalte->addLayout(raster);
     spalte->addStretch();
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Ende}));
     Wahl->Nummer->setFocus();
 }
 

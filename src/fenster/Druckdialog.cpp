@@ -2,6 +2,7 @@
 #include "fenster/Druckdialog.h"
 
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "platform/Meldungen.h"
 
 #include <QApplication>
@@ -120,19 +121,12 @@ void DruckdialogForm::Anordnen()
     formen->addWidget(ZweiteForm);
     formen->addStretch();
 
-    auto *unten = new QHBoxLayout;
-    unten->addStretch();
-    for (QPushButton *knopf : {OKButton, CancelButton}) {
-        knopf->setMinimumWidth(110);
-        unten->addWidget(knopf);
-    }
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(16, 16, 16, 16);
     spalte->setSpacing(14);
     spalte->addLayout(raster);
     spalte->addWidget(Ausführung);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({OKButton, CancelButton}));
     OKButton->setDefault(true);
     OKButton->setFocus();
 }

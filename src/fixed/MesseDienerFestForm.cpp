@@ -5,6 +5,7 @@
 #include "core/Umwandlung.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "fenster/Vordergrund.h"
 #include "fenster/Zahlbox.h"
@@ -77,27 +78,13 @@ void MesseDienerFestForm::Zurück()
 
 void MesseDienerFestForm::Anordnen()
 {
-    auto *kopf = new QHBoxLayout;
-    kopf->addWidget(Wahl);
-    kopf->addSpacing(24);
-    kopf->addWidget(Beschriftung("", "Anzahl Datensätze:"));
-    kopf->addWidget(MaxIndex);
-    kopf->addStretch();
-
-    auto *unten = new QHBoxLayout;
-    for (QPushButton *knopf : {Hinzu, Löschen})
-        unten->addWidget(knopf);
-    unten->addStretch();
-    OKbutton->setMinimumWidth(110);
-    unten->addWidget(OKbutton);
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(16, 16, 16, 16);
     spalte->setSpacing(12);
-    spalte->addLayout(kopf);
+    spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Anzahl Datensätze:"), MaxIndex));
     spalte->addLayout(Felder.Messenzeile());
     spalte->addWidget(Rollbar(Felder.Slotzeilen()), 1);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({OKbutton}, {Hinzu, Löschen}));
     GrößeAnpassen(this); // with all rows of slots
     Wahl->Nummer->setFocus();
 }

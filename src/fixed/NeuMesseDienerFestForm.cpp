@@ -5,6 +5,7 @@
 #include "core/Umwandlung.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "fixed/FesteEinträge.h"
 #include "fixed/FesteMeßdienerÜbertragen.h"
@@ -47,18 +48,12 @@ NeuMesseDienerFestForm::NeuMesseDienerFestForm()
 
 void NeuMesseDienerFestForm::Anordnen()
 {
-    auto *unten = new QHBoxLayout;
-    unten->addStretch();
-    for (QPushButton *knopf : {Anfügen, Abrechen}) {
-        knopf->setMinimumWidth(110);
-        unten->addWidget(knopf);
-    }
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(16, 16, 16, 16);
     spalte->setSpacing(12);
     spalte->addLayout(Felder.Messenzeile());
     spalte->addWidget(Rollbar(Felder.Slotzeilen()), 1);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Anfügen, Abrechen}));
     GrößeAnpassen(this); // with all rows of slots
     Felder.Messen->setFocus();
 }

@@ -4,6 +4,7 @@
 #include "core/tables.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "fenster/Zahlbox.h"
 #include "people/NeuGruppeForm.h"
@@ -41,31 +42,16 @@ GruppeForm::GruppeForm()
 void GruppeForm::Anordnen()
 {
     KnöpfeBeschriften(Wahl);
-    auto *kopf = new QHBoxLayout;
-    kopf->addWidget(Wahl);
-    kopf->addSpacing(24);
-    kopf->addWidget(Beschriftung("", "Anzahl Gruppen:"));
-    kopf->addWidget(Gruppenzahl);
-    kopf->addStretch();
-
     auto *name = new QHBoxLayout;
     name->addWidget(Beschriftung("", "Gruppe:", GBezeichnung));
     name->addWidget(GBezeichnung, 1);
 
-    auto *unten = new QHBoxLayout;
-    unten->addWidget(NEWGroup);
-    unten->addWidget(Löschend);
-    unten->addSpacing(40);
-    unten->addStretch();
-    Ende->setMinimumWidth(110);
-    unten->addWidget(Ende);
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(18);
-    spalte->addLayout(kopf);
+    spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Anzahl Gruppen:"), Gruppenzahl));
     spalte->addLayout(name);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Ende}, {NEWGroup, Löschend}));
     spalte->addStretch();
     setMinimumWidth(500);
     GBezeichnung->setFocus();

@@ -4,6 +4,7 @@
 #include "core/tables.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "fenster/Terminbox.h"
 #include "fenster/Zahlbox.h"
@@ -69,13 +70,6 @@ HelferForm::HelferForm()
 void HelferForm::Anordnen()
 {
     KnöpfeBeschriften(Wahl);
-    auto *kopf = new QHBoxLayout;
-    kopf->addWidget(Wahl);
-    kopf->addSpacing(24);
-    kopf->addWidget(Beschriftung("", "Datensatzanzahl:"));
-    kopf->addWidget(Datensätzig);
-    kopf->addStretch();
-
     auto *person = new QGridLayout;
     person->setHorizontalSpacing(10);
     person->setVerticalSpacing(6);
@@ -106,19 +100,12 @@ void HelferForm::Anordnen()
     mitte->addLayout(person, 1);
     mitte->addLayout(rechts);
 
-    auto *unten = new QHBoxLayout;
-    unten->addWidget(NeuHelfer);
-    unten->addWidget(Datensatzlösch);
-    unten->addStretch();
-    Ende->setMinimumWidth(110);
-    unten->addWidget(Ende);
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(18);
-    spalte->addLayout(kopf);
+    spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Datensatzanzahl:"), Datensätzig));
     spalte->addWidget(Rollbar(mitte), 1);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Ende}, {NeuHelfer, Datensatzlösch}));
     GrößeAnpassen(this);
     Person.Vorname->setFocus();
 }

@@ -3,6 +3,7 @@
 
 #include "core/tables.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "fenster/Textwahl.h"
 #include "people/Namen.h"
@@ -107,15 +108,11 @@ void LektorrenuswForm::Anordnen()
     raster->setColumnStretch(6, 1);
     raster->setRowStretch(static_cast<int>(Plätze.size()), 1);
 
-    auto *unten = new QHBoxLayout;
-    unten->addStretch();
-    Ende->setMinimumWidth(110);
-    unten->addWidget(Ende);
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(18);
     spalte->addWidget(Rollbar(raster), 1);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Ende}));
     GrößeAnpassen(this);
 }
 

@@ -4,6 +4,7 @@
 #include "core/tables.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "people/Namen.h"
 #include "people/NeuMeßdienerForm.h"
@@ -119,13 +120,6 @@ MeßdienerForm::MeßdienerForm()
 void MeßdienerForm::Anordnen()
 {
     KnöpfeBeschriften(Wahl);
-    auto *kopf = new QHBoxLayout;
-    kopf->addWidget(Wahl);
-    kopf->addSpacing(24);
-    kopf->addWidget(Beschriftung("", "Anzahl Datensätze:"));
-    kopf->addWidget(MaxIndex);
-    kopf->addStretch();
-
     auto *rechts = new QVBoxLayout;
     rechts->setSpacing(14);
     rechts->addLayout(Dienstteil());
@@ -138,19 +132,12 @@ void MeßdienerForm::Anordnen()
     mitte->addLayout(Personenteil(), 1);
     mitte->addLayout(rechts);
 
-    auto *unten = new QHBoxLayout;
-    for (QPushButton *knopf : {NeuDiener, Lösch, Aufnahmebestätigung})
-        unten->addWidget(knopf);
-    unten->addStretch();
-    Ende->setMinimumWidth(110);
-    unten->addWidget(Ende);
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(16, 16, 16, 16);
     spalte->setSpacing(12);
-    spalte->addLayout(kopf);
+    spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Anzahl Datensätze:"), MaxIndex));
     spalte->addWidget(Rollbar(mitte), 1);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Ende}, {NeuDiener, Lösch, Aufnahmebestätigung}));
     GrößeAnpassen(this);
     Person.Vorname->setFocus();
 }

@@ -1,6 +1,7 @@
 // The boxes for name and address, which the forms of servers and helpers share.
 #include "people/Personenboxen.h"
 
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "fenster/Zahlbox.h"
 
@@ -76,15 +77,9 @@ void KnöpfeBeschriften(Datensatzwahl *wahl)
 
 QLayout *Schlußknöpfe(QPushButton *ok, QPushButton *abbrechen)
 {
-    auto *reihe = new QHBoxLayout;
-    reihe->addStretch();
-    for (QPushButton *knopf : {ok, abbrechen}) {
-        knopf->setMinimumWidth(110);
-        reihe->addWidget(knopf);
-    }
     QObject::connect(new QShortcut(Qt::Key_Escape, abbrechen), &QShortcut::activated, abbrechen,
                      &QPushButton::click);
-    return reihe;
+    return Knopfreihe({ok, abbrechen});
 }
 
 } // namespace altardienst

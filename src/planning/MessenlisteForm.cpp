@@ -5,6 +5,7 @@
 #include "core/tables.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "fenster/Terminbox.h"
 #include "people/LektorrenuswForm.h"
@@ -82,13 +83,6 @@ void MessenlisteForm::Laden()
 
 void MessenlisteForm::Anordnen()
 {
-    auto *kopf = new QHBoxLayout;
-    kopf->addWidget(Wahl);
-    kopf->addSpacing(24);
-    kopf->addWidget(Beschriftung("NBe", "Anzahl Datensätze:"));
-    kopf->addWidget(maxi);
-    kopf->addStretch();
-
     auto *termin = new QGridLayout;
     Termin.Anordnen(termin, 0, Terminknöpfe());
     termin->addWidget(Beschriftung("", "Art:", Messewesen), 6, 0);
@@ -108,19 +102,12 @@ void MessenlisteForm::Anordnen()
     mitte->addLayout(links);
     mitte->addLayout(Slots(), 1);
 
-    auto *unten = new QHBoxLayout;
-    for (QPushButton *knopf : {Löscher, NeuMeß, Lektoren})
-        unten->addWidget(knopf);
-    unten->addStretch();
-    Ende->setMinimumWidth(110);
-    unten->addWidget(Ende);
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(16, 16, 16, 16);
     spalte->setSpacing(12);
-    spalte->addLayout(kopf);
+    spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("NBe", "Anzahl Datensätze:"), maxi));
     spalte->addWidget(Rollbar(mitte), 1);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Ende}, {Löscher, NeuMeß, Lektoren}));
     GrößeAnpassen(this); // with all rows of slots
     Wahl->Nummer->setFocus();
 }

@@ -5,6 +5,7 @@
 #include "core/Umwandlung.h"
 #include "core/tables.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "fenster/Terminbox.h"
 #include "planning/MessenlisteForm.h"
@@ -73,18 +74,11 @@ void NeuMesseForm::Anordnen()
     oben->addLayout(zahlen);
     oben->addStretch();
 
-    auto *unten = new QHBoxLayout;
-    unten->addStretch();
-    for (QPushButton *knopf : {OKButton, CancelButton}) {
-        knopf->setMinimumWidth(110);
-        unten->addWidget(knopf);
-    }
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(18);
     spalte->addWidget(Rollbar(oben), 1);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({OKButton, CancelButton}));
     GrößeAnpassen(this);
     Termin.datendaten->setFocus();
 }

@@ -5,6 +5,7 @@
 #include "core/tables.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "fenster/Terminbox.h"
 #include "platform/Meldungen.h"
@@ -92,19 +93,13 @@ void StandardmessenForm::Anordnen()
     zahlen->setAlignment(helfer, Qt::AlignTop);
     zahlen->addStretch();
 
-    auto *unten = new QHBoxLayout;
-    unten->addWidget(Wahl);
-    unten->addStretch();
-    unten->addWidget(Löschig);
-    unten->addWidget(Ende);
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(18);
     spalte->addLayout(oben);
     spalte->addLayout(zahlen);
     spalte->addStretch();
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Löschig, Ende}, {Wahl}));
     Tage->setFocus();
 }
 

@@ -3,6 +3,7 @@
 
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
@@ -62,19 +63,12 @@ void DialogForm::Anordnen()
     listen->addLayout(links, 1);
     listen->addLayout(rechts, 1);
 
-    auto *unten = new QHBoxLayout;
-    unten->addStretch();
-    for (QPushButton *knopf : {OKButton, CancelButton}) {
-        knopf->setMinimumWidth(110);
-        unten->addWidget(knopf);
-    }
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(16, 16, 16, 16);
     spalte->setSpacing(12);
     spalte->addLayout(listen, 1);
     spalte->addWidget(Datei);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({OKButton, CancelButton}));
     resize(660, 460);
     Dateiname->setFocus();
 }

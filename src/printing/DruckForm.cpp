@@ -5,6 +5,7 @@
 #include "core/tables.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "planning/MessenBestimmen.h"
 #include "platform/Uhr.h"
@@ -75,16 +76,11 @@ void DruckForm::Anordnen()
     oben->addLayout(links);
     oben->addWidget(Adressetiketten(), 1);
 
-    auto *unten = new QHBoxLayout;
-    unten->addStretch();
-    Ende->setMinimumWidth(110);
-    unten->addWidget(Ende);
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(16, 16, 16, 16);
     spalte->setSpacing(12);
     spalte->addWidget(Rollbar(oben), 1);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Ende}));
     Messendruck->setFocus();
 }
 

@@ -5,6 +5,7 @@
 #include "core/tables.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "fenster/Zahlbox.h"
 
@@ -83,17 +84,11 @@ void EtikettenForm::Anordnen()
     zahl("Spalten :", S, false);
     raster->setColumnStretch(4, 1);
 
-    auto *unten = new QHBoxLayout;
-    unten->addWidget(Wahl);
-    unten->addStretch();
-    Ende->setMinimumWidth(110);
-    unten->addWidget(Ende);
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(18);
     spalte->addLayout(raster);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Ende}, {Wahl}));
     spalte->addStretch();
     setMinimumWidth(460);
     N->setFocus();

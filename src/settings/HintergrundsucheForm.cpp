@@ -4,6 +4,7 @@
 #include "core/tables.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "platform/Laufwerke.h"
 
@@ -37,16 +38,11 @@ void HintergrundsucheForm::Anordnen()
     oben->addLayout(links, 2);
     oben->addWidget(Bild, 3);
 
-    auto *unten = new QHBoxLayout;
-    unten->addStretch();
-    Ende->setMinimumWidth(110);
-    unten->addWidget(Ende);
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(16, 16, 16, 16);
     spalte->setSpacing(12);
     spalte->addLayout(oben, 1);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Ende}));
     resize(660, 440);
     Wahl.Dateien->setFocus();
 }

@@ -4,6 +4,7 @@
 #include "core/Umwandlung.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "fenster/Terminbox.h"
 #include "fenster/Textwahl.h"
@@ -109,15 +110,11 @@ void KonfigurationForm::Anordnen()
     inhalt->addLayout(oben);
     inhalt->addLayout(Flags());
     inhalt->addStretch();
-    auto *unten = new QHBoxLayout;
-    unten->addStretch();
-    Ende->setMinimumWidth(110);
-    unten->addWidget(Ende);
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(12, 12, 12, 12);
     spalte->setSpacing(6);
     spalte->addWidget(Rollbar(inhalt), 1);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Ende}));
     DiffJahr->setParent(this);
     DiffJahr->hide();
     Bezeichnung->setFocus();

@@ -4,6 +4,7 @@
 #include "core/Allgemein.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "platform/Laufwerke.h"
 #include "shell/Programm.h"
@@ -122,12 +123,6 @@ void KopierForm::Anordnen()
     oben->addWidget(Wahl.Dateien, 1);
     oben->addLayout(rechts);
 
-    auto *unten = new QHBoxLayout;
-    unten->addStretch();
-    for (QPushButton *knopf : {OKButton, CancelButton}) {
-        knopf->setMinimumWidth(110);
-        unten->addWidget(knopf);
-    }
     PlatzBehalten(Welche);
     PlatzBehalten(OKButton);
 
@@ -136,7 +131,7 @@ void KopierForm::Anordnen()
     spalte->setSpacing(12);
     spalte->addLayout(oben, 1);
     spalte->addWidget(Datei);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({OKButton, CancelButton}));
     resize(660, 440);
     Wahl.Verzeichnis->setFocus();
 }

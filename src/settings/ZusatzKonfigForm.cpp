@@ -4,6 +4,7 @@
 #include "core/tables.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -61,11 +62,6 @@ void ZusatzKonfigForm::Anordnen()
     wochen->addWidget(Beschriftung("", "Wochen"));
     wochen->addStretch();
 
-    auto *unten = new QHBoxLayout;
-    unten->addStretch();
-    Ende->setMinimumWidth(110);
-    unten->addWidget(Ende);
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(12);
@@ -78,7 +74,7 @@ void ZusatzKonfigForm::Anordnen()
                              WOBO.Feld));
     spalte->addLayout(wochen);
     spalte->addStretch();
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Ende}));
     resize(520, sizeHint().height());
     Wer->setFocus();
 }

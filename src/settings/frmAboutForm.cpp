@@ -3,6 +3,7 @@
 
 #include "Bauangaben.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "platform/Systeminfo.h"
 
@@ -71,19 +72,12 @@ void frmAboutForm::Anordnen()
     raster->addWidget(lblDisclaimer, 4, 1);
     raster->setColumnStretch(1, 1);
 
-    auto *unten = new QHBoxLayout;
-    unten->addStretch();
-    for (QPushButton *knopf : {cmdOK, cmdSysInfo}) {
-        knopf->setMinimumWidth(130);
-        unten->addWidget(knopf);
-    }
-
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(16);
     spalte->addLayout(raster);
     spalte->addStretch();
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({cmdOK, cmdSysInfo}));
     resize(560, 320);
     cmdOK->setFocus();
 }

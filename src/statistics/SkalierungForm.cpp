@@ -5,6 +5,7 @@
 #include "core/tables.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 
 #include <QCloseEvent>
@@ -109,11 +110,7 @@ void SkalierungForm::Anordnen()
                                         {"maximale Jubiläen", MJS},
                                         {"maximale Vorbelegung Messen mit Meßdiener", MVS}}));
     spalte->addStretch();
-    auto *unten = new QHBoxLayout;
-    unten->addStretch();
-    Ende->setMinimumWidth(110);
-    unten->addWidget(Ende);
-    spalte->addLayout(unten);
+    spalte->addLayout(Knopfreihe({Ende}));
     XSKALA.Feld->setFocus();
 }
 

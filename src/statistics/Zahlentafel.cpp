@@ -57,15 +57,4 @@ QLayout *Satz(std::initializer_list<QWidget *> teile)
     return reihe;
 }
 
-QLayout *Knopfreihe(std::initializer_list<QPushButton *> knöpfe)
-{
-    auto *reihe = new QHBoxLayout;
-    reihe->addStretch();
-    for (QPushButton *knopf : knöpfe) {
-        knopf->setMinimumWidth(100);
-        reihe->addWidget(knopf);
-    }
-    return reihe;
-}
-
 } // namespace altardienst

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/Umwandlung.h"
+#include "fenster/Fensteraufbau.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -48,8 +49,5 @@ class Zahlentafel : public QGridLayout {
 
 /// Text and figures one after the other, such as "Durchschnitt", a figure, "Jahre".
 QLayout *Satz(std::initializer_list<QWidget *> teile);
-
-/// At the right end of the form.
-QLayout *Knopfreihe(std::initializer_list<QPushButton *> knöpfe);
 
 } // namespace altardienst
