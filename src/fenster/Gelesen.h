@@ -4,18 +4,23 @@
 #include "core/Laufzeitfehler.h"
 #include "fenster/Bausteine.h"
 
+#include <QScrollArea>
+
 #include <string_view>
 
 namespace altardienst {
 
-/// What `lesen` makes of the text of a box. If it fails, the box takes the focus, so that the
-/// message, which names no box, leaves the user where the mistake is.
+/// What `lesen` makes of the text of a box. If it fails, the box takes the focus and rolls into
+/// view, so that the message, which names no box, leaves the user where the mistake is.
 template <class Wert> Wert Gelesen(QLineEdit *feld, Wert (*lesen)(std::string_view))
 {
     try {
         return lesen(TextVon(feld));
     } catch (const Laufzeitfehler &) {
         feld->setFocus();
+        for (QWidget *um = feld->parentWidget(); um; um = um->parentWidget())
+            if (auto *fläche = qobject_cast<QScrollArea *>(um))
+                fläche->ensureWidgetVisible(feld);
         throw;
     }
 }

@@ -31,6 +31,17 @@ class MeßdienerRegelnTest : public Personenstand {
     Text Wunsch() { return Gezeigt("VName") + "/" + Gezeigt("NName") + "/" + Gezeigt("Partner"); }
 };
 
+// On a small screen it may lie outside of what is in view.
+TEST_F(MeßdienerRegelnTest, DasFeldDasEinSpeichernAnhältRolltInsBild)
+{
+    form->resize(400, 300);
+    Schreiben("Schluß5", "kein Datum");
+    ASSERT_TRUE(C("Schluß5")->visibleRegion().isEmpty());
+    Drücken("PLUS");
+    EXPECT_TRUE(C("Schluß5")->hasFocus());
+    EXPECT_FALSE(C("Schluß5")->visibleRegion().isEmpty());
+}
+
 TEST_F(MeßdienerRegelnTest, DatumsschritteNachDemKalender)
 {
     Schreiben("Gebutag", "31.1.2026");
