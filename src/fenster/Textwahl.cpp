@@ -3,7 +3,7 @@
 
 #include "fenster/Bausteine.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QStringListModel>
 
@@ -15,10 +15,40 @@ namespace {
 void EintragAngleichen(QComboBox *wahl)
 {
     const QString text = wahl->currentText();
+    const int jetzt = wahl->currentIndex();
+    if (jetzt >= 0 && wahl->itemText(jetzt) == text)
+        return; // of entries that read alike it stays the one that was picked
     const QSignalBlocker still(wahl);
     wahl->setCurrentIndex(wahl->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
     wahl->setEditText(text);
 }
+
+/// The keys and the opened list begin at the entry that the box shows, however its text came there.
+class Listenbedienung : public QObject {
+  public:
+    explicit Listenbedienung(QComboBox *wahl) : QObject(wahl), wahl(wahl)
+    {
+        wahl->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *ereignis) override
+    {
+        if (ereignis->type() == QEvent::FocusIn || Blättert(ereignis))
+            EintragAngleichen(wahl);
+        return false;
+    }
+
+  private:
+    static bool Blättert(QEvent *ereignis)
+    {
+        if (ereignis->type() != QEvent::KeyPress)
+            return false;
+        const int taste = static_cast<QKeyEvent *>(ereignis)->key();
+        return taste == Qt::Key_Up || taste == Qt::Key_Down;
+    }
+
+    QComboBox *wahl;
+};
 
 /// Hands the wheel on to what lies behind a box: passing over it, it would choose another entry.
 class Radsperre : public QObject {
@@ -45,6 +75,7 @@ QComboBox *Textwahl(const char *name, const char *gesprochen)
     for (QWidget *control : std::initializer_list<QWidget *>{wahl, wahl->lineEdit()})
         control->setAccessibleName(QString::fromUtf8(gesprochen));
     wahl->setInsertPolicy(QComboBox::NoInsert);
+    new Listenbedienung(wahl);
     RadSperren(wahl);
     return wahl;
 }

@@ -29,6 +29,12 @@ constexpr int PlusBis = 600;       // above it `Plus` shows no next entry
 
 QPointer<MesseDienerFestForm> offene;
 
+/// The blank entry behind the last one can be reached too.
+int HöchsterEintrag()
+{
+    return std::clamp<int>(MesseDienerFest.Anzahl, 0, HöchsteNummer);
+}
+
 } // namespace
 
 MesseDienerFestForm::MesseDienerFestForm()
@@ -49,6 +55,7 @@ MesseDienerFestForm::MesseDienerFestForm()
     Benannt(this, "MesseDienerFest");
     setWindowTitle("Meßdiener fest zu einer Messe zuordnen");
     offene = this;
+    FesteZuordnungOffen = true;
     Anordnen();
     Verbinden();
     Abgefangen([this] {
@@ -110,8 +117,7 @@ void MesseDienerFestForm::Aufschlagen()
 {
     FesteZuordnungOffen = true;
     DienerzahlenBestimmen();
-    MesseDienerFest.Cursor =
-        std::max(0, std::min<int>(MesseDienerFest.Cursor, MesseDienerFest.Anzahl));
+    MesseDienerFest.Cursor = std::clamp<int>(MesseDienerFest.Cursor, 0, HöchsterEintrag());
     ZahlSetzen(Wahl->Nummer, MesseDienerFest.Cursor);
     Felder.Zeigen(MesseDienerFest.Cursor);
     Felder.DatumUhrzeitAngleichen();
@@ -123,15 +129,17 @@ void MesseDienerFestForm::Aufschlagen()
 void MesseDienerFestForm::NummerGeändert()
 {
     Felder.DatumUhrzeitAngleichen();
-    const int höchste = std::clamp<int>(MesseDienerFest.Anzahl, 0, HöchsteNummer);
-    MesseDienerFest.Cursor = Begrenzen(Wahl->Nummer, 0, höchste);
+    MesseDienerFest.Cursor = Begrenzen(Wahl->Nummer, 0, HöchsterEintrag());
     Felder.Zeigen(MesseDienerFest.Cursor);
     Zeigen();
 }
 
-/// By key the focus moves too, so that the box being filled in is left before it is written.
+/// By key the focus moves too, so that the box being filled in is left before it is written. Date
+/// and time take back the mass's when they are left; what was typed counts, so it goes there first.
 void MesseDienerFestForm::Schritt(int richtung)
 {
+    if (Felder.DatumD->hasFocus() || Felder.Zeitd->hasFocus())
+        Felder.DatumUhrzeitAngleichen();
     if (!Wahl->isAncestorOf(focusWidget()))
         Wahl->Nummer->setFocus();
     Felder.DatumUhrzeitAngleichen();

@@ -288,12 +288,11 @@ void Zuordnungsfelder::SlotVerlassen(const Slot &slot)
     Übernehmen();
 }
 
-/// The text is set before the message appears, as the message takes the focus from the next box.
 void Zuordnungsfelder::MesseVerlassen()
 {
     if (!IstMesse(TextVon(Messen))) {
-        MesseZeigen();
-        return Melden("Messe ist unbekannt!! Auswählen oder neu eingeben!!");
+        Melden("Messe ist unbekannt!! Auswählen oder neu eingeben!!");
+        return MesseZeigen();
     }
     if (Länge(TextVon(Messen)) < KürzestesTermintext)
         Setzen(Messen, KurzesDatum(Uhr.Heute()) + "," + LangeZeit(ZeitAus(Uhr.Sekunden())));

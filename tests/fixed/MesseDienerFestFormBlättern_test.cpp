@@ -102,6 +102,50 @@ TEST_F(MesseDienerFestFormBlätternTest, EineTasteVerläßtZuerstDieBoxInDerGesc
     EXPECT_EQ(Zeigt("Index"), "0");
 }
 
+TEST_F(MesseDienerFestFormBlätternTest, EineTasteVerläßtAuchDieMesseZuerst)
+{
+    Öffnen();
+    FokusAuf(Kombo("Messen"));
+    MesseSetzen("24.11.2026,08:00:00");
+    Taste(Qt::Key_PageUp);
+    EXPECT_EQ(Termin(0), "24.11.2026,08:00:00");
+    EXPECT_EQ(Wo(), Eins);
+}
+
+TEST_F(MesseDienerFestFormBlätternTest, EineTasteNimmtDasGetippteDatumUndDieUhrzeitMit)
+{
+    for (const auto &[feld, text, termin] : {std::tuple("DatumD", "1.2.27", "01.02.2027,18:00:00"),
+                                             {"Zeitd", "9:30", "22.11.2026,09:30:00"}}) {
+        for (const auto &[taste, wo] :
+             {std::pair(Qt::Key_PageUp, Zwei), {Qt::Key_PageDown, Null}}) {
+            Öffnen(1);
+            FokusAuf(Finden(form, feld));
+            Eingeben(feld, text);
+            Taste(taste);
+            EXPECT_EQ(Termin(1), termin);
+            EXPECT_EQ(Wo(), wo);
+            EXPECT_TRUE(Finden(form, "Index")->hasFocus());
+            form->close();
+            EXPECT_TRUE(Warten([&] { return !form; }));
+        }
+    }
+}
+
+TEST_F(MesseDienerFestFormBlätternTest, EinSchlechtesDatumHältDieTasteAnUndBleibtStehen)
+{
+    Öffnen(1);
+    for (const char *feld : {"DatumD", "Zeitd"}) {
+        const Text vorher = Zeigt(feld);
+        FokusAuf(Finden(form, feld));
+        Eingeben(feld, "abc");
+        Taste(Qt::Key_PageUp);
+        EXPECT_EQ(Zeigt(feld), "abc");
+        EXPECT_EQ(Zeigt("Index"), "1");
+        Eingeben(feld, vorher.c_str());
+    }
+    EXPECT_EQ(Termin(1), "22.11.2026,18:00:00");
+}
+
 TEST_F(MesseDienerFestFormBlätternTest, DerLeereEintragBekommtHeuteSobaldErVerlassenWird)
 {
     Öffnen(2);
@@ -109,6 +153,17 @@ TEST_F(MesseDienerFestFormBlätternTest, DerLeereEintragBekommtHeuteSobaldErVerl
     Drücken("Minus");
     EXPECT_EQ(Termin(3), "21.11.2026,00:00:00");
     EXPECT_EQ(MesseDienerFest.Anzahl, 3);
+    for (const char *wie : {"Plus", "Minus", "auf", "ab"}) {
+        MesseDienerFest.Datum[3] = 0;
+        Eingeben("Index", "2");
+        Eingeben("Index", "3");
+        EXPECT_EQ(Zeigt("DatumD"), "00:00:00"); // not before it is written
+        if (Text(wie) == "Plus" || Text(wie) == "Minus")
+            Drücken(wie);
+        else
+            Drehen("DatensatzWechsel", wie);
+        EXPECT_EQ(Termin(3), "21.11.2026,00:00:00") << wie;
+    }
 }
 
 TEST_F(MesseDienerFestFormBlätternTest, NachDemDrehenStehtDieMesseDesVerlassenenEintragsDa)
@@ -196,6 +251,16 @@ TEST_F(MesseDienerFestFormBlätternTest, MehrAls200SindNichtZuErreichen)
     EXPECT_EQ(Zeigt("DatumD"), KurzesDatum(Sonntag + 300));
 }
 
+TEST_F(MesseDienerFestFormBlätternTest, AuchBeimÖffnenIst200DieHöchste)
+{
+    Viele(250);
+    MesseDienerFest.Cursor = 250;
+    ListeÖffnen();
+    EXPECT_EQ(Zeigt("Index"), "200");
+    EXPECT_EQ(MesseDienerFest.Cursor, 200);
+    EXPECT_EQ(Zeigt("DatumD"), KurzesDatum(Sonntag + 300));
+}
+
 TEST_F(MesseDienerFestFormBlätternTest, WasKeineNummerIstBleibtStehen)
 {
     Öffnen(1);
@@ -225,6 +290,9 @@ TEST_F(MesseDienerFestFormBlätternTest, EineLeereNummerGiltAlsNull)
     EXPECT_EQ(Wo(), Eins);
     Eingeben("Index", "");
     Drücken("Minus");
+    EXPECT_EQ(Wo(), Null);
+    Eingeben("Index", "");
+    Drücken("Minus"); // nothing is above the first one
     EXPECT_EQ(Wo(), Null);
     Eingeben("Index", "2");
     Eingeben("Index", "");
@@ -307,6 +375,39 @@ TEST_F(MesseDienerFestFormBlätternTest, LöschenAufDemLeerenEintragGehtZurückA
     Drücken("Löschen");
     EXPECT_EQ(MesseDienerFest.Anzahl, 2);
     EXPECT_EQ(Wo(), Zwei); // behind the last one now, but still there
+}
+
+/// The number may stand apart from the entry on the screen while a bad date holds up its change.
+TEST_F(MesseDienerFestFormBlätternTest, GelöschtWirdDerEintragDerNummer)
+{
+    Öffnen(1);
+    FokusAuf(Finden(form, "Index"));
+    Eingeben("DatumD", "abc");
+    Eingeben("Index", "0");
+    EXPECT_EQ(MesseDienerFest.Cursor, 1);
+    Antworten = {true};
+    Drücken("Löschen");
+    EXPECT_EQ(Gespeichert(0, 1), "Kim|Bauer");
+    EXPECT_EQ(Gespeichert(1, 1), "Kim|Conrad");
+    EXPECT_EQ(MesseDienerFest.Cursor, 0);
+    EXPECT_EQ(Wo(), "0: 22.11.2026,18:00:00 Bauer,Kim 2");
+}
+
+/// Only the buttons and keys bring the mass in line with the entry, and OK takes the date from it.
+TEST_F(MesseDienerFestFormBlätternTest, NachDemDrehenUndLöschenSchreibtOkDenTerminDesVorigen)
+{
+    Öffnen();
+    Drehen("DatensatzWechsel", "auf");
+    Drücken("OKbutton");
+    EXPECT_EQ(Termin(1), "22.11.2026,10:00:00"); // that of entry 0
+    EXPECT_EQ(Gespeichert(1, 1), "Kim|Bauer");
+    EXPECT_TRUE(Warten([&] { return !form; }));
+    Öffnen(1);
+    Antworten = {true};
+    Drücken("Löschen");
+    Drücken("OKbutton");
+    EXPECT_EQ(Termin(1), "22.11.2026,18:00:00"); // that of the deleted one
+    EXPECT_EQ(Gespeichert(1, 1), "Kim|Conrad");
 }
 
 TEST_F(MesseDienerFestFormBlätternTest, MitWenigerAlsZweiEinträgenTutLöschenNichts)

@@ -247,6 +247,22 @@ TEST_F(MesseDienerFestFormEndeTest, ZurückAusEinerAnderenFormZeigtSieDenEintrag
     EXPECT_EQ(Messe.DienerDienst[0][0], "bleibt");
 }
 
+TEST_F(MesseDienerFestFormEndeTest, ZurückAusEinerAnderenFormBleibenDieListenWieSieWaren)
+{
+    Öffnen();
+    const int namen = MDiener(1)->count();
+    const int messen = Kombo("Messen")->count();
+    auto *andere = new QWidget;
+    Zeigen(andere);
+    MeßdienerAnlegen("Ada", "Abel");
+    Anlegen(Sonntag + 3, 9, 2, "Andacht");
+    Messe.Dienerzahl[0] = 7;
+    Zeigen(form);
+    EXPECT_EQ(Zeilen(), 7); // it has noticed its return
+    EXPECT_EQ(MDiener(1)->count(), namen);
+    EXPECT_EQ(Kombo("Messen")->count(), messen);
+}
+
 TEST_F(MesseDienerFestFormEndeTest, EineMeldungIstKeineAndereForm)
 {
     EchteMeldungen();

@@ -110,6 +110,31 @@ TEST_F(MesseDienerFestFormTest, ÖffnenVerteiltDieDiensteAberZeigtDieDesEintrags
     EXPECT_EQ(MesseDienerFest.Dienst[0][0], "");
 }
 
+TEST_F(MesseDienerFestFormTest, SieGiltAlsOffenAuchWennSichDieDiensteNichtVerteilenLassen)
+{
+    Messe.Anzahl = 5000;
+    ListeÖffnen();
+    EXPECT_TRUE(FesteZuordnungOffen);
+}
+
+TEST_F(MesseDienerFestFormTest, DieTastenWählenDenNachbarnDesGezeigtenNamens)
+{
+    Fest(0, 2, Liste(20));
+    for (const int slot : {1, 20}) {
+        MesseDienerFest.Nachname[0][slot] = slot == 1 ? "Klein" : "Funk";
+        MesseDienerFest.Vorname[0][slot] = "Kim";
+    }
+    ListeÖffnen();
+    for (const auto &[slot, name, danach] :
+         {std::tuple(1, "Klein,Kim", "Lenz,Kim"), {20, "Funk,Kim", "Groß,Kim"}}) {
+        EXPECT_EQ(Gewählt(slot), name);
+        FokusAuf(MDiener(slot));
+        QTest::keyClick(MDiener(slot), Qt::Key_Down);
+        EXPECT_EQ(Gewählt(slot), danach);
+    }
+    EXPECT_EQ(GezeigteMeldungen, Liste{});
+}
+
 TEST_F(MesseDienerFestFormTest, ÖffnenZähltDieDienerBisEintrag100)
 {
     for (int k = 0; k <= 101; ++k) {

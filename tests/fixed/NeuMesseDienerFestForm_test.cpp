@@ -130,6 +130,19 @@ TEST_F(NeuMesseDienerFestFormTest, EinTerminHatNurEinenEintrag)
     EXPECT_EQ(MesseDienerFest.Anzahl, 2);
 }
 
+/// Leaving the mass takes the count of the last one of its time.
+TEST_F(NeuMesseDienerFestFormTest, DerVorschlagZähltDieDienerDerErstenMesse)
+{
+    Anlegen(Sonntag, 10, 7, "Kindermesse");
+    Öffnen();
+    EXPECT_EQ(Zeilen(), 4);
+    Verlassen();
+    EXPECT_EQ(Zeilen(), 7);
+    Drücken("Anfügen");
+    EXPECT_EQ(MesseDienerFest.Anzahl, 1);
+    EXPECT_EQ(Zeilen(), 4);
+}
+
 TEST_F(NeuMesseDienerFestFormTest, NurEinträgeUnterDerAnzahlSindDoppelt)
 {
     Fest(0, 1);

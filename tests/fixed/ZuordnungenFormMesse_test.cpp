@@ -72,6 +72,35 @@ TEST_P(ZuordnungenFormMesseTest, NamenHinterDerZahlDerNeuenMesseFallenWeg)
     }
 }
 
+TEST_P(ZuordnungenFormMesseTest, NurEineBekannteMesseTeiltDieNamenAuf)
+{
+    Öffnen();
+    Setzen(1, "Abel,Kim"); // without leaving it
+    MesseWählen("gibt es nicht");
+    EXPECT_EQ(GezeigteMeldungen, Liste{Unbekannt});
+    EXPECT_EQ(Name(1), "|");
+    MesseWählen("22.11.2026,18:00:00");
+    EXPECT_EQ(Name(1), "Kim|Abel");
+}
+
+TEST_P(ZuordnungenFormMesseTest, DieDiensteWerdenNurBeimÖffnenVerteilt)
+{
+    Öffnen();
+    Messe.DienerDienst[0][0] = "bleibt";
+    Wählen(1, "Abel,Kim");
+    EXPECT_EQ(Messe.DienerDienst[0][0], "bleibt") << "slot";
+    MesseWählen("22.11.2026,10:00:00,Hochamt");
+    EXPECT_EQ(Messe.DienerDienst[0][0], "bleibt") << "mass";
+    FokusAuf(Feld("DatumD"));
+    Verlassen();
+    EXPECT_EQ(Messe.DienerDienst[0][0], "bleibt") << "date";
+    Drücken(IstListe() ? "Plus" : "Anfügen");
+    EXPECT_EQ(Messe.DienerDienst[0][0], "bleibt") << "move";
+    EXPECT_EQ(Gespeichert(0, 1), "Kim|Abel");
+    form->close();
+    EXPECT_EQ(Messe.DienerDienst[0][0], "bleibt") << "close";
+}
+
 TEST_P(ZuordnungenFormMesseTest, EineUnbekannteMesseGehtZurück)
 {
     Öffnen();
@@ -88,7 +117,7 @@ TEST_P(ZuordnungenFormMesseTest, EineUnbekannteMesseGehtZurück)
     }
 }
 
-TEST_P(ZuordnungenFormMesseTest, DieMeldungKommtNachDemZurücksetzen)
+TEST_P(ZuordnungenFormMesseTest, DieMeldungKommtVorDemZurücksetzen)
 {
     EchteMeldungen();
     Öffnen();
@@ -97,10 +126,11 @@ TEST_P(ZuordnungenFormMesseTest, DieMeldungKommtNachDemZurücksetzen)
     Beantworten([&](QMessageBox *box) {
         EXPECT_EQ(box->text().toStdString(), Unbekannt);
         EXPECT_EQ(box->standardButtons(), QMessageBox::Ok);
-        EXPECT_EQ(Messentext(), "22.11.2026,10:00:00");
+        EXPECT_EQ(Messentext(), "gibt es nicht");
         box->accept();
     });
     QTest::keyClick(Kombo("Messen"), Qt::Key_Tab); // to the date, which the message takes away
+    EXPECT_EQ(Messentext(), "22.11.2026,10:00:00");
     EXPECT_EQ(AmUm(), "22.11.2026,10:00:00");
 }
 

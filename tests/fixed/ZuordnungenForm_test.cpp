@@ -72,6 +72,38 @@ TEST_P(ZuordnungenFormTest, AuswahlAusDerListeMitDerTastatur)
     EXPECT_EQ(Name(1), "Kim|Klein");
 }
 
+TEST_P(ZuordnungenFormTest, DieTastenGehenVomNamenAusDerDasteht)
+{
+    Öffnen();
+    MesseWählen("23.11.2026,08:00:00,");
+    for (const int slot : {1, 20}) {
+        Setzen(slot, "Klein,Kim");
+        FokusAuf(MDiener(slot));
+        EXPECT_EQ(MDiener(slot)->currentText(), "Klein,Kim");
+        EXPECT_EQ(MDiener(slot)->currentIndex(), MDiener(slot)->findText("Klein,Kim"));
+        QTest::keyClick(MDiener(slot), Qt::Key_Up);
+        EXPECT_EQ(Gewählt(slot), "Jung,Kim");
+        Setzen(slot, "Otto,Kim"); // while it has the focus
+        QTest::keyClick(MDiener(slot), Qt::Key_Down);
+        EXPECT_EQ(Gewählt(slot), "Pohl,Kim");
+        Wählen(slot, "");
+    }
+    EXPECT_EQ(GezeigteMeldungen, Liste{});
+}
+
+TEST_P(ZuordnungenFormTest, VonZweiGleichenGehenDieTastenWeiter)
+{
+    MeßdienerAnlegen("Kim", "Zoller"); // behind the other one
+    MeßdienerAnlegen("Kim", "Zimmer");
+    Öffnen();
+    FokusAuf(MDiener(1));
+    Setzen(1, "Wolf,Kim");
+    for (const char *name : {"Zoller,Kim", "Zoller,Kim", "Zimmer,Kim"}) {
+        QTest::keyClick(MDiener(1), Qt::Key_Down);
+        EXPECT_EQ(Gewählt(1), name);
+    }
+}
+
 TEST_P(ZuordnungenFormTest, DasRadWähltNichts)
 {
     Öffnen();
@@ -115,6 +147,26 @@ TEST_P(ZuordnungenFormTest, EinUnbekannterNameGehtAufDieFelderZurück)
     Wählen(2, "Niemand,Nina");
     EXPECT_EQ(Gewählt(2), "");
     EXPECT_EQ(Name(2), "|");
+}
+
+TEST_P(ZuordnungenFormTest, DieFehleingabeKommtNachDemZurücksetzen)
+{
+    EchteMeldungen();
+    Öffnen();
+    Wählen(2, "Dahl,Kim");
+    for (const auto &[slot, danach] : {std::pair(2, "Dahl,Kim"), {3, ""}}) {
+        FokusAuf(MDiener(slot));
+        Setzen(slot, "Niemand,Nina");
+        Text dabei = "no box";
+        Beantworten([&, slot = slot](QMessageBox *box) {
+            EXPECT_EQ(box->text().toStdString(), Fehleingabe);
+            dabei = Gewählt(slot);
+            box->accept();
+        });
+        QTest::keyClick(MDiener(slot), Qt::Key_Tab);
+        EXPECT_EQ(dabei, danach) << slot;
+        Zeigen(form);
+    }
 }
 
 TEST_P(ZuordnungenFormTest, EinLeererTextLeertDenSlotOhneWort)
