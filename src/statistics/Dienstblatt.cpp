@@ -42,7 +42,9 @@ Dienstblatt::Dienstblatt(const Dienstblattnamen &namen, int anzahl,
 
 void Dienstblatt::NummerGeändert()
 {
-    if (ZahlIn(Wahl->Nummer) >= anzahl)
+    // It may be too large for a record number, and one with a fraction rounds to its record.
+    if (SingleLesen(TextVon(Wahl->Nummer)) >= static_cast<Single>(anzahl) ||
+        ZahlIn(Wahl->Nummer) >= anzahl)
         ZahlSetzen(Wahl->Nummer, 0);
     const std::vector<Text> texte = zeile(ZahlIn(Wahl->Nummer));
     for (std::size_t k = 0; k < Felder.size(); ++k)

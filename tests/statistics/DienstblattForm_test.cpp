@@ -1,7 +1,10 @@
 // The services of each server and each helper through their windows.
+#include "people/MeßdienerForm.h"
 #include "statistics/StatDienstForm.h"
 #include "statistics/StatHelferForm.h"
 #include "statistics/Statistikstand.h"
+
+#include <type_traits>
 
 namespace altardienst {
 namespace {
@@ -20,19 +23,37 @@ class DienstblattFormTest : public Statistikstand {
             MeßdienerAnlegen(vorname, "Berg");
         HelferAnlegen("Lea", "Lang", "Lektor");
         HelferAnlegen("Max", "Moos", "Kantor");
-        const int i = MesseMitDienern(DatumAus({2026, 11, 22}), 6);
-        int slot = 1;
-        for (const char *dienst : {"Gabenbereitung", "Leuchter", "Flambeau", "Weihrauch",
-                                   "Kreuzträger", "Allgemein", "Leuchter"}) {
-            Messe.DienerVor[i][slot] = slot < 7 ? "Anna" : "Ben";
-            Messe.DienerNach[i][slot] = "Berg";
-            Messe.DienerDienst[i][slot - 1] = dienst;
-            ++slot;
+        // Anna once at the first kind, twice at the second, up to six times.
+        int wieOft = 0;
+        for (const char *dienst :
+             {"Gabenbereitung", "Leuchter", "Flambeau", "Weihrauch", "Kreuzträger", "Allgemein"}) {
+            const int i = MesseMitDienern(DatumAus({2026, 11, 22}), 7);
+            ++wieOft;
+            for (int slot = 1; slot <= wieOft; ++slot)
+                Einteilen(i, slot, "Anna", dienst);
         }
-        Messe.Lektor1Vor[i] = "Lea";
-        Messe.Lektor1Nach[i] = "Lang";
-        Messe.Komm2Vor[i] = Messe.Kollekt1Vor[i] = "Max";
-        Messe.Komm2Nach[i] = Messe.Kollekt1Nach[i] = "Moos";
+        Einteilen(0, 7, "Ben", "Leuchter");
+        // Lea once, twice, three and four times.
+        wieOft = 0;
+        for (const auto &[vor, nach] : {std::pair(&Messe.Lektor1Vor, &Messe.Lektor1Nach),
+                                        {&Messe.Komm1Vor, &Messe.Komm1Nach},
+                                        {&Messe.Kantor1Vor, &Messe.Kantor1Nach},
+                                        {&Messe.Kollekt1Vor, &Messe.Kollekt1Nach}}) {
+            ++wieOft;
+            for (int i = 0; i < wieOft; ++i) {
+                (*vor)[i] = "Lea";
+                (*nach)[i] = "Lang";
+            }
+        }
+        Messe.Komm2Vor[5] = Messe.Kollekt1Vor[5] = "Max";
+        Messe.Komm2Nach[5] = Messe.Kollekt1Nach[5] = "Moos";
+    }
+
+    static void Einteilen(int i, int slot, const char *vorname, const char *dienst)
+    {
+        Messe.DienerVor[i][slot] = vorname;
+        Messe.DienerNach[i][slot] = "Berg";
+        Messe.DienerDienst[i][slot - 1] = dienst;
     }
 
     Text Gezeigt(std::initializer_list<const char *> namen) const
@@ -55,12 +76,13 @@ TEST_F(DienstblattFormTest, MeßdienerMitIhrenBeschriftungen)
     EXPECT_EQ(ZeileBis("V"), "Vorname|Anna");
     EXPECT_EQ(ZeileBis("N"), "Nachname|Berg");
     EXPECT_EQ(ZeileBis("G"), "Gabenbereitung|1");
-    EXPECT_EQ(ZeileBis("L"), "Leuchter|1");
-    EXPECT_EQ(ZeileBis("F"), "Flambeau|1");
-    EXPECT_EQ(ZeileBis("W"), "Weihrauch|1");
-    EXPECT_EQ(ZeileBis("K"), "Kreuzträger|1");
-    EXPECT_EQ(ZeileBis("A"), "Allgemein|1");
-    EXPECT_EQ(ZeileBis("I"), "Insgesamt|6");
+    EXPECT_EQ(ZeileBis("L"), "Leuchter|2");
+    EXPECT_EQ(ZeileBis("F"), "Flambeau|3");
+    EXPECT_EQ(ZeileBis("W"), "Weihrauch|4");
+    EXPECT_EQ(ZeileBis("K"), "Kreuzträger|5");
+    EXPECT_EQ(ZeileBis("A"), "Allgemein|6");
+    EXPECT_EQ(Diener(), "Anna Berg 1 2 3 4 5 6 21");
+    EXPECT_EQ(ZeileBis("I"), "Insgesamt|21");
 }
 
 TEST_F(DienstblattFormTest, HelferMitIhrenBeschriftungen)
@@ -70,17 +92,17 @@ TEST_F(DienstblattFormTest, HelferMitIhrenBeschriftungen)
     EXPECT_EQ(ZeileBis("V1"), "Vorname|Lea");
     EXPECT_EQ(ZeileBis("N1"), "Nachname|Lang");
     EXPECT_EQ(ZeileBis("LE1"), "Lektor|1");
-    EXPECT_EQ(ZeileBis("KM1"), "Kommunionhelfer|0");
-    EXPECT_EQ(ZeileBis("KN1"), "Kantor|0");
-    EXPECT_EQ(ZeileBis("KL1"), "Kollektant|0");
-    EXPECT_EQ(ZeileBis("IN1"), "Insgesamt|1");
+    EXPECT_EQ(ZeileBis("KM1"), "Kommunionhelfer|2");
+    EXPECT_EQ(ZeileBis("KN1"), "Kantor|3");
+    EXPECT_EQ(ZeileBis("KL1"), "Kollektant|4");
+    EXPECT_EQ(ZeileBis("IN1"), "Insgesamt|10");
     Drücken("PLUS");
     EXPECT_EQ(Nummer("Indexchen"), "1");
     EXPECT_EQ(Helferzeile(), "Max Moos 0 1 0 1 2");
     Drücken("PLUS"); // stays at the last one
     EXPECT_EQ(Nummer("Indexchen"), "1");
     Drücken("MINUS");
-    EXPECT_EQ(Helferzeile(), "Lea Lang 1 0 0 0 1");
+    EXPECT_EQ(Helferzeile(), "Lea Lang 1 2 3 4 10");
 }
 
 TEST_F(DienstblattFormTest, PlusUndMinusBleibenInDenSätzen)
@@ -101,7 +123,7 @@ TEST_F(DienstblattFormTest, PlusUndMinusBleibenInDenSätzen)
 TEST_F(DienstblattFormTest, EineNummerAußerhalbFälltAufNull)
 {
     Öffnen<StatDienstForm>();
-    for (const char *zahl : {"3", "4", "99"}) {
+    for (const char *zahl : {"3", "4", "99", "32767", "32768", "40000", "2,6"}) {
         Tippe("1");
         EXPECT_EQ(Zeigt("V"), "Ben");
         Tippe(zahl);
@@ -110,6 +132,14 @@ TEST_F(DienstblattFormTest, EineNummerAußerhalbFälltAufNull)
     }
     Tippe("2");
     EXPECT_EQ(Zeigt("V"), "Cara");
+    Tippe("1,6"); // rounded to the last one
+    EXPECT_EQ(Zeigt("V"), "Cara");
+    delete form;
+    Meßdiener.Anzahl = 2;
+    Öffnen<StatDienstForm>();
+    Finden<QLineEdit>(form, "INDEXLEIN")->setText("1,6"); // rounded to the one behind the last
+    EXPECT_EQ(Nummer(), "0");
+    EXPECT_EQ(Zeigt("V"), "Anna");
 }
 
 TEST_F(DienstblattFormTest, WasKeineNummerIstLäßtDieZeileStehen)
@@ -162,7 +192,7 @@ TEST_F(DienstblattFormTest, MeßdienerlisteAufPapier)
     Drücken("Druckern");
     const Text papier = PdfText(datei);
     for (const char *zeile : {"Statistik Meßdiener mit Anzahl Dienste",
-                              "Anna Berg , G.: 1 , L.: 1 , F.: 1 , W.: 1 , K.: 1 , A.: 1 , I.: 6",
+                              "Anna Berg , G.: 1 , L.: 2 , F.: 3 , W.: 4 , K.: 5 , A.: 6 , I.: 21",
                               "Ben Berg , G.: 0 , L.: 1 , F.: 0 , W.: 0 , K.: 0 , A.: 0 , I.: 1",
                               "Cara Berg , G.: 0 , L.: 0 , F.: 0 , W.: 0 , K.: 0 , A.: 0 , I.: 0",
                               "G: Gabenbereitung, L: Leuchter, F: Flambeau, W: Weihrauch",
@@ -180,23 +210,58 @@ TEST_F(DienstblattFormTest, HelferlisteAufPapier)
     Drücken("Dluckeln");
     const Text papier = PdfText(datei);
     for (const char *zeile : {"Statistik Helfer mit Anzahl Dienste",
-                              "Lea Lang , Lektor: 1 , Kommunion: 0 , Kantor: 0 , Kollek.: 0",
+                              "Lea Lang , Lektor: 1 , Kommunion: 2 , Kantor: 3 , Kollek.: 4",
                               "Max Moos , Lektor: 0 , Kommunion: 1 , Kantor: 0 , Kollek.: 1"})
         EXPECT_NE(papier.find(zeile), Text::npos) << zeile << "\n" << papier;
 }
 
+TEST_F(DienstblattFormTest, OhneGewählteAusrichtungKommtKeinPapier)
+{
+    Konfig.DiffJahr = 0;
+    Öffnen<StatDienstForm>();
+    Drücken("Druckern");
+    delete form;
+    Öffnen<StatHelferForm>();
+    Drücken("Dluckeln");
+    EXPECT_FALSE(std::filesystem::exists(datei.toStdString()));
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(DienstblattFormTest, DieDiensteFolgenEinemNeuenNamenNurBeiEnde)
+{
+    const auto umbenennen = [&](const char *name, const std::function<void()> &weg) {
+        Meßdiener.Cursor = 1;
+        Öffnen<MeßdienerForm>();
+        Finden<QLineEdit>(form, "Vornamen")->setText(name);
+        SchließtMit(weg);
+        Öffnen<StatDienstForm>();
+        Drücken("PLUS");
+        EXPECT_EQ(Zeigt("V"), name);
+        const Text insgesamt = Zeigt("I");
+        SchließtMit([&] { form->close(); });
+        return insgesamt;
+    };
+    EXPECT_EQ(umbenennen("Bernd", [&] { Drücken("Ende"); }), "1");
+    EXPECT_EQ(umbenennen("Bodo", [&] { form->close(); }), "0");
+}
+
 TEST_F(DienstblattFormTest, Ordnung)
 {
-    Öffnen<StatDienstForm>();
-    EXPECT_EQ(form->objectName(), "StatDienst");
-    EXPECT_EQ(form->windowTitle(), "Statistik Dienste Meßdiener");
-    IstOrdentlich({"INDEXLEIN", "MINUS", "PLUS", "Druckern", "Ende"});
-    SchließtMit([&] { Drücken("Ende"); });
-    Öffnen<StatHelferForm>();
-    EXPECT_EQ(form->objectName(), "StatHelfer");
-    EXPECT_EQ(form->windowTitle(), "Statistik Dienste Helfer");
-    IstOrdentlich({"Indexchen", "MINUS", "PLUS", "Dluckeln", "Ende"});
-    SchließtMit([&] { form->close(); });
+    const auto prüfen = [&]<class Form>(std::type_identity<Form>, const char *name,
+                                        const char *titel, const std::vector<Text> &tabfolge) {
+        Öffnen<Form>();
+        EXPECT_EQ(form->objectName().toStdString(), name);
+        EXPECT_EQ(form->windowTitle().toStdString(), titel);
+        EXPECT_EQ(Aufschrift(Finden(form, "Ende")), "Ende");
+        IstOrdentlich(tabfolge);
+        SchließtMit([&] { Drücken("Ende"); });
+        Öffnen<Form>();
+        SchließtMit([&] { form->close(); });
+    };
+    prüfen(std::type_identity<StatDienstForm>(), "StatDienst", "Statistik Dienste Meßdiener",
+           {"INDEXLEIN", "MINUS", "PLUS", "Druckern", "Ende"});
+    prüfen(std::type_identity<StatHelferForm>(), "StatHelfer", "Statistik Dienste Helfer",
+           {"Indexchen", "MINUS", "PLUS", "Dluckeln", "Ende"});
 }
 
 } // namespace
