@@ -1,6 +1,7 @@
 // Print scales and table sizes.
 #include "statistics/SkalierungForm.h"
 
+#include "core/Laufzeitfehler.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
 #include "fenster/Anwendung.h"
@@ -24,10 +25,22 @@ struct Bereich {
     Single Schritt; // of its spin button
 };
 
+/// Any number, however large; failure 13 if it is none.
+bool IstAußerhalb(const Text &text, const Bereich &bereich)
+{
+    try {
+        const Single wert = SingleLesen(text);
+        return wert < bereich.Von || wert > bereich.Bis;
+    } catch (const Laufzeitfehler &fehler) {
+        if (fehler.Nummer() != Laufzeitfehler::Überlauf)
+            throw;
+        return true;
+    }
+}
+
 void Begrenzen(QLineEdit *feld, const Bereich &bereich)
 {
-    const Single wert = SingleLesen(TextVon(feld)); // any number, however large
-    if (wert < bereich.Von || wert > bereich.Bis)
+    if (IstAußerhalb(TextVon(feld), bereich))
         Setzen(feld, ZahlText(bereich.Sonst()));
 }
 

@@ -66,6 +66,26 @@ TEST_F(SkalierungFormTest, ZeigtDieFelder)
         EXPECT_EQ(Steht(box), text) << box;
 }
 
+TEST_F(SkalierungFormTest, SchonBeimÖffnenFälltWasAußerhalbLiegtAufDieVorgabe)
+{
+    SchließtMit([&] { form->close(); });
+    Konfig.XSkala = 49;
+    Konfig.YSkala = 61;
+    Konfig.Skal1 = 40;
+    Konfig.Skal2 = 50;
+    Konfig.Skal4 = 5;
+    Konfig.Skal5 = 20000;
+    Öffnen<SkalierungForm>();
+    EXPECT_EQ(Steht("XSKALA"), "56,6857");
+    EXPECT_EQ(Konfig.XSkala, 56.6857F);
+    EXPECT_EQ(Steht("YSKALA"), "56,6857");
+    EXPECT_EQ(Konfig.YSkala, 56.6857F);
+    EXPECT_EQ(Steht("MGS"), "102");
+    EXPECT_EQ(Konfig.Skal4, 102);
+    EXPECT_EQ(Steht("MJS"), "90"); // 40 + 50
+    EXPECT_EQ(Konfig.Skal5, 90);
+}
+
 TEST_F(SkalierungFormTest, BeschriftungenUndRahmen)
 {
     std::vector<Text> rahmen;
@@ -105,7 +125,7 @@ TEST_F(SkalierungFormTest, AußerhalbGiltDieVorgabeNichtDasNächsteEnde)
         }
         Konfig.Skal1 = 100;
         Konfig.Skal2 = 200;
-        for (const char *außen : {"9", "10001", "0", "-5", "99999", "1E30"}) {
+        for (const char *außen : {"9", "10001", "0", "-5", "99999", "1E30", "1E39", "-1E39"}) {
             EXPECT_EQ(Setze(g.Box, außen), std::to_string(g.Vorgabe)) << g.Box << außen;
             EXPECT_EQ(Konfig.*g.Feld, g.Vorgabe) << g.Box;
             Konfig.Skal1 = 100;
@@ -143,6 +163,7 @@ TEST_F(SkalierungFormTest, SkalenAnIhrenEnden)
                                                                  {"49,9999", "49,9999", 49.9999F},
                                                                  {"49,9998", "56,6857", 56.6857F},
                                                                  {"50", "50", 50.0F},
+                                                                 {"1E39", "56,6857", 56.6857F},
                                                                  {"6", "56,6857", 56.6857F}}) {
             EXPECT_EQ(Setze(box, getippt), danach) << box << getippt;
             EXPECT_EQ(Konfig.*feld, wert) << box << getippt;
@@ -178,12 +199,15 @@ TEST_F(SkalierungFormTest, DrehenGehtUmEinsUndGibtDerBoxDenFokus)
 
 TEST_F(SkalierungFormTest, DrehenÜberDasEndeFälltAufDieVorgabe)
 {
-    Setze("MS", "10000");
-    Drehen("MSS", "auf");
-    EXPECT_EQ(Steht("MS"), "602");
-    Setze("MGS", "10");
-    Drehen("MGSS", "ab");
-    EXPECT_EQ(Steht("MGS"), "102");
+    for (const Größe &g : Größen)
+        for (const auto &[ende, richtung] : {std::pair("10000", "auf"), {"10", "ab"}}) {
+            Setze(g.Box, ende);
+            Drehen(g.Spin, richtung);
+            EXPECT_EQ(Steht(g.Box), std::to_string(g.Vorgabe)) << g.Box << richtung;
+            EXPECT_EQ(Konfig.*g.Feld, g.Vorgabe) << g.Box << richtung;
+            Konfig.Skal1 = 100;
+            Konfig.Skal2 = 200;
+        }
 }
 
 TEST_F(SkalierungFormTest, SkalenDrehenUmEinZehntausendstel)
@@ -196,17 +220,21 @@ TEST_F(SkalierungFormTest, SkalenDrehenUmEinZehntausendstel)
         Drehen(spin, "ab");
         Drehen(spin, "ab");
         EXPECT_EQ(Steht(box), "56,6856");
-        Setze(box, "60,0001");
-        Drehen(spin, "auf");
-        EXPECT_EQ(Steht(box), "56,6857");
+        for (const auto &[ende, richtung] : {std::pair("60,0001", "auf"), {"49,9999", "ab"}}) {
+            Setze(box, ende);
+            Drehen(spin, richtung);
+            EXPECT_EQ(Steht(box), "56,6857") << box << richtung;
+        }
     }
     EXPECT_EQ(Konfig.XSkala, 56.6857F);
+    EXPECT_EQ(Konfig.YSkala, 56.6857F);
 }
 
 TEST_F(SkalierungFormTest, Ordnung)
 {
     EXPECT_EQ(form->objectName(), "Skalierung");
     EXPECT_EQ(form->windowTitle(), "Skalierung");
+    EXPECT_EQ(Aufschrift(Finden(form, "Ende")), "Ende");
     IstOrdentlich({"XSKALA", "XX", "YSKALA", "YY", "MDS", "MDSS", "MHS", "MHSS", "MS", "MSS", "MGS",
                    "MGSS", "MJS", "MJSS", "MVS", "MVSS", "Ende"});
     Box("MVS")->setText("777");
