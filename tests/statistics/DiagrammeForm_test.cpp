@@ -254,6 +254,8 @@ TEST_F(DiagrammeFormTest, Ordnung)
 {
     ÖffnenMitStatistik();
     EXPECT_EQ(form->windowTitle(), "Diagramm");
+    EXPECT_EQ(Aufschrift(Finden(form, "OKButton")), "OK");
+    EXPECT_EQ(Aufschrift(Finden(form, "CancelButton")), "Abbrechen");
     IstOrdentlich({"Atlert", "Druck", "OKButton", "CancelButton"});
     Drücken("OKButton");
     EXPECT_TRUE(statistik->isVisible());

@@ -3,6 +3,8 @@
 
 #include "printing/Druckstand.h"
 
+#include <functional>
+
 namespace altardienst {
 namespace {
 
@@ -59,6 +61,21 @@ TEST_F(DienstlistenTest, Helfer)
     ablauf.Zeile("Lea Lang , Lektor: 1 , Kommunion: 20 , Kantor: 0 , Kollek.: 3 ");
     Schluß(ablauf, {});
     EXPECT_EQ(Papier.Zeilen, ablauf.Zeilen);
+}
+
+TEST_F(DienstlistenTest, BeideDruckenInDerGewähltenAusrichtung)
+{
+    Meßdienerzählung diener;
+    Helferzählung helfer;
+    for (const int ausrichtung : {1, 2}) {
+        Konfig.DiffJahr = ausrichtung;
+        for (const auto &drucken : std::vector<std::function<void()>>{
+                 [&] { MeßdienerdiensteDrucken(diener); }, [&] { HelferdiensteDrucken(helfer); }}) {
+            Papier.Leeren();
+            drucken();
+            EXPECT_EQ(Papier.Zeilen.at(1), "Orientation " + std::to_string(ausrichtung));
+        }
+    }
 }
 
 TEST_F(DienstlistenTest, NachDemSeitenwechselKommtDerKopfWieder)

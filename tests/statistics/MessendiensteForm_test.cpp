@@ -11,18 +11,20 @@ class MessendiensteFormTest : public Statistikstand {
   protected:
     static int NeueMesse() { return MesseMitDienern(DatumAus({2026, 11, 22}), 5); }
 
-    /// Two masses with 3 + 11 services, four servers.
+    /// Two masses with 7 + 14 services, no two kinds alike, four servers.
     static void Meßdienerplan()
     {
         int i = NeueMesse();
-        Messe.Gabenbereitung[i] = 2;
+        Messe.Gabenbereitung[i] = 4;
         Messe.Leuchter[i] = 1;
+        Messe.Allgemein[i] = 2;
         i = NeueMesse();
         Messe.Gabenbereitung[i] = 2;
         Messe.Leuchter[i] = 2;
         Messe.Flambeau[i] = 4;
         Messe.Weihrauch[i] = 2;
         Messe.Kreuzträger[i] = 1;
+        Messe.Allgemein[i] = 3;
         for (int k = 0; k < 4; ++k)
             MeßdienerAnlegen("Anna", "Berg");
     }
@@ -48,16 +50,15 @@ TEST_F(MessendiensteFormTest, Meßdiener)
     Öffnen<StatMeßdienstForm>();
     EXPECT_EQ(Kopf("MGges"), "Insgesamt");
     EXPECT_EQ(Kopf("MGMes"), "pro Messe");
-    EXPECT_EQ(ZeileBis("MGMes"), "Gabenbereitung|4|2,000");
+    EXPECT_EQ(ZeileBis("MGMes"), "Gabenbereitung|6|3,000");
     EXPECT_EQ(ZeileBis("MLMes"), "Leuchter|3|1,500");
     EXPECT_EQ(ZeileBis("MFMes"), "Flambeau|4|2,000");
     EXPECT_EQ(ZeileBis("MWMes"), "Weihrauch|2|1,000");
     EXPECT_EQ(ZeileBis("MKMes"), "Kreuzträger|1|0,500");
-    EXPECT_EQ(ZeileBis("MAMes"), "Allgemein|0|0,000");
-    EXPECT_EQ(ZeileBis("MAges"), "Allgemein|0");
-    EXPECT_EQ(ZeileBis("DMges"), "Dienste Meßdiener gesamt|014,0"); // three places at least
-    EXPECT_EQ(ZeileBis("DMm"), "Dienste je Messe|7,000");           // 14 / 2
-    EXPECT_EQ(ZeileBis("DjM"), "Dienste je Meßdiener|3,500");       // 14 / 4
+    EXPECT_EQ(ZeileBis("MAMes"), "Allgemein|5|2,500");
+    EXPECT_EQ(ZeileBis("DMges"), "Dienste Meßdiener gesamt|021,0"); // three places at least
+    EXPECT_EQ(ZeileBis("DMm"), "Dienste je Messe|10,500");          // 21 / 2
+    EXPECT_EQ(ZeileBis("DjM"), "Dienste je Meßdiener|5,250");       // 21 / 4
     EXPECT_EQ(form->findChild<QGroupBox *>()->title(), "Meßdienerdienste");
     EXPECT_EQ(Köpfe(), (std::vector<Text>{"Messendienst", "Insgesamt", "pro Messe"}));
 }

@@ -15,6 +15,18 @@ class Statistik2FormTest : public Statistikstand {
         for (const int größe : {95, 101, 150, 151, 160, 220, 221, 230})
             MeßdienerAnlegen("Anna", "Berg", größe);
     }
+
+    /// The chart of a window of charts.
+    static QCustomPlot *Bild(const QWidget *diagramm)
+    {
+        return dynamic_cast<QCustomPlot *>(Finden(diagramm, "MSChart1")->children().back());
+    }
+    static QStringList Klassen(const QCustomPlot *bild)
+    {
+        return qSharedPointerDynamicCast<QCPAxisTickerText>(bild->xAxis->ticker())
+            ->ticks()
+            .values();
+    }
 };
 
 TEST_F(Statistik2FormTest, Tafel)
@@ -79,14 +91,13 @@ TEST_F(Statistik2FormTest, DasDiagrammZeigtDieTafel)
     EXPECT_FALSE(form->isVisible());
     QWidget *diagramm = Fenster("Diagramm2");
     EXPECT_EQ(diagramm->windowTitle(), "Diagramm");
-    auto *bild = dynamic_cast<QCustomPlot *>(Finden(diagramm, "MSChart1")->children().back());
+    auto *bild = Bild(diagramm);
     ASSERT_TRUE(bild);
     EXPECT_EQ(dynamic_cast<QCPTextElement *>(bild->plotLayout()->element(0, 0))->text(),
               "Größe der Meßdiener");
     const auto *balken = dynamic_cast<QCPBars *>(bild->plottable(0));
     ASSERT_EQ(balken->dataCount(), 13);
-    const auto klassen =
-        qSharedPointerDynamicCast<QCPAxisTickerText>(bild->xAxis->ticker())->ticks().values();
+    const auto klassen = Klassen(bild);
     ASSERT_EQ(klassen.size(), 13);
     for (int k = 0; k < 13; ++k) {
         const Text nummer = std::to_string(k);
@@ -97,12 +108,27 @@ TEST_F(Statistik2FormTest, DasDiagrammZeigtDieTafel)
     EXPECT_EQ(bild->yAxis->label(), "Anzahl Meßdiener");
 }
 
+/// They come from the window, not from the tables.
+TEST_F(Statistik2FormTest, DasDiagrammNimmtWasImFensterSteht)
+{
+    auto *statistik = Öffnen<Statistik2Form>();
+    statistik->b[3]->setText("17");
+    statistik->a[3]->setText("x");
+    Drücken("Diagramm");
+    auto *bild = Bild(Fenster("Diagramm2"));
+    ASSERT_TRUE(bild);
+    EXPECT_EQ(dynamic_cast<QCPBars *>(bild->plottable(0))->dataMainValue(3), 17);
+    EXPECT_EQ(Klassen(bild)[3], "x cm ");
+}
+
 TEST_F(Statistik2FormTest, VomDiagrammZurück)
 {
     Öffnen<Statistik2Form>();
     for (const char *knopf : {"OKButton", "CancelButton", ""}) {
         Drücken("Diagramm");
         QWidget *diagramm = Fenster("Diagramm2");
+        EXPECT_EQ(Aufschrift(Finden(diagramm, "OKButton")), "OK");
+        EXPECT_EQ(Aufschrift(Finden(diagramm, "CancelButton")), "Abbrechen");
         if (*knopf)
             Klick(Finden(diagramm, knopf));
         else
@@ -134,6 +160,7 @@ TEST_F(Statistik2FormTest, Ordnung)
     Öffnen<Statistik2Form>();
     EXPECT_EQ(form->objectName(), "Statistik2");
     EXPECT_EQ(form->windowTitle(), "Statistik (Meßdienergröße)");
+    EXPECT_EQ(Aufschrift(Finden(form, "Ende")), "Ende");
     IstOrdentlich({"Ende", "Diagramm", "Druck"});
     SchließtMit([&] { Drücken("Ende"); });
     Öffnen<Statistik2Form>();

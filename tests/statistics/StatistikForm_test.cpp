@@ -176,6 +176,7 @@ TEST_F(StatistikFormTest, Ordnung)
     Öffnen<StatistikForm>();
     EXPECT_EQ(form->objectName(), "Statistik");
     EXPECT_EQ(form->windowTitle(), "Statistik");
+    EXPECT_EQ(Aufschrift(Finden(form, "Ende")), "Ende");
     IstOrdentlich({"Ende", "Diagramm", "Druck"});
     SchließtMit([&] { Drücken("Ende"); });
     Öffnen<StatistikForm>();
