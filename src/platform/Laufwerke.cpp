@@ -110,10 +110,11 @@ void Kopieren(const fs::path &von, const fs::path &nach)
 {
     std::error_code fehler;
     fs::path ziel = nach;
+    std::optional<fs::perms> rechte;
     if (fs::exists(nach, fehler)) {
         ziel = fs::canonical(nach, fehler); // behind a link, so that the link stays one
-        const bool schreibbar =
-            (fs::status(ziel, fehler).permissions() & fs::perms::owner_write) != fs::perms::none;
+        rechte = fs::status(ziel, fehler).permissions();
+        const bool schreibbar = (*rechte & fs::perms::owner_write) != fs::perms::none;
         if (fs::equivalent(von, ziel, fehler) || !schreibbar)
             throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
     }
@@ -122,6 +123,8 @@ void Kopieren(const fs::path &von, const fs::path &nach)
     const std::string inhalt = Lesen(von);
     try {
         Ausgeben(daneben, "wb", inhalt, true);
+        if (rechte) // who may read the file stays; a medium that knows no rights keeps none
+            fs::permissions(daneben, *rechte, fehler);
         fs::rename(daneben, ziel, fehler);
         if (fehler)
             Gescheitert(fehler.value(), Laufzeitfehler::PfadNichtGefunden);

@@ -250,6 +250,17 @@ TEST_F(DateikopieTest, AufSichSelbstZerstörtNichts)
     EXPECT_EQ(InhaltVon(Festplatte).size(), 8U);
 }
 
+TEST_F(DateikopieTest, EineVorhandeneDateiBehältIhreRechte)
+{
+    for (const auto rechte : {fs::perms(0600), fs::perms(0664)}) {
+        DateiSchreiben(Diskette / "konfig.cfg", "alt");
+        fs::permissions(Diskette / "konfig.cfg", rechte);
+        DateiKopieren(Kopierdateien[0], Festplatte, Diskette);
+        EXPECT_TRUE(DateiLesen(Diskette / "konfig.cfg") == Inhalt("Konfig.cfg"));
+        EXPECT_EQ(fs::status(Diskette / "konfig.cfg").permissions(), rechte);
+    }
+}
+
 TEST_F(DateikopieTest, EinVerweisBleibtEiner)
 {
     DateiSchreiben(Diskette / "wirklich.cfg", "alt");
