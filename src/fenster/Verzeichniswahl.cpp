@@ -15,6 +15,13 @@ void Hinzufügen(QListWidget *liste, const Text &name)
     eintrag->setData(Qt::UserRole, QByteArray::fromStdString(name));
 }
 
+std::filesystem::path OhneTrenner(const std::filesystem::path &verzeichnis)
+{
+    return verzeichnis.has_filename() || verzeichnis == verzeichnis.root_path()
+               ? verzeichnis
+               : verzeichnis.parent_path();
+}
+
 } // namespace
 
 Verzeichniswahl::Verzeichniswahl(const char *laufwerkName, const char *verzeichnisName,
@@ -30,9 +37,8 @@ Verzeichniswahl::Verzeichniswahl(const char *laufwerkName, const char *verzeichn
         liste->setUniformItemSizes(true); // thousands of entries are laid out at once
     for (const Wurzel &wurzel : Laufwerke.Wurzeln())
         Laufwerk->addItem(Anzeige(wurzel.Name), Anzeige(TextVon(wurzel.Pfad)));
-    // A drive that cannot be read leaves the lists as they are.
     QObject::connect(Laufwerk, &QComboBox::activated, Laufwerk,
-                     Abgefangen([this] { LaufwerkÖffnen(); }));
+                     Abgefangen([this] { LaufwerkGewählt(); }));
     QObject::connect(
         Verzeichnis, &QListWidget::itemActivated, Verzeichnis,
         [this](QListWidgetItem *eintrag) { Abgefangen([&] { EintragÖffnen(eintrag); })(); });
@@ -49,14 +55,26 @@ void Verzeichniswahl::EintragÖffnen(const QListWidgetItem *eintrag)
     Öffnen(name == ".." ? pfad.parent_path() : pfad / PfadAus(name));
 }
 
+void Verzeichniswahl::LaufwerkGewählt()
+{
+    try {
+        LaufwerkÖffnen();
+    } catch (const Laufzeitfehler &) {
+        Laufwerk->setCurrentIndex(offenesLaufwerk); // what the lists show
+        BeiUnlesbaremLaufwerk();
+    }
+}
+
 void Verzeichniswahl::LaufwerkÖffnen()
 {
+    const int gewählt = Laufwerk->currentIndex();
     Öffnen(PfadAus(Laufwerk->currentData().toString().toStdString()));
+    offenesLaufwerk = gewählt;
 }
 
 void Verzeichniswahl::Öffnen(const std::filesystem::path &neu)
 {
-    Füllen(neu.has_filename() || neu == neu.root_path() ? neu : neu.parent_path());
+    Füllen(OhneTrenner(neu));
     BeiWechsel();
 }
 
@@ -66,6 +84,15 @@ void Verzeichniswahl::Beginnen()
         Laufwerk->setCurrentIndex(i);
         Abgefangen([this] { LaufwerkÖffnen(); })();
     }
+}
+
+void Verzeichniswahl::Anlegen(const Text &name) const
+{
+    if (pfad.empty()) // else it would come to be wherever the program was started
+        throw Laufzeitfehler(Laufzeitfehler::PfadNichtGefunden);
+    const auto neu = OhneTrenner(PfadAus(OrdnerText(pfad) + name));
+    Laufwerke.Auflisten(neu.parent_path()); // fails if it is gone, as with a stick pulled out
+    Laufwerke.VerzeichnisAnlegen(neu);
 }
 
 void Verzeichniswahl::Auffrischen()

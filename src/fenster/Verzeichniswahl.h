@@ -12,7 +12,8 @@
 namespace altardienst {
 
 /// The three lists of a dialog, which lays them out itself. The file list follows the directory
-/// list. Choosing a drive goes to its root; a double click or Enter on a directory opens it.
+/// list. Choosing a drive goes to its root; one that cannot be read leaves the lists, and the drive
+/// that was chosen before. A double click or Enter on a directory opens it.
 class Verzeichniswahl {
   public:
     /// The names of the three controls; a dialog without one of the lists still has the control but
@@ -35,21 +36,31 @@ class Verzeichniswahl {
     /// Opens the first drive that can be read; if none can, the lists stay empty.
     void Beginnen();
 
+    /// Makes a directory in the one that is open, without showing it: one level alone, so a name
+    /// with separators needs what it names before its last one. May exist. Failure 75 or 76, also
+    /// where no directory is open or the open one is gone.
+    void Anlegen(const Text &name) const;
+
     /// Reads the directory again, without `BeiWechsel`.
     void Auffrischen();
 
     /// Runs after each change of the directory.
     std::function<void()> BeiWechsel = [] {};
 
+    /// Runs after the choice of a drive that cannot be read.
+    std::function<void()> BeiUnlesbaremLaufwerk = [] {};
+
     /// The name of a file in the list, also where the screen cannot show it.
     static Text Name(const QListWidgetItem *eintrag);
 
   private:
+    void LaufwerkGewählt();
     void LaufwerkÖffnen();
     void EintragÖffnen(const QListWidgetItem *eintrag);
     void Füllen(const std::filesystem::path &neu);
 
     std::filesystem::path pfad;
+    int offenesLaufwerk = 0;
 };
 
 } // namespace altardienst

@@ -80,7 +80,9 @@ void DialogForm::Verbinden()
     connect(Wahl.Dateien, &QListWidget::itemClicked, this, bilden);
     connect(Anhang, &QRadioButton::clicked, this, bilden);
     Wahl.BeiWechsel = bilden;
-    connect(Verzeichnis, &QPushButton::clicked, this, Offen([this] { VerzeichnisErstellen(); }));
+    auto erstellen = Offen([this] { VerzeichnisErstellen(); });
+    connect(Verzeichnis, &QPushButton::clicked, this, erstellen);
+    BeiEingabetaste(VZ, erstellen);
     connect(OKButton, &QPushButton::clicked, this, [this] { Schreiben(); });
     connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
 }
@@ -99,7 +101,7 @@ void DialogForm::VerzeichnisErstellen()
     const Text name = TextVon(VZ);
     if (name.empty())
         return;
-    Laufwerke.VerzeichnisAnlegen(Wahl.Pfad() / PfadAus(name));
+    Wahl.Anlegen(name);
     Wahl.Auffrischen();
 }
 

@@ -141,9 +141,14 @@ void KopierForm::Verbinden()
     for (QRadioButton *option : {Alle, Einzel})
         connect(option, &QRadioButton::toggled, this, [this] { UmfangGewählt(); });
     Wahl.BeiWechsel = [this] { VerzeichnisGewechselt(); };
-    if (VZ)
-        connect(Verzeichnis, &QPushButton::clicked, this,
-                Abgefangen([this] { VerzeichnisErstellen(); }));
+    // The present directory is looked at again: a stick may have been changed.
+    Wahl.BeiUnlesbaremLaufwerk =
+        Schrittweise([this] { Wahl.Auffrischen(); }, [this] { VerzeichnisGewechselt(); });
+    if (VZ) {
+        auto erstellen = Abgefangen([this] { VerzeichnisErstellen(); });
+        connect(Verzeichnis, &QPushButton::clicked, this, erstellen);
+        BeiEingabetaste(VZ, erstellen);
+    }
     connect(OKButton, &QPushButton::clicked, this, Offen([this] { Kopieren(); }));
     connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
 }
@@ -158,7 +163,7 @@ void KopierForm::UmfangGewählt()
 void KopierForm::VerzeichnisGewechselt()
 {
     Setzen(Datei, OrdnerText(Wahl.Pfad()));
-    OKButton->setVisible(AlleDateienVorhanden(Quelle()));
+    OKButton->setVisible(!Wahl.Pfad().empty() && AlleDateienVorhanden(Quelle()));
 }
 
 /// The new directory is shown but not entered; one that cannot be made is passed over.
@@ -167,8 +172,7 @@ void KopierForm::VerzeichnisErstellen()
     const Text name = TextVon(VZ);
     if (name.empty())
         return;
-    Schrittweise([&] { Laufwerke.VerzeichnisAnlegen(PfadAus(OrdnerText(Wahl.Pfad()) + name)); },
-                 [&] { Wahl.Auffrischen(); })();
+    Schrittweise([&] { Wahl.Anlegen(name); }, [&] { Wahl.Auffrischen(); })();
 }
 
 std::filesystem::path KopierForm::Quelle() const

@@ -127,16 +127,67 @@ TEST_F(VerzeichniswahlTest, EinLaufwerkFührtZuSeinerWurzel)
     EXPECT_EQ(wechsel, 1);
 }
 
-TEST_F(VerzeichniswahlTest, EinUnlesbaresLaufwerkLässtDieListenStehen)
+TEST_F(VerzeichniswahlTest, EinUnlesbaresLaufwerkLässtDieListenStehenUndWirdGemeldet)
 {
     Verzeichniswahl &w = Öffnen();
+    int unlesbar = 0;
+    w.BeiUnlesbaremLaufwerk = [&] { ++unlesbar; };
     fs::remove_all(Diskette);
+    DateiSchreiben(Festplatte / "später.txt", "");
     NächstesLaufwerk();
+    EXPECT_EQ(unlesbar, 1);
     EXPECT_EQ(w.Pfad(), Festplatte);
+    EXPECT_EQ(w.Laufwerk->currentText(), "Festplatte") << "the drive that the lists show";
     EXPECT_EQ(Zeilen(w.Verzeichnis), (Liste{"..", "Bilder", "Texte"}));
     EXPECT_EQ(Zeilen(w.Dateien), (Liste{"b.txt", "Äpfel.txt"}));
     EXPECT_EQ(wechsel, 0);
     EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(VerzeichniswahlTest, NachEinemLesbarenLaufwerkKehrtDieAuswahlZuDiesemZurück)
+{
+    Laufwerke.Wurzeln = [this] {
+        return std::vector<Wurzel>{
+            {"Festplatte", Festplatte}, {"Diskette", Diskette}, {"weg", Festplatte / "weg"}};
+    };
+    Verzeichniswahl &w = Öffnen();
+    NächstesLaufwerk();
+    NächstesLaufwerk();
+    EXPECT_EQ(w.Laufwerk->currentText(), "Diskette");
+    EXPECT_EQ(w.Pfad(), Diskette);
+    EXPECT_EQ(wechsel, 1);
+}
+
+TEST_F(VerzeichniswahlTest, AnlegenMachtEinVerzeichnisAberKeineKette)
+{
+    Verzeichniswahl &w = Öffnen();
+    w.Anlegen("neu");
+    EXPECT_TRUE(fs::is_directory(Festplatte / "neu"));
+    EXPECT_EQ(w.Pfad(), Festplatte) << "it is not entered";
+    EXPECT_EQ(NummerDesFehlers([&] { w.Anlegen("a/b"); }), 76);
+    EXPECT_FALSE(fs::exists(Festplatte / "a"));
+    w.Anlegen("Texte/b/");
+    EXPECT_TRUE(fs::is_directory(Festplatte / "Texte" / "b"));
+    w.Anlegen("/c");
+    EXPECT_TRUE(fs::is_directory(Festplatte / "c")) << "below the open one, whatever is typed";
+    EXPECT_NE(NummerDesFehlers([&] { w.Anlegen("b.txt"); }), 0);
+    EXPECT_EQ(wechsel, 0);
+}
+
+TEST_F(VerzeichniswahlTest,
+       AnlegenMachtWederEinVerschwundenesVerzeichnisNochEinesImArbeitsverzeichnis)
+{
+    Verzeichniswahl &w = Öffnen();
+    w.Öffnen(Festplatte / "Texte");
+    fs::remove_all(Festplatte / "Texte");
+    EXPECT_EQ(NummerDesFehlers([&] { w.Anlegen("neu"); }), 76);
+    EXPECT_FALSE(fs::exists(Festplatte / "Texte"));
+    Verzeichniswahl ohne("a", "b", "c");
+    EXPECT_EQ(NummerDesFehlers([&] { ohne.Anlegen("ohne Laufwerk"); }), 76);
+    EXPECT_FALSE(fs::exists("ohne Laufwerk"));
+    for (QWidget *liste :
+         std::initializer_list<QWidget *>{ohne.Laufwerk, ohne.Verzeichnis, ohne.Dateien})
+        delete liste;
 }
 
 TEST_F(VerzeichniswahlTest, EinVerschwundenesVerzeichnisLässtDieListenStehen)

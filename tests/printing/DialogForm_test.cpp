@@ -149,11 +149,16 @@ TEST_F(DialogFormTest, DasZielFolgtDemLaufwerk)
 TEST_F(DialogFormTest, EinUnlesbaresLaufwerkLässtZielUndListenStehen)
 {
     Öffnen();
+    Tippen(form->Dateiname, "plan");
+    Klick(form->Überschreib);
     fs::remove_all(Diskette);
+    DateiSchreiben(Festplatte / "später.txt", "");
     FokusAuf(form->Wahl.Laufwerk);
     QTest::keyClick(form->Wahl.Laufwerk, Qt::Key_Down);
-    EXPECT_EQ(Ziel(), Pfad(Festplatte / "Datei.txt"));
+    EXPECT_EQ(Ziel(), Pfad(Festplatte / "plan.txt"));
+    EXPECT_TRUE(WählerStehtAuf("Überschreib")) << "nothing is formed anew";
     EXPECT_EQ(Zeilen(form->Wahl.Dateien), Liste{"plan.txt"});
+    EXPECT_EQ(form->Wahl.Laufwerk->currentText(), "Festplatte");
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
@@ -233,7 +238,20 @@ TEST_F(DialogFormTest, EinVerzeichnisDasNichtGehtWirdGemeldet)
     Tippen(form->VZ, "plan.txt");
     Klick(form->Verzeichnis);
     EXPECT_EQ(GezeigteMeldungen.size(), 1U);
+    Tippen(form->VZ, "a/b");
+    Klick(form->Verzeichnis);
+    EXPECT_EQ(GezeigteMeldungen.size(), 2U);
+    EXPECT_FALSE(fs::exists(Festplatte / "a")) << "one level, not a chain";
     EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(DialogFormTest, DieEingabetasteErstelltAuchEinVerzeichnis)
+{
+    Öffnen();
+    Tippen(form->VZ, "neu");
+    QTest::keyClick(form->VZ, Qt::Key_Return);
+    EXPECT_EQ(Zeilen(form->Wahl.Verzeichnis), (Liste{"..", "neu", "texte"}));
+    EXPECT_FALSE(fs::exists(Festplatte / "Datei.txt")) << "the plan is not written";
 }
 
 TEST_F(DialogFormTest, OkSchreibtEineNeueDateiUndKehrtZurück)

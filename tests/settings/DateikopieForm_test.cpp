@@ -113,6 +113,31 @@ TEST_F(DateikopieFormTest, EineQuelleOhneEineDateiIstKeineAuchNichtFürEineAnder
     }
 }
 
+TEST_F(DateikopieFormTest, EinUnlesbaresLaufwerkPrüftDasBisherigeVerzeichnisNeu)
+{
+    Laufwerke.Wurzeln = [this] {
+        return std::vector<Wurzel>{
+            {"Platte", laufwerk}, {"Diskette", Diskette}, {"weg", laufwerk / "weg"}};
+    };
+    Öffnen();
+    NächstesLaufwerk();
+    ASSERT_TRUE(ZeigtOK());
+    NächstesLaufwerk();
+    EXPECT_TRUE(ZeigtOK());
+    fs::remove(Diskette / "Helfer.dat");
+    NächstesLaufwerk();
+    EXPECT_FALSE(ZeigtOK());
+    EXPECT_EQ(form->Wahl.Dateien->count(), 7);
+    EXPECT_TRUE(form->Wahl.Dateien->findItems("Helfer.dat", Qt::MatchExactly).isEmpty());
+    EXPECT_EQ(Datei(), TextVon(Diskette) + "/");
+    EXPECT_EQ(form->Wahl.Laufwerk->currentText(), "Diskette");
+    fs::remove_all(Diskette); // now the present directory cannot be read either
+    NächstesLaufwerk();
+    EXPECT_FALSE(ZeigtOK());
+    EXPECT_EQ(form->Wahl.Dateien->count(), 7);
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
 TEST_F(DateikopieFormTest, VerschwindetEineDateiNachDerPrüfungBleibenDieDesProgramms)
 {
     Öffnen();

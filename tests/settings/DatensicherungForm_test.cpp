@@ -110,18 +110,25 @@ TEST_F(DatensicherungFormTest, EinUnlesbaresLaufwerkLässtAllesStehen)
     fs::remove_all(Diskette);
     NächstesLaufwerk();
     EXPECT_EQ(Datei(), TextVon(laufwerk) + "/");
+    EXPECT_EQ(form->Wahl.Laufwerk->currentText(), "Platte");
     EXPECT_TRUE(ZeigtOK());
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
 TEST_F(DatensicherungFormTest, OhneLesbaresLaufwerkGibtEsKeinOK)
 {
-    Laufwerke.Wurzeln = [this] { return std::vector<Wurzel>{{"weg", laufwerk / "weg"}}; };
+    Laufwerke.Wurzeln = [this] {
+        return std::vector<Wurzel>{{"weg", laufwerk / "weg"}, {"auch weg", laufwerk / "weg"}};
+    };
     Öffnen();
     EXPECT_FALSE(ZeigtOK());
     EXPECT_EQ(Datei(), "");
-    Tippen(form->VZ, "neu");
+    Tippen(form->VZ, "ohne Laufwerk");
     Klick(form->Verzeichnis);
+    EXPECT_FALSE(fs::exists("ohne Laufwerk")) << "where the program was started";
+    FokusAuf(form->Wahl.Laufwerk);
+    QTest::keyClick(form->Wahl.Laufwerk, Qt::Key_Up);
+    EXPECT_FALSE(ZeigtOK()) << "there is still nowhere to copy to";
     EXPECT_TRUE(GezeigteMeldungen.empty());
     Klick(form->CancelButton);
     EXPECT_TRUE(Warten([&] { return ZurückImHauptfenster(); }));
@@ -158,6 +165,15 @@ TEST_F(DatensicherungFormTest, AlleAchtEntstehenInKleinbuchstabenUndDasHauptfens
     for (const auto &[name, klein] : AchtNamen)
         EXPECT_EQ(DateiLesen(Diskette / PfadAus(klein)), "neu " + Text(name));
     EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(DatensicherungFormTest, SichernLädtNichts)
+{
+    Konfig.Gemeinde = "im Speicher";
+    Sichern();
+    ASSERT_EQ(DateienIn(Diskette).size(), 8U);
+    EXPECT_EQ(Konfig.Gemeinde, "im Speicher");
+    EXPECT_EQ(NachKopie, 0);
 }
 
 TEST_F(DatensicherungFormTest, JedeOptionSichertIhreDateiAllein)
@@ -297,6 +313,17 @@ TEST_F(DatensicherungFormTest, VerzeichnisErstellenLegtAnUndBetrittNicht)
     EXPECT_EQ(Datei(), TextVon(Diskette) + "/");
 }
 
+TEST_F(DatensicherungFormTest, DieEingabetasteErstelltAuch)
+{
+    Öffnen();
+    NächstesLaufwerk();
+    Tippen(form->VZ, "Größen");
+    QTest::keyClick(form->VZ, Qt::Key_Return);
+    EXPECT_TRUE(fs::is_directory(Diskette / PfadAus("Größen")));
+    EXPECT_EQ(form->Wahl.Verzeichnis->count(), 2);
+    EXPECT_TRUE(form->isVisible());
+}
+
 TEST_F(DatensicherungFormTest, EinVerzeichnisDasNichtGehtWirdÜbergangen)
 {
     DateiSchreiben(Diskette / "im Weg", "x");
@@ -307,12 +334,14 @@ TEST_F(DatensicherungFormTest, EinVerzeichnisDasNichtGehtWirdÜbergangen)
     Klick(form->Verzeichnis);
     EXPECT_TRUE(GezeigteMeldungen.empty());
     EXPECT_EQ(form->Wahl.Dateien->count(), 2) << "the lists are read anew nevertheless";
-    Tippen(form->VZ, "/tmp");
+    Tippen(form->VZ, "a/b");
     Klick(form->Verzeichnis);
+    EXPECT_FALSE(fs::exists(Diskette / "a")) << "one level, not a chain";
     EXPECT_EQ(DateiLesen(Diskette / "im Weg"), "x");
     fs::remove_all(Diskette);
-    Tippen(form->VZ, "im Weg/x");
+    Tippen(form->VZ, "neu");
     Klick(form->Verzeichnis);
+    EXPECT_FALSE(fs::exists(Diskette)) << "a stick pulled out does not come back as a directory";
     EXPECT_TRUE(GezeigteMeldungen.empty());
     EXPECT_TRUE(form->isVisible());
 }
