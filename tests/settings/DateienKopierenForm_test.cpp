@@ -193,6 +193,54 @@ TEST_F(DateienKopierenFormTest, DasLadenImMenüFührtAuchHierherUndZurückInsHau
     EXPECT_EQ(Fenster("Haupt"), fenster);
 }
 
+TEST_F(DateienKopierenFormTest, EinWeiteresLadenVerstecktDenWiedergekehrtenStart)
+{
+    Starten();
+    VonDisketteKopieren();
+    Klick(Finden(Fenster("Start"), "Starten"));
+    auto *laden = Finden<QAction>(Fenster("Haupt"), "mnuDatenladen");
+    fs::remove(Festplatte / "helfer.dat");
+    laden->trigger();
+    Nehmen();
+    Klick(form->CancelButton);
+    ASSERT_TRUE(IstOffen("Start"));
+    laden->trigger();
+    EXPECT_FALSE(IstOffen("Start"));
+    EXPECT_TRUE(IstOffen("DateienKopieren"));
+    EXPECT_TRUE(Warten([&] { return !form && Anzahl("DateienKopieren") == 1; }));
+    laden->trigger();
+    EXPECT_EQ(Anzahl("DateienKopieren"), 1) << "the one that is open";
+    EXPECT_FALSE(IstOffen("Start"));
+}
+
+TEST_F(DateienKopierenFormTest, EinzelErgänztDieFehlendeUndLässtSiebenGuteStehen)
+{
+    constexpr std::size_t Fehlende = 3;
+    Konfig.Tage = 42;
+    Konfig.Gemeinde = "die gute";
+    AufFestplatteSpeichern();
+    TabellenLeeren();
+    fs::remove(Festplatte / AchtNamen[Fehlende].first);
+    std::map<Text, std::string> zuvor;
+    for (const auto &[name, klein] : AchtNamen)
+        zuvor[name] = DateiLesen(Festplatte / PfadAus(name));
+    Starten();
+    NächstesLaufwerk();
+    EinzelneWählen(Fehlende);
+    GezeigteMeldungen.clear();
+    Klick(form->OKButton);
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    EXPECT_EQ(Tage(), "42");
+    EXPECT_EQ(Konfig.Gemeinde, "die gute");
+    EXPECT_FALSE(IstOffen("DateienKopieren"));
+    EXPECT_EQ(DateienIn(Festplatte).size(), 8U);
+    for (std::size_t k = 0; k < AchtNamen.size(); ++k) {
+        const auto &[name, klein] = AchtNamen[k];
+        EXPECT_TRUE(k == Fehlende || DateiLesen(Festplatte / PfadAus(name)) == zuvor[name]) << name;
+    }
+    EXPECT_TRUE(DateiLesen(Festplatte / "helfer.dat") == DateiLesen(Diskette / "Helfer.dat"));
+}
+
 TEST_F(DateienKopierenFormTest, SchließenDesStartsNebenDemHauptfensterBeendetNichts)
 {
     const int ergebnis = Programmlauf([this] {

@@ -99,6 +99,30 @@ TEST_F(HintergrundsucheFormTest, MitHintergrundStehtSeinBild)
     EXPECT_EQ(Konfig.Hintergrund, TextVon(Festplatte / "blau.png")) << "opening changes nothing";
 }
 
+TEST_F(HintergrundsucheFormTest, BeginntAufDemErstenLaufwerkWoDasBildAuchLiegt)
+{
+    for (const fs::path &bild : {Festplatte / "Bilder" / PfadAus("grün.bmp"), Diskette / "x.png"}) {
+        Konfig.Hintergrund = TextVon(bild);
+        Öffnen();
+        EXPECT_EQ(form->Wahl.Pfad(), Festplatte);
+        EXPECT_EQ(form->Wahl.Laufwerk->currentIndex(), 0);
+        EXPECT_TRUE(form->Wahl.Dateien->selectedItems().isEmpty());
+        form->close();
+    }
+}
+
+TEST_F(HintergrundsucheFormTest, EinUnlesbaresLaufwerkLässtDieListenStehen)
+{
+    Öffnen();
+    fs::remove_all(Diskette);
+    fs::remove(Festplatte / "text.txt");
+    FokusAuf(form->Wahl.Laufwerk);
+    QTest::keyClick(form->Wahl.Laufwerk, Qt::Key_Down);
+    EXPECT_EQ(form->Wahl.Pfad(), Festplatte);
+    EXPECT_EQ(form->Wahl.Dateien->count(), 3);
+    EXPECT_EQ(form->Wahl.Laufwerk->currentIndex(), 0);
+}
+
 TEST_F(HintergrundsucheFormTest, EinClickIstSofortDerHintergrund)
 {
     Öffnen();

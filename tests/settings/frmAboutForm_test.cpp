@@ -115,6 +115,19 @@ TEST_F(frmAboutFormTest, DasWerkzeugWirdGestartetUndDasFensterBleibt)
     EXPECT_TRUE(form->isVisible());
 }
 
+TEST_F(frmAboutFormTest, EinFehlerBeimStartWirdÜbergangen)
+{
+    Systeminfo.ImSuchpfad = [](const char *name) { return fs::path("/usr/bin") / name; };
+    Systeminfo.Starten = [this](const fs::path &) {
+        gestartet.emplace_back("versucht");
+        throw Laufzeitfehler(Laufzeitfehler::DateiNichtGefunden);
+    };
+    Klick(form->cmdSysInfo);
+    EXPECT_EQ(gestartet, Liste{"versucht"});
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    EXPECT_TRUE(form->isVisible());
+}
+
 TEST_F(frmAboutFormTest, EinLeererEintragGiltAlsGefunden)
 {
     Systeminfo.Registrierung = [](const char *, const char *) -> std::optional<Text> { return ""; };
