@@ -10,7 +10,7 @@ mkdir -p "$arbeit/bilder" "$arbeit/pfarrbuero/"{Bilder,Dokumente,Sicherung}
 export HOME=$arbeit/pfarrbuero
 env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --saat 1 \
     --schritte 1,4,5,6,2 \
-    --menue mnuStandardmessen,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern \
+    --menue mnuStandardmessen,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern,mnuDatenHolen,mnuHintergrund,mnuHelpAbout \
     --bilder "$arbeit/bilder" >/dev/null 2>&1
 
 # The last picture of a window is the one with the finished plan.
@@ -28,6 +28,9 @@ bild Konfiguration konfiguration
 bild JubiGebu jubigebu
 bild Statistik statistik
 bild Datensicherung sichern
+bild Dateikopie holen
+bild Hintergrundsuche hintergrund
+bild frmAbout info
 
 # The first start.
 mkdir "$arbeit/erster"
