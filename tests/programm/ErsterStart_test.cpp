@@ -44,13 +44,19 @@ class ErsterStartTest : public Prüfstand {
     }
 
     /// The copy dialog stands in place of the start dialog, below the one message; it is read and
-    /// closed.
-    static void MeldungBestätigen(Programmlauf &lauf, const Text &datei)
+    /// closed. The next message may follow at once.
+    static void MeldungBestätigen(Programmlauf &lauf, const Text &datei, const char *wievielte)
     {
+        EXPECT_EQ(lauf.Warten("meldungen", wievielte), wievielte);
         EXPECT_EQ(lauf.Fenster("DateienKopieren Meldung"), "DateienKopieren Meldung");
         EXPECT_EQ(lauf.Befehl("text Meldung"), Fehlt(datei));
         EXPECT_EQ(lauf.Befehl("klick OKButton"), "Fehler: nicht erreichbar OKButton");
         EXPECT_EQ(lauf.Befehl("klick OK"), "ok");
+    }
+
+    static void MeldungBestätigen(Programmlauf &lauf, const Text &datei)
+    {
+        MeldungBestätigen(lauf, datei, "1");
         EXPECT_EQ(lauf.Fenster("DateienKopieren"), "DateienKopieren");
     }
 
@@ -167,8 +173,9 @@ TEST_F(ErsterStartTest, EineEinzelneDateiLäßtDenDialogWiederkommen)
     EXPECT_EQ(lauf.Befehl("klick O2"), "ok");
     EXPECT_EQ(lauf.Befehl("klick OKButton"), "ok");
     // Once from the load behind the copy, once from the start dialog that is shown anew.
-    MeldungBestätigen(lauf, "gruppen.dat");
-    MeldungBestätigen(lauf, "gruppen.dat");
+    MeldungBestätigen(lauf, "gruppen.dat", "2");
+    MeldungBestätigen(lauf, "gruppen.dat", "3");
+    EXPECT_EQ(lauf.Fenster("DateienKopieren"), "DateienKopieren");
     EXPECT_TRUE(fs::exists(daten / "etiketten.dat"));
     Beenden(lauf, "DateienKopieren");
 }

@@ -2,6 +2,7 @@
 // answers each with one line of standard output.
 //
 //   fenster              the names of the visible windows, the message box as "Meldung"
+//   meldungen            how many message boxes there have been
 //   text NAME            what the control shows ("-" while it cannot be seen)
 //   klick NAME           presses a button or option
 //   laufwerk NAME TEXT   chooses an entry of a drop-down list
@@ -26,6 +27,20 @@
 #include <unistd.h>
 
 namespace {
+
+/// Two messages in a row may say the same; only their number tells them apart.
+class Meldungszähler : public QObject {
+  public:
+    using QObject::QObject;
+    bool eventFilter(QObject *wer, QEvent *ereignis) override
+    {
+        if (ereignis->type() == QEvent::Show && qobject_cast<QMessageBox *>(wer))
+            ++Anzahl;
+        return false;
+    }
+
+    static inline int Anzahl = 0;
+};
 
 QList<QWidget *> SichtbareFenster()
 {
@@ -82,6 +97,8 @@ QString Ausführen(const QString &zeile)
         namen.sort();
         return namen.join(' ');
     }
+    if (befehl == "meldungen")
+        return QString::number(Meldungszähler::Anzahl);
     if (befehl == "schließe" || befehl == "bild") {
         QWidget *fenster = Fenster(name);
         if (!fenster)
@@ -124,6 +141,7 @@ QString Ausführen(const QString &zeile)
 
 void Einrichten()
 {
+    qApp->installEventFilter(new Meldungszähler(qApp));
     auto *eingang = new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, qApp);
     QObject::connect(eingang, &QSocketNotifier::activated, qApp, [] {
         static std::string offen;
