@@ -15,7 +15,8 @@ namespace fs = std::filesystem;
 
 fs::path NeuesVerzeichnis()
 {
-    std::string muster = (fs::temp_directory_path() / "altardienst-XXXXXX").string();
+    std::string muster =
+        (fs::temp_directory_path() / "altardienst-XXXXXX").string(); // mkdtemp fills it in
     if (mkdtemp(muster.data()) == nullptr)
         throw std::runtime_error("no temporary directory");
     return muster;

@@ -19,7 +19,7 @@ class frmAboutForm : public QWidget {
     QLabel *lblTitle;
     QLabel *lblVersion;
     QLabel *lblDescription;
-    QLabel *LBLXXXX;
+    QLabel *LBLXXXX; // what the program is for; the control has no other name
     QLabel *Writen;
     QLabel *lblDisclaimer;
     QPushButton *cmdOK;
