@@ -2,8 +2,6 @@
 #include "statistics/Diagramm2Form.h"
 
 #include "fenster/Bausteine.h"
-#include "fenster/Fensterdruck.h"
-#include "fenster/Handler.h"
 #include "statistics/Diagrammbild.h"
 #include "statistics/Statistik2Form.h"
 #include "statistics/Zahlentafel.h"
@@ -37,8 +35,7 @@ void Diagramm2Form::Anordnen()
 
 void Diagramm2Form::Verbinden()
 {
-    connect(Druck, &QPushButton::clicked, this, Offen([this] { FensterDrucken(this); }));
-    connect(OKButton, &QPushButton::clicked, this, [this] { close(); });
+    DruckUndEndeVerbinden(this, Druck, OKButton);
     connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
 }
 

@@ -4,8 +4,6 @@
 #include "core/Umwandlung.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
-#include "fenster/Fensterdruck.h"
-#include "fenster/Handler.h"
 #include "platform/Uhr.h"
 #include "statistics/Diagrammbild.h"
 #include "statistics/Meßdienerstatistik.h"
@@ -74,8 +72,7 @@ void DiagrammeForm::Verbinden()
     connect(Atlert, &QRadioButton::toggled, MSChart1, &QWidget::setVisible);
     connect(Zug, &QRadioButton::toggled, MSChart2, &QWidget::setVisible);
     connect(Meßdierne, &QRadioButton::toggled, MSChart3, &QWidget::setVisible);
-    connect(Druck, &QPushButton::clicked, this, Offen([this] { FensterDrucken(this); }));
-    connect(OKButton, &QPushButton::clicked, this, [this] { close(); });
+    DruckUndEndeVerbinden(this, Druck, OKButton);
     connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
 }
 

@@ -5,14 +5,10 @@
 #include "core/Zahlenmuster.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
-#include "fenster/Fensterdruck.h"
-#include "fenster/Handler.h"
 #include "statistics/Messendienste.h"
 #include "statistics/Zahlentafel.h"
 
 #include <QCloseEvent>
-#include <QGroupBox>
-#include <QVBoxLayout>
 
 namespace altardienst {
 
@@ -26,13 +22,12 @@ StatMeßdienstForm::StatMeßdienstForm()
     Benannt(this, "StatMeßdienst");
     setWindowTitle("Statistik Messendienst");
     Anordnen();
-    Verbinden();
+    DruckUndEndeVerbinden(this, Druck, Ende);
     Füllen();
 }
 
 void StatMeßdienstForm::Anordnen()
 {
-    auto *rahmen = new QGroupBox("Meßdienerdienste");
     auto *tafel = new Zahlentafel({"Messendienst", "Insgesamt", "pro Messe"});
     tafel->Zeile("Gabenbereitung", {MGges, MGMes});
     tafel->Zeile("Leuchter", {MLges, MLMes});
@@ -43,22 +38,7 @@ void StatMeßdienstForm::Anordnen()
     tafel->Zeile("Dienste Meßdiener gesamt", {DMges});
     tafel->Zeile("Dienste je Messe", {nullptr, DMm});
     tafel->Zeile("Dienste je Meßdiener", {nullptr, DjM});
-    rahmen->setLayout(tafel);
-
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(16, 14, 16, 14);
-    spalte->setSpacing(12);
-    spalte->addWidget(rahmen);
-    spalte->addStretch();
-    spalte->addLayout(Knopfreihe({Druck, Ende}));
-    setMinimumWidth(420);
-    Ende->setFocus();
-}
-
-void StatMeßdienstForm::Verbinden()
-{
-    connect(Druck, &QPushButton::clicked, this, Offen([this] { FensterDrucken(this); }));
-    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+    TafelAnordnen(this, "Meßdienerdienste", tafel, Druck, Ende);
 }
 
 void StatMeßdienstForm::Füllen()

@@ -29,7 +29,6 @@ class StatMeßdienstForm : public QWidget {
 
   private:
     void Anordnen();
-    void Verbinden();
     void Füllen();
 };
 

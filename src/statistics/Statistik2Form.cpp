@@ -6,7 +6,6 @@
 #include "core/tables.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
-#include "fenster/Fensterdruck.h"
 #include "fenster/Handler.h"
 #include "platform/Uhr.h"
 #include "statistics/Diagramm2Form.h"
@@ -58,8 +57,7 @@ void Statistik2Form::Verbinden()
                 hide();
                 DialogDanebenÖffnen(diagramm);
             }));
-    connect(Druck, &QPushButton::clicked, this, Offen([this] { FensterDrucken(this); }));
-    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+    DruckUndEndeVerbinden(this, Druck, Ende);
 }
 
 void Statistik2Form::Füllen()

@@ -5,8 +5,6 @@
 #include "core/Zahlenmuster.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
-#include "fenster/Fensterdruck.h"
-#include "fenster/Handler.h"
 #include "platform/Uhr.h"
 #include "statistics/Messendienste.h"
 #include "statistics/Zahlentafel.h"
@@ -25,7 +23,7 @@ StatistikAllgForm::StatistikAllgForm()
     Benannt(this, "StatistikAllg");
     setWindowTitle("Statistik Helfer allgemein");
     Anordnen();
-    Verbinden();
+    DruckUndEndeVerbinden(this, Druck, Ente);
     Füllen();
 }
 
@@ -47,12 +45,6 @@ void StatistikAllgForm::Anordnen()
     spalte->addLayout(Knopfreihe({Druck, Ente}));
     setMinimumWidth(420);
     Ente->setFocus();
-}
-
-void StatistikAllgForm::Verbinden()
-{
-    connect(Druck, &QPushButton::clicked, this, Offen([this] { FensterDrucken(this); }));
-    connect(Ente, &QPushButton::clicked, this, [this] { close(); });
 }
 
 void StatistikAllgForm::Füllen()

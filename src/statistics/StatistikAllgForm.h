@@ -25,7 +25,6 @@ class StatistikAllgForm : public QWidget {
 
   private:
     void Anordnen();
-    void Verbinden();
     void Füllen();
 };
 

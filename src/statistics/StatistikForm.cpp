@@ -6,7 +6,6 @@
 #include "core/tables.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
-#include "fenster/Fensterdruck.h"
 #include "fenster/Handler.h"
 #include "platform/Uhr.h"
 #include "statistics/DiagrammeForm.h"
@@ -124,8 +123,7 @@ void StatistikForm::Verbinden()
                 hide();
                 DialogDanebenÖffnen(diagramme);
             }));
-    connect(Druck, &QPushButton::clicked, this, Offen([this] { FensterDrucken(this); }));
-    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+    DruckUndEndeVerbinden(this, Druck, Ende);
 }
 
 void StatistikForm::Füllen()

@@ -5,14 +5,10 @@
 #include "core/Zahlenmuster.h"
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
-#include "fenster/Fensterdruck.h"
-#include "fenster/Handler.h"
 #include "statistics/Messendienste.h"
 #include "statistics/Zahlentafel.h"
 
 #include <QCloseEvent>
-#include <QGroupBox>
-#include <QVBoxLayout>
 
 namespace altardienst {
 
@@ -25,13 +21,12 @@ StatistikHelferForm::StatistikHelferForm()
     Benannt(this, "StatistikHelfer");
     setWindowTitle("Statistik Helferdienste Messe");
     Anordnen();
-    Verbinden();
+    DruckUndEndeVerbinden(this, Druck, Ende);
     Füllen();
 }
 
 void StatistikHelferForm::Anordnen()
 {
-    auto *rahmen = new QGroupBox("Helferdienste");
     auto *tafel = new Zahlentafel({"Messendienst", "Insgesamt", "pro Messe"});
     tafel->Zeile("Lektor", {LL1, LL2});
     tafel->Zeile("Kommunionhelfer", {KOR1, KOR2});
@@ -40,22 +35,7 @@ void StatistikHelferForm::Anordnen()
     tafel->Zeile("Dienste Helfer insgesamt", {DHI});
     tafel->Zeile("Dienste je Messe", {nullptr, DHM});
     tafel->Zeile("Dienste je Helfer", {nullptr, DHH});
-    rahmen->setLayout(tafel);
-
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(16, 14, 16, 14);
-    spalte->setSpacing(12);
-    spalte->addWidget(rahmen);
-    spalte->addStretch();
-    spalte->addLayout(Knopfreihe({Druck, Ende}));
-    setMinimumWidth(420);
-    Ende->setFocus();
-}
-
-void StatistikHelferForm::Verbinden()
-{
-    connect(Druck, &QPushButton::clicked, this, Offen([this] { FensterDrucken(this); }));
-    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+    TafelAnordnen(this, "Helferdienste", tafel, Druck, Ende);
 }
 
 void StatistikHelferForm::Füllen()

@@ -27,7 +27,6 @@ class StatistikHelferForm : public QWidget {
 
   private:
     void Anordnen();
-    void Verbinden();
     void Füllen();
 };
 

@@ -1,9 +1,13 @@
-// A table of figures in a form, and the row of buttons below it.
+// A table of figures in a form, and the buttons below it.
 #include "statistics/Zahlentafel.h"
 
 #include "fenster/Bausteine.h"
+#include "fenster/Fensterdruck.h"
+#include "fenster/Handler.h"
 
+#include <QGroupBox>
 #include <QHBoxLayout>
+#include <QVBoxLayout>
 
 namespace altardienst {
 
@@ -55,6 +59,28 @@ QLayout *Satz(std::initializer_list<QWidget *> teile)
         reihe->addWidget(teil);
     reihe->addStretch();
     return reihe;
+}
+
+void TafelAnordnen(QWidget *fenster, const char *titel, Zahlentafel *tafel, QPushButton *druck,
+                   QPushButton *ende)
+{
+    auto *rahmen = new QGroupBox(QString::fromUtf8(titel));
+    rahmen->setLayout(tafel);
+    auto *spalte = new QVBoxLayout(fenster);
+    spalte->setContentsMargins(16, 14, 16, 14);
+    spalte->setSpacing(12);
+    spalte->addWidget(rahmen);
+    spalte->addStretch();
+    spalte->addLayout(Knopfreihe({druck, ende}));
+    fenster->setMinimumWidth(420);
+    ende->setFocus();
+}
+
+void DruckUndEndeVerbinden(QWidget *fenster, QPushButton *druck, QPushButton *ende)
+{
+    QObject::connect(druck, &QPushButton::clicked, fenster,
+                     Offen([fenster] { FensterDrucken(fenster); }));
+    QObject::connect(ende, &QPushButton::clicked, fenster, [fenster] { fenster->close(); });
 }
 
 } // namespace altardienst

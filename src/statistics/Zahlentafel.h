@@ -1,4 +1,4 @@
-// A table of figures in a form, and the row of buttons below it.
+// A table of figures in a form, and the buttons below it.
 #pragma once
 
 #include "core/Umwandlung.h"
@@ -49,5 +49,12 @@ class Zahlentafel : public QGridLayout {
 
 /// Text and figures one after the other, such as "Durchschnitt", a figure, "Jahre".
 QLayout *Satz(std::initializer_list<QWidget *> teile);
+
+/// The only table of a window: in a frame with this title, the buttons below it.
+void TafelAnordnen(QWidget *fenster, const char *titel, Zahlentafel *tafel, QPushButton *druck,
+                   QPushButton *ende);
+
+/// One button prints what the window shows, the other one closes it.
+void DruckUndEndeVerbinden(QWidget *fenster, QPushButton *druck, QPushButton *ende);
 
 } // namespace altardienst
