@@ -6,7 +6,6 @@
 #include "fenster/Bausteine.h"
 #include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
-#include "people/Namen.h"
 #include "people/NeuMeßdienerForm.h"
 #include "platform/Meldungen.h"
 #include "printing/Aufnahmebestätigung.h"
@@ -27,63 +26,17 @@ auto Zeitspalten()
                       &Meßdiener.Von5, &Meßdiener.Bis5};
 }
 
-QLabel *Überschrift(const char *text, QWidget *zu = nullptr)
-{
-    auto *label = Beschriftung("", text);
-    label->setBuddy(zu);
-    QFont schrift = label->font();
-    schrift.setBold(true);
-    label->setFont(schrift);
-    return label;
-}
-
 } // namespace
-
-QComboBox *Geschlechtwahl()
-{
-    QComboBox *wahl = Textwahl("Geschl", "Geschlecht");
-    ListeSetzen(wahl, {"männlich", "weiblich"});
-    return wahl;
-}
-
-QComboBox *Gruppenwahl()
-{
-    return Textwahl("Dieenst", "Gruppe");
-}
-
-void GruppenlisteFüllen(QComboBox *gruppenwahl)
-{
-    QStringList namen;
-    for (int i = 0; i <= Gruppe.Anzahl; ++i)
-        namen.append(Anzeige(Gruppe.Bezeichnung[i]));
-    ListeSetzen(gruppenwahl, namen);
-}
-
-void GrößeVerbinden(const Zahlbox &größe)
-{
-    QLineEdit *feld = größe.Feld;
-    QObject::connect(feld, &QLineEdit::textChanged, feld,
-                     Abgefangen([feld] { Begrenzen(feld, 5, 250); }));
-    SchritteVerbinden(nullptr, nullptr, größe.Spin, [feld](int richtung) {
-        Schrittweise([&] { ZahlSetzen(feld, Int16(ZahlIn(feld)) + richtung); },
-                     [&] { feld->setFocus(); })();
-    });
-}
 
 MeßdienerForm::MeßdienerForm()
     : Wahl(new Datensatzwahl({"Datensätze", "PLUS", "MINUS", "DPM"})),
-      MaxIndex(Beschriftung("MaxIndex", "")),
-      Person({"Vornamen", "Nachnamen", "Straßen", "Postleit", "Gemeinde", "Teflon", "Emeil"}),
-      Gebutag("Gebutag", {"Änderung1", "Änderung2", "Änderung3"}, "Geburtstag"),
-      Geschl(Geschlechtwahl()), Groß(ZahlboxAnlegen("Groß", "Änderung7", "Größe:")),
-      Eintritttdatum("Eintritttdatum", {"Änderung4", "Änderung5", "Änderung6"}, "Eintrittsdatum"),
-      Dieenst(Gruppenwahl()), Dienstmittig("Dienstmittig", "Qualifikation",
-                                           {{"Check1", "Gabenbereitung"},
-                                            {"Check2", "Leuchter"},
-                                            {"Check3", "Flambeau"},
-                                            {"Check4", "Weihrauch"},
-                                            {"Check5", "Kreuzträger"},
-                                            {"Check3a", "Anführer"}}),
+      MaxIndex(Beschriftung("MaxIndex", "")), Dienstmittig("Dienstmittig", "Qualifikation",
+                                                           {{"Check1", "Gabenbereitung"},
+                                                            {"Check2", "Leuchter"},
+                                                            {"Check3", "Flambeau"},
+                                                            {"Check4", "Weihrauch"},
+                                                            {"Check5", "Kreuzträger"},
+                                                            {"Check3a", "Anführer"}}),
       Abgewählt("Abgewählt", "Möchte nicht dienen",
                 {{"Check6", "Wochendienst"},
                  {"Check7", "Mo"},
@@ -93,16 +46,14 @@ MeßdienerForm::MeßdienerForm()
                  {"Check11", "Fr"}}),
       Norm(Benannt(new QRadioButton("normal"), "Norm")),
       Oft(Benannt(new QRadioButton("oft"), "Oft")), Haufigk(Textfeld("Haufigk")), Abwesenheiten(5),
-      Partner(Textwahl("Partner", "Wunschpartner")), VName(Textfeld("VName")),
-      NName(Textfeld("NName")), NeuDiener(Knopf("NeuDiener", "Neuer Meßdiener")),
-      Lösch(Knopf("Lösch", "Datensatz löschen")),
+      NeuDiener(Knopf("NeuDiener", "Neuer Meßdiener")), Lösch(Knopf("Lösch", "Datensatz löschen")),
       Aufnahmebestätigung(Knopf("Aufnahmebestätigung", "Aufnahmebestätigung drucken")),
       Ende(Knopf("Ende", "Ende"))
 {
     Benannt(this, "Meßdiener");
     setWindowTitle("Meßdiener");
-    Gebutag.KnöpfeAnlegen({{{"mTag", "pTag"}, {"mMonat", "PMonat"}, {"mJahr", "pJahr"}}});
-    Eintritttdatum.KnöpfeAnlegen(
+    Angaben.Gebutag.KnöpfeAnlegen({{{"mTag", "pTag"}, {"mMonat", "PMonat"}, {"mJahr", "pJahr"}}});
+    Angaben.Eintritttdatum.KnöpfeAnlegen(
         {{{"mmTag", "pptag"}, {"mmMonat", "ppMonat"}, {"mmJahr", "ppJahr"}}});
     PlzOrtErgänzen();
     Anordnen();
@@ -111,9 +62,9 @@ MeßdienerForm::MeßdienerForm()
         ZahlSetzen(Wahl->Nummer, Meßdiener.Cursor);
         Zeigen(Meßdiener.Cursor);
         AnzahlZeigen();
-        GruppenlisteFüllen(Dieenst);
-        PartnerlisteFüllen();
-        PartnerZeigen();
+        Angaben.GruppenlisteFüllen();
+        Wunsch.ListeFüllen();
+        Wunsch.PartnerZeigen();
     })();
 }
 
@@ -124,7 +75,7 @@ void MeßdienerForm::Anordnen()
     rechts->setSpacing(14);
     rechts->addLayout(Dienstteil());
     rechts->addLayout(Abwesenheiten.Anordnen());
-    rechts->addLayout(Partnerteil());
+    rechts->addLayout(Wunsch.Anordnen());
     rechts->addStretch();
 
     auto *mitte = new QHBoxLayout;
@@ -139,7 +90,7 @@ void MeßdienerForm::Anordnen()
     spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(Knopfreihe({Ende}, {NeuDiener, Lösch, Aufnahmebestätigung}));
     GrößeAnpassen(this);
-    Person.Vorname->setFocus();
+    Angaben.Person.Vorname->setFocus();
 }
 
 QLayout *MeßdienerForm::Personenteil()
@@ -147,23 +98,7 @@ QLayout *MeßdienerForm::Personenteil()
     auto *raster = new QGridLayout;
     raster->setHorizontalSpacing(10);
     raster->setVerticalSpacing(4);
-    Person.Anordnen(raster, 0, 3);
-    Gebutag.Anordnen(raster, 7, "Geburtstag:");
-    raster->addWidget(Beschriftung("", "Geschlecht:", Geschl), 10, 0);
-    raster->addWidget(Geschl, 10, 1, 1, 2, Qt::AlignLeft);
-    auto *größe = new QHBoxLayout;
-    größe->setSpacing(6);
-    größe->addWidget(Groß.Feld);
-    größe->addWidget(Beschriftung("", "cm"));
-    größe->addWidget(Groß.Spin);
-    größe->addStretch();
-    raster->addWidget(Beschriftung("", "Größe:", Groß.Feld), 11, 0);
-    raster->addLayout(größe, 11, 1, 1, 2);
-    Eintritttdatum.Anordnen(raster, 12, "Eintrittsdatum:");
-    raster->addWidget(Beschriftung("", "Gruppe:", Dieenst), 15, 0);
-    raster->addWidget(Dieenst, 15, 1, 1, 3);
-    raster->setColumnStretch(3, 1);
-    raster->setRowStretch(16, 1);
+    Angaben.Anordnen(raster, 3);
     return raster;
 }
 
@@ -189,29 +124,6 @@ QLayout *MeßdienerForm::Dienstteil()
     return teil;
 }
 
-QLayout *MeßdienerForm::Partnerteil()
-{
-    auto *raster = new QGridLayout;
-    raster->setHorizontalSpacing(8);
-    raster->setVerticalSpacing(4);
-    raster->addWidget(Überschrift("Der Wunschpartner:"), 0, 0, 1, 3);
-    raster->addWidget(Beschriftung("", "Nachname,Vorname", Partner), 1, 0);
-    raster->addWidget(Beschriftung("", "Vorname", VName), 1, 1);
-    raster->addWidget(Beschriftung("", "Nachname", NName), 1, 2);
-    raster->addWidget(Partner, 2, 0);
-    raster->addWidget(VName, 2, 1);
-    raster->addWidget(NName, 2, 2);
-    Partner->setMinimumContentsLength(20);
-    // The names are set by choosing the partner.
-    for (QLineEdit *feld : {VName, NName}) {
-        feld->setReadOnly(true);
-        feld->setFocusPolicy(Qt::ClickFocus);
-    }
-    raster->setColumnStretch(1, 1);
-    raster->setColumnStretch(2, 1);
-    return raster;
-}
-
 void MeßdienerForm::Verbinden()
 {
     Wahl->BeiWechsel([this] { NummerGeändert(); });
@@ -225,21 +137,18 @@ void MeßdienerForm::Verbinden()
     // The spin button does not fill an empty number box.
     Wahl->DPM->BeiAb(Offen([this] { Schritt(-1); }));
     Wahl->DPM->BeiAuf(Offen([this] { Schritt(+1); }));
-    Person.Verbinden();
-    for (const Datumsfeld *datum : {&Gebutag, &Eintritttdatum}) {
-        datum->BeiÄnderungUmschreiben();
-        datum->SchritteVerbinden();
-    }
-    GrößeVerbinden(Groß);
-    BeiVerlassen(Dieenst, Abgefangen([this] { GruppePrüfen(); }));
+    Angaben.Verbinden();
+    Angaben.Gebutag.BeiÄnderungUmschreiben();
+    Angaben.Eintritttdatum.BeiÄnderungUmschreiben();
+    BeiVerlassen(Angaben.Dieenst, Abgefangen([this] { GruppePrüfen(); }));
     Dienstmittig.Verbinden();
     Abgewählt.Verbinden();
     connect(Norm, &QRadioButton::clicked, this, [this] { ZahlSetzen(Haufigk, 0); });
     connect(Oft, &QRadioButton::clicked, this, [this] { ZahlSetzen(Haufigk, 2); });
     connect(Haufigk, &QLineEdit::textChanged, this, Abgefangen([this] { HäufigkeitGeändert(); }));
     Abwesenheiten.Verbinden();
-    BeiAuswahl(Partner, Abgefangen([this] { PartnerPrüfen(true); }));
-    BeiVerlassen(Partner, Abgefangen([this] { PartnerPrüfen(false); }));
+    BeiAuswahl(Wunsch.Partner, Abgefangen([this] { PartnerPrüfen(true); }));
+    BeiVerlassen(Wunsch.Partner, Abgefangen([this] { PartnerPrüfen(false); }));
     connect(NeuDiener, &QPushButton::clicked, this, [this] { NeuerMeßdiener(); });
     connect(Lösch, &QPushButton::clicked, this, Offen([this] { Löschen(); }));
     connect(Aufnahmebestätigung, &QPushButton::clicked, this, Offen([this] { Bestätigen(); }));
@@ -260,7 +169,7 @@ void MeßdienerForm::NummerGeändert()
                      if (Nummer() > Meßdiener.Anzahl)
                          Meßdiener.Anzahl = Nummer();
                  },
-                 [&] { AnzahlZeigen(); }, [&] { PartnerZeigen(); })();
+                 [&] { AnzahlZeigen(); }, [&] { Wunsch.PartnerZeigen(); })();
 }
 
 /// A server without both names is not left forward. The cursor moves by one more than the number
@@ -277,8 +186,8 @@ void MeßdienerForm::Schritt(int richtung)
         if (richtung > 0 ? Meßdiener.Cursor < LetzterDatensatz : Meßdiener.Cursor >= 1)
             Meßdiener.Cursor += richtung;
     }
-    PartnerlisteFüllen();
-    PartnerZeigen();
+    Wunsch.ListeFüllen();
+    Wunsch.PartnerZeigen();
 }
 
 /// Before each save but that of the window's own close: a name that another server bears is undone
@@ -286,10 +195,10 @@ void MeßdienerForm::Schritt(int richtung)
 void MeßdienerForm::Umbenennen()
 {
     const int i = Gelesen(Wahl->Nummer, Int16Lesen);
-    if (IstAndererMeßdiener(i, Person.Name()))
-        Person.NameZeigen(Meßdiener, i);
-    MeßdienerUmbenennen(i, Person.Name());
-    PartnerlisteFüllen();
+    if (IstAndererMeßdiener(i, Angaben.Person.Name()))
+        Angaben.Person.NameZeigen(Meßdiener, i);
+    MeßdienerUmbenennen(i, Angaben.Person.Name());
+    Wunsch.ListeFüllen();
 }
 
 /// Values other than those of the two options stay in the box.
@@ -300,54 +209,20 @@ void MeßdienerForm::HäufigkeitGeändert()
 
 void MeßdienerForm::GruppePrüfen()
 {
-    const Text text = TextVon(Dieenst);
+    const Text text = TextVon(Angaben.Dieenst);
     if (abgeschlossen || text.empty())
         return;
     for (int i = 0; i <= Gruppe.Anzahl; ++i)
         if (Gruppe.Bezeichnung[i] == text)
             return;
-    Setzen(Dieenst, Meßdiener.Gruppe[Nummer()]);
+    Setzen(Angaben.Dieenst, Meßdiener.Gruppe[Nummer()]);
     Meldungen.Zeigen("Die Gruppe ist unbekannt!!");
 }
 
-/// The boxes are set before a message appears, as the message takes the focus and the box is left
-/// then. One server can be the wish partner of one other only.
 void MeßdienerForm::PartnerPrüfen(bool ausgewählt)
 {
-    if (abgeschlossen)
-        return;
-    const Text text = TextVon(Partner);
-    const auto istBekannt = [&] {
-        for (int i = 0; i <= Meßdiener.Anzahl; ++i)
-            if (Listenname(Meßdiener.Nachname[i], Meßdiener.Vorname[i]) == text)
-                return true;
-        return false;
-    };
-    if (!text.empty() && !istBekannt()) {
-        PartnerZeigen();
-        return Meldungen.Zeigen("Meßdiener ist unbekannt!! Auswählen oder neu eingeben!!");
-    }
-    Text nachname = TextVon(NName);
-    Text vorname = TextVon(VName);
-    NameTeilen(text, nachname, vorname);
-    Setzen(NName, nachname);
-    Setzen(VName, vorname);
-    if (Personenname{vorname, nachname} == Person.Name()) {
-        PartnerLeeren();
-        if (ausgewählt)
-            Meldungen.Zeigen("Ein und dieselbe Person!!!");
-        return;
-    }
-    const int nummer = Nummer();
-    for (int i = 0; i <= Meßdiener.Anzahl; ++i) {
-        if (i == nummer || Meßdiener.WunschNachname[i] != nachname ||
-            Meßdiener.WunschVorname[i] != vorname)
-            continue;
-        PartnerLeeren();
-        if (ausgewählt && !text.empty())
-            Meldungen.Zeigen("Schon mal zugeordnet!!!!!");
-        return;
-    }
+    if (!abgeschlossen)
+        Wunsch.Prüfen(Wahl->Nummer, Angaben.Person.Name(), ausgewählt);
 }
 
 void MeßdienerForm::NeuerMeßdiener()
@@ -361,7 +236,7 @@ void MeßdienerForm::NachNeuemMeßdiener(bool angelegt)
 {
     if (angelegt)
         Schrittweise([&] { Zeigen(Nummer()); }, [&] { AnzahlZeigen(); },
-                     [&] { PartnerlisteFüllen(); }, [&] { PartnerZeigen(); })();
+                     [&] { Wunsch.ListeFüllen(); }, [&] { Wunsch.PartnerZeigen(); })();
     show();
     activateWindow();
 }
@@ -376,22 +251,23 @@ void MeßdienerForm::Löschen()
     MeßdienerLöschen(Nummer());
     Zeigen(Nummer());
     AnzahlZeigen();
-    PartnerlisteFüllen();
-    PartnerZeigen();
+    Wunsch.ListeFüllen();
+    Wunsch.PartnerZeigen();
 }
 
 void MeßdienerForm::Bestätigen() const
 {
-    AufnahmebestätigungDrucken({TextVon(Person.Vorname), TextVon(Person.Nachname),
-                                TextVon(Person.Straße), TextVon(Person.PLZ), TextVon(Person.Ort),
-                                TextVon(Eintritttdatum.Feld), TextVon(Dieenst)});
+    AufnahmebestätigungDrucken({TextVon(Angaben.Person.Vorname), TextVon(Angaben.Person.Nachname),
+                                TextVon(Angaben.Person.Straße), TextVon(Angaben.Person.PLZ),
+                                TextVon(Angaben.Person.Ort), TextVon(Angaben.Eintritttdatum.Feld),
+                                TextVon(Angaben.Dieenst)});
 }
 
 /// Writes the screen; a server typed into the blank slot with both names is adopted.
 void MeßdienerForm::Abschließen()
 {
     Schreiben(Gelesen(Wahl->Nummer, Int16Lesen));
-    const Personenname name = Person.Name();
+    const Personenname name = Angaben.Person.Name();
     if (Nummer() == Meßdiener.Anzahl && !name.Vorname.empty() && !name.Nachname.empty())
         ++Meßdiener.Anzahl;
     if (Nummer() >= Meßdiener.Anzahl)
@@ -407,63 +283,27 @@ int MeßdienerForm::Nummer() const
 
 void MeßdienerForm::Zeigen(int i)
 {
-    Person.Zeigen(Meßdiener, i);
-    Gebutag.Zeigen(Meßdiener.Geburtstag[i]);
-    Setzen(Geschl, Meßdiener.Geschlecht[i]);
-    ZahlSetzen(Groß.Feld, Meßdiener.Größe[i]);
-    Eintritttdatum.Zeigen(Meßdiener.Eintrittsdatum[i]);
-    Setzen(Dieenst, Meßdiener.Gruppe[i]);
+    Angaben.Zeigen(i);
     Setzen(Dienstmittig.Feld, Meßdiener.Qualifikation[i]);
     Setzen(Abgewählt.Feld, Meßdiener.Wochendienst[i]);
     Abwesenheiten.Zeigen(Zeitspalten(), i);
-    Setzen(VName, Meßdiener.WunschVorname[i]);
-    Setzen(NName, Meßdiener.WunschNachname[i]);
+    Wunsch.Zeigen(i);
     ZahlSetzen(Haufigk, Meßdiener.Häufigkeit[i]);
 }
 
 void MeßdienerForm::Schreiben(int i)
 {
-    Person.Schreiben(Meßdiener, i);
-    Meßdiener.Geburtstag[i] = Gebutag.Wert();
-    Meßdiener.Geschlecht[i] = TextVon(Geschl);
-    Meßdiener.Größe[i] = Gelesen(Groß.Feld, Int16Lesen);
-    Meßdiener.Eintrittsdatum[i] = Eintritttdatum.Wert();
-    Meßdiener.Gruppe[i] = TextVon(Dieenst);
+    Angaben.Schreiben(i);
     Meßdiener.Qualifikation[i] = TextVon(Dienstmittig.Feld);
     Meßdiener.Wochendienst[i] = TextVon(Abgewählt.Feld);
     Abwesenheiten.Schreiben(Zeitspalten(), i);
-    Meßdiener.WunschVorname[i] = TextVon(VName);
-    Meßdiener.WunschNachname[i] = TextVon(NName);
+    Wunsch.Schreiben(i);
     Meßdiener.Häufigkeit[i] = ZahlIn(Haufigk);
 }
 
 void MeßdienerForm::AnzahlZeigen()
 {
     Setzen(MaxIndex, ZahlText(Meßdiener.Anzahl));
-}
-
-void MeßdienerForm::PartnerZeigen()
-{
-    const Text nachname = TextVon(NName);
-    const Text vorname = TextVon(VName);
-    const bool beide = !nachname.empty() && !vorname.empty();
-    Setzen(Partner, beide ? Listenname(nachname, vorname) : Text());
-}
-
-void MeßdienerForm::PartnerLeeren()
-{
-    VName->clear();
-    NName->clear();
-    Partner->clearEditText();
-}
-
-void MeßdienerForm::PartnerlisteFüllen()
-{
-    QStringList namen;
-    for (int i = 0; i < Meßdiener.Anzahl; ++i)
-        if (!Meßdiener.Vorname[i].empty() && !Meßdiener.Nachname[i].empty())
-            namen.append(Anzeige(Listenname(Meßdiener.Nachname[i], Meßdiener.Vorname[i])));
-    ListeSetzen(Partner, namen);
 }
 
 /// The window's own close writes without renaming. A box that cannot be converted keeps the form

@@ -4,10 +4,9 @@
 #include "core/tables.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Handler.h"
-#include "people/Personenboxen.h"
+#include "people/Personen.h"
 #include "platform/Meldungen.h"
 
-#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -27,15 +26,13 @@ bool GibtEs(const Text &bezeichnung)
 } // namespace
 
 NeuGruppeForm::NeuGruppeForm(std::function<void(bool)> danach)
-    : GBezeichnung(Textfeld("GBezeichnung")), OKButton(Knopf("OKButton", "OK")),
-      CancelButton(Knopf("CancelButton", "Abbrechen")), danach(std::move(danach))
+    : Anlegefenster(std::move(danach)), GBezeichnung(Textfeld("GBezeichnung"))
 {
     Benannt(this, "NeuGruppe");
     setWindowTitle("Neue Gruppe");
     Anordnen();
-    connect(OKButton, &QPushButton::clicked, this, Offen([this] { Anlegen(); }));
+    KnöpfeVerbinden([this] { Anlegen(); });
     BeiEingabetaste(GBezeichnung, Offen([this] { Anlegen(); }));
-    connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
     GBezeichnung->setText("Neue Gruppe");
     GBezeichnung->selectAll();
 }
@@ -49,7 +46,7 @@ void NeuGruppeForm::Anordnen()
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(18);
     spalte->addLayout(name);
-    spalte->addLayout(Schlußknöpfe(OKButton, CancelButton));
+    spalte->addLayout(Schlußknöpfe());
     spalte->addStretch();
     setMinimumWidth(420);
     GBezeichnung->setFocus();
@@ -62,14 +59,7 @@ void NeuGruppeForm::Anlegen()
     if (GibtEs(TextVon(GBezeichnung)))
         return Meldungen.Zeigen("Doppelt eingeben! Nicht mit mir!!!!!");
     GruppeAnlegen(TextVon(GBezeichnung));
-    angelegt = true;
-    close();
-}
-
-void NeuGruppeForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    danach(angelegt);
+    Fertig();
 }
 
 } // namespace altardienst

@@ -3,12 +3,8 @@
 
 #include "core/tables.h"
 #include "fenster/Bausteine.h"
-#include "fenster/Handler.h"
 #include "people/HelferForm.h"
 #include "platform/Meldungen.h"
-
-#include <QCloseEvent>
-#include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
@@ -18,11 +14,10 @@ constexpr int MeisteHelfer = 200;
 } // namespace
 
 NeuerHelferForm::NeuerHelferForm(std::function<void(bool)> danach)
-    : Person({"Vorne", "Hinten", "Weg", "PLZetus", "Wohort", "Anruf", "Mailen"}),
+    : Anlegefenster(std::move(danach)),
+      Person({"Vorne", "Hinten", "Weg", "PLZetus", "Wohort", "Anruf", "Mailen"}),
       Tagen("Tagen", {"Änderung1", "Änderung2", "Änderung3"}, "Geburtstag"),
-      Dient(Dienstwahl("Dient", "Dienst 1")), Dient2(Dienstwahl("Dient2", "Dienst 2")),
-      OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen")),
-      danach(std::move(danach))
+      Dient(Dienstwahl("Dient", "Dienst 1")), Dient2(Dienstwahl("Dient2", "Dienst 2"))
 {
     Benannt(this, "NeuerHelfer");
     setWindowTitle("Neuer Helfer");
@@ -46,14 +41,7 @@ void NeuerHelferForm::Anordnen()
     raster->addWidget(Dient2, 11, 1, 1, 2);
     raster->setColumnStretch(2, 1);
     raster->setRowStretch(12, 1);
-
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 20, 20, 20);
-    spalte->setSpacing(18);
-    spalte->addWidget(Rollbar(raster), 1);
-    spalte->addLayout(Schlußknöpfe(OKButton, CancelButton));
-    setMinimumWidth(460);
-    GrößeAnpassen(this);
+    RahmenAnordnen(raster);
     Person.Vorname->setFocus();
 }
 
@@ -63,8 +51,7 @@ void NeuerHelferForm::Verbinden()
     Tagen.SchritteVerbinden();
     Tagen.BeiKlickUmschreiben();
     connect(Tagen.Feld, &QLineEdit::textChanged, this, [this] { GeburtstagPrüfen(Tagen.Feld); });
-    connect(OKButton, &QPushButton::clicked, this, Offen([this] { Anlegen(); }));
-    connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
+    KnöpfeVerbinden([this] { Anlegen(); });
 }
 
 /// The absences of the new helper are what the slot holds.
@@ -80,14 +67,7 @@ void NeuerHelferForm::Anlegen()
     Helfer.Dienst1[i] = TextVon(Dient);
     Helfer.Dienst2[i] = TextVon(Dient2);
     ++Helfer.Anzahl;
-    angelegt = true;
-    close();
-}
-
-void NeuerHelferForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    danach(angelegt);
+    Fertig();
 }
 
 } // namespace altardienst

@@ -3,34 +3,24 @@
 
 #include "fenster/Datumsfeld.h"
 #include "fenster/Textwahl.h"
+#include "people/Anlegefenster.h"
 #include "people/Personenboxen.h"
-
-#include <functional>
 
 namespace altardienst {
 
-class NeuerHelferForm : public QWidget {
+class NeuerHelferForm : public Anlegefenster {
   public:
-    /// `danach` runs when the dialog has closed, with whether a helper was added.
     explicit NeuerHelferForm(std::function<void(bool angelegt)> danach);
 
     Personenboxen Person; // Vorne, Hinten, Weg, PLZetus, Wohort, Anruf, Mailen
     Datumsfeld Tagen;     // Änderung1 to 3
     QComboBox *Dient;
     QComboBox *Dient2;
-    QPushButton *OKButton;
-    QPushButton *CancelButton;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     void Anordnen();
     void Verbinden();
     void Anlegen();
-
-    std::function<void(bool angelegt)> danach;
-    bool angelegt = false;
 };
 
 } // namespace altardienst

@@ -1,12 +1,8 @@
 // The boxes for name and address, which the forms of servers and helpers share.
 #include "people/Personenboxen.h"
 
-#include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
 #include "fenster/Zahlbox.h"
-
-#include <QHBoxLayout>
-#include <QShortcut>
 
 namespace altardienst {
 namespace {
@@ -75,11 +71,14 @@ void KnöpfeBeschriften(Datensatzwahl *wahl)
         knopf->setFixedWidth(knopf->fontMetrics().horizontalAdvance("Minus") + 40);
 }
 
-QLayout *Schlußknöpfe(QPushButton *ok, QPushButton *abbrechen)
+QLabel *Überschrift(const char *text, QWidget *zu)
 {
-    QObject::connect(new QShortcut(Qt::Key_Escape, abbrechen), &QShortcut::activated, abbrechen,
-                     &QPushButton::click);
-    return Knopfreihe({ok, abbrechen});
+    auto *label = Beschriftung("", text);
+    label->setBuddy(zu);
+    QFont schrift = label->font();
+    schrift.setBold(true);
+    label->setFont(schrift);
+    return label;
 }
 
 } // namespace altardienst

@@ -1,0 +1,56 @@
+// What the dialogs that add a group, a server or a helper have in common.
+#include "people/Anlegefenster.h"
+
+#include "fenster/Bausteine.h"
+#include "fenster/Fensteraufbau.h"
+#include "fenster/Handler.h"
+
+#include <QCloseEvent>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace altardienst {
+
+Anlegefenster::Anlegefenster(std::function<void(bool)> danach)
+    : OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen")),
+      danach(std::move(danach))
+{
+}
+
+void Anlegefenster::KnöpfeVerbinden(std::function<void()> anlegen)
+{
+    connect(OKButton, &QPushButton::clicked, this, Offen(std::move(anlegen)));
+    connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void Anlegefenster::RahmenAnordnen(QLayout *angaben)
+{
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(20, 20, 20, 20);
+    spalte->setSpacing(18);
+    spalte->addWidget(Rollbar(angaben), 1);
+    spalte->addLayout(Schlußknöpfe());
+    setMinimumWidth(460);
+    GrößeAnpassen(this);
+}
+
+QLayout *Anlegefenster::Schlußknöpfe()
+{
+    connect(new QShortcut(Qt::Key_Escape, CancelButton), &QShortcut::activated, CancelButton,
+            &QPushButton::click);
+    return Knopfreihe({OKButton, CancelButton});
+}
+
+void Anlegefenster::Fertig()
+{
+    angelegt = true;
+    close();
+}
+
+void Anlegefenster::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->accept();
+    danach(angelegt);
+}
+
+} // namespace altardienst

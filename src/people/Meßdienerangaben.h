@@ -1,0 +1,35 @@
+// What is asked of every server, in the editor and in the dialog that adds one.
+#pragma once
+
+#include "fenster/Datumsfeld.h"
+#include "fenster/Textwahl.h"
+#include "fenster/Zahlbox.h"
+#include "people/Personenboxen.h"
+
+namespace altardienst {
+
+class Meßdienerangaben {
+  public:
+    Meßdienerangaben();
+
+    Personenboxen Person; // Vornamen, Nachnamen, Straßen, Postleit, Gemeinde, Teflon, Emeil
+    Datumsfeld Gebutag;   // Änderung1 to 3
+    QComboBox *Geschl;
+    Zahlbox Groß;              // Änderung7: in cm, 5 to 250
+    Datumsfeld Eintritttdatum; // Änderung4 to 6
+    QComboBox *Dieenst;
+
+    /// From the first row of a grid on; the boxes take `breite` columns.
+    void Anordnen(QGridLayout *raster, int breite) const;
+
+    /// When a date is rewritten is the form's own business.
+    void Verbinden() const;
+
+    void GruppenlisteFüllen() const;
+
+    /// Shows or writes server `i`.
+    void Zeigen(int i) const;
+    void Schreiben(int i) const;
+};
+
+} // namespace altardienst

@@ -1,0 +1,42 @@
+// The wish partner of a server: chosen from a list, kept as first name and surname.
+#pragma once
+
+#include "fenster/Textwahl.h"
+#include "people/Personen.h"
+
+#include <QLayout>
+#include <QLineEdit>
+
+namespace altardienst {
+
+class Partnerboxen {
+  public:
+    Partnerboxen();
+
+    QComboBox *Partner;
+    QLineEdit *VName;
+    QLineEdit *NName;
+
+    QLayout *Anordnen() const;
+
+    /// The servers that have both names.
+    void ListeFüllen() const;
+
+    /// Shows in the list box who the two names are; nobody unless both are there.
+    void PartnerZeigen() const;
+
+    /// Takes over what stands in the list box of the server in the number box, who is called
+    /// `selbst`. Someone unknown is undone with a message; the server itself and a partner whom
+    /// another server has already empty the boxes, with a message only after a pick from the list.
+    /// Failure 13 if the number box holds none.
+    void Prüfen(const QLineEdit *nummer, const Personenname &selbst, bool ausgewählt) const;
+
+    /// Shows or writes the two names of server `i`.
+    void Zeigen(int i) const;
+    void Schreiben(int i) const;
+
+  private:
+    void Leeren() const;
+};
+
+} // namespace altardienst
