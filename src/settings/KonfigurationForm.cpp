@@ -6,7 +6,6 @@
 #include "fenster/Bausteine.h"
 #include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
-#include "fenster/Terminbox.h"
 #include "fenster/Textwahl.h"
 #include "platform/Drucker.h"
 #include "settings/Einstellungen.h"
@@ -18,10 +17,6 @@
 
 namespace altardienst {
 namespace {
-
-constexpr int WenigsteTage = 7;
-constexpr int MeisteTageBeiEingabe = 180;    // as in the start dialog
-constexpr int MeisteTageBeimVerlassen = 120; // the two differ, and both hold
 
 /// A row of a grid: label, box, spin button and what is counted.
 void Zahlzeile(QGridLayout *raster, int zeile, const char *text, const Zahlbox &box,
@@ -50,10 +45,6 @@ QGroupBox *Rahmen(const char *titel, QLayout *inhalt)
 
 KonfigurationForm::KonfigurationForm()
     : Bezeichnung(Textfeld("Bezeichnung")), Straß(Textfeld("Straß")), Örtchus(Textfeld("Örtchus")),
-      Datumsen(Textfeld("Datumsen")),
-      SpinButton1(new SpinButton("SpinButton1", "Startdatum um einen Tag ändern")),
-      tagi(Beschriftung("tagi", "")), tagilein(ZahlboxAnlegen("tagilein", "Änderung1", "Tage")),
-      Endet(Beschriftung("Endet", "")), Dayig(Beschriftung("Dayig", "")),
       DiffG(ZahlboxAnlegen("DiffG", "Änderung6", "Größendifferenz")),
       GrenzAuslos(ZahlboxAnlegen("GrenzAuslos", "ÄLF", "Grenze Auslöse")),
       Schriftartig(Textwahl("Schriftartig", "Schriftart")),
@@ -91,7 +82,7 @@ void KonfigurationForm::Anordnen()
 {
     auto *links = new QVBoxLayout;
     links->addLayout(Gemeinde());
-    links->addLayout(Zeitraum());
+    links->addLayout(Zeitraum.Anordnen());
     links->addLayout(Zuweisung());
     links->addStretch();
     auto *rechts = new QVBoxLayout;
@@ -130,29 +121,6 @@ QLayout *KonfigurationForm::Gemeinde()
         raster->addWidget(Beschriftung("", text, feld), zeile, 0);
         raster->addWidget(feld, zeile++, 1);
     }
-    return raster;
-}
-
-QLayout *KonfigurationForm::Zeitraum()
-{
-    auto *raster = new QGridLayout;
-    raster->addWidget(Beschriftung("", "Startberechnungsdatum für den Meßdienerplan:", Datumsen), 0,
-                      0, 1, 5);
-    Datumsen->setFixedWidth(100);
-    auto *datum = new QHBoxLayout;
-    datum->setSpacing(8);
-    for (QWidget *control : std::initializer_list<QWidget *>{Datumsen, SpinButton1, tagi})
-        datum->addWidget(control);
-    datum->addStretch();
-    raster->addLayout(datum, 1, 0, 1, 5);
-    Zahlzeile(raster, 2, "Anzahl Tage: ", tagilein, "");
-    auto *ende = new QHBoxLayout;
-    ende->setSpacing(8);
-    for (QWidget *control :
-         std::initializer_list<QWidget *>{Beschriftung("", "bis zum:"), Endet, Dayig})
-        ende->addWidget(control);
-    ende->addStretch();
-    raster->addLayout(ende, 3, 0, 1, 5);
     return raster;
 }
 
@@ -210,13 +178,10 @@ void KonfigurationForm::Verbinden()
     TextVerbinden(Straß, Konfig.Straße);
     BeiFokusVerlust(Örtchus, Abgefangen([this] { PlzOrtVerlassen(); }));
 
-    BeiEingabetaste(Datumsen, [this] { PeriodeBerechnen(); });
-    SchritteVerbinden(nullptr, nullptr, SpinButton1, [this](int tage) { DatumGedreht(tage); });
-    SchritteVerbinden(nullptr, nullptr, tagilein.Spin, [this](int tage) { TageGedreht(tage); });
-    BeiEingabetaste(tagilein.Feld, Abgefangen([this] { TageBegrenzen(MeisteTageBeiEingabe); }));
-    BeiFokusVerlust(tagilein.Feld, Abgefangen([this] {
+    Zeitraum.Verbinden();
+    BeiFokusVerlust(Zeitraum.tagilein.Feld, Abgefangen([this] {
                         if (!geschlossen)
-                            TageBegrenzen(MeisteTageBeimVerlassen);
+                            Zeitraum.TageVerlassen();
                     }));
 
     const std::function<void()> größe = Abgefangen([this] { GrößendifferenzGeändert(); });
@@ -259,8 +224,7 @@ void KonfigurationForm::Füllen()
     Setzen(Bezeichnung, Konfig.Gemeinde);
     Setzen(Straß, Konfig.Straße);
     Setzen(Örtchus, Konfig.PlzOrt);
-    Setzen(Datumsen, KurzesDatum(Konfig.StartDatum));
-    ZahlSetzen(tagilein.Feld, Konfig.Tage);
+    Zeitraum.Zeigen();
     ZahlSetzen(DiffG.Feld, 2 * static_cast<int>(Konfig.DiffGröße));
     ZahlSetzen(GrenzAuslos.Feld, Konfig.GrenzeAuslöse);
     ZahlSetzen(Schriftg.Feld, Konfig.Schriftgröße);
@@ -276,7 +240,7 @@ void KonfigurationForm::Füllen()
     Setzen(Flags6.Feld, Konfig.Flags6);
     Setzen(Flags11.Feld, Konfig.Flags11);
     SchriftenFüllen();
-    PeriodeBerechnen();
+    Zeitraum.Berechnen();
 }
 
 void KonfigurationForm::PlzOrtVerlassen()
@@ -285,45 +249,6 @@ void KonfigurationForm::PlzOrtVerlassen()
         return;
     PlzOrtSetzen(TextVon(Örtchus));
     Setzen(Örtchus, Konfig.PlzOrt);
-}
-
-void KonfigurationForm::DatumGedreht(int tage)
-{
-    Schrittweise([&] { TageWeiter(Datumsen, tage); }, [&] { PeriodeBerechnen(); },
-                 [&] { Datumsen->setFocus(); })();
-}
-
-/// Not clipped: that is done when the box is left.
-void KonfigurationForm::TageGedreht(int tage)
-{
-    QLineEdit *feld = tagilein.Feld;
-    Schrittweise([&] { ZahlSetzen(feld, Int16(ZahlIn(feld)) + tage); },
-                 [&] { Konfig.Tage = ZahlIn(feld); }, [&] { PeriodeBerechnen(); },
-                 [&] { feld->setFocus(); })();
-}
-
-void KonfigurationForm::TageBegrenzen(int bis)
-{
-    Konfig.Tage = Begrenzen(tagilein.Feld, WenigsteTage, bis);
-    EndeZeigen();
-}
-
-void KonfigurationForm::PeriodeBerechnen()
-{
-    const auto datum = [this] { return DatumLesen(TextVon(Datumsen)); };
-    Schrittweise([&] { AlsKurzesDatum(Datumsen); },
-                 [&] {
-                     StartDatumSetzen(datum());
-                     Setzen(Datumsen, KurzesDatum(Konfig.StartDatum));
-                 },
-                 [&] { Setzen(tagi, WochentagName(datum())); }, [&] { EndeZeigen(); })();
-}
-
-void KonfigurationForm::EndeZeigen()
-{
-    const Datum ende = DatumLesen(TextVon(Datumsen)) + ZahlIn(tagilein.Feld);
-    Setzen(Endet, KurzesDatum(ende));
-    Setzen(Dayig, WochentagName(ende));
 }
 
 void KonfigurationForm::GrößendifferenzGeändert()

@@ -4,6 +4,7 @@
 #include "core/tables.h"
 #include "fenster/Zahlbox.h"
 #include "people/Flagboxen.h"
+#include "settings/Planzeitraum.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -22,14 +23,9 @@ class KonfigurationForm : public QWidget {
     QLineEdit *Bezeichnung;
     QLineEdit *Straß;
     QLineEdit *Örtchus;
-    QLineEdit *Datumsen;
-    SpinButton *SpinButton1;
-    QLabel *tagi;     // weekday of the start date
-    Zahlbox tagilein; // Änderung1
-    QLabel *Endet;
-    QLabel *Dayig;
-    Zahlbox DiffG;       // Änderung6
-    Zahlbox GrenzAuslos; // ÄLF
+    Planzeitraum Zeitraum; // Datumsen, SpinButton1, tagi, tagilein, Änderung1, Endet, Dayig
+    Zahlbox DiffG;         // Änderung6
+    Zahlbox GrenzAuslos;   // ÄLF
     QComboBox *Schriftartig;
     Zahlbox Schriftg;    // Änderung2
     Zahlbox Über;        // Änderung4
@@ -51,7 +47,6 @@ class KonfigurationForm : public QWidget {
   private:
     void Anordnen();
     QLayout *Gemeinde();
-    QLayout *Zeitraum();
     QLayout *Zuweisung();
     QLayout *Schrift();
     QWidget *Ausrichtung();
@@ -60,11 +55,6 @@ class KonfigurationForm : public QWidget {
     void Füllen();
 
     void PlzOrtVerlassen();
-    void DatumGedreht(int tage);
-    void TageGedreht(int tage);
-    void TageBegrenzen(int bis);
-    void PeriodeBerechnen();
-    void EndeZeigen();
     void GrößendifferenzGeändert();
     void SchriftenFüllen();
 

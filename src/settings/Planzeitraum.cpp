@@ -1,0 +1,111 @@
+// The period of the plan among the settings.
+#include "settings/Planzeitraum.h"
+
+#include "core/Umwandlung.h"
+#include "core/tables.h"
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "fenster/Terminbox.h"
+#include "settings/Einstellungen.h"
+
+#include <QHBoxLayout>
+
+namespace altardienst {
+namespace {
+
+constexpr int WenigsteTage = 7;
+constexpr int MeisteTageBeiEingabe = 180;    // as in the start dialog
+constexpr int MeisteTageBeimVerlassen = 120; // the two differ, and both hold
+
+QLayout *Reihe(std::initializer_list<QWidget *> controls)
+{
+    auto *reihe = new QHBoxLayout;
+    reihe->setSpacing(8);
+    for (QWidget *control : controls)
+        reihe->addWidget(control);
+    reihe->addStretch();
+    return reihe;
+}
+
+} // namespace
+
+Planzeitraum::Planzeitraum()
+    : Datumsen(Textfeld("Datumsen")),
+      SpinButton1(new SpinButton("SpinButton1", "Startdatum um einen Tag ändern")),
+      tagi(Beschriftung("tagi", "")), tagilein(ZahlboxAnlegen("tagilein", "Änderung1", "Tage")),
+      Endet(Beschriftung("Endet", "")), Dayig(Beschriftung("Dayig", ""))
+{
+}
+
+QLayout *Planzeitraum::Anordnen() const
+{
+    auto *raster = new QGridLayout;
+    raster->addWidget(Beschriftung("", "Startberechnungsdatum für den Meßdienerplan:", Datumsen), 0,
+                      0, 1, 5);
+    Datumsen->setFixedWidth(100);
+    raster->addLayout(Reihe({Datumsen, SpinButton1, tagi}), 1, 0, 1, 5);
+    ZahlboxAnordnen(raster, 2, 0, "Anzahl Tage: ", tagilein);
+    raster->addLayout(Reihe({Beschriftung("", "bis zum:"), Endet, Dayig}), 3, 0, 1, 5);
+    raster->setColumnStretch(4, 1);
+    return raster;
+}
+
+void Planzeitraum::Verbinden()
+{
+    BeiEingabetaste(Datumsen, [this] { Berechnen(); });
+    SchritteVerbinden(nullptr, nullptr, SpinButton1, [this](int tage) { DatumGedreht(tage); });
+    SchritteVerbinden(nullptr, nullptr, tagilein.Spin, [this](int tage) { TageGedreht(tage); });
+    BeiEingabetaste(tagilein.Feld, Abgefangen([this] { TageBegrenzen(MeisteTageBeiEingabe); }));
+}
+
+void Planzeitraum::TageVerlassen()
+{
+    TageBegrenzen(MeisteTageBeimVerlassen);
+}
+
+void Planzeitraum::Zeigen() const
+{
+    Setzen(Datumsen, KurzesDatum(Konfig.StartDatum));
+    ZahlSetzen(tagilein.Feld, Konfig.Tage);
+}
+
+void Planzeitraum::DatumGedreht(int tage)
+{
+    Schrittweise([&] { TageWeiter(Datumsen, tage); }, [&] { Berechnen(); },
+                 [&] { Datumsen->setFocus(); })();
+}
+
+/// Not clipped: that is done when the box is left.
+void Planzeitraum::TageGedreht(int tage)
+{
+    QLineEdit *feld = tagilein.Feld;
+    Schrittweise([&] { ZahlSetzen(feld, Int16(ZahlIn(feld)) + tage); },
+                 [&] { Konfig.Tage = ZahlIn(feld); }, [&] { Berechnen(); },
+                 [&] { feld->setFocus(); })();
+}
+
+void Planzeitraum::TageBegrenzen(int bis)
+{
+    Konfig.Tage = Begrenzen(tagilein.Feld, WenigsteTage, bis);
+    EndeZeigen();
+}
+
+void Planzeitraum::Berechnen()
+{
+    const auto datum = [this] { return DatumLesen(TextVon(Datumsen)); };
+    Schrittweise([&] { AlsKurzesDatum(Datumsen); },
+                 [&] {
+                     StartDatumSetzen(datum());
+                     Setzen(Datumsen, KurzesDatum(Konfig.StartDatum));
+                 },
+                 [&] { Setzen(tagi, WochentagName(datum())); }, [&] { EndeZeigen(); })();
+}
+
+void Planzeitraum::EndeZeigen()
+{
+    const Datum ende = DatumLesen(TextVon(Datumsen)) + ZahlIn(tagilein.Feld);
+    Setzen(Endet, KurzesDatum(ende));
+    Setzen(Dayig, WochentagName(ende));
+}
+
+} // namespace altardienst
