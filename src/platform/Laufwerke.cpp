@@ -1,194 +1,21 @@
-// The machine's own file system.
+// The machine's own file system: where the program's directory, the diskette and the media lie.
 #include "platform/Laufwerke.h"
 
 #include "core/Laufzeitfehler.h"
+#include "platform/Dateizugriff.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
 #include <cstdlib>
-#include <memory>
 #include <sstream>
 
 #ifdef _WIN32
-#include <io.h>
 #include <windows.h>
-#else
-#include <unistd.h>
 #endif
 
 namespace altardienst {
 namespace {
 
 namespace fs = std::filesystem;
-
-struct Schließer {
-    void operator()(std::FILE *datei) const { std::fclose(datei); }
-};
-using Datei = std::unique_ptr<std::FILE, Schließer>;
-
-Datei Öffnen(const fs::path &pfad, const char *art)
-{
-#ifdef _WIN32
-    return Datei(_wfopen(pfad.c_str(), fs::path(art).c_str()));
-#else
-    return Datei(std::fopen(pfad.c_str(), art));
-#endif
-}
-
-[[noreturn]] void Gescheitert(int fehler, Laufzeitfehler::Art wennNichtDa)
-{
-    switch (fehler) {
-    case ENOENT:
-    case ENOTDIR:
-        throw Laufzeitfehler(wennNichtDa);
-    case ENOSPC:
-    case EFBIG:
-#ifdef EDQUOT
-    case EDQUOT:
-#endif
-        throw Laufzeitfehler(Laufzeitfehler::DatenträgerVoll);
-    default:
-        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
-    }
-}
-
-std::string Lesen(const fs::path &pfad)
-{
-    Datei datei = Öffnen(pfad, "rb");
-    if (!datei)
-        Gescheitert(errno, Laufzeitfehler::DateiNichtGefunden);
-    std::error_code unbekannt;
-    auto größe = fs::file_size(pfad, unbekannt);
-    std::string inhalt;
-    if (!unbekannt && größe < (std::uintmax_t(1) << 30))
-        inhalt.reserve(größe + 1);
-    constexpr std::size_t stück = std::size_t(1) << 16;
-    while (true) {
-        std::size_t bisher = inhalt.size();
-        inhalt.resize(bisher + stück);
-        std::size_t gelesen = std::fread(inhalt.data() + bisher, 1, stück, datei.get());
-        inhalt.resize(bisher + gelesen);
-        if (std::ferror(datei.get()))
-            Gescheitert(errno, Laufzeitfehler::DateiNichtGefunden);
-        if (gelesen < stück)
-            return inhalt;
-    }
-}
-
-/// Returns when the medium itself holds what was written.
-bool Durchschreiben(std::FILE *datei)
-{
-#ifdef _WIN32
-    return std::fflush(datei) == 0 && _commit(_fileno(datei)) == 0;
-#else
-    return std::fflush(datei) == 0 && fsync(fileno(datei)) == 0;
-#endif
-}
-
-void Ausgeben(const fs::path &pfad, const char *art, std::string_view inhalt,
-              bool durchschreiben = false)
-{
-    Datei datei = Öffnen(pfad, art);
-    if (!datei)
-        Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
-    if (std::fwrite(inhalt.data(), 1, inhalt.size(), datei.get()) != inhalt.size())
-        Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
-    if (durchschreiben && !Durchschreiben(datei.get()))
-        Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
-    if (std::fclose(datei.release()) != 0) // what is still buffered may fail here
-        Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
-}
-
-bool IstDatei(const fs::path &pfad)
-{
-    std::error_code fehler;
-    return fs::exists(pfad, fehler) && !fs::is_directory(pfad, fehler);
-}
-
-void Kopieren(const fs::path &von, const fs::path &nach)
-{
-    std::error_code fehler;
-    fs::path ziel = nach;
-    std::optional<fs::perms> rechte;
-    if (fs::exists(nach, fehler)) {
-        ziel = fs::canonical(nach, fehler); // behind a link, so that the link stays one
-        rechte = fs::status(ziel, fehler).permissions();
-        const bool schreibbar = (*rechte & fs::perms::owner_write) != fs::perms::none;
-        if (fs::equivalent(von, ziel, fehler) || !schreibbar)
-            throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
-    }
-    fs::path daneben = ziel;
-    daneben += ".neu";
-    const std::string inhalt = Lesen(von);
-    try {
-        Ausgeben(daneben, "wb", inhalt, true);
-        if (rechte) // who may read the file stays; a medium that knows no rights keeps none
-            fs::permissions(daneben, *rechte, fehler);
-        fs::rename(daneben, ziel, fehler);
-        if (fehler)
-            Gescheitert(fehler.value(), Laufzeitfehler::PfadNichtGefunden);
-    } catch (const Laufzeitfehler &) {
-        fs::remove(daneben, fehler);
-        throw;
-    }
-}
-
-std::optional<Text> Suchen(const fs::path &verzeichnis, const Text &name)
-{
-#ifndef _WIN32
-    if (IstDatei(verzeichnis / PfadAus(name)))
-        return name;
-#endif
-    std::optional<Text> gefunden;
-    Text gesucht = Klein(name);
-    std::error_code fehler;
-    fs::directory_iterator ende;
-    for (fs::directory_iterator i(verzeichnis, fehler); !fehler && i != ende; i.increment(fehler)) {
-        Text gespeichert = TextVon(i->path().filename());
-        if (Klein(gespeichert) == gesucht && (!gefunden || gespeichert < *gefunden) &&
-            IstDatei(i->path()))
-            gefunden = gespeichert;
-    }
-    return gefunden;
-}
-
-Verzeichnisinhalt Auflisten(const fs::path &verzeichnis)
-{
-    std::error_code fehler;
-    Verzeichnisinhalt inhalt;
-    fs::directory_iterator ende;
-    fs::directory_iterator i(verzeichnis, fehler);
-    for (; !fehler && i != ende; i.increment(fehler)) {
-        Text name = TextVon(i->path().filename());
-        if (name.starts_with('.'))
-            continue;
-        std::error_code unbekannt;
-        bool istVerzeichnis = i->is_directory(unbekannt);
-        (istVerzeichnis ? inhalt.Verzeichnisse : inhalt.Dateien).push_back(std::move(name));
-    }
-    if (fehler)
-        Gescheitert(fehler.value(), Laufzeitfehler::PfadNichtGefunden);
-    std::ranges::sort(inhalt.Verzeichnisse);
-    std::ranges::sort(inhalt.Dateien);
-    return inhalt;
-}
-
-void AttributeLöschen(const fs::path &pfad)
-{
-    std::error_code fehler;
-    fs::permissions(pfad, fs::perms::owner_write, fs::perm_options::add, fehler);
-    if (fehler)
-        Gescheitert(fehler.value(), Laufzeitfehler::DateiNichtGefunden);
-}
-
-void VerzeichnisAnlegen(const fs::path &pfad)
-{
-    std::error_code fehler;
-    fs::create_directories(pfad, fehler);
-    if (fehler || !fs::is_directory(pfad, fehler))
-        Gescheitert(fehler.value(), Laufzeitfehler::PfadNichtGefunden);
-}
 
 #ifndef _WIN32
 
@@ -272,7 +99,7 @@ std::vector<Wurzel> Wurzeln()
     wurzeln.push_back({"Persönlicher Ordner", Heimverzeichnis()});
     wurzeln.push_back({"Diskette", Diskette()});
     try {
-        std::ranges::move(EingehängteDatenträger(Lesen("/proc/self/mounts")),
+        std::ranges::move(EingehängteDatenträger(dateizugriff::Lesen("/proc/self/mounts")),
                           std::back_inserter(wurzeln));
     } catch (const Laufzeitfehler &) {
         // A machine without such a table has no media to offer.
@@ -337,18 +164,14 @@ LaufwerkeDienst Systemlaufwerke()
     dienst.Programmverzeichnis = Programmverzeichnis;
     dienst.Diskette = Diskette;
     dienst.Wurzeln = Wurzeln;
-    dienst.Suchen = Suchen;
-    dienst.Auflisten = Auflisten;
-    dienst.Lesen = Lesen;
-    dienst.Schreiben = [](const fs::path &pfad, std::string_view inhalt) {
-        Ausgeben(pfad, "wb", inhalt);
-    };
-    dienst.Anhängen = [](const fs::path &pfad, std::string_view inhalt) {
-        Ausgeben(pfad, "ab", inhalt);
-    };
-    dienst.Kopieren = Kopieren;
-    dienst.AttributeLöschen = AttributeLöschen;
-    dienst.VerzeichnisAnlegen = VerzeichnisAnlegen;
+    dienst.Suchen = dateizugriff::Suchen;
+    dienst.Auflisten = dateizugriff::Auflisten;
+    dienst.Lesen = dateizugriff::Lesen;
+    dienst.Schreiben = dateizugriff::Schreiben;
+    dienst.Anhängen = dateizugriff::Anhängen;
+    dienst.Kopieren = dateizugriff::Kopieren;
+    dienst.AttributeLöschen = dateizugriff::AttributeLöschen;
+    dienst.VerzeichnisAnlegen = dateizugriff::VerzeichnisAnlegen;
     return dienst;
 }
 

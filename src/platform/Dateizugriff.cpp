@@ -1,0 +1,202 @@
+// The files themselves: read, written, copied and found on whatever drive they lie.
+#include "platform/Dateizugriff.h"
+
+#include "core/Laufzeitfehler.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace altardienst::dateizugriff {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Schließer {
+    void operator()(std::FILE *datei) const { std::fclose(datei); }
+};
+using Datei = std::unique_ptr<std::FILE, Schließer>;
+
+Datei Öffnen(const fs::path &pfad, const char *art)
+{
+#ifdef _WIN32
+    return Datei(_wfopen(pfad.c_str(), fs::path(art).c_str()));
+#else
+    return Datei(std::fopen(pfad.c_str(), art));
+#endif
+}
+
+[[noreturn]] void Gescheitert(int fehler, Laufzeitfehler::Art wennNichtDa)
+{
+    switch (fehler) {
+    case ENOENT:
+    case ENOTDIR:
+        throw Laufzeitfehler(wennNichtDa);
+    case ENOSPC:
+    case EFBIG:
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
+        throw Laufzeitfehler(Laufzeitfehler::DatenträgerVoll);
+    default:
+        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
+    }
+}
+
+/// Returns when the medium itself holds what was written.
+bool Durchschreiben(std::FILE *datei)
+{
+#ifdef _WIN32
+    return std::fflush(datei) == 0 && _commit(_fileno(datei)) == 0;
+#else
+    return std::fflush(datei) == 0 && fsync(fileno(datei)) == 0;
+#endif
+}
+
+void Ausgeben(const fs::path &pfad, const char *art, std::string_view inhalt,
+              bool durchschreiben = false)
+{
+    Datei datei = Öffnen(pfad, art);
+    if (!datei)
+        Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
+    if (std::fwrite(inhalt.data(), 1, inhalt.size(), datei.get()) != inhalt.size())
+        Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
+    if (durchschreiben && !Durchschreiben(datei.get()))
+        Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
+    if (std::fclose(datei.release()) != 0) // what is still buffered may fail here
+        Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
+}
+
+bool IstDatei(const fs::path &pfad)
+{
+    std::error_code fehler;
+    return fs::exists(pfad, fehler) && !fs::is_directory(pfad, fehler);
+}
+
+} // namespace
+
+std::string Lesen(const fs::path &pfad)
+{
+    Datei datei = Öffnen(pfad, "rb");
+    if (!datei)
+        Gescheitert(errno, Laufzeitfehler::DateiNichtGefunden);
+    std::error_code unbekannt;
+    auto größe = fs::file_size(pfad, unbekannt);
+    std::string inhalt;
+    if (!unbekannt && größe < (std::uintmax_t(1) << 30))
+        inhalt.reserve(größe + 1);
+    constexpr std::size_t stück = std::size_t(1) << 16;
+    while (true) {
+        std::size_t bisher = inhalt.size();
+        inhalt.resize(bisher + stück);
+        std::size_t gelesen = std::fread(inhalt.data() + bisher, 1, stück, datei.get());
+        inhalt.resize(bisher + gelesen);
+        if (std::ferror(datei.get()))
+            Gescheitert(errno, Laufzeitfehler::DateiNichtGefunden);
+        if (gelesen < stück)
+            return inhalt;
+    }
+}
+
+void Schreiben(const fs::path &pfad, std::string_view inhalt)
+{
+    Ausgeben(pfad, "wb", inhalt);
+}
+
+void Anhängen(const fs::path &pfad, std::string_view inhalt)
+{
+    Ausgeben(pfad, "ab", inhalt);
+}
+
+void Kopieren(const fs::path &von, const fs::path &nach)
+{
+    std::error_code fehler;
+    fs::path ziel = nach;
+    std::optional<fs::perms> rechte;
+    if (fs::exists(nach, fehler)) {
+        ziel = fs::canonical(nach, fehler); // behind a link, so that the link stays one
+        rechte = fs::status(ziel, fehler).permissions();
+        const bool schreibbar = (*rechte & fs::perms::owner_write) != fs::perms::none;
+        if (fs::equivalent(von, ziel, fehler) || !schreibbar)
+            throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
+    }
+    fs::path daneben = ziel;
+    daneben += ".neu";
+    const std::string inhalt = Lesen(von);
+    try {
+        Ausgeben(daneben, "wb", inhalt, true);
+        if (rechte) // who may read the file stays; a medium that knows no rights keeps none
+            fs::permissions(daneben, *rechte, fehler);
+        fs::rename(daneben, ziel, fehler);
+        if (fehler)
+            Gescheitert(fehler.value(), Laufzeitfehler::PfadNichtGefunden);
+    } catch (const Laufzeitfehler &) {
+        fs::remove(daneben, fehler);
+        throw;
+    }
+}
+
+std::optional<Text> Suchen(const fs::path &verzeichnis, const Text &name)
+{
+#ifndef _WIN32
+    if (IstDatei(verzeichnis / PfadAus(name)))
+        return name;
+#endif
+    std::optional<Text> gefunden;
+    Text gesucht = Klein(name);
+    std::error_code fehler;
+    fs::directory_iterator ende;
+    for (fs::directory_iterator i(verzeichnis, fehler); !fehler && i != ende; i.increment(fehler)) {
+        Text gespeichert = TextVon(i->path().filename());
+        if (Klein(gespeichert) == gesucht && (!gefunden || gespeichert < *gefunden) &&
+            IstDatei(i->path()))
+            gefunden = gespeichert;
+    }
+    return gefunden;
+}
+
+Verzeichnisinhalt Auflisten(const fs::path &verzeichnis)
+{
+    std::error_code fehler;
+    Verzeichnisinhalt inhalt;
+    fs::directory_iterator ende;
+    fs::directory_iterator i(verzeichnis, fehler);
+    for (; !fehler && i != ende; i.increment(fehler)) {
+        Text name = TextVon(i->path().filename());
+        if (name.starts_with('.'))
+            continue;
+        std::error_code unbekannt;
+        bool istVerzeichnis = i->is_directory(unbekannt);
+        (istVerzeichnis ? inhalt.Verzeichnisse : inhalt.Dateien).push_back(std::move(name));
+    }
+    if (fehler)
+        Gescheitert(fehler.value(), Laufzeitfehler::PfadNichtGefunden);
+    std::ranges::sort(inhalt.Verzeichnisse);
+    std::ranges::sort(inhalt.Dateien);
+    return inhalt;
+}
+
+void AttributeLöschen(const fs::path &pfad)
+{
+    std::error_code fehler;
+    fs::permissions(pfad, fs::perms::owner_write, fs::perm_options::add, fehler);
+    if (fehler)
+        Gescheitert(fehler.value(), Laufzeitfehler::DateiNichtGefunden);
+}
+
+void VerzeichnisAnlegen(const fs::path &pfad)
+{
+    std::error_code fehler;
+    fs::create_directories(pfad, fehler);
+    if (fehler || !fs::is_directory(pfad, fehler))
+        Gescheitert(fehler.value(), Laufzeitfehler::PfadNichtGefunden);
+}
+
+} // namespace altardienst::dateizugriff

@@ -1,0 +1,21 @@
+// The files themselves: read, written, copied and found on whatever drive they lie. What each
+// routine does and how it fails stands beside its name in `LaufwerkeDienst`, through which all but
+// that service itself call it.
+#pragma once
+
+#include "platform/Laufwerke.h"
+
+namespace altardienst::dateizugriff {
+
+using std::filesystem::path;
+
+std::optional<Text> Suchen(const path &verzeichnis, const Text &name);
+Verzeichnisinhalt Auflisten(const path &verzeichnis);
+std::string Lesen(const path &pfad);
+void Schreiben(const path &pfad, std::string_view inhalt);
+void Anhängen(const path &pfad, std::string_view inhalt);
+void Kopieren(const path &von, const path &nach);
+void AttributeLöschen(const path &pfad);
+void VerzeichnisAnlegen(const path &pfad);
+
+} // namespace altardienst::dateizugriff
