@@ -21,13 +21,6 @@
 namespace altardienst {
 namespace {
 
-/// The PDF file chosen last.
-QString &LetztePdfDatei()
-{
-    static QString datei;
-    return datei;
-}
-
 /// Where files go that are named without a directory: nobody would find them in that of the
 /// process.
 QDir Ablage()
@@ -57,6 +50,12 @@ template <class Control> Control *Option(const char *name, const QString &text)
 }
 
 } // namespace
+
+QString &LetztePdfDatei()
+{
+    static QString datei;
+    return datei;
+}
 
 Druckerliste EingerichteteDrucker()
 {

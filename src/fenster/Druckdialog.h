@@ -23,6 +23,9 @@ struct Druckerliste {
 /// Those that the system has.
 Druckerliste EingerichteteDrucker();
 
+/// The PDF file chosen last, which the next dialog proposes again; none at the program's start.
+QString &LetztePdfDatei();
+
 /// Works without any printer: then only the PDF file can be chosen.
 class DruckdialogForm : public QDialog {
   public:

@@ -2,6 +2,7 @@
 #include "fenster/Fensterstand.h"
 
 #include "fenster/Anwendung.h"
+#include "fenster/Druckdialog.h"
 #include "platform/Drucker.h"
 
 #include <QAbstractButton>
@@ -115,6 +116,7 @@ std::vector<Text> Stumme(QWidget *fenster)
 Fensterstand::~Fensterstand()
 {
     AlleLöschen();
+    LetztePdfDatei().clear(); // the next dialog would propose it
 }
 
 void Fensterstand::Zeigen(QWidget *fenster)
