@@ -1,7 +1,7 @@
 // Birthdays and jubilees: what is chosen, listed, printed and put onto labels.
 #include "anniversaries/JubiGebustand.h"
 
-#include "fenster/Anwendung.h"
+#include "fenster/Heimkehr.h"
 
 #include <QApplication>
 
@@ -256,19 +256,10 @@ TEST_F(JubiGebuFormTest, AbgebrochenDrucktKeinKnopfEtwas)
 
 TEST_F(JubiGebuFormTest, EndeUndSchließenGebenDasHauptfensterZurück)
 {
-    QWidget haupt;
-    HauptfensterSetzen(&haupt);
-    for (const bool ende : {true, false}) {
-        haupt.setEnabled(false);
+    GibtDasHauptfensterZurück([this] {
         Öffnen();
-        if (ende)
-            Drücken("Ende");
-        else
-            form->close();
-        EXPECT_TRUE(Warten([&] { return form.isNull(); }));
-        EXPECT_TRUE(haupt.isEnabled());
-        EXPECT_TRUE(haupt.isMaximized());
-    }
+        return form.data();
+    });
 }
 
 TEST_F(JubiGebuFormTest, TabFolgtDemAugeUndKeinControlIstStumm)

@@ -3,35 +3,24 @@
 #pragma once
 
 #include "anniversaries/JubiGebuForm.h"
-#include "fenster/Fensterstand.h"
-#include "printing/Druckprotokoll.h"
-
-#include <QPointer>
-
-#include <utility>
+#include "printing/Papierfenster.h"
 
 namespace altardienst {
 
 /// Today is 21.11.2026. Born in January: Anna on the 20th, Lea (a helper) on the 9th; in March: Ben
 /// and Max (a helper). Members for 0 years: Anna since 01.05.2026, Ben since 01.01.2026; for 17:
 /// Cara. The sheets 0 to 9 have four rows and three columns.
-class JubiGebustand : public Fensterstand {
+class JubiGebustand : public Papierfenster<JubiGebuForm> {
   protected:
-    JubiGebustand() : zuvor(std::exchange(Drucker, &Papier))
+    JubiGebustand()
     {
         Diener("Anna", {2010, 1, 20}, {2026, 5, 1});
         Diener("Ben", {2012, 3, 31}, {2026, 1, 1});
         Diener("Cara", {1999, 12, 24}, {2009, 5, 17});
         NeuerHelfer("Lea", {1980, 1, 9});
         NeuerHelfer("Max", {1970, 3, 1});
-        for (int k = 0; k < 10; ++k) {
-            Etikett.Name[k] = "Format " + std::to_string(k);
-            Etikett.Reihen[k] = 4;
-            Etikett.Spalten[k] = 3;
-        }
+        BögenAnlegen();
     }
-    ~JubiGebustand() override { Drucker = zuvor; }
-
     static void Diener(const Text &vorname, Kalendertag geboren, Kalendertag eingetreten)
     {
         const int i = MeßdienerAnlegen(vorname, "Berg");
@@ -46,17 +35,6 @@ class JubiGebustand : public Fensterstand {
     {
         Helfer.Geburtstag[HelferAnlegen(vorname, "Lang", "Lektor")] = DatumAus(geboren);
     }
-
-    void Öffnen()
-    {
-        form = new JubiGebuForm;
-        form->setAttribute(Qt::WA_DeleteOnClose);
-        Zeigen(form);
-    }
-
-    QWidget *Control(const char *name) const { return Finden(form, name); }
-    Text Zeigt(const char *name) const { return Aufschrift(Control(name)); }
-    void Drücken(const char *name) const { Klick(Control(name)); }
 
     /// Clicks on the circle of an option.
     void Wählen(const char *name) const
@@ -74,24 +52,6 @@ class JubiGebustand : public Fensterstand {
             namen += (i > 0 ? " " : "") + liste.Vorname[i];
         return namen;
     }
-
-    /// Presses a button that prints and returns the lines that come onto the paper.
-    std::vector<Text> Gedruckt(const char *knopf)
-    {
-        Papier.Leeren();
-        Drücken(knopf);
-        std::vector<Text> zeilen;
-        for (const Text &zeile : Papier.Zeilen)
-            if (zeile.starts_with("Print \"") && zeile != "Print \"\"")
-                zeilen.push_back(zeile.substr(7, zeile.size() - 8));
-        return zeilen;
-    }
-
-    Druckprotokoll Papier;
-    QPointer<JubiGebuForm> form;
-
-  private:
-    DruckerDienst *zuvor;
 };
 
 } // namespace altardienst

@@ -1,7 +1,7 @@
 // The settings: words, filling, texts, orientation, flag boxes, fonts, and leaving.
 #include "settings/Konfigurationsstand.h"
 
-#include "fenster/Anwendung.h"
+#include "fenster/Heimkehr.h"
 
 #include <QAbstractItemView>
 
@@ -296,19 +296,10 @@ TEST_F(KonfigurationFormTest, EineSchriftAusDerAufgeklapptenListe)
 
 TEST_F(KonfigurationFormTest, EndeUndSchließenGebenDasHauptfensterZurück)
 {
-    QWidget haupt;
-    HauptfensterSetzen(&haupt);
-    for (const bool ende : {true, false}) {
-        haupt.setEnabled(false);
+    GibtDasHauptfensterZurück([this] {
         Öffnen();
-        if (ende)
-            Klick(Control("Ende"));
-        else
-            form->close();
-        EXPECT_TRUE(Warten([&] { return form.isNull(); }));
-        EXPECT_TRUE(haupt.isEnabled());
-        EXPECT_TRUE(haupt.isMaximized());
-    }
+        return form.data();
+    });
 }
 
 TEST_F(KonfigurationFormTest, TabFolgtDemAugeUndKeinControlIstStumm)

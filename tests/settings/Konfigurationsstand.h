@@ -1,22 +1,18 @@
 // The fixture of the tests of the settings: a parish whose settings all lie within their limits.
 #pragma once
 
-#include "fenster/Fensterstand.h"
-#include "printing/Druckprotokoll.h"
+#include "printing/Papierfenster.h"
 #include "settings/KonfigurationForm.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QPointer>
-
-#include <utility>
 
 namespace altardienst {
 
 /// Today is Saturday, 21.11.2026; the plan starts a week later.
-class Konfigurationsstand : public Fensterstand {
+class Konfigurationsstand : public Papierfenster<KonfigurationForm> {
   protected:
-    Konfigurationsstand() : zuvor(std::exchange(Drucker, &Papier))
+    Konfigurationsstand()
     {
         Konfig.Gemeinde = "St. Ägid";
         Konfig.Straße = "Kirchplatz 1";
@@ -34,22 +30,7 @@ class Konfigurationsstand : public Fensterstand {
         Konfig.StartDatum = Heute + 7;
         Papier.Schriftarten = {"Zeta", "Liberation Sans", "Alpha"};
     }
-    ~Konfigurationsstand() override { Drucker = zuvor; }
 
-    void Öffnen()
-    {
-        delete form;
-        form = new KonfigurationForm;
-        form->setAttribute(Qt::WA_DeleteOnClose);
-        Zeigen(form);
-    }
-
-    QWidget *Control(const char *name) const { return Finden(form, name); }
-    Text Zeigt(const char *name) const { return Aufschrift(Control(name)); }
-    void Drehen(const char *spin, const char *richtung) const
-    {
-        Klick(Finden(Control(spin), richtung));
-    }
     void Enter(const char *name) const { QTest::keyClick(Control(name), Qt::Key_Return); }
 
     /// Pastes over the content of a box, which is one change.
@@ -62,12 +43,6 @@ class Konfigurationsstand : public Fensterstand {
     }
     void Leeren(const char *name) const { Tippen(Control(name), ""); }
     void Verlassen() const { FokusAuf(Control("Ende")); }
-
-    Druckprotokoll Papier;
-    QPointer<KonfigurationForm> form;
-
-  private:
-    DruckerDienst *zuvor;
 };
 
 } // namespace altardienst

@@ -1,8 +1,7 @@
 // The settings of the proposed start, and of the services that are set by hand.
 #include "settings/ZusatzKonfigForm.h"
 
-#include "fenster/Anwendung.h"
-#include "fenster/Fensterstand.h"
+#include "fenster/Heimkehr.h"
 
 #include <QGroupBox>
 #include <QPointer>
@@ -181,19 +180,10 @@ TEST_F(ZusatzKonfigFormTest, DerDrehknopfBewegtDieWochenUndGibtDenFokus)
 
 TEST_F(ZusatzKonfigFormTest, EndeUndSchließenGebenDasHauptfensterZurück)
 {
-    QWidget haupt;
-    HauptfensterSetzen(&haupt);
-    for (const bool ende : {true, false}) {
-        haupt.setEnabled(false);
+    GibtDasHauptfensterZurück([this] {
         Öffnen();
-        if (ende)
-            Klick(Control("Ende"));
-        else
-            form->close();
-        EXPECT_TRUE(Warten([&] { return form.isNull(); }));
-        EXPECT_TRUE(haupt.isEnabled());
-        EXPECT_TRUE(haupt.isMaximized());
-    }
+        return form.data();
+    });
 }
 
 TEST_F(ZusatzKonfigFormTest, TabFolgtDemAugeUndPasstAufDenKleinstenBildschirm)
