@@ -1,16 +1,10 @@
 // A long random walk through the editor of the groups against a model of its rules.
 #include "people/GruppeForm.h"
-#include "people/Modellschirm.h"
+#include "people/Lauf.h"
 #include "people/Personen.h"
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QPointer>
 
 namespace altardienst {
 namespace {
-
-constexpr int Schritte = 20000;
 
 struct Modell : Modellschirm {
     std::vector<Text> Namen;
@@ -135,76 +129,24 @@ struct Modell : Modellschirm {
     }
 };
 
-class LaufGruppeForm : public Fensterstand {
+class LaufGruppeForm : public Lauf<GruppeForm, Modell> {
   protected:
-    LaufGruppeForm()
+    LaufGruppeForm() : Lauf(20261122)
     {
         for (const char *name : {"Rot", "Blau", "Grün", "Gelb"})
             GruppeAnlegen(name);
         for (int i = 0; i < 8; ++i)
             Meßdiener.Gruppe[MeßdienerAnlegen("Vor" + std::to_string(i), "Nach")] =
                 Gruppe.Bezeichnung[i % 5];
-        Öffnen();
-        modell.Beginnen();
+        Beginnen();
     }
 
-    void Öffnen()
-    {
-        form = new GruppeForm;
-        form->show();
-    }
-    QWidget *C(const Text &name) { return Finden(form.data(), name.c_str()); }
-    void Schreiben(const char *box, const Text &text)
-    {
-        Wanderer::Schreiben(C(box), text);
-        modell.Setzen(box, text);
-        zuletzt = Text(box) + "=" + text;
-    }
-    void Handlung();
-    void Neu();
-    void Schließen();
-    void Vergleichen();
+    void Handlung() override;
+    void Vergleichen() override;
 
     const std::vector<const char *> namen = {"Rot",   "Blau", "Grün", "Gelb", "Weiß",
                                              "a,\"b", "Lila", "Grau", "Rosa", ""};
-    Wanderer wanderer{20261122};
-    QPointer<GruppeForm> form;
-    Modell modell;
-    Text zuletzt;
 };
-
-void LaufGruppeForm::Neu()
-{
-    Finden<QAbstractButton>(form, "NEWGroup")->click();
-    QWidget *neu = Fenster("NeuGruppe");
-    const Text name = wanderer.Eines(namen);
-    Finden<QLineEdit>(neu, "GBezeichnung")->setText(Anzeige(name));
-    zuletzt = "neu " + name;
-    if (wanderer.Wurf(4) > 0) {
-        Finden<QAbstractButton>(neu, "OKButton")->click();
-        modell.Neu(name);
-    }
-    if (neu->isVisible())
-        neu->close();
-    Wanderer::Aufräumen();
-}
-
-void LaufGruppeForm::Schließen()
-{
-    const bool ende = wanderer.Wurf(2) == 0;
-    zuletzt = ende ? "Ende" : "schließen";
-    if (ende)
-        Finden<QAbstractButton>(form, "Ende")->click();
-    else
-        form->close();
-    const bool zu = modell.Schließen(ende);
-    ASSERT_EQ(form->isHidden(), zu);
-    if (!zu)
-        return;
-    delete form;
-    Öffnen();
-    modell.Öffnen();
-}
 
 void LaufGruppeForm::Handlung()
 {
@@ -212,25 +154,18 @@ void LaufGruppeForm::Handlung()
     if (wurf < 30)
         Schreiben("GBezeichnung", wanderer.Eines(namen));
     else if (wurf < 65) {
-        const int richtung = wanderer.Wurf(2) * 2 - 1;
-        if (wanderer.Wurf(2) == 0)
-            Wanderer::Drehen(C("DPM"), richtung);
-        else
-            Finden<QAbstractButton>(form, richtung > 0 ? "PLUS" : "MINUS")->click();
+        const int richtung = Richtung();
+        Geblättert(richtung);
         modell.Blättern(richtung);
-        zuletzt = richtung > 0 ? "vor" : "zurück";
     } else if (wurf < 75)
         Schreiben("Indexi", wurf == 74 ? wanderer.Eines({"", "-1", "x", "101", "3000000000"})
                                        : ZahlText(wanderer.Wurf(modell.Anzahl + 3)));
-    else if (wurf < 83 || modell.Anzahl > 95) {
-        const bool ja = wanderer.Wurf(3) > 0;
-        Antworten = {ja};
-        Finden<QAbstractButton>(form, "Löschend")->click();
-        modell.Löschen(ja);
-        zuletzt = "löschen";
-    } else if (wurf < 91)
-        Neu();
-    else
+    else if (wurf < 83 || modell.Anzahl > 95)
+        Löschen("Löschend");
+    else if (wurf < 91) {
+        const Text name = wanderer.Eines(namen);
+        Anlegen("NEWGroup", "NeuGruppe", {{"GBezeichnung", name}}, [&] { modell.Neu(name); });
+    } else
         Schließen();
 }
 
@@ -242,23 +177,12 @@ void LaufGruppeForm::Vergleichen()
         ASSERT_EQ(Gruppe.Bezeichnung[i], modell.N(i)) << i;
     for (int i = 0; i <= Meßdiener.Anzahl; ++i)
         ASSERT_EQ(Meßdiener.Gruppe[i], modell.Diener[static_cast<std::size_t>(i)]) << i;
-    for (const auto &[box, text] : modell.Texte)
-        ASSERT_EQ(Wanderer::Lesen(C(box)), text) << box;
-    ASSERT_EQ(GezeigteMeldungen, modell.Meldungen);
+    SchirmVergleichen();
 }
 
 TEST_F(LaufGruppeForm, TabellenUndFensterBleibenBeimModell)
 {
-    Text davor;
-    for (int schritt = 0; schritt < Schritte; ++schritt) {
-        davor = zuletzt;
-        Handlung();
-        Vergleichen();
-        if (HasFailure())
-            FAIL() << davor << ", then " << zuletzt << " at step " << schritt;
-        GezeigteMeldungen.clear();
-        modell.Meldungen.clear();
-    }
+    Laufen();
 }
 
 } // namespace

@@ -1,20 +1,17 @@
 // A long random walk through the editor of the servers against a model of its rules.
+#include "people/Lauf.h"
 #include "people/MeßdienerForm.h"
 #include "people/MeßdienerModell.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QCheckBox>
-#include <QPointer>
 #include <QRadioButton>
 
 namespace altardienst {
 namespace {
 
-constexpr int Schritte = 20000;
-class LaufMeßdienerForm : public Fensterstand {
+class LaufMeßdienerForm : public Lauf<MeßdienerForm, MeßdienerModell> {
   protected:
-    LaufMeßdienerForm()
+    LaufMeßdienerForm() : Lauf(20261121)
     {
         Gruppe.Bezeichnung[0] = "Rot";
         Gruppe.Bezeichnung[1] = "Blau";
@@ -30,49 +27,20 @@ class LaufMeßdienerForm : public Fensterstand {
             MesseDienerFest.Vorname[0][s] = "Anna";
             MesseDienerFest.Nachname[0][s] = nachnamen[static_cast<std::size_t>(s) % 4];
         }
-        Öffnen();
-        modell.Beginnen();
+        Beginnen();
     }
 
-    void Öffnen()
-    {
-        gefunden.clear();
-        form = new MeßdienerForm;
-        form->show();
-    }
-
-    QWidget *C(const Text &name)
-    {
-        QWidget *&control = gefunden[name];
-        if (!control)
-            control = Finden(form.data(), name.c_str());
-        return control;
-    }
-
-    void Handlung();
-    void Schreiben(const Text &box, const Text &text)
-    {
-        Wanderer::Schreiben(C(box), text);
-        modell.Setzen(box, text);
-    }
+    void Handlung() override;
     void Tippen();
     void Datumsschritt();
-    void Blättern();
     void Verlassen();
     void Auswählen();
     void Flag();
-    void Löschen();
     void Neu();
-    void Schließen();
-    void Vergleichen();
+    void Vergleichen() override;
 
     const std::vector<const char *> vornamen = {"Anna", "Bea", "Cem", "Dora", ""};
     const std::vector<const char *> nachnamen = {"Adler", "Berg", "Co,hn", ""};
-    Wanderer wanderer{20261121};
-    QPointer<MeßdienerForm> form;
-    std::map<Text, QWidget *> gefunden;
-    MeßdienerModell modell;
-    Text zuletzt;
 };
 
 void LaufMeßdienerForm::Tippen()
@@ -99,13 +67,12 @@ void LaufMeßdienerForm::Tippen()
                                    : wanderer.Eines({"Weg 1", "a \"b\", c", "ß", ""});
     }
     Schreiben(Boxen[k], text);
-    zuletzt += Text(Boxen[k]) + "=" + text;
 }
 
 void LaufMeßdienerForm::Datumsschritt()
 {
     const int einheit = wanderer.Wurf(3);
-    const int richtung = wanderer.Wurf(2) * 2 - 1;
+    const int richtung = Richtung();
     const int feld = wanderer.Wurf(13);
     if (feld < 2) {
         const Text box = feld == 0 ? "Gebutag" : "Eintritttdatum";
@@ -113,9 +80,7 @@ void LaufMeßdienerForm::Datumsschritt()
                                                      "mJahr",   "pJahr",   "mmTag",  "pptag",
                                                      "mmMonat", "ppMonat", "mmJahr", "ppJahr"};
         if (wanderer.Wurf(2) == 0)
-            Finden<QAbstractButton>(
-                form, knöpfe[static_cast<std::size_t>(feld * 6 + einheit * 2 + (richtung > 0))])
-                ->click();
+            Drücken(knöpfe[static_cast<std::size_t>(feld * 6 + einheit * 2 + (richtung > 0))]);
         else
             Wanderer::Drehen(C("Änderung" + std::to_string(feld * 3 + einheit + 1)), richtung);
         modell.Schritt(box, einheit, richtung);
@@ -132,18 +97,6 @@ void LaufMeßdienerForm::Datumsschritt()
             [&] { modell.Setzen("Groß", ZahlText(Int16Lesen(modell.Texte["Groß"]) + richtung)); });
     }
     zuletzt += richtung > 0 ? " auf" : " ab";
-}
-
-void LaufMeßdienerForm::Blättern()
-{
-    const int richtung = wanderer.Wurf(2) * 2 - 1;
-    const bool drehen = wanderer.Wurf(2) == 0;
-    if (drehen)
-        Wanderer::Drehen(C("DPM"), richtung);
-    else
-        Finden<QAbstractButton>(form, richtung > 0 ? "PLUS" : "MINUS")->click();
-    modell.Blättern(richtung, drehen);
-    zuletzt += richtung > 0 ? "vor" : "zurück";
 }
 
 void LaufMeßdienerForm::Verlassen()
@@ -188,7 +141,7 @@ void LaufMeßdienerForm::Flag()
                                                 "Check8", "Check9",  "Check10", "Check11"};
     const int k = wanderer.Wurf(14);
     if (k >= 12) {
-        Finden<QAbstractButton>(form, k == 12 ? "Norm" : "Oft")->click();
+        Drücken(k == 12 ? "Norm" : "Oft");
         return modell.Setzen("Haufigk", k == 12 ? "0" : "2");
     }
     auto *box = Finden<QCheckBox>(form, boxen[static_cast<std::size_t>(k)]);
@@ -201,64 +154,29 @@ void LaufMeßdienerForm::Flag()
     zuletzt += boxen[static_cast<std::size_t>(k)];
 }
 
-void LaufMeßdienerForm::Löschen()
-{
-    const bool ja = wanderer.Wurf(3) > 0;
-    Antworten = {ja};
-    Finden<QAbstractButton>(form, "Lösch")->click();
-    modell.Löschen(ja);
-    zuletzt += "löschen";
-}
-
 void LaufMeßdienerForm::Neu()
 {
-    Finden<QAbstractButton>(form, "NeuDiener")->click();
-    QWidget *neu = Fenster("NeuMeßdiener");
     const Text vor = wanderer.Eines(vornamen);
     const Text nach = wanderer.Eines(nachnamen);
-    Finden<QLineEdit>(neu, "Vornamen")->setText(Anzeige(vor));
-    Finden<QLineEdit>(neu, "Nachnamen")->setText(Anzeige(nach));
-    zuletzt += "neu " + vor + " " + nach;
-    if (wanderer.Wurf(4) > 0) {
-        Finden<QAbstractButton>(neu, "OKButton")->click();
+    Anlegen("NeuDiener", "NeuMeßdiener", {{"Vornamen", vor}, {"Nachnamen", nach}}, [&] {
         if (modell.IstDoppelt(vor, nach))
             modell.Meldungen.push_back("Doppelt eingeben! Nicht mit mir!!!!!");
         else
             modell.Neu(vor, nach);
-    }
-    if (neu->isVisible())
-        neu->close();
-    Wanderer::Aufräumen();
-}
-
-void LaufMeßdienerForm::Schließen()
-{
-    const bool ende = wanderer.Wurf(2) == 0;
-    zuletzt += ende ? "Ende" : "schließen";
-    if (ende)
-        Finden<QAbstractButton>(form, "Ende")->click();
-    else
-        form->close();
-    const bool zu = modell.Schließen(ende);
-    ASSERT_EQ(form->isHidden(), zu);
-    if (!zu)
-        return;
-    delete form;
-    Öffnen();
-    modell.Öffnen();
+    });
 }
 
 void LaufMeßdienerForm::Handlung()
 {
-    zuletzt.clear();
     const int wurf = wanderer.Wurf(100);
     if (wurf < 40 || wurf >= 97)
         Tippen();
     else if (wurf < 50)
         Datumsschritt();
-    else if (wurf < 70)
-        Blättern();
-    else if (wurf < 76)
+    else if (wurf < 70) {
+        const int richtung = Richtung();
+        modell.Blättern(richtung, Geblättert(richtung));
+    } else if (wurf < 76)
         Verlassen();
     else if (wurf < 80)
         Auswählen();
@@ -268,9 +186,8 @@ void LaufMeßdienerForm::Handlung()
         const Text nummer = wurf == 86 ? wanderer.Eines({"", "-1", "x", "3000000000"})
                                        : ZahlText(wanderer.Wurf(modell.Anzahl + 3));
         Schreiben("Datensätze", nummer);
-        zuletzt += "Nummer " + nummer;
     } else if (wurf < 95 || modell.Anzahl > Sätze - 8)
-        Löschen();
+        Löschen("Lösch");
     else if (wurf < 96)
         Neu();
     else
@@ -285,14 +202,12 @@ void LaufMeßdienerForm::Vergleichen()
     for (int i = 0; i < bis; ++i)
         ASSERT_EQ(Datensatz(Meßdiener, i), modell.S(i)) << "record " << i;
     ASSERT_TRUE(MeßdienerModell::Plätze() == modell.Messen);
-    for (const auto &[box, text] : modell.Texte)
-        ASSERT_EQ(Wanderer::Lesen(C(box)), text) << box;
     ASSERT_EQ(static_cast<QRadioButton *>(C("Oft"))->isChecked(), modell.Oft);
     ASSERT_EQ(static_cast<QCheckBox *>(C("Check3a"))->isChecked(),
               IstJa(modell.Texte["Dienstmittig"], 6));
     ASSERT_EQ(static_cast<QCheckBox *>(C("Check6"))->isChecked(),
               IstJa(modell.Texte["Abgewählt"], 1));
-    ASSERT_EQ(GezeigteMeldungen, modell.Meldungen);
+    SchirmVergleichen();
     if (C("Postleit")->hasFocus()) { // after a save that it stopped
         C("Vornamen")->setFocus();
         modell.PostleitzahlVerlassen("Postleit");
@@ -301,21 +216,7 @@ void LaufMeßdienerForm::Vergleichen()
 
 TEST_F(LaufMeßdienerForm, TabellenUndFensterBleibenBeimModell)
 {
-    std::deque<Text> verlauf;
-    for (int schritt = 0; schritt < Schritte; ++schritt) {
-        Handlung();
-        verlauf.push_back(zuletzt);
-        if (verlauf.size() > 8)
-            verlauf.pop_front();
-        Vergleichen();
-        if (HasFailure()) {
-            for (const Text &handlung : verlauf)
-                ADD_FAILURE() << handlung;
-            FAIL() << "at step " << schritt << ", record " << modell.Texte["Datensätze"];
-        }
-        GezeigteMeldungen.clear();
-        modell.Meldungen.clear();
-    }
+    Laufen();
 }
 
 } // namespace

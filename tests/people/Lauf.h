@@ -1,0 +1,154 @@
+// The fixture of the long random walks through the editors of the people against a model of their
+// rules.
+#pragma once
+
+#include "people/Modellschirm.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QPointer>
+
+#include <deque>
+#include <map>
+
+namespace altardienst {
+
+template <class Form, class Modell> class Lauf : public Fensterstand {
+  protected:
+    explicit Lauf(unsigned saat) : wanderer(saat) {}
+
+    /// Does one thing to the window and the same to the model, and says so in `zuletzt`.
+    virtual void Handlung() = 0;
+    /// Tables and window are as the model has them.
+    virtual void Vergleichen() = 0;
+
+    /// Opens the window over the tables as they stand.
+    void Beginnen()
+    {
+        Öffnen();
+        modell.Beginnen();
+    }
+
+    void Laufen()
+    {
+        constexpr int Schritte = 20000;
+        std::deque<Text> verlauf;
+        for (int schritt = 0; schritt < Schritte; ++schritt) {
+            zuletzt.clear();
+            Handlung();
+            verlauf.push_back(zuletzt);
+            if (verlauf.size() > 8)
+                verlauf.pop_front();
+            Vergleichen();
+            if (HasFailure()) {
+                for (const Text &handlung : verlauf)
+                    ADD_FAILURE() << handlung;
+                FAIL() << "at step " << schritt;
+            }
+            GezeigteMeldungen.clear();
+            modell.Meldungen.clear();
+        }
+    }
+
+    QWidget *C(const Text &name)
+    {
+        QWidget *&control = gefunden[name];
+        if (!control)
+            control = Finden(form.data(), name.c_str());
+        return control;
+    }
+    void Drücken(const char *knopf) { static_cast<QAbstractButton *>(C(knopf))->click(); }
+    void Schreiben(const Text &box, const Text &text)
+    {
+        Wanderer::Schreiben(C(box), text);
+        modell.Setzen(box, text);
+        zuletzt += box + "=" + text;
+    }
+
+    int Richtung() { return wanderer.Wurf(2) * 2 - 1; }
+
+    /// One record on or back; whether with the spin button.
+    bool Geblättert(int richtung)
+    {
+        const bool drehen = wanderer.Wurf(2) == 0;
+        if (drehen)
+            Wanderer::Drehen(C("DPM"), richtung);
+        else
+            Drücken(richtung > 0 ? "PLUS" : "MINUS");
+        zuletzt += richtung > 0 ? "vor" : "zurück";
+        return drehen;
+    }
+
+    void Löschen(const char *knopf)
+    {
+        const bool ja = wanderer.Wurf(3) > 0;
+        Antworten = {ja};
+        Drücken(knopf);
+        modell.Löschen(ja);
+        zuletzt += "löschen";
+    }
+
+    /// Fills the dialog that this button opens, and mostly presses OK; then the model runs `neu`.
+    void Anlegen(const char *knopf, const char *dialog,
+                 const std::vector<std::pair<const char *, Text>> &boxen,
+                 const std::function<void()> &neu)
+    {
+        Drücken(knopf);
+        QWidget *fenster = Fenster(dialog);
+        zuletzt += "neu";
+        for (const auto &[box, text] : boxen) {
+            Finden<QLineEdit>(fenster, box)->setText(Anzeige(text));
+            zuletzt += " " + text;
+        }
+        if (wanderer.Wurf(4) > 0) {
+            Finden<QAbstractButton>(fenster, "OKButton")->click();
+            neu();
+        }
+        if (fenster->isVisible())
+            fenster->close();
+        Wanderer::Aufräumen();
+    }
+
+    /// By the button or by the window's own close; opens it again if it went.
+    void Schließen()
+    {
+        const bool ende = wanderer.Wurf(2) == 0;
+        zuletzt += ende ? "Ende" : "schließen";
+        if (ende)
+            Drücken("Ende");
+        else
+            form->close();
+        const bool zu = modell.Schließen(ende);
+        ASSERT_EQ(form->isHidden(), zu);
+        if (!zu)
+            return;
+        delete form;
+        Öffnen();
+        modell.Öffnen();
+    }
+
+    /// All boxes, and what was told.
+    void SchirmVergleichen()
+    {
+        for (const auto &[box, text] : modell.Texte)
+            ASSERT_EQ(Wanderer::Lesen(C(box)), text) << box;
+        ASSERT_EQ(GezeigteMeldungen, modell.Meldungen);
+    }
+
+    Wanderer wanderer;
+    QPointer<Form> form;
+    Modell modell;
+    Text zuletzt;
+
+  private:
+    void Öffnen()
+    {
+        gefunden.clear();
+        form = new Form;
+        form->show();
+    }
+
+    std::map<Text, QWidget *> gefunden;
+};
+
+} // namespace altardienst
