@@ -21,7 +21,7 @@ constexpr std::array<const char *, 12> Mädchennamen = {
 constexpr std::array<const char *, 11> Jungennamen = {
     "Jakob",  "Matthias", "Jürgen", "Lukas",    "Simon",           "Andreas",
     "Markus", "Björn",    "Thomas", "Johannes", "Karl-Heinz Maria"};
-constexpr std::array<const char *, 13> Nachnamen = {"Müller",
+constexpr std::array<const char *, 19> Nachnamen = {"Müller",
                                                     "Brückner",
                                                     "Schäfer",
                                                     "Weiß",
@@ -31,8 +31,14 @@ constexpr std::array<const char *, 13> Nachnamen = {"Müller",
                                                     "Großmann",
                                                     "Bauer",
                                                     "Zöllner",
+                                                    "Wiesner",
+                                                    "Kaufmann",
+                                                    "Schürmann",
+                                                    "Thönnes",
+                                                    "Ebert",
                                                     "Kirchhof",
                                                     "Oberndörfer",
+                                                    "Hansen",
                                                     "Steinhäuser-Wagenbach"};
 constexpr std::array<const char *, 7> Straßen = {
     "Am Kirchberg", "Mühlbachweg",  "Bahnhofstraße",  "Sankt-Georgen-Platz",
@@ -57,7 +63,7 @@ Text VornameNr(int i)
 
 Text NachnameNr(int i)
 {
-    return Reihum(Nachnamen, i * 5 + i / 13);
+    return Reihum(Nachnamen, i * 5); // with the first name no two of 437 people bear the same
 }
 
 /// What servers and helpers have in common.

@@ -3,6 +3,7 @@
 
 #include "fenster/Bausteine.h"
 #include "fenster/Druckdialog.h"
+#include "fenster/Stil.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 #include "platform/Systeminfo.h"
@@ -20,16 +21,6 @@ namespace {
 
 QPointer<QWidget> Hauptfenster;
 QPointer<QWidget> FokusZuvor; // in the main window, before a dialog disabled it
-
-/// Command buttons: light green with the focus, light grey without.
-constexpr const char *Stil = R"(
-QPushButton { background-color: #c0c0c0; color: black; padding: 4px 12px; border: 1px solid #808080; border-radius: 3px; }
-QPushButton:focus { background-color: #00ff00; }
-QPushButton:pressed { border: 2px inset #606060; }
-QPushButton:disabled { color: #7a7a7a; border-color: #b0b0b0; background-color: #d8d8d8; }
-QWidget[spinButton="true"] { border: 1px solid transparent; }
-QWidget[spinButton="true"]:focus { border: 1px solid #008000; }
-)";
 
 class Mausschlucker : public QObject {
   public:
@@ -78,7 +69,7 @@ void AnwendungEinrichten(QApplication &anwendung)
     auto *deutsch = new QTranslator(&anwendung);
     if (deutsch->load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(deutsch);
-    anwendung.setStyleSheet(Stil);
+    QApplication::setStyle(new Stil);
 
     Systeminfo.Starten = [](const std::filesystem::path &programm) {
         QProcess::startDetached(Anzeige(TextVon(programm)), {});

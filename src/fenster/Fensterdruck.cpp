@@ -23,7 +23,7 @@ class Druckansicht {
                 knöpfe.append(knopf);
                 knopf->hide();
             }
-        // With a style sheet the colours of a window don't pass to its parts.
+        // Parts with colours of their own don't take those of the window.
         Umfärben(fenster);
         for (auto *teil : fenster->findChildren<QWidget *>())
             Umfärben(teil);

@@ -14,8 +14,7 @@ SpinButton::SpinButton(const char *name, const char *gesprochen)
     Benannt(this, name);
     setAccessibleName(QString::fromUtf8(gesprochen));
     setFocusPolicy(Qt::StrongFocus);
-    setProperty("spinButton", true); // the style sheet marks its focus
-    setAttribute(Qt::WA_StyledBackground);
+    setAttribute(Qt::WA_StyledBackground); // the style marks its focus
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto *reihe = new QHBoxLayout(this);
     reihe->setContentsMargins(2, 2, 2, 2);

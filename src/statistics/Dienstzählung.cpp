@@ -2,29 +2,30 @@
 #include "statistics/Dienstzählung.h"
 
 #include <algorithm>
-#include <functional>
+#include <array>
+#include <cstdint>
+#include <cstring>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
 namespace altardienst {
 namespace {
 
-struct Name {
-    std::string_view Vorname;
-    std::string_view Nachname;
-
-    bool operator==(const Name &) const = default;
-};
-
-struct Namenshash {
-    std::size_t operator()(const Name &name) const
-    {
-        const std::hash<std::string_view> hash;
-        return hash(name.Vorname) * 31 + hash(name.Nachname);
+/// Tells names apart by their first and last eight bytes, which takes a fraction of the time of a
+/// hash of all.
+std::uint64_t Kennzahl(const Text &name)
+{
+    std::array<std::uint64_t, 2> enden{};
+    if (name.size() >= sizeof enden[0]) {
+        std::memcpy(&enden[0], name.data(), sizeof enden[0]);
+        std::memcpy(&enden[1], name.data() + name.size() - sizeof enden[1], sizeof enden[1]);
+    } else {
+        for (const char zeichen : name)
+            enden[0] = enden[0] << 8 | static_cast<unsigned char>(zeichen);
     }
-};
+    return enden[0] * 31 + enden[1];
+}
 
 /// Finds the row of a name at once: a full plan has more than five million pairs of a server and a
 /// slot. Rows of one name share their counts, since each of them would find the same slots.
@@ -34,23 +35,24 @@ template <class Zählung> class Namensverzeichnis {
     template <class Tabelle>
     Namensverzeichnis(Zählung &zählung, Tabelle &tabelle) : zählung(zählung)
     {
-        const int anzahl = tabelle.Anzahl;
-        zeilen.reserve(static_cast<std::size_t>(anzahl) + 1);
-        for (int i = 0; i <= anzahl; ++i) {
+        fächer.fill(Frei);
+        for (int i = 0; i <= tabelle.Anzahl; ++i) {
             auto &zeile = zählung[i];
             zeile.Vorname = tabelle.Vorname[i];
             zeile.Nachname = tabelle.Nachname[i];
-            const auto [platz, neu] = zeilen.emplace(Name{zeile.Vorname, zeile.Nachname}, i);
-            if (!neu)
-                weitere.emplace_back(i, platz->second);
+            int &fach = FachFür(zeile.Vorname, zeile.Nachname);
+            if (fach == Frei)
+                fach = i;
+            else
+                weitere.emplace_back(i, fach);
         }
     }
 
     void Zählen(const Text &vorname, const Text &nachname, std::size_t art)
     {
-        const auto platz = zeilen.find({vorname, nachname});
-        if (platz != zeilen.end())
-            ++zählung[platz->second].Dienste[art];
+        const int zeile = FachFür(vorname, nachname);
+        if (zeile != Frei)
+            ++zählung[zeile].Dienste[art];
     }
 
     void Abschließen()
@@ -60,8 +62,23 @@ template <class Zählung> class Namensverzeichnis {
     }
 
   private:
+    static constexpr int Frei = -1;
+
+    /// The compartment with the row of the name, or the free one where it belongs.
+    int &FachFür(const Text &vorname, const Text &nachname)
+    {
+        constexpr std::uint64_t Streuung = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
+        std::size_t nr = (Kennzahl(vorname) * Streuung + Kennzahl(nachname)) * Streuung >> 32;
+        for (;; ++nr) {
+            int &fach = fächer[nr % fächer.size()];
+            if (fach == Frei ||
+                (zählung[fach].Nachname == nachname && zählung[fach].Vorname == vorname))
+                return fach;
+        }
+    }
+
     Zählung &zählung;
-    std::unordered_map<Name, int, Namenshash> zeilen;
+    std::array<int, 2048> fächer; // so many more than people that most names find theirs at once
     std::vector<std::pair<int, int>> weitere; // a row, and the first one of its name
 };
 

@@ -46,6 +46,16 @@ TEST_F(SpinButtonTest, PfeiltastenWirkenMitDemFokus)
     EXPECT_EQ(ereignisse, "ab auf ");
 }
 
+TEST_F(SpinButtonTest, EinGrünerRahmenZeigtDenFokus)
+{
+    const auto ecke = [this] { return spin->grab().toImage().pixelColor(0, 0); };
+    EXPECT_NE(ecke(), QColor(0x00, 0x80, 0x00));
+    FokusAuf(spin);
+    EXPECT_EQ(ecke(), QColor(0x00, 0x80, 0x00));
+    FokusAuf(feld);
+    EXPECT_NE(ecke(), QColor(0x00, 0x80, 0x00));
+}
+
 TEST_F(SpinButtonTest, FesthaltenWiederholt)
 {
     auto *auf = Finden<QToolButton>(spin, "auf");

@@ -1,0 +1,53 @@
+// Opening the window of the services of each server, from the press of its menu entry until it
+// stands on the screen, against the plain comparison of all servers with all slots.
+#include "Messung.h"
+#include "VollerPlan.h"
+
+#include "fenster/Anwendung.h"
+#include "statistics/StatDienstForm.h"
+
+#include <cstdlib>
+
+#include <benchmark/benchmark.h>
+
+namespace altardienst {
+namespace {
+
+QWidget *offen = nullptr; // the last one outlives the exit
+
+void Vorbereiten()
+{
+    delete offen;
+    offen = nullptr;
+    VollerPlan();
+}
+
+void Messen(const char *name, std::function<void()> öffnen)
+{
+    MessungAnmelden({.Name = name,
+                     .Maßstabname = "alle mit allen vergleichen",
+                     .Gemessen = {Vorbereiten, std::move(öffnen)},
+                     .Maßstab = {Vorbereiten, [] { benchmark::DoNotOptimize(AlleMitAllen()); }},
+                     .Ziel = 0.05,
+                     .Durchläufe = 100});
+}
+
+} // namespace
+
+void MessungenAnmelden()
+{
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    static int argc = 1;
+    static char name[] = "bench_statistik";
+    static char *argv[] = {name, nullptr};
+    // Outlives the exit too: by then Qt has taken down what a shown window still refers to.
+    AnwendungEinrichten(*new QApplication(argc, argv));
+    Messen("Fenster der Dienste füllen", [] { offen = new StatDienstForm; });
+    Messen("Fenster der Dienste öffnen", [] {
+        offen = new StatDienstForm;
+        offen->show();
+        QApplication::processEvents();
+    });
+}
+
+} // namespace altardienst
