@@ -2,7 +2,6 @@
 #include "people/GruppeForm.h"
 
 #include "core/tables.h"
-#include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
@@ -11,7 +10,6 @@
 #include "people/Personenboxen.h"
 #include "platform/Meldungen.h"
 
-#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -23,10 +21,9 @@ constexpr int LetzterDatensatz = 100;
 } // namespace
 
 GruppeForm::GruppeForm()
-    : GBezeichnung(Textfeld("GBezeichnung")),
-      Wahl(new Datensatzwahl({"Indexi", "PLUS", "MINUS", "DPM"})),
-      Gruppenzahl(Beschriftung("Gruppenzahl", "")), Löschend(Knopf("Löschend", "Gruppe löschen")),
-      NEWGroup(Knopf("NEWGroup", "neue Gruppe")), Ende(Knopf("Ende", "Ende"))
+    : Editorfenster(new Datensatzwahl({"Indexi", "PLUS", "MINUS", "DPM"})),
+      GBezeichnung(Textfeld("GBezeichnung")), Gruppenzahl(Beschriftung("Gruppenzahl", "")),
+      Löschend(Knopf("Löschend", "Gruppe löschen")), NEWGroup(Knopf("NEWGroup", "neue Gruppe"))
 {
     Benannt(this, "Gruppe");
     setWindowTitle("Gruppe");
@@ -63,11 +60,7 @@ void GruppeForm::Verbinden()
     Wahl->BeiSchritt([this](int richtung) { Offen([&] { Schritt(richtung); })(); });
     connect(Löschend, &QPushButton::clicked, this, Offen([this] { Löschen(); }));
     connect(NEWGroup, &QPushButton::clicked, this, [this] { NeueGruppe(); });
-    connect(Ende, &QPushButton::clicked, this, Offen([this] {
-                Umbenennen();
-                Abschließen();
-                close();
-            }));
+    EndeVerbinden();
 }
 
 /// Typing a number jumps to that group without storing what was on the screen; the number one past
@@ -121,17 +114,8 @@ void GruppeForm::Löschen()
 
 void GruppeForm::NeueGruppe()
 {
-    hide();
-    auto *neu = new NeuGruppeForm([this](bool angelegt) { NachNeuerGruppe(angelegt); });
-    DialogDanebenÖffnen(neu);
-}
-
-void GruppeForm::NachNeuerGruppe(bool angelegt)
-{
-    if (angelegt)
-        Schrittweise([&] { Zeigen(Nummer()); }, [&] { AnzahlZeigen(); })();
-    show();
-    activateWindow();
+    NeuAnlegen<NeuGruppeForm>(
+        Schrittweise([this] { Zeigen(Nummer()); }, [this] { AnzahlZeigen(); }));
 }
 
 /// Writes the screen; a name typed into the blank slot becomes a group.
@@ -140,12 +124,6 @@ void GruppeForm::Abschließen()
     Schreiben();
     if (Nummer() == Gruppe.Anzahl && !GBezeichnung->text().isEmpty())
         ++Gruppe.Anzahl;
-    abgeschlossen = true;
-}
-
-int GruppeForm::Nummer() const
-{
-    return ZahlIn(Wahl->Nummer);
 }
 
 void GruppeForm::Zeigen(int i)
@@ -161,19 +139,6 @@ void GruppeForm::Schreiben()
 void GruppeForm::AnzahlZeigen()
 {
     Setzen(Gruppenzahl, ZahlText(Gruppe.Anzahl));
-}
-
-/// The window's own close writes without renaming. A number box without a number keeps the form
-/// open, with the failure shown.
-void GruppeForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->ignore();
-    Offen([&] {
-        if (!abgeschlossen)
-            Abschließen();
-        ereignis->accept();
-        HauptfensterZurück();
-    })();
 }
 
 } // namespace altardienst

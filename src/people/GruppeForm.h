@@ -1,23 +1,22 @@
 // The editor of the groups, one name at a time.
 #pragma once
 
-#include "fenster/Datensatzwahl.h"
+#include "people/Editorfenster.h"
+
+#include <QLabel>
+#include <QLineEdit>
 
 namespace altardienst {
 
-class GruppeForm : public QWidget {
+/// The record mover is `Indexi`, `PLUS`, `MINUS`, `DPM`.
+class GruppeForm : public Editorfenster {
   public:
     GruppeForm();
 
     QLineEdit *GBezeichnung;
-    Datensatzwahl *Wahl; // Indexi, PLUS, MINUS, DPM
     QLabel *Gruppenzahl;
     QPushButton *Löschend;
     QPushButton *NEWGroup;
-    QPushButton *Ende;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     void Anordnen();
@@ -25,18 +24,14 @@ class GruppeForm : public QWidget {
 
     void NummerGeändert();
     void Schritt(int richtung);
-    void Umbenennen();
+    void Umbenennen() override;
     void Löschen();
     void NeueGruppe();
-    void NachNeuerGruppe(bool angelegt);
-    void Abschließen();
+    void Abschließen() override;
 
-    int Nummer() const;
     void Zeigen(int i);
     void Schreiben();
     void AnzahlZeigen();
-
-    bool abgeschlossen = false;
 };
 
 } // namespace altardienst

@@ -2,7 +2,6 @@
 #include "people/HelferForm.h"
 
 #include "core/tables.h"
-#include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
@@ -11,7 +10,6 @@
 #include "people/NeuerHelferForm.h"
 #include "platform/Meldungen.h"
 
-#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -46,13 +44,13 @@ void GeburtstagPrüfen(QLineEdit *feld)
 }
 
 HelferForm::HelferForm()
-    : Wahl(new Datensatzwahl({"Indexen", "PLUS", "MINUS", "DPM"})),
+    : Editorfenster(new Datensatzwahl({"Indexen", "PLUS", "MINUS", "DPM"})),
       Datensätzig(Beschriftung("Datensätzig", "")),
       Person({"Vorne", "Hinten", "Weg", "PLZetus", "Wohort", "Anruf", "Mailen"}),
       Tagen("Tagen", {"Änderung1", "Änderung2", "Änderung3"}, "Geburtstag"),
       Dient(Dienstwahl("Dient", "Dienst 1")), Dient2(Dienstwahl("Dient2", "Dienst 2")),
       Abwesenheiten(3), NeuHelfer(Knopf("NeuHelfer", "neuer Helfer")),
-      Datensatzlösch(Knopf("Datensatzlösch", "Datensatz löschen")), Ende(Knopf("Ende", "Ende"))
+      Datensatzlösch(Knopf("Datensatzlösch", "Datensatz löschen"))
 {
     Benannt(this, "Helfer");
     setWindowTitle("Helfer");
@@ -135,11 +133,7 @@ void HelferForm::Verbinden()
     Abwesenheiten.Verbinden();
     connect(NeuHelfer, &QPushButton::clicked, this, [this] { NeuerHelfer(); });
     connect(Datensatzlösch, &QPushButton::clicked, this, Offen([this] { Löschen(); }));
-    connect(Ende, &QPushButton::clicked, this, Offen([this] {
-                Umbenennen();
-                Abschließen();
-                close();
-            }));
+    EndeVerbinden();
 }
 
 /// Typing a number jumps to that helper without storing what was on the screen; the number one past
@@ -198,16 +192,8 @@ void HelferForm::Löschen()
 
 void HelferForm::NeuerHelfer()
 {
-    hide();
-    DialogDanebenÖffnen(new NeuerHelferForm([this](bool angelegt) { NachNeuemHelfer(angelegt); }));
-}
-
-void HelferForm::NachNeuemHelfer(bool angelegt)
-{
-    if (angelegt)
-        Schrittweise([&] { Zeigen(Nummer()); }, [&] { AnzahlZeigen(); })();
-    show();
-    activateWindow();
+    NeuAnlegen<NeuerHelferForm>(
+        Schrittweise([this] { Zeigen(Nummer()); }, [this] { AnzahlZeigen(); }));
 }
 
 /// Writes the screen. One name is enough for a record in the blank slot to become a helper, where
@@ -217,12 +203,6 @@ void HelferForm::Abschließen()
     Schreiben(Helfer.Cursor);
     if (Helfer.Cursor == Helfer.Anzahl && !Person.Name().Leer())
         ++Helfer.Anzahl;
-    abgeschlossen = true;
-}
-
-int HelferForm::Nummer() const
-{
-    return ZahlIn(Wahl->Nummer);
 }
 
 void HelferForm::Zeigen(int i)
@@ -246,19 +226,6 @@ void HelferForm::Schreiben(int i)
 void HelferForm::AnzahlZeigen()
 {
     Setzen(Datensätzig, ZahlText(Helfer.Anzahl));
-}
-
-/// The window's own close writes without renaming. A box that cannot be converted keeps the form
-/// open, with the failure shown.
-void HelferForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->ignore();
-    Offen([&] {
-        if (!abgeschlossen)
-            Abschließen();
-        ereignis->accept();
-        HauptfensterZurück();
-    })();
 }
 
 } // namespace altardienst

@@ -1,20 +1,20 @@
 // The editor of the helpers, one at a time.
 #pragma once
 
-#include "fenster/Datensatzwahl.h"
 #include "fenster/Datumsfeld.h"
 #include "fenster/Textwahl.h"
 #include "people/Abwesenheitsboxen.h"
+#include "people/Editorfenster.h"
 #include "people/Personenboxen.h"
 
 namespace altardienst {
 
-/// Every save goes to the record at `Helfer.Cursor`, whatever stands in the number box.
-class HelferForm : public QWidget {
+/// The record mover is `Indexen`, `PLUS`, `MINUS`, `DPM`. Every save goes to the record at
+/// `Helfer.Cursor`, whatever stands in the number box.
+class HelferForm : public Editorfenster {
   public:
     HelferForm();
 
-    Datensatzwahl *Wahl; // Indexen, PLUS, MINUS, DPM
     QLabel *Datensätzig;
     Personenboxen Person; // Vorne, Hinten, Weg, PLZetus, Wohort, Anruf, Mailen
     Datumsfeld Tagen;     // Änderung1 to 3; MTag, Ptag, MMon, PMon, MJahr, PJahr
@@ -23,10 +23,6 @@ class HelferForm : public QWidget {
     Abwesenheitsboxen Abwesenheiten; // Start to Schluß3, ä1 to ä18
     QPushButton *NeuHelfer;
     QPushButton *Datensatzlösch;
-    QPushButton *Ende;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     void Anordnen();
@@ -34,18 +30,14 @@ class HelferForm : public QWidget {
 
     void NummerGeändert();
     void Schritt(int richtung);
-    void Umbenennen();
+    void Umbenennen() override;
     void Löschen();
     void NeuerHelfer();
-    void NachNeuemHelfer(bool angelegt);
-    void Abschließen();
+    void Abschließen() override;
 
-    int Nummer() const;
     void Zeigen(int i);
     void Schreiben(int i);
     void AnzahlZeigen();
-
-    bool abgeschlossen = false;
 };
 
 /// The services to choose from; any other text is taken as it stands.

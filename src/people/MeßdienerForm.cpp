@@ -2,7 +2,6 @@
 #include "people/MeßdienerForm.h"
 
 #include "core/tables.h"
-#include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Fensteraufbau.h"
 #include "fenster/Handler.h"
@@ -10,7 +9,6 @@
 #include "platform/Meldungen.h"
 #include "printing/Aufnahmebestätigung.h"
 
-#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -29,7 +27,7 @@ auto Zeitspalten()
 } // namespace
 
 MeßdienerForm::MeßdienerForm()
-    : Wahl(new Datensatzwahl({"Datensätze", "PLUS", "MINUS", "DPM"})),
+    : Editorfenster(new Datensatzwahl({"Datensätze", "PLUS", "MINUS", "DPM"})),
       MaxIndex(Beschriftung("MaxIndex", "")), Dienstmittig("Dienstmittig", "Qualifikation",
                                                            {{"Check1", "Gabenbereitung"},
                                                             {"Check2", "Leuchter"},
@@ -47,8 +45,7 @@ MeßdienerForm::MeßdienerForm()
       Norm(Benannt(new QRadioButton("normal"), "Norm")),
       Oft(Benannt(new QRadioButton("oft"), "Oft")), Haufigk(Textfeld("Haufigk")), Abwesenheiten(5),
       NeuDiener(Knopf("NeuDiener", "Neuer Meßdiener")), Lösch(Knopf("Lösch", "Datensatz löschen")),
-      Aufnahmebestätigung(Knopf("Aufnahmebestätigung", "Aufnahmebestätigung drucken")),
-      Ende(Knopf("Ende", "Ende"))
+      Aufnahmebestätigung(Knopf("Aufnahmebestätigung", "Aufnahmebestätigung drucken"))
 {
     Benannt(this, "Meßdiener");
     setWindowTitle("Meßdiener");
@@ -152,11 +149,7 @@ void MeßdienerForm::Verbinden()
     connect(NeuDiener, &QPushButton::clicked, this, [this] { NeuerMeßdiener(); });
     connect(Lösch, &QPushButton::clicked, this, Offen([this] { Löschen(); }));
     connect(Aufnahmebestätigung, &QPushButton::clicked, this, Offen([this] { Bestätigen(); }));
-    connect(Ende, &QPushButton::clicked, this, Offen([this] {
-                Umbenennen();
-                Abschließen();
-                close();
-            }));
+    EndeVerbinden();
 }
 
 /// Typing a number jumps to that server without storing what was on the screen; the number one past
@@ -210,7 +203,7 @@ void MeßdienerForm::HäufigkeitGeändert()
 void MeßdienerForm::GruppePrüfen()
 {
     const Text text = TextVon(Angaben.Dieenst);
-    if (abgeschlossen || text.empty())
+    if (IstAbgeschlossen() || text.empty())
         return;
     for (int i = 0; i <= Gruppe.Anzahl; ++i)
         if (Gruppe.Bezeichnung[i] == text)
@@ -221,24 +214,15 @@ void MeßdienerForm::GruppePrüfen()
 
 void MeßdienerForm::PartnerPrüfen(bool ausgewählt)
 {
-    if (!abgeschlossen)
+    if (!IstAbgeschlossen())
         Wunsch.Prüfen(Wahl->Nummer, Angaben.Person.Name(), ausgewählt);
 }
 
 void MeßdienerForm::NeuerMeßdiener()
 {
-    hide();
-    DialogDanebenÖffnen(
-        new NeuMeßdienerForm([this](bool angelegt) { NachNeuemMeßdiener(angelegt); }));
-}
-
-void MeßdienerForm::NachNeuemMeßdiener(bool angelegt)
-{
-    if (angelegt)
-        Schrittweise([&] { Zeigen(Nummer()); }, [&] { AnzahlZeigen(); },
-                     [&] { Wunsch.ListeFüllen(); }, [&] { Wunsch.PartnerZeigen(); })();
-    show();
-    activateWindow();
+    NeuAnlegen<NeuMeßdienerForm>(
+        Schrittweise([this] { Zeigen(Nummer()); }, [this] { AnzahlZeigen(); },
+                     [this] { Wunsch.ListeFüllen(); }, [this] { Wunsch.PartnerZeigen(); }));
 }
 
 /// Down to two servers nothing happens. On the blank slot the last server is deleted.
@@ -273,12 +257,6 @@ void MeßdienerForm::Abschließen()
     if (Nummer() >= Meßdiener.Anzahl)
         ZahlSetzen(Wahl->Nummer, Meßdiener.Anzahl - 1);
     Meßdiener.Cursor = Nummer();
-    abgeschlossen = true;
-}
-
-int MeßdienerForm::Nummer() const
-{
-    return ZahlIn(Wahl->Nummer);
 }
 
 void MeßdienerForm::Zeigen(int i)
@@ -304,19 +282,6 @@ void MeßdienerForm::Schreiben(int i)
 void MeßdienerForm::AnzahlZeigen()
 {
     Setzen(MaxIndex, ZahlText(Meßdiener.Anzahl));
-}
-
-/// The window's own close writes without renaming. A box that cannot be converted keeps the form
-/// open, with the failure shown.
-void MeßdienerForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->ignore();
-    Offen([&] {
-        if (!abgeschlossen)
-            Abschließen();
-        ereignis->accept();
-        HauptfensterZurück();
-    })();
 }
 
 } // namespace altardienst

@@ -1,8 +1,8 @@
 // The editor of the altar servers, one at a time.
 #pragma once
 
-#include "fenster/Datensatzwahl.h"
 #include "people/Abwesenheitsboxen.h"
+#include "people/Editorfenster.h"
 #include "people/Flagboxen.h"
 #include "people/Meßdienerangaben.h"
 #include "people/Partnerboxen.h"
@@ -11,11 +11,11 @@
 
 namespace altardienst {
 
-class MeßdienerForm : public QWidget {
+/// The record mover is `Datensätze`, `PLUS`, `MINUS`, `DPM`.
+class MeßdienerForm : public Editorfenster {
   public:
     MeßdienerForm();
 
-    Datensatzwahl *Wahl; // Datensätze, PLUS, MINUS, DPM
     QLabel *MaxIndex;
     Meßdienerangaben Angaben; // mTag, pTag, mMonat, PMonat, mJahr, pJahr beside the birthday,
                               // mmTag, pptag, mmMonat, ppMonat, mmJahr, ppJahr beside the entry
@@ -29,10 +29,6 @@ class MeßdienerForm : public QWidget {
     QPushButton *NeuDiener;
     QPushButton *Lösch;
     QPushButton *Aufnahmebestätigung;
-    QPushButton *Ende;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     void Anordnen();
@@ -42,22 +38,18 @@ class MeßdienerForm : public QWidget {
 
     void NummerGeändert();
     void Schritt(int richtung);
-    void Umbenennen();
+    void Umbenennen() override;
     void HäufigkeitGeändert();
     void GruppePrüfen();
     void PartnerPrüfen(bool ausgewählt);
     void NeuerMeßdiener();
-    void NachNeuemMeßdiener(bool angelegt);
     void Löschen();
     void Bestätigen() const;
-    void Abschließen();
+    void Abschließen() override;
 
-    int Nummer() const;
     void Zeigen(int i);
     void Schreiben(int i);
     void AnzahlZeigen();
-
-    bool abgeschlossen = false; // what still comes of the focus is of no concern
 };
 
 } // namespace altardienst

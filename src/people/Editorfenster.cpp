@@ -1,0 +1,47 @@
+// What the editors of the groups, the servers and the helpers have in common.
+#include "people/Editorfenster.h"
+
+#include "fenster/Bausteine.h"
+#include "fenster/Handler.h"
+#include "fenster/Zahlbox.h"
+
+#include <QCloseEvent>
+
+namespace altardienst {
+
+Editorfenster::Editorfenster(Datensatzwahl *wahl) : Wahl(wahl), Ende(Knopf("Ende", "Ende")) {}
+
+void Editorfenster::EndeVerbinden()
+{
+    connect(Ende, &QPushButton::clicked, this, Offen([this] {
+                Umbenennen();
+                Speichern();
+                close();
+            }));
+}
+
+int Editorfenster::Nummer() const
+{
+    return ZahlIn(Wahl->Nummer);
+}
+
+void Editorfenster::Speichern()
+{
+    Abschließen();
+    abgeschlossen = true;
+}
+
+/// The window's own close writes without renaming. A box that cannot be converted keeps the form
+/// open, with the failure shown.
+void Editorfenster::closeEvent(QCloseEvent *ereignis)
+{
+    ereignis->ignore();
+    Offen([&] {
+        if (!abgeschlossen)
+            Speichern();
+        ereignis->accept();
+        HauptfensterZurück();
+    })();
+}
+
+} // namespace altardienst
