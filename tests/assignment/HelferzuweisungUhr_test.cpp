@@ -48,7 +48,15 @@ TEST_F(HelferzuweisungUhrTest, FünfSekundenGehenNochSechsBeendenDenLauf)
     EXPECT_EQ(Messe.Lektor1Nach[0], "N3");
     EXPECT_EQ(Messe.Lektor2Nach[0], "N1"); // what was there
     EXPECT_EQ(Messe.Lektor1Nach[1], "N2");
-    EXPECT_EQ(Helfer.Belegt[3], 1); // and the mass is not closed
+}
+
+TEST_F(HelferzuweisungUhrTest, AufgegebeneMesseWirdNichtAbgeschlossen)
+{
+    MesseMitHelfern(Sonntag, 1, 0, 0, 0);
+    MesseMitHelfern(Sonntag + 7, 1, 0, 0, 0);
+    EXPECT_FALSE(Durch({0, {1, 6}}));
+    EXPECT_EQ(Messe.Lektor1Nach[0], "N0");
+    EXPECT_EQ(Helfer.Belegt[0], 1); // the closing of the second mass would have freed him
 }
 
 TEST_F(HelferzuweisungUhrTest, KeineNeustarts)

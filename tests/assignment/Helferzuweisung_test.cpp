@@ -287,5 +287,36 @@ TEST_F(HelferzuweisungTest, DieLeereMesseHinterDerLetztenGehörtDazu)
     EXPECT_EQ(Plätze(2), "- - - - - - - -");
 }
 
+TEST_F(HelferzuweisungTest, DieLeereZeileHinterDemLetztenHelferZähltMit)
+{
+    HelferDienste(1, "Lektor");
+    HelferDienste(1, "Küster");
+    Helfer.Dienst1[Helfer.Anzahl] = "Lektor"; // what a deleted helper left behind
+    MesseMitHelfern(Sonntag, 1);
+    Lauf({1, 0}); // two for one a day: the tests apply
+    EXPECT_EQ(Plätze(0), "N0 - - - - - - -");
+    Helfer.Dienst1[Helfer.Anzahl] = "";
+    Helfer.Dienst1[Helfer.Anzahl + 1] = "Lektor"; // no further row does
+    Lauf({1, 0});
+    EXPECT_EQ(Plätze(0), "N1 - - - - - - -");
+}
+
+TEST_F(HelferzuweisungTest, AuchDieLeereZeileWirdWiederFrei)
+{
+    GenugHelfer();
+    const int leer = Helfer.Anzahl;
+    Helfer.Vorname[leer] = "V";
+    Helfer.Nachname[leer] = "Leer";
+    Helfer.Dienst1[leer] = "Lektor";
+    MesseMitHelfern(Sonntag, 1);
+    MesseMitHelfern(Montag, 1);
+    MesseMitHelfern(Sonntag + 2, 0); // its closing frees Sunday's
+    MesseMitHelfern(Sonntag + 2, 1);
+    Lauf({leer, leer, 0, leer, 1});
+    EXPECT_EQ(Plätze(0), "Leer - - - - - - -");
+    EXPECT_EQ(Plätze(1), "N0 - - - - - - -");
+    EXPECT_EQ(Plätze(3), "Leer - - - - - - -");
+}
+
 } // namespace
 } // namespace altardienst

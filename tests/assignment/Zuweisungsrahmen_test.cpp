@@ -10,6 +10,9 @@ const Text ZuWenige = "Zuwenig Meßdiener !!!!";
 const Text Fertig = "Fertig mit Meßdiener Messen zuweisen";
 const Text FertigPartner =
     "Fertig mit Meßdiener Messen zuweisen unter Berücksichtigung des Wunschpartners";
+const Text FertigHelfer = "Fertig mit Helfer Messen zuordnen";
+const Text Kreuz = "Meßdiener Kreuzträger sind noch nachzutragen!!";
+const Text Weihrauch = "Meßdiener Weihrauch sind noch nachzutragen!!";
 
 class ZuweisungsrahmenTest : public Zuweisungsstand {
   protected:
@@ -18,6 +21,14 @@ class ZuweisungsrahmenTest : public Zuweisungsstand {
     {
         MesseMitDienern(Sonntag, 4, ZeitAus(8 * 3600));
         MesseMitDienern(Sonntag, 5, ZeitAus(10 * 3600));
+    }
+
+    static void Festlegen(Datum tag, Datum uhrzeit, int slot, const Text &vor, const Text &nach)
+    {
+        MesseDienerFest.Datum[0] = tag;
+        MesseDienerFest.Uhrzeit[0] = uhrzeit;
+        MesseDienerFest.Vorname[0][slot] = vor;
+        MesseDienerFest.Nachname[0][slot] = nach;
     }
 
     void Besetzen()
@@ -49,6 +60,24 @@ TEST_F(ZuweisungsrahmenTest, OhneMeßdienerDivisionDurchNullVorJederMeldung)
     EXPECT_EQ(NummerDesFehlers([] { MessenMitMeßdienerBesetzen(); }), 11);
     EXPECT_EQ(NummerDesFehlers([] { WunschpartnerBerücksichtigen(); }), 11);
     EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(ZuweisungsrahmenTest, OhneMeßdienerSindDieMessenSchonSortiertDieDiensteNochNichtVerteilt)
+{
+    for (auto besetzen : {MessenMitMeßdienerBesetzen, WunschpartnerBerücksichtigen}) {
+        TabellenLeeren();
+        MesseMitDienern(Montag, 2);
+        MesseMitDienern(Sonntag, 2);
+        for (int i : {0, 1}) {
+            Messe.Leuchter[i] = 1;
+            Messe.DienerDienst[i][0] = "Alt";
+        }
+        Antworten = {true};
+        EXPECT_EQ(NummerDesFehlers(besetzen), 11);
+        EXPECT_EQ(Messe.Datum[0], Sonntag);
+        EXPECT_EQ(Messe.Datum[1], Montag);
+        EXPECT_EQ(Messe.DienerDienst[0][0], "Alt");
+    }
 }
 
 TEST_F(ZuweisungsrahmenTest, SummenÜber16BitSindEinÜberlauf)
@@ -112,10 +141,7 @@ TEST_F(ZuweisungsrahmenTest, FrageMitJaUndNeinUndNeinÄndertNichts)
     DienerAnlegen(18);
     MesseMitDienern(Montag, 4);
     MesseMitDienern(Sonntag, 4);
-    MesseDienerFest.Datum[0] = Montag;
-    MesseDienerFest.Uhrzeit[0] = ZeitAus(36000);
-    MesseDienerFest.Vorname[0][1] = "Fest";
-    MesseDienerFest.Nachname[0][1] = "Fest";
+    Festlegen(Montag, ZeitAus(36000), 1, "Fest", "Fest");
     Würfeln({});
     Antworten = {false};
     MessenMitMeßdienerBesetzen();
@@ -135,10 +161,7 @@ TEST_F(ZuweisungsrahmenTest, ZuWenigeFürDieGrößteMesseDannNurFeste)
     DienerAnlegen(5);
     VierUndFünf();
     Messe.Leuchter[1] = 1;
-    MesseDienerFest.Datum[0] = Sonntag;
-    MesseDienerFest.Uhrzeit[0] = ZeitAus(10 * 3600);
-    MesseDienerFest.Vorname[0][2] = "Fest";
-    MesseDienerFest.Nachname[0][2] = "Fest";
+    Festlegen(Sonntag, ZeitAus(10 * 3600), 2, "Fest", "Fest");
     Würfeln({});
     Besetzen();
     EXPECT_EQ(GezeigteMeldungen, (std::vector<Text>{ZuWenige, Fertig}));
@@ -215,10 +238,7 @@ TEST_F(ZuweisungsrahmenTest, EinfacherWegSortiertVerteiltDiensteUndTrägtFesteÜ
     MesseMitDienern(Sonntag, 2, ZeitAus(36000));
     MesseMitDienern(Sonntag, 1, ZeitAus(8 * 3600));
     Messe.Weihrauch[1] = 1;
-    MesseDienerFest.Datum[0] = Sonntag;
-    MesseDienerFest.Uhrzeit[0] = ZeitAus(36000);
-    MesseDienerFest.Vorname[0][2] = "V1";
-    MesseDienerFest.Nachname[0][2] = "N1";
+    Festlegen(Sonntag, ZeitAus(36000), 2, "V1", "N1");
     Würfeln({0, 1, 2, 3});
     Besetzen();
     EXPECT_EQ(Messe.Uhrzeit[0], ZeitAus(8 * 3600));
@@ -234,10 +254,7 @@ TEST_F(ZuweisungsrahmenTest, NachAbbruchDesVollenWegesFolgenFesteUndFertigmeldun
 {
     DienerAnlegen(29);
     VierUndFünf();
-    MesseDienerFest.Datum[0] = Sonntag;
-    MesseDienerFest.Uhrzeit[0] = ZeitAus(8 * 3600);
-    MesseDienerFest.Vorname[0][4] = "Fest";
-    MesseDienerFest.Nachname[0][4] = "Fest";
+    Festlegen(Sonntag, ZeitAus(8 * 3600), 4, "Fest", "Fest");
     Würfeln({0, 1, {29, 3}, {29, 3}, {29, 3}, {29, 3}, {29, 3}, 29, {29, 81}});
     Besetzen();
     EXPECT_EQ(GezeigteMeldungen,
@@ -253,25 +270,38 @@ TEST_F(ZuweisungsrahmenTest, PartnerwegOhneFrageSortiertVerteiltDiensteUndTrägt
     MesseMitDienern(Montag + 7, 1);
     MesseMitDienern(Sonntag, 3);
     Messe.Weihrauch[1] = 1;
-    MesseDienerFest.Datum[0] = Sonntag;
-    MesseDienerFest.Uhrzeit[0] = ZeitAus(36000);
-    MesseDienerFest.Vorname[0][2] = "V0";
-    MesseDienerFest.Nachname[0][2] = "N0";
-    Würfeln({0, 1, 2, 3, 0, 4}); // 0 is blocked on Sunday
+    Meßdiener.Qualifikation[1] = "jjjnjj"; // held against the services that were just set
+    Festlegen(Sonntag, ZeitAus(36000), 2, "V0", "N0");
+    Würfeln({0, 1, 2, 3, 1, 0, 4}); // 0 is blocked on Sunday
     WunschpartnerBerücksichtigen();
     EXPECT_TRUE(GestellteFragen.empty());
     EXPECT_EQ(Messe.Datum[0], Sonntag);
-    EXPECT_EQ(Namen(0), "N1 N0 N3");
+    EXPECT_EQ(Namen(0), "N2 N0 N1");
     EXPECT_EQ(Messe.DienerDienst[0][0], "Weihrauch");
     EXPECT_EQ(Messe.DienerDienst[0][1], "Allgemein");
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{FertigPartner});
     EXPECT_EQ(Namen(1), "N4"); // 0 was still taken from Sunday
 }
 
+TEST_F(ZuweisungsrahmenTest, NachAbbruchDesPartnerwegesFolgenFesteErinnerungenUndFertigmeldung)
+{
+    constexpr int Niemand = 3; // the blank row
+    DienerAnlegen(Niemand);
+    MesseMitDienern(Sonntag, 2);
+    Festlegen(Sonntag, ZeitAus(36000), 2, "Fest", "Fest");
+    Konfig.ManuellKreuzträger = Konfig.ManuellWeihrauch = 1;
+    Würfeln(
+        {{Niemand, 3}, {Niemand, 3}, {Niemand, 3}, {Niemand, 3}, {Niemand, 3}, 0, {Niemand, 101}});
+    WunschpartnerBerücksichtigen();
+    EXPECT_EQ(GezeigteMeldungen,
+              (std::vector<Text>{"Es sind die Qualifikationen der Meßdiener bzw. die "
+                                 "Größendifferenz anzupassen !!!!!",
+                                 Kreuz, Weihrauch, FertigPartner}));
+    EXPECT_EQ(Namen(0), "N0 Fest"); // what was filled stays
+}
+
 TEST_F(ZuweisungsrahmenTest, ErinnerungenErstKreuzträgerDannWeihrauchWasAuchGebrauchtWird)
 {
-    const Text kreuz = "Meßdiener Kreuzträger sind noch nachzutragen!!";
-    const Text weihrauch = "Meßdiener Weihrauch sind noch nachzutragen!!";
     DienerAnlegen(1);
     auto meldungen = [&](int manuellKreuz, int manuellWeihrauch) {
         GezeigteMeldungen.clear();
@@ -281,9 +311,9 @@ TEST_F(ZuweisungsrahmenTest, ErinnerungenErstKreuzträgerDannWeihrauchWasAuchGeb
         return GezeigteMeldungen;
     };
     EXPECT_EQ(meldungen(0, 0), (std::vector<Text>{FertigPartner}));
-    EXPECT_EQ(meldungen(1, 0), (std::vector<Text>{kreuz, FertigPartner}));
-    EXPECT_EQ(meldungen(0, 1), (std::vector<Text>{weihrauch, FertigPartner}));
-    EXPECT_EQ(meldungen(1, 1), (std::vector<Text>{kreuz, weihrauch, FertigPartner}));
+    EXPECT_EQ(meldungen(1, 0), (std::vector<Text>{Kreuz, FertigPartner}));
+    EXPECT_EQ(meldungen(0, 1), (std::vector<Text>{Weihrauch, FertigPartner}));
+    EXPECT_EQ(meldungen(1, 1), (std::vector<Text>{Kreuz, Weihrauch, FertigPartner}));
     EXPECT_EQ(meldungen(2, -1), (std::vector<Text>{FertigPartner})); // only 1 is yes
 }
 
@@ -293,17 +323,28 @@ TEST_F(ZuweisungsrahmenTest, HelferwegOhneFrageUndOhneSortieren)
     int montag = MesseMitDienern(Montag, 1);
     MesseMitDienern(Sonntag, 1);
     Messe.LektorZahl[montag] = 1;
-    MesseDienerFest.Datum[0] = Montag;
-    MesseDienerFest.Uhrzeit[0] = ZeitAus(36000);
-    MesseDienerFest.Vorname[0][1] = "Fest";
-    MesseDienerFest.Nachname[0][1] = "Fest";
+    Festlegen(Montag, ZeitAus(36000), 1, "Fest", "Fest");
     HelferWürfeln({1});
     MessenMitMessehelferBesetzen();
     EXPECT_EQ(Messe.Datum[0], Montag);
     EXPECT_EQ(Messe.Lektor1Nach[0], "N1");
     EXPECT_EQ(Namen(0), ""); // fixed servers are not carried here
     EXPECT_TRUE(GestellteFragen.empty());
-    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Fertig mit Helfer Messen zuordnen"});
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{FertigHelfer});
+}
+
+TEST_F(ZuweisungsrahmenTest, NachAbbruchDesHelferwegesFolgtDieFertigmeldung)
+{
+    HelferDienste(4, "Lektor");
+    Messe.LektorZahl[MesseMitDienern(Sonntag, 0)] = 2;
+    HelferWürfeln({0, {4, 6}});
+    MessenMitMessehelferBesetzen();
+    EXPECT_EQ(Messe.Lektor1Nach[0], "N0");
+    EXPECT_EQ(Messe.Lektor2Nach[0], "");
+    EXPECT_EQ(
+        GezeigteMeldungen,
+        (std::vector<Text>{"Achtung, es sind die Dienste der einzelnen Helfer zu überprüfen !!!!!!",
+                           FertigHelfer}));
 }
 
 } // namespace

@@ -36,6 +36,12 @@ class WunschpartnerPrüfungenTest : public Zuweisungsstand {
         return i;
     }
 
+    static void Wunsch(int j, const Text &vor, const Text &nach)
+    {
+        Meßdiener.WunschVorname[j] = vor;
+        Meßdiener.WunschNachname[j] = nach;
+    }
+
     void Lauf(std::vector<Wurf> würfe)
     {
         Würfeln(std::move(würfe));
@@ -184,8 +190,10 @@ TEST_F(WunschpartnerPrüfungenTest, WeihrauchAmLetztenSlotBesetztEinenDahinter)
 {
     Konfig.ManuellWeihrauch = 1;
     MesseMit(3, {"Leuchter", "Leuchter", "Weihrauch"}, Montag);
-    Meßdiener.WunschVorname[3] = "V7"; // behind the count a wish is neither refused nor served
-    Meßdiener.WunschNachname[3] = "N7";
+    // Server 2 passes over the slot before his wish is held against the last place; behind the
+    // count the wish of 3 is neither refused nor served.
+    Wunsch(2, "V7", "N7");
+    Wunsch(3, "V7", "N7");
     Lauf({0, 1, 2, 3});
     EXPECT_EQ(Namen(0), "N0 N1 - N3");
     EXPECT_TRUE(GezeigteMeldungen.empty());
@@ -212,6 +220,7 @@ TEST_F(WunschpartnerPrüfungenTest, KreuzträgerVonHandMitPlatzDahinterGehtWeite
     Anfang(); // at the last slot it goes on behind the count
     Konfig.ManuellKreuzträger = 1;
     MesseMit(2, {"Leuchter", "Kreuzträger"}, Montag);
+    Wunsch(1, "V7", "N7"); // not yet held against the last place
     Lauf({0, 1, 2});
     EXPECT_EQ(Namen(0), "N0 - N2");
 }
@@ -234,6 +243,20 @@ TEST_F(WunschpartnerPrüfungenTest, ÜbersprungenerSlotLässtDieUhrWeiterlaufen)
     Lauf({0, {1, 2}, {Niemand, 1}, 2, 3, 4});
     EXPECT_EQ(Neustarts, 0);        // of the blank mass
     EXPECT_EQ(Namen(0), "N2 - N4"); // 3 seconds together: started again
+
+    Anfang();
+    Konfig.ManuellKreuzträger = 1;
+    MesseMit(4, {"Leuchter", "Kreuzträger"}, Montag);
+    Lauf({0, {1, 2}, {Niemand, 1}, 2, 3, 4, 5});
+    EXPECT_EQ(Namen(0), "N2 - N4 N5");
+}
+
+TEST_F(WunschpartnerPrüfungenTest, JederSlotHatSeineEigeneSuchzeit)
+{
+    MesseMit(2, {}, Montag);
+    Lauf({{Niemand, 2}, 0, {Niemand, 2}, 1});
+    EXPECT_EQ(Namen(0), "N0 N1");
+    EXPECT_EQ(Gezogen, 4);
 }
 
 TEST_F(WunschpartnerPrüfungenTest, ZweiSekundenNichtDreiSekundenNeustart)
@@ -270,6 +293,23 @@ TEST_F(WunschpartnerPrüfungenTest, HundertSekundenGehenNochHunderteinsBeendenDe
     EXPECT_EQ(Namen(1), "N2");
     EXPECT_EQ(BelegtProzent, -1); // not closed
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{Aufgabe});
+}
+
+TEST_F(WunschpartnerPrüfungenTest, AufgabegrenzeHatIhreEigeneAblesung)
+{
+    // The first reading after the draw is within the limit, the second beyond it.
+    MesseMit(1, {}, Montag);
+    Würfeln(NachFünfNeustarts({}, {0}));
+    auto ziehen = Zufall.Nächste;
+    Zufall.Nächste = [this, ziehen] {
+        const Single r = ziehen();
+        if (Gezogen == 6)
+            SekundenProAblesung = 101; // from the reading that checks for a restart on
+        return r;
+    };
+    WunschpartnerZuweisen();
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{Aufgabe});
+    EXPECT_EQ(Namen(0), "");
 }
 
 TEST_F(WunschpartnerPrüfungenTest, SolangeNeustartsBleibenWirdNichtAufgegeben)

@@ -308,6 +308,33 @@ TEST_F(WunschpartnerTest, FesteZeile100SperrtZeile101Nicht)
     EXPECT_EQ(Meßdiener.LetzterDienst[0], Sonntag);
 }
 
+TEST_F(WunschpartnerTest, FesterNameSperrtAuchDieLeereZeileHinterDemLetzten)
+{
+    MesseMitDienern(Sonntag, 1);
+    for (int p : {10, 11}) { // the blank row, and one further
+        Meßdiener.Vorname[p] = "V";
+        Meßdiener.Nachname[p] = "Leer";
+    }
+    Fest(0, Sonntag, 1, "V", "Leer");
+    Lauf({10, 0});
+    EXPECT_EQ(Namen(0), "N0");
+    EXPECT_EQ(Meßdiener.Belegt[10], 1);
+    EXPECT_EQ(Meßdiener.Belegt[11], 0);
+}
+
+TEST_F(WunschpartnerTest, GeschwisterSindZweiLeute)
+{
+    MeßdienerAnlegen("Anna", "N5"); // record 10
+    MeßdienerAnlegen("Bernd", "N5");
+    MesseMitDienern(Sonntag, 3);
+    Wunsch(0, 10);
+    Lauf({11, 0}); // Bernd is taken, Anna is not
+    EXPECT_EQ(Slot(0, 3), "Anna N5");
+    Fest(0, Sonntag, 1, "Anna", "N5");
+    Lauf({10, 11, 1, 2}); // Anna is fixed, Bernd can be drawn
+    EXPECT_EQ(Slot(0, 1), "Bernd N5");
+}
+
 TEST_F(WunschpartnerTest, GesperrterPartnerGiltAlsVergebenUndZähltBeimAbschluss)
 {
     Anfang(4);
