@@ -4,6 +4,7 @@
 #include "fenster/Bausteine.h"
 #include "fenster/Druckdialog.h"
 #include "fenster/Stil.h"
+#include "fenster/Wartezeiger.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 #include "platform/Systeminfo.h"
@@ -44,6 +45,7 @@ QMessageBox::StandardButton MeldungZeigen(const Text &text, const Text &titel,
                                           QMessageBox::StandardButtons knöpfe,
                                           QMessageBox::StandardButton vorgabe)
 {
+    const OhneWartezeiger ohne;
     QMessageBox box(QApplication::activeWindow());
     box.setObjectName("Meldung");
     box.setWindowTitle(Anzeige(titel));

@@ -11,6 +11,7 @@
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Handler.h"
+#include "fenster/Wartezeiger.h"
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
 #include "people/GruppeForm.h"
@@ -293,14 +294,14 @@ void HauptForm::Verbinden()
         connect(knopf, &QPushButton::clicked, this, Offen(aktion));
     };
     schritt(Messenorgani, [] {
-        MessenNeuBestimmen();
+        UnterWartezeiger(MessenNeuBestimmen);
         // The one case in which the main window stays enabled behind a dialog.
         DialogDanebenÖffnen(MessenlisteForm::Offene());
     });
     schritt(Meßdienernern, [] { DialogÖffnen(new NeuMesseDienerFestForm); });
-    schritt(Dienstus, MessenMitMeßdienerBesetzen);
-    schritt(MeßdienerMessen, WunschpartnerBerücksichtigen);
-    schritt(Helfend, MessenMitMessehelferBesetzen);
+    schritt(Dienstus, [] { UnterWartezeiger(MessenMitMeßdienerBesetzen); });
+    schritt(MeßdienerMessen, [] { UnterWartezeiger(WunschpartnerBerücksichtigen); });
+    schritt(Helfend, [] { UnterWartezeiger(MessenMitMessehelferBesetzen); });
     schritt(AnzMesse, [] { DialogÖffnen(MessenlisteForm::Offene()); });
     schritt(Messendruck, PlanDrucken);
 

@@ -2,6 +2,7 @@
 #include "fenster/Anwendung.h"
 
 #include "fenster/Fensterstand.h"
+#include "fenster/Wartezeiger.h"
 
 #include <QMainWindow>
 #include <QPushButton>
@@ -167,6 +168,31 @@ TEST_F(AnwendungTest, EingabetasteIstJaUndAbbrechenIstNein)
         Beantworten([taste = taste](QMessageBox *box) { QTest::keyClick(box, taste); });
         EXPECT_EQ(Meldungen.Fragen("?", "Wirklich?"), ja);
     }
+}
+
+TEST_F(AnwendungTest, WährendEinerMeldungIstDerWartezeigerWeg)
+{
+    EchteMeldungen();
+    bool gesehen = false;
+    auto ohneZeiger = [&](QMessageBox *box) {
+        gesehen = true;
+        EXPECT_FALSE(QApplication::overrideCursor());
+        box->accept();
+    };
+    UnterWartezeiger([&] {
+        ASSERT_TRUE(QApplication::overrideCursor());
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        Beantworten(ohneZeiger);
+        Meldungen.Zeigen("anzupassen");
+        ASSERT_TRUE(QApplication::overrideCursor()); // the step goes on
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    });
+    EXPECT_TRUE(gesehen);
+    EXPECT_FALSE(QApplication::overrideCursor());
+
+    Beantworten(ohneZeiger);
+    Meldungen.Zeigen("Fertig");
+    EXPECT_FALSE(QApplication::overrideCursor()); // none comes from a message alone
 }
 
 TEST_F(AnwendungTest, EinFenstertitelStehtFürSich)

@@ -140,12 +140,32 @@ TEST_F(HauptFormTest, SiebenSetztZuerstDieDiensteNachDenZahlen)
     EXPECT_EQ(Messe.DienerDienst[0][1], "Leuchter");
 }
 
+TEST_F(HauptFormTest, DieSchritteDieSuchenZeigenDenWartezeiger)
+{
+    KleinePfarrei();
+    Messe.LektorZahl[0] = 1;
+    HelferAnlegen("Maria", "Linde", "Lektor");
+    Meldungen.Fragen = [](const Text &, const Text &) { return true; };
+    bool zeiger = false;
+    Meldungen.Zeigen = [&](const Text &) { zeiger = QApplication::overrideCursor() != nullptr; };
+    Öffnen();
+    // Step (1) last, as it discards the mass.
+    for (QPushButton *knopf :
+         {haupt->Dienstus, haupt->MeßdienerMessen, haupt->Helfend, haupt->Messenorgani}) {
+        zeiger = false;
+        Klick(knopf);
+        EXPECT_TRUE(zeiger) << Aufschrift(knopf);
+        EXPECT_FALSE(QApplication::overrideCursor()) << Aufschrift(knopf);
+    }
+}
+
 TEST_F(HauptFormTest, EinFehlerWirdGezeigtUndDasFensterBleibt)
 {
     MesseMitDienern(DatumAus({2026, 11, 29}), 2); // without any server
     Öffnen();
     Klick(haupt->MeßdienerMessen);
     EXPECT_EQ(GezeigteMeldungen, Liste{"Laufzeitfehler '11': Division durch Null"});
+    EXPECT_FALSE(QApplication::overrideCursor());
     EXPECT_TRUE(haupt->isVisible());
 }
 
