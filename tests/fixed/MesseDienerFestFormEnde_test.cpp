@@ -126,6 +126,17 @@ TEST_F(MesseDienerFestFormEndeTest, OkNimmtAllesAusDenWahlfeldern)
     EXPECT_EQ(MesseDienerFest.Dienst[0][1], "Weihrauch");
 }
 
+TEST_F(MesseDienerFestFormEndeTest, OkAufDemLeerenEintragFülltIhnAberZähltIhnNicht)
+{
+    ListeÖffnen();
+    MesseWählen("22.11.2026,10:00:00,Hochamt");
+    Wählen(1, "Abel,Kim");
+    Drücken("OKbutton");
+    EXPECT_EQ(Termin(0), "22.11.2026,10:00:00");
+    EXPECT_EQ(Gespeichert(0, 1), "Kim|Abel");
+    EXPECT_EQ(MesseDienerFest.Anzahl, 0);
+}
+
 TEST_F(MesseDienerFestFormEndeTest, DieBoxInDerGeschriebenWirdWirdZuerstVerlassen)
 {
     Öffnen();

@@ -211,6 +211,17 @@ TEST_F(MesseDienerFestFormTest, EinGelöschterMeßdienerBleibtStehenUndGiltAlsFe
     EXPECT_EQ(Name(2), "|");
 }
 
+TEST_F(MesseDienerFestFormTest, EineFalscheEingabeFälltAufDenNamenDenSchonEinAndererSlotHat)
+{
+    Fest(0, 0, {"Dahl", "Dahl"});
+    ListeÖffnen();
+    Wählen(2, "Niemand,Nina"); // back to its own name first, and only then compared
+    EXPECT_EQ(GezeigteMeldungen, Liste{Fehleingabe});
+    EXPECT_EQ(Gewählt(2), "");
+    EXPECT_EQ(Name(2), "|");
+    EXPECT_EQ(Name(1), "Kim|Dahl");
+}
+
 TEST_F(MesseDienerFestFormTest, EineUnmöglicheAnzahlHältNichtsAuf)
 {
     Fest(0, 0, {"Abel"});

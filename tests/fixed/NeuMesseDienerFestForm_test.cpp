@@ -76,7 +76,8 @@ TEST_F(NeuMesseDienerFestFormTest, AnfügenSchreibtDenEintragUndGehtAufDieErsteM
 {
     Fest(0, 1, {"Otto"});
     for (int slot = 0; slot <= 20; ++slot)
-        MesseDienerFest.Nachname[1][slot] = MesseDienerFest.Vorname[1][slot] = "alt";
+        MesseDienerFest.Nachname[1][slot] = MesseDienerFest.Vorname[1][slot] =
+            MesseDienerFest.Dienst[1][slot] = "alt";
     Öffnen();
     MesseWählen("23.11.2026,08:00:00,");
     Wählen(1, "Abel,Kim");
@@ -90,8 +91,9 @@ TEST_F(NeuMesseDienerFestFormTest, AnfügenSchreibtDenEintragUndGehtAufDieErsteM
     EXPECT_EQ(Gespeichert(1, 3), "Gruppe|Agnes");
     EXPECT_EQ(Gespeichert(1, 20), "Kim|Zoller");
     EXPECT_EQ(Gespeichert(1, 0), "alt|alt");
-    EXPECT_EQ(MesseDienerFest.Dienst[1][1], "Weihrauch");
-    EXPECT_EQ(MesseDienerFest.Dienst[1][3], "Allgemein");
+    EXPECT_EQ(MesseDienerFest.Dienst[1][0], "alt");
+    for (int slot = 1; slot <= 20; ++slot)
+        EXPECT_EQ(MesseDienerFest.Dienst[1][slot], slot <= 2 ? "Weihrauch" : "Allgemein") << slot;
     EXPECT_EQ(Gespeichert(0, 1), "Kim|Otto");
     EXPECT_TRUE(form->isVisible());
     ErwarteVorschlag();

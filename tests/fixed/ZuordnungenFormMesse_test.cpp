@@ -231,6 +231,29 @@ TEST_P(ZuordnungenFormMesseTest, KeinDatumWirdHeute)
     EXPECT_EQ(Zeigt("DatumD"), "30.12.1899");
 }
 
+TEST_P(ZuordnungenFormMesseTest, EinKlickAufKeinDatumZeigtDenErstenTag)
+{
+    Öffnen();
+    Eingeben("DatumD", "00:00:00");
+    Klick(Feld("DatumD")); // writes it as a date before it could become today
+    EXPECT_EQ(AmUm(), "30.12.1899,10:00:00");
+    EXPECT_EQ(Messentext(), "30.12.1899,10:00:00");
+}
+
+TEST_P(ZuordnungenFormMesseTest, DasDatumWirdVorDerUhrzeitUmgeschrieben)
+{
+    Öffnen();
+    FokusAuf(Feld("DatumD"));
+    for (const auto &[datum, zeit, danach] :
+         {std::tuple("1.2.27", "abc", "01.02.2027,abc"), {"abc", "9:30", "abc,9:30"}}) {
+        Eingeben("DatumD", datum);
+        Eingeben("Zeitd", zeit);
+        QTest::keyClick(Feld("DatumD"), Qt::Key_Return);
+        EXPECT_EQ(AmUm(), danach);
+        EXPECT_EQ(Messentext(), "22.11.2026,10:00:00");
+    }
+}
+
 TEST_P(ZuordnungenFormMesseTest, WasKeinTerminIstBleibtOhneWortStehen)
 {
     Öffnen();
