@@ -89,7 +89,8 @@ void Partnerboxen::Prüfen(const QLineEdit *nummer, const Personenname &selbst,
     }
     Text nachname = TextVon(NName);
     Text vorname = TextVon(VName);
-    NameTeilen(text, nachname, vorname);
+    if (!text.starts_with(','))
+        NameTeilen(text, nachname, vorname);
     Setzen(NName, nachname);
     Setzen(VName, vorname);
     const Personenname partner = {vorname, nachname};

@@ -194,9 +194,8 @@ struct MeßdienerModell : Modellschirm {
         const std::size_t komma = text.find(',');
         if (text.empty())
             Texte["NName"] = Texte["VName"] = "";
-        else {
-            if (komma > 0)
-                Texte["NName"] = text.substr(0, komma);
+        else if (komma > 0) {
+            Texte["NName"] = text.substr(0, komma);
             Texte["VName"] = text.substr(komma + 1);
         }
         const auto leeren = [&] { Texte["VName"] = Texte["NName"] = Texte["Partner"] = ""; };

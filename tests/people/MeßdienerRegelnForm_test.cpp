@@ -263,6 +263,45 @@ TEST_F(MeßdienerRegelnTest, EinPartnerGehörtNurEinem)
     EXPECT_EQ(GezeigteMeldungen.size(), 1U);
 }
 
+TEST_F(MeßdienerRegelnTest, DerLeerePlatzIstAuchEinPartnerDahinterKeinerMehr)
+{
+    Meßdiener.Vorname[3] = "Dora";
+    Meßdiener.Nachname[3] = "Dorn";
+    Meßdiener.Vorname[4] = "Emil";
+    Meßdiener.Nachname[4] = "Ernst";
+    Schreiben("Partner", "Dorn,Dora");
+    Verlassen("Partner");
+    EXPECT_EQ(Wunsch(), "Dora/Dorn/Dorn,Dora");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    Schreiben("Partner", "Ernst,Emil");
+    Verlassen("Partner");
+    EXPECT_EQ(Wunsch(), "Dora/Dorn/Dorn,Dora");
+    EXPECT_EQ(GezeigteMeldungen.size(), 1U);
+}
+
+TEST_F(MeßdienerRegelnTest, AuchDerLeerePlatzVergibtSeinenPartner)
+{
+    Meßdiener.WunschVorname[3] = "Bea";
+    Meßdiener.WunschNachname[3] = "Berg";
+    Meßdiener.WunschVorname[4] = "Cem";
+    Meßdiener.WunschNachname[4] = "Cohn";
+    Auswählen("Berg,Bea");
+    EXPECT_EQ(Wunsch(), "//");
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Schon mal zugeordnet!!!!!"});
+    Auswählen("Cohn,Cem");
+    EXPECT_EQ(Wunsch(), "Cem/Cohn/Cohn,Cem");
+    EXPECT_EQ(GezeigteMeldungen.size(), 1U);
+}
+
+TEST_F(MeßdienerRegelnTest, EinKommaAmAnfangTrenntNichts)
+{
+    Auswählen("Berg,Bea");
+    Schreiben("Partner", ","); // how the blank slot reads
+    Verlassen("Partner");
+    EXPECT_EQ(Wunsch(), "Bea/Berg/,");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
 TEST_F(MeßdienerRegelnTest, EinKommaImNachnamenTrenntFalsch)
 {
     Schreiben("Nachnamen", "Ad,ler");
