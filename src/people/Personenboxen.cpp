@@ -58,7 +58,8 @@ void Personenboxen::OrtVorschlagen() const
 
 int NummerBegrenzen(QLineEdit *feld, int letzter, int anzahl)
 {
-    if (Begrenzen(feld, 0, letzter) > anzahl + 1)
+    Begrenzen(feld, 0, letzter);
+    if (SingleLesen(TextVon(feld)) > anzahl + 1) // before it is rounded
         ZahlSetzen(feld, anzahl);
     return ZahlIn(feld);
 }

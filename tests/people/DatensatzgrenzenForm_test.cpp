@@ -67,6 +67,19 @@ TEST_F(DatensatzgrenzenForm, AuchDieGrößteNummerFälltAufDenLeerenPlatz)
     }
 }
 
+TEST_F(DatensatzgrenzenForm, EinBruchteilHinterDemLeerenPlatzIstSchonZuViel)
+{
+    for (const Editorfall &fall : Fälle()) {
+        SCOPED_TRACE(fall.Fenster);
+        ÖffnenBei(fall, 3, 0);
+        Schreiben(fall.Nummer, "4,4");
+        EXPECT_EQ(Gezeigt(fall.Nummer), "3");
+        EXPECT_EQ(*fall.Anzahl, 3);
+        Schreiben(fall.Nummer, "0,4");
+        EXPECT_EQ(Gezeigt(fall.Nummer), "0,4");
+    }
+}
+
 TEST_F(DatensatzgrenzenForm, PlusErreichtDenLetztenUndBleibtDort)
 {
     for (const Editorfall &fall : Fälle()) {
