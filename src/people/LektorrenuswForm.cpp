@@ -1,9 +1,11 @@
 // The helpers of one mass, shown and set by hand.
 #include "people/LektorrenuswForm.h"
 
+#include "core/Umwandlung.h"
 #include "core/tables.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Fensteraufbau.h"
+#include "fenster/Gelesen.h"
 #include "fenster/Handler.h"
 #include "fenster/Textwahl.h"
 #include "people/Namen.h"
@@ -121,12 +123,7 @@ void LektorrenuswForm::Verbinden()
     for (std::size_t art = 0; art < Zahlen.size(); ++art) {
         const Zahlbox &box = Zahlen[art];
         connect(box.Feld, &QLineEdit::textChanged, this, [this, art] { ZahlGeändert(art); });
-        SchritteVerbinden(nullptr, nullptr, box.Spin, [feld = box.Feld](int richtung) {
-            Abgefangen([&] {
-                ZahlSetzen(feld, Int16(ZahlIn(feld)) + richtung);
-                feld->setFocus();
-            })();
-        });
+        DrehenMitFokus(box);
     }
     for (std::size_t p = 0; p < Plätze.size(); ++p)
         BeiVerlassen(Plätze[p].LH, Abgefangen([this, p] { KomboVerlassen(p); }));
@@ -214,7 +211,7 @@ void LektorrenuswForm::Schreiben()
 {
     const int i = Messe.Cursor;
     for (std::size_t art = 0; art < Zahlen.size(); ++art) {
-        (*Zahlspalten()[art])[i] = ZahlIn(Zahlen[art].Feld);
+        (*Zahlspalten()[art])[i] = Gelesen(Zahlen[art].Feld, Int16Lesen);
         for (std::size_t p = 2 * art; p < 2 * art + 2; ++p) {
             Namen[p].VorFeld[i] = TextVon(Plätze[p].Vor);
             Namen[p].NachFeld[i] = TextVon(Plätze[p].Nach);

@@ -101,6 +101,19 @@ TEST_F(LektorrenuswFormTest, DieZahlSchaltetDiePlätze)
     }
 }
 
+TEST_F(LektorrenuswFormTest, DieZahlSchaltetUndBegrenztSchonBeimÖffnen)
+{
+    Messe.LektorZahl[2] = 0;
+    Messe.KommZahl[2] = 1;
+    Messe.KantorZahl[2] = 5;
+    Messe.KollektZahl[2] = -1;
+    Öffnen();
+    const std::array aktiv = {false, false, true, false, true, true, false, false};
+    for (std::size_t p = 0; p < Plätze.size(); ++p)
+        EXPECT_EQ(IstAktiv(p), aktiv[p]) << p;
+    EXPECT_EQ(Zeigt("Lecki") + Zeigt("Kommi") + Zeigt("Kanto") + Zeigt("Kolt"), "0120");
+}
+
 TEST_F(LektorrenuswFormTest, EineZahlDieKeineIstSchaltetNichts)
 {
     Öffnen();
@@ -131,6 +144,7 @@ TEST_F(LektorrenuswFormTest, EineZahlDieKeineIstHältDasSchließenAn)
             EXPECT_EQ(GezeigteMeldungen,
                       std::vector<Text>{"Laufzeitfehler '13': Typen unverträglich"});
             EXPECT_TRUE(form->isVisible());
+            EXPECT_TRUE(Feld(Zahlboxen[art])->hasFocus()) << "where the mistake is";
             EXPECT_EQ(geschlossen, 0);
             EXPECT_EQ(Gespeichert(0), art > 0 ? "Zita|Zoller" : "Anna|Abel"); // what came before
             EXPECT_EQ(Gespeichert(7), "Hanna|Höß");
@@ -158,6 +172,19 @@ TEST_F(LektorrenuswFormTest, DerSpinGehtUmEinsUndGibtDerZahlDenFokus)
             EXPECT_TRUE(Feld(Zahlboxen[art])->hasFocus());
         }
     }
+}
+
+TEST_F(LektorrenuswFormTest, DerSpinLäßtStehenWasKeineZahlIstUndGibtIhmDenFokus)
+{
+    Öffnen();
+    for (const char *richtung : {"ab", "auf"}) {
+        FokusAuf(Finden(form, "Ende"));
+        Eingeben("Kommi", "abc");
+        Drehen("Änderung2", richtung);
+        EXPECT_EQ(Zeigt("Kommi"), "abc");
+        EXPECT_TRUE(Feld("Kommi")->hasFocus()) << richtung;
+    }
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
 }
 
 TEST_F(LektorrenuswFormTest, EinAbgeschalteterPlatzBehältSeineNamen)
