@@ -24,21 +24,45 @@ void EintragAngleichen(QComboBox *wahl)
 }
 
 /// The keys and the opened list begin at the entry that the box shows, however its text came there.
+/// A pick that is refused empties the box: the keys go on from it, or they would never get past it.
 class Listenbedienung : public QObject {
   public:
     explicit Listenbedienung(QComboBox *wahl) : QObject(wahl), wahl(wahl)
     {
         wahl->installEventFilter(this);
+        connect(wahl, &QComboBox::activated, this, [this](int zeile) { gewählt = zeile; });
+        connect(wahl->lineEdit(), &QLineEdit::textEdited, this, [this] { gewählt = -1; });
+        connect(wahl->model(), &QAbstractItemModel::rowsRemoved, this, [this] { gewählt = -1; });
     }
 
     bool eventFilter(QObject *, QEvent *ereignis) override
     {
         if (ereignis->type() == QEvent::FocusIn || Blättert(ereignis))
             EintragAngleichen(wahl);
+        if (Verläßt(ereignis))
+            gewählt = -1;
+        if (Blättert(ereignis) && wahl->currentText().isEmpty() && wahl->currentIndex() < 0)
+            OhneText(gewählt);
         return false;
     }
 
   private:
+    void OhneText(int zeile)
+    {
+        const QSignalBlocker still(wahl);
+        wahl->setCurrentIndex(zeile);
+        wahl->setEditText({});
+    }
+
+    /// A message box or the opened list has the focus for a while only.
+    static bool Verläßt(QEvent *ereignis)
+    {
+        if (ereignis->type() != QEvent::FocusOut)
+            return false;
+        const Qt::FocusReason grund = static_cast<QFocusEvent *>(ereignis)->reason();
+        return grund != Qt::ActiveWindowFocusReason && grund != Qt::PopupFocusReason;
+    }
+
     static bool Blättert(QEvent *ereignis)
     {
         if (ereignis->type() != QEvent::KeyPress)
@@ -48,6 +72,7 @@ class Listenbedienung : public QObject {
     }
 
     QComboBox *wahl;
+    int gewählt = -1; // the entry picked last, as long as nothing else has happened to the box
 };
 
 /// Hands the wheel on to what lies behind a box: passing over it, it would choose another entry.

@@ -91,6 +91,19 @@ TEST_P(ZuordnungenFormTest, DieTastenGehenVomNamenAusDerDasteht)
     EXPECT_EQ(GezeigteMeldungen, Liste{});
 }
 
+TEST_P(ZuordnungenFormTest, DieTastenGehenÜberEinenSchonVergebenenNamenHinweg)
+{
+    Öffnen();
+    MesseWählen("23.11.2026,08:00:00,");
+    Wählen(1, "Lenz,Kim");
+    Setzen(20, "Klein,Kim"); // the slot that reacts to each change
+    FokusAuf(MDiener(20));
+    for (const char *name : {"", "Maurer,Kim"}) {
+        QTest::keyClick(MDiener(20), Qt::Key_Down);
+        EXPECT_EQ(Gewählt(20), name);
+    }
+}
+
 TEST_P(ZuordnungenFormTest, VonZweiGleichenGehenDieTastenWeiter)
 {
     MeßdienerAnlegen("Kim", "Zoller"); // behind the other one

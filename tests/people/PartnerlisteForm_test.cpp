@@ -93,6 +93,64 @@ TEST_F(PartnerlisteForm, TastenWählenAusDerListe)
     EXPECT_EQ(Meßdiener.WunschNachname[3], "Cohn");
 }
 
+TEST_F(PartnerlisteForm, DieTastenGehenÜberAbgelehnteHinweg)
+{
+    const Text selbst = "Ein und dieselbe Person!!!";
+    const Text schon = "Schon mal zugeordnet!!!!!";
+    Meßdiener.WunschVorname[3] = "Anna";
+    Meßdiener.WunschNachname[3] = "Adler";
+    FokusAuf(C("Partner"));
+    for (const Namen &erwartet : {Namen{selbst}, Namen{schon}, Namen{}}) {
+        EXPECT_EQ(Gezeigt("Partner"), "");
+        QTest::keyClick(C("Partner"), Qt::Key_Down);
+        EXPECT_EQ(GezeigteMeldungen, erwartet);
+        GezeigteMeldungen.clear();
+    }
+    EXPECT_EQ(Gezeigt("Partner"), "Berg,Bea");
+    for (const Namen &erwartet : {Namen{schon}, Namen{selbst}, Namen{}}) {
+        QTest::keyClick(C("Partner"),
+                        Qt::Key_Up); // the third time it is at the first entry already
+        EXPECT_EQ(GezeigteMeldungen, erwartet);
+        EXPECT_EQ(Gezeigt("Partner"), "");
+        GezeigteMeldungen.clear();
+    }
+}
+
+TEST_F(PartnerlisteForm, DieMeldungHältDieTastenNichtAuf)
+{
+    EchteMeldungen();
+    FokusAuf(C("Partner"));
+    Beantworten([](QMessageBox *box) { box->accept(); });
+    QTest::keyClick(C("Partner"), Qt::Key_Down);
+    Zeigen(form);
+    EXPECT_TRUE(C("Partner")->hasFocus());
+    QTest::keyClick(C("Partner"), Qt::Key_Down);
+    EXPECT_EQ(Gezeigt("Partner"), "Adler,Anna");
+}
+
+TEST_F(PartnerlisteForm, InEinerNeuenListeOderNachDemTippenBeginnenDieTastenVorn)
+{
+    Schreiben("Datensätze", "1");
+    Meßdiener.WunschVorname[3] = "Cem";
+    Meßdiener.WunschNachname[3] = "Cohn";
+    FokusAuf(C("Partner"));
+    const auto bisAnna = [&] {
+        GezeigteMeldungen.clear();
+        for (int mal = 0; mal < 2; ++mal)
+            QTest::keyClick(C("Partner"), Qt::Key_Down);
+        EXPECT_EQ(GezeigteMeldungen,
+                  (Namen{"Schon mal zugeordnet!!!!!", "Ein und dieselbe Person!!!"}));
+    };
+    bisAnna();
+    QTest::keyClick(C("Partner"), 'x');
+    QTest::keyClick(C("Partner"), Qt::Key_Backspace);
+    bisAnna();
+    QTest::keyClick(form, Qt::Key_PageUp); // to the next record, with the names as they are then
+    QTest::keyClick(form, Qt::Key_PageDown);
+    EXPECT_EQ(Gezeigt("Datensätze"), "1");
+    bisAnna();
+}
+
 TEST_F(PartnerlisteForm, AuchAusDerAufgeklapptenListe)
 {
     auto *partner = Finden<QComboBox>(form, "Partner");
