@@ -126,9 +126,12 @@ TEST_F(HelferFormTest, BlätternMitTastenUndSpinButton)
     Öffnen();
     QTest::keyClick(form, Qt::Key_PageUp);
     EXPECT_EQ(Gezeigt("Vorne"), "Bea");
-    Drehen("DPM", -1);
-    EXPECT_EQ(Gezeigt("Vorne"), "Anna");
-    EXPECT_TRUE(C("Indexen")->hasFocus());
+    for (const auto &[richtung, name] : {std::pair(-1, "Anna"), {+1, "Bea"}, {-1, "Anna"}}) {
+        FokusAuf(C("Weg"));
+        Drehen("DPM", richtung);
+        EXPECT_EQ(Gezeigt("Vorne"), name);
+        EXPECT_TRUE(C("Indexen")->hasFocus()) << richtung;
+    }
     Drücken("MINUS");
     EXPECT_EQ(Gezeigt("Indexen"), "0");
     Schreiben("Indexen", "");

@@ -256,6 +256,16 @@ TEST_F(MeßdienerFormTest, HäufigkeitAußerhalbDerOptionenBleibtStehen)
     EXPECT_EQ(Gezeigt("Haufigk"), "20");
 }
 
+TEST_F(MeßdienerFormTest, AuchEineHäufigkeitVonEinsIstOftUndBleibt)
+{
+    Meßdiener.Häufigkeit[0] = 1;
+    Öffnen();
+    EXPECT_TRUE(Finden<QRadioButton>(form, "Oft")->isChecked());
+    EXPECT_EQ(Gezeigt("Haufigk"), "1");
+    Drücken("PLUS");
+    EXPECT_EQ(Meßdiener.Häufigkeit[0], 1);
+}
+
 TEST_F(MeßdienerFormTest, DieBestätigungDrucktWasAufDemSchirmSteht)
 {
     Konfig.Schriftgröße = 10;

@@ -91,6 +91,16 @@ TEST_F(NeuGruppeFormTest, Nimmt60UndNichtMehr)
     EXPECT_TRUE(form->isVisible());
 }
 
+TEST_F(NeuGruppeFormTest, DieGrenzeGiltVorDemDoppelten)
+{
+    Gruppe.Anzahl = 60;
+    Öffnen();
+    Schreiben("GBezeichnung", "Rot");
+    OK();
+    EXPECT_EQ(GezeigteMeldungen,
+              std::vector<Text>{"Maximale Anzahl Datensätze für Gruppen erreicht!!"});
+}
+
 TEST_F(NeuGruppeFormTest, AbbrechenUndSchließenVerwerfen)
 {
     for (const bool abbrechen : {true, false}) {

@@ -112,6 +112,26 @@ TEST_F(NeuMeßdienerFormTest, KlickUndEingabetasteSchreibenDasDatumUm)
     EXPECT_EQ(Meßdiener.Anzahl, 2);
 }
 
+TEST_F(NeuMeßdienerFormTest, WasVorDemSchlechtenDatumStehtIstSchonGeschrieben)
+{
+    Meßdiener.Geschlecht[2] = "weiblich"; // what the slot holds
+    Meßdiener.Größe[2] = 7;
+    for (const auto &[box, text] : {std::pair("Vornamen", "Cem"),
+                                    {"Nachnamen", "Cohn"},
+                                    {"Geschl", "männlich"},
+                                    {"Dieenst", "Rot"},
+                                    {"Gebutag", "x"}})
+        N(box, text);
+    OK();
+    EXPECT_EQ(Meßdiener.Anzahl, 2);
+    EXPECT_EQ(Meßdiener.Vorname[2] + " " + Meßdiener.Nachname[2], "Cem Cohn");
+    EXPECT_EQ(Meßdiener.PLZ[2], 48999);
+    EXPECT_EQ(Meßdiener.Ort[2], "Beispielort");
+    EXPECT_EQ(Meßdiener.Geschlecht[2], "weiblich");
+    EXPECT_EQ(Meßdiener.Größe[2], 7);
+    EXPECT_EQ(Meßdiener.Gruppe[2], "");
+}
+
 TEST_F(NeuMeßdienerFormTest, SpinButtonsUndGrenzen)
 {
     for (const char *spin : {"Änderung1", "Änderung2", "Änderung3"})

@@ -141,6 +141,17 @@ TEST_F(NeuerHelferFormTest, Nimmt200UndNichtMehr)
     EXPECT_TRUE(form->isVisible());
 }
 
+TEST_F(NeuerHelferFormTest, DieGrenzeGiltVorDemDoppelten)
+{
+    Helfer.Anzahl = 200;
+    Öffnen();
+    Schreiben("Vorne", "Anna");
+    Schreiben("Hinten", "Adler");
+    OK();
+    EXPECT_EQ(GezeigteMeldungen,
+              std::vector<Text>{"Maximale Anzahl von Datensätzen für Helfer erreicht!"});
+}
+
 TEST_F(NeuerHelferFormTest, LehntDoppelteAb)
 {
     Helfer.Vorname[3] = "Leer"; // the blank slot does not count

@@ -224,6 +224,38 @@ TEST_F(PersonenTest, EinNameBrauchtBeideTeileZumTreffen)
     EXPECT_TRUE(IstAndererMeßdiener(0, {"", "Blanko"}));
 }
 
+TEST_F(PersonenTest, HinterDemLeerenPlatzZähltNichts)
+{
+    MeßdienerAnlegen("Anna", "Adler");
+    HelferAnlegen("Anna", "Adler", "Lektor");
+    Gruppe.Anzahl = 3;
+    for (const int i : {1, 2}) { // 1 is the blank slot
+        Meßdiener.Vorname[i] = Helfer.Vorname[i] = "Bea" + std::to_string(i);
+        Gruppe.Bezeichnung[2 + i] = "Blau" + std::to_string(i);
+    }
+    EXPECT_TRUE(IstAndererMeßdiener(0, {"Bea1", ""}));
+    EXPECT_FALSE(IstAndererMeßdiener(0, {"Bea2", ""}));
+    EXPECT_TRUE(IstAndererHelfer(0, {"Bea1", ""}));
+    EXPECT_FALSE(IstAndererHelfer(0, {"Bea2", ""}));
+    EXPECT_TRUE(IstAndereGruppe(0, "Blau1"));
+    EXPECT_FALSE(IstAndereGruppe(0, "Blau2"));
+    Meßdiener.WunschVorname[2] = "Anna";
+    Meßdiener.WunschNachname[2] = "Adler";
+    MeßdienerUmbenennen(0, {"Änne", "Öhler"});
+    EXPECT_EQ(Meßdiener.WunschVorname[2], "Anna");
+    Gruppe.Bezeichnung[0] = "Rot";
+    for (const int i : {0, 1, 2})
+        Meßdiener.Gruppe[i] = "Rot";
+    GruppeUmbenennen(0, "Grün");
+    EXPECT_EQ(Meßdiener.Gruppe[0] + Meßdiener.Gruppe[1], "GrünGrün");
+    EXPECT_EQ(Meßdiener.Gruppe[2], "Rot");
+    for (const int i : {0, 1})
+        Meßdiener.Gruppe[i] = "Rot";
+    GruppeLöschen(0);
+    EXPECT_EQ(Meßdiener.Gruppe[0] + Meßdiener.Gruppe[1], "");
+    EXPECT_EQ(Meßdiener.Gruppe[2], "Rot");
+}
+
 TEST_F(PersonenTest, NeueGruppeLäßtEinenNamenImLeerenPlatzStehen)
 {
     Gruppe.Bezeichnung[0] = "Rot";
