@@ -24,6 +24,7 @@
 namespace altardienst {
 namespace {
 
+/// A day and its weekday.
 void TagZeigen(QLineEdit *feld, QLabel *wochentag, Datum datum)
 {
     Setzen(feld, KurzesDatum(datum));
@@ -133,6 +134,7 @@ QWidget *DruckForm::Adressetiketten()
         leute->addWidget(option);
     }
     leute->addStretch();
+    GRP->setToolTip("die Gruppe, die unter \"Plan und Listen\" gewählt ist");
     auto *spalte = new QVBoxLayout(rahmen);
     spalte->addLayout(leute);
     spalte->addWidget(Etikettenrahmen);
@@ -161,13 +163,13 @@ void DruckForm::Verbinden()
 
     SchritteVerbinden(Minus1, Plus1, Änderung1, [this](int tage) {
         Abgefangen([&] {
-            Verschieben(Rückgebend, tage);
+            TagZeigen(Rückgebend, RückTag, DatumLesen(TextVon(Rückgebend)) + tage);
             RückgabeFassen();
         })();
     });
     SchritteVerbinden(Minus2, Plus2, Änderung2, [this](int tage) {
         Abgefangen([&] {
-            Verschieben(Dauernde, tage);
+            TagZeigen(Dauernde, DauerTag, DatumLesen(TextVon(Dauernde)) + tage);
             DauerFassen();
         })();
     });
@@ -185,11 +187,6 @@ void DruckForm::Öffnen()
         Gruppend->addItem(Anzeige(Gruppe.Bezeichnung[i]));
     Alles->setChecked(true);
     Etikettenrahmen->Füllen();
-}
-
-void DruckForm::Verschieben(QLineEdit *feld, int tage)
-{
-    Setzen(feld, KurzesDatum(DatumLesen(TextVon(feld)) + tage));
 }
 
 /// A day for giving back the form that lies in the past becomes today.

@@ -52,7 +52,6 @@ class DruckForm : public QWidget {
 
     void RückgabeFassen();
     void DauerFassen();
-    void Verschieben(QLineEdit *feld, int tage);
     void EtikettenDrucken();
     Text GewählteGruppe() const;
 };

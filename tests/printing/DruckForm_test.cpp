@@ -200,6 +200,18 @@ TEST_F(DruckFormTest, WasKeinTagIstBleibtStehen)
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
+// There is no return to count from, but the weekday follows the day.
+TEST_F(DruckFormTest, OhneRückgabeZeigtEinSchrittInDieVergangenheitSeinenWochentag)
+{
+    Öffnen();
+    Verlassen("Rückgebend", "am Fest");
+    Verlassen("Dauernde", "21.11.2026");
+    Drücken("Minus2");
+    EXPECT_EQ(Zeigt("Dauernde"), "20.11.2026");
+    EXPECT_EQ(Zeigt("DauerTag"), "Freitag   ");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
 TEST_F(DruckFormTest, JederKnopfDrucktSeinenBericht)
 {
     MesseMitDienern(DatumAus({2026, 11, 22}), 1);
@@ -249,6 +261,16 @@ TEST_F(DruckFormTest, DieGruppenlisteNimmtDieGewählteGruppe)
     const Liste zeilen = Gedruckt("DruckiMeßdieneri");
     EXPECT_EQ(zeilen[1], "der Gruppe Die Großen");
     EXPECT_EQ(zeilen.size(), 2U + 2 * 2);
+}
+
+// The list of groups stands in another frame.
+TEST_F(DruckFormTest, DieGruppeDerEtikettenSagtWoSieGewähltWird)
+{
+    Öffnen();
+    EXPECT_EQ(Control("GRP")->toolTip().toStdString(),
+              "die Gruppe, die unter \"Plan und Listen\" gewählt ist");
+    EXPECT_EQ(Finden<QGroupBox>(form, "Listen")->title(), "Plan und Listen");
+    EXPECT_TRUE(Control("Listen")->isAncestorOf(Control("Gruppend")));
 }
 
 TEST_F(DruckFormTest, DasMausradWechseltKeineGruppe)
