@@ -146,10 +146,13 @@ void EtikettenForm::Schreiben()
 {
     // The window's close box and the page keys leave the focus where it is, but not a box beyond
     // its bounds.
-    if (QWidget *feld = focusWidget()) {
-        feld->clearFocus();
-        feld->setFocus();
-    }
+    const QWidget *mitFokus = focusWidget();
+    for (QLineEdit *feld : Längen())
+        if (feld == mitFokus)
+            Abgefangen([=] { LängeBegrenzen(feld); })();
+    for (QLineEdit *feld : Zahlen())
+        if (feld == mitFokus)
+            Abgefangen([=] { ZahlBegrenzen(feld); })();
     const int i = Etikett.Anzahl; // the format shown, even where its number is half typed
     Etikett.Name[i] = TextVon(N);
     Etikett.RandOU[i] = SingleLesen(TextVon(OU));

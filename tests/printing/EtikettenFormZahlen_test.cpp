@@ -3,6 +3,8 @@
 
 #include "fenster/Anwendung.h"
 
+#include <QApplication>
+
 namespace altardienst {
 namespace {
 
@@ -109,6 +111,30 @@ TEST_F(EtikettenFormZahlenTest, SchließenUndSeitentastenHaltenDieGrenzenAuchOhn
     Eingeben("R", "99");
     form->close();
     EXPECT_EQ(Etikett.Reihen[3], 20);
+}
+
+// Another program has the keyboard when the window is closed from the task bar.
+TEST_F(EtikettenFormZahlenTest, DieGrenzenGeltenAuchWennEinAnderesProgrammDieTastenHat)
+{
+    Öffnen();
+    Eingeben("R", "99");
+    QApplication::setActiveWindow(nullptr);
+    ASSERT_FALSE(form->isActiveWindow());
+    form->close();
+    EXPECT_EQ(Etikett.Reihen[2], 20);
+}
+
+TEST_F(EtikettenFormZahlenTest, EinLeeresFormatDasNurAngesehenWirdBleibtLeer)
+{
+    for (auto *länge : Längen)
+        (*länge)[2] = 0;
+    Etikett.Reihen[2] = Etikett.Spalten[2] = 0;
+    Öffnen();
+    QTest::keyClick(Control("N"), Qt::Key_PageUp);
+    for (auto *länge : Längen)
+        EXPECT_EQ((*länge)[2], 0);
+    EXPECT_EQ(Etikett.Reihen[2], 0);
+    EXPECT_EQ(Etikett.Spalten[2], 0);
 }
 
 TEST_F(EtikettenFormZahlenTest, EinFeldOhneZahlHältDasFensterOffen)
