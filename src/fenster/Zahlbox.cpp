@@ -29,15 +29,14 @@ void ZahlboxAnordnen(QGridLayout *raster, int zeile, int spalte, const char *tex
 void DrehenVerbinden(const Zahlbox &box)
 {
     SchritteVerbinden(nullptr, nullptr, box.Spin, [feld = box.Feld](int richtung) {
-        Abgefangen([&] { ZahlSetzen(feld, Int16(ZahlIn(feld)) + richtung); })();
+        Abgefangen([&] { Weiterzählen(feld, richtung); })();
     });
 }
 
 void DrehenMitFokus(const Zahlbox &box)
 {
     SchritteVerbinden(nullptr, nullptr, box.Spin, [feld = box.Feld](int richtung) {
-        Schrittweise([&] { ZahlSetzen(feld, Int16(ZahlIn(feld)) + richtung); },
-                     [&] { feld->setFocus(); })();
+        Schrittweise([&] { Weiterzählen(feld, richtung); }, [&] { feld->setFocus(); })();
     });
 }
 
@@ -55,6 +54,11 @@ int ZahlIn(const QLineEdit *feld)
 void ZahlSetzen(QLineEdit *feld, int zahl)
 {
     Setzen(feld, ZahlText(zahl));
+}
+
+void Weiterzählen(QLineEdit *feld, int um)
+{
+    Setzen(feld, ZahlText(SingleLesen(TextVon(feld)) + static_cast<Single>(um)));
 }
 
 int Begrenzen(QLineEdit *feld, int von, int bis)

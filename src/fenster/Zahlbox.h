@@ -37,6 +37,9 @@ void BegrenztVerbinden(QLineEdit *feld, Int16 &wert, int von, int bis);
 int ZahlIn(const QLineEdit *feld);
 void ZahlSetzen(QLineEdit *feld, int zahl);
 
+/// Adds to the number of a box, however large; a fraction stays one. Failure 13 as above.
+void Weiterzählen(QLineEdit *feld, int um);
+
 /// Shows the numbers of record `i` in boxes, or writes the boxes to it, one after the other.
 template <std::size_t n, class Spalte>
 void ZahlenZeigen(const std::array<QLineEdit *, n> &felder, const std::array<Spalte *, n> &spalten,

@@ -17,10 +17,7 @@ void GrößeVerbinden(const Zahlbox &größe)
     QLineEdit *feld = größe.Feld;
     QObject::connect(feld, &QLineEdit::textChanged, feld,
                      Abgefangen([feld] { Begrenzen(feld, KleinsteGröße, GrößteGröße); }));
-    SchritteVerbinden(nullptr, nullptr, größe.Spin, [feld](int richtung) {
-        Schrittweise([&] { ZahlSetzen(feld, Int16(ZahlIn(feld)) + richtung); },
-                     [&] { feld->setFocus(); })();
-    });
+    DrehenMitFokus(größe);
 }
 
 } // namespace

@@ -79,9 +79,8 @@ void Planzeitraum::DatumGedreht(int tage)
 void Planzeitraum::TageGedreht(int tage)
 {
     QLineEdit *feld = tagilein.Feld;
-    Schrittweise([&] { ZahlSetzen(feld, Int16(ZahlIn(feld)) + tage); },
-                 [&] { Konfig.Tage = ZahlIn(feld); }, [&] { Berechnen(); },
-                 [&] { feld->setFocus(); })();
+    Schrittweise([&] { Weiterzählen(feld, tage); }, [&] { Konfig.Tage = ZahlIn(feld); },
+                 [&] { Berechnen(); }, [&] { feld->setFocus(); })();
 }
 
 void Planzeitraum::TageBegrenzen(int bis)

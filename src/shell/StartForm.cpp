@@ -7,6 +7,7 @@
 #include "core/tables.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Handler.h"
+#include "fenster/Zahlbox.h"
 #include "fixed/FesteMeßdienerÜbertragen.h"
 #include "planning/MessenBestimmen.h"
 #include "platform/Uhr.h"
@@ -185,7 +186,7 @@ void StartForm::DatumGedreht(int tage)
 void StartForm::TageGedreht(int tage)
 {
     Neuberechnen();
-    Tagilein->setText(Anzeige(ZahlText(Int16Lesen(TextVon(Tagilein)) + tage)));
+    Weiterzählen(Tagilein, tage);
     for (QWidget *control : std::initializer_list<QWidget *>{Tagilein, Endet, Dayig})
         control->repaint();
 }

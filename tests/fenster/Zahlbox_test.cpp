@@ -108,10 +108,26 @@ TEST_F(ZahlboxTest, DrehenGehtUmEins)
     EXPECT_EQ(änderungen, 5);
 }
 
-TEST_F(ZahlboxTest, DrehenLässtStehenWasSichNichtDrehenLässt)
+TEST_F(ZahlboxTest, DrehenZähltWeiterWasAuchDasteht)
 {
     DrehenVerbinden(box);
-    for (const char *text : {"", "abc", "32767", "40000"}) {
+    for (const auto &[text, auf, ab] : {std::tuple("2,5", "3,5", "2,5"),
+                                        {"-0,25", "0,75", "-0,25"},
+                                        {" 7 ", "8", "7"},
+                                        {"32767", "32768", "32767"},
+                                        {"-40000", "-39999", "-40000"}}) {
+        box.Feld->setText(text);
+        Klick(Finden(box.Spin, "auf"));
+        EXPECT_EQ(Aufschrift(box.Feld), auf) << text;
+        Klick(Finden(box.Spin, "ab"));
+        EXPECT_EQ(Aufschrift(box.Feld), ab) << text;
+    }
+}
+
+TEST_F(ZahlboxTest, DrehenLässtStehenWasKeineZahlIst)
+{
+    DrehenVerbinden(box);
+    for (const char *text : {"", "abc"}) {
         box.Feld->setText(text);
         Klick(Finden(box.Spin, "auf"));
         EXPECT_EQ(Aufschrift(box.Feld), text);

@@ -94,6 +94,29 @@ TEST_F(KonfigurationZahlenFormTest, JederDrehknopfBewegtSeineBoxUndGibtIhrDenFok
     }
 }
 
+// The field is rounded, a half to the even neighbour, but the box is not.
+TEST_F(KonfigurationZahlenFormTest, EinBruchBleibtBeimDrehenEinBruch)
+{
+    Öffnen();
+    for (const Grenzen &g : Begrenzte) {
+        Einfügen(g.Box, "7,5");
+        EXPECT_EQ(*g.Feld, 8) << g.Box;
+        Drehen(g.Spin, "auf");
+        EXPECT_EQ(Zeigt(g.Box), "8,5") << g.Box;
+        EXPECT_EQ(*g.Feld, 8) << g.Box;
+        Drehen(g.Spin, "auf");
+        EXPECT_EQ(Zeigt(g.Box), "9,5") << g.Box;
+        EXPECT_EQ(*g.Feld, 10) << g.Box;
+        Einfügen(g.Box, (std::to_string(g.Bis - 1) + ",5").c_str());
+        Drehen(g.Spin, "auf");
+        EXPECT_EQ(Zeigt(g.Box), std::to_string(g.Bis)) << g.Box;
+    }
+    Einfügen("DiffG", "4,5");
+    Drehen("Änderung6", "auf");
+    EXPECT_EQ(Zeigt("DiffG"), "5,5");
+    EXPECT_EQ(Konfig.DiffGröße, 3);
+}
+
 TEST_F(KonfigurationZahlenFormTest, SchonBeimÖffnenWirdBegrenzt)
 {
     for (const Grenzen &g : Begrenzte)

@@ -209,6 +209,71 @@ TEST_F(KonfigurationZeitraumFormTest, DerDrehknopfDerTageNimmtDasGetippteDatum)
     EXPECT_EQ(Konfig.StartDatum, DatumAus({2027, 12, 1}));
 }
 
+// Entering the days shows the end by the date in its box, but does not take that date over.
+TEST_F(KonfigurationZeitraumFormTest, DieTageNehmenDasGetippteDatumNichtAn)
+{
+    Öffnen();
+    const auto nurDasEnde = [&] {
+        EXPECT_EQ(Zeitraum(), "1.12.27 Samstag, 30, 31.12.2027 Freitag");
+        EXPECT_EQ(Konfig.StartDatum, Heute + 7);
+        EXPECT_EQ(Konfig.Tage, 30);
+    };
+    Einfügen("Datumsen", "1.12.27");
+    TageEingeben("30");
+    nurDasEnde();
+    Verlassen();
+    nurDasEnde();
+}
+
+TEST_F(KonfigurationZeitraumFormTest, DerDrehknopfDerTageBeiTextDerKeineZahlIst)
+{
+    Öffnen();
+    for (const char *text : {"", "x"}) {
+        if (*text)
+            Einfügen("tagilein", text);
+        else
+            Leeren("tagilein");
+        Drehen("Änderung1", "auf");
+        EXPECT_EQ(Zeitraum(), Text("28.11.2026 Samstag, ") + text + ", 26.12.2026 Samstag");
+        EXPECT_EQ(Konfig.Tage, 28) << text;
+        EXPECT_TRUE(Control("tagilein")->hasFocus()) << text;
+    }
+    for (const char *text : {"32767", "40000"}) { // the box is left for the button
+        Einfügen("tagilein", text);
+        Drehen("Änderung1", "auf");
+        EXPECT_EQ(Zeigt("tagilein"), "121") << text;
+        EXPECT_EQ(Konfig.Tage, 121) << text;
+        EXPECT_TRUE(Control("tagilein")->hasFocus()) << text;
+    }
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+// The box goes on, the setting has no room for it.
+TEST_F(KonfigurationZeitraumFormTest, ÜberDieGrößteZahlDrehtNurDieBox)
+{
+    Konfig.Tage = 32767;
+    Öffnen();
+    const Text ende = Zeigt("Endet");
+    Drehen("Änderung1", "auf");
+    EXPECT_EQ(Zeigt("tagilein"), "32768");
+    EXPECT_EQ(Konfig.Tage, 32767);
+    EXPECT_EQ(Zeigt("Endet"), ende);
+    EXPECT_TRUE(Control("tagilein")->hasFocus());
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    Verlassen();
+    EXPECT_EQ(Konfig.Tage, 120);
+}
+
+TEST_F(KonfigurationZeitraumFormTest, EinBruchVonTagenBleibtBeimDrehenEinBruch)
+{
+    Öffnen();
+    TageEingeben("20,5");
+    EXPECT_EQ(Konfig.Tage, 20);
+    Drehen("Änderung1", "auf");
+    EXPECT_EQ(Zeigt("tagilein"), "21,5");
+    EXPECT_EQ(Konfig.Tage, 22);
+}
+
 TEST_F(KonfigurationZeitraumFormTest, BeimSchließenWirdNichtsBegrenzt)
 {
     Öffnen();

@@ -178,6 +178,16 @@ TEST_F(ZusatzKonfigFormTest, DerDrehknopfBewegtDieWochenUndGibtDenFokus)
     EXPECT_EQ(Konfig.VorlaufWochen, 1);
 }
 
+TEST_F(ZusatzKonfigFormTest, EinBruchBleibtBeimDrehenEinBruch)
+{
+    Öffnen();
+    Wochen("2,5");
+    EXPECT_EQ(Konfig.VorlaufWochen, 2);
+    Drehen("auf");
+    EXPECT_EQ(Aufschrift(Control("WOBO")), "3,5");
+    EXPECT_EQ(Konfig.VorlaufWochen, 4);
+}
+
 TEST_F(ZusatzKonfigFormTest, EndeUndSchließenGebenDasHauptfensterZurück)
 {
     GibtDasHauptfensterZurück([this] {

@@ -93,6 +93,20 @@ TEST_F(StartFormTageTest, Änderung1ZähltTage)
     EXPECT_EQ(Konfig.Tage, 27);
 }
 
+// The setting is rounded, a half to the even neighbour, but the box is not.
+TEST_F(StartFormTageTest, EinBruchVonTagenBleibtBeimDrehenEinBruch)
+{
+    Öffnen();
+    Eingeben("Tagilein", "7,5");
+    EXPECT_EQ(Konfig.Tage, 8);
+    Drehen("Änderung1", "auf");
+    EXPECT_EQ(Zeigt("Tagilein"), "8,5");
+    EXPECT_EQ(Konfig.Tage, 8);
+    Drehen("Änderung1", "auf");
+    EXPECT_EQ(Zeigt("Tagilein"), "9,5");
+    EXPECT_EQ(Konfig.Tage, 10);
+}
+
 TEST_F(StartFormTageTest, Änderung1BleibtInDenGrenzenUndÜbernimmtDasDatum)
 {
     Öffnen();
