@@ -3,7 +3,8 @@
 
 #include "fenster/Bausteine.h"
 #include "fenster/Handler.h"
-#include "platform/Laufwerke.h"
+
+#include <QScrollBar>
 
 namespace altardienst {
 namespace {
@@ -13,6 +14,32 @@ void Hinzufügen(QListWidget *liste, const Text &name)
 {
     auto *eintrag = new QListWidgetItem(Anzeige(name), liste);
     eintrag->setData(Qt::UserRole, QByteArray::fromStdString(name));
+}
+
+std::vector<Text> Namen(const QListWidget *liste)
+{
+    std::vector<Text> namen;
+    for (int i = 0; i < liste->count(); ++i)
+        namen.push_back(Verzeichniswahl::Name(liste->item(i)));
+    return namen;
+}
+
+/// Where something has changed; the row that is marked and the part in sight stay.
+void Füllen(QListWidget *liste, const std::vector<Text> &namen)
+{
+    if (Namen(liste) == namen)
+        return;
+    const QListWidgetItem *eintrag = liste->currentItem();
+    const Text markiert = eintrag ? Verzeichniswahl::Name(eintrag) : "";
+    const int gerollt = liste->verticalScrollBar()->value();
+    liste->clear();
+    for (const Text &name : namen) {
+        Hinzufügen(liste, name);
+        if (name == markiert)
+            liste->setCurrentRow(liste->count() - 1);
+    }
+    liste->doItemsLayout(); // else there is nothing to scroll yet
+    liste->verticalScrollBar()->setValue(gerollt);
 }
 
 std::filesystem::path OhneTrenner(const std::filesystem::path &verzeichnis)
@@ -74,7 +101,12 @@ void Verzeichniswahl::LaufwerkÖffnen()
 
 void Verzeichniswahl::Öffnen(const std::filesystem::path &neu)
 {
-    Füllen(OhneTrenner(neu));
+    const std::filesystem::path verzeichnis = OhneTrenner(neu);
+    const Verzeichnisinhalt inhalt = Laufwerke.Auflisten(verzeichnis);
+    pfad = verzeichnis;
+    for (QListWidget *liste : {Verzeichnis, Dateien})
+        liste->clear(); // a mark does not go along into another directory
+    Zeigen(inhalt);
     BeiWechsel();
 }
 
@@ -97,21 +129,16 @@ void Verzeichniswahl::Anlegen(const Text &name) const
 
 void Verzeichniswahl::Auffrischen()
 {
-    Füllen(pfad);
+    Zeigen(Laufwerke.Auflisten(pfad));
 }
 
-void Verzeichniswahl::Füllen(const std::filesystem::path &neu)
+void Verzeichniswahl::Zeigen(const Verzeichnisinhalt &inhalt) const
 {
-    const Verzeichnisinhalt inhalt = Laufwerke.Auflisten(neu);
-    pfad = neu;
-    Verzeichnis->clear();
-    Dateien->clear();
-    if (neu != neu.root_path())
-        Hinzufügen(Verzeichnis, "..");
-    for (const Text &name : inhalt.Verzeichnisse)
-        Hinzufügen(Verzeichnis, name);
-    for (const Text &name : inhalt.Dateien)
-        Hinzufügen(Dateien, name);
+    std::vector<Text> verzeichnisse = inhalt.Verzeichnisse;
+    if (pfad != pfad.root_path())
+        verzeichnisse.insert(verzeichnisse.begin(), "..");
+    Füllen(Verzeichnis, verzeichnisse);
+    Füllen(Dateien, inhalt.Dateien);
 }
 
 } // namespace altardienst

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/Text.h"
+#include "platform/Laufwerke.h"
 
 #include <QComboBox>
 #include <QListWidget>
@@ -41,7 +42,7 @@ class Verzeichniswahl {
     /// where no directory is open or the open one is gone.
     void Anlegen(const Text &name) const;
 
-    /// Reads the directory again, without `BeiWechsel`.
+    /// Reads the directory again, without `BeiWechsel`. What is marked and in sight stays.
     void Auffrischen();
 
     /// Runs after each change of the directory.
@@ -57,7 +58,7 @@ class Verzeichniswahl {
     void LaufwerkGewählt();
     void LaufwerkÖffnen();
     void EintragÖffnen(const QListWidgetItem *eintrag);
-    void Füllen(const std::filesystem::path &neu);
+    void Zeigen(const Verzeichnisinhalt &inhalt) const;
 
     std::filesystem::path pfad;
     int offenesLaufwerk = 0;

@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QElapsedTimer>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace altardienst {
@@ -210,6 +211,52 @@ TEST_F(VerzeichniswahlTest, AuffrischenLiestNeuUndMeldetKeinenWechsel)
     EXPECT_EQ(Zeilen(w.Verzeichnis), (Liste{"..", "Bilder", "Neu", "Texte"}));
     EXPECT_EQ(Zeilen(w.Dateien), (Liste{"b.txt", "neu.txt", "Äpfel.txt"}));
     EXPECT_EQ(wechsel, 0);
+}
+
+/// Forty files, of which the marked one lies far down.
+TEST_F(VerzeichniswahlTest, AuffrischenLässtDieMarkeUndDenAusschnittStehen)
+{
+    for (int i = 10; i < 50; ++i)
+        DateiSchreiben(Festplatte / ("Datei " + std::to_string(i)), "");
+    Verzeichniswahl &w = Öffnen();
+    fenster.resize(300, 300);
+    w.Verzeichnis->setCurrentRow(2);
+    w.Dateien->setCurrentRow(29);
+    w.Dateien->verticalScrollBar()->setValue(20);
+    QListWidgetItem *zeile = w.Dateien->currentItem();
+    const auto istWieZuvor = [&] {
+        EXPECT_EQ(w.Dateien->currentItem()->text(), "Datei 39");
+        EXPECT_TRUE(w.Dateien->currentItem()->isSelected());
+        EXPECT_EQ(w.Dateien->verticalScrollBar()->value(), 20);
+        EXPECT_EQ(w.Verzeichnis->currentItem()->text(), "Texte");
+    };
+    w.Auffrischen();
+    istWieZuvor();
+    EXPECT_EQ(w.Dateien->currentItem(), zeile) << "nothing has changed, nothing is made anew";
+
+    DateiSchreiben(Festplatte / "Datei 09", "");
+    w.Auffrischen();
+    istWieZuvor();
+    EXPECT_EQ(w.Dateien->currentRow(), 30);
+
+    fs::remove(Festplatte / "Datei 39");
+    w.Auffrischen();
+    EXPECT_EQ(w.Dateien->currentItem(), nullptr);
+    EXPECT_EQ(w.Dateien->verticalScrollBar()->value(), 20);
+}
+
+TEST_F(VerzeichniswahlTest, InEinemAnderenVerzeichnisIstNichtsMarkiert)
+{
+    fs::create_directories(Festplatte / "Texte" / "Bilder");
+    DateiSchreiben(Festplatte / "Texte" / "b.txt", "");
+    Verzeichniswahl &w = Öffnen();
+    w.Dateien->setCurrentRow(0);
+    w.Verzeichnis->setCurrentRow(1);
+    w.Öffnen(Festplatte / "Texte");
+    EXPECT_EQ(Zeilen(w.Dateien), Liste{"b.txt"});
+    EXPECT_EQ(Zeilen(w.Verzeichnis), (Liste{"..", "Bilder", "Größen"}));
+    EXPECT_EQ(w.Dateien->currentItem(), nullptr);
+    EXPECT_EQ(w.Verzeichnis->currentItem(), nullptr);
 }
 
 TEST_F(VerzeichniswahlTest, BeginntAufDemErstenLesbarenLaufwerk)
