@@ -169,9 +169,9 @@ void JubiGebuForm::Verbinden()
     const auto klick = [this](QPushButton *knopf, const std::function<void()> &handler) {
         connect(knopf, &QPushButton::clicked, this, Offen(handler));
     };
-    klick(AnsichtGeb, [] { DialogDanebenÖffnen(new GeburtstagsansichtForm); });
+    klick(AnsichtGeb, [this] { AnsichtÖffnen(new GeburtstagsansichtForm); });
     klick(DruckGebu, [this] { GeburtstageDrucken(GewählteGruppe(), GeburtsMonat()); });
-    klick(AnsichtJubiMeß, [] { DialogDanebenÖffnen(new JubiläumsanzeigeForm); });
+    klick(AnsichtJubiMeß, [this] { AnsichtÖffnen(new JubiläumsanzeigeForm); });
     klick(JubiläumMeßdiener, [this] { JubiläenDrucken(JubiläumsJahre()); });
     klick(Etikettenrahmen->Etiketten, [this] { EtikettenDrucken(); });
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
@@ -185,6 +185,13 @@ void JubiGebuForm::GeburtstageFüllen()
 void JubiGebuForm::JubiläenFüllen()
 {
     JubiläenSuchen(JubiläumsJahre());
+}
+
+/// When the view has closed, this form has the keyboard again.
+void JubiGebuForm::AnsichtÖffnen(QWidget *ansicht)
+{
+    connect(ansicht, &QObject::destroyed, this, &QWidget::activateWindow);
+    DialogDanebenÖffnen(ansicht);
 }
 
 void JubiGebuForm::EtikettenDrucken()

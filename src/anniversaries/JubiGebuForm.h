@@ -34,6 +34,7 @@ class JubiGebuForm : public QWidget {
 
     void GeburtstageFüllen();
     void JubiläenFüllen();
+    void AnsichtÖffnen(QWidget *ansicht);
     void EtikettenDrucken();
 
     Gruppende GewählteGruppe() const { return static_cast<Gruppende>(Gruppe->checkedId()); }

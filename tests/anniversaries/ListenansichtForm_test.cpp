@@ -182,6 +182,7 @@ TEST_F(ListenansichtFormTest, DieFormWartetBisEndeDieAnsichtSchließt)
     EXPECT_TRUE(Warten([&] { return ansicht.isNull(); }));
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_TRUE(form->isVisible());
+    EXPECT_TRUE(Warten([&] { return form->isActiveWindow(); }));
     EXPECT_FALSE(haupt.isEnabled()); // comes back with the form behind
 }
 
