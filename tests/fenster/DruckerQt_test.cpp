@@ -209,6 +209,46 @@ TEST_F(DruckerQtTest, EineNeueSeiteBeginntOben)
     EXPECT_NEAR(Fertig().Wort("b").Oben, 0, 1);
 }
 
+/// The fonts in the document, one to a line.
+QStringList Schriften(const QString &datei)
+{
+    return Anzeige(Aufruf("pdffonts", {datei})).trimmed().split('\n').mid(2);
+}
+
+TEST_F(DruckerQtTest, AufDerNeuenSeiteGehtDieSchriftWeiter)
+{
+    drucker.FontSize(20);
+    drucker.FontBold(true);
+    Zeile("kopf");
+    drucker.FontSize(10);
+    drucker.FontBold(false);
+    Zeile("eins");
+    drucker.NewPage();
+    Zeile("zwei");
+    const PdfInhalt pdf = Fertig();
+    const auto höhe = [&](const char *wort) { return pdf.Wort(wort).Unten - pdf.Wort(wort).Oben; };
+    EXPECT_EQ(pdf.Wort("zwei").Seite, 2);
+    EXPECT_NEAR(höhe("kopf"), 2 * höhe("eins"), 0.1);
+    EXPECT_NEAR(höhe("zwei"), höhe("eins"), 0.01);
+    const QStringList schriften = Schriften(datei);
+    EXPECT_EQ(schriften.size(), 2) << schriften.join('\n').toStdString();
+}
+
+// As in the list of birthdays, which leaves the font as the report before it set it.
+TEST_F(DruckerQtTest, DieSchriftBleibtInDasNächsteDokument)
+{
+    drucker.FontName("Liberation Serif");
+    Zeile("eins");
+    drucker.EndDoc();
+    drucker.Dialog({});
+    drucker.FontSize(12);
+    Zeile("zwei");
+    drucker.EndDoc();
+    const QStringList schriften = Schriften(datei);
+    ASSERT_EQ(schriften.size(), 1);
+    EXPECT_TRUE(schriften[0].contains("LiberationSerif")) << schriften[0].toStdString();
+}
+
 TEST_F(DruckerQtTest, EinZweitesDokumentBeginntVonVorn)
 {
     Zeile("eins", 3000, 9000);

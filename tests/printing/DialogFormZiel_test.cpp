@@ -99,6 +99,8 @@ TEST_F(DialogFormZielTest, EinClickInDieDateilistePrüftNeu)
                       dateien->visualItemRect(dateien->item(0)).center());
     EXPECT_TRUE(WählerStehtAuf("Anhang"));
     EXPECT_EQ(Ziel(), Pfad(Festplatte / "Datei.txt")); // the list does not name the file
+    ASSERT_NE(dateien->currentItem(), nullptr);
+    EXPECT_EQ(dateien->currentItem()->text(), "plan.txt"); // but it stays marked
 }
 
 TEST_F(DialogFormZielTest, AnhängenOhneDateiFälltSofortZurück)

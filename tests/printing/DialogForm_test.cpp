@@ -99,6 +99,23 @@ TEST_F(DialogFormTest, EinFehlerBeimSchreibenWirdGemeldetUndDerDialogBleibt)
     }
 }
 
+TEST_F(DialogFormTest, WasVorEinemFehlerGeschriebenWarBleibtInDerDatei)
+{
+    const std::string hälfte = plan.substr(0, plan.size() / 2);
+    Laufwerke.Anhängen = [&, anhängen = Laufwerke.Anhängen](const fs::path &pfad,
+                                                            std::string_view text) {
+        EXPECT_EQ(text, plan);
+        anhängen(pfad, hälfte);
+        throw Laufzeitfehler(Laufzeitfehler::DatenträgerVoll);
+    };
+    Öffnen();
+    Tippen(form->Dateiname, "plan");
+    Klick(form->OKButton);
+    EXPECT_EQ(GezeigteMeldungen, Liste{"Datei konnte nicht geschrieben werden!!"});
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(DateiLesen(Festplatte / "plan.txt"), "alt\r\n" + hälfte);
+}
+
 TEST_F(DialogFormTest, EineUnlesbareWurzelIstKeinStillesGelingen)
 {
     Laufwerke.Wurzeln = [this] { return std::vector<Wurzel>{{"weg", Festplatte / "weg"}}; };

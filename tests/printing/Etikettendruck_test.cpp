@@ -248,6 +248,32 @@ TEST_F(EtikettendruckTest, OhneLeuteKeinEtikettUndDerBogenIstNochLeer)
     EXPECT_EQ(platz.Spalte, 2);
 }
 
+// The cell where the run begins is taken before it shows that nobody is there for it.
+TEST_F(EtikettendruckTest, OhneLeuteEndetDerLaufAmGewähltenPlatz)
+{
+    platz = {3, 2};
+    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    EXPECT_EQ(platz.Reihe, 3);
+    EXPECT_EQ(platz.Spalte, 3);
+    MeßdienerAnzahl(3);
+    platz = {3, 2};
+    EtikettenDrucken(EtikettenDerGruppe("Die Kleinen"), platz);
+    EXPECT_EQ(Plätze(), Liste{});
+    EXPECT_EQ(platz.Reihe, 3);
+    EXPECT_EQ(platz.Spalte, 3);
+}
+
+TEST_F(EtikettendruckTest, EineGruppeBeginntAmGewähltenPlatz)
+{
+    MeßdienerAnzahl(6);
+    InGruppe("Die Großen", {1, 3});
+    platz = {2, 2};
+    EtikettenDrucken(EtikettenDerGruppe("Die Großen"), platz);
+    EXPECT_EQ(Plätze(), (Liste{"V1 11", "V3 20"}));
+    EXPECT_EQ(platz.Reihe, 3);
+    EXPECT_EQ(platz.Spalte, 3);
+}
+
 TEST_F(EtikettendruckTest, AbgebrochenBleibtDerPlatz)
 {
     MeßdienerAnzahl(2);

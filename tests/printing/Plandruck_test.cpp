@@ -132,6 +132,18 @@ TEST_F(PlandruckTest, ImHelferbogenStehtVomWochendienstNurDieÜberschrift)
                                  .Zeilen);
 }
 
+TEST_F(PlandruckTest, EineArtDieNurSoBeginntIstKeinWochendienst)
+{
+    MesseAnlegen(3, "Wochendienst ");
+    Papier.Antwort = 1;
+    PlanDrucken();
+    EXPECT_EQ(Papier.WieOft("Print \"Sonntag, 22.11.2026 , 09:05Uhr, Wochendienst \""), 1);
+    for (const char *dienst : {"Lektor", "Kommunionhelfer", "Kollektant", "Kantor"})
+        EXPECT_EQ(
+            Papier.WieOft("Print \"" + Text(dienst) + ": __________________________________\""), 1)
+            << dienst;
+}
+
 TEST_F(PlandruckTest, OhneHelferdiensteBleibenDieLinienWeg)
 {
     MesseAnlegen(3);

@@ -107,10 +107,14 @@ const Fall Fälle[] = {
     {"PlanMitZweiHelferdiensten", 0, MesseMitHelfern(1, 0, 2, 0), PlanDrucken, 4, 5, 5, 6, 7, 6},
     {"PlanMitAnderenHelferdiensten", 0, MesseMitHelfern(0, 1, 0, 1), PlanDrucken, 4, 5, 5, 6, 7, 6},
     {"PlanMitAllenHelferdiensten", 0, MesseMitHelfern(1, 1, 1, 1), PlanDrucken, 4, 5, 7, 8, 7, 6},
+    {"PlanMitNegativenHelferzahlen", 0, MesseMitHelfern(-1, -1, -1, -1), PlanDrucken, 4, 5, 3, 4, 7,
+     6},
     {"Helferbogen", 1, MesseMit(2), PlanDrucken, 4, 5, 7, 6, 6, 6, 0},
     {"HelferbogenOhneHelferdienste", 1, MitFlags11("jnjjjjjjjjj", MesseMit(2)), PlanDrucken, 4, 5,
      2, 2, 6, 6, 0},
     {"HelferbogenWochendienst", 1, MesseMit(2, "Wochendienst"), PlanDrucken, 4, 5, 2, 2, 6, 6, 0},
+    {"HelferbogenFastWochendienst", 1, MesseMit(2, "Wochendienst "), PlanDrucken, 4, 5, 7, 6, 6, 6,
+     0},
 };
 
 class SeitenumbruchStand : public Druckstand {
