@@ -232,6 +232,43 @@ TEST_F(JubiGebuTest, WerZuerstKamStehtVorn)
     EXPECT_EQ(Jubiläen(5), "A B C");
 }
 
+TEST_F(JubiGebuTest, BeimSortierenGehtJedeAngabeMit)
+{
+    struct Person {
+        Text Vorname, Nachname;
+        Kalendertag Eintritt;
+        int Jahre;
+        Text Telefon, Straße;
+        int Plz;
+        Text Ort;
+    };
+    const std::array<Person, 2> leute = {{
+        {"Spät", "Sommer", {2011, 5, 17}, 15, "0254/1", "Hauptstraße 5", 43217, "Quellersheim"},
+        {"Früh", "Frost", {2009, 3, 2}, 17, "0254/2", "Am Bach 1", 43299, "Oberquell"},
+    }};
+    for (const Person &p : leute) {
+        const int i = Eingetreten(p.Vorname, p.Eintritt);
+        Meßdiener.Nachname[i] = p.Nachname;
+        Meßdiener.Telefon[i] = p.Telefon;
+        Meßdiener.Straße[i] = p.Straße;
+        Meßdiener.PLZ[i] = p.Plz;
+        Meßdiener.Ort[i] = p.Ort;
+    }
+    JubiläenSuchen(15);
+    JubiläumslisteTabelle &liste = Jubiläumsliste;
+    ASSERT_EQ(liste.Anzahl, 2);
+    for (int i = 0; i < 2; ++i) {
+        const Person &p = leute[static_cast<std::size_t>(1 - i)];
+        EXPECT_EQ(liste.Vorname[i], p.Vorname);
+        EXPECT_EQ(liste.Nachname[i], p.Nachname);
+        EXPECT_EQ(liste.Eintrittsdatum[i], DatumAus(p.Eintritt));
+        EXPECT_EQ(liste.Jahre[i], p.Jahre);
+        EXPECT_EQ(liste.Telefon[i], p.Telefon);
+        EXPECT_EQ(liste.Straße[i], p.Straße);
+        EXPECT_EQ(liste.Ort[i], std::to_string(p.Plz) + " " + p.Ort);
+    }
+}
+
 // Two rows: one pass. Three: two passes, ABC -> BCA -> CAB.
 TEST_F(JubiGebuTest, GleicheDatenTauschenBeiJedemDurchgang)
 {

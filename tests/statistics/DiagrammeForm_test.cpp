@@ -87,6 +87,16 @@ class DiagrammeFormTest : public Statistikstand {
         return zahlen;
     }
 
+    /// Bars from 1 on whose height is written at their upper end.
+    static std::map<std::pair<int, int>, int> ÜberDenBalken(const std::vector<int> &werte)
+    {
+        std::map<std::pair<int, int>, int> zahlen;
+        int stelle = 0;
+        for (const int wert : werte)
+            zahlen[{++stelle, wert}] = wert;
+        return zahlen;
+    }
+
     StatistikForm *statistik = nullptr;
 };
 
@@ -96,7 +106,9 @@ TEST_F(DiagrammeFormTest, Alter)
     QCustomPlot *bild = Bild("MSChart1");
     EXPECT_EQ(Titel(bild), "Alter der Meßdiener");
     EXPECT_EQ(Klassen(bild->xAxis), Reihe(9, 20, " Jahre "));
-    EXPECT_EQ(Werte(bild), (std::vector{2, 0, 0, 3, 0, 0, 0, 0, 0, 0, 0, 3}));
+    const std::vector werte = {2, 0, 0, 3, 0, 0, 0, 0, 0, 0, 0, 3};
+    EXPECT_EQ(Werte(bild), werte);
+    EXPECT_EQ(Geschrieben(bild), ÜberDenBalken(werte));
     EXPECT_EQ(bild->xAxis->label(), "Alter");
     EXPECT_EQ(bild->yAxis->label(), "Anzahl Meßdiener");
 }
@@ -107,8 +119,11 @@ TEST_F(DiagrammeFormTest, Zugehörigkeit)
     QCustomPlot *bild = Bild("MSChart2");
     EXPECT_EQ(Titel(bild), "Zugehörigkeit der Meßdiener in Jahren");
     EXPECT_EQ(Klassen(bild->xAxis), Reihe(0, 15, " Jahre "));
-    EXPECT_EQ(Werte(bild), (std::vector{2, 0, 0, 2, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 2}));
+    const std::vector werte = {2, 0, 0, 2, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 2};
+    EXPECT_EQ(Werte(bild), werte);
+    EXPECT_EQ(Geschrieben(bild), ÜberDenBalken(werte));
     EXPECT_EQ(bild->xAxis->label(), "Zugehörigkeit");
+    EXPECT_EQ(bild->yAxis->label(), "Anzahl Meßdiener");
 }
 
 TEST_F(DiagrammeFormTest, Gegenüberstellung)

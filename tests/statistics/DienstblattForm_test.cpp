@@ -207,6 +207,7 @@ TEST_F(DienstblattFormTest, HelferlisteAufPapier)
 {
     Öffnen<StatHelferForm>();
     EXPECT_EQ(Aufschrift(Finden(form, "Dluckeln")), "Drucken");
+    Messe.Lektor1Vor[0] = "Max"; // later than the opening
     Drücken("Dluckeln");
     const Text papier = PdfText(datei);
     for (const char *zeile : {"Statistik Helfer mit Anzahl Dienste",

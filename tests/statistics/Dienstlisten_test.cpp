@@ -3,6 +3,7 @@
 
 #include "printing/Druckstand.h"
 
+#include <algorithm>
 #include <functional>
 
 namespace altardienst {
@@ -103,6 +104,24 @@ TEST_F(DienstlistenTest, NachDemSeitenwechselKommtDerKopfWieder)
     EXPECT_TRUE(
         std::ranges::equal(ende.Zeilen, std::vector(Papier.Zeilen.end() - std::ssize(ende.Zeilen),
                                                     Papier.Zeilen.end())));
+}
+
+TEST_F(DienstlistenTest, DerKopfStehtAufJederSeiteInSeinenBeidenGrößen)
+{
+    Meßdienerzählung zählung;
+    for (int k = 0; k < 3; ++k) {
+        MeßdienerAnlegen("Anna", "Berg");
+        zählung[k] = {"Anna", "Berg", {}};
+    }
+    Papier.Seitenhöhe = 3600 + 600; // a page to each line
+    MeßdienerdiensteDrucken(zählung);
+    const auto erste = std::find(Papier.Zeilen.begin(), Papier.Zeilen.end(), "NewPage");
+    const auto zweite = std::find(erste + 1, Papier.Zeilen.end(), "NewPage");
+    Ablauf seite;
+    seite.Tut("NewPage").Tut("CurrentY 600");
+    Kopf(seite, Diener);
+    seite.Zeile("Anna Berg" + NullenA);
+    EXPECT_EQ(std::vector(erste, zweite), seite.Zeilen);
 }
 
 TEST_F(DienstlistenTest, EineZeileWenigerUndDieSeiteReicht)

@@ -163,6 +163,19 @@ TEST_F(DienstzählungTest, HelferZählenAnBeidenPlätzenJederArt)
     EXPECT_EQ(zählung[0].Insgesamt(), 4);
 }
 
+// Nothing keeps two helpers from having one name.
+TEST_F(DienstzählungTest, HelferEinesNamensZählenBeide)
+{
+    HelferAnlegen("Lea", "Lang", "Lektor");
+    HelferAnlegen("Lea", "Lang", "Kantor");
+    const int messe = NeueMesse();
+    Messe.Lektor2Vor[messe] = "Lea";
+    Messe.Lektor2Nach[messe] = "Lang";
+    Helferzählung zählung = HelferdiensteZählen();
+    EXPECT_EQ(zählung[0].Dienste, (Dienste4{1, 0, 0, 0}));
+    EXPECT_EQ(zählung[1].Dienste, (Dienste4{1, 0, 0, 0}));
+}
+
 /// The comparison of everyone with every slot, as it is told.
 Meßdienerzählung AlleMitAllen()
 {
@@ -179,6 +192,36 @@ Meßdienerzählung AlleMitAllen()
                     for (std::size_t art = 0; art < 6; ++art)
                         zählung[d].Dienste[art] +=
                             Messe.DienerDienst[i][slot - 1] == arten[art] ? 1 : 0;
+    }
+    return zählung;
+}
+
+struct Helferplatz {
+    MesseTabelle::Spalte<Text> &Vor, &Nach;
+    std::size_t Art;
+};
+
+const std::array<Helferplatz, 8> Helferplätze = {{
+    {Messe.Lektor1Vor, Messe.Lektor1Nach, 0},
+    {Messe.Lektor2Vor, Messe.Lektor2Nach, 0},
+    {Messe.Komm1Vor, Messe.Komm1Nach, 1},
+    {Messe.Komm2Vor, Messe.Komm2Nach, 1},
+    {Messe.Kantor1Vor, Messe.Kantor1Nach, 2},
+    {Messe.Kantor2Vor, Messe.Kantor2Nach, 2},
+    {Messe.Kollekt1Vor, Messe.Kollekt1Nach, 3},
+    {Messe.Kollekt2Vor, Messe.Kollekt2Nach, 3},
+}};
+
+Helferzählung AlleHelferMitAllen()
+{
+    Helferzählung zählung;
+    for (int h = 0; h <= Helfer.Anzahl; ++h) {
+        zählung[h].Vorname = Helfer.Vorname[h];
+        zählung[h].Nachname = Helfer.Nachname[h];
+        for (int i = 0; i <= Messe.Anzahl; ++i)
+            for (const Helferplatz &platz : Helferplätze)
+                if (platz.Nach[i] == Helfer.Nachname[h] && platz.Vor[i] == Helfer.Vorname[h])
+                    ++zählung[h].Dienste[platz.Art];
     }
     return zählung;
 }
@@ -216,18 +259,35 @@ void Erwürfeln(std::mt19937 &zufall, int meßdiener, int messen)
                                                         : Text(Meßdiener.Nachname[d]);
             Messe.DienerDienst[i][slot] = eines(dienste);
         }
+
+    Helfer.Anzahl = std::min(meßdiener, 200);
+    for (int h = 0; h <= Helfer.Anzahl; ++h) {
+        Helfer.Vorname[h] = eines(vornamen) + std::to_string(zahl(Helfer.Anzahl / 20));
+        Helfer.Nachname[h] = eines(nachnamen);
+    }
+    for (int i = 0; i <= messen; ++i)
+        for (const Helferplatz &platz : Helferplätze) {
+            const int h = zahl(Helfer.Anzahl);
+            const bool leer = zahl(10) == 0;
+            platz.Vor[i] = leer ? "" : Helfer.Vorname[h];
+            platz.Nach[i] = leer ? "" : zahl(10) == 0 ? eines(nachnamen) : Text(Helfer.Nachname[h]);
+        }
+}
+
+template <class Zählung> void IstGleich(Zählung gezählt, Zählung verglichen, int letzter)
+{
+    for (int i = 0; i <= letzter; ++i) {
+        ASSERT_EQ(gezählt[i].Vorname, verglichen[i].Vorname);
+        ASSERT_EQ(gezählt[i].Nachname, verglichen[i].Nachname);
+        ASSERT_EQ(gezählt[i].Dienste, verglichen[i].Dienste)
+            << i << " " << gezählt[i].Vorname << " " << gezählt[i].Nachname;
+    }
 }
 
 void Vergleichen()
 {
-    Meßdienerzählung gezählt = MeßdienerdiensteZählen();
-    Meßdienerzählung verglichen = AlleMitAllen();
-    for (int d = 0; d <= MeßdienerTabelle::HöchsterIndex; ++d) {
-        ASSERT_EQ(gezählt[d].Vorname, verglichen[d].Vorname);
-        ASSERT_EQ(gezählt[d].Nachname, verglichen[d].Nachname);
-        ASSERT_EQ(gezählt[d].Dienste, verglichen[d].Dienste)
-            << d << " " << gezählt[d].Vorname << " " << gezählt[d].Nachname;
-    }
+    IstGleich(MeßdienerdiensteZählen(), AlleMitAllen(), MeßdienerTabelle::HöchsterIndex);
+    IstGleich(HelferdiensteZählen(), AlleHelferMitAllen(), HelferTabelle::HöchsterIndex);
 }
 
 TEST_F(DienstzählungTest, GleichtDemVergleichAllerMitAllen)

@@ -72,6 +72,14 @@ TEST_F(MessendiensteFormTest, TausendDiensteStehenInGruppen)
     EXPECT_EQ(Zeigt("MAges"), "12000");
     EXPECT_EQ(Zeigt("DMges"), "12.000,0");
     EXPECT_EQ(Zeigt("DjM"), "12.000,000");
+    delete form;
+    for (int i = 0; i < 600; ++i)
+        Messe.LektorZahl[i] = Messe.KommZahl[i] = Messe.KantorZahl[i] = Messe.KollektZahl[i] = 2;
+    HelferAnlegen("Lea", "Lang", "Lektor");
+    Öffnen<StatistikHelferForm>();
+    EXPECT_EQ(Zeigt("DHI"), "4800");
+    EXPECT_EQ(Zeigt("DHM"), "8,000");
+    EXPECT_EQ(Zeigt("DHH"), "4.800,000");
 }
 
 TEST_F(MessendiensteFormTest, OhneMessenSindAlleNull)

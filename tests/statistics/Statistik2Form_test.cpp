@@ -76,6 +76,12 @@ TEST_F(Statistik2FormTest, GroßeZahlenStehenInGruppen)
     Meßdiener.Größe[0] = 12345;
     Öffnen<Statistik2Form>();
     EXPECT_EQ(Zeigt("G"), "12.345,000");
+    delete form;
+    Meßdiener.Anzahl = 2;
+    Meßdiener.Größe[0] = 0;
+    Meßdiener.Größe[1] = 32000;
+    Öffnen<Statistik2Form>();
+    EXPECT_EQ(Zeigt("A"), "7.542,472"); // √(2 · 16000²) / 3
 }
 
 TEST_F(Statistik2FormTest, OhneMeßdienerDivisionDurchNull)
