@@ -2,6 +2,7 @@
 #include "core/Allgemein.h"
 
 #include "core/Dateien.h"
+#include "core/SchleifenZähler.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 
@@ -122,6 +123,7 @@ void VonDisketteLaden()
         std::string inhalt = Laufwerke.Lesen(PfadDer(verzeichnis, DateiMit(DateiMeßdiener)));
         Zeilenleser zeilen(inhalt);
         MeßdienerKopfLesen(zeilen);
+        SchleifenZähler = 0; // the loop over them has begun
     } catch (const Laufzeitfehler &) {
         // The missing files are told below, another failure is not.
     }

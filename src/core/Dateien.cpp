@@ -111,6 +111,13 @@ template <auto &Tabelle> void TabelleLesen(Zeilenleser &zeilen)
     DatensätzeLesen(Tabelle, zeilen, lesen);
 }
 
+/// The loop over the masses alone goes on behind the end of its file, with nothing to read.
+void MesseLesen(Zeilenleser &zeilen)
+{
+    TabelleLesen<Messe>(zeilen);
+    SchleifenZähler = MesseTabelle::HöchsterInDatei + 1;
+}
+
 template <auto &Tabelle> void TabelleSchreiben(std::string &inhalt)
 {
     Feldschreiber schreiben(inhalt);
@@ -124,7 +131,7 @@ const std::array<Datei, 8> Dateien = {{
     {"Konfig.cfg", "konfig.cfg", KonfigLesen, KonfigSchreiben},
     {"Standard.dat", "standard.dat", StandardmesseLesen, StandardmesseSchreiben},
     {"Meßdiener.dat", "meßdiener.dat", MeßdienerLesen, TabelleSchreiben<Meßdiener>},
-    {"Messen.dat", "messen.dat", TabelleLesen<Messe>, TabelleSchreiben<Messe>},
+    {"Messen.dat", "messen.dat", MesseLesen, TabelleSchreiben<Messe>},
     {"Gruppen.dat", "gruppen.dat", TabelleLesen<Gruppe>, TabelleSchreiben<Gruppe>},
     {"Helfer.dat", "helfer.dat", HelferLesen, TabelleSchreiben<Helfer>},
     {"Etiketten.dat", "etiketten.dat", EtikettLesen, EtikettSchreiben},

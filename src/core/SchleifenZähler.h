@@ -14,7 +14,11 @@ namespace altardienst {
 /// | `DiensteVerteilen` | `Messe.Anzahl` + 1 |
 /// | `FesteMeßdienerÜbertragen` | `Messe.Anzahl` + 1 |
 /// | every sort command (`NachbarnTauschen`) | the number of passes, mostly `Anzahl` - 1 |
-/// | load and save | one behind the last record of the last file |
+/// | load from hard disk, both saves | one behind the last record of the last file |
+/// | load from diskette | 0, as it ends at the first server |
+///
+/// A file that ends early stops the loop of its table where it ends, but not that of the masses.
+///
 ///
 /// Routines of one room count with values of their own.
 extern Int16 SchleifenZähler;

@@ -4,6 +4,7 @@
 #include "Prüfstand.h"
 #include "assignment/Dienste.h"
 #include "core/Allgemein.h"
+#include "core/Felderlisten.h"
 #include "core/Sortierbefehle.h"
 #include "fixed/FesteEinträge.h"
 #include "fixed/FesteMeßdienerÜbertragen.h"
@@ -21,6 +22,13 @@ class SchleifenZählerTest : public Prüfstand {
         Helfer.Anzahl = 7;
         Gruppe.Anzahl = 3;
         MesseDienerFest.Anzahl = 4;
+    }
+
+    void DisketteBereitstellen() const
+    {
+        AufFestplatteSpeichern();
+        for (const auto &datei : std::filesystem::directory_iterator(Festplatte))
+            std::filesystem::copy(datei, Diskette);
     }
 
     static int Nach(void (*routine)())
@@ -65,6 +73,47 @@ TEST_F(SchleifenZählerTest, SpeichernUndLadenStehenHinterDemLetztenDatensatzDer
 {
     EXPECT_EQ(Nach(AufFestplatteSpeichern), 401);
     EXPECT_EQ(Nach(VonFestplatteLaden), 401);
+}
+
+TEST_F(SchleifenZählerTest, DieDisketteWirdGeschriebenWieDieFestplatteUndGelesenBisZumErstenDiener)
+{
+    DisketteBereitstellen();
+    EXPECT_EQ(Nach(AufDisketteSpeichern), 401);
+    Antworten = {true};
+    EXPECT_EQ(Nach(VonDisketteLaden), 0);
+    EXPECT_EQ(Nach(VonDisketteLaden), -1) << "without an answer nothing is read";
+}
+
+TEST_F(SchleifenZählerTest, EinSchlechterKopfDerMeßdienerLässtIhnHinterDenStandardmessen)
+{
+    DisketteBereitstellen();
+    DateiSchreiben(Diskette / PfadAus("Meßdiener.dat"), " 7 \r\nx\r\n");
+    Antworten = {true};
+    EXPECT_EQ(Nach(VonDisketteLaden), 21);
+}
+
+TEST_F(SchleifenZählerTest, EineVolleDisketteLässtIhnHinterDerTabelleDieNichtMehrPasst)
+{
+    DisketteBereitstellen();
+    Laufwerke.Schreiben = [](const std::filesystem::path &pfad, std::string_view) {
+        if (pfad.filename() == "Messen.dat")
+            throw Laufzeitfehler(Laufzeitfehler::DatenträgerVoll);
+    };
+    EXPECT_EQ(NummerDesFehlers(AufDisketteSpeichern), 61);
+    EXPECT_EQ(SchleifenZähler, 603);
+}
+
+TEST_F(SchleifenZählerTest, EineKurzeDateiHältIhnAnNurDieMessenLaufenWeiter)
+{
+    const std::string kopf = " 0 \r\n 0 \r\n";
+    for (const int datei : {DateiMeßdiener, DateiMesse, DateiGruppe, DateiMesseDienerFest}) {
+        EXPECT_EQ(Einlesen(datei, kopf), 0);
+        EXPECT_EQ(SchleifenZähler, datei == DateiMesse ? 603 : 0) << datei;
+    }
+    EXPECT_EQ(Einlesen(DateiGruppe, kopf + "Eins\r\nZwei\r\n"), 0);
+    EXPECT_EQ(SchleifenZähler, 2);
+    EXPECT_EQ(Einlesen(DateiMesse, kopf + "Sonntag\r\n"), 62);
+    EXPECT_EQ(SchleifenZähler, 0) << "the end inside a record is a failure";
 }
 
 TEST_F(SchleifenZählerTest, EinFehlerLässtIhnStehenWoErWar)
