@@ -143,10 +143,23 @@ TEST_F(DisketteTest, FalscherWertBeendetDasLadenOhneEinWort)
     Antworten = {true};
     VonDisketteLaden();
     EXPECT_EQ(Konfig.Gemeinde, "St. Martin");
+    EXPECT_EQ(Konfig.Skal1, 302) << "bounded directly behind the settings";
     EXPECT_EQ(Standardmesse.Anzahl, 7);
     EXPECT_EQ(Standardmesse.Wochentag[0], "Montag");
     EXPECT_EQ(Meßdiener.Anzahl, 0);
     EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(DisketteTest, EineHalbeKonfigWirdNichtBegrenzt)
+{
+    DisketteBereitstellen();
+    DateiSchreiben(Diskette / "Konfig.cfg", "St. Anna\r\n");
+    Konfig.XSkala = 1;
+    Antworten = {true};
+    VonDisketteLaden();
+    EXPECT_EQ(Konfig.Gemeinde, "St. Anna");
+    EXPECT_EQ(Konfig.XSkala, 1);
+    EXPECT_EQ(Standardmesse.Anzahl, 0);
 }
 
 TEST_F(DisketteTest, DerKopfDerMeßdienerKommtAuchHalb)

@@ -196,14 +196,19 @@ TEST_F(Lesen, KommaBeimOrtHältErstAmNächstenDatumAn)
     EXPECT_EQ(Meßdiener.Geburtstag[0], 0) << "the e-mail address is no date";
 }
 
-TEST_F(Lesen, KommaBeiHelfernUndMessenIstEinZeichenWieAndere)
+TEST_F(Lesen, KommaInAnderenDateienIstEinZeichenWieAndere)
 {
+    Standardmesse.Messeart[0] = " \"Amt\", feierlich";
     HelferAnlegen("Anna", "Weiß", "Lektor");
     Helfer.Straße[0] = " \"Hof\" 5, links ";
     MesseMitDienern(Heute, 2);
     Messe.Messeart[0] = "Amt, feierlich";
-    for (int datei : {DateiHelfer, DateiMesse})
-        EXPECT_EQ(Einlesen(datei, InhaltVon(datei)), 0);
+    for (int datei : {DateiStandardmesse, DateiHelfer, DateiMesse}) {
+        const std::string inhalt = InhaltVon(datei);
+        EXPECT_EQ(Einlesen(datei, inhalt), 0);
+        EXPECT_EQ(InhaltVon(datei), inhalt);
+    }
+    EXPECT_EQ(Standardmesse.Messeart[0], " \"Amt\", feierlich");
     EXPECT_EQ(Helfer.Straße[0], " \"Hof\" 5, links ");
     EXPECT_EQ(Messe.Messeart[0], "Amt, feierlich");
 }
@@ -229,6 +234,15 @@ TEST_F(Lesen, EinZeilenendeImTextVerschiebtDieZeilen)
 TEST_F(Lesen, DerKopfDerMeßdienerAllein)
 {
     Zeilenleser zeilen(" 7 \r\n 12 \r\nAnna\r\n");
+    MeßdienerKopfLesen(zeilen);
+    EXPECT_EQ(Meßdiener.Cursor, 7);
+    EXPECT_EQ(Meßdiener.Anzahl, 12);
+    EXPECT_EQ(zeilen.Zeile(), "Anna");
+}
+
+TEST_F(Lesen, DerKopfDerMeßdienerIstAbgegrenztWieDieSätze)
+{
+    Zeilenleser zeilen("7,12\r\nAnna\r\n");
     MeßdienerKopfLesen(zeilen);
     EXPECT_EQ(Meßdiener.Cursor, 7);
     EXPECT_EQ(Meßdiener.Anzahl, 12);
