@@ -10,6 +10,7 @@
 
 #ifdef _WIN32
 #include <io.h>
+#include <windows.h>
 #else
 #include <unistd.h>
 #endif
@@ -48,6 +49,12 @@ Datei Öffnen(const fs::path &pfad, const char *art)
     default:
         throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
     }
+}
+
+/// Windows numbers its failures otherwise.
+[[noreturn]] void Gescheitert(std::error_code fehler, Laufzeitfehler::Art wennNichtDa)
+{
+    Gescheitert(fehler.default_error_condition().value(), wennNichtDa);
 }
 
 /// Returns when the medium itself holds what was written.
@@ -136,7 +143,7 @@ void Kopieren(const fs::path &von, const fs::path &nach)
             fs::permissions(daneben, *rechte, fehler);
         fs::rename(daneben, ziel, fehler);
         if (fehler)
-            Gescheitert(fehler.value(), Laufzeitfehler::PfadNichtGefunden);
+            Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
     } catch (const Laufzeitfehler &) {
         fs::remove(daneben, fehler);
         throw;
@@ -177,7 +184,7 @@ Verzeichnisinhalt Auflisten(const fs::path &verzeichnis)
         (istVerzeichnis ? inhalt.Verzeichnisse : inhalt.Dateien).push_back(std::move(name));
     }
     if (fehler)
-        Gescheitert(fehler.value(), Laufzeitfehler::PfadNichtGefunden);
+        Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
     std::ranges::sort(inhalt.Verzeichnisse);
     std::ranges::sort(inhalt.Dateien);
     return inhalt;
@@ -185,10 +192,16 @@ Verzeichnisinhalt Auflisten(const fs::path &verzeichnis)
 
 void AttributeLöschen(const fs::path &pfad)
 {
+#ifdef _WIN32
+    // A hidden or a system file refuses to be written as well as a read-only one.
+    if (SetFileAttributesW(pfad.c_str(), FILE_ATTRIBUTE_NORMAL) == 0)
+        throw Laufzeitfehler(Laufzeitfehler::DateiNichtGefunden);
+#else
     std::error_code fehler;
     fs::permissions(pfad, fs::perms::owner_write, fs::perm_options::add, fehler);
     if (fehler)
-        Gescheitert(fehler.value(), Laufzeitfehler::DateiNichtGefunden);
+        Gescheitert(fehler, Laufzeitfehler::DateiNichtGefunden);
+#endif
 }
 
 void VerzeichnisAnlegen(const fs::path &pfad)
@@ -196,7 +209,7 @@ void VerzeichnisAnlegen(const fs::path &pfad)
     std::error_code fehler;
     fs::create_directories(pfad, fehler);
     if (fehler || !fs::is_directory(pfad, fehler))
-        Gescheitert(fehler.value(), Laufzeitfehler::PfadNichtGefunden);
+        Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
 }
 
 } // namespace altardienst::dateizugriff

@@ -11,7 +11,7 @@ namespace {
 std::time_t Jetzt()
 {
 #ifdef CLOCK_REALTIME_COARSE
-    std::timespec jetzt;
+    timespec jetzt{};
     if (clock_gettime(CLOCK_REALTIME_COARSE, &jetzt) == 0)
         return jetzt.tv_sec;
 #endif
