@@ -99,6 +99,21 @@ void Beenden()
         Enden(0);
 }
 
+/// The number of a key of the main keyboard's row of digits, whatever Shift or Caps Lock makes of
+/// it; none of these numbers for any other key.
+int NummerDerTaste(const QKeyEvent &taste)
+{
+    if ((taste.modifiers() & ~Qt::KeyboardModifiers(Qt::ShiftModifier)) != 0)
+        return 0;
+    if (taste.key() >= Qt::Key_0 && taste.key() <= Qt::Key_9)
+        return taste.key() - Qt::Key_0;
+#ifdef Q_OS_WIN
+    return static_cast<int>(taste.nativeVirtualKey()) - '0';
+#else
+    return static_cast<int>(taste.nativeScanCode()) - 9; // the key 1 has 10
+#endif
+}
+
 /// The main window stays as it is, so the entry can be chosen again while the window is open.
 void InfoZeigen()
 {
@@ -325,11 +340,10 @@ void HauptForm::closeEvent(QCloseEvent *ereignis)
 /// focus: buttons don't take digits, so these arrive here.
 void HauptForm::keyPressEvent(QKeyEvent *taste)
 {
-    const int nummer = taste->key() - Qt::Key_1;
+    const int nummer = NummerDerTaste(*taste);
     const auto schritte = Schritte();
-    if (nummer >= 0 && nummer < static_cast<int>(schritte.size()) &&
-        taste->modifiers() == Qt::NoModifier)
-        schritte[static_cast<std::size_t>(nummer)]->click();
+    if (nummer >= 1 && nummer <= static_cast<int>(schritte.size()))
+        schritte[static_cast<std::size_t>(nummer - 1)]->click();
     else if (taste->key() == Qt::Key_F11)
         DialogÖffnen(new ZusatzKonfigForm);
     else if (taste->key() == Qt::Key_F12)

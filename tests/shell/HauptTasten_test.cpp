@@ -26,6 +26,14 @@ class HauptTastenTest : public Hauptstand {
         QTest::keyClick(haupt->windowHandle(), taste, dazu);
     }
 
+    /// The key of the row of digits, as it comes when the keyboard makes another character of it.
+    void Umgeschaltet(int nummer, Qt::KeyboardModifiers dazu) const
+    {
+        const quint32 ort = nummer == 0 ? 19 : 9 + nummer; // on X11, from 1 to 0
+        QKeyEvent taste(QEvent::KeyPress, Qt::Key_Exclam, dazu, ort, '0' + nummer, 0, "!");
+        QApplication::sendEvent(haupt->windowHandle(), &taste);
+    }
+
     std::array<QPushButton *, 7> knöpfe;
     Text gedrückt;
 };
@@ -62,6 +70,24 @@ TEST_F(HauptTastenTest, DieTastenGeltenAuchNachEinemDialog)
     HauptfensterZurück();
     Taste(Qt::Key_3);
     EXPECT_EQ(gedrückt, "3");
+}
+
+TEST_F(HauptTastenTest, DieTasteGiltAuchUmgeschaltet)
+{
+    for (const auto dazu : {Qt::NoModifier, Qt::ShiftModifier}) { // Caps Lock is no modifier
+        gedrückt.clear();
+        for (int nummer = 0; nummer <= 9; ++nummer)
+            Umgeschaltet(nummer, dazu);
+        EXPECT_EQ(gedrückt, "1234567");
+    }
+    for (const auto dazu : {Qt::KeypadModifier, Qt::ControlModifier, Qt::AltModifier}) {
+        Umgeschaltet(3, dazu | Qt::ShiftModifier);
+        Umgeschaltet(3, dazu);
+        Taste(Qt::Key_3, dazu);
+    }
+    EXPECT_EQ(gedrückt, "1234567");
+    Taste(Qt::Key_3, Qt::ShiftModifier); // digits that are themselves reached by Shift
+    EXPECT_EQ(gedrückt, "12345673");
 }
 
 TEST_F(HauptTastenTest, DerZiffernblockDrücktNichts)
