@@ -26,7 +26,7 @@ namespace altardienst {
 StartForm::StartForm(std::function<void()> starten)
     : Datumsen(Textfeld("Datumsen")), Tagchen(Beschriftung("Tagchen", "")),
       SpinButton1(new SpinButton("SpinButton1", "Startdatum um einen Tag ändern")),
-      Minus(Knopf("Minus", "-")), Plus(Knopf("Plus", "+")), Tagilein(Textfeld("Tagilein")),
+      Plus(Knopf("Plus", "+")), Minus(Knopf("Minus", "-")), Tagilein(Textfeld("Tagilein")),
       Änderung1(new SpinButton("Änderung1", "Anzahl Tage ändern")),
       Endet(Beschriftung("Endet", "")), Dayig(Beschriftung("Dayig", "")),
       UHRZEIT(Beschriftung("UHRZEIT", "")), Starten(Knopf("Starten", "Starten")),
@@ -41,9 +41,9 @@ StartForm::StartForm(std::function<void()> starten)
 
 void StartForm::Anordnen()
 {
-    Minus->setAccessibleName("einen Tag zurück");
     Plus->setAccessibleName("einen Tag vor");
-    for (QPushButton *knopf : {Minus, Plus})
+    Minus->setAccessibleName("einen Tag zurück");
+    for (QPushButton *knopf : {Plus, Minus})
         knopf->setFixedWidth(36);
     for (QLineEdit *feld : {Datumsen, Tagilein})
         feld->setFixedWidth(110);
@@ -52,24 +52,21 @@ void StartForm::Anordnen()
     UHRZEIT->setFont(groß);
     UHRZEIT->setAlignment(Qt::AlignCenter);
 
-    auto *datum = new QHBoxLayout;
-    for (QWidget *control : std::initializer_list<QWidget *>{Datumsen, SpinButton1, Minus, Plus})
-        datum->addWidget(control);
-    datum->addStretch();
-    auto *tage = new QHBoxLayout;
-    tage->addWidget(Tagilein);
-    tage->addWidget(Änderung1);
-    tage->addStretch();
+    auto *schritte = new QHBoxLayout;
+    for (QWidget *control : std::initializer_list<QWidget *>{SpinButton1, Plus, Minus})
+        schritte->addWidget(control);
 
     auto *raster = new QGridLayout;
     raster->setHorizontalSpacing(10);
     raster->setVerticalSpacing(12);
     raster->addWidget(
         Beschriftung("berechnend", "Startberechnungsdatum für den Meßdienerplan:", Datumsen), 0, 0);
-    raster->addLayout(datum, 0, 1);
+    raster->addWidget(Datumsen, 0, 1);
     raster->addWidget(Tagchen, 0, 2);
+    raster->addLayout(schritte, 0, 3);
     raster->addWidget(Beschriftung("Tagezahl", "Anzahl Tage: ", Tagilein), 1, 0);
-    raster->addLayout(tage, 1, 1);
+    raster->addWidget(Tagilein, 1, 1);
+    raster->addWidget(Änderung1, 1, 2, Qt::AlignLeft);
     raster->addWidget(Beschriftung("bissig", "bis zum:"), 2, 0);
     raster->addWidget(Endet, 2, 1);
     raster->addWidget(Dayig, 2, 2);
@@ -84,8 +81,8 @@ void StartForm::Anordnen()
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(20, 20, 20, 20);
     spalte->setSpacing(22);
-    spalte->addWidget(UHRZEIT);
     spalte->addLayout(raster);
+    spalte->addWidget(UHRZEIT);
     spalte->addLayout(unten);
     spalte->addStretch();
     Starten->setFocus();
@@ -107,8 +104,8 @@ void StartForm::Verbinden()
                        }));
         connect(knopf, &QPushButton::clicked, this, [this] { Neuberechnen(); });
     };
-    schrittknopf(Minus, -1);
     schrittknopf(Plus, +1);
+    schrittknopf(Minus, -1);
     Änderung1->BeiAb(Abgefangen([this] { TageGedreht(-1); }));
     Änderung1->BeiAuf(Abgefangen([this] { TageGedreht(+1); }));
     connect(Starten, &QPushButton::clicked, this, [this] {

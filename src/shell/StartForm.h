@@ -25,8 +25,8 @@ class StartForm : public QWidget {
     QLineEdit *Datumsen;
     QLabel *Tagchen;
     SpinButton *SpinButton1;
-    QPushButton *Minus;
     QPushButton *Plus;
+    QPushButton *Minus;
     QLineEdit *Tagilein;
     SpinButton *Änderung1;
     QLabel *Endet;

@@ -138,9 +138,9 @@ TEST_F(StartFormSchritteTest, LeertasteUndEingabetasteDrückenDenKnopf)
 TEST_F(StartFormSchritteTest, TabVerschiebtNicht)
 {
     StartForm &start = Öffnen();
-    FokusAuf(start.Minus);
+    FokusAuf(start.Plus);
     QTest::keyClick(start.windowHandle(), Qt::Key_Tab);
-    EXPECT_TRUE(start.Plus->hasFocus());
+    EXPECT_TRUE(start.Minus->hasFocus());
     EXPECT_EQ(Zeigt("Datumsen"), "28.11.2026");
 }
 

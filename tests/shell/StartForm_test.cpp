@@ -90,7 +90,7 @@ TEST_F(StartFormTest, TabFolgtDemAuge)
 {
     StartForm &start = Öffnen();
     FokusAuf(start.Datumsen);
-    EXPECT_EQ(Tabfolge(&start), (std::vector<Text>{"Datumsen", "SpinButton1", "Minus", "Plus",
+    EXPECT_EQ(Tabfolge(&start), (std::vector<Text>{"Datumsen", "SpinButton1", "Plus", "Minus",
                                                    "Tagilein", "Änderung1", "Starten"}));
 }
 
