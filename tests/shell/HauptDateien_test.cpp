@@ -48,6 +48,26 @@ TEST_F(HauptDateienTest, FestplatteLadenNenntDieErsteFehlendeDatei)
                     "Verzeichnis - C:\\programm\\Altardienst\\ - fehlt!"});
 }
 
+TEST_F(HauptDateienTest, LadenBegrenztWederGrenzeAuslöseNochDenBeginn)
+{
+    const Datum start = Heute + 3;
+    for (const char *eintrag : {"mnuDatenladen", "mnuDatenladenD"}) {
+        Konfig.GrenzeAuslöse = 100;
+        Konfig.StartWochentag = 8;
+        Konfig.VorlaufWochen = 21;
+        AlleAchtSpeichern(Festplatte);
+        AlleAchtSpeichern(Diskette);
+        TabellenLeeren();
+        Konfig.StartDatum = start;
+        Antworten = {true};
+        Wählen(eintrag);
+        EXPECT_EQ(Konfig.GrenzeAuslöse, 100) << eintrag;
+        EXPECT_EQ(Konfig.StartWochentag, 8) << eintrag;
+        EXPECT_EQ(Konfig.VorlaufWochen, 21) << eintrag;
+        EXPECT_EQ(Konfig.StartDatum, start) << eintrag;
+    }
+}
+
 TEST_F(HauptDateienTest, DisketteSpeichernÜberschreibtNurEineVolleDiskette)
 {
     AlleAchtSpeichern(Diskette);

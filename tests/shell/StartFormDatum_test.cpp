@@ -19,6 +19,19 @@ TEST_F(StartFormDatumTest, EingabetasteImDatumRechnet)
     EXPECT_EQ(Konfig.StartDatum, Tag(1, 12));
 }
 
+TEST_F(StartFormDatumTest, EineUhrzeitFälltWeg)
+{
+    StartForm &start = Öffnen();
+    Tippen(start.Datumsen, "1.12.2026 18:00");
+    QTest::keyClick(start.Datumsen, Qt::Key_Return);
+    EXPECT_EQ(Zeigt("Datumsen"), "01.12.2026");
+    EXPECT_EQ(Konfig.StartDatum, Tag(1, 12));
+    Tippen(start.Datumsen, "10:00"); // without a day
+    QTest::keyClick(start.Datumsen, Qt::Key_Return);
+    EXPECT_EQ(Zeigt("Datumsen"), "21.11.2026");
+    EXPECT_EQ(Konfig.StartDatum, Heute);
+}
+
 TEST_F(StartFormDatumTest, JederWochentagHatSeinenNamen)
 {
     Öffnen();

@@ -10,6 +10,15 @@ namespace fs = std::filesystem;
 
 class StartFormVorschlagTest : public Startstand {};
 
+/// Where line `nr` (from 1) of a file begins.
+std::size_t Zeilenanfang(const std::string &inhalt, int nr)
+{
+    std::size_t anfang = 0;
+    for (; nr > 1; --nr)
+        anfang = inhalt.find('\n', anfang) + 1;
+    return anfang;
+}
+
 TEST_F(StartFormVorschlagTest, LädtDieDatenUndSchlägtVor)
 {
     Konfig.Tage = 40;
@@ -94,6 +103,17 @@ TEST_F(StartFormVorschlagTest, EinGescheitertesLadenLässtAchtVorgabenStehen)
     EXPECT_EQ(Konfig.Skal4, vorgabe.Skal4);
     EXPECT_EQ(Konfig.Skal5, vorgabe.Skal5);
     EXPECT_EQ(Konfig.Skal6, vorgabe.Skal6);
+}
+
+TEST_F(StartFormVorschlagTest, VorDemLadenStehenDieVorgabenDanachWirdNichtBegrenzt)
+{
+    std::string inhalt = DateiLesen(Festplatte / "Konfig.cfg");
+    inhalt.resize(Zeilenanfang(inhalt, 21));
+    DateiSchreiben(Festplatte / "Konfig.cfg", inhalt + " 1 \r\nx\r\n");
+    Öffnen();
+    EXPECT_EQ(Konfig.XSkala, 1) << "read before the load failed";
+    EXPECT_EQ(Konfig.YSkala, KonfigDatensatz::SkalaVorgabe);
+    EXPECT_EQ(Konfig.Skal1, 302);
 }
 
 TEST_F(StartFormVorschlagTest, ErsterStartGibtEineMeldungUndSchlägtTrotzdemVor)
