@@ -46,13 +46,14 @@ void StartForm::Anordnen()
     for (QPushButton *knopf : {Plus, Minus})
         knopf->setFixedWidth(36);
     for (QLineEdit *feld : {Datumsen, Tagilein})
-        feld->setFixedWidth(110);
+        feld->setFixedWidth(100);
     QFont groß = UHRZEIT->font();
     groß.setPointSizeF(groß.pointSizeF() * 1.6);
     UHRZEIT->setFont(groß);
     UHRZEIT->setAlignment(Qt::AlignCenter);
 
     auto *schritte = new QHBoxLayout;
+    schritte->setSpacing(6);
     for (QWidget *control : std::initializer_list<QWidget *>{SpinButton1, Plus, Minus})
         schritte->addWidget(control);
 
