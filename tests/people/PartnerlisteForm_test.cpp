@@ -118,12 +118,17 @@ TEST_F(PartnerlisteForm, DieTastenGehenÜberAbgelehnteHinweg)
 
 TEST_F(PartnerlisteForm, DieMeldungHältDieTastenNichtAuf)
 {
+    const auto gemerkte = Meldungen;
     EchteMeldungen();
     FokusAuf(C("Partner"));
-    Beantworten([](QMessageBox *box) { box->accept(); });
+    Beantworten([&](QMessageBox *box) {
+        EXPECT_TRUE(Warten([&] { return !C("Partner")->hasFocus(); }));
+        box->accept();
+    });
     QTest::keyClick(C("Partner"), Qt::Key_Down);
     Zeigen(form);
     EXPECT_TRUE(C("Partner")->hasFocus());
+    Meldungen = gemerkte;
     QTest::keyClick(C("Partner"), Qt::Key_Down);
     EXPECT_EQ(Gezeigt("Partner"), "Adler,Anna");
 }
