@@ -1,7 +1,8 @@
 // The number box of the record editors: a text box with a spin button beside it, clipped on change.
 #pragma once
 
-#include "core/Int16.h"
+#include "core/Umwandlung.h"
+#include "fenster/Gelesen.h"
 #include "fenster/SpinButton.h"
 
 #include <QGridLayout>
@@ -40,7 +41,8 @@ void ZahlSetzen(QLineEdit *feld, int zahl);
 /// Adds to the number of a box, however large; a fraction stays one. Failure 13 as above.
 void Weiterzählen(QLineEdit *feld, int um);
 
-/// Shows the numbers of record `i` in boxes, or writes the boxes to it, one after the other.
+/// Shows the numbers of record `i` in boxes, or writes the boxes to it, one after the other; a box
+/// that holds no number takes the focus.
 template <std::size_t n, class Spalte>
 void ZahlenZeigen(const std::array<QLineEdit *, n> &felder, const std::array<Spalte *, n> &spalten,
                   int i)
@@ -54,7 +56,7 @@ void ZahlenSchreiben(const std::array<QLineEdit *, n> &felder,
                      const std::array<Spalte *, n> &spalten, int i)
 {
     for (std::size_t k = 0; k < n; ++k)
-        (*spalten[k])[i] = ZahlIn(felder[k]);
+        (*spalten[k])[i] = Gelesen(felder[k], Int16Lesen);
 }
 
 /// Brings the number of a box, however large, into its limits; returns what the box then holds.

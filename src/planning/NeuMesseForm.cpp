@@ -6,6 +6,7 @@
 #include "core/tables.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Fensteraufbau.h"
+#include "fenster/Gelesen.h"
 #include "fenster/Handler.h"
 #include "fenster/Terminbox.h"
 #include "planning/MessenlisteForm.h"
@@ -34,7 +35,7 @@ NeuMesseForm::NeuMesseForm(MessenlisteForm &liste)
                     {"Ä8", "Ä9", "Ä10", "Ä11"},
                     {"Lektor:", "Kommunionhelfer:", "Kantor/in:", "Kollektant:"}}),
       OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen")),
-      liste(liste)
+      liste(&liste)
 {
     Benannt(this, "NeuMesse");
     setWindowTitle("Neue Messe");
@@ -97,9 +98,10 @@ void NeuMesseForm::Verbinden()
 /// A date in the past becomes today.
 void NeuMesseForm::Neuberechnen()
 {
+    const Datum datum = Gelesen(Termin.datendaten, DatumLesen);
     AlsKurzesDatum(Termin.datendaten);
     const Datum heute = Uhr.Heute();
-    if (heute - DatumLesen(TextVon(Termin.datendaten)) > 0)
+    if (heute - datum > 0)
         Setzen(Termin.datendaten, KurzesDatum(heute));
     Termin.WochentagBestimmen();
 }
@@ -122,8 +124,8 @@ void NeuMesseForm::Anlegen()
 /// with the filled-up "Montag    ".
 bool NeuMesseForm::DoppeltEingegeben() const
 {
-    const Datum datum = DatumLesen(TextVon(Termin.datendaten));
-    const Datum uhrzeit = DatumLesen(TextVon(Termin.Uhrwerk));
+    const Datum datum = Gelesen(Termin.datendaten, DatumLesen);
+    const Datum uhrzeit = Gelesen(Termin.Uhrwerk, DatumLesen);
     const Text wochentag = TextVon(Termin.tagelang);
     for (int i = 0; i < Messe.Anzahl; ++i)
         if (Messe.Datum[i] == datum && Messe.Uhrzeit[i] == uhrzeit &&
@@ -135,8 +137,8 @@ bool NeuMesseForm::DoppeltEingegeben() const
 void NeuMesseForm::Schreiben(int i)
 {
     Messe.Wochentag[i] = TextVon(Termin.tagelang);
-    Messe.Datum[i] = DatumLesen(TextVon(Termin.datendaten));
-    Messe.Uhrzeit[i] = DatumLesen(TextVon(Termin.Uhrwerk));
+    Messe.Datum[i] = Gelesen(Termin.datendaten, DatumLesen);
+    Messe.Uhrzeit[i] = Gelesen(Termin.Uhrwerk, DatumLesen);
     Messe.Messeart[i] = TextVon(Messewesen);
     Dienste.Schreiben(Messe, i);
     ZahlenSchreiben(
@@ -147,7 +149,8 @@ void NeuMesseForm::Schreiben(int i)
 void NeuMesseForm::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->accept();
-    liste.NachNeuerMesse(angelegt);
+    if (liste)
+        liste->NachNeuerMesse(angelegt);
 }
 
 } // namespace altardienst

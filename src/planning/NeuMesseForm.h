@@ -4,6 +4,7 @@
 #include "planning/Dienstboxen.h"
 #include "planning/Terminfelder.h"
 
+#include <QPointer>
 #include <QWidget>
 
 namespace altardienst {
@@ -35,7 +36,7 @@ class NeuMesseForm : public QWidget {
     bool DoppeltEingegeben() const;
     void Schreiben(int i);
 
-    MessenlisteForm &liste;
+    QPointer<MessenlisteForm> liste;
     bool angelegt = false;
 };
 

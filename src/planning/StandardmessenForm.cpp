@@ -6,8 +6,10 @@
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Fensteraufbau.h"
+#include "fenster/Gelesen.h"
 #include "fenster/Handler.h"
 #include "fenster/Terminbox.h"
+#include "fenster/Textwahl.h"
 #include "platform/Meldungen.h"
 
 #include <QCloseEvent>
@@ -50,6 +52,7 @@ StandardmessenForm::StandardmessenForm()
     for (const char *tag :
          {"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"})
         Tage->addItem(tag);
+    RadSperren(Tage);
     Anordnen();
     Verbinden();
     Offen([this] {
@@ -140,7 +143,7 @@ void StandardmessenForm::Schritt(int richtung)
         Schreiben(i);
         Zeigen(i + richtung);
     }
-    ZahlSetzen(Wahl->Nummer, ZahlIn(Wahl->Nummer) + richtung);
+    ZahlSetzen(Wahl->Nummer, Gelesen(Wahl->Nummer, Int16Lesen) + richtung);
 }
 
 void StandardmessenForm::DienerzahlGeändert()
@@ -180,7 +183,7 @@ void StandardmessenForm::Zeigen(int i)
 void StandardmessenForm::Schreiben(int i)
 {
     Standardmesse.Wochentag[i] = Tage->currentText().toStdString();
-    Standardmesse.Uhrzeit[i] = DatumLesen(TextVon(Zeitig));
+    Standardmesse.Uhrzeit[i] = Gelesen(Zeitig, DatumLesen);
     Standardmesse.Messeart[i] = TextVon(Messearten);
     Dienste.Schreiben(Standardmesse, i);
     ZahlenSchreiben(Helferzahlen.Felder(), Helferspalten(), i);
