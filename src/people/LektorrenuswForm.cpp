@@ -7,6 +7,7 @@
 #include "fenster/Fensteraufbau.h"
 #include "fenster/Gelesen.h"
 #include "fenster/Handler.h"
+#include "fenster/Nebenfenster.h"
 #include "fenster/Textwahl.h"
 #include "people/Namen.h"
 #include "platform/Meldungen.h"
@@ -14,6 +15,7 @@
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QScopeGuard>
 #include <QVBoxLayout>
 
 namespace altardienst {
@@ -46,6 +48,19 @@ constexpr std::array<const char *, 4> Zahltexte = {
 std::array<MesseTabelle::Spalte<Int16> *, 4> Zahlspalten()
 {
     return {&Messe.LektorZahl, &Messe.KommZahl, &Messe.KantorZahl, &Messe.KollektZahl};
+}
+
+/// All that the dialog shows of the mass.
+auto Gezeigtes()
+{
+    const int i = Messe.Cursor;
+    std::vector<int> zahlen{i};
+    for (auto *spalte : Zahlspalten())
+        zahlen.push_back((*spalte)[i]);
+    std::vector<Text> namen;
+    for (const Platznamen &n : Namen)
+        namen.insert(namen.end(), {n.VorFeld[i], n.NachFeld[i]});
+    return std::tuple(zahlen, namen);
 }
 
 bool IstHelfer(const Text &listenname)
@@ -128,6 +143,16 @@ void LektorrenuswForm::Verbinden()
     for (std::size_t p = 0; p < Plätze.size(); ++p)
         BeiVerlassen(Plätze[p].LH, Abgefangen([this, p] { KomboVerlassen(p); }));
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+    NebenDemHauptfenster(
+        this,
+        [this] {
+            if (isVisible() && !überholt())
+                Schreiben();
+        },
+        [this] {
+            if (isVisible() && überholt())
+                Füllen();
+        });
 }
 
 void LektorrenuswForm::Füllen()
@@ -143,10 +168,11 @@ void LektorrenuswForm::Füllen()
         const Text &nach = Namen[p].NachFeld[i];
         Setzen(Plätze[p].Vor, vor);
         Setzen(Plätze[p].Nach, nach);
-        if (!vor.empty() && !nach.empty())
-            Setzen(Plätze[p].LH, Listenname(nach, vor));
+        const bool besetzt = !vor.empty() && !nach.empty();
+        Setzen(Plätze[p].LH, besetzt ? Listenname(nach, vor) : Text());
         ListeSetzen(Plätze[p].LH, liste);
     }
+    Merken();
 }
 
 /// Stepwise: a count that is no number changes nothing.
@@ -209,6 +235,7 @@ void LektorrenuswForm::NamenTeilen()
 
 void LektorrenuswForm::Schreiben()
 {
+    const auto amEnde = qScopeGuard(Abgefangen([this] { Merken(); })); // a part counts too
     const int i = Messe.Cursor;
     for (std::size_t art = 0; art < Zahlen.size(); ++art) {
         (*Zahlspalten()[art])[i] = Gelesen(Zahlen[art].Feld, Int16Lesen);
@@ -217,6 +244,11 @@ void LektorrenuswForm::Schreiben()
             Namen[p].NachFeld[i] = TextVon(Plätze[p].Nach);
         }
     }
+}
+
+void LektorrenuswForm::Merken()
+{
+    überholt = Verändert(Gezeigtes);
 }
 
 /// A combo that has the focus is left first: whoever is chosen on the screen stands in the mass,

@@ -46,8 +46,11 @@ class LektorrenuswForm : public QWidget {
     void NamenTeilen();
     void Melden(const char *meldung);
     void Schreiben();
+    void Merken();
 
     std::function<void()> danach;
+    /// The mass on the screen has changed in the table since, or is another now.
+    std::function<bool()> überholt = [] { return false; };
     bool meldet = false;
 };
 

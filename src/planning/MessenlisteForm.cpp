@@ -6,7 +6,9 @@
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Fensteraufbau.h"
+#include "fenster/Gelesen.h"
 #include "fenster/Handler.h"
+#include "fenster/Nebenfenster.h"
 #include "fenster/Terminbox.h"
 #include "people/LektorrenuswForm.h"
 #include "planning/NeuMesseForm.h"
@@ -14,7 +16,8 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
-#include <QPointer>
+#include <QScopeGuard>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 namespace altardienst {
@@ -27,6 +30,20 @@ QPointer<MessenlisteForm> offene;
 QString Nummeriert(const char *stamm, std::size_t k)
 {
     return QString::fromUtf8(stamm) + QString::number(k + 1);
+}
+
+/// All that the list shows of a mass.
+auto Gezeigtes(int i)
+{
+    std::vector<Text> namen;
+    for (int slot = 1; slot <= MesseTabelle::HöchsterSlot; ++slot)
+        namen.insert(namen.end(), {Messe.DienerVor[i][slot], Messe.DienerNach[i][slot]});
+    std::vector<int> zahlen{Messe.Anzahl};
+    for (auto *spalte : {&Messe.Dienerzahl, &Messe.Gabenbereitung, &Messe.Leuchter, &Messe.Flambeau,
+                         &Messe.Weihrauch, &Messe.Kreuzträger, &Messe.Allgemein})
+        zahlen.push_back((*spalte)[i]);
+    return std::tuple(Messe.Wochentag[i], Messe.Datum[i], Messe.Uhrzeit[i], Messe.Messeart[i],
+                      zahlen, namen);
 }
 
 } // namespace
@@ -63,16 +80,23 @@ MessenlisteForm::MessenlisteForm()
     offene = this;
 }
 
-MessenlisteForm *MessenlisteForm::Offene()
+QWidget *MessenlisteForm::Offene()
 {
     if (!offene)
         return new MessenlisteForm;
     offene->Laden();
-    return offene;
+    QWidget *vorn = offene->dialog ? offene->dialog.data() : offene.data();
+    vorn->setWindowState(vorn->windowState() & ~Qt::WindowMinimized);
+    return vorn;
 }
 
+/// The number counts as changed, also where it is the one that stood there.
 void MessenlisteForm::Laden()
 {
+    {
+        const QSignalBlocker still(Wahl->Nummer);
+        Wahl->Nummer->clear();
+    }
     Abgefangen([this] {
         ZahlSetzen(Wahl->Nummer, Messe.Cursor);
         AnzahlZeigen();
@@ -145,10 +169,26 @@ void MessenlisteForm::Verbinden()
     connect(Termin.datendaten, &QLineEdit::textChanged, this,
             Abgefangen([this] { DatumGeändert(); }));
     Dienste.Verbinden([this] { DienerzahlGeändert(); });
+    // A service may change while the number of servers stays.
+    for (const Zahlbox &dienst : Dienste.Dienste)
+        connect(dienst.Feld, &QLineEdit::textChanged, this, Abgefangen([this] {
+                    if (!füllt)
+                        Beschriften();
+                }));
     connect(Löscher, &QPushButton::clicked, this, Abgefangen([this] { Löschen(); }));
     connect(NeuMeß, &QPushButton::clicked, this, Abgefangen([this] { NeueMesse(); }));
     connect(Lektoren, &QPushButton::clicked, this, Abgefangen([this] { HelferDerMesse(); }));
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+    NebenDemHauptfenster(
+        this,
+        [this] {
+            if (offene == this && !überholt())
+                Ablegen();
+        },
+        [this] {
+            if (offene == this && überholt())
+                Laden();
+        });
 }
 
 /// Stepping one past the end adds an empty mass to the table, without a question.
@@ -173,7 +213,7 @@ void MessenlisteForm::Schritt(int richtung)
         ZahlSetzen(Wahl->Nummer, 0); // shows mass 0, so there is nothing that entries could follow
     else
         Mitziehen();
-    const int i = ZahlIn(Wahl->Nummer);
+    const int i = Nummer();
     Schreiben(i);
     if (richtung > 0 ? i < LetzterDatensatz : i > 0) {
         Zeigen(i + richtung);
@@ -231,25 +271,26 @@ void MessenlisteForm::Löschen()
     if (!Meldungen.Fragen("Wirklich?", "Löschen einer Messe") || Messe.Anzahl <= 2)
         return;
     const auto zurückInDieTabelle = [this] {
-        if (ZahlIn(Wahl->Nummer) >= Messe.Anzahl)
+        if (Nummer() >= Messe.Anzahl)
             ZahlSetzen(Wahl->Nummer, Messe.Anzahl - 1);
     };
     zurückInDieTabelle();
-    MesseVorziehen(ZahlIn(Wahl->Nummer));
-    Zeigen(ZahlIn(Wahl->Nummer));
+    MesseVorziehen(Nummer());
+    Zeigen(Nummer());
     Messe.Wochentag[Messe.Anzahl].clear();
     zurückInDieTabelle();
     if (Messe.Anzahl >= 2)
         --Messe.Anzahl;
+    Merken(Nummer());
     AnzahlZeigen();
     Beschriften();
 }
 
 void MessenlisteForm::NeueMesse()
 {
-    hide();
-    DialogDanebenÖffnen(new NeuMesseForm(*this));
+    DialogZeigen(new NeuMesseForm(*this));
     Zeigen(Messe.Cursor);
+    Beschriften();
 }
 
 void MessenlisteForm::NachNeuerMesse(bool angelegt)
@@ -259,27 +300,54 @@ void MessenlisteForm::NachNeuerMesse(bool angelegt)
         return;
     Abgefangen([this] {
         AnzahlZeigen();
-        Zeigen(ZahlIn(Wahl->Nummer));
+        Zeigen(Nummer());
+        Beschriften();
     })();
+}
+
+void MessenlisteForm::DialogZeigen(QWidget *neuer)
+{
+    hide();
+    dialog = neuer;
+    DialogDanebenÖffnen(dialog);
 }
 
 void MessenlisteForm::Wiederkommen()
 {
+    dialog.clear();
     show();
     activateWindow();
 }
 
 void MessenlisteForm::HelferDerMesse()
 {
-    hide();
-    DialogDanebenÖffnen(new LektorrenuswForm([this] { Wiederkommen(); }));
+    DialogZeigen(new LektorrenuswForm([liste = QPointer(this)] {
+        if (liste)
+            liste->Wiederkommen();
+    }));
+}
+
+int MessenlisteForm::Nummer() const
+{
+    return Gelesen(Wahl->Nummer, Int16Lesen);
+}
+
+void MessenlisteForm::Ablegen()
+{
+    Mitziehen();
+    Schreiben(Nummer());
 }
 
 /// A fixed entry follows its mass when the mass is moved.
 void MessenlisteForm::Mitziehen()
 {
-    FesteEintraegeMitziehen(ZahlIn(Wahl->Nummer), TextVon(Termin.datendaten),
-                            TextVon(Termin.Uhrwerk));
+    try {
+        FesteEintraegeMitziehen(Nummer(), TextVon(Termin.datendaten), TextVon(Termin.Uhrwerk));
+    } catch (const Laufzeitfehler &) {
+        for (QLineEdit *feld : {Termin.datendaten, Termin.Uhrwerk})
+            Gelesen(feld, DatumLesen); // shows which of the two it is
+        throw;
+    }
 }
 
 void MessenlisteForm::Zeigen(int i)
@@ -297,13 +365,15 @@ void MessenlisteForm::Zeigen(int i)
         Setzen(vor[k], Messe.DienerVor[i][slot]);
         Setzen(nach[k], Messe.DienerNach[i][slot]);
     }
+    Merken(i);
 }
 
 void MessenlisteForm::Schreiben(int i)
 {
+    const auto amEnde = qScopeGuard(Abgefangen([this, i] { Merken(i); })); // a part counts too
     Messe.Wochentag[i] = TextVon(Termin.tagelang);
-    Messe.Datum[i] = DatumLesen(TextVon(Termin.datendaten));
-    Messe.Uhrzeit[i] = DatumLesen(TextVon(Termin.Uhrwerk));
+    Messe.Datum[i] = Gelesen(Termin.datendaten, DatumLesen);
+    Messe.Uhrzeit[i] = Gelesen(Termin.Uhrwerk, DatumLesen);
     Messe.Messeart[i] = TextVon(Messewesen);
     Dienste.Schreiben(Messe, i);
     for (std::size_t k = 0; k < MDR.size(); ++k) {
@@ -311,6 +381,11 @@ void MessenlisteForm::Schreiben(int i)
         Messe.DienerVor[i][slot] = TextVon(vor[k]);
         Messe.DienerNach[i][slot] = TextVon(nach[k]);
     }
+}
+
+void MessenlisteForm::Merken(int i)
+{
+    überholt = Verändert([i] { return Gezeigtes(i); });
 }
 
 void MessenlisteForm::AnzahlZeigen()
@@ -322,8 +397,7 @@ void MessenlisteForm::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->ignore();
     Abgefangen([&] {
-        Mitziehen();
-        Schreiben(ZahlIn(Wahl->Nummer));
+        Ablegen();
         ereignis->accept();
         offene.clear();
         HauptfensterZurück();

@@ -5,6 +5,8 @@
 #include "planning/Dienstboxen.h"
 #include "planning/Terminfelder.h"
 
+#include <QPointer>
+
 #include <array>
 
 namespace altardienst {
@@ -15,8 +17,9 @@ class MessenlisteForm : public QWidget {
     MessenlisteForm();
 
     /// The list that is open already, with its mass read anew, as the main window stays in use
-    /// beside it; otherwise a new one.
-    static MessenlisteForm *Offene();
+    /// beside it; otherwise a new one. While a dialog of the list is open the list is hidden behind
+    /// it, and this is the dialog.
+    static QWidget *Offene();
 
     Datensatzwahl *Wahl; // Datensatzus, Plus, Minus, DPM
     QLabel *maxi;
@@ -58,14 +61,21 @@ class MessenlisteForm : public QWidget {
     void Löschen();
     void NeueMesse();
     void HelferDerMesse();
+    void DialogZeigen(QWidget *dialog);
     void Wiederkommen();
 
+    int Nummer() const;
+    void Ablegen();
     void Mitziehen();
     void Zeigen(int i);
     void Schreiben(int i);
+    void Merken(int i);
     void AnzahlZeigen();
 
     bool füllt = false;
+    /// The mass on the screen has changed in the table since.
+    std::function<bool()> überholt = [] { return false; };
+    QPointer<QWidget> dialog; // for which the list is hidden
 };
 
 } // namespace altardienst

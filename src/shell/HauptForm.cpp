@@ -11,6 +11,7 @@
 #include "fenster/Anwendung.h"
 #include "fenster/Bausteine.h"
 #include "fenster/Handler.h"
+#include "fenster/Nebenfenster.h"
 #include "fenster/Wartezeiger.h"
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
@@ -61,11 +62,24 @@ QMenu *Menü(QWidget *in, const char *name, const char *beschriftung)
     return menü;
 }
 
+QAction *NeuerEintrag(QMenu *menü, const char *name, const char *beschriftung)
+{
+    return Benannt(menü->addAction(QString::fromUtf8(beschriftung)), name);
+}
+
 void Eintrag(QMenu *menü, const char *name, const char *beschriftung,
              const std::function<void()> &aktion)
 {
-    auto *eintrag = Benannt(menü->addAction(QString::fromUtf8(beschriftung)), name);
-    QObject::connect(eintrag, &QAction::triggered, menü, Offen(aktion));
+    QObject::connect(NeuerEintrag(menü, name, beschriftung), &QAction::triggered, menü,
+                     [aktion] { HauptfensterHandelt(aktion); });
+}
+
+/// A load replaces the tables and does not touch the windows that are open.
+void Ladeeintrag(QMenu *menü, const char *name, const char *beschriftung,
+                 const std::function<void()> &aktion)
+{
+    QObject::connect(NeuerEintrag(menü, name, beschriftung), &QAction::triggered, menü,
+                     Offen(aktion));
 }
 
 void Trennstrich(QMenu *menü, const char *name)
@@ -279,11 +293,11 @@ void HauptForm::MenüZusatz()
 
     QMenu *festplatte = Menü(zusatz, "mnuDatend", "Date&n auf Festplatte");
     Eintrag(festplatte, "mnuDatenspeichern", "&speichern", [] { SpeichernOderEnden(); });
-    Eintrag(festplatte, "mnuDatenladen", "&laden", VonFestplatteLaden);
+    Ladeeintrag(festplatte, "mnuDatenladen", "&laden", VonFestplatteLaden);
 
     QMenu *diskette = Menü(zusatz, "mnuDatene", "D&aten auf Diskette");
     Eintrag(diskette, "mnuDatenspeichernD", "&speichern", Abgefangen(AufDisketteSpeichern));
-    Eintrag(diskette, "mnuDatenladenD", "&laden", VonDisketteLaden);
+    Ladeeintrag(diskette, "mnuDatenladenD", "&laden", VonDisketteLaden);
 
     QMenu *daten = Menü(zusatz, "mnuDatamenu", "Dat&en");
     Eintrag(daten, "mnuDatenHolen", "Daten &holen", [] {
@@ -306,7 +320,7 @@ void HauptForm::MenüHilfe()
 void HauptForm::Verbinden()
 {
     auto schritt = [this](QPushButton *knopf, const std::function<void()> &aktion) {
-        connect(knopf, &QPushButton::clicked, this, Offen(aktion));
+        connect(knopf, &QPushButton::clicked, this, [aktion] { HauptfensterHandelt(aktion); });
     };
     schritt(Messenorgani, [] {
         UnterWartezeiger(MessenNeuBestimmen);
@@ -333,7 +347,7 @@ void HauptForm::Takt()
 void HauptForm::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->accept();
-    Beenden();
+    HauptfensterHandelt(Beenden);
 }
 
 /// The keys 1 to 7 of the main keyboard press the button of that number, whichever control has the

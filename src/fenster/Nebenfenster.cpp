@@ -1,0 +1,45 @@
+// Forms that stand open beside the main window, whose actions may change what they show.
+#include "fenster/Nebenfenster.h"
+
+#include "fenster/Handler.h"
+#include "fenster/Vordergrund.h"
+
+#include <QPointer>
+
+#include <vector>
+
+namespace altardienst {
+namespace {
+
+struct Nebenfenster {
+    QPointer<QWidget> Form;
+    std::function<void()> Ablegen;
+    std::function<void()> Erneuern;
+};
+
+std::vector<Nebenfenster> alle;
+
+void Alle(std::function<void()> Nebenfenster::*tun)
+{
+    std::erase_if(alle, [](const Nebenfenster &fenster) { return !fenster.Form; });
+    for (const Nebenfenster &fenster : alle)
+        Abgefangen(fenster.*tun)();
+}
+
+} // namespace
+
+void NebenDemHauptfenster(QWidget *form, std::function<void()> ablegen,
+                          std::function<void()> erneuern)
+{
+    BeiRückkehr(form, Abgefangen(erneuern));
+    alle.push_back({form, std::move(ablegen), std::move(erneuern)});
+}
+
+void HauptfensterHandelt(const std::function<void()> &aktion)
+{
+    Alle(&Nebenfenster::Ablegen);
+    Offen(aktion)();
+    Alle(&Nebenfenster::Erneuern);
+}
+
+} // namespace altardienst
