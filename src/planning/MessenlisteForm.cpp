@@ -341,8 +341,9 @@ void MessenlisteForm::Ablegen()
 /// A fixed entry follows its mass when the mass is moved.
 void MessenlisteForm::Mitziehen()
 {
+    const int i = Nummer();
     try {
-        FesteEintraegeMitziehen(Nummer(), TextVon(Termin.datendaten), TextVon(Termin.Uhrwerk));
+        FesteEintraegeMitziehen(i, TextVon(Termin.datendaten), TextVon(Termin.Uhrwerk));
     } catch (const Laufzeitfehler &) {
         for (QLineEdit *feld : {Termin.datendaten, Termin.Uhrwerk})
             Gelesen(feld, DatumLesen); // shows which of the two it is

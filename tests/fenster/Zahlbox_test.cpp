@@ -150,6 +150,10 @@ TEST_F(ZahlboxTest, ZahlenSchreibenEndetVorDemErstenFeldOhneZahl)
     EXPECT_EQ(NummerDesFehlers([&] { ZahlenSchreiben(felder, spalten, 4); }), 13);
     EXPECT_EQ(Messe.Leuchter[4], 2);
     EXPECT_EQ(Messe.Flambeau[4], 6);
+    box.Feld->setText("x");
+    FokusAuf(box.Spin);
+    EXPECT_EQ(NummerDesFehlers([&] { ZahlenSchreiben(felder, spalten, 4); }), 13);
+    EXPECT_TRUE(box.Feld->hasFocus());
     delete zweite.Feld;
     delete zweite.Spin;
 }

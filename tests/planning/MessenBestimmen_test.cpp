@@ -217,6 +217,7 @@ TEST_F(MessenBestimmenTest, KeineBrauchbareZeileErgibtLeerenPlan)
     MesseMitDienern(DatumAus({2026, 11, 1}), 3);
     MessenNeuBestimmen();
     EXPECT_EQ(Messe.Anzahl, 0);
+    EXPECT_EQ(Messe.Cursor, 0); // set behind the run, which leaves it at 1
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Fertig mit Messen bestimmen"});
 }
 
@@ -240,6 +241,20 @@ TEST_F(MessenBestimmenTest, MehrMessenAlsPlätzeSindEinIndexfehlerUndStartDatumB
     EXPECT_EQ(Messe.Messeart[602], "Messe"); // the last place was used
     EXPECT_EQ(Konfig.StartDatum, start + 197);
     EXPECT_EQ(Messe.Anzahl, 546);
+}
+
+// The fixed entries go first, the message and the cursor come behind.
+TEST_F(MessenBestimmenTest, WennDiePlätzeNichtReichenSindNurDieFestenEinträgeSchonGeleert)
+{
+    for (int z = 0; z <= 20; ++z)
+        Standard(z, z < 10 ? "Sonntag" : "Montag");
+    Konfig.Tage = 203;
+    MesseDienerFest.Anzahl = 2;
+    Messe.Cursor = 3;
+    EXPECT_EQ(NummerDesFehlers(MessenNeuBestimmen), 9);
+    EXPECT_EQ(MesseDienerFest.Anzahl, 0);
+    EXPECT_EQ(Messe.Cursor, 3);
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
 }
 
 TEST_F(MessenBestimmenTest, VorschlagIstDerStartWochentagNachDenVorlaufwochen)

@@ -278,6 +278,31 @@ TEST_F(MessenlisteFormEingabenTest, WasSichNichtUmwandelnLässtHältDasSpeichern
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
 }
 
+// Without a word, but the user is left where the mistake is.
+TEST_F(MessenlisteFormEingabenTest, WasSichNichtUmwandelnLässtBekommtDenFokus)
+{
+    for (const bool mitFestemEintrag : {false, true}) {
+        if (mitFestemEintrag)
+            Fest(0, 4);
+        for (const char *box : {"datendaten", "Uhrwerk", "Dienerzahlen", "Dienster1", "Dienster2",
+                                "Dienster3", "Dienster4", "Dienster5", "Dienster6", "Datensatzus"})
+            for (const char *knopf : {"Plus", "Minus", "Ende"}) {
+                const Text zuvor = Zeigt(box);
+                Eingeben(box, "abc");
+                FokusAuf(Feld("vor1"));
+                Drücken(knopf);
+                EXPECT_TRUE(Feld(box)->hasFocus()) << box << " " << knopf;
+                Eingeben(box, zuvor.c_str());
+                MesseFüllen(4);
+            }
+    }
+    Eingeben("datendaten", "abc"); // the number comes first
+    Eingeben("Datensatzus", "abc");
+    Drücken("Ende");
+    EXPECT_TRUE(Feld("Datensatzus")->hasFocus());
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
+}
+
 // Date and time are converted in their turn where no entry needs them.
 TEST_F(MessenlisteFormEingabenTest, OhneFestenEintragStehtWasVorDemSchlechtenTerminLiegt)
 {

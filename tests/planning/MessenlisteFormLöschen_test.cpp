@@ -1,8 +1,5 @@
 // The mass list: deleting, leaving, and the ways that lead into it.
-#include "planning/Messenlistenstand.h"
-
-#include "fenster/Anwendung.h"
-#include "shell/HauptForm.h"
+#include "planning/MessenlisteImProgramm.h"
 
 #include <algorithm>
 
@@ -69,6 +66,33 @@ TEST_F(MessenlisteFormLöschenTest, NachDemLöschenFülltSichDerSchirmEinmalUndD
     EXPECT_EQ(Slot(3), "Meßdiener 3 :");
     form->close();
     EXPECT_EQ(Länge(Messe.Wochentag[5]), 10);
+}
+
+// Masses that differ in one service alone, which the number of servers follows.
+TEST_F(MessenlisteFormLöschenTest, NachDemLöschenStehenDieSlotsDerNächstenMesse)
+{
+    MessenFüllen(5);
+    NurLeuchter(1, 2);
+    NurLeuchter(2, 0);
+    ListeZeigen(1);
+    EXPECT_EQ(Slot(1), "Leuchter :");
+    Antworten = {true};
+    Drücken("Löscher");
+    EXPECT_EQ(Zeigt("Dienster2"), "0");
+    EXPECT_EQ(Slot(1), "Meßdiener 1 :");
+}
+
+TEST_F(MessenlisteFormLöschenTest, LöschenNimmtKeinenFestenEintragMit)
+{
+    Öffnen(5);
+    Fest(0, 5);
+    const Datum tag = Messe.Datum[5];
+    Drücken("pt");
+    Drücken("phh");
+    Antworten = {true};
+    Drücken("Löscher");
+    EXPECT_EQ(MesseDienerFest.Datum[0], tag);
+    EXPECT_EQ(LangeZeit(MesseDienerFest.Uhrzeit[0]), "08:05:00");
 }
 
 TEST_F(MessenlisteFormLöschenTest, LöschenVergißtWasAufDemSchirmStand)
@@ -139,27 +163,6 @@ TEST_F(MessenlisteFormEndeTest, EndeUndSchließenSchreibenDenSchirm)
         delete form;
     }
 }
-
-class MessenlisteImProgramm : public Messenlistenstand {
-  protected:
-    MessenlisteImProgramm()
-    {
-        haupt = new HauptForm;
-        HauptfensterSetzen(haupt);
-        haupt->showMaximized();
-        Zeigen(haupt);
-    }
-
-    void ListeZurück()
-    {
-        Drücken("Ende");
-        EXPECT_TRUE(Warten([&] { return !form; })); // unloaded
-        EXPECT_TRUE(haupt->isEnabled());
-        EXPECT_TRUE(haupt->isMaximized());
-    }
-
-    HauptForm *haupt;
-};
 
 TEST_F(MessenlisteImProgramm, Knopf6UndDerMenüeintragÖffnenSieÜberDemWartendenHauptfenster)
 {

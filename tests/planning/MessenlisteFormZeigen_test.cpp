@@ -55,6 +55,49 @@ TEST_F(MessenlisteFormZeigenTest, EinCursorEinsHinterDemFreienDatensatzLegtEineM
     Öffnen(31, 30);
     EXPECT_EQ(Messe.Anzahl, 31);
     EXPECT_EQ(Zeigt("Datensatzus"), "31");
+    EXPECT_EQ(Zeigt("maxi"), "31"); // shown behind the number, which added one
+}
+
+// Masses that differ in one service alone, which the number of servers follows: the labels are
+// those of the mass, and not of the services that stood there before.
+TEST_F(MessenlisteFormZeigenTest, DieSlotsNennenDieDiensteDerMesse)
+{
+    MessenFüllen(5);
+    for (int i = 0; i < 5; ++i)
+        NurLeuchter(i, i % 2 == 0 ? 2 : 0);
+    for (const int cursor : {0, 1}) {
+        ListeZeigen(cursor);
+        EXPECT_EQ(Slot(1), cursor == 0 ? "Leuchter :" : "Meßdiener 1 :");
+        delete form;
+    }
+    ListeZeigen(0);
+    Drücken("Plus");
+    EXPECT_EQ(Slot(1), "Meßdiener 1 :");
+    Drücken("Plus");
+    EXPECT_EQ(Slot(2), "Leuchter :");
+    Eingeben("Datensatzus", "3");
+    EXPECT_EQ(Slot(1), "Meßdiener 1 :");
+    EXPECT_EQ(Slot(2), "Meßdiener 2 :");
+}
+
+// The sum stays what it was.
+TEST_F(MessenlisteFormZeigenTest, DieSlotsFolgenEinemDienstAuchWennDieDienerzahlBleibt)
+{
+    MessenFüllen(5);
+    NurLeuchter(0, 0);
+    ListeZeigen(0);
+    Eingeben("Dienster6", "4");
+    Eingeben("Dienerzahlen", "5"); // by hand
+    Eingeben("Dienster2", "1");
+    EXPECT_EQ(Zeigt("Dienerzahlen"), "5");
+    EXPECT_EQ(Slot(1), "Leuchter :");
+    EXPECT_EQ(Slot(2), "Meßdiener 2 :");
+    Eingeben("Dienster6", "20");
+    Eingeben("Dienster3", "8");
+    EXPECT_EQ(Zeigt("Dienerzahlen"), "20");
+    EXPECT_EQ(Slot(2), "Flambeau :");
+    EXPECT_EQ(Slot(9), "Flambeau :");
+    EXPECT_EQ(Slot(10), "Meßdiener 10 :");
 }
 
 TEST_F(MessenlisteFormZeigenTest, Über600Wird600)

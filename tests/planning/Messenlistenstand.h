@@ -85,6 +85,16 @@ class Messenlistenstand : public Formstand {
 
     Text Slot(int k) const { return Zeigt(("MDR[" + ZahlText(k - 1) + "]").c_str()); }
 
+    /// A mass with this service and no other, and as many servers.
+    static void NurLeuchter(int i, int zahl)
+    {
+        for (auto *spalte : {&Messe.Gabenbereitung, &Messe.Flambeau, &Messe.Weihrauch,
+                             &Messe.Kreuzträger, &Messe.Allgemein})
+            (*spalte)[i] = 0;
+        Messe.Leuchter[i] = zahl;
+        Messe.Dienerzahl[i] = zahl;
+    }
+
     static void Fest(int k, int messe)
     {
         MesseDienerFest.Datum[k] = Messe.Datum[messe];

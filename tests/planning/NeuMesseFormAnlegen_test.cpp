@@ -156,6 +156,95 @@ TEST_F(NeuMesseFormAnlegenTest, DoppeltIstNurGleicherTagGleicheZeitUndGleicherWo
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
 }
 
+TEST_F(NeuMesseFormAnlegenTest, GleicheZeitUndGleicherWochentagAnEinemAnderenTagIstNichtDoppelt)
+{
+    Öffnen();
+    Termin("01.12.2026", "08:02:00", "Dienstag"); // a week behind mass 2
+    Drücken("OKButton");
+    EXPECT_TRUE(IstZurück());
+    EXPECT_EQ(Messe.Anzahl, 6);
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
+}
+
+TEST_F(NeuMesseFormAnlegenTest, AmSelbenTagOrdnetDieUhrzeit)
+{
+    Öffnen();
+    Termin("24.11.2026", "07:00", "Dienstag"); // an hour before mass 2
+    Drücken("OKButton");
+    EXPECT_TRUE(IstZurück());
+    EXPECT_EQ(Messe.Messeart[2], "Messe");
+    EXPECT_EQ(Messe.Messeart[3], "Art2");
+}
+
+TEST_F(NeuMesseFormAnlegenTest, DerWegInDenDialogNimmtKeinenFestenEintragMit)
+{
+    MessenFüllen(5);
+    ListeZeigen(2);
+    Fest(0, 2);
+    Drücken("pt");
+    Drücken("phh");
+    ÜberDieListe();
+    EXPECT_EQ(MesseDienerFest.Datum[0], Messe.Datum[2]);
+    EXPECT_EQ(MesseDienerFest.Uhrzeit[0], Messe.Uhrzeit[2]);
+    EXPECT_EQ(KurzesDatum(Messe.Datum[2]), "24.11.2026");
+}
+
+TEST_F(NeuMesseFormAnlegenTest, DieSlotsDerListeNennenDieDiensteIhrerMesse)
+{
+    MessenFüllen(3);
+    NurLeuchter(0, 0);
+    NurLeuchter(1, 2);
+    NurLeuchter(2, 0);
+    for (const int i : {1, 2}) {
+        Messe.Allgemein[i] = 2;
+        Messe.Dienerzahl[i] = Messe.Leuchter[i] + 2;
+    }
+    ListeZeigen(2);
+    Eingeben("Dienster2", "2");
+    Eingeben("Dienerzahlen", "2");
+    EXPECT_EQ(Finden<QLabel>(form, "MDR[0]")->text(), "Leuchter :");
+    ÜberDieListe();
+    Drücken("CancelButton");
+    EXPECT_TRUE(IstZurück());
+    EXPECT_EQ(InDerListe("Dienster2"), "0");
+    EXPECT_EQ(InDerListe("MDR[0]"), "Meßdiener 1 :");
+    ÜberDieListe();
+    Termin("21.11.2026", "7:00", "Samstag"); // takes mass 1 to the number of the list
+    Drücken("OKButton");
+    EXPECT_TRUE(IstZurück());
+    EXPECT_EQ(InDerListe("Messewesen"), "Art1");
+    EXPECT_EQ(InDerListe("MDR[1]"), "Leuchter :");
+}
+
+TEST_F(NeuMesseFormAnlegenTest, WasSichNichtUmwandelnLässtBekommtDenFokus)
+{
+    std::vector<const char *> boxen(Zahlen.begin(), Zahlen.end());
+    boxen.insert(boxen.end(), {"datendaten", "Uhrwerk"});
+    Öffnen();
+    Termin("01.02.2027", "10:00", "Montag");
+    for (const char *box : boxen) {
+        const Text zuvor = Zeigt(box);
+        Eingeben(box, "abc");
+        Drücken("OKButton");
+        EXPECT_EQ(GezeigteMeldungen.size(), 1U) << box;
+        EXPECT_TRUE(Feld(box)->hasFocus()) << box;
+        GezeigteMeldungen.clear();
+        Eingeben(box, zuvor.c_str());
+    }
+    Eingeben("datendaten", "abc");
+    Taste("Uhrwerk", Qt::Key_Return); // without a word
+    EXPECT_TRUE(Feld("datendaten")->hasFocus());
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
+}
+
+TEST_F(NeuMesseFormAnlegenTest, OhneDieListeSchließtErSichStill)
+{
+    Öffnen();
+    delete liste;
+    Drücken("CancelButton");
+    EXPECT_TRUE(Warten([&] { return !form; }));
+}
+
 TEST_F(NeuMesseFormAnlegenTest, DoppeltGiltVorDemNeurechnenUndNichtHinterDemEnde)
 {
     Öffnen();

@@ -176,6 +176,10 @@ TEST_F(PlanVerwerfenTest, KürzenVomAltenBereichÜber200)
     EXPECT_EQ(Messe.Wochentag[201].empty(), false);
     EXPECT_EQ(Messe.DienerVor[201][1], "V201.1");
     EXPECT_EQ(Messe.Kennung[201], "s");
+    for (int s = 0; s <= 20; ++s)
+        EXPECT_EQ(Messe.DienerDienst[201][s], "D201");
+    for (auto *name : Helfernamen())
+        EXPECT_EQ((*name)[201], "H201");
 }
 
 TEST_F(PlanVerwerfenTest, KürzenAmEndeDerTabelleIstEinIndexfehler)

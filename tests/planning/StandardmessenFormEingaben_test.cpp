@@ -1,6 +1,8 @@
 // The editor of the week pattern: the rules of its boxes, the steps of the time, bad input.
 #include "planning/Standardmessenstand.h"
 
+#include <QWheelEvent>
+
 namespace altardienst {
 namespace {
 
@@ -138,6 +140,50 @@ TEST_F(StandardmessenFormEingabenTest, EineGetippteDienerzahlFülltLeereDiensteM
     Eingeben("ZahlMeßdiener", "5");
     const Zahlen gefüllt = Dienste();
     EXPECT_EQ(Zahlen(gefüllt.begin() + 1, gefüllt.end()), (Zahlen{"0", "2", "0", "0", "0", "0"}));
+}
+
+TEST_F(StandardmessenFormEingabenTest, NurLeereDiensteWerden0UndKeineLeereHelferzahl)
+{
+    Öffnen();
+    Dienste({9, 1, 2, 3, 1, 1, 4});
+    for (const char *feld : {"DienstB", "DienstD", "Leck"})
+        Eingeben(feld, "");
+    Eingeben("ZahlMeßdiener", "5");
+    EXPECT_EQ(Zeigt("DienstB"), "0");
+    EXPECT_EQ(Zeigt("DienstD"), "0");
+    EXPECT_EQ(Zeigt("Leck"), "");
+}
+
+TEST_F(StandardmessenFormEingabenTest, WasSichNichtUmwandelnLässtBekommtDenFokus)
+{
+    Öffnen();
+    std::vector<const char *> felder(Dienstfelder.begin(), Dienstfelder.end());
+    felder.insert(felder.end(), Helferfelder.begin(), Helferfelder.end());
+    felder.push_back("Zeitig");
+    for (const char *feld : felder)
+        for (const char *knopf : {"Plus", "Minus", "Ende"}) {
+            const Text zuvor = Zeigt(feld);
+            Eingeben(feld, "abc");
+            Drücken(knopf);
+            EXPECT_EQ(GezeigteMeldungen.size(), 1U) << feld;
+            EXPECT_TRUE(Feld(feld)->hasFocus()) << feld << " " << knopf;
+            GezeigteMeldungen.clear();
+            Eingeben(feld, zuvor.c_str());
+        }
+    Eingeben("Datensatznummer", "abc");
+    Drücken("Plus");
+    EXPECT_TRUE(Feld("Datensatznummer")->hasFocus());
+}
+
+TEST_F(StandardmessenFormEingabenTest, DasRadGehtAmWochentagVorbei)
+{
+    Öffnen();
+    const QPointF mitte = Tage()->rect().center();
+    QWheelEvent rad(mitte, Tage()->mapToGlobal(mitte), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+    QApplication::sendEvent(Tage(), &rad);
+    EXPECT_EQ(Tage()->currentText(), "Mittwoch");
+    EXPECT_NE(Tage()->focusPolicy(), Qt::WheelFocus);
 }
 
 TEST_F(StandardmessenFormEingabenTest, HelferzahlenGehenVon0Bis2)

@@ -298,6 +298,17 @@ TEST_F(StandardmessenFormTest, EndeUndSchließenSchreibenDenSchirm)
     }
 }
 
+TEST_F(StandardmessenFormTest, EndeSchreibtDenGemerktenDatensatzWasAuchAlsNummerDasteht)
+{
+    Öffnen(3);
+    AllesÄndern();
+    Eingeben("Datensatznummer", "abc");
+    EXPECT_TRUE(form->close());
+    Messenbild modell = vorher;
+    modell[3] = Geändert;
+    EXPECT_EQ(StandardmessenJetzt(), modell);
+}
+
 TEST_F(StandardmessenFormTest, DasHauptfensterWartetVerkleinertUndKommtZurück)
 {
     auto *haupt = new HauptForm;

@@ -1,0 +1,281 @@
+// The mass list beside the main window, which stays in use: what its actions do to the list.
+#include "planning/MessenlisteImProgramm.h"
+
+#include "core/Allgemein.h"
+
+#include <QComboBox>
+
+namespace altardienst {
+namespace {
+
+/// Mass 0 lies behind the others, so that a sort by date puts mass 1 in its place.
+class MessenlisteDaneben : public MessenlisteImProgramm {
+  protected:
+    MessenlisteDaneben()
+    {
+        MessenFüllen(5);
+        Messe.Datum[0] = DatumAus({2026, 12, 24});
+    }
+};
+
+/// What opens the dialogs for which the list is hidden, and what closes them.
+struct Listendialog {
+    const char *Knopf;
+    const char *Name;
+    const char *Ende;
+};
+const std::array Listendialoge = {Listendialog{"NeuMeß", "NeuMesse", "CancelButton"},
+                                  Listendialog{"Lektoren", "Lektorrenusw", "Ende"}};
+
+TEST_F(MessenlisteDaneben, EinDialogDerListeKommtNachVornUndDieListeBleibtVerborgen)
+{
+    for (const auto &[knopf, name, ende] : Listendialoge)
+        for (QPushButton *oeffner : {haupt->AnzMesse, haupt->Messenorgani}) {
+            MessenFüllen(5);
+            ListeDaneben();
+            Drücken(knopf);
+            const QPointer<QWidget> dialog = Fenster(name);
+            dialog->showMinimized();
+            Zeigen(haupt);
+            Klick(oeffner);
+            EXPECT_FALSE(form->isVisible()) << name;
+            EXPECT_EQ(Fenster(name), dialog);
+            EXPECT_FALSE(dialog->isMinimized());
+            EXPECT_TRUE(Warten([&] { return dialog->isActiveWindow(); }));
+            Klick(Finden<QPushButton>(dialog, ende));
+            EXPECT_TRUE(form->isVisible()) << name;
+            Klick(haupt->AnzMesse); // the dialog is over, though not yet deleted
+            EXPECT_TRUE(form->isVisible());
+            EXPECT_EQ(Fenster("Messenliste"), form);
+            EXPECT_TRUE(Warten([&] { return !dialog; }));
+            ListeZurück();
+        }
+}
+
+TEST_F(MessenlisteDaneben, EinDialogÜberlebtSeineListe)
+{
+    for (const auto &[knopf, name, ende] : Listendialoge) {
+        ListeDaneben();
+        Drücken(knopf);
+        const QPointer<QWidget> dialog = Fenster(name);
+        delete form;
+        Klick(Finden<QPushButton>(dialog, ende));
+        EXPECT_TRUE(Warten([&] { return !dialog; })) << name;
+    }
+}
+
+TEST_F(MessenlisteDaneben, HinterDemDialogStehtWasDasHauptfensterGetanHat)
+{
+    ListeDaneben(3);
+    Drücken("NeuMeß");
+    QWidget *dialog = Fenster("NeuMesse");
+    Eingeben("Messewesen", "was die Liste nicht zeigt");
+    Klick(haupt->Messenorgani); // no standard masses: none is left
+    Klick(Finden<QPushButton>(dialog, "CancelButton"));
+    EXPECT_EQ(Zeigt("Datensatzus"), "0");
+    EXPECT_EQ(Zeigt("maxi"), "0");
+    EXPECT_EQ(Zeigt("Messewesen"), "");
+}
+
+// The change of the date rewrites the weekday, the services the count; the second filling puts
+// both back.
+TEST_F(MessenlisteDaneben, WiederGeöffnetFülltSieSichWieBeimErstenMal)
+{
+    ListeDaneben(1);
+    Messe.Datum[1] += 7;
+    Messe.Flambeau[1] += 3;
+    ListeDaneben(1);
+    EXPECT_EQ(Zeigt("datendaten"), "30.11.2026");
+    EXPECT_EQ(Zeigt("tagelang"), "Montag");
+    EXPECT_EQ(Zeigt("Dienerzahlen"), ZahlText(Messe.Dienerzahl[1]));
+    const Messenbild bild = MessenJetzt();
+    ListeZurück();
+    EXPECT_EQ(MessenJetzt(), bild);
+}
+
+TEST_F(MessenlisteDaneben, EineVerkleinerteListeKommtZurück)
+{
+    ListeDaneben();
+    form->showMinimized();
+    Klick(haupt->AnzMesse);
+    EXPECT_FALSE(form->isMinimized());
+    EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(MessenlisteDaneben, Knopf6VergißtNichtWasAufDemSchirmStand)
+{
+    ListeDaneben(2);
+    AllesÄndern();
+    const Satz schirm = Schirm();
+    Klick(haupt->AnzMesse);
+    EXPECT_EQ(MesseSatz(2), Mit(MesseSatz(2), schirm));
+    EXPECT_EQ(Schirm(), schirm);
+}
+
+TEST_F(MessenlisteDaneben, WasDasHauptfensterTutSchreibtZuerstDieMesseUndZeigtSieDannNeu)
+{
+    for (const bool mitKnopf : {true, false}) {
+        MessenFüllen(5);
+        Messe.Datum[0] = DatumAus({2026, 12, 24});
+        ListeDaneben();
+        Eingeben("Messewesen", "Christmette");
+        Eingeben("vor1", "Anna");
+        if (mitKnopf) {
+            SekundenProAblesung = 1;
+            Antworten = {true};
+            Klick(haupt->Dienstus); // sorts the masses; there is nobody to be drawn
+        } else {
+            Wählen("mnuSortmessen");
+        }
+        EXPECT_EQ(Messe.Messeart[4], "Christmette");
+        EXPECT_EQ(Messe.Messeart[0], "Art1");
+        EXPECT_EQ(Zeigt("Datensatzus"), "0");
+        EXPECT_EQ(Zeigt("Messewesen"), "Art1");
+        EXPECT_EQ(Zeigt("tagelang"), Messe.Wochentag[0]);
+        EXPECT_EQ(Zeigt("vor1"), Messe.DienerVor[0][1]);
+        const Messenbild bild = MessenJetzt();
+        ListeZurück();
+        EXPECT_EQ(MessenJetzt(), bild);
+    }
+}
+
+TEST_F(MessenlisteDaneben, DerFesteEintragFolgtSeinerMesseAuchDabei)
+{
+    ListeDaneben(2);
+    Fest(0, 2);
+    Drücken("pt");
+    Wählen("mnuGruppensort");
+    EXPECT_EQ(KurzesDatum(Messe.Datum[2]), "25.11.2026");
+    EXPECT_EQ(MesseDienerFest.Datum[0], Messe.Datum[2]);
+}
+
+TEST_F(MessenlisteDaneben, WasSichNichtUmwandelnLässtBleibtStehenWennDieMesseBlieb)
+{
+    ListeDaneben();
+    Eingeben("Dienster1", "abc");
+    Eingeben("vor1", "Anna");
+    Wählen("mnuGruppensort");
+    EXPECT_EQ(Zeigt("Dienster1"), "abc");
+    EXPECT_EQ(Zeigt("vor1"), "Anna");
+    EXPECT_EQ(Messe.DienerVor[0][1], "Vor1/0");
+    Wählen("mnuSortmessen");
+    EXPECT_EQ(Zeigt("Dienster1"), ZahlText(Messe.Gabenbereitung[0]));
+    EXPECT_EQ(Zeigt("vor1"), "Vor1/1");
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
+}
+
+TEST_F(MessenlisteDaneben, WerZurückkommtSiehtDieMesseWieSieIst)
+{
+    ListeDaneben();
+    Zeigen(form);
+    Zeigen(haupt);
+    Messe.DienerVor[0][1] = "Neu"; // as a dialog of the main window does
+    Zeigen(form);
+    EXPECT_TRUE(Warten([&] { return Zeigt("vor1") == "Neu"; }));
+    Eingeben("vor1", "getippt");
+    Zeigen(haupt);
+    Zeigen(form);
+    QTest::qWait(20);
+    EXPECT_EQ(Zeigt("vor1"), "getippt"); // nothing has changed
+}
+
+TEST_F(MessenlisteDaneben, EineInzwischenGeänderteMesseWirdNichtÜberschrieben)
+{
+    ListeDaneben();
+    Messe.DienerVor[0][1] = "Neu";
+    Eingeben("Messewesen", "alt");
+    Wählen("mnuGruppensort");
+    EXPECT_EQ(Messe.DienerVor[0][1], "Neu");
+    EXPECT_EQ(Messe.Messeart[0], "Art0");
+    EXPECT_EQ(Zeigt("vor1"), "Neu");
+    EXPECT_EQ(Zeigt("Messewesen"), "Art0");
+}
+
+TEST_F(MessenlisteDaneben, EineNeueAnzahlStehtDaneben)
+{
+    ListeDaneben();
+    Messe.Anzahl = 4;
+    Wählen("mnuGruppensort");
+    EXPECT_EQ(Zeigt("maxi"), "4");
+}
+
+TEST_F(MessenlisteDaneben, NachDemLöschenBleibtDerSchirm)
+{
+    ListeDaneben();
+    Antworten = {true};
+    Drücken("Löscher");
+    Eingeben("Messewesen", "getippt");
+    Wählen("mnuGruppensort");
+    EXPECT_EQ(Messe.Messeart[0], "getippt");
+}
+
+TEST_F(MessenlisteDaneben, LadenRührtDieOffeneListeNichtAn)
+{
+    AufFestplatteSpeichern();
+    MesseFüllen(0);
+    Messe.Messeart[0] = "vor dem Laden";
+    ListeDaneben();
+    Eingeben("vor1", "getippt");
+    Wählen("mnuDatenladen");
+    EXPECT_EQ(Messe.Messeart[0], "Art0");
+    EXPECT_EQ(Messe.DienerVor[0][1], "Vor1/0");
+    EXPECT_EQ(Zeigt("Messewesen"), "vor dem Laden");
+    EXPECT_EQ(Zeigt("vor1"), "getippt");
+    Wählen("mnuGruppensort"); // what was loaded is not overwritten
+    EXPECT_EQ(Messe.Messeart[0], "Art0");
+    EXPECT_EQ(Zeigt("Messewesen"), "Art0");
+}
+
+TEST_F(MessenlisteDaneben, DasEndeDesProgrammsSpeichertAuchWasAufDemSchirmSteht)
+{
+    for (const bool mitMenü : {true, false}) {
+        if (!haupt)
+            haupt = new HauptForm;
+        ListeDaneben();
+        Eingeben("Messewesen", mitMenü ? "Beenden" : "Kreuz");
+        EXPECT_EQ(Programmlauf([&] {
+                      if (mitMenü)
+                          Wählen("mnuFileExit");
+                      else
+                          haupt->close();
+                  }),
+                  0);
+        haupt = nullptr;
+        EXPECT_NE(DateiLesen(Festplatte / "Messen.dat").find(mitMenü ? "Beenden" : "Kreuz"),
+                  std::string::npos);
+    }
+}
+
+TEST_F(MessenlisteDaneben, AuchDieHelferWerdenZuerstGeschriebenUndDannNeuGezeigt)
+{
+    for (auto *name : {&Messe.Lektor2Vor, &Messe.Lektor2Nach})
+        (*name)[1].clear();
+    ListeDaneben();
+    Drücken("Lektoren");
+    QPointer<QWidget> helfer = Fenster("Lektorrenusw");
+    const auto feld = [&](const char *name) { return Finden<QLineEdit>(helfer, name); };
+    feld("Lecki1Vor")->setText("Anna");
+    Wählen("mnuSortmessen");
+    EXPECT_EQ(Messe.Lektor1Vor[4], "Anna");
+    EXPECT_EQ(Aufschrift(feld("Lecki1Vor")), Messe.Lektor1Vor[0]);
+    EXPECT_EQ(Finden<QComboBox>(helfer, "LH2")->currentText(), "");
+    const Messenbild bild = MessenJetzt();
+    Klick(Finden<QPushButton>(helfer, "Ende"));
+    EXPECT_EQ(MessenJetzt(), bild);
+    EXPECT_TRUE(Warten([&] { return !helfer; }));
+
+    Drücken("Lektoren");
+    helfer = Fenster("Lektorrenusw");
+    feld("Lecki1Vor")->setText("getippt");
+    feld("Lecki")->setText("abc");
+    Wählen("mnuGruppensort"); // the mass is the same
+    EXPECT_EQ(Aufschrift(feld("Lecki1Vor")), "getippt");
+    EXPECT_EQ(Aufschrift(feld("Lecki")), "abc");
+    Messe.Lektor1Vor[0] = "Neu"; // as the draw of the helpers does
+    Wählen("mnuGruppensort");
+    EXPECT_EQ(Messe.Lektor1Vor[0], "Neu");
+    EXPECT_EQ(Aufschrift(feld("Lecki1Vor")), "Neu");
+}
+
+} // namespace
+} // namespace altardienst
