@@ -4,7 +4,9 @@
 #include "fenster/Handler.h"
 #include "fenster/Vordergrund.h"
 
+#include <QLineEdit>
 #include <QPointer>
+#include <QTimer>
 
 #include <vector>
 
@@ -31,8 +33,18 @@ void Alle(std::function<void()> Nebenfenster::*tun)
 void NebenDemHauptfenster(QWidget *form, std::function<void()> ablegen,
                           std::function<void()> erneuern)
 {
-    BeiRückkehr(form, Abgefangen(erneuern));
+    BeiRückkehr(form, Abgefangen(erneuern), [form, ablegen] {
+        QTimer::singleShot(0, form, Abgefangen(ablegen)); // behind the box that is left
+    });
     alle.push_back({form, std::move(ablegen), std::move(erneuern)});
+}
+
+QStringList Schirm(const QWidget *form)
+{
+    QStringList texte;
+    for (const auto *feld : form->findChildren<QLineEdit *>())
+        texte.append(feld->text());
+    return texte;
 }
 
 void HauptfensterHandelt(const std::function<void()> &aktion)

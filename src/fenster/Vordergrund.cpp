@@ -1,4 +1,4 @@
-// The event of a form that comes back to the foreground.
+// The events of a form that leaves the foreground and comes back to it.
 #include "fenster/Vordergrund.h"
 
 #include <QGuiApplication>
@@ -8,19 +8,21 @@
 
 namespace altardienst {
 
-void BeiRückkehr(QWidget *form, std::function<void()> handler)
+void BeiRückkehr(QWidget *form, std::function<void()> handler, std::function<void()> beimVerlassen)
 {
-    QObject::connect(
-        qGuiApp, &QGuiApplication::focusWindowChanged, form,
-        [form, handler = std::move(handler), warFort = false](const QWindow *jetzt) mutable {
-            const QWindow *eigenes = form->windowHandle(); // none before it is shown
-            if (!eigenes || !jetzt || jetzt->type() != Qt::Window)
-                return;
-            if (jetzt != eigenes)
-                warFort = true;
-            else if (std::exchange(warFort, false))
-                handler();
-        });
+    QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, form,
+                     [form, handler = std::move(handler), beimVerlassen = std::move(beimVerlassen),
+                      warFort = false](const QWindow *jetzt) mutable {
+                         const QWindow *eigenes = form->windowHandle(); // none before it is shown
+                         if (!eigenes || !jetzt || jetzt->type() != Qt::Window)
+                             return;
+                         if (jetzt == eigenes) {
+                             if (std::exchange(warFort, false))
+                                 handler();
+                         } else if (!std::exchange(warFort, true) && form->isVisible()) {
+                             beimVerlassen();
+                         }
+                     });
 }
 
 } // namespace altardienst

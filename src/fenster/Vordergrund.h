@@ -1,4 +1,4 @@
-// The event of a form that comes back to the foreground.
+// The events of a form that leaves the foreground and comes back to it.
 #pragma once
 
 #include <QWidget>
@@ -8,7 +8,9 @@
 namespace altardienst {
 
 /// Runs when the user comes back to the form from another form of the program. Message boxes and
-/// other programs do not count: what was begun on the screen goes on behind them.
-void BeiRückkehr(QWidget *form, std::function<void()> handler);
+/// other programs do not count: what was begun on the screen goes on behind them. `beimVerlassen`
+/// runs when he goes to another form while this one stays on the screen.
+void BeiRückkehr(
+    QWidget *form, std::function<void()> handler, std::function<void()> beimVerlassen = [] {});
 
 } // namespace altardienst

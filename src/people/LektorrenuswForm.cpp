@@ -50,7 +50,7 @@ std::array<MesseTabelle::Spalte<Int16> *, 4> Zahlspalten()
     return {&Messe.LektorZahl, &Messe.KommZahl, &Messe.KantorZahl, &Messe.KollektZahl};
 }
 
-/// All that the dialog shows of the mass.
+/// All that the dialog shows of the mass, and which mass it is.
 auto Gezeigtes()
 {
     const int i = Messe.Cursor;
@@ -60,7 +60,8 @@ auto Gezeigtes()
     std::vector<Text> namen;
     for (const Platznamen &n : Namen)
         namen.insert(namen.end(), {n.VorFeld[i], n.NachFeld[i]});
-    return std::tuple(zahlen, namen);
+    return std::tuple(Messe.Datum[i], Messe.Uhrzeit[i], Messe.Wochentag[i], Messe.Messeart[i],
+                      zahlen, namen);
 }
 
 bool IstHelfer(const Text &listenname)
@@ -146,7 +147,12 @@ void LektorrenuswForm::Verbinden()
     NebenDemHauptfenster(
         this,
         [this] {
-            if (isVisible() && !überholt())
+            if (!isVisible())
+                return;
+            for (std::size_t p = 0; p < Plätze.size(); ++p)
+                if (Plätze[p].LH == focusWidget())
+                    KomboVerlassen(p);
+            if (getippt() && !überholt())
                 Schreiben();
         },
         [this] {
@@ -249,6 +255,7 @@ void LektorrenuswForm::Schreiben()
 void LektorrenuswForm::Merken()
 {
     überholt = Verändert(Gezeigtes);
+    getippt = Verändert([this] { return Schirm(this); });
 }
 
 /// A combo that has the focus is left first: whoever is chosen on the screen stands in the mass,

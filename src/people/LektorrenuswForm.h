@@ -49,8 +49,9 @@ class LektorrenuswForm : public QWidget {
     void Merken();
 
     std::function<void()> danach;
-    /// The mass on the screen has changed in the table since, or is another now.
+    /// The mass on the screen has changed in the table since, or is another now; on the screen.
     std::function<bool()> überholt = [] { return false; };
+    std::function<bool()> getippt = [] { return false; };
     bool meldet = false;
 };
 

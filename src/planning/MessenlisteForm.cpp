@@ -84,7 +84,7 @@ QWidget *MessenlisteForm::Offene()
 {
     if (!offene)
         return new MessenlisteForm;
-    offene->Laden();
+    offene->Erneuern();
     QWidget *vorn = offene->dialog ? offene->dialog.data() : offene.data();
     vorn->setWindowState(vorn->windowState() & ~Qt::WindowMinimized);
     return vorn;
@@ -182,12 +182,12 @@ void MessenlisteForm::Verbinden()
     NebenDemHauptfenster(
         this,
         [this] {
-            if (offene == this && !überholt())
+            if (offene == this && getippt() && !überholt())
                 Ablegen();
         },
         [this] {
-            if (offene == this && überholt())
-                Laden();
+            if (offene == this)
+                Erneuern();
         });
 }
 
@@ -332,6 +332,13 @@ int MessenlisteForm::Nummer() const
     return Gelesen(Wahl->Nummer, Int16Lesen);
 }
 
+/// The list shows the mass of the cursor, as it is now.
+void MessenlisteForm::Erneuern()
+{
+    if (überholt() || gezeigt != Messe.Cursor)
+        Laden();
+}
+
 void MessenlisteForm::Ablegen()
 {
     Mitziehen();
@@ -386,7 +393,9 @@ void MessenlisteForm::Schreiben(int i)
 
 void MessenlisteForm::Merken(int i)
 {
+    gezeigt = i;
     überholt = Verändert([i] { return Gezeigtes(i); });
+    getippt = Verändert([this] { return Schirm(this); });
 }
 
 void MessenlisteForm::AnzahlZeigen()

@@ -65,6 +65,7 @@ class MessenlisteForm : public QWidget {
     void Wiederkommen();
 
     int Nummer() const;
+    void Erneuern();
     void Ablegen();
     void Mitziehen();
     void Zeigen(int i);
@@ -73,9 +74,10 @@ class MessenlisteForm : public QWidget {
     void AnzahlZeigen();
 
     bool füllt = false;
-    /// The mass on the screen has changed in the table since.
-    std::function<bool()> überholt = [] { return false; };
-    QPointer<QWidget> dialog; // for which the list is hidden
+    int gezeigt = 0; // the number of the mass on the screen, which in the table may be
+    std::function<bool()> überholt = [] { return false; }; // another by now,
+    std::function<bool()> getippt = [] { return false; };  // or on the screen
+    QPointer<QWidget> dialog;                              // for which the list is hidden
 };
 
 } // namespace altardienst

@@ -74,7 +74,8 @@ void Eintrag(QMenu *menü, const char *name, const char *beschriftung,
                      [aktion] { HauptfensterHandelt(aktion); });
 }
 
-/// A load replaces the tables and does not touch the windows that are open.
+/// A load replaces the tables and does not touch the windows that are open: what was typed there
+/// belongs to the data before it, and is not written over those that were loaded.
 void Ladeeintrag(QMenu *menü, const char *name, const char *beschriftung,
                  const std::function<void()> &aktion)
 {

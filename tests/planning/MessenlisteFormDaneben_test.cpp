@@ -158,6 +158,13 @@ TEST_F(MessenlisteDaneben, WasSichNichtUmwandelnLässtBleibtStehenWennDieMesseBl
     EXPECT_EQ(Zeigt("Dienster1"), "abc");
     EXPECT_EQ(Zeigt("vor1"), "Anna");
     EXPECT_EQ(Messe.DienerVor[0][1], "Vor1/0");
+    Klick(haupt->AnzMesse);
+    EXPECT_EQ(Zeigt("Dienster1"), "abc");
+    EXPECT_EQ(Zeigt("vor1"), "Anna");
+    Eingeben("Messewesen", "steht vor dem Feld, das hält");
+    Wählen("mnuGruppensort");
+    EXPECT_EQ(Messe.Messeart[0], "steht vor dem Feld, das hält");
+    EXPECT_EQ(Zeigt("vor1"), "Anna"); // it was the list itself that changed the mass
     Wählen("mnuSortmessen");
     EXPECT_EQ(Zeigt("Dienster1"), ZahlText(Messe.Gabenbereitung[0]));
     EXPECT_EQ(Zeigt("vor1"), "Vor1/1");
@@ -174,9 +181,62 @@ TEST_F(MessenlisteDaneben, WerZurückkommtSiehtDieMesseWieSieIst)
     EXPECT_TRUE(Warten([&] { return Zeigt("vor1") == "Neu"; }));
     Eingeben("vor1", "getippt");
     Zeigen(haupt);
+    EXPECT_TRUE(Warten([&] { return Messe.DienerVor[0][1] == "getippt"; }));
+    Messe.DienerNach[0][2] = "umbenannt";
     Zeigen(form);
-    QTest::qWait(20);
-    EXPECT_EQ(Zeigt("vor1"), "getippt"); // nothing has changed
+    EXPECT_TRUE(Warten([&] { return Zeigt("nach2") == "umbenannt"; }));
+    EXPECT_EQ(Zeigt("vor1"), "getippt");
+}
+
+// The screen of a number that was typed differs from its mass: the weekday is filled up with
+// blanks, the number of servers is the sum of the services.
+TEST_F(MessenlisteDaneben, EineMesseDieNurAngesehenWurdeBleibtWieSieIst)
+{
+    ListeDaneben();
+    const Messenbild bild = MessenJetzt();
+    Eingeben("Datensatzus", "2");
+    EXPECT_NE(Zeigt("tagelang"), Messe.Wochentag[2]);
+    Wählen("mnuGruppensort");
+    EXPECT_EQ(MessenJetzt(), bild);
+    EXPECT_EQ(Zeigt("Datensatzus"), "2");
+    Antworten = {true};
+    Drücken("Löscher");
+    const Messenbild gelöscht = MessenJetzt();
+    EXPECT_NE(Zeigt("tagelang"), Messe.Wochentag[2]);
+    Wählen("mnuGruppensort");
+    EXPECT_EQ(MessenJetzt(), gelöscht);
+}
+
+// A load sets the cursor of the masses.
+TEST_F(MessenlisteDaneben, DieListeFolgtDemCursor)
+{
+    ListeDaneben(3);
+    Messe.Cursor = 1;
+    Wählen("mnuGruppensort");
+    EXPECT_EQ(Zeigt("Datensatzus"), "1");
+    EXPECT_EQ(Zeigt("Messewesen"), "Art1");
+}
+
+TEST_F(MessenlisteDaneben, AuchEinEinzigesGeändertesFeldWirdNichtÜberschrieben)
+{
+    const std::function<void()> änderungen[] = {
+        [] { Messe.Wochentag[0] = "Freitag"; },  [] { Messe.Datum[0] += 1; },
+        [] { Messe.Uhrzeit[0] += 0.25; },        [] { Messe.Messeart[0] = "Neu"; },
+        [] { Messe.Dienerzahl[0] = 9; },         [] { Messe.Gabenbereitung[0] = 9; },
+        [] { Messe.Leuchter[0] = 9; },           [] { Messe.Flambeau[0] = 9; },
+        [] { Messe.Weihrauch[0] = 9; },          [] { Messe.Kreuzträger[0] = 9; },
+        [] { Messe.Allgemein[0] = 9; },          [] { Messe.DienerVor[0][20] = "Neu"; },
+        [] { Messe.DienerNach[0][20] = "Neu"; },
+    };
+    for (const auto &ändern : änderungen) {
+        MessenFüllen(5);
+        ListeDaneben();
+        Eingeben("vor1", "alt");
+        ändern();
+        const Messenbild bild = MessenJetzt();
+        Wählen("mnuGruppensort");
+        EXPECT_EQ(MessenJetzt(), bild);
+    }
 }
 
 TEST_F(MessenlisteDaneben, EineInzwischenGeänderteMesseWirdNichtÜberschrieben)
@@ -224,6 +284,11 @@ TEST_F(MessenlisteDaneben, LadenRührtDieOffeneListeNichtAn)
     Wählen("mnuGruppensort"); // what was loaded is not overwritten
     EXPECT_EQ(Messe.Messeart[0], "Art0");
     EXPECT_EQ(Zeigt("Messewesen"), "Art0");
+
+    Eingeben("vor1", "getippt");
+    Wählen("mnuDatenladenD"); // answered with No
+    EXPECT_EQ(Messe.DienerVor[0][1], "Vor1/0");
+    EXPECT_EQ(Zeigt("vor1"), "getippt");
 }
 
 TEST_F(MessenlisteDaneben, DasEndeDesProgrammsSpeichertAuchWasAufDemSchirmSteht)
@@ -266,6 +331,12 @@ TEST_F(MessenlisteDaneben, AuchDieHelferWerdenZuerstGeschriebenUndDannNeuGezeigt
 
     Drücken("Lektoren");
     helfer = Fenster("Lektorrenusw");
+    feld("Lecki1Vor")->setText("halb");
+    feld("Kommi")->setText("abc");
+    Wählen("mnuGruppensort"); // the names before the bad count are written
+    EXPECT_EQ(Messe.Lektor1Vor[0], "halb");
+    EXPECT_EQ(Aufschrift(feld("Kommi")), "abc");
+    feld("Kommi")->setText("1");
     feld("Lecki1Vor")->setText("getippt");
     feld("Lecki")->setText("abc");
     Wählen("mnuGruppensort"); // the mass is the same
@@ -275,6 +346,46 @@ TEST_F(MessenlisteDaneben, AuchDieHelferWerdenZuerstGeschriebenUndDannNeuGezeigt
     Wählen("mnuGruppensort");
     EXPECT_EQ(Messe.Lektor1Vor[0], "Neu");
     EXPECT_EQ(Aufschrift(feld("Lecki1Vor")), "Neu");
+}
+
+// Many masses have the same helpers: none.
+TEST_F(MessenlisteDaneben, HelferGehörenZuIhrerMesse)
+{
+    for (int i = 0; i < 5; ++i) {
+        Messe.LektorZahl[i] = 1;
+        for (auto *name :
+             {&Messe.Lektor1Vor, &Messe.Lektor1Nach, &Messe.Lektor2Vor, &Messe.Lektor2Nach,
+              &Messe.Komm1Vor, &Messe.Komm1Nach, &Messe.Komm2Vor, &Messe.Komm2Nach,
+              &Messe.Kantor1Vor, &Messe.Kantor1Nach, &Messe.Kantor2Vor, &Messe.Kantor2Nach,
+              &Messe.Kollekt1Vor, &Messe.Kollekt1Nach, &Messe.Kollekt2Vor, &Messe.Kollekt2Nach})
+            (*name)[i].clear();
+        Messe.KommZahl[i] = Messe.KantorZahl[i] = Messe.KollektZahl[i] = 1;
+    }
+    ListeDaneben();
+    Drücken("Lektoren");
+    QWidget *helfer = Fenster("Lektorrenusw");
+    const auto feld = [&](const char *name) { return Finden<QLineEdit>(helfer, name); };
+    feld("Lecki")->setText("");
+    feld("Lecki1Vor")->setText("Anna");
+    Wählen("mnuSortmessen"); // another mass stands at the cursor now
+    EXPECT_EQ(Aufschrift(feld("Lecki1Vor")), "");
+    EXPECT_EQ(Aufschrift(feld("Lecki")), "1");
+}
+
+TEST_F(MessenlisteDaneben, DerGewählteHelferWirdMitgeschrieben)
+{
+    HelferAnlegen("Lea", "Lang", "Lektor");
+    Messe.LektorZahl[0] = 1;
+    ListeDaneben();
+    Drücken("Lektoren");
+    QWidget *helfer = Fenster("Lektorrenusw");
+    Zeigen(helfer);
+    auto *wahl = Finden<QComboBox>(helfer, "LH1");
+    FokusAuf(wahl);
+    wahl->setEditText("Lang,Lea"); // the box is not left
+    Wählen("mnuGruppensort");
+    EXPECT_EQ(Messe.Lektor1Vor[0], "Lea");
+    EXPECT_EQ(Messe.Lektor1Nach[0], "Lang");
 }
 
 } // namespace
