@@ -22,6 +22,12 @@ void Vorbereiten()
     VollerPlan();
 }
 
+void Zeigen()
+{
+    offen->show();
+    QApplication::processEvents();
+}
+
 void Messen(const char *name, std::function<void()> öffnen)
 {
     MessungAnmelden({.Name = name,
@@ -42,11 +48,14 @@ void MessungenAnmelden()
     static char *argv[] = {name, nullptr};
     // Outlives the exit too: by then Qt has taken down what a shown window still refers to.
     AnwendungEinrichten(*new QApplication(argc, argv));
+    Messen("Leeres Fenster öffnen", [] {
+        offen = new QWidget;
+        Zeigen();
+    });
     Messen("Fenster der Dienste füllen", [] { offen = new StatDienstForm; });
     Messen("Fenster der Dienste öffnen", [] {
         offen = new StatDienstForm;
-        offen->show();
-        QApplication::processEvents();
+        Zeigen();
     });
 }
 

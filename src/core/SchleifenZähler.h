@@ -19,7 +19,6 @@ namespace altardienst {
 ///
 /// A file that ends early stops the loop of its table where it ends, but not that of the masses.
 ///
-///
 /// Routines of one room count with values of their own.
 extern Int16 SchleifenZähler;
 

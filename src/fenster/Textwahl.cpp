@@ -39,7 +39,7 @@ class Listenbedienung : public QObject {
     {
         if (ereignis->type() == QEvent::FocusIn || Blättert(ereignis))
             EintragAngleichen(wahl);
-        if (Verläßt(ereignis))
+        if (Verläßt(ereignis) || AndereTaste(ereignis))
             gewählt = -1;
         if (Blättert(ereignis) && wahl->currentText().isEmpty() && wahl->currentIndex() < 0)
             OhneText(gewählt);
@@ -63,12 +63,21 @@ class Listenbedienung : public QObject {
         return grund != Qt::ActiveWindowFocusReason && grund != Qt::PopupFocusReason;
     }
 
-    static bool Blättert(QEvent *ereignis)
+    static bool Pfeiltaste(QEvent *ereignis)
     {
-        if (ereignis->type() != QEvent::KeyPress)
-            return false;
         const int taste = static_cast<QKeyEvent *>(ereignis)->key();
         return taste == Qt::Key_Up || taste == Qt::Key_Down;
+    }
+
+    static bool Blättert(QEvent *ereignis)
+    {
+        return ereignis->type() == QEvent::KeyPress && Pfeiltaste(ereignis);
+    }
+
+    /// Also one that shows another record while the box keeps the focus.
+    static bool AndereTaste(QEvent *ereignis)
+    {
+        return ereignis->type() == QEvent::ShortcutOverride && !Pfeiltaste(ereignis);
     }
 
     QComboBox *wahl;

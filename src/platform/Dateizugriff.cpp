@@ -195,7 +195,8 @@ void AttributeLöschen(const fs::path &pfad)
 #ifdef _WIN32
     // A hidden or a system file refuses to be written as well as a read-only one.
     if (SetFileAttributesW(pfad.c_str(), FILE_ATTRIBUTE_NORMAL) == 0)
-        throw Laufzeitfehler(Laufzeitfehler::DateiNichtGefunden);
+        Gescheitert(std::error_code(static_cast<int>(GetLastError()), std::system_category()),
+                    Laufzeitfehler::DateiNichtGefunden);
 #else
     std::error_code fehler;
     fs::permissions(pfad, fs::perms::owner_write, fs::perm_options::add, fehler);

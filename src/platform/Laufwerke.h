@@ -48,7 +48,8 @@ struct LaufwerkeDienst {
     /// (failure 75).
     std::function<void(const path &von, const path &nach)> Kopieren;
 
-    std::function<void(const path &)> AttributeLöschen;   // a read-only file becomes writable
+    /// A read-only file becomes writable; on Windows hidden and system marks go too.
+    std::function<void(const path &)> AttributeLöschen;
     std::function<void(const path &)> VerzeichnisAnlegen; // with those above it; may exist
 };
 

@@ -18,6 +18,7 @@ inline void GibtDasHauptfensterZurück(const std::function<QWidget *()> &öffnen
     HauptfensterSetzen(&haupt);
     for (const bool ende : {true, false}) {
         haupt.setEnabled(false);
+        haupt.showMinimized();
         const QPointer<QWidget> form = öffnen();
         if (ende)
             Klick(Finden(form, "Ende"));

@@ -52,6 +52,20 @@ TEST_F(HelferFormTest, NummerZweiHinterDemEndeFälltAufDenLeerenPlatz)
     EXPECT_EQ(Gezeigt("Indexen"), "0");
 }
 
+TEST_F(HelferFormTest, BeimNächstenHelferBeginnenDiePfeiltastenWiederVorn)
+{
+    Öffnen(1);
+    QWidget *dienst = C("Dient2");
+    FokusAuf(dienst);
+    while (Gezeigt("Dient2") != "Kollektant")
+        QTest::keyClick(dienst, Qt::Key_Down);
+    QTest::keyClick(dienst, Qt::Key_PageUp);
+    EXPECT_EQ(Gezeigt("Vorne"), "Cem");
+    EXPECT_EQ(Gezeigt("Dient2"), "");
+    QTest::keyClick(dienst, Qt::Key_Down);
+    EXPECT_EQ(Gezeigt("Dient2"), "Lektor");
+}
+
 TEST_F(HelferFormTest, UmbenennenErreichtDieMessenNurDasSchließfeldNicht)
 {
     for (const char *weg : {"PLUS", "MINUS", "Ende"}) {

@@ -238,7 +238,13 @@ TEST_F(KonfigurationZeitraumFormTest, DerDrehknopfDerTageBeiTextDerKeineZahlIst)
         EXPECT_EQ(Konfig.Tage, 28) << text;
         EXPECT_TRUE(Control("tagilein")->hasFocus()) << text;
     }
-    for (const char *text : {"32767", "40000"}) { // the box is left for the button
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(KonfigurationZeitraumFormTest, VorDemDrehenDerTageWirdDieBoxVerlassenUndBegrenzt)
+{
+    Öffnen();
+    for (const char *text : {"32767", "40000"}) {
         Einfügen("tagilein", text);
         Drehen("Änderung1", "auf");
         EXPECT_EQ(Zeigt("tagilein"), "121") << text;
