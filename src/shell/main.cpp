@@ -2,10 +2,14 @@
 #include "fenster/Anwendung.h"
 #include "shell/Programm.h"
 
+#include <QIcon>
+
 int main(int argc, char *argv[])
 {
     QApplication anwendung(argc, argv);
     altardienst::AnwendungEinrichten(anwendung);
+    QApplication::setWindowIcon(QIcon(":/altardienst.png"));
+    QApplication::setDesktopFileName("altardienst"); // by which the desktop finds name and symbol
     altardienst::ProgrammStarten();
     return QApplication::exec();
 }
