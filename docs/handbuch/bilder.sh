@@ -3,7 +3,8 @@
 set -euo pipefail
 planlauf=$(realpath "${1:-$(dirname "$0")/../../build/dev/planlauf}")
 cd "$(dirname "$0")/.."
-arbeit=$(mktemp -d)
+arbeit=/tmp/altardienst-bilder # stands on some of them
+rm -rf "$arbeit" && mkdir "$arbeit"
 trap 'rm -rf "$arbeit"' EXIT
 cp -r ../data/beispiel "$arbeit/daten"
 mkdir -p "$arbeit/bilder" "$arbeit/pfarrbuero/"{Bilder,Dokumente,Sicherung}

@@ -135,8 +135,10 @@ void TabelleSortieren(Tabelle &tabelle, Sortierbereich bereich, SchlüsselVon sc
     for (const auto &platz : plätze)
         quellen.push_back(platz.Quelle);
     Umstellen(tabelle.Felder(), std::move(quellen));
-    if (hinaus)
+    if (hinaus) {
+        SchleifenZähler = 0; // the first pass is not finished
         throw Laufzeitfehler(Laufzeitfehler::IndexAußerhalb);
+    }
 }
 
 } // namespace altardienst

@@ -13,6 +13,7 @@
 #include <QScrollArea>
 #include <QStyle>
 
+#include <limits>
 #include <utility>
 
 namespace altardienst {
@@ -92,6 +93,8 @@ QLabel *Beschriftung(const char *name, const char *text, QWidget *zu)
 QLineEdit *Textfeld(const char *name)
 {
     auto *feld = Benannt(new QLineEdit, name);
+    feld->setMaxLength(
+        std::numeric_limits<int>::max()); // a long text of a file is stored again whole
     QObject::connect(feld, &QLineEdit::textChanged, feld, [feld](const QString &text) {
         QString darstellbar = Speicherbar(text);
         if (darstellbar == text)

@@ -111,9 +111,11 @@ QLayout *MeßdienerForm::Dienstteil()
     häufigkeit->setSpacing(16);
     häufigkeit->addWidget(Norm);
     häufigkeit->addWidget(Oft);
+    Haufigk->setAccessibleName("Diensthäufigkeit als Zahl");
+    Haufigk->setToolTip("0 bis 20");
+    Haufigk->setFixedWidth(40);
+    häufigkeit->addWidget(Haufigk);
     häufigkeit->addStretch();
-    Haufigk->setParent(this);
-    Haufigk->hide();
     teil->addLayout(häufigkeit);
     teil->addSpacing(8);
     teil->addWidget(Überschrift("Möchte nicht dienen:", Abgewählt.Boxen.front()));
@@ -276,7 +278,7 @@ void MeßdienerForm::Schreiben(int i)
     Meßdiener.Wochendienst[i] = TextVon(Abgewählt.Feld);
     Abwesenheiten.Schreiben(Zeitspalten(), i);
     Wunsch.Schreiben(i);
-    Meßdiener.Häufigkeit[i] = ZahlIn(Haufigk);
+    Meßdiener.Häufigkeit[i] = Gelesen(Haufigk, Int16Lesen);
 }
 
 void MeßdienerForm::AnzahlZeigen()

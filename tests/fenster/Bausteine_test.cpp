@@ -237,6 +237,13 @@ TEST_F(BausteineTest, LeertasteUndBeideEingabetastenDrückenDenKnopfMitDemFokus)
     EXPECT_EQ(ereignisse.size(), 3U);
 }
 
+TEST_F(BausteineTest, EinTextfeldKürztNichts)
+{
+    const Text lang(40000, 'x');
+    Setzen(feld, lang);
+    EXPECT_EQ(TextVon(feld), lang);
+}
+
 TEST_F(BausteineTest, KnöpfeSindGrünMitUndGrauOhneFokus)
 {
     FokusAuf(knopf);

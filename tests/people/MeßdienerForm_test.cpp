@@ -256,6 +256,24 @@ TEST_F(MeßdienerFormTest, HäufigkeitAußerhalbDerOptionenBleibtStehen)
     EXPECT_EQ(Gezeigt("Haufigk"), "20");
 }
 
+TEST_F(MeßdienerFormTest, DieHäufigkeitLäßtSichTippen)
+{
+    Öffnen();
+    auto *feld = Finden<QLineEdit>(form, "Haufigk");
+    EXPECT_TRUE(feld->isVisible());
+    FokusAuf(feld);
+    feld->selectAll();
+    QTest::keyClicks(feld, "7");
+    EXPECT_TRUE(Finden<QRadioButton>(form, "Oft")->isChecked());
+    Drücken("PLUS");
+    EXPECT_EQ(Meßdiener.Häufigkeit[0], 7);
+    Schreiben("Haufigk", "x");
+    Drücken("PLUS");
+    EXPECT_EQ(GezeigteMeldungen, (std::vector<Text>{"Laufzeitfehler '13': Typen unverträglich"}));
+    EXPECT_TRUE(feld->hasFocus());
+    EXPECT_EQ(Gezeigt("Datensätze"), "1");
+}
+
 TEST_F(MeßdienerFormTest, AuchEineHäufigkeitVonEinsIstOftUndBleibt)
 {
     Meßdiener.Häufigkeit[0] = 1;
