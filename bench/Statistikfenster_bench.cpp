@@ -1,5 +1,5 @@
-// Opening the window of the services of each server, from the press of its menu entry until it
-// stands on the screen, against the plain comparison of all servers with all slots.
+// Opening the window of the services of each server until it stands on the screen, against the
+// plain comparison of all servers with all slots.
 #include "Messung.h"
 #include "VollerPlan.h"
 
