@@ -27,11 +27,6 @@ constexpr int LetzterDatensatz = 600;
 
 QPointer<MessenlisteForm> offene;
 
-QString Nummeriert(const char *stamm, std::size_t k)
-{
-    return QString::fromUtf8(stamm) + QString::number(k + 1);
-}
-
 /// All that the list shows of a mass.
 auto Gezeigtes(int i)
 {
@@ -66,14 +61,6 @@ MessenlisteForm::MessenlisteForm()
 {
     Benannt(this, "Messenliste");
     setWindowTitle("Messenliste");
-    for (std::size_t k = 0; k < MDR.size(); ++k) {
-        vor[k] = Textfeld(Nummeriert("vor", k).toUtf8().constData());
-        nach[k] = Textfeld(Nummeriert("nach", k).toUtf8().constData());
-        MDR[k] = Beschriftung(("MDR[" + std::to_string(k) + "]").c_str(),
-                              (Nummeriert("Meßdiener ", k) + ":").toUtf8().constData(), vor[k]);
-        vor[k]->setAccessibleName(Nummeriert("Vorname Meßdiener ", k));
-        nach[k]->setAccessibleName(Nummeriert("Nachname Meßdiener ", k));
-    }
     Anordnen();
     Verbinden();
     Laden();
@@ -124,7 +111,7 @@ void MessenlisteForm::Anordnen()
     auto *mitte = new QHBoxLayout;
     mitte->setSpacing(20);
     mitte->addLayout(links);
-    mitte->addLayout(Slots(), 1);
+    mitte->addLayout(Slots.Anordnen(), 1);
 
     auto *spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(16, 16, 16, 16);
@@ -134,25 +121,6 @@ void MessenlisteForm::Anordnen()
     spalte->addLayout(Knopfreihe({Ende}, {Löscher, NeuMeß, Lektoren}));
     GrößeAnpassen(this); // with all rows of slots
     Wahl->Nummer->setFocus();
-}
-
-/// Rows that a mass does not use are hidden from the bottom up, so they leave no hole.
-QLayout *MessenlisteForm::Slots()
-{
-    auto *raster = new QGridLayout;
-    raster->setVerticalSpacing(3);
-    raster->setHorizontalSpacing(6);
-    for (int k = 0; k < static_cast<int>(MDR.size()); ++k) {
-        const auto zeile = static_cast<std::size_t>(k);
-        raster->addWidget(MDR[zeile], k, 0);
-        raster->addWidget(vor[zeile], k, 1);
-        raster->addWidget(nach[zeile], k, 2);
-    }
-    raster->setColumnMinimumWidth(0, MDR[0]->fontMetrics().horizontalAdvance("Meßdiener 20 :"));
-    raster->setColumnMinimumWidth(1, 90);
-    raster->setColumnMinimumWidth(2, 90);
-    raster->setRowStretch(static_cast<int>(MDR.size()), 1);
-    return raster;
 }
 
 Terminfelder::Knöpfe MessenlisteForm::Terminknöpfe() const
@@ -237,26 +205,15 @@ void MessenlisteForm::DienerzahlGeändert()
 /// follow the last one, since each that comes or goes moves everything else.
 void MessenlisteForm::ZeilenZeigen(int diener)
 {
-    if (füllt)
-        return;
-    QLayout *ordnung = MDR[0]->parentWidget()->layout();
-    ordnung->setEnabled(false); // once for all rows
-    for (std::size_t k = 0; k < MDR.size(); ++k)
-        for (QWidget *control : std::initializer_list<QWidget *>{MDR[k], vor[k], nach[k]})
-            control->setVisible(diener > static_cast<int>(k));
-    ordnung->setEnabled(true);
-    ordnung->invalidate();
+    if (!füllt)
+        Slots.Sichtbar(diener);
 }
 
 /// A service that is no number leaves its slots and all behind them numbered.
 void MessenlisteForm::Beschriften()
 {
     Dienstwünsche wünsche;
-    const auto beschriften = [&] {
-        const auto texte = SlotBeschriftungen(wünsche);
-        for (std::size_t k = 0; k < MDR.size(); ++k)
-            Setzen(MDR[k], texte[k]);
-    };
+    const auto beschriften = [&] { Slots.Beschriften(SlotBeschriftungen(wünsche)); };
     try {
         Dienste.Lesen(wünsche);
     } catch (const Laufzeitfehler &) {
@@ -368,11 +325,7 @@ void MessenlisteForm::Zeigen(int i)
     Dienste.Zeigen(Messe, i);
     füllt = false;
     ZeilenZeigen(ZahlIn(Dienste.Dienerzahl.Feld));
-    for (std::size_t k = 0; k < MDR.size(); ++k) {
-        const int slot = static_cast<int>(k) + 1;
-        Setzen(vor[k], Messe.DienerVor[i][slot]);
-        Setzen(nach[k], Messe.DienerNach[i][slot]);
-    }
+    Slots.Zeigen(i);
     Merken(i);
 }
 
@@ -384,11 +337,7 @@ void MessenlisteForm::Schreiben(int i)
     Messe.Uhrzeit[i] = Gelesen(Termin.Uhrwerk, DatumLesen);
     Messe.Messeart[i] = TextVon(Messewesen);
     Dienste.Schreiben(Messe, i);
-    for (std::size_t k = 0; k < MDR.size(); ++k) {
-        const int slot = static_cast<int>(k) + 1;
-        Messe.DienerVor[i][slot] = TextVon(vor[k]);
-        Messe.DienerNach[i][slot] = TextVon(nach[k]);
-    }
+    Slots.Schreiben(i);
 }
 
 void MessenlisteForm::Merken(int i)

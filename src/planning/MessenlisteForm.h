@@ -3,11 +3,10 @@
 
 #include "fenster/Datensatzwahl.h"
 #include "planning/Dienstboxen.h"
+#include "planning/Slotzeilen.h"
 #include "planning/Terminfelder.h"
 
 #include <QPointer>
-
-#include <array>
 
 namespace altardienst {
 
@@ -30,10 +29,8 @@ class MessenlisteForm : public QWidget {
     QPushButton *mhh, *phh;   // hour
     QPushButton *mmin, *pmin; // five minutes
     QLineEdit *Messewesen;
-    Dienstboxen Dienste;             // Dienerzahlen, Dienster1 to 6, Ä1 to Ä7
-    std::array<QLabel *, 20> MDR;    // MDR[0] to MDR[19]
-    std::array<QLineEdit *, 20> vor; // vor1 to vor20
-    std::array<QLineEdit *, 20> nach;
+    Dienstboxen Dienste; // Dienerzahlen, Dienster1 to 6, Ä1 to Ä7
+    Slotzeilen Slots;    // MDR[0] to MDR[19], vor1 to vor20, nach1 to nach20
     QPushButton *Löscher;
     QPushButton *NeuMeß;
     QPushButton *Lektoren;
@@ -48,7 +45,6 @@ class MessenlisteForm : public QWidget {
   private:
     void Laden();
     void Anordnen();
-    QLayout *Slots();
     Terminfelder::Knöpfe Terminknöpfe() const;
     void Verbinden();
 

@@ -1,0 +1,85 @@
+// The rows of the servers of a mass: what each serves, first name, surname.
+#include "planning/Slotzeilen.h"
+
+#include "core/tables.h"
+#include "fenster/Bausteine.h"
+
+#include <string>
+
+namespace altardienst {
+namespace {
+
+QString Nummeriert(const char *stamm, std::size_t k)
+{
+    return QString::fromUtf8(stamm) + QString::number(k + 1);
+}
+
+} // namespace
+
+Slotzeilen::Slotzeilen()
+{
+    for (std::size_t k = 0; k < MDR.size(); ++k) {
+        vor[k] = Textfeld(Nummeriert("vor", k).toUtf8().constData());
+        nach[k] = Textfeld(Nummeriert("nach", k).toUtf8().constData());
+        MDR[k] = altardienst::Beschriftung(("MDR[" + std::to_string(k) + "]").c_str(),
+                                           (Nummeriert("Meßdiener ", k) + ":").toUtf8().constData(),
+                                           vor[k]);
+        vor[k]->setAccessibleName(Nummeriert("Vorname Meßdiener ", k));
+        nach[k]->setAccessibleName(Nummeriert("Nachname Meßdiener ", k));
+    }
+}
+
+QLayout *Slotzeilen::Anordnen() const
+{
+    auto *raster = new QGridLayout;
+    raster->setVerticalSpacing(3);
+    raster->setHorizontalSpacing(6);
+    for (int k = 0; k < static_cast<int>(MDR.size()); ++k) {
+        const auto zeile = static_cast<std::size_t>(k);
+        raster->addWidget(MDR[zeile], k, 0);
+        raster->addWidget(vor[zeile], k, 1);
+        raster->addWidget(nach[zeile], k, 2);
+    }
+    raster->setColumnMinimumWidth(0, MDR[0]->fontMetrics().horizontalAdvance("Meßdiener 20 :"));
+    raster->setColumnMinimumWidth(1, 90);
+    raster->setColumnMinimumWidth(2, 90);
+    raster->setRowStretch(static_cast<int>(MDR.size()), 1);
+    return raster;
+}
+
+void Slotzeilen::Sichtbar(int diener) const
+{
+    QLayout *ordnung = MDR[0]->parentWidget()->layout();
+    ordnung->setEnabled(false); // once for all rows
+    for (std::size_t k = 0; k < MDR.size(); ++k)
+        for (QWidget *control : std::initializer_list<QWidget *>{MDR[k], vor[k], nach[k]})
+            control->setVisible(diener > static_cast<int>(k));
+    ordnung->setEnabled(true);
+    ordnung->invalidate();
+}
+
+void Slotzeilen::Beschriften(const std::array<Text, 20> &texte) const
+{
+    for (std::size_t k = 0; k < MDR.size(); ++k)
+        Setzen(MDR[k], texte[k]);
+}
+
+void Slotzeilen::Zeigen(int i) const
+{
+    for (std::size_t k = 0; k < MDR.size(); ++k) {
+        const int slot = static_cast<int>(k) + 1;
+        Setzen(vor[k], Messe.DienerVor[i][slot]);
+        Setzen(nach[k], Messe.DienerNach[i][slot]);
+    }
+}
+
+void Slotzeilen::Schreiben(int i) const
+{
+    for (std::size_t k = 0; k < MDR.size(); ++k) {
+        const int slot = static_cast<int>(k) + 1;
+        Messe.DienerVor[i][slot] = TextVon(vor[k]);
+        Messe.DienerNach[i][slot] = TextVon(nach[k]);
+    }
+}
+
+} // namespace altardienst
