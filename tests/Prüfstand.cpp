@@ -15,8 +15,8 @@ namespace fs = std::filesystem;
 
 fs::path NeuesVerzeichnis()
 {
-    std::string muster =
-        (fs::temp_directory_path() / "altardienst-XXXXXX").string(); // mkdtemp fills it in
+    const std::string offen(6, 'X'); // mkdtemp puts letters in their place
+    std::string muster = (fs::temp_directory_path() / ("altardienst-" + offen)).string();
     if (mkdtemp(muster.data()) == nullptr)
         throw std::runtime_error("no temporary directory");
     return muster;
