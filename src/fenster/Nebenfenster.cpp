@@ -39,7 +39,7 @@ void NebenDemHauptfenster(QWidget *form, std::function<void()> ablegen,
     alle.push_back({form, std::move(ablegen), std::move(erneuern)});
 }
 
-QStringList Schirm(const QWidget *form)
+QStringList Gezeigt::Texte(const QWidget *form)
 {
     QStringList texte;
     for (const auto *feld : form->findChildren<QLineEdit *>())

@@ -20,13 +20,24 @@ void NebenDemHauptfenster(QWidget *form, std::function<void()> ablegen,
 /// Runs an action of the main window. Open.
 void HauptfensterHandelt(const std::function<void()> &aktion);
 
-/// The texts of all boxes of a form.
-QStringList Schirm(const QWidget *form);
+/// What a form has last shown or written of its record.
+class Gezeigt {
+  public:
+    /// From now on: what `lesen` returns of the tables, and the texts of all boxes of the form.
+    template <class F> void Merken(const QWidget *form, F lesen)
+    {
+        überholt = [lesen, zuvor = lesen()] { return lesen() != zuvor; };
+        getippt = [form, zuvor = Texte(form)] { return Texte(form) != zuvor; };
+    }
 
-/// Tells later whether what `lesen` returns has become another than it is now.
-template <class F> std::function<bool()> Verändert(F lesen)
-{
-    return [lesen, jetzt = lesen()] { return lesen() != jetzt; };
-}
+    bool Überholt() const { return überholt(); } // the record is another by now
+    bool Getippt() const { return getippt(); }   // the screen is
+
+  private:
+    static QStringList Texte(const QWidget *form);
+
+    std::function<bool()> überholt = [] { return false; };
+    std::function<bool()> getippt = [] { return false; };
+};
 
 } // namespace altardienst

@@ -7,7 +7,6 @@
 #include "fenster/Fensteraufbau.h"
 #include "fenster/Gelesen.h"
 #include "fenster/Handler.h"
-#include "fenster/Nebenfenster.h"
 #include "fenster/Textwahl.h"
 #include "people/Namen.h"
 #include "platform/Meldungen.h"
@@ -152,11 +151,11 @@ void LektorrenuswForm::Verbinden()
             for (std::size_t p = 0; p < Plätze.size(); ++p)
                 if (Plätze[p].LH == focusWidget())
                     KomboVerlassen(p);
-            if (getippt() && !überholt())
+            if (gezeigt.Getippt() && !gezeigt.Überholt())
                 Schreiben();
         },
         [this] {
-            if (isVisible() && überholt())
+            if (isVisible() && gezeigt.Überholt())
                 Füllen();
         });
 }
@@ -254,8 +253,7 @@ void LektorrenuswForm::Schreiben()
 
 void LektorrenuswForm::Merken()
 {
-    überholt = Verändert(Gezeigtes);
-    getippt = Verändert([this] { return Schirm(this); });
+    gezeigt.Merken(this, Gezeigtes);
 }
 
 /// A combo that has the focus is left first: whoever is chosen on the screen stands in the mass,

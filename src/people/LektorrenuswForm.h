@@ -1,6 +1,7 @@
 // The helpers of one mass, shown and set by hand.
 #pragma once
 
+#include "fenster/Nebenfenster.h"
 #include "fenster/Zahlbox.h"
 
 #include <QComboBox>
@@ -49,9 +50,7 @@ class LektorrenuswForm : public QWidget {
     void Merken();
 
     std::function<void()> danach;
-    /// The mass on the screen has changed in the table since, or is another now; on the screen.
-    std::function<bool()> überholt = [] { return false; };
-    std::function<bool()> getippt = [] { return false; };
+    Gezeigt gezeigt;
     bool meldet = false;
 };
 

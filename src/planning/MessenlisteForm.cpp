@@ -8,7 +8,6 @@
 #include "fenster/Fensteraufbau.h"
 #include "fenster/Gelesen.h"
 #include "fenster/Handler.h"
-#include "fenster/Nebenfenster.h"
 #include "fenster/Terminbox.h"
 #include "people/LektorrenuswForm.h"
 #include "planning/NeuMesseForm.h"
@@ -150,7 +149,7 @@ void MessenlisteForm::Verbinden()
     NebenDemHauptfenster(
         this,
         [this] {
-            if (offene == this && getippt() && !überholt())
+            if (offene == this && gezeigt.Getippt() && !gezeigt.Überholt())
                 Ablegen();
         },
         [this] {
@@ -292,7 +291,7 @@ int MessenlisteForm::Nummer() const
 /// The list shows the mass of the cursor, as it is now.
 void MessenlisteForm::Erneuern()
 {
-    if (überholt() || gezeigt != Messe.Cursor)
+    if (gezeigt.Überholt() || gezeigteMesse != Messe.Cursor)
         Laden();
 }
 
@@ -342,9 +341,8 @@ void MessenlisteForm::Schreiben(int i)
 
 void MessenlisteForm::Merken(int i)
 {
-    gezeigt = i;
-    überholt = Verändert([i] { return Gezeigtes(i); });
-    getippt = Verändert([this] { return Schirm(this); });
+    gezeigteMesse = i;
+    gezeigt.Merken(this, [i] { return Gezeigtes(i); });
 }
 
 void MessenlisteForm::AnzahlZeigen()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "fenster/Datensatzwahl.h"
+#include "fenster/Nebenfenster.h"
 #include "planning/Dienstboxen.h"
 #include "planning/Slotzeilen.h"
 #include "planning/Terminfelder.h"
@@ -70,10 +71,9 @@ class MessenlisteForm : public QWidget {
     void AnzahlZeigen();
 
     bool füllt = false;
-    int gezeigt = 0; // the number of the mass on the screen, which in the table may be
-    std::function<bool()> überholt = [] { return false; }; // another by now,
-    std::function<bool()> getippt = [] { return false; };  // or on the screen
-    QPointer<QWidget> dialog;                              // for which the list is hidden
+    int gezeigteMesse = 0;
+    Gezeigt gezeigt;
+    QPointer<QWidget> dialog; // for which the list is hidden
 };
 
 } // namespace altardienst
