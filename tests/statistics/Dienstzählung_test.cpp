@@ -176,6 +176,26 @@ TEST_F(DienstzählungTest, HelferEinesNamensZählenBeide)
     EXPECT_EQ(zählung[1].Dienste, (Dienste4{1, 0, 0, 0}));
 }
 
+// The index goes by both ends of a name.
+TEST_F(DienstzählungTest, NamenMitGleichenEndenSindVerschiedeneLeute)
+{
+    const Text müller = "Müller-Ost-Lüdenscheid";
+    const Text west = "Müller-West-Lüdenscheid";
+    const Text anna = "Anna-Maria-Elisabeth";
+    const Text lena = "Anna-Lena-Elisabeth";
+    const std::pair<Text, Text> leute[] = {{anna, müller}, {lena, müller}, {anna, west}};
+    for (const auto &[vorname, nachname] : leute)
+        MeßdienerAnlegen(vorname, nachname);
+    const int messe = NeueMesse();
+    for (int slot = 1; slot <= 6; ++slot) { // one, two and three services
+        const auto &[vorname, nachname] = leute[slot == 1 ? 0 : slot <= 3 ? 1 : 2];
+        Besetzen(messe, slot, vorname.c_str(), nachname.c_str(), "Leuchter");
+    }
+    Meßdienerzählung zählung = MeßdienerdiensteZählen();
+    for (int d = 0; d < 3; ++d)
+        EXPECT_EQ(zählung[d].Dienste[1], d + 1) << d;
+}
+
 /// The comparison of everyone with every slot, as it is told.
 Meßdienerzählung AlleMitAllen()
 {
