@@ -17,8 +17,7 @@ pakete_installieren() {
         apt-get install -y -qq --no-install-recommends "${fehlend[@]}" >/dev/null
 }
 
-# What the program needs to be built and to run: compiler, Qt with its German texts, the
+# What the program needs to be built and to run: compiler, Qt, the
 # charts, and the fonts of screen and paper.
-PROGRAMM_PAKETE=(g++ cmake ninja-build qt6-base-dev qt6-translations-l10n
-    libqcustomplot-dev
+PROGRAMM_PAKETE=(g++ cmake ninja-build qt6-base-dev libqcustomplot-dev
     fonts-dejavu-core fonts-liberation2)

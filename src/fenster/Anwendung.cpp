@@ -2,6 +2,7 @@
 #include "fenster/Anwendung.h"
 
 #include "fenster/Bausteine.h"
+#include "fenster/Deutsch.h"
 #include "fenster/Druckdialog.h"
 #include "fenster/Stil.h"
 #include "fenster/Wartezeiger.h"
@@ -9,13 +10,11 @@
 #include "platform/Meldungen.h"
 #include "platform/Systeminfo.h"
 
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPointer>
 #include <QProcess>
 #include <QTimer>
-#include <QTranslator>
 
 namespace altardienst {
 namespace {
@@ -52,6 +51,10 @@ QMessageBox::StandardButton MeldungZeigen(const Text &text, const Text &titel,
     box.setTextFormat(Qt::PlainText);
     box.setText(Anzeige(text));
     box.setStandardButtons(knöpfe);
+    for (const auto &[art, wort] :
+         {std::pair(QMessageBox::Ok, "OK"), {QMessageBox::Yes, "&Ja"}, {QMessageBox::No, "&Nein"}})
+        if (QAbstractButton *knopf = box.button(art))
+            knopf->setText(wort);
     box.setDefaultButton(vorgabe);
     const bool beiMausdruck = QGuiApplication::mouseButtons() != Qt::NoButton;
     const auto antwort = static_cast<QMessageBox::StandardButton>(box.exec());
@@ -68,9 +71,7 @@ void AnwendungEinrichten(QApplication &anwendung)
     QApplication::setApplicationName("Altardienst");
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    auto *deutsch = new QTranslator(&anwendung);
-    if (deutsch->load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(deutsch);
+    QApplication::installTranslator(new Deutsch(&anwendung));
     QApplication::setStyle(new Stil);
 
     Systeminfo.Starten = [](const std::filesystem::path &programm) {
