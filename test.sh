@@ -1,16 +1,21 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds everything and runs all tests without a display.
+# Installs what is missing, checks the sources, builds everything and runs all tests without a
+# display.
 set -euo pipefail
 cd "$(dirname "$0")"
 . packaging/pakete.sh
 
-pakete_installieren "${PROGRAMM_PAKETE[@]}" libgtest-dev libbenchmark-dev poppler-utils clang-format-14
+pakete_installieren "${PROGRAMM_PAKETE[@]}" libgtest-dev libbenchmark-dev poppler-utils \
+    clang-format-14 clang-tidy-14
 
-# The part without Qt, built without Qt, under the sanitizers.
+tools/lint.sh
+
+# The part without Qt and its tests, built without Qt, under the sanitizers.
 cmake --preset asan >/dev/null
 cmake --build --preset asan
 ctest --preset asan
 
-cmake --preset dev >/dev/null
-cmake --build --preset dev
-ctest --preset dev
+# Everything else: the windows and their tests, and the benchmarks.
+cmake --preset fenster >/dev/null
+cmake --build --preset fenster
+ctest --preset fenster

@@ -23,7 +23,7 @@ Datensatzwahl::Datensatzwahl(const Datensatznamen &namen)
     reihe->addStretch();
 }
 
-void Datensatzwahl::BeiSchritt(std::function<void(int)> handler)
+void Datensatzwahl::BeiSchritt(const std::function<void(int)> &handler)
 {
     SchritteVerbinden(Minus, Plus, DPM, handler);
     connect(new QShortcut(Qt::Key_PageUp, this), &QShortcut::activated, this,

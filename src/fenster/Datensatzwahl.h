@@ -32,7 +32,7 @@ class Datensatzwahl : public QWidget {
 
     /// Runs with +1 on `Plus`, the up event of `DPM` and Page Up, with -1 on their counterparts.
     /// The keys work in the whole window of the form.
-    void BeiSchritt(std::function<void(int richtung)> handler);
+    void BeiSchritt(const std::function<void(int richtung)> &handler);
 
     /// Runs on every change of the number box.
     void BeiWechsel(std::function<void()> handler);

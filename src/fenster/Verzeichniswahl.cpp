@@ -19,6 +19,7 @@ void Hinzufügen(QListWidget *liste, const Text &name)
 std::vector<Text> Namen(const QListWidget *liste)
 {
     std::vector<Text> namen;
+    namen.reserve(static_cast<std::size_t>(liste->count()));
     for (int i = 0; i < liste->count(); ++i)
         namen.push_back(Verzeichniswahl::Name(liste->item(i)));
     return namen;

@@ -151,7 +151,7 @@ fs::path MitgelieferteDaten(const fs::path &ort)
 {
     std::error_code fehler;
     for (const char *weg : {"../share/altardienst", "data", "../../data"}) {
-        const fs::path daten = (ort / weg).lexically_normal();
+        fs::path daten = (ort / weg).lexically_normal();
         if (fs::is_directory(daten / "leer", fehler))
             return daten;
     }

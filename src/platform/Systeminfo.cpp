@@ -80,7 +80,7 @@ std::optional<fs::path> SysteminfoProgramm()
     }
     for (const char *name : {"hardinfo2", "hardinfo", "kinfocenter", "lshw-gtk",
                              "mate-system-monitor", "gnome-system-monitor", "xfce4-taskmanager"})
-        if (const auto programm = Systeminfo.ImSuchpfad(name))
+        if (auto programm = Systeminfo.ImSuchpfad(name))
             return programm;
     return std::nullopt;
 }
