@@ -1,0 +1,50 @@
+# The rooms of src/, each of which may include itself and those before it. Fails where a room
+# includes one that stands above it, where a folder is no room, and where the table of rooms in
+# docs/architecture.md names others or another order.
+#   cmake -D QUELLEN=src -D TAFEL=docs/architecture.md -P Räume_test.cmake
+set(RÄUME values platform core controls paper application assignment planning fixed printing people
+    anniversaries settings statistics shell)
+
+set(FEHLER 0)
+function(melden TEXT)
+    message(STATUS "${TEXT}")
+    math(EXPR N "${FEHLER} + 1")
+    set(FEHLER ${N} PARENT_SCOPE)
+endfunction()
+
+file(GLOB_RECURSE DATEIEN RELATIVE ${QUELLEN} ${QUELLEN}/*.h ${QUELLEN}/*.cpp)
+if(NOT DATEIEN)
+    message(FATAL_ERROR "no sources in ${QUELLEN}")
+endif()
+foreach(DATEI IN LISTS DATEIEN)
+    string(REGEX REPLACE "/.*" "" RAUM ${DATEI})
+    list(FIND RÄUME ${RAUM} HÖHE)
+    if(HÖHE EQUAL -1)
+        melden("${DATEI} lies in no room")
+        continue()
+    endif()
+    file(STRINGS ${QUELLEN}/${DATEI} ZEILEN REGEX "^#include \"[^\"]+/" ENCODING UTF-8)
+    foreach(ZEILE IN LISTS ZEILEN)
+        string(REGEX REPLACE "^#include \"([^/]+)/.*" "\\1" ZIEL "${ZEILE}")
+        list(FIND RÄUME ${ZIEL} ZIELHÖHE)
+        if(ZIELHÖHE EQUAL -1)
+            melden("${DATEI}: ${ZEILE} leads into no room")
+        elseif(ZIELHÖHE GREATER HÖHE)
+            melden("${DATEI}: ${ZEILE} leads upwards from ${RAUM}")
+        endif()
+    endforeach()
+endforeach()
+
+set(IN_DER_TAFEL)
+file(STRINGS ${TAFEL} ZEILEN REGEX "^\\| `src/[a-z]+` " ENCODING UTF-8)
+foreach(ZEILE IN LISTS ZEILEN)
+    string(REGEX REPLACE "^\\| `src/([a-z]+)`.*" "\\1" RAUM "${ZEILE}")
+    list(APPEND IN_DER_TAFEL ${RAUM})
+endforeach()
+if(NOT IN_DER_TAFEL STREQUAL RÄUME)
+    melden("the table of ${TAFEL} has other rooms or another order: ${IN_DER_TAFEL}")
+endif()
+
+if(FEHLER)
+    message(FATAL_ERROR "${FEHLER} arrows lead the wrong way")
+endif()
