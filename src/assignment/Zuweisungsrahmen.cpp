@@ -24,12 +24,11 @@ namespace {
 void WegNachAnzahl()
 {
     const Int16 anzahl = Meßdiener.Anzahl;
-    const Int16 zweiTage = 2 * GrößterTag;
     if (anzahl <= GrößteMesse)
         Meldungen.Zeigen("Zuwenig Meßdiener !!!!");
-    else if (anzahl <= zweiTage)
+    else if (anzahl <= 2 * GrößterTag) // may overflow, so not formed before
         MeßdienerKnappZuweisen();
-    else if (anzahl <= zweiTage + 10)
+    else if (anzahl <= 2 * GrößterTag + 10)
         MeßdienerFreiZuweisen();
     else
         MeßdienerVollZuweisen();

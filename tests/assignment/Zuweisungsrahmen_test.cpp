@@ -190,6 +190,34 @@ TEST_F(ZuweisungsrahmenTest, ZuwenigGehtVorAuchWennDieTageReichten)
     EXPECT_EQ(GezeigteMeldungen, (std::vector<Text>{ZuWenige, Fertig}));
 }
 
+// Twice a day of that many is more than a sum may be, but nobody asks for it.
+TEST_F(ZuweisungsrahmenTest, ZuwenigGehtVorAuchWennZweiTageÜberliefen)
+{
+    for (const int diener : {16383, 16384, 20000}) {
+        TabellenLeeren();
+        GezeigteMeldungen.clear();
+        DienerAnlegen(5);
+        MesseMitDienern(Sonntag, diener);
+        Festlegen(Sonntag, ZeitAus(36000), 2, "Fest", "Fest");
+        Würfeln({});
+        Besetzen();
+        EXPECT_EQ(GezeigteMeldungen, (std::vector<Text>{ZuWenige, Fertig})) << diener;
+        EXPECT_EQ(Slot(0, 2), "Fest Fest") << diener; // the fixed ones are carried over
+    }
+}
+
+// The mass is small enough, but the day of many masses is not.
+TEST_F(ZuweisungsrahmenTest, DerZweifacheTagLäuftÜberWoErGebrauchtWird)
+{
+    DienerAnlegen(400);
+    for (int i = 0; i < 50; ++i)
+        MesseMitDienern(Sonntag, 399, ZeitAus(3600 + 60 * i));
+    Würfeln({});
+    Antworten = {true};
+    EXPECT_EQ(NummerDesFehlers([] { MessenMitMeßdienerBesetzen(); }), 6);
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
 TEST_F(ZuweisungsrahmenTest, BisZweiVolleTageLäuftDerKnappeWeg)
 {
     DienerAnlegen(18);

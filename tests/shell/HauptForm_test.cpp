@@ -97,6 +97,18 @@ TEST_F(HauptFormTest, DreiBesetztAufJa)
     EXPECT_EQ(GezeigteMeldungen, Liste{"Fertig mit Meßdiener Messen zuweisen"});
 }
 
+TEST_F(HauptFormTest, DreiMeldetZuWenigeAuchFürEineÜbergroßeMesse)
+{
+    KleinePfarrei();
+    Messe.Dienerzahl[0] = 20000;
+    Antworten = {true};
+    Öffnen();
+    Klick(haupt->Dienstus);
+    EXPECT_EQ(GezeigteMeldungen,
+              (Liste{"Zuwenig Meßdiener !!!!", "Fertig mit Meßdiener Messen zuweisen"}));
+    EXPECT_EQ(Messe.DienerNach[0][1], "");
+}
+
 TEST_F(HauptFormTest, VierBesetztOhneFrage)
 {
     KleinePfarrei();
