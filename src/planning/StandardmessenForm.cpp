@@ -14,12 +14,16 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QListView>
+#include <QStandardItemModel>
 #include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
 
 constexpr int LetzterDatensatz = 10;
+constexpr std::array Wochentage = {"Sonntag",    "Montag",  "Dienstag", "Mittwoch",
+                                   "Donnerstag", "Freitag", "Samstag"};
 
 auto Helferspalten()
 {
@@ -49,8 +53,7 @@ StandardmessenForm::StandardmessenForm()
 {
     Benannt(this, "Standardmessen");
     setWindowTitle("Standardmessen");
-    for (const char *tag :
-         {"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"})
+    for (const char *tag : Wochentage)
         Tage->addItem(tag);
     RadSperren(Tage);
     Anordnen();
@@ -79,6 +82,8 @@ void StandardmessenForm::Anordnen()
     auto *oben = new QGridLayout;
     oben->setHorizontalSpacing(12);
     oben->addWidget(Beschriftung("", "Wochentag", Tage), 0, 0);
+    Tage->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    Tage->setMaximumWidth(2 * Tage->sizeHint().width()); // a file may hold any text
     oben->addWidget(Tage, 0, 1, Qt::AlignLeft);
     oben->addWidget(Beschriftung("", "Uhrzeit", Zeitig), 1, 0);
     oben->addLayout(zeit, 1, 1);
@@ -171,9 +176,23 @@ void StandardmessenForm::Löschen()
         ZahlSetzen(feld, 0);
 }
 
+/// A text of the file that is none of the seven stands in the box like a weekday, so that it is
+/// written as it was; it cannot be chosen.
+void StandardmessenForm::TagZeigen(const Text &tag)
+{
+    constexpr int keiner = Wochentage.size(); // the place behind them
+    Tage->removeItem(keiner);
+    if (!tag.empty() && Tage->findText(Anzeige(tag)) < 0) {
+        Tage->addItem(Anzeige(tag));
+        static_cast<QStandardItemModel *>(Tage->model())->item(keiner)->setEnabled(false);
+        static_cast<QListView *>(Tage->view())->setRowHidden(keiner, true);
+    }
+    Tage->setCurrentIndex(Tage->findText(Anzeige(tag)));
+}
+
 void StandardmessenForm::Zeigen(int i)
 {
-    Tage->setCurrentIndex(Tage->findText(Anzeige(Standardmesse.Wochentag[i])));
+    TagZeigen(Standardmesse.Wochentag[i]);
     Setzen(Zeitig, LangeZeit(Standardmesse.Uhrzeit[i]));
     Setzen(Messearten, Standardmesse.Messeart[i]);
     Dienste.Zeigen(Standardmesse, i);

@@ -38,6 +38,7 @@ class StandardmessenForm : public QWidget {
     void Schritt(int richtung);
     void DienerzahlGeändert();
     void Löschen();
+    void TagZeigen(const Text &tag);
     void Zeigen(int i);
     void Schreiben(int i);
 };

@@ -3,6 +3,8 @@
 #include "planning/Standardmessenstand.h"
 #include "shell/HauptForm.h"
 
+#include <QListView>
+
 namespace altardienst {
 namespace {
 
@@ -176,6 +178,79 @@ TEST_F(StandardmessenFormTest, EineZeileOhneMesseHatKeinenWochentag)
     EXPECT_EQ(Tage()->currentText(), "");
     Drücken("Plus");
     EXPECT_EQ(StandardmessenJetzt(), vorher);
+}
+
+/// Texts that a file may hold in the place of a weekday.
+const std::array FremdeTage = {"Feiertag",        "Montag    ", "montag", " Sonntag",
+                               "Montag, Freitag", "Größentag",  " "};
+
+TEST_F(StandardmessenFormTest, EinWochentagDerKeinerDerSiebenIstBleibtWieErIst)
+{
+    for (const char *tag : FremdeTage) {
+        SCOPED_TRACE(tag);
+        Standardmesse.Wochentag[4] = tag;
+        Standardmesse.Wochentag[5] = Text(tag) + " auch";
+        vorher = StandardmessenJetzt();
+        Öffnen(3);
+        for (const int i : {4, 5, 6, 5, 4}) {
+            Drücken(Zeigt("Datensatznummer") < ZahlText(i) ? "Plus" : "Minus");
+            EXPECT_EQ(Schirm(), vorher[static_cast<std::size_t>(i)]);
+        }
+        Tippen(Feld("Datensatznummer"), "5");
+        EXPECT_EQ(Tage()->currentText().toStdString(), Text(tag) + " auch");
+        Drücken("Minus");
+        Drücken("Ende");
+        EXPECT_TRUE(Warten([&] { return !form; }));
+        Öffnen(4);
+        EXPECT_EQ(Tage()->currentText().toStdString(), tag);
+        form->close();
+        EXPECT_EQ(StandardmessenJetzt()[4][0], tag);
+        EXPECT_EQ(StandardmessenJetzt()[5][0], Text(tag) + " auch");
+        delete form;
+        Füllen(4);
+        Füllen(5);
+    }
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
+}
+
+TEST_F(StandardmessenFormTest, EinFremderWochentagStehtNichtZurWahl)
+{
+    Standardmesse.Wochentag[4] = "Samstagabend";
+    Öffnen(4);
+    FokusAuf(Tage());
+    Tage()->showPopup();
+    auto *liste = static_cast<QListView *>(Tage()->view());
+    int sichtbare = 0;
+    for (int zeile = 0; zeile < Tage()->count(); ++zeile)
+        sichtbare += !liste->isRowHidden(zeile);
+    EXPECT_EQ(sichtbare, 7);
+    Tage()->hidePopup();
+    EXPECT_EQ(Tage()->currentText(), "Samstagabend");
+    QTest::keyClick(Tage(), Qt::Key_Up);
+    EXPECT_EQ(Tage()->currentText(), "Samstag");
+    for (const Qt::Key taste : {Qt::Key_Down, Qt::Key_End, Qt::Key_S}) {
+        QTest::keyClick(Tage(), taste);
+        EXPECT_NE(Tage()->currentText(), "Samstagabend") << taste;
+    }
+    Tage()->setCurrentText("Freitag");
+    Drücken("Plus");
+    EXPECT_EQ(Standardmesse.Wochentag[4], "Freitag");
+    EXPECT_EQ(Tage()->count(), 7);
+    Drücken("Minus");
+    EXPECT_EQ(Tage()->currentText(), "Freitag");
+    EXPECT_EQ(Tage()->findText("Samstagabend"), -1);
+}
+
+TEST_F(StandardmessenFormTest, EinSehrLangerWochentagMachtDasFensterNichtBreiter)
+{
+    Öffnen(4);
+    const int breite = form->width();
+    delete form;
+    Standardmesse.Wochentag[4] = Text(100000, 'w');
+    Öffnen(4);
+    EXPECT_EQ(form->width(), breite);
+    form->close();
+    EXPECT_EQ(Standardmesse.Wochentag[4], Text(100000, 'w'));
 }
 
 TEST_F(StandardmessenFormTest, NurGezeigteDatensätzeBehaltenIhreDienerzahl)
