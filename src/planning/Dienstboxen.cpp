@@ -32,7 +32,8 @@ void Dienstboxen::Anordnen(QGridLayout *raster, int zeile) const
     ZahlboxAnordnen(raster, zeile + 6, 0, texte[6], Allgemein);
 }
 
-void Dienstboxen::Verbinden(const std::function<void()> &beiDienerzahl) const
+void Dienstboxen::Verbinden(const std::function<void()> &beiDienerzahl,
+                            const std::function<void()> &nachDienst) const
 {
     const auto beiÄnderung = [](const Zahlbox &box, const std::function<void()> &handler) {
         QObject::connect(box.Feld, &QLineEdit::textChanged, box.Feld, Abgefangen(handler));
@@ -40,7 +41,10 @@ void Dienstboxen::Verbinden(const std::function<void()> &beiDienerzahl) const
     };
     beiÄnderung(Dienerzahl, beiDienerzahl);
     for (std::size_t k = 0; k < Dienste.size(); ++k)
-        beiÄnderung(Dienste[k], [this, k] { DienstGeändert(k); });
+        beiÄnderung(Dienste[k], [this, k, nachDienst] {
+            DienstGeändert(k);
+            nachDienst();
+        });
     beiÄnderung(Allgemein, [this] { AllgemeinGeändert(); });
 }
 

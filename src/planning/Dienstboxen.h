@@ -30,7 +30,10 @@ class Dienstboxen {
     void Anordnen(QGridLayout *raster, int zeile) const;
 
     /// `beiDienerzahl` is the form's own handler for a change of the number of servers.
-    void Verbinden(const std::function<void()> &beiDienerzahl) const;
+    /// `nachDienst` runs after a change of one of the five services, unless a box held no number.
+    void Verbinden(
+        const std::function<void()> &beiDienerzahl,
+        const std::function<void()> &nachDienst = [] {}) const;
 
     /// 0 to 20; returns it. Failure 13 if the box holds no number.
     int DienerzahlBegrenzen() const;

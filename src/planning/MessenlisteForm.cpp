@@ -135,13 +135,12 @@ void MessenlisteForm::Verbinden()
     Termin.Verbinden(Terminknöpfe(), [] {});
     connect(Termin.datendaten, &QLineEdit::textChanged, this,
             Abgefangen([this] { DatumGeändert(); }));
-    Dienste.Verbinden([this] { DienerzahlGeändert(); });
     // A service may change while the number of servers stays.
-    for (const Zahlbox &dienst : Dienste.Dienste)
-        connect(dienst.Feld, &QLineEdit::textChanged, this, Abgefangen([this] {
-                    if (!füllt)
-                        Beschriften();
-                }));
+    Dienste.Verbinden([this] { DienerzahlGeändert(); },
+                      [this] {
+                          if (!füllt)
+                              Beschriften();
+                      });
     connect(Löscher, &QPushButton::clicked, this, Abgefangen([this] { Löschen(); }));
     connect(NeuMeß, &QPushButton::clicked, this, Abgefangen([this] { NeueMesse(); }));
     connect(Lektoren, &QPushButton::clicked, this, Abgefangen([this] { HelferDerMesse(); }));

@@ -319,6 +319,48 @@ TEST_F(MessenlisteFormEingabenTest, OhneFestenEintragStehtWasVorDemSchlechtenTer
     }
 }
 
+TEST_F(MessenlisteFormEingabenTest, BuchstabenInEinemDienstLassenDieSlotsStehen)
+{
+    const auto slots = [&] {
+        std::vector<Text> texte;
+        for (int k = 1; k <= 20; ++k)
+            texte.push_back(Slot(k));
+        return texte;
+    };
+    const std::array felder = {"Dienster1", "Dienster2", "Dienster3",
+                               "Dienster4", "Dienster5", "Dienster6"};
+    for (std::size_t f = 0; f < felder.size(); ++f) {
+        Dienste({1, 1, 2, 1, 1, 2});
+        const std::vector<Text> zuvor = slots();
+        ASSERT_EQ(zuvor[5], "Kreuztr. :");
+        for (const char *text : {"abc", "", "-", "1x"}) {
+            Eingeben(felder[f], text);
+            EXPECT_EQ(slots(), zuvor) << felder[f] << " " << text;
+        }
+        Tippen(Feld(felder[f]), "abc");
+        EXPECT_EQ(slots(), zuvor) << felder[f];
+        // Nor does another service go on while the sum cannot be formed.
+        Eingeben(felder[(f + 1) % felder.size()], "0");
+        EXPECT_EQ(slots(), zuvor) << felder[f];
+        EXPECT_EQ(Zeigt("Dienerzahlen"), "8");
+        Eingeben(felder[(f + 1) % felder.size()], "1");
+        Eingeben(felder[f], "0");
+        EXPECT_EQ(slots() == zuvor, f == 5) << felder[f];
+    }
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
+}
+
+// A service may change while the number of servers stays.
+TEST_F(MessenlisteFormEingabenTest, DieSlotsFolgenDenDienstenAuchBeiGleicherMeßdienerzahl)
+{
+    Dienste({1, 1, 0, 0, 0, 0});
+    Eingeben("Dienerzahlen", "1");
+    EXPECT_EQ(Slot(2), "Leuchter :");
+    Eingeben("Dienster2", "0");
+    EXPECT_EQ(Zeigt("Dienerzahlen"), "1");
+    EXPECT_EQ(Slot(2), "Meßdiener 2 :");
+}
+
 TEST_F(MessenlisteFormEingabenTest, EinSchlechterDienstLässtDieSlotsHinterIhmNummeriert)
 {
     Dienste({1, 1, 2, 2, 0, 0});
