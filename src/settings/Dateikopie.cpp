@@ -11,10 +11,10 @@ namespace {
 
 using std::filesystem::path;
 
-/// The path of a file as it is stored, or in small letters if there is none yet.
-path PfadDer(const path &verzeichnis, const Datei &datei)
+/// The name under which a directory stores a file, or this one if it has none.
+Text NameIn(const path &verzeichnis, const Datei &datei, const Text &sonst)
 {
-    return verzeichnis / PfadAus(Laufwerke.Suchen(verzeichnis, datei.Suche).value_or(datei.Suche));
+    return Laufwerke.Suchen(verzeichnis, datei.Suche).value_or(sonst);
 }
 
 } // namespace
@@ -27,18 +27,20 @@ bool AlleDateienVorhanden(const path &verzeichnis)
     });
 }
 
-void DateiKopieren(const Kopierdatei &datei, const path &von, const path &nach)
+void DateiKopieren(const Kopierdatei &datei, const path &von, const path &nach, NeueDatei neue)
 {
     if (von.empty() || nach.empty())
         throw Laufzeitfehler(Laufzeitfehler::PfadNichtGefunden);
     const Datei &diese = DateiMit(datei.Nummer);
-    Laufwerke.Kopieren(PfadDer(von, diese), PfadDer(nach, diese));
+    const Text quelle = NameIn(von, diese, diese.Suche);
+    const Text ziel = NameIn(nach, diese, neue == NeueDatei::Klein ? diese.Suche : quelle);
+    Laufwerke.Kopieren(von / PfadAus(quelle), nach / PfadAus(ziel));
 }
 
-void AlleDateienKopieren(const path &von, const path &nach)
+void AlleDateienKopieren(const path &von, const path &nach, NeueDatei neue)
 {
     for (const Kopierdatei &datei : Kopierdateien)
-        DateiKopieren(datei, von, nach);
+        DateiKopieren(datei, von, nach, neue);
 }
 
 } // namespace altardienst

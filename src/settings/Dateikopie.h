@@ -29,13 +29,17 @@ constexpr std::array<Kopierdatei, 8> Kopierdateien = {{
 /// spelling. One that is stored with other capitals and small letters counts as missing.
 bool AlleDateienVorhanden(const std::filesystem::path &verzeichnis);
 
+/// The name of a file that the target does not have yet: a backup gets small letters, the program's
+/// directory the name under which the source stores the file.
+enum class NeueDatei { Klein, WieGespeichert };
+
 /// Copies one file from a directory to another, over the one that is there. A file that is there
-/// keeps its stored name, a new one takes the name in small letters. Failures 53, 61, 75, 76; the
-/// file that was there is then still whole.
+/// keeps its stored name. Failures 53, 61, 75, 76; the file that was there is then still whole.
 void DateiKopieren(const Kopierdatei &datei, const std::filesystem::path &von,
-                   const std::filesystem::path &nach);
+                   const std::filesystem::path &nach, NeueDatei neue);
 
 /// Copies all eight in their order; the first failure ends it with the files before it copied.
-void AlleDateienKopieren(const std::filesystem::path &von, const std::filesystem::path &nach);
+void AlleDateienKopieren(const std::filesystem::path &von, const std::filesystem::path &nach,
+                         NeueDatei neue);
 
 } // namespace altardienst

@@ -183,12 +183,13 @@ std::filesystem::path KopierForm::Quelle() const
 void KopierForm::Kopieren()
 {
     const auto ziel = dialog.Hinaus ? Wahl.Pfad() : Laufwerke.Programmverzeichnis();
+    const auto neue = dialog.Hinaus ? NeueDatei::Klein : NeueDatei::WieGespeichert;
     if (Alle->isChecked())
-        AlleDateienKopieren(Quelle(), ziel);
+        AlleDateienKopieren(Quelle(), ziel, neue);
     else
         for (std::size_t k = 0; k < O.size(); ++k)
             if (O[k]->isChecked())
-                DateiKopieren(Kopierdateien[k], Quelle(), ziel);
+                DateiKopieren(Kopierdateien[k], Quelle(), ziel, neue);
     dialog.NachKopie();
     kopiert = true;
     close();

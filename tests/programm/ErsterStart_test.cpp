@@ -110,15 +110,15 @@ TEST_F(ErsterStartTest, DieKopieFührtZuEinemBrauchbarenProgramm)
     EXPECT_EQ(lauf.Fenster("Start"), "Start");
     EXPECT_EQ(lauf.Befehl("text Tagilein"), "28") << "the start values come from the new data";
     for (const auto &[name, klein] : Dateien)
-        EXPECT_EQ(DateiLesen(daten / PfadAus(klein)),
+        EXPECT_EQ(DateiLesen(daten / PfadAus(name)),
                   DateiLesen(fs::path(BEISPIELDATEN) / PfadAus(name)));
     EXPECT_EQ(lauf.Befehl("klick Starten"), "ok");
     EXPECT_EQ(lauf.Fenster("Haupt"), "Haupt");
     Beenden(lauf, "Haupt");
     for (const auto &[name, klein] : Dateien)
-        EXPECT_TRUE(DateiLesen(daten / PfadAus(klein)) ==
+        EXPECT_TRUE(DateiLesen(daten / PfadAus(name)) ==
                     DateiLesen(fs::path(BEISPIELDATEN) / PfadAus(name)))
-            << klein;
+            << name;
 }
 
 TEST_F(ErsterStartTest, JedeFehlendeDateiHatIhreMeldung)
@@ -176,7 +176,7 @@ TEST_F(ErsterStartTest, EineEinzelneDateiLäßtDenDialogWiederkommen)
     MeldungBestätigen(lauf, "gruppen.dat", "2");
     MeldungBestätigen(lauf, "gruppen.dat", "3");
     EXPECT_EQ(lauf.Fenster("DateienKopieren"), "DateienKopieren");
-    EXPECT_TRUE(fs::exists(daten / "etiketten.dat"));
+    EXPECT_TRUE(fs::exists(daten / "Etiketten.dat"));
     Beenden(lauf, "DateienKopieren");
 }
 
@@ -209,7 +209,7 @@ TEST_F(ErsterStartTest, EinInstalliertesProgrammBietetSeineDatenAn)
         EXPECT_EQ(lauf.Befehl("öffne Dir1 " + Text(ordner)), "ok");
         EXPECT_EQ(lauf.Befehl("klick OKButton"), "ok");
         EXPECT_EQ(lauf.Fenster("Start"), "Start");
-        EXPECT_EQ(DateiLesen(daten / "konfig.cfg").starts_with("\r\n"), !gemeinde);
+        EXPECT_EQ(DateiLesen(daten / "Konfig.cfg").starts_with("\r\n"), !gemeinde);
         Beenden(lauf, "Start");
     }
 }

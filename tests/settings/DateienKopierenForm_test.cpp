@@ -90,25 +90,28 @@ TEST_F(DateienKopierenFormTest, NachDerKopieWirdDerStartNeuGeladen)
     EXPECT_FALSE(IstOffen("DateienKopieren"));
     EXPECT_TRUE(Warten([&] { return !form && Anzahl("Start") == 1; }));
     EXPECT_EQ(GezeigteMeldungen.size(), 1U);
+    EXPECT_EQ(DateienIn(Festplatte), DateienIn(Diskette)) << "under the names of the source";
     for (const auto &[name, klein] : AchtNamen)
-        EXPECT_TRUE(DateiLesen(Festplatte / PfadAus(klein)) == DateiLesen(Diskette / PfadAus(name)))
+        EXPECT_TRUE(DateiLesen(Festplatte / PfadAus(name)) == DateiLesen(Diskette / PfadAus(name)))
             << name;
 }
 
-TEST_F(DateienKopierenFormTest, DasKopierteProgrammIstBrauchbarAberNochOhneSicherung)
+TEST_F(DateienKopierenFormTest, DasKopierteProgrammIstBrauchbarUndLässtSichSichern)
 {
     Starten();
     VonDisketteKopieren();
     Klick(Finden(Fenster("Start"), "Starten"));
-    QWidget *fenster = Fenster("Haupt");
-    Finden<QAction>(fenster, "mnuDatenSichern")->trigger();
-    EXPECT_FALSE(Finden(Fenster("Datensicherung"), "OKButton")->isVisible())
-        << "the files in small letters count as missing";
-    Fenster("Datensicherung")->close();
+    Finden<QAction>(Fenster("Haupt"), "mnuDatenSichern")->trigger();
+    auto *sicherung = static_cast<KopierForm *>(Fenster("Datensicherung"));
+    EXPECT_TRUE(sicherung->OKButton->isVisible());
+    EXPECT_EQ(DateienIn(Festplatte).size(), 8U) << "saved under the same names";
+    fs::create_directories(laufwerk / "Sicherung");
+    sicherung->Wahl.Öffnen(laufwerk / "Sicherung");
+    Klick(sicherung->OKButton);
     for (const auto &[name, klein] : AchtNamen)
-        fs::rename(Festplatte / PfadAus(klein), Festplatte / PfadAus(name));
-    Finden<QAction>(fenster, "mnuDatenSichern")->trigger();
-    EXPECT_TRUE(Finden(Fenster("Datensicherung"), "OKButton")->isVisible());
+        EXPECT_TRUE(DateiLesen(laufwerk / "Sicherung" / PfadAus(klein)) ==
+                    DateiLesen(Festplatte / PfadAus(name)))
+            << name;
 }
 
 TEST_F(DateienKopierenFormTest, AbbrechenUndSchließenZeigenDenStartWieErWar)
@@ -141,7 +144,7 @@ TEST_F(DateienKopierenFormTest, EineEinzelneDateiGibtDenDialogNochEinmal)
     EXPECT_EQ(NachKopie, 0);
     EXPECT_FALSE(IstOffen("Start"));
     EXPECT_TRUE(Warten([&] { return !form && Anzahl("DateienKopieren") == 1; }));
-    EXPECT_EQ(DateienIn(Festplatte), Liste{"etiketten.dat"});
+    EXPECT_EQ(DateienIn(Festplatte), Liste{"Etiketten.dat"});
     Nehmen();
     VonDisketteKopieren();
     EXPECT_EQ(Tage(), "28");
@@ -180,7 +183,7 @@ TEST_F(DateienKopierenFormTest, DasLadenImMenüFührtAuchHierherUndZurückInsHau
     VonDisketteKopieren();
     Klick(Finden(Fenster("Start"), "Starten"));
     QWidget *fenster = Fenster("Haupt");
-    fs::remove(Festplatte / "helfer.dat");
+    fs::remove(Festplatte / "Helfer.dat");
     GezeigteMeldungen.clear();
     Finden<QAction>(fenster, "mnuDatenladen")->trigger();
     EXPECT_EQ(GezeigteMeldungen, Liste{Fehlt("helfer.dat")});
@@ -199,7 +202,7 @@ TEST_F(DateienKopierenFormTest, EinWeiteresLadenVerstecktDenWiedergekehrtenStart
     VonDisketteKopieren();
     Klick(Finden(Fenster("Start"), "Starten"));
     auto *laden = Finden<QAction>(Fenster("Haupt"), "mnuDatenladen");
-    fs::remove(Festplatte / "helfer.dat");
+    fs::remove(Festplatte / "Helfer.dat");
     laden->trigger();
     Nehmen();
     Klick(form->CancelButton);
@@ -238,7 +241,7 @@ TEST_F(DateienKopierenFormTest, EinzelErgänztDieFehlendeUndLässtSiebenGuteSteh
         const auto &[name, klein] = AchtNamen[k];
         EXPECT_TRUE(k == Fehlende || DateiLesen(Festplatte / PfadAus(name)) == zuvor[name]) << name;
     }
-    EXPECT_TRUE(DateiLesen(Festplatte / "helfer.dat") == DateiLesen(Diskette / "Helfer.dat"));
+    EXPECT_TRUE(DateiLesen(Festplatte / "Helfer.dat") == DateiLesen(Diskette / "Helfer.dat"));
 }
 
 TEST_F(DateienKopierenFormTest, SchließenDesStartsNebenDemHauptfensterBeendetNichts)
@@ -256,7 +259,7 @@ TEST_F(DateienKopierenFormTest, SchließenDesStartsNebenDemHauptfensterBeendetNi
         });
     });
     EXPECT_EQ(ergebnis, 0);
-    EXPECT_TRUE(DateiLesen(Festplatte / "konfig.cfg").starts_with("noch da\r\n"));
+    EXPECT_TRUE(DateiLesen(Festplatte / "Konfig.cfg").starts_with("noch da\r\n"));
 }
 
 TEST_F(DateienKopierenFormTest, EinGeschlossenerStartWirdNeuGeladen)

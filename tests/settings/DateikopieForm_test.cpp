@@ -65,6 +65,20 @@ TEST_F(DateikopieFormTest, AlleAchtWerdenKopiertUndGeladen)
     EXPECT_EQ(NachKopie, 0);
 }
 
+TEST_F(DateikopieFormTest, WasDemProgrammFehlteHeißtDanachWieInDerQuelle)
+{
+    Öffnen();
+    NächstesLaufwerk();
+    fs::remove(Festplatte / PfadAus("Meßdiener.dat"));
+    fs::rename(Festplatte / "Helfer.dat", Festplatte / "helfer.dat");
+    Klick(form->OKButton);
+    EXPECT_TRUE(Gleich("Meßdiener.dat"));
+    EXPECT_TRUE(DateiLesen(Festplatte / "helfer.dat") == DateiLesen(Diskette / "Helfer.dat"))
+        << "one that was there keeps its name";
+    EXPECT_EQ(DateienIn(Festplatte).size(), 8U);
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
 TEST_F(DateikopieFormTest, EineDateiAlleinLädtAlleAcht)
 {
     Öffnen();

@@ -56,7 +56,7 @@ class DateikopieTest : public Prüfstand {
         return namen;
     }
 
-    void AlleSichern() const { AlleDateienKopieren(Festplatte, Diskette); }
+    void AlleSichern() const { AlleDateienKopieren(Festplatte, Diskette, NeueDatei::Klein); }
 };
 
 TEST_F(DateikopieTest, DieAchtDateienHabenIhreBeschriftung)
@@ -140,14 +140,29 @@ TEST_F(DateikopieTest, EineNeueDateiHeißtKleinUndIstByteFürByteGleich)
     EXPECT_FALSE(AlleDateienVorhanden(Diskette)) << "under another case they count as missing";
 }
 
+TEST_F(DateikopieTest, EineNeueDateiHeißtWieGespeichertWennSieDasSoll)
+{
+    fs::rename(Festplatte / "Helfer.dat", Festplatte / "HELFER.DAT");
+    AlleDateienKopieren(Festplatte, Diskette, NeueDatei::WieGespeichert);
+    EXPECT_EQ(InhaltVon(Diskette).size(), 8U);
+    for (const auto &[name, klein] : Namen) {
+        const Text gespeichert = Text(name) == "Helfer.dat" ? "HELFER.DAT" : name;
+        EXPECT_TRUE(DateiLesen(Diskette / PfadAus(gespeichert)) == Inhalt(name)) << name;
+    }
+}
+
 TEST_F(DateikopieTest, EineVorhandeneDateiBehältIhrenNamen)
 {
-    DateiSchreiben(Diskette / "Konfig.cfg", "alt");
-    DateiSchreiben(Diskette / PfadAus("MEßDIENER.DAT"), std::string(200000, 'x'));
-    AlleSichern();
-    EXPECT_EQ(InhaltVon(Diskette).size(), 8U);
-    EXPECT_TRUE(DateiLesen(Diskette / "Konfig.cfg") == Inhalt("Konfig.cfg"));
-    EXPECT_TRUE(DateiLesen(Diskette / PfadAus("MEßDIENER.DAT")) == Inhalt("Meßdiener.dat"));
+    for (const NeueDatei neue : {NeueDatei::Klein, NeueDatei::WieGespeichert}) {
+        DateiSchreiben(Diskette / "Konfig.cfg", "alt");
+        DateiSchreiben(Diskette / "helfer.dat", "alt");
+        DateiSchreiben(Diskette / PfadAus("MEßDIENER.DAT"), std::string(200000, 'x'));
+        AlleDateienKopieren(Festplatte, Diskette, neue);
+        EXPECT_EQ(InhaltVon(Diskette).size(), 8U);
+        EXPECT_TRUE(DateiLesen(Diskette / "Konfig.cfg") == Inhalt("Konfig.cfg"));
+        EXPECT_TRUE(DateiLesen(Diskette / "helfer.dat") == Inhalt("Helfer.dat"));
+        EXPECT_TRUE(DateiLesen(Diskette / PfadAus("MEßDIENER.DAT")) == Inhalt("Meßdiener.dat"));
+    }
 }
 
 TEST_F(DateikopieTest, EinRundwegBringtAlleAchtZurück)
@@ -158,7 +173,7 @@ TEST_F(DateikopieTest, EinRundwegBringtAlleAchtZurück)
         DateiSchreiben(Festplatte / PfadAus(name), "kaputt");
     }
     ASSERT_TRUE(AlleDateienVorhanden(Diskette));
-    AlleDateienKopieren(Diskette, Festplatte);
+    AlleDateienKopieren(Diskette, Festplatte, NeueDatei::WieGespeichert);
     EXPECT_EQ(InhaltVon(Festplatte).size(), 8U);
     for (const auto &[name, klein] : Namen)
         EXPECT_TRUE(DateiLesen(Festplatte / PfadAus(name)) == Inhalt(name)) << name;
@@ -181,7 +196,7 @@ TEST_F(DateikopieTest, AlleGehenInDerFolgeDerOptionen)
 TEST_F(DateikopieTest, EineEinzelneDateiGehtAllein)
 {
     for (std::size_t k = 0; k < Namen.size(); ++k) {
-        DateiKopieren(Kopierdateien[k], Festplatte, Diskette);
+        DateiKopieren(Kopierdateien[k], Festplatte, Diskette, NeueDatei::Klein);
         EXPECT_EQ(InhaltVon(Diskette), Liste{Namen[k].second});
         fs::remove(Diskette / PfadAus(Namen[k].second));
     }
@@ -214,13 +229,17 @@ TEST_F(DateikopieTest, EineFehlendeQuelleLässtDasZielStehen)
 
 TEST_F(DateikopieTest, EinZielDasFehltOderEineDateiIst)
 {
-    EXPECT_EQ(NummerDesFehlers([&] { AlleDateienKopieren(Festplatte, Diskette / "weg"); }), 76);
+    EXPECT_EQ(NummerDesFehlers(
+                  [&] { AlleDateienKopieren(Festplatte, Diskette / "weg", NeueDatei::Klein); }),
+              76);
     EXPECT_FALSE(fs::exists(Diskette / "weg"));
     DateiSchreiben(Diskette / "datei", "x");
-    EXPECT_EQ(NummerDesFehlers([&] { AlleDateienKopieren(Festplatte, Diskette / "datei"); }), 76);
+    EXPECT_EQ(NummerDesFehlers(
+                  [&] { AlleDateienKopieren(Festplatte, Diskette / "datei", NeueDatei::Klein); }),
+              76);
     EXPECT_EQ(DateiLesen(Diskette / "datei"), "x");
-    EXPECT_EQ(NummerDesFehlers([&] { AlleDateienKopieren(Festplatte, {}); }), 76);
-    EXPECT_EQ(NummerDesFehlers([&] { AlleDateienKopieren({}, Diskette); }), 76);
+    EXPECT_EQ(NummerDesFehlers([&] { AlleDateienKopieren(Festplatte, {}, NeueDatei::Klein); }), 76);
+    EXPECT_EQ(NummerDesFehlers([&] { AlleDateienKopieren({}, Diskette, NeueDatei::Klein); }), 76);
 }
 
 TEST_F(DateikopieTest, EinVerzeichnisAnStelleDerDateiBleibt)
@@ -242,9 +261,13 @@ TEST_F(DateikopieTest, EineSchreibgeschützteDateiBleibt)
 
 TEST_F(DateikopieTest, AufSichSelbstZerstörtNichts)
 {
-    EXPECT_EQ(NummerDesFehlers([&] { AlleDateienKopieren(Festplatte, Festplatte); }), 75);
+    EXPECT_EQ(
+        NummerDesFehlers([&] { AlleDateienKopieren(Festplatte, Festplatte, NeueDatei::Klein); }),
+        75);
     fs::create_directory_symlink(Festplatte, Diskette / "auch");
-    EXPECT_EQ(NummerDesFehlers([&] { AlleDateienKopieren(Festplatte, Diskette / "auch"); }), 75);
+    EXPECT_EQ(NummerDesFehlers(
+                  [&] { AlleDateienKopieren(Festplatte, Diskette / "auch", NeueDatei::Klein); }),
+              75);
     for (const auto &[name, klein] : Namen)
         EXPECT_TRUE(DateiLesen(Festplatte / PfadAus(name)) == Inhalt(name)) << name;
     EXPECT_EQ(InhaltVon(Festplatte).size(), 8U);
@@ -255,7 +278,7 @@ TEST_F(DateikopieTest, EineVorhandeneDateiBehältIhreRechte)
     for (const auto rechte : {fs::perms(0600), fs::perms(0664)}) {
         DateiSchreiben(Diskette / "konfig.cfg", "alt");
         fs::permissions(Diskette / "konfig.cfg", rechte);
-        DateiKopieren(Kopierdateien[0], Festplatte, Diskette);
+        DateiKopieren(Kopierdateien[0], Festplatte, Diskette, NeueDatei::Klein);
         EXPECT_TRUE(DateiLesen(Diskette / "konfig.cfg") == Inhalt("Konfig.cfg"));
         EXPECT_EQ(fs::status(Diskette / "konfig.cfg").permissions(), rechte);
     }
@@ -265,7 +288,7 @@ TEST_F(DateikopieTest, EinVerweisBleibtEiner)
 {
     DateiSchreiben(Diskette / "wirklich.cfg", "alt");
     fs::create_symlink("wirklich.cfg", Diskette / "konfig.cfg");
-    DateiKopieren(Kopierdateien[0], Festplatte, Diskette);
+    DateiKopieren(Kopierdateien[0], Festplatte, Diskette, NeueDatei::Klein);
     EXPECT_TRUE(fs::is_symlink(Diskette / "konfig.cfg"));
     EXPECT_TRUE(DateiLesen(Diskette / "wirklich.cfg") == Inhalt("Konfig.cfg"));
 }
@@ -287,7 +310,7 @@ int KopieImKind(const fs::path &von, const fs::path &nach, rlim_t grenze, bool i
         setrlimit(RLIMIT_CORE, &ohneAbbild);
         if (nutzer != 0 && geteuid() == 0 && seteuid(static_cast<uid_t>(nutzer)) != 0)
             _exit(99);
-        _exit(NummerDesFehlers([&] { AlleDateienKopieren(von, nach); }));
+        _exit(NummerDesFehlers([&] { AlleDateienKopieren(von, nach, NeueDatei::Klein); }));
     }
     int ausgang = 0;
     waitpid(kind, &ausgang, 0);
