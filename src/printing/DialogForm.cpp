@@ -108,7 +108,7 @@ void DialogForm::VerzeichnisErstellen()
 void DialogForm::Schreiben()
 {
     try {
-        const auto pfad = PfadAus(ziel.VollerPfad);
+        const auto pfad = ZielDatei(ziel);
         if (Anhang->isChecked())
             Laufwerke.Anhängen(pfad, PlanAlsText());
         if (Überschreib->isChecked())

@@ -23,6 +23,12 @@ bool ZielVorhanden(const Exportziel &ziel)
     return gefunden && Klein(*gefunden) == Klein(ziel.NurName);
 }
 
+std::filesystem::path ZielDatei(const Exportziel &ziel)
+{
+    const auto ordner = PfadAus(ziel.Ordner);
+    return ordner / PfadAus(Laufwerke.Suchen(ordner, ziel.NurName).value_or(ziel.NurName));
+}
+
 std::string PlanAlsText()
 {
     std::string bytes;

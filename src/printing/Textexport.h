@@ -21,6 +21,10 @@ Exportziel PfadBilden(const std::filesystem::path &verzeichnis, const Text &name
 /// Whether the target exists, the case of its name aside.
 bool ZielVorhanden(const Exportziel &ziel);
 
+/// The file that is written: one that exists is found under its stored name, also where the machine
+/// tells capitals from small letters; a new one is named as typed.
+std::filesystem::path ZielDatei(const Exportziel &ziel);
+
 /// The whole plan in Windows-1252 with CR LF, from the services as they stand.
 std::string PlanAlsText();
 

@@ -73,6 +73,26 @@ TEST_F(DialogFormTest, AnhängenLässtStehenWasDaWar)
     EXPECT_EQ(DateiLesen(Festplatte / "plan.txt"), "alt\r\n" + plan);
 }
 
+TEST_F(DialogFormTest, EineVorhandeneDateiWirdUnterIhremNamenFortgesetztUndÜberschrieben)
+{
+    fs::rename(Festplatte / "plan.txt", Festplatte / "PLAN.TXT");
+    Öffnen();
+    Tippen(form->Dateiname, "plan");
+    EXPECT_EQ(Aufschrift(form->Datei), TextVon(Festplatte / "plan.txt")) << "as typed";
+    ASSERT_TRUE(WählerStehtAuf("Anhang"));
+    Klick(form->OKButton);
+    EXPECT_EQ(Laufwerke.Auflisten(Festplatte).Dateien, Liste{"PLAN.TXT"});
+    EXPECT_EQ(DateiLesen(Festplatte / "PLAN.TXT"), "alt\r\n" + plan);
+
+    Öffnen();
+    Tippen(form->Dateiname, "Plan");
+    Klick(form->Überschreib);
+    Klick(form->OKButton);
+    EXPECT_EQ(Laufwerke.Auflisten(Festplatte).Dateien, Liste{"PLAN.TXT"});
+    EXPECT_EQ(DateiLesen(Festplatte / "PLAN.TXT"), plan);
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
 TEST_F(DialogFormTest, OhneNamenEntstehtDateiTxt)
 {
     Öffnen();

@@ -96,5 +96,21 @@ TEST_F(TextexportTest, VorhandeneDateiWirdOhneRücksichtAufDieSchreibweiseErkann
     EXPECT_FALSE(ZielVorhanden(PfadBilden(Festplatte / "fehlt", "plan")));
 }
 
+TEST_F(TextexportTest, GeschriebenWirdWasDaIstUnterSeinemNamenSonstWieGetippt)
+{
+    const auto datei = [&](const Text &name) { return ZielDatei(PfadBilden(Festplatte, name)); };
+    EXPECT_EQ(datei("plan"), Festplatte / "plan.txt");
+    DateiSchreiben(Festplatte / "PLAN.TXT", "");
+    EXPECT_EQ(datei("plan"), Festplatte / "PLAN.TXT");
+    EXPECT_EQ(datei("Plan"), Festplatte / "PLAN.TXT");
+    EXPECT_EQ(datei("plan2"), Festplatte / "plan2.txt");
+    DateiSchreiben(Festplatte / "plan.txt", "");
+    EXPECT_EQ(datei("plan"), Festplatte / "plan.txt") << "the exact spelling comes first";
+    std::filesystem::create_directories(Festplatte / "b");
+    DateiSchreiben(Festplatte / "b" / "c.txt", "");
+    EXPECT_EQ(datei("b/c"), Festplatte / "b" / "c.txt");
+    EXPECT_EQ(datei("b/d"), Festplatte / "b" / "d.txt");
+}
+
 } // namespace
 } // namespace altardienst
