@@ -80,32 +80,21 @@ Etikettenleute EtikettenAllerHelfer()
     return {Helfer.Anzahl, nullptr, [](int i) { return AnschriftAus(Helfer, i); }};
 }
 
-void EtikettenDrucken(const Etikettenleute &leute, Etikettenplatz &platz)
+std::optional<Etikettenplatz> EtikettenDrucken(const Etikettenleute &leute,
+                                               const std::function<Etikettenplatz()> &anfang)
 {
+    std::optional<Etikettenplatz> weiter;
     BerichtDrucken({}, [&](int) {
         if (Etikett.Reihen[Etikett.Anzahl] < 1 || Etikett.Spalten[Etikett.Anzahl] < 1)
             throw Laufzeitfehler(Laufzeitfehler::Druckerfehler); // would turn pages for ever
         Grundschrift();
         int r = 0;
         int c = 0;
-        BögenFüllen(leute, platz, r, c);
+        BögenFüllen(leute, anfang(), r, c);
         Drucker->EndDoc();
-        platz.Reihe = r + 1;
-        platz.Spalte = c + 2;
+        weiter = Etikettenplatz{r + 1, c + 2};
     });
-}
-
-void PlatzBegrenzen(Etikettenplatz &platz)
-{
-    const int format = Etikett.Anzahl;
-    if (platz.Reihe < 1)
-        platz.Reihe = 1;
-    if (platz.Spalte < 1)
-        platz.Spalte = 1;
-    if (platz.Reihe > Etikett.Reihen[format])
-        platz.Reihe = Etikett.Reihen[format];
-    if (platz.Spalte > Etikett.Spalten[format])
-        platz.Spalte = Etikett.Spalten[format];
+    return weiter;
 }
 
 } // namespace altardienst

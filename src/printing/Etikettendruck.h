@@ -6,6 +6,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 
 namespace altardienst {
 
@@ -29,13 +30,11 @@ Etikettenleute EtikettenAllerMeßdiener();
 Etikettenleute EtikettenDerGruppe(const Text &gruppe);
 Etikettenleute EtikettenAllerHelfer();
 
-/// Prints a label for each of the people on sheets of the format `Etikett.Anzahl`, after the print
-/// dialog. `platz` is where the first one goes and afterwards the proposal where to go on; a column
-/// of the proposal may lie beyond the sheet. A format without rows or columns is a printer error.
-/// If nothing came out, `platz` stays.
-void EtikettenDrucken(const Etikettenleute &leute, Etikettenplatz &platz);
-
-/// Brings a place onto the sheet of the chosen format.
-void PlatzBegrenzen(Etikettenplatz &platz);
+/// Prints a label for each of the people on sheets of the format `Etikett.Anzahl`. After the print
+/// dialog `anfang` is asked where the first one goes; a failure of it is one of the report. Gives
+/// the proposal where to go on, whose column may lie beyond the sheet, or nothing if nothing came
+/// out. A format without rows or columns is a printer error.
+std::optional<Etikettenplatz> EtikettenDrucken(const Etikettenleute &leute,
+                                               const std::function<Etikettenplatz()> &anfang);
 
 } // namespace altardienst

@@ -16,8 +16,8 @@
 namespace altardienst {
 namespace {
 
-/// The row or column in a box; a number beyond all sheets is as good as the largest that can still
-/// take a step.
+/// The row or column in a box; a number beyond all sheets is as good as the largest behind which
+/// there is still a place to go on.
 int Stelle(const QLineEdit *feld)
 {
     constexpr Single Größte = 32766;
@@ -71,19 +71,10 @@ void Etikettenwahl::Verbinden()
     for (std::size_t n = 0; n < O.size(); ++n)
         connect(O[n], &QRadioButton::clicked, this, Abgefangen([this, n] {
                     Etikett.Anzahl = static_cast<int>(n);
-                    Begrenzen();
+                    AufDenBogenHolen();
                 }));
-    const auto feld = [this](QLineEdit *box, SpinButton *spin) {
-        BeiFokusVerlust(box, Abgefangen([this] { Begrenzen(); }));
-        SchritteVerbinden(nullptr, nullptr, spin, [this, box](int richtung) {
-            Abgefangen([&] {
-                ZahlSetzen(box, Stelle(box) + richtung);
-                Begrenzen();
-            })();
-        });
-    };
-    feld(Reih, ÄReih);
-    feld(Spal, ÄSpal);
+    DrehenVerbinden({Reih, ÄReih});
+    DrehenVerbinden({Spal, ÄSpal});
 }
 
 void Etikettenwahl::Füllen()
@@ -94,7 +85,7 @@ void Etikettenwahl::Füllen()
         if (n == Etikett.Anzahl)
             O[static_cast<std::size_t>(n)]->setChecked(true);
     }
-    Abgefangen([this] { Begrenzen(); })();
+    Abgefangen([this] { AufDenBogenHolen(); })();
 }
 
 Etikettenplatz Etikettenwahl::Platz() const
@@ -102,30 +93,28 @@ Etikettenplatz Etikettenwahl::Platz() const
     return {Stelle(Reih), Stelle(Spal)};
 }
 
-void Etikettenwahl::Zeigen(const Etikettenplatz &platz)
-{
-    ZahlSetzen(Reih, platz.Reihe);
-    ZahlSetzen(Spal, platz.Spalte);
-}
-
-void Etikettenwahl::Begrenzen()
+/// An empty box is the first row or column.
+void Etikettenwahl::AufDenBogenHolen()
 {
     for (QLineEdit *feld : {Reih, Spal})
         if (feld->text().isEmpty())
-            feld->setText("1");
-    Etikettenplatz platz = Platz();
-    PlatzBegrenzen(platz);
-    Zeigen(platz);
+            ZahlSetzen(feld, 1);
+    const auto holen = [](QLineEdit *feld, int letzte) {
+        Begrenzen(feld, std::min(1, letzte), letzte);
+    };
+    holen(Reih, Etikett.Reihen[Etikett.Anzahl]);
+    holen(Spal, Etikett.Spalten[Etikett.Anzahl]);
 }
 
 void Etikettenwahl::Drucken(const Etikettenleute &leute)
 {
     Abgefangen([&] {
-        Begrenzen();
-        Etikettenplatz platz = Platz();
-        EtikettenDrucken(leute, platz);
-        Zeigen(platz);
-        Begrenzen();
+        const auto weiter = EtikettenDrucken(leute, [this] { return Platz(); });
+        if (!weiter)
+            return;
+        ZahlSetzen(Reih, weiter->Reihe);
+        ZahlSetzen(Spal, weiter->Spalte);
+        AufDenBogenHolen();
     })();
 }
 

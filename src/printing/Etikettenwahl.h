@@ -15,7 +15,8 @@
 
 namespace altardienst {
 
-/// Choosing a format sets `Etikett.Anzahl` and brings the place onto the sheet.
+/// Choosing a format sets `Etikett.Anzahl` and brings the place onto the sheet; until then it stays
+/// as typed.
 class Etikettenwahl : public QWidget {
   public:
     /// The caption of the button that prints differs from form to form.
@@ -33,16 +34,15 @@ class Etikettenwahl : public QWidget {
     /// Shows the names of the formats and selects the one of `Etikett.Anzahl`.
     void Füllen();
 
-    /// Prints from the place on, and then shows the place where to go on. Trapped, as every report:
-    /// a place that is no number prints nothing.
+    /// Prints from the place on, and then shows the place where to go on, brought onto the sheet.
+    /// Trapped, as every report: a place that is no number prints nothing.
     void Drucken(const Etikettenleute &leute);
 
   private:
     void Anordnen();
     void Verbinden();
-    void Begrenzen();
+    void AufDenBogenHolen();
     Etikettenplatz Platz() const;
-    void Zeigen(const Etikettenplatz &platz);
 };
 
 } // namespace altardienst

@@ -167,7 +167,8 @@ class JubiGebuEtikettenTest : public JubiGebuDruckTest {
     std::vector<Text> Gedruckt(const Etikettenleute &leute)
     {
         Papier.Leeren();
-        EtikettenDrucken(leute, platz);
+        if (const auto weiter = EtikettenDrucken(leute, [this] { return platz; }))
+            platz = *weiter;
         std::vector<Text> zeilen;
         for (const Text &zeile : Papier.Zeilen)
             if (zeile.starts_with("Print \""))

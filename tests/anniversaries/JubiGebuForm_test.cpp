@@ -233,6 +233,8 @@ TEST_F(JubiGebuFormTest, SchlechteEingabenInReiheUndSpalte)
     for (const auto &[eingabe, zeigt] : fälle) {
         Tippen(Control("Reih"), eingabe);
         FokusAuf(Control("Ende"));
+        EXPECT_EQ(Zeigt("Reih"), eingabe) << "until a format is chosen";
+        Wählen("O1");
         EXPECT_EQ(Zeigt("Reih"), zeigt) << eingabe;
     }
     Tippen(Control("Reih"), "x");
@@ -247,10 +249,13 @@ TEST_F(JubiGebuFormTest, AbgebrochenDrucktKeinKnopfEtwas)
 {
     Papier.Antwort = std::nullopt;
     Öffnen();
+    Tippen(Control("Reih"), "99");
+    Tippen(Control("Spal"), "");
     for (const char *knopf : {"DruckGebu", "JubiläumMeßdiener", "Etiketten"}) {
         Gedruckt(knopf);
         EXPECT_EQ(Papier.Zeilen, Liste{"Dialog"}) << knopf;
     }
+    EXPECT_EQ(Zeigt("Reih") + "/" + Zeigt("Spal"), "99/");
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 

@@ -82,8 +82,7 @@ struct Bericht {
 
 void Etikettenlauf()
 {
-    Etikettenplatz platz = {1, 1};
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    EtikettenDrucken(EtikettenAllerMeßdiener(), [] { return Etikettenplatz{1, 1}; });
 }
 
 const Bericht Berichte[] = {
@@ -179,10 +178,9 @@ TEST_F(BeispielAufPapierTest, JedesEtikettLiegtInSeinemFeld)
         Etikett.Anzahl = format;
         const int reihen = Etikett.Reihen[format];
         const int spalten = Etikett.Spalten[format];
-        Etikettenplatz platz = {2, 2};
         const Etikettenleute leute = EtikettenAllerMeßdiener();
         ASSERT_GT(leute.Anzahl, reihen * spalten);
-        EtikettenDrucken(leute, platz);
+        EtikettenDrucken(leute, [] { return Etikettenplatz{2, 2}; });
         const PdfInhalt pdf = PdfLesen(datei);
         std::size_t worte = 0;
         for (int person = 0; person < leute.Anzahl; ++person) {

@@ -40,8 +40,7 @@ class DruckzielTest : public Prüfstand {
 
     static void Etikettenlauf()
     {
-        Etikettenplatz platz = {1, 1};
-        EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+        EtikettenDrucken(EtikettenAllerMeßdiener(), [] { return Etikettenplatz{1, 1}; });
     }
 
     QString datei = Anzeige(Festplatte.string()) + "/Bericht.pdf";

@@ -19,8 +19,7 @@ struct Bericht {
 
 void Etikettenlauf()
 {
-    Etikettenplatz platz = {1, 1};
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    EtikettenDrucken(EtikettenAllerMeßdiener(), [] { return Etikettenplatz{1, 1}; });
 }
 
 void Geburtstagslauf()

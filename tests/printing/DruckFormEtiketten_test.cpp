@@ -96,24 +96,44 @@ TEST_F(DruckFormEtikettenTest, NachDerWahlLiegtDerPlatzAufDemBogen)
     PlatzEingeben("99", "0");
     Wählen("O3");
     EXPECT_EQ(Platz(), "4/1");
+    PlatzEingeben("3,5", "99");
+    Wählen("O4");
+    EXPECT_EQ(Platz(), "3,5/3");
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
-TEST_F(DruckFormEtikettenTest, DieDrehknöpfeBleibenAufDemBogen)
+TEST_F(DruckFormEtikettenTest, DieDrehknöpfeZählenUmEinsErstDieWahlHoltAufDenBogen)
 {
     Öffnen();
     Drehen("ÄReih", "ab");
-    EXPECT_EQ(Platz(), "1/1");
+    EXPECT_EQ(Platz(), "0/1");
     for (int mal = 0; mal < 5; ++mal) {
         Drehen("ÄReih", "auf");
         Drehen("ÄSpal", "auf");
     }
-    EXPECT_EQ(Platz(), "4/3");
+    EXPECT_EQ(Platz(), "5/6");
     Drehen("ÄSpal", "ab");
-    EXPECT_EQ(Platz(), "4/2");
-    PlatzEingeben("x", "2");
-    Drehen("ÄReih", "auf");
-    EXPECT_EQ(Zeigt("Reih"), "x");
+    EXPECT_EQ(Platz(), "5/5");
+    Wählen("O2");
+    EXPECT_EQ(Platz(), "4/3");
+    for (const char *keine : {"x", ""}) {
+        PlatzEingeben(keine, keine);
+        Drehen("ÄReih", "auf");
+        Drehen("ÄSpal", "ab");
+        EXPECT_EQ(Platz(), keine + Text("/") + keine);
+    }
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(DruckFormEtikettenTest, VerlassenLässtDenPlatzWieGetippt)
+{
+    Öffnen();
+    for (const char *text : {"99", "5", "0", "-1", "2,5", "", "x"}) {
+        PlatzEingeben(text, text);
+        FokusAuf(Control("Reih"));
+        FokusAuf(Control("Ende"));
+        EXPECT_EQ(Platz(), text + Text("/") + text);
+    }
 }
 
 TEST_F(DruckFormEtikettenTest, EineOptionGruppeEntscheidetÜberDieLeute)
@@ -175,13 +195,28 @@ TEST_F(DruckFormEtikettenTest, EinVorschlagHinterDerLetztenSpalteWirdZurückgeho
     EXPECT_EQ(Platz(), "1/3");
 }
 
-TEST_F(DruckFormEtikettenTest, AbgebrochenBleibtDerPlatz)
+TEST_F(DruckFormEtikettenTest, AbgebrochenBleibtDerPlatzWieGetippt)
 {
     Papier.Antwort = std::nullopt;
     Öffnen();
-    PlatzEingeben("2", "3");
-    Drücken("Etiketten");
-    EXPECT_EQ(Platz(), "2/3");
+    for (const auto &[reihe, spalte] :
+         {std::pair("2", "3"), {"99", "0"}, {"5", "4"}, {"2,5", "-1"}, {"", ""}, {"x", "99999"}}) {
+        PlatzEingeben(reihe, spalte);
+        Gedruckt("Etiketten");
+        EXPECT_EQ(Papier.Zeilen, Liste{"Dialog"});
+        EXPECT_EQ(Platz(), reihe + Text("/") + spalte);
+    }
+}
+
+TEST_F(DruckFormEtikettenTest, DerDruckBeginntWoEsGetipptIstAuchNebenDemBogen)
+{
+    Etikett.Höhe[0] = 30;
+    Konfig.YSkala = 1;
+    Öffnen();
+    PlatzEingeben("7", "1");
+    Gedruckt("Etiketten");
+    EXPECT_EQ(Papier.WieOft("CurrentY 180"), 3) << "the seventh row of four";
+    EXPECT_EQ(Platz(), "4/3") << "brought back onto the sheet";
 }
 
 TEST_F(DruckFormEtikettenTest, NachEinemDruckerfehlerStehtDerPlatzWieZuvor)
@@ -204,17 +239,12 @@ TEST_F(DruckFormEtikettenTest, EineZahlJenseitsAllerBögenWirdZurückgeholt)
 {
     Öffnen();
     for (const char *zahl : {"32767", "32768", "99999", "1234567890"}) {
-        PlatzEingeben(zahl, zahl);
-        FokusAuf(Control("Ende"));
-        EXPECT_EQ(Platz(), "4/3") << zahl;
         const Text negativ = Text("-") + zahl;
         PlatzEingeben(negativ.c_str(), negativ.c_str());
-        FokusAuf(Control("Ende"));
+        Wählen("O3");
         EXPECT_EQ(Platz(), "1/1") << zahl;
         PlatzEingeben(zahl, zahl);
-        QTest::keyClick(Control("ÄReih"), Qt::Key_Up); // without leaving the boxes
-        EXPECT_EQ(Platz(), "4/3") << zahl;
-        PlatzEingeben(zahl, zahl);
+        Drehen("ÄReih", "auf");
         Wählen("O2");
         EXPECT_EQ(Platz(), "4/3") << zahl;
         PlatzEingeben(zahl, "1");
@@ -227,9 +257,13 @@ TEST_F(DruckFormEtikettenTest, EineZahlJenseitsAllerBögenWirdZurückgeholt)
 TEST_F(DruckFormEtikettenTest, EinPlatzDerKeineZahlIstDrucktStillNichts)
 {
     Öffnen();
-    PlatzEingeben("x", "2");
-    EXPECT_EQ(Gedruckt("Etiketten"), Liste{});
-    EXPECT_EQ(Platz(), "x/2");
+    for (const char *keine : {"x", ""}) {
+        PlatzEingeben(keine, "2");
+        EXPECT_EQ(Gedruckt("Etiketten"), Liste{});
+        EXPECT_EQ(Papier.Zeilen.front(), "Dialog");
+        EXPECT_EQ(Papier.Zeilen.back(), "Verwerfen");
+        EXPECT_EQ(Platz(), keine + Text("/2"));
+    }
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 

@@ -33,6 +33,13 @@ class EtikettendruckTest : public Druckstand {
             Meßdiener.Gruppe[i] = gruppe;
     }
 
+    /// From `platz` on, which then is the proposal where to go on.
+    void Drucken(const Etikettenleute &leute)
+    {
+        if (const auto weiter = EtikettenDrucken(leute, [this] { return platz; }))
+            platz = *weiter;
+    }
+
     /// The label at a place counted from 0.
     static void Etikettzeilen(Ablauf &ablauf, int r, int c, const std::vector<Text> &zeilen)
     {
@@ -73,7 +80,7 @@ TEST_F(EtikettendruckTest, AlleMeßdienerZeileFürZeile)
     Meßdiener.PLZ[0] = 43217;
     Meßdiener.Ort[0] = "Quellersheim";
     MeßdienerAnlegen("Jörg", "Groß");
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    Drucken(EtikettenAllerMeßdiener());
     Ablauf ablauf;
     for (const char *operation :
          {"Dialog", "FontSize 10", "FontName Liberation Sans", "FontBold aus", "FontItalic aus",
@@ -92,7 +99,7 @@ TEST_F(EtikettendruckTest, AlleHelfer)
     Helfer.Straße[0] = "Am Bach 1";
     Helfer.PLZ[0] = 7;
     Helfer.Ort[0] = "Oberquell";
-    EtikettenDrucken(EtikettenAllerHelfer(), platz);
+    Drucken(EtikettenAllerHelfer());
     EXPECT_EQ(Plätze(), Liste{"Lea 00"});
     EXPECT_EQ(Papier.WieOft("Print \"Lea Lang\""), 1);
     EXPECT_EQ(Papier.WieOft("Print \"Am Bach 1\""), 1);
@@ -109,7 +116,7 @@ TEST_F(EtikettendruckTest, DieLageRechnetInEinfacherGenauigkeit)
     Etikett.Breite[2] = 63.5F;
     Etikett.Steg[2] = 2.5F;
     Etikett.RandLR[2] = 7.25F;
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    Drucken(EtikettenAllerMeßdiener());
     char lage[32];
     std::snprintf(lage, sizeof lage, "CurrentY %.9g", (33.9F + 12.9F) * 56.7F);
     EXPECT_EQ(Papier.WieOft(lage), 2);
@@ -120,7 +127,7 @@ TEST_F(EtikettendruckTest, DieLageRechnetInEinfacherGenauigkeit)
 TEST_F(EtikettendruckTest, MehrereBögen)
 {
     MeßdienerAnzahl(8);
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    Drucken(EtikettenAllerMeßdiener());
     EXPECT_EQ(Plätze(), (Liste{"V0 00", "V1 01", "V2 10", "V3 11", "V4 20", "V5 21", "Seite",
                                "V6 00", "V7 01"}));
     EXPECT_EQ(platz.Reihe, 1);
@@ -130,7 +137,7 @@ TEST_F(EtikettendruckTest, MehrereBögen)
 TEST_F(EtikettendruckTest, EinGeradeVollerBogenWirdNichtGewendet)
 {
     MeßdienerAnzahl(6);
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    Drucken(EtikettenAllerMeßdiener());
     EXPECT_EQ(Papier.WieOft("NewPage"), 0);
     EXPECT_EQ(Papier.Zeilen.back(), "EndDoc");
     EXPECT_EQ(platz.Reihe, 3);
@@ -141,7 +148,7 @@ TEST_F(EtikettendruckTest, DerErsteKommtAufDenGewähltenPlatzUndDannGehtEsFort)
 {
     MeßdienerAnzahl(4);
     platz = {2, 2};
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    Drucken(EtikettenAllerMeßdiener());
     EXPECT_EQ(Plätze(), (Liste{"V0 11", "V1 20", "V2 21", "Seite", "V3 00"}));
     EXPECT_EQ(platz.Reihe, 1);
     EXPECT_EQ(platz.Spalte, 2);
@@ -153,7 +160,7 @@ TEST_F(EtikettendruckTest, ReiheDreiSpalteZweiEinesGroßenBogens)
     Etikett.Spalten[2] = 3;
     MeßdienerAnzahl(3);
     platz = {3, 2};
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    Drucken(EtikettenAllerMeßdiener());
     EXPECT_EQ(Plätze(), (Liste{"V0 21", "V1 22", "V2 30"}));
     EXPECT_EQ(platz.Reihe, 4);
     EXPECT_EQ(platz.Spalte, 2);
@@ -163,11 +170,11 @@ TEST_F(EtikettendruckTest, NurReiheOderNurSpalteGewählt)
 {
     MeßdienerAnzahl(2);
     platz = {3, 1};
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    Drucken(EtikettenAllerMeßdiener());
     EXPECT_EQ(Plätze(), (Liste{"V0 20", "V1 21"}));
     Papier.Leeren();
     platz = {1, 2};
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    Drucken(EtikettenAllerMeßdiener());
     EXPECT_EQ(Plätze(), (Liste{"V0 01", "V1 10"}));
 }
 
@@ -175,7 +182,7 @@ TEST_F(EtikettendruckTest, EineGruppeÜberspringtDieAnderen)
 {
     MeßdienerAnzahl(6);
     InGruppe("Die Großen", {1, 3, 5});
-    EtikettenDrucken(EtikettenDerGruppe("Die Großen"), platz);
+    Drucken(EtikettenDerGruppe("Die Großen"));
     EXPECT_EQ(Plätze(), (Liste{"V1 00", "V3 01", "V5 10"}));
     EXPECT_EQ(platz.Reihe, 2);
     EXPECT_EQ(platz.Spalte, 2);
@@ -186,7 +193,7 @@ TEST_F(EtikettendruckTest, StehtHinterDerGruppeNochJemandEndetDerLaufAmNächsten
 {
     MeßdienerAnzahl(6);
     InGruppe("Die Großen", {1, 3});
-    EtikettenDrucken(EtikettenDerGruppe("Die Großen"), platz);
+    Drucken(EtikettenDerGruppe("Die Großen"));
     EXPECT_EQ(Plätze(), (Liste{"V1 00", "V3 01"}));
     EXPECT_EQ(platz.Reihe, 2);
     EXPECT_EQ(platz.Spalte, 2);
@@ -198,7 +205,7 @@ TEST_F(EtikettendruckTest, FülltDieGruppeDenBogenUndStehtNochJemandDahinterWird
 {
     MeßdienerAnzahl(7);
     InGruppe("Die Großen", {0, 1, 2, 3, 4, 5});
-    EtikettenDrucken(EtikettenDerGruppe("Die Großen"), platz);
+    Drucken(EtikettenDerGruppe("Die Großen"));
     EXPECT_EQ(Plätze(), (Liste{"V0 00", "V1 01", "V2 10", "V3 11", "V4 20", "V5 21", "Seite"}));
     EXPECT_EQ(Papier.Zeilen.back(), "EndDoc");
     EXPECT_EQ(platz.Reihe, 1);
@@ -208,7 +215,7 @@ TEST_F(EtikettendruckTest, FülltDieGruppeDenBogenUndStehtNochJemandDahinterWird
 TEST_F(EtikettendruckTest, WerKeineGruppeHatIstInKeinerAuchNichtInDerOhneNamen)
 {
     MeßdienerAnzahl(3);
-    EtikettenDrucken(EtikettenDerGruppe(""), platz);
+    Drucken(EtikettenDerGruppe(""));
     EXPECT_EQ(Plätze(), Liste{});
     EXPECT_EQ(Papier.Zeilen.back(), "EndDoc");
 }
@@ -216,13 +223,13 @@ TEST_F(EtikettendruckTest, WerKeineGruppeHatIstInKeinerAuchNichtInDerOhneNamen)
 TEST_F(EtikettendruckTest, NachEinemFehlerIstDerPlatzWieZuvor)
 {
     MeßdienerAnzahl(8);
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    Drucken(EtikettenAllerMeßdiener());
     const int operationen = static_cast<int>(Papier.Zeilen.size());
     for (int n = 1; n <= operationen; ++n) { // the last one is EndDoc
         Papier.Leeren();
         Papier.FehlerBei = n;
         platz = {2, 2};
-        EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+        Drucken(EtikettenAllerMeßdiener());
         EXPECT_EQ(platz.Reihe, 2) << n;
         EXPECT_EQ(platz.Spalte, 2) << n;
     }
@@ -233,7 +240,7 @@ TEST_F(EtikettendruckTest, EineGruppeOhneMitgliedErgibtKeinEtikett)
     MeßdienerAnzahl(3);
     for (const Text gruppe : {"Die Kleinen", "die großen"}) {
         Papier.Leeren();
-        EtikettenDrucken(EtikettenDerGruppe(gruppe), platz);
+        Drucken(EtikettenDerGruppe(gruppe));
         EXPECT_EQ(Plätze(), Liste{});
         EXPECT_EQ(Papier.Zeilen.back(), "EndDoc");
     }
@@ -241,7 +248,7 @@ TEST_F(EtikettendruckTest, EineGruppeOhneMitgliedErgibtKeinEtikett)
 
 TEST_F(EtikettendruckTest, OhneLeuteKeinEtikettUndDerBogenIstNochLeer)
 {
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    Drucken(EtikettenAllerMeßdiener());
     EXPECT_EQ(Plätze(), Liste{});
     EXPECT_EQ(Papier.Zeilen.back(), "EndDoc");
     EXPECT_EQ(platz.Reihe, 1);
@@ -252,12 +259,12 @@ TEST_F(EtikettendruckTest, OhneLeuteKeinEtikettUndDerBogenIstNochLeer)
 TEST_F(EtikettendruckTest, OhneLeuteEndetDerLaufAmGewähltenPlatz)
 {
     platz = {3, 2};
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    Drucken(EtikettenAllerMeßdiener());
     EXPECT_EQ(platz.Reihe, 3);
     EXPECT_EQ(platz.Spalte, 3);
     MeßdienerAnzahl(3);
     platz = {3, 2};
-    EtikettenDrucken(EtikettenDerGruppe("Die Kleinen"), platz);
+    Drucken(EtikettenDerGruppe("Die Kleinen"));
     EXPECT_EQ(Plätze(), Liste{});
     EXPECT_EQ(platz.Reihe, 3);
     EXPECT_EQ(platz.Spalte, 3);
@@ -268,7 +275,7 @@ TEST_F(EtikettendruckTest, EineGruppeBeginntAmGewähltenPlatz)
     MeßdienerAnzahl(6);
     InGruppe("Die Großen", {1, 3});
     platz = {2, 2};
-    EtikettenDrucken(EtikettenDerGruppe("Die Großen"), platz);
+    Drucken(EtikettenDerGruppe("Die Großen"));
     EXPECT_EQ(Plätze(), (Liste{"V1 11", "V3 20"}));
     EXPECT_EQ(platz.Reihe, 3);
     EXPECT_EQ(platz.Spalte, 3);
@@ -279,7 +286,7 @@ TEST_F(EtikettendruckTest, AbgebrochenBleibtDerPlatz)
     MeßdienerAnzahl(2);
     Papier.Antwort = std::nullopt;
     platz = {3, 2};
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    Drucken(EtikettenAllerMeßdiener());
     EXPECT_EQ(Papier.Zeilen, Liste{"Dialog"});
     EXPECT_EQ(platz.Reihe, 3);
     EXPECT_EQ(platz.Spalte, 2);
@@ -292,33 +299,40 @@ TEST_F(EtikettendruckTest, EinBogenOhneReihenOderSpaltenIstEinDruckerfehler)
         Etikett.Reihen[2] = reihen;
         Etikett.Spalten[2] = spalten;
         Papier.Leeren();
-        EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+        Drucken(EtikettenAllerMeßdiener());
         EXPECT_EQ(Papier.Zeilen, (Liste{"Dialog", "Verwerfen"}));
     }
     Etikett.Anzahl = 99; // no such sheet
     Papier.Leeren();
-    EtikettenDrucken(EtikettenAllerMeßdiener(), platz);
+    Drucken(EtikettenAllerMeßdiener());
     EXPECT_EQ(Papier.Zeilen, (Liste{"Dialog", "Verwerfen"}));
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
-TEST_F(EtikettendruckTest, EinPlatzWirdAufDenBogenGeholt)
+// The dialog comes before the place is looked at.
+TEST_F(EtikettendruckTest, EinPlatzDerKeinerIstEndetHinterDemDialog)
 {
-    struct {
-        Etikettenplatz von;
-        int reihe, spalte;
-    } const fälle[] = {{{3, 2}, 3, 2}, {{4, 3}, 3, 2}, {{99, 99}, 3, 2},
-                       {{1, 1}, 1, 1}, {{0, 0}, 1, 1}, {{-5, 1}, 1, 1}};
-    for (const auto &[von, reihe, spalte] : fälle) {
-        platz = von;
-        PlatzBegrenzen(platz);
-        EXPECT_EQ(platz.Reihe, reihe);
-        EXPECT_EQ(platz.Spalte, spalte);
-    }
-    Etikett.Reihen[2] = 0; // a sheet that has none yet
-    platz = {1, 1};
-    PlatzBegrenzen(platz);
-    EXPECT_EQ(platz.Reihe, 0);
+    MeßdienerAnzahl(2);
+    const auto weiter = EtikettenDrucken(EtikettenAllerMeßdiener(), []() -> Etikettenplatz {
+        throw Laufzeitfehler(Laufzeitfehler::TypenUnverträglich);
+    });
+    EXPECT_FALSE(weiter);
+    EXPECT_EQ(Papier.Zeilen.front(), "Dialog");
+    EXPECT_EQ(Papier.Zeilen.back(), "Verwerfen");
+    EXPECT_EQ(Plätze(), Liste{});
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(EtikettendruckTest, EinPlatzJenseitsDesBogensGiltFürDasErsteEtikettWieErIst)
+{
+    MeßdienerAnzahl(3);
+    platz = {9, 1};
+    Drucken(EtikettenAllerMeßdiener());
+    EXPECT_EQ(Plätze(), (Liste{"V0 80", "V1 81", "Seite", "V2 00"}));
+    Papier.Leeren();
+    platz = {1, 5};
+    Drucken(EtikettenAllerMeßdiener());
+    EXPECT_EQ(Plätze(), (Liste{"V0 04", "V1 10", "V2 11"}));
 }
 
 } // namespace
