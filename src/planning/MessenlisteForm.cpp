@@ -207,7 +207,7 @@ void MessenlisteForm::ZeilenZeigen(int diener)
         Slots.Sichtbar(diener);
 }
 
-/// A service that is no number leaves its slots and all behind them numbered.
+/// A service that is no number leaves its slots and all after them numbered.
 void MessenlisteForm::Beschriften()
 {
     Dienstwünsche wünsche;

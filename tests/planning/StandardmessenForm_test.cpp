@@ -200,7 +200,8 @@ TEST_F(StandardmessenFormTest, EinWochentagDerKeinerDerSiebenIstBleibtWieErIst)
         EXPECT_EQ(Tage()->currentText().toStdString(), Text(tag) + " auch");
         Drücken("Minus");
         Drücken("Ende");
-        EXPECT_TRUE(Warten([&] { return !form; }));
+        EXPECT_FALSE(form->isVisible());
+        delete form;
         Öffnen(4);
         EXPECT_EQ(Tage()->currentText().toStdString(), tag);
         form->close();
