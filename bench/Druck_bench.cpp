@@ -3,9 +3,9 @@
 #include "Messung.h"
 
 #include "assignment/Dienste.h"
+#include "controls/Bausteine.h"
 #include "core/tables.h"
-#include "fenster/Bausteine.h"
-#include "fenster/DruckerQt.h"
+#include "paper/DruckerQt.h"
 #include "printing/PlanZeilen.h"
 #include "printing/Plandruck.h"
 

@@ -3,7 +3,7 @@
 #include "Messung.h"
 #include "VollerPlan.h"
 
-#include "fenster/Anwendung.h"
+#include "application/Anwendung.h"
 #include "statistics/StatDienstForm.h"
 
 #include <cstdlib>

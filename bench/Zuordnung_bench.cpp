@@ -3,8 +3,8 @@
 #include "Bestand.h"
 #include "Messung.h"
 
+#include "application/Anwendung.h"
 #include "core/tables.h"
-#include "fenster/Anwendung.h"
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
 

@@ -1,5 +1,5 @@
 // The program up to its start dialog, loading included, which ends once the dialog is shown.
-#include "fenster/Anwendung.h"
+#include "application/Anwendung.h"
 #include "shell/Programm.h"
 
 #include <QTimer>

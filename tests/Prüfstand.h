@@ -2,12 +2,12 @@
 // and reads.
 #pragma once
 
-#include "core/Laufzeitfehler.h"
 #include "core/tables.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 #include "platform/Uhr.h"
 #include "platform/Zufall.h"
+#include "values/Laufzeitfehler.h"
 
 #include <gtest/gtest.h>
 

@@ -4,10 +4,10 @@
 #include "anniversaries/GeburtstagsansichtForm.h"
 #include "anniversaries/JubiGebuDruck.h"
 #include "anniversaries/JubiläumsanzeigeForm.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
-#include "fenster/Handler.h"
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>

@@ -1,11 +1,11 @@
 // A window that shows the rows of a list one by one.
 #include "anniversaries/Listenansicht.h"
 
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
+#include "controls/Zahlbox.h"
 #include "core/Umwandlung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
-#include "fenster/Handler.h"
-#include "fenster/Zahlbox.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>

@@ -1,8 +1,8 @@
 // A window that shows the rows of a list one by one; nothing in it can be changed.
 #pragma once
 
+#include "controls/Datensatzwahl.h"
 #include "core/tables.h"
-#include "fenster/Datensatzwahl.h"
 
 #include <functional>
 

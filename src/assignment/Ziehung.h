@@ -2,8 +2,8 @@
 // and the tests of a drawn server.
 #pragma once
 
-#include "core/Int16.h"
-#include "core/Text.h"
+#include "values/Int16.h"
+#include "values/Text.h"
 
 namespace altardienst {
 

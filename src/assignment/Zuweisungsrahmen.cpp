@@ -6,7 +6,6 @@
 #include "assignment/MEßdienerzuweiseung.h"
 #include "assignment/ZweiMeßdienerzuweisen.h"
 #include "core/Sortierbefehle.h"
-#include "fixed/FesteMeßdienerÜbertragen.h"
 #include "platform/Meldungen.h"
 
 #include <algorithm>
@@ -70,7 +69,7 @@ void GrößenRechnen()
     GrößterTag = GrößteTagessumme(Messe.Dienerzahl);
 }
 
-void MessenMitMeßdienerBesetzen()
+void MessenMitMeßdienerBesetzen(Übertragung übertragen)
 {
     if (!Meldungen.Fragen("Sicherer ist ~(4)Meßdiener-Wunschpartner berücksichtigen~ und ohne "
                           "Probleme. Wollen Sie Wirklich diese Funktion ausführen?",
@@ -81,17 +80,17 @@ void MessenMitMeßdienerBesetzen()
     GrößenRechnen();
     LaufDiensteVerteilen();
     WegNachAnzahl();
-    FesteMeßdienerÜbertragen();
+    übertragen();
     Meldungen.Zeigen("Fertig mit Meßdiener Messen zuweisen");
 }
 
-void WunschpartnerBerücksichtigen()
+void WunschpartnerBerücksichtigen(Übertragung übertragen)
 {
     MessenSortieren();
     DienstProDienerRechnen();
     DiensteVerteilen();
     WunschpartnerZuweisen();
-    FesteMeßdienerÜbertragen();
+    übertragen();
     if (Konfig.ManuellKreuzträger == 1)
         Meldungen.Zeigen("Meßdiener Kreuzträger sind noch nachzutragen!!");
     if (Konfig.ManuellWeihrauch == 1)

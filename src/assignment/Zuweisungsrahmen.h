@@ -1,8 +1,8 @@
 // What stands around the ways of assignment: buttons (3), (4) and (5) of the main window.
 #pragma once
 
-#include "core/Int16.h"
 #include "core/tables.h"
+#include "values/Int16.h"
 
 namespace altardienst {
 
@@ -20,11 +20,14 @@ void GrößenRechnen();
 /// last has another date and closes the last day.
 Int16 GrößteTagessumme(MesseTabelle::Spalte<Int16> &zahl);
 
+/// Carries the fixed entries into the masses; what a run has drawn for their slots is overwritten.
+using Übertragung = void (*)();
+
 /// Button (3), the plain way: asks first, then one of three ways by the number of servers.
-void MessenMitMeßdienerBesetzen();
+void MessenMitMeßdienerBesetzen(Übertragung übertragen);
 
 /// Button (4), the partner way.
-void WunschpartnerBerücksichtigen();
+void WunschpartnerBerücksichtigen(Übertragung übertragen);
 
 /// Button (5), the helpers.
 void MessenMitMessehelferBesetzen();

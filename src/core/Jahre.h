@@ -1,7 +1,7 @@
 // Whole years of age and of membership.
 #pragma once
 
-#include "core/Datum.h"
+#include "values/Datum.h"
 
 namespace altardienst {
 

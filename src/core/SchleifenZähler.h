@@ -1,7 +1,7 @@
 // The loop counter that the shared routines have in common.
 #pragma once
 
-#include "core/Int16.h"
+#include "values/Int16.h"
 
 namespace altardienst {
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "core/SchleifenZähler.h"
-#include "core/Spalte.h"
-#include "core/Text.h"
+#include "values/Spalte.h"
+#include "values/Text.h"
 
 #include <algorithm>
 #include <numeric>

@@ -2,9 +2,9 @@
 // dates and numbers.
 #pragma once
 
-#include "core/Datum.h"
-#include "core/Int16.h"
-#include "core/Text.h"
+#include "values/Datum.h"
+#include "values/Int16.h"
+#include "values/Text.h"
 
 #include <string_view>
 

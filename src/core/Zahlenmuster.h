@@ -1,8 +1,8 @@
 // Numbers in the patterns of the figures that are shown.
 #pragma once
 
-#include "core/Int16.h"
-#include "core/Text.h"
+#include "values/Int16.h"
+#include "values/Text.h"
 
 #include <string_view>
 

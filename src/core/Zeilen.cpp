@@ -1,8 +1,8 @@
 // Lines and fields of the data files.
 #include "core/Zeilen.h"
 
-#include "core/Ansi.h"
 #include "core/Umwandlung.h"
+#include "values/Ansi.h"
 
 #include <algorithm>
 

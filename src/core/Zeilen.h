@@ -1,10 +1,10 @@
 // The line format of the data files: one value per line, Windows-1252, CR LF.
 #pragma once
 
-#include "core/Datum.h"
-#include "core/Int16.h"
-#include "core/Spalte.h"
-#include "core/Text.h"
+#include "values/Datum.h"
+#include "values/Int16.h"
+#include "values/Spalte.h"
+#include "values/Text.h"
 
 #include <string>
 #include <string_view>

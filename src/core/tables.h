@@ -7,10 +7,10 @@
 // the range in the file (`HöchsterInDatei`), and the limit of the dialog that adds records.
 #pragma once
 
-#include "core/Datum.h"
-#include "core/Int16.h"
-#include "core/Spalte.h"
-#include "core/Text.h"
+#include "values/Datum.h"
+#include "values/Int16.h"
+#include "values/Spalte.h"
+#include "values/Text.h"
 
 #include <array>
 #include <tuple>

@@ -1,11 +1,13 @@
 // The table of the fixed entries and what it has to do with the masses.
 #include "fixed/FesteEinträge.h"
 
+#include "core/Namen.h"
 #include "core/SchleifenZähler.h"
 #include "core/Umwandlung.h"
-#include "people/Namen.h"
 
 namespace altardienst {
+
+bool FesteZuordnungOffen = false;
 namespace {
 
 /// Calls `f` with each mass of this date and time; the blank record behind the last one counts.

@@ -7,6 +7,9 @@
 
 namespace altardienst {
 
+/// Whether the dialog of the fixed entries is open; the one for a new entry then returns to it.
+extern bool FesteZuordnungOffen;
+
 /// Sets `MesseDienerFest.Index` of the entries 0 to 100 to the number of servers of the mass of the
 /// same date and time, or to 0 if there is none; the last such mass counts. Entries above 100 keep
 /// their number.

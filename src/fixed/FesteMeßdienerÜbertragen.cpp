@@ -7,8 +7,6 @@
 
 namespace altardienst {
 
-bool FesteZuordnungOffen = false;
-
 void FesteMeßdienerÜbertragen()
 {
     constexpr int HöchsterÜbertragener = 200; // entries above it are never carried

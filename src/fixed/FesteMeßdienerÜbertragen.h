@@ -3,10 +3,6 @@
 
 namespace altardienst {
 
-/// Whether the dialog of the fixed entries is open behind the one for a new entry, which then
-/// returns to it.
-extern bool FesteZuordnungOffen;
-
 /// Writes the names of each fixed entry over the slots of every mass of the same date and time. A
 /// later entry wins slot by slot; empty slots of an entry leave the mass as it is.
 void FesteMeßdienerÜbertragen();

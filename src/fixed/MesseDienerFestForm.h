@@ -1,7 +1,7 @@
 // Servers and groups fixed to particular masses, one entry at a time.
 #pragma once
 
-#include "fenster/Datensatzwahl.h"
+#include "controls/Datensatzwahl.h"
 #include "fixed/Zuordnungsfelder.h"
 
 namespace altardienst {

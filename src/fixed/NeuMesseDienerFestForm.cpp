@@ -1,12 +1,12 @@
 // The dialog that adds a fixed entry.
 #include "fixed/NeuMesseDienerFestForm.h"
 
+#include "application/Anwendung.h"
 #include "assignment/Dienste.h"
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
 #include "core/Umwandlung.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
-#include "fenster/Handler.h"
 #include "fixed/FesteEinträge.h"
 #include "fixed/FesteMeßdienerÜbertragen.h"
 #include "fixed/MesseDienerFestForm.h"

@@ -1,13 +1,13 @@
 // What the two dialogs of the fixed entries have in common: a mass, and who is fixed to its slots.
 #include "fixed/Zuordnungsfelder.h"
 
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
+#include "controls/Terminbox.h"
+#include "controls/Textwahl.h"
+#include "core/Namen.h"
 #include "core/Umwandlung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Handler.h"
-#include "fenster/Terminbox.h"
-#include "fenster/Textwahl.h"
 #include "fixed/FesteEinträge.h"
-#include "people/Namen.h"
 #include "platform/Meldungen.h"
 #include "platform/Uhr.h"
 

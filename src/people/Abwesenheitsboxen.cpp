@@ -1,10 +1,10 @@
 // The boxes for the periods in which a server or helper is away.
 #include "people/Abwesenheitsboxen.h"
 
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
+#include "controls/Terminbox.h"
 #include "core/Umwandlung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Handler.h"
-#include "fenster/Terminbox.h"
 
 #include <cmath>
 #include <string>

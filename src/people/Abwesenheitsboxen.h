@@ -1,7 +1,7 @@
 // The boxes for the periods in which a server or helper is away.
 #pragma once
 
-#include "fenster/Datumsfeld.h"
+#include "controls/Datumsfeld.h"
 
 #include <QGridLayout>
 

@@ -1,9 +1,9 @@
 // What the dialogs that add a group, a server or a helper have in common.
 #include "people/Anlegefenster.h"
 
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
-#include "fenster/Handler.h"
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
 
 #include <QCloseEvent>
 #include <QShortcut>

@@ -1,9 +1,9 @@
 // What the editors of the groups, the servers and the helpers have in common.
 #include "people/Editorfenster.h"
 
-#include "fenster/Bausteine.h"
-#include "fenster/Handler.h"
-#include "fenster/Zahlbox.h"
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
+#include "controls/Zahlbox.h"
 
 #include <QCloseEvent>
 

@@ -2,8 +2,8 @@
 // added, and how the window is left.
 #pragma once
 
-#include "fenster/Anwendung.h"
-#include "fenster/Datensatzwahl.h"
+#include "application/Anwendung.h"
+#include "controls/Datensatzwahl.h"
 
 #include <QPushButton>
 #include <QWidget>

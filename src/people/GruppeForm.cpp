@@ -1,11 +1,11 @@
 // The editor of the groups, one name at a time.
 #include "people/GruppeForm.h"
 
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
+#include "controls/Zahlbox.h"
 #include "core/tables.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
-#include "fenster/Handler.h"
-#include "fenster/Zahlbox.h"
 #include "people/NeuGruppeForm.h"
 #include "people/Personenboxen.h"
 #include "platform/Meldungen.h"

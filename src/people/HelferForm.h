@@ -1,8 +1,8 @@
 // The editor of the helpers, one at a time.
 #pragma once
 
-#include "fenster/Datumsfeld.h"
-#include "fenster/Textwahl.h"
+#include "controls/Datumsfeld.h"
+#include "controls/Textwahl.h"
 #include "people/Abwesenheitsboxen.h"
 #include "people/Editorfenster.h"
 #include "people/Personenboxen.h"

@@ -1,9 +1,9 @@
 // The editor of the altar servers, one at a time.
 #pragma once
 
+#include "controls/Flagboxen.h"
 #include "people/Abwesenheitsboxen.h"
 #include "people/Editorfenster.h"
-#include "people/Flagboxen.h"
 #include "people/Meßdienerangaben.h"
 #include "people/Partnerboxen.h"
 

@@ -1,8 +1,8 @@
 // What is asked of every server, in the editor and in the dialog that adds one.
 #include "people/Meßdienerangaben.h"
 
+#include "controls/Handler.h"
 #include "core/tables.h"
-#include "fenster/Handler.h"
 
 #include <QHBoxLayout>
 

@@ -1,9 +1,9 @@
 // What is asked of every server, in the editor and in the dialog that adds one.
 #pragma once
 
-#include "fenster/Datumsfeld.h"
-#include "fenster/Textwahl.h"
-#include "fenster/Zahlbox.h"
+#include "controls/Datumsfeld.h"
+#include "controls/Textwahl.h"
+#include "controls/Zahlbox.h"
 #include "people/Personenboxen.h"
 
 namespace altardienst {

@@ -1,9 +1,9 @@
 // The dialog that adds a group.
 #include "people/NeuGruppeForm.h"
 
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
 #include "core/tables.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Handler.h"
 #include "people/Personen.h"
 #include "platform/Meldungen.h"
 

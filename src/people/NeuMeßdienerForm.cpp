@@ -1,8 +1,8 @@
 // The dialog that adds an altar server.
 #include "people/NeuMeßdienerForm.h"
 
+#include "controls/Bausteine.h"
 #include "core/tables.h"
-#include "fenster/Bausteine.h"
 #include "platform/Meldungen.h"
 
 namespace altardienst {

@@ -1,8 +1,8 @@
 // The dialog that adds a helper.
 #include "people/NeuerHelferForm.h"
 
+#include "controls/Bausteine.h"
 #include "core/tables.h"
-#include "fenster/Bausteine.h"
 #include "people/HelferForm.h"
 #include "platform/Meldungen.h"
 

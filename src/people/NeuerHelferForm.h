@@ -1,8 +1,8 @@
 // The dialog that adds a helper.
 #pragma once
 
-#include "fenster/Datumsfeld.h"
-#include "fenster/Textwahl.h"
+#include "controls/Datumsfeld.h"
+#include "controls/Textwahl.h"
 #include "people/Anlegefenster.h"
 #include "people/Personenboxen.h"
 

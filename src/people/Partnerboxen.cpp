@@ -1,10 +1,10 @@
 // The wish partner of a server.
 #include "people/Partnerboxen.h"
 
+#include "controls/Bausteine.h"
+#include "controls/Zahlbox.h"
+#include "core/Namen.h"
 #include "core/tables.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Zahlbox.h"
-#include "people/Namen.h"
 #include "people/Personenboxen.h"
 #include "platform/Meldungen.h"
 

@@ -1,7 +1,7 @@
 // The wish partner of a server: chosen from a list, kept as first name and surname.
 #pragma once
 
-#include "fenster/Textwahl.h"
+#include "controls/Textwahl.h"
 #include "people/Personen.h"
 
 #include <QLayout>

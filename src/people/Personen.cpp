@@ -95,11 +95,6 @@ void HelferUmbenennen(int i, const Personenname &neu)
             Ersetzen((*vor)[m], (*nach)[m], alt, neu);
 }
 
-bool IstInGruppe(int diener, const Text &gruppe)
-{
-    return !gruppe.empty() && Meßdiener.Gruppe[diener] == gruppe;
-}
-
 void GruppeUmbenennen(int i, const Text &neu)
 {
     const Text alt = Gruppe.Bezeichnung[i];

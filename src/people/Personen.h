@@ -3,7 +3,7 @@
 // missed a place would leave a stranger there.
 #pragma once
 
-#include "core/Text.h"
+#include "values/Text.h"
 
 namespace altardienst {
 
@@ -21,10 +21,6 @@ struct Personenname {
 bool IstAndererMeßdiener(int i, const Personenname &name);
 bool IstAndererHelfer(int i, const Personenname &name);
 bool IstAndereGruppe(int i, const Text &bezeichnung);
-
-/// Whether the server belongs to the group. A server without a group belongs to none, and so nobody
-/// belongs to a group without a name.
-bool IstInGruppe(int diener, const Text &gruppe);
 
 // Pushes a new name of record `i`, which still bears the old one, into all places that name it.
 // The record itself keeps its name. Empty names of a person are found nowhere: a name typed into

@@ -1,8 +1,8 @@
 // The boxes for name and address, which the forms of servers and helpers share.
 #include "people/Personenboxen.h"
 
-#include "fenster/Handler.h"
-#include "fenster/Zahlbox.h"
+#include "controls/Handler.h"
+#include "controls/Zahlbox.h"
 
 namespace altardienst {
 namespace {

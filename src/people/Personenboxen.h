@@ -1,12 +1,12 @@
 // The boxes for name and address, which the forms of servers and helpers share.
 #pragma once
 
-#include "core/Text.h"
+#include "controls/Bausteine.h"
+#include "controls/Datensatzwahl.h"
+#include "controls/Gelesen.h"
 #include "core/Umwandlung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Datensatzwahl.h"
-#include "fenster/Gelesen.h"
 #include "people/Personen.h"
+#include "values/Text.h"
 
 #include <QGridLayout>
 

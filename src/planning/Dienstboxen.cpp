@@ -1,7 +1,7 @@
 // The number of servers of a mass and the boxes of its services.
 #include "planning/Dienstboxen.h"
 
-#include "fenster/Handler.h"
+#include "controls/Handler.h"
 
 namespace altardienst {
 namespace {

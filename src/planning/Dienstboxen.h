@@ -1,7 +1,7 @@
 // The number of servers of a mass and the boxes of its services, which add up to it.
 #pragma once
 
-#include "fenster/Zahlbox.h"
+#include "controls/Zahlbox.h"
 #include "planning/Messenbearbeitung.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 // From the week pattern to the masses of the plan period: what button (1) does.
 #pragma once
 
-#include "core/Datum.h"
+#include "values/Datum.h"
 
 namespace altardienst {
 

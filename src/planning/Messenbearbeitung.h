@@ -1,8 +1,8 @@
 // What the mass list does to the tables, and what it says of a slot.
 #pragma once
 
-#include "core/Datum.h"
-#include "core/Text.h"
+#include "values/Datum.h"
+#include "values/Text.h"
 
 #include <array>
 

@@ -1,15 +1,15 @@
 // The mass list: any mass corrected by hand, one at a time.
 #include "planning/MessenlisteForm.h"
 
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Gelesen.h"
+#include "controls/Handler.h"
+#include "controls/Terminbox.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
-#include "fenster/Gelesen.h"
-#include "fenster/Handler.h"
-#include "fenster/Terminbox.h"
-#include "people/LektorrenuswForm.h"
+#include "planning/LektorrenuswForm.h"
 #include "planning/NeuMesseForm.h"
 #include "platform/Meldungen.h"
 

@@ -1,8 +1,8 @@
 // The mass list: any mass corrected by hand, one at a time.
 #pragma once
 
-#include "fenster/Datensatzwahl.h"
-#include "fenster/Nebenfenster.h"
+#include "application/Nebenfenster.h"
+#include "controls/Datensatzwahl.h"
 #include "planning/Dienstboxen.h"
 #include "planning/Slotzeilen.h"
 #include "planning/Terminfelder.h"

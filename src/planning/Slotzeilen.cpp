@@ -1,8 +1,8 @@
 // The rows of the servers of a mass: what each serves, first name, surname.
 #include "planning/Slotzeilen.h"
 
+#include "controls/Bausteine.h"
 #include "core/tables.h"
-#include "fenster/Bausteine.h"
 
 #include <string>
 

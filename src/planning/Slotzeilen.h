@@ -1,7 +1,7 @@
 // The rows of the servers of a mass: what each serves, first name, surname.
 #pragma once
 
-#include "core/Text.h"
+#include "values/Text.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,15 +1,15 @@
 // The editor of the week pattern: one regular mass at a time.
 #include "planning/StandardmessenForm.h"
 
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Gelesen.h"
+#include "controls/Handler.h"
+#include "controls/Terminbox.h"
+#include "controls/Textwahl.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
-#include "fenster/Gelesen.h"
-#include "fenster/Handler.h"
-#include "fenster/Terminbox.h"
-#include "fenster/Textwahl.h"
 #include "platform/Meldungen.h"
 
 #include <QCloseEvent>

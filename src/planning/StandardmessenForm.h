@@ -1,7 +1,7 @@
 // The editor of the week pattern: one regular mass at a time.
 #pragma once
 
-#include "fenster/Datensatzwahl.h"
+#include "controls/Datensatzwahl.h"
 #include "planning/Dienstboxen.h"
 
 #include <QComboBox>

@@ -1,10 +1,10 @@
 // The weekday, date and time of a mass.
 #include "planning/Terminfelder.h"
 
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
+#include "controls/Terminbox.h"
 #include "core/Umwandlung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Handler.h"
-#include "fenster/Terminbox.h"
 
 #include <QHBoxLayout>
 

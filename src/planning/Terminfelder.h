@@ -1,7 +1,7 @@
 // The weekday, date and time of a mass, as the mass list and the dialog for a new mass show them.
 #pragma once
 
-#include "fenster/SpinButton.h"
+#include "controls/SpinButton.h"
 
 #include <QGridLayout>
 #include <QLineEdit>

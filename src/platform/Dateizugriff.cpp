@@ -1,7 +1,7 @@
 // The files themselves: read, written, copied and found on whatever drive they lie.
 #include "platform/Dateizugriff.h"
 
-#include "core/Laufzeitfehler.h"
+#include "values/Laufzeitfehler.h"
 
 #include <algorithm>
 #include <cerrno>

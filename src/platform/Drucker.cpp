@@ -1,7 +1,7 @@
 // The printer in use.
 #include "platform/Drucker.h"
 
-#include "core/Laufzeitfehler.h"
+#include "values/Laufzeitfehler.h"
 
 namespace altardienst {
 namespace {

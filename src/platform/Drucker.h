@@ -1,8 +1,8 @@
 // The printer: a text cursor on a page, and the dialog that stands before each report.
 #pragma once
 
-#include "core/Int16.h"
-#include "core/Text.h"
+#include "values/Int16.h"
+#include "values/Text.h"
 
 #include <optional>
 #include <vector>

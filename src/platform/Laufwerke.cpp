@@ -1,8 +1,8 @@
 // The machine's own file system: where the program's directory, the diskette and the media lie.
 #include "platform/Laufwerke.h"
 
-#include "core/Laufzeitfehler.h"
 #include "platform/Dateizugriff.h"
+#include "values/Laufzeitfehler.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -2,7 +2,7 @@
 // looked up without regard to case, as they come from a platform that ignores it.
 #pragma once
 
-#include "core/Text.h"
+#include "values/Text.h"
 
 #include <filesystem>
 #include <functional>

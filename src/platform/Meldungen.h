@@ -1,7 +1,7 @@
 // Message boxes: with OK, and with Ja and Nein.
 #pragma once
 
-#include "core/Text.h"
+#include "values/Text.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 // The platform's tool that tells about the system: where it is, and its start.
 #pragma once
 
-#include "core/Text.h"
+#include "values/Text.h"
 
 #include <cstdint>
 #include <filesystem>

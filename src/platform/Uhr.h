@@ -1,7 +1,7 @@
 // The clock: today and the time of day.
 #pragma once
 
-#include "core/Datum.h"
+#include "values/Datum.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 // The random numbers of the draw.
 #pragma once
 
-#include "core/Int16.h"
+#include "values/Int16.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,7 +1,7 @@
 // The admission confirmation: one page for a new altar server to take home.
 #pragma once
 
-#include "core/Text.h"
+#include "values/Text.h"
 
 namespace altardienst {
 

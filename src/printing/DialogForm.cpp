@@ -1,10 +1,10 @@
 // The dialog that writes the plan as a text file.
 #include "printing/DialogForm.h"
 
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
-#include "fenster/Handler.h"
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 

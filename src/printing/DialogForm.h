@@ -1,7 +1,7 @@
 // The dialog that writes the plan as a text file.
 #pragma once
 
-#include "fenster/Verzeichniswahl.h"
+#include "controls/Verzeichniswahl.h"
 #include "printing/Textexport.h"
 
 #include <QGroupBox>

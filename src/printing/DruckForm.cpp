@@ -1,12 +1,12 @@
 // All printing that is not a chart: the plan, lists, blank forms and labels.
 #include "printing/DruckForm.h"
 
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
-#include "fenster/Handler.h"
 #include "planning/MessenBestimmen.h"
 #include "platform/Uhr.h"
 #include "printing/Erfassungsbogen.h"

@@ -1,8 +1,8 @@
 // What all reports share: the margins, the opening, the lines, and the page break rule.
 #pragma once
 
-#include "core/Int16.h"
 #include "platform/Drucker.h"
+#include "values/Int16.h"
 
 #include <functional>
 #include <vector>

@@ -1,9 +1,9 @@
 // Values as the items of a printed line.
 #pragma once
 
-#include "core/Datum.h"
-#include "core/Int16.h"
-#include "core/Text.h"
+#include "values/Datum.h"
+#include "values/Int16.h"
+#include "values/Text.h"
 
 namespace altardienst {
 

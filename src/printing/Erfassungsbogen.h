@@ -1,7 +1,7 @@
 // The blank forms on which servers and helpers report their data before a plan is made.
 #pragma once
 
-#include "core/Text.h"
+#include "values/Text.h"
 
 namespace altardienst {
 

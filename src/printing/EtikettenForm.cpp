@@ -1,13 +1,13 @@
 // The editor of the ten label formats.
 #include "printing/EtikettenForm.h"
 
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
+#include "controls/Zahlbox.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
-#include "fenster/Handler.h"
-#include "fenster/Zahlbox.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>

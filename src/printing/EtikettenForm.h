@@ -1,7 +1,7 @@
 // The editor of the ten label formats.
 #pragma once
 
-#include "fenster/Datensatzwahl.h"
+#include "controls/Datensatzwahl.h"
 
 #include <array>
 

@@ -1,8 +1,8 @@
 // Address labels on a sheet of the chosen format.
 #include "printing/Etikettendruck.h"
 
+#include "core/Gruppen.h"
 #include "core/tables.h"
-#include "people/Personen.h"
 #include "printing/Druckrahmen.h"
 #include "printing/Druckwerte.h"
 

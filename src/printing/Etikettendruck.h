@@ -1,8 +1,8 @@
 // Address labels on a sheet of the chosen format, begun anywhere on a partly used sheet.
 #pragma once
 
-#include "core/Int16.h"
-#include "core/Text.h"
+#include "values/Int16.h"
+#include "values/Text.h"
 
 #include <array>
 #include <functional>

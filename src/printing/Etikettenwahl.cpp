@@ -1,11 +1,11 @@
 // The frame in which a label format and the first label of a sheet are chosen.
 #include "printing/Etikettenwahl.h"
 
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
+#include "controls/Zahlbox.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Handler.h"
-#include "fenster/Zahlbox.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>

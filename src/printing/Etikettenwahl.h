@@ -1,7 +1,7 @@
 // The frame in which a label format and the first label of a sheet are chosen.
 #pragma once
 
-#include "fenster/SpinButton.h"
+#include "controls/SpinButton.h"
 #include "printing/Etikettendruck.h"
 
 #include <QGroupBox>

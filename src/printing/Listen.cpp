@@ -1,9 +1,9 @@
 // The lists on paper: people, wish partners, standard masses, label formats.
 #include "printing/Listen.h"
 
+#include "core/Gruppen.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
-#include "people/Personen.h"
 #include "printing/Druckrahmen.h"
 #include "printing/Druckwerte.h"
 

@@ -1,7 +1,7 @@
 // The lists on paper: people, wish partners, standard masses, label formats.
 #pragma once
 
-#include "core/Text.h"
+#include "values/Text.h"
 
 namespace altardienst {
 

@@ -1,7 +1,7 @@
 // The lines of the full plan for one mass, as the printed plan and the text export show them.
 #pragma once
 
-#include "core/Text.h"
+#include "values/Text.h"
 
 #include <vector>
 

@@ -1,10 +1,10 @@
 // The plan as a plain text file.
 #include "printing/Textexport.h"
 
-#include "core/Ansi.h"
 #include "core/tables.h"
 #include "platform/Laufwerke.h"
 #include "printing/PlanZeilen.h"
+#include "values/Ansi.h"
 
 namespace altardienst {
 

@@ -1,7 +1,7 @@
 // The plan as a plain text file: where it goes and what it holds.
 #pragma once
 
-#include "core/Text.h"
+#include "values/Text.h"
 
 #include <filesystem>
 

@@ -1,8 +1,8 @@
 // Copies of the eight data files between the program's directory and another.
 #include "settings/Dateikopie.h"
 
-#include "core/Laufzeitfehler.h"
 #include "platform/Laufwerke.h"
+#include "values/Laufzeitfehler.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
 // The dialog that chooses the picture behind the main window.
 #include "settings/HintergrundsucheForm.h"
 
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
 #include "core/tables.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
-#include "fenster/Handler.h"
 #include "platform/Laufwerke.h"
 
 #include <QCloseEvent>

@@ -1,8 +1,8 @@
 // The dialog that chooses the picture behind the main window.
 #pragma once
 
-#include "fenster/Verzeichniswahl.h"
-#include "shell/Hintergrundbild.h"
+#include "controls/Verzeichniswahl.h"
+#include "settings/Hintergrundbild.h"
 
 #include <QPushButton>
 #include <QWidget>

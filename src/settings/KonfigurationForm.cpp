@@ -1,12 +1,12 @@
 // The settings of the parish, of the plan and of everything printed.
 #include "settings/KonfigurationForm.h"
 
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
+#include "controls/Textwahl.h"
 #include "core/Umwandlung.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
-#include "fenster/Handler.h"
-#include "fenster/Textwahl.h"
 #include "platform/Drucker.h"
 #include "settings/Einstellungen.h"
 

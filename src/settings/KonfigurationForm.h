@@ -1,9 +1,9 @@
 // The settings of the parish, of the plan and of everything printed.
 #pragma once
 
+#include "controls/Flagboxen.h"
+#include "controls/Zahlbox.h"
 #include "core/tables.h"
-#include "fenster/Zahlbox.h"
-#include "people/Flagboxen.h"
 #include "settings/Planzeitraum.h"
 
 #include <QCheckBox>

@@ -1,17 +1,18 @@
 // The three dialogs that copy the eight data files.
 #include "settings/KopierForm.h"
 
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
 #include "core/Allgemein.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
-#include "fenster/Handler.h"
 #include "platform/Laufwerke.h"
-#include "shell/Programm.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace altardienst {
 namespace {
@@ -29,21 +30,11 @@ void Neuladen()
     VonFestplatteLaden();
 }
 
-void InDenStart(bool kopiert)
-{
-    if (kopiert)
-        StartNeuZeigen();
-    else {
-        NachKopie = 0;
-        StartZeigen();
-    }
-}
-
 constexpr const char *Holen = "Datendateien kopieren";
 
-const Kopierdialog Datensicherung{"Datensicherung", "Daten sichern", true, [] {}, InsHauptfenster};
-const Kopierdialog Dateikopie{"Dateikopie", Holen, false, VonFestplatteLaden, InsHauptfenster};
-const Kopierdialog DateienKopieren{"DateienKopieren", Holen, false, Neuladen, InDenStart};
+const Kopierdialog Datensicherung{"Datensicherung", "Daten sichern", true, [] {}};
+const Kopierdialog Dateikopie{"Dateikopie", Holen, false, VonFestplatteLaden};
+const Kopierdialog DateienKopieren{"DateienKopieren", Holen, false, Neuladen};
 
 /// Keeps its place while it cannot be seen.
 void PlatzBehalten(QWidget *control)
@@ -60,16 +51,19 @@ QRadioButton *Option(const Text &name, const char *beschriftung)
 
 } // namespace
 
-DatensicherungForm::DatensicherungForm() : KopierForm(Datensicherung) {}
-DateikopieForm::DateikopieForm() : KopierForm(Dateikopie) {}
-DateienKopierenForm::DateienKopierenForm() : KopierForm(DateienKopieren) {}
+DatensicherungForm::DatensicherungForm() : KopierForm(Datensicherung, InsHauptfenster) {}
+DateikopieForm::DateikopieForm() : KopierForm(Dateikopie, InsHauptfenster) {}
+DateienKopierenForm::DateienKopierenForm(std::function<void(bool)> danach)
+    : KopierForm(DateienKopieren, std::move(danach))
+{
+}
 
-KopierForm::KopierForm(const Kopierdialog &dialog)
+KopierForm::KopierForm(const Kopierdialog &dialog, std::function<void(bool)> danach)
     : Wahl("Drive1", "Dir1", "Dateien"), EoA(Benannt(new QGroupBox("Daten ?"), "EoA")),
       Alle(Option("Alle", "Alle")), Einzel(Option("Einzel", "Einzel")),
       Welche(Benannt(new QGroupBox("Welche ?"), "Welche")), Datei(Beschriftung("Datei", "")),
       OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen")),
-      dialog(dialog)
+      dialog(dialog), danach(std::move(danach))
 {
     Benannt(this, dialog.Name);
     setWindowTitle(dialog.Titel);
@@ -199,7 +193,7 @@ void KopierForm::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->accept();
     hide(); // what comes next looks whether this dialog is still there
-    dialog.Danach(kopiert);
+    danach(kopiert);
 }
 
 } // namespace altardienst

@@ -1,7 +1,7 @@
 // The three dialogs that copy the eight data files, which are one but for a few words.
 #pragma once
 
-#include "fenster/Verzeichniswahl.h"
+#include "controls/Verzeichniswahl.h"
 #include "settings/Dateikopie.h"
 
 #include <QGroupBox>
@@ -12,6 +12,7 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 
 namespace altardienst {
 
@@ -21,14 +22,14 @@ struct Kopierdialog {
     const char *Titel;
     bool Hinaus;         // from the program's directory to the one picked; else the other way
     void (*NachKopie)(); // behind the copy, before the form goes
-    void (*Danach)(bool kopiert); // when the form is gone
 };
 
 /// OK can only be seen while the directory that is copied from holds all eight files. A copy that
 /// fails is shown and leaves the dialog open.
 class KopierForm : public QWidget {
   public:
-    explicit KopierForm(const Kopierdialog &dialog);
+    /// `danach` runs when the form is gone, and learns whether it has copied.
+    KopierForm(const Kopierdialog &dialog, std::function<void(bool kopiert)> danach);
 
     Verzeichniswahl Wahl;    // Drive1, Dir1, Dateien
     QLineEdit *VZ = nullptr; // only where the way is out, like the button
@@ -56,6 +57,7 @@ class KopierForm : public QWidget {
     std::filesystem::path Quelle() const;
 
     const Kopierdialog &dialog;
+    std::function<void(bool)> danach;
     bool kopiert = false;
 };
 
@@ -71,10 +73,10 @@ class DateikopieForm : public KopierForm {
     DateikopieForm();
 };
 
-/// "Datendateien kopieren" of the first start: the same, and the start dialog comes back with it.
+/// "Datendateien kopieren" of the first start: the same, in place of the start dialog.
 class DateienKopierenForm : public KopierForm {
   public:
-    DateienKopierenForm();
+    explicit DateienKopierenForm(std::function<void(bool kopiert)> danach);
 };
 
 } // namespace altardienst

@@ -1,11 +1,11 @@
 // The period of the plan among the settings.
 #include "settings/Planzeitraum.h"
 
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
+#include "controls/Terminbox.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Handler.h"
-#include "fenster/Terminbox.h"
 #include "settings/Einstellungen.h"
 
 #include <QHBoxLayout>

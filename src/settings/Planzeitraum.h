@@ -2,7 +2,7 @@
 // day.
 #pragma once
 
-#include "fenster/Zahlbox.h"
+#include "controls/Zahlbox.h"
 
 #include <QLabel>
 #include <QLayout>

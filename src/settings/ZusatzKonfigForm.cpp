@@ -1,10 +1,10 @@
 // The settings of the proposed start, and of the services that are set by hand.
 #include "settings/ZusatzKonfigForm.h"
 
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
 #include "core/tables.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>

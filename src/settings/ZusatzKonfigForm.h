@@ -1,7 +1,7 @@
 // The settings of the proposed start, and of the services that are set by hand.
 #pragma once
 
-#include "fenster/Zahlbox.h"
+#include "controls/Zahlbox.h"
 
 #include <QCheckBox>
 #include <QPushButton>

@@ -2,9 +2,9 @@
 #include "settings/frmAboutForm.h"
 
 #include "Bauangaben.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Fensteraufbau.h"
-#include "fenster/Handler.h"
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
 #include "platform/Systeminfo.h"
 
 #include <QGridLayout>

@@ -1,7 +1,7 @@
 // What the program says of itself.
 #pragma once
 
-#include "shell/Hintergrundbild.h"
+#include "settings/Hintergrundbild.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -2,17 +2,18 @@
 #include "shell/HauptForm.h"
 
 #include "anniversaries/JubiGebuForm.h"
+#include "application/Anwendung.h"
+#include "application/Nebenfenster.h"
+#include "application/Wartezeiger.h"
 #include "assignment/Dienste.h"
 #include "assignment/Zuweisungsrahmen.h"
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
 #include "core/Allgemein.h"
 #include "core/Sortierbefehle.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Handler.h"
-#include "fenster/Nebenfenster.h"
-#include "fenster/Wartezeiger.h"
+#include "fixed/FesteMeßdienerÜbertragen.h"
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
 #include "people/GruppeForm.h"
@@ -29,9 +30,9 @@
 #include "settings/HintergrundsucheForm.h"
 #include "settings/KonfigurationForm.h"
 #include "settings/KopierForm.h"
+#include "settings/SkalierungForm.h"
 #include "settings/ZusatzKonfigForm.h"
 #include "settings/frmAboutForm.h"
-#include "statistics/SkalierungForm.h"
 #include "statistics/StatDienstForm.h"
 #include "statistics/StatHelferForm.h"
 #include "statistics/StatMeßdienstForm.h"
@@ -329,8 +330,11 @@ void HauptForm::Verbinden()
         DialogDanebenÖffnen(MessenlisteForm::Offene());
     });
     schritt(Meßdienernern, [] { DialogÖffnen(new NeuMesseDienerFestForm); });
-    schritt(Dienstus, [] { UnterWartezeiger(MessenMitMeßdienerBesetzen); });
-    schritt(MeßdienerMessen, [] { UnterWartezeiger(WunschpartnerBerücksichtigen); });
+    schritt(Dienstus,
+            [] { UnterWartezeiger([] { MessenMitMeßdienerBesetzen(FesteMeßdienerÜbertragen); }); });
+    schritt(MeßdienerMessen, [] {
+        UnterWartezeiger([] { WunschpartnerBerücksichtigen(FesteMeßdienerÜbertragen); });
+    });
     schritt(Helfend, [] { UnterWartezeiger(MessenMitMessehelferBesetzen); });
     schritt(AnzMesse, [] { DialogÖffnen(MessenlisteForm::Offene()); });
     schritt(Messendruck, PlanDrucken);

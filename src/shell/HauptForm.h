@@ -1,7 +1,7 @@
 // The main window: the seven steps of making a plan, the menu, the clock and the picture.
 #pragma once
 
-#include "shell/Hintergrundbild.h"
+#include "settings/Hintergrundbild.h"
 
 #include <QLabel>
 #include <QMainWindow>

@@ -1,8 +1,8 @@
 // The way from the start dialog to the main window.
 #include "shell/Programm.h"
 
+#include "application/Anwendung.h"
 #include "core/Allgemein.h"
-#include "fenster/Anwendung.h"
 #include "settings/KopierForm.h"
 #include "shell/HauptForm.h"
 #include "shell/StartForm.h"
@@ -33,10 +33,19 @@ void HauptZeigen()
     Haupt->activateWindow();
 }
 
+/// The start dialog comes back, with what was copied or as it was left.
+void NachErstkopie(bool kopiert)
+{
+    if (kopiert)
+        return StartNeuZeigen();
+    NachKopie = 0;
+    StartZeigen();
+}
+
 void KopierdialogZeigen()
 {
     if (!WirdKopiert()) {
-        Erstkopie = new DateienKopierenForm;
+        Erstkopie = new DateienKopierenForm(NachErstkopie);
         DialogDanebenÖffnen(Erstkopie);
     }
     if (Start)

@@ -1,14 +1,14 @@
 // The first window: loads the data, proposes the plan period, hands over to the main window.
 #include "shell/StartForm.h"
 
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
+#include "controls/Zahlbox.h"
 #include "core/Allgemein.h"
 #include "core/Dateien.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Handler.h"
-#include "fenster/Zahlbox.h"
-#include "fixed/FesteMeßdienerÜbertragen.h"
+#include "fixed/FesteEinträge.h"
 #include "planning/MessenBestimmen.h"
 #include "platform/Uhr.h"
 

@@ -1,8 +1,8 @@
 // The first window: loads the data, proposes the plan period, hands over to the main window.
 #pragma once
 
-#include "core/Datum.h"
-#include "fenster/SpinButton.h"
+#include "controls/SpinButton.h"
+#include "values/Datum.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -1,5 +1,5 @@
 // The program: the start dialog, then the main window.
-#include "fenster/Anwendung.h"
+#include "application/Anwendung.h"
 #include "shell/Programm.h"
 
 #include <QIcon>

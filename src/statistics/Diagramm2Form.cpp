@@ -1,7 +1,7 @@
 // Heights of the servers as a chart.
 #include "statistics/Diagramm2Form.h"
 
-#include "fenster/Bausteine.h"
+#include "controls/Bausteine.h"
 #include "statistics/Diagrammbild.h"
 #include "statistics/Statistik2Form.h"
 #include "statistics/Zahlentafel.h"

@@ -1,8 +1,8 @@
 // A chart: bars of categories, or two directions of classes against each other.
 #include "statistics/Diagrammbild.h"
 
-#include "fenster/Bausteine.h"
-#include "fenster/QCustomPlot.h"
+#include "controls/Bausteine.h"
+#include "statistics/QCustomPlot.h"
 
 #include <QVBoxLayout>
 

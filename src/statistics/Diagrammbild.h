@@ -1,7 +1,7 @@
 // A chart: bars of categories, or two directions of classes against each other.
 #pragma once
 
-#include "core/Text.h"
+#include "values/Text.h"
 
 #include <QWidget>
 

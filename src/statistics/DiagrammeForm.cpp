@@ -1,9 +1,9 @@
 // Age and membership of the servers as charts.
 #include "statistics/DiagrammeForm.h"
 
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
 #include "core/Umwandlung.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
 #include "platform/Uhr.h"
 #include "statistics/Diagrammbild.h"
 #include "statistics/Meßdienerstatistik.h"

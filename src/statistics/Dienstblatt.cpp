@@ -1,10 +1,10 @@
 // One person of a table of services on the screen, with the number box to choose the person.
 #include "statistics/Dienstblatt.h"
 
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
+#include "controls/Zahlbox.h"
 #include "core/Umwandlung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Handler.h"
-#include "fenster/Zahlbox.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>

@@ -1,8 +1,8 @@
 // One person of a table of services on the screen, with the number box to choose the person.
 #pragma once
 
+#include "controls/Datensatzwahl.h"
 #include "core/Umwandlung.h"
-#include "fenster/Datensatzwahl.h"
 #include "statistics/Dienstzählung.h"
 
 #include <QLabel>

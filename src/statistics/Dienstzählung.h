@@ -1,9 +1,9 @@
 // How often each server and each helper serves in the plan.
 #pragma once
 
-#include "core/Spalte.h"
-#include "core/Text.h"
 #include "core/tables.h"
+#include "values/Spalte.h"
+#include "values/Text.h"
 
 #include <array>
 #include <numeric>

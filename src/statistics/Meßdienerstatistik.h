@@ -1,10 +1,10 @@
 // The figures about the servers: age, membership, composition, height.
 #pragma once
 
-#include "core/Datum.h"
-#include "core/Int16.h"
-#include "core/Spalte.h"
-#include "core/Text.h"
+#include "values/Datum.h"
+#include "values/Int16.h"
+#include "values/Spalte.h"
+#include "values/Text.h"
 
 #include <array>
 

@@ -1,9 +1,9 @@
 // The services of each server in the plan.
 #include "statistics/StatDienstForm.h"
 
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Handler.h"
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
 #include "statistics/Dienstlisten.h"
 #include "statistics/Zahlentafel.h"
 

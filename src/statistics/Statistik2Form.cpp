@@ -1,12 +1,12 @@
 // Heights of the servers.
 #include "statistics/Statistik2Form.h"
 
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
 #include "core/Umwandlung.h"
 #include "core/Zahlenmuster.h"
 #include "core/tables.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
-#include "fenster/Handler.h"
 #include "platform/Uhr.h"
 #include "statistics/Diagramm2Form.h"
 #include "statistics/Meßdienerstatistik.h"

@@ -1,10 +1,10 @@
 // How the services that the helpers offer are distributed.
 #include "statistics/StatistikAllgForm.h"
 
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
 #include "core/Umwandlung.h"
 #include "core/Zahlenmuster.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
 #include "platform/Uhr.h"
 #include "statistics/Messendienste.h"
 #include "statistics/Zahlentafel.h"

@@ -1,10 +1,10 @@
 // The services of helpers that the masses of the plan call for.
 #include "statistics/StatistikHelferForm.h"
 
+#include "application/Anwendung.h"
+#include "controls/Bausteine.h"
 #include "core/Umwandlung.h"
 #include "core/Zahlenmuster.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Bausteine.h"
 #include "statistics/Messendienste.h"
 #include "statistics/Zahlentafel.h"
 

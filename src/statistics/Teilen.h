@@ -1,7 +1,7 @@
 // The division of all figures.
 #pragma once
 
-#include "core/Laufzeitfehler.h"
+#include "values/Laufzeitfehler.h"
 
 #include <concepts>
 

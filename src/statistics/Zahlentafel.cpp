@@ -1,9 +1,9 @@
 // A table of figures in a form, and the buttons below it.
 #include "statistics/Zahlentafel.h"
 
-#include "fenster/Bausteine.h"
-#include "fenster/Fensterdruck.h"
-#include "fenster/Handler.h"
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
+#include "printing/Fensterdruck.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>

@@ -1,8 +1,8 @@
 // A table of figures in a form, and the buttons below it.
 #pragma once
 
+#include "controls/Fensteraufbau.h"
 #include "core/Umwandlung.h"
-#include "fenster/Fensteraufbau.h"
 
 #include <QGridLayout>
 #include <QLabel>

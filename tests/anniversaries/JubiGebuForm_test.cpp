@@ -1,7 +1,7 @@
 // Birthdays and jubilees: what is chosen, listed, printed and put onto labels.
 #include "anniversaries/JubiGebustand.h"
 
-#include "fenster/Heimkehr.h"
+#include "Heimkehr.h"
 
 #include <QApplication>
 

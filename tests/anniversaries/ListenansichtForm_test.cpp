@@ -1,6 +1,6 @@
 // The two windows that show the rows of a list one by one.
 #include "anniversaries/JubiGebustand.h"
-#include "fenster/Anwendung.h"
+#include "application/Anwendung.h"
 
 #include <QApplication>
 

@@ -2,6 +2,7 @@
 #include "assignment/Zuweisungsrahmen.h"
 
 #include "assignment/Wurf.h"
+#include "fixed/FesteMeßdienerÜbertragen.h"
 
 namespace altardienst {
 namespace {
@@ -34,7 +35,7 @@ class ZuweisungsrahmenTest : public Zuweisungsstand {
     void Besetzen()
     {
         Antworten = {true};
-        MessenMitMeßdienerBesetzen();
+        MessenMitMeßdienerBesetzen(FesteMeßdienerÜbertragen);
     }
 };
 
@@ -57,8 +58,8 @@ TEST_F(ZuweisungsrahmenTest, OhneMeßdienerDivisionDurchNullVorJederMeldung)
 {
     VierUndFünf();
     Antworten = {true};
-    EXPECT_EQ(NummerDesFehlers([] { MessenMitMeßdienerBesetzen(); }), 11);
-    EXPECT_EQ(NummerDesFehlers([] { WunschpartnerBerücksichtigen(); }), 11);
+    EXPECT_EQ(NummerDesFehlers([] { MessenMitMeßdienerBesetzen(FesteMeßdienerÜbertragen); }), 11);
+    EXPECT_EQ(NummerDesFehlers([] { WunschpartnerBerücksichtigen(FesteMeßdienerÜbertragen); }), 11);
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
@@ -73,7 +74,7 @@ TEST_F(ZuweisungsrahmenTest, OhneMeßdienerSindDieMessenSchonSortiertDieDiensteN
             Messe.DienerDienst[i][0] = "Alt";
         }
         Antworten = {true};
-        EXPECT_EQ(NummerDesFehlers(besetzen), 11);
+        EXPECT_EQ(NummerDesFehlers([&] { besetzen(FesteMeßdienerÜbertragen); }), 11);
         EXPECT_EQ(Messe.Datum[0], Sonntag);
         EXPECT_EQ(Messe.Datum[1], Montag);
         EXPECT_EQ(Messe.DienerDienst[0][0], "Alt");
@@ -144,7 +145,7 @@ TEST_F(ZuweisungsrahmenTest, FrageMitJaUndNeinUndNeinÄndertNichts)
     Festlegen(Montag, ZeitAus(36000), 1, "Fest", "Fest");
     Würfeln({});
     Antworten = {false};
-    MessenMitMeßdienerBesetzen();
+    MessenMitMeßdienerBesetzen(FesteMeßdienerÜbertragen);
     ASSERT_EQ(GestellteFragen.size(), 1U);
     EXPECT_EQ(GestellteFragen[0].Titel, "Wirklich?");
     EXPECT_EQ(GestellteFragen[0].Wortlaut,
@@ -214,7 +215,7 @@ TEST_F(ZuweisungsrahmenTest, DerZweifacheTagLäuftÜberWoErGebrauchtWird)
         MesseMitDienern(Sonntag, 399, ZeitAus(3600 + 60 * i));
     Würfeln({});
     Antworten = {true};
-    EXPECT_EQ(NummerDesFehlers([] { MessenMitMeßdienerBesetzen(); }), 6);
+    EXPECT_EQ(NummerDesFehlers([] { MessenMitMeßdienerBesetzen(FesteMeßdienerÜbertragen); }), 6);
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
@@ -301,7 +302,7 @@ TEST_F(ZuweisungsrahmenTest, PartnerwegOhneFrageSortiertVerteiltDiensteUndTrägt
     Meßdiener.Qualifikation[1] = "jjjnjj"; // held against the services that were just set
     Festlegen(Sonntag, ZeitAus(36000), 2, "V0", "N0");
     Würfeln({0, 1, 2, 3, 1, 0, 4}); // 0 is blocked on Sunday
-    WunschpartnerBerücksichtigen();
+    WunschpartnerBerücksichtigen(FesteMeßdienerÜbertragen);
     EXPECT_TRUE(GestellteFragen.empty());
     EXPECT_EQ(Messe.Datum[0], Sonntag);
     EXPECT_EQ(Namen(0), "N2 N0 N1");
@@ -320,7 +321,7 @@ TEST_F(ZuweisungsrahmenTest, NachAbbruchDesPartnerwegesFolgenFesteErinnerungenUn
     Konfig.ManuellKreuzträger = Konfig.ManuellWeihrauch = 1;
     Würfeln(
         {{Niemand, 3}, {Niemand, 3}, {Niemand, 3}, {Niemand, 3}, {Niemand, 3}, 0, {Niemand, 101}});
-    WunschpartnerBerücksichtigen();
+    WunschpartnerBerücksichtigen(FesteMeßdienerÜbertragen);
     EXPECT_EQ(GezeigteMeldungen,
               (std::vector<Text>{"Es sind die Qualifikationen der Meßdiener bzw. die "
                                  "Größendifferenz anzupassen !!!!!",
@@ -335,7 +336,7 @@ TEST_F(ZuweisungsrahmenTest, ErinnerungenErstKreuzträgerDannWeihrauchWasAuchGeb
         GezeigteMeldungen.clear();
         Konfig.ManuellKreuzträger = manuellKreuz;
         Konfig.ManuellWeihrauch = manuellWeihrauch;
-        WunschpartnerBerücksichtigen();
+        WunschpartnerBerücksichtigen(FesteMeßdienerÜbertragen);
         return GezeigteMeldungen;
     };
     EXPECT_EQ(meldungen(0, 0), (std::vector<Text>{FertigPartner}));

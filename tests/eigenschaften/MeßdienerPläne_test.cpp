@@ -304,7 +304,7 @@ TEST_F(MeßdienerPläneTest, SchaltflächeHältDieRegelnDesWegesNachDerAnzahl)
         UhrStehtFür(Geduld);
         GezeigteMeldungen.clear();
         Antworten = {true};
-        MessenMitMeßdienerBesetzen();
+        MessenMitMeßdienerBesetzen(FesteMeßdienerÜbertragen);
         ASSERT_EQ(GezeigteMeldungen.back(), "Fertig mit Meßdiener Messen zuweisen");
         if (anzahl <= größte) {
             ++wege[0];

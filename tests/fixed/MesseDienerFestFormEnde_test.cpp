@@ -1,4 +1,5 @@
 // The dialog of the fixed entries: its end, the dialog for a new entry, and the way back.
+#include "fixed/FesteEinträge.h"
 #include "fixed/Zuordnungsstand.h"
 
 #include "shell/HauptForm.h"

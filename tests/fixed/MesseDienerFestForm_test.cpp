@@ -1,4 +1,5 @@
 // The dialog of the fixed entries: what it shows when it opens.
+#include "fixed/FesteEinträge.h"
 #include "fixed/Zuordnungsstand.h"
 
 namespace altardienst {

@@ -1,10 +1,10 @@
 // The fixture of the tests of the fixed entries' dialogs.
 #pragma once
 
+#include "application/Anwendung.h"
+#include "controls/Textwahl.h"
 #include "core/Umwandlung.h"
-#include "fenster/Anwendung.h"
-#include "fenster/Textwahl.h"
-#include "fixed/FesteMeßdienerÜbertragen.h"
+#include "fixed/FesteEinträge.h"
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
 #include "planning/Formstand.h"

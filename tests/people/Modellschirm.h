@@ -2,8 +2,8 @@
 // run when a text changes, written anew from what the boxes promise.
 #pragma once
 
+#include "Fensterstand.h"
 #include "core/Umwandlung.h"
-#include "fenster/Fensterstand.h"
 #include "platform/Uhr.h"
 
 #include <QComboBox>

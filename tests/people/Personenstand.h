@@ -1,7 +1,7 @@
 // The fixture of the tests of the people's forms.
 #pragma once
 
-#include "fenster/Fensterstand.h"
+#include "Fensterstand.h"
 #include "people/Modellschirm.h"
 #include "platform/Drucker.h"
 #include "printing/Druckprotokoll.h"

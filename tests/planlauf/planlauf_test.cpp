@@ -1,7 +1,7 @@
 // The tool that drives the program without a screen, run as a process on a copy of the sample
 // parish.
 #include "Prüfstand.h"
-#include "fenster/Bausteine.h"
+#include "controls/Bausteine.h"
 
 #include <QImage>
 #include <QProcess>

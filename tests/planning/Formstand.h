@@ -1,7 +1,7 @@
 // The fixture of the tests of the forms that show one record at a time.
 #pragma once
 
-#include "fenster/Fensterstand.h"
+#include "Fensterstand.h"
 #include "planning/Messenbild.h"
 
 #include <QApplication>

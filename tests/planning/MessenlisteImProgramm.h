@@ -1,7 +1,7 @@
 // The fixture of the tests of the mass list beside or above the main window.
 #pragma once
 
-#include "fenster/Anwendung.h"
+#include "application/Anwendung.h"
 #include "planning/Messenlistenstand.h"
 #include "shell/HauptForm.h"
 

@@ -1,5 +1,5 @@
 // The editor of the week pattern: its controls, what moving and leaving write, deleting.
-#include "fenster/Anwendung.h"
+#include "application/Anwendung.h"
 #include "planning/Standardmessenstand.h"
 #include "shell/HauptForm.h"
 

@@ -1,8 +1,8 @@
 // The fixture of the tests of the dialog that writes the plan as a text file.
 #pragma once
 
-#include "fenster/Anwendung.h"
-#include "fenster/Fensterstand.h"
+#include "Fensterstand.h"
+#include "application/Anwendung.h"
 #include "printing/DialogForm.h"
 
 #include <QMainWindow>

@@ -1,8 +1,8 @@
 // The form Druck: its buttons, the two dates and their weekdays.
 #include "printing/Druckfenster.h"
 
+#include "application/Anwendung.h"
 #include "core/Umwandlung.h"
-#include "fenster/Anwendung.h"
 
 #include <QApplication>
 #include <QScrollBar>

@@ -1,7 +1,7 @@
 // A printer that writes down what it is told.
 #include "printing/Druckprotokoll.h"
 
-#include "core/Laufzeitfehler.h"
+#include "values/Laufzeitfehler.h"
 
 #include <algorithm>
 #include <cstdio>

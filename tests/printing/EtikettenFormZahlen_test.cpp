@@ -1,7 +1,7 @@
 // The numbers in the editor of the label formats: their bounds, and boxes that hold none.
 #include "printing/Etikettenfenster.h"
 
-#include "fenster/Anwendung.h"
+#include "application/Anwendung.h"
 
 #include <QApplication>
 

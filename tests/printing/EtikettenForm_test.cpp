@@ -1,7 +1,7 @@
 // The editor of the label formats.
 #include "printing/Etikettenfenster.h"
 
-#include "fenster/Anwendung.h"
+#include "application/Anwendung.h"
 #include "shell/HauptForm.h"
 
 #include <QAction>

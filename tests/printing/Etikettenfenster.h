@@ -1,7 +1,7 @@
 // The fixture of the tests of the label formats' editor.
 #pragma once
 
-#include "fenster/Fensterstand.h"
+#include "Fensterstand.h"
 #include "printing/EtikettenForm.h"
 
 #include <QPointer>

@@ -1,7 +1,7 @@
 // The fixture of the tests of a window that has to do with the printer: one that keeps a log.
 #pragma once
 
-#include "fenster/Fensterstand.h"
+#include "Fensterstand.h"
 #include "printing/Druckprotokoll.h"
 
 #include <QPointer>

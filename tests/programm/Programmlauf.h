@@ -2,7 +2,7 @@
 // outside.
 #pragma once
 
-#include "fenster/Bausteine.h"
+#include "controls/Bausteine.h"
 
 #include <QElapsedTimer>
 #include <QProcess>

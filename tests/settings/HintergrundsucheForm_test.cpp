@@ -1,8 +1,8 @@
 // The dialog that chooses the picture behind the main window.
 #include "settings/HintergrundsucheForm.h"
 
-#include "fenster/Anwendung.h"
-#include "fenster/Fensterstand.h"
+#include "Fensterstand.h"
+#include "application/Anwendung.h"
 #include "shell/HauptForm.h"
 
 #include <QPointer>

@@ -1,7 +1,7 @@
 // The settings: words, filling, texts, orientation, flag boxes, fonts, and leaving.
 #include "settings/Konfigurationsstand.h"
 
-#include "fenster/Heimkehr.h"
+#include "Heimkehr.h"
 
 #include <QAbstractItemView>
 

@@ -1,7 +1,7 @@
 // The settings of the proposed start, and of the services that are set by hand.
 #include "settings/ZusatzKonfigForm.h"
 
-#include "fenster/Heimkehr.h"
+#include "Heimkehr.h"
 
 #include <QGroupBox>
 #include <QPointer>

@@ -1,8 +1,8 @@
 // What the program says of itself.
 #include "settings/frmAboutForm.h"
 
-#include "fenster/Anwendung.h"
-#include "fenster/Fensterstand.h"
+#include "Fensterstand.h"
+#include "application/Anwendung.h"
 #include "platform/Systeminfo.h"
 #include "shell/HauptForm.h"
 

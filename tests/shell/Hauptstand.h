@@ -1,8 +1,8 @@
 // The fixture of the tests of the main window.
 #pragma once
 
-#include "fenster/Anwendung.h"
-#include "fenster/Fensterstand.h"
+#include "Fensterstand.h"
+#include "application/Anwendung.h"
 #include "shell/HauptForm.h"
 
 #include <QAction>

@@ -1,7 +1,7 @@
 // The start dialog: it loads the data and proposes a period.
 #include "shell/Startstand.h"
 
-#include "fixed/FesteMeßdienerÜbertragen.h"
+#include "fixed/FesteEinträge.h"
 
 namespace altardienst {
 namespace {

@@ -1,8 +1,8 @@
 // The fixture of the tests of the start dialog.
 #pragma once
 
+#include "Fensterstand.h"
 #include "core/Allgemein.h"
-#include "fenster/Fensterstand.h"
 #include "shell/StartForm.h"
 
 #include <QPointer>

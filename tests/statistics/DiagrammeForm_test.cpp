@@ -1,8 +1,8 @@
 // The charts of age and membership. Today is 21.11.2026.
 #include "statistics/DiagrammeForm.h"
 
-#include "fenster/QCustomPlot.h"
 #include "statistics/Diagrammbild.h"
+#include "statistics/QCustomPlot.h"
 #include "statistics/StatistikForm.h"
 #include "statistics/Statistikstand.h"
 

@@ -1,7 +1,7 @@
 // Heights through the window and as a chart.
 #include "statistics/Statistik2Form.h"
 
-#include "fenster/QCustomPlot.h"
+#include "statistics/QCustomPlot.h"
 #include "statistics/Statistikstand.h"
 
 namespace altardienst {

@@ -2,11 +2,11 @@
 // read by the place of the labels.
 #pragma once
 
-#include "fenster/Anwendung.h"
-#include "fenster/DruckerQt.h"
-#include "fenster/Fensterstand.h"
-#include "fenster/Handler.h"
-#include "fenster/PdfLesen.h"
+#include "Fensterstand.h"
+#include "application/Anwendung.h"
+#include "controls/Handler.h"
+#include "paper/DruckerQt.h"
+#include "printing/PdfLesen.h"
 
 #include <QGroupBox>
 #include <QPointer>

@@ -1,0 +1,3 @@
+# The rooms, from the ground up: each may include itself and those before it.
+set(RÄUME values platform core controls paper application assignment planning fixed printing people
+    anniversaries settings statistics shell)

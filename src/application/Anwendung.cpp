@@ -1,0 +1,137 @@
+// What holds for all windows.
+#include "application/Anwendung.h"
+
+#include "application/Deutsch.h"
+#include "application/Wartezeiger.h"
+#include "controls/Bausteine.h"
+#include "controls/Stil.h"
+#include "paper/Druckdialog.h"
+#include "platform/Laufwerke.h"
+#include "platform/Meldungen.h"
+#include "platform/Systeminfo.h"
+
+#include <QLocale>
+#include <QMessageBox>
+#include <QPointer>
+#include <QProcess>
+#include <QTimer>
+
+namespace altardienst {
+namespace {
+
+QPointer<QWidget> Hauptfenster;
+QPointer<QWidget> FokusZuvor; // in the main window, before a dialog disabled it
+
+class Mausschlucker : public QObject {
+  public:
+    using QObject::QObject;
+    bool eventFilter(QObject *, QEvent *ereignis) override
+    {
+        return ereignis->type() == QEvent::MouseButtonPress;
+    }
+};
+
+/// A box that is left by a press of the mouse may bring a message. The press reaches its button
+/// only behind it, and its release never: the button would hang, or a spin button run on.
+void DruckVerwerfen()
+{
+    auto *schlucker = new Mausschlucker(qApp);
+    qApp->installEventFilter(schlucker);
+    QTimer::singleShot(0, schlucker, &QObject::deleteLater);
+}
+
+QMessageBox::StandardButton MeldungZeigen(const Text &text, const Text &titel,
+                                          QMessageBox::StandardButtons knöpfe,
+                                          QMessageBox::StandardButton vorgabe)
+{
+    const OhneWartezeiger ohne;
+    QMessageBox box(QApplication::activeWindow());
+    box.setObjectName("Meldung");
+    box.setWindowTitle(Anzeige(titel));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(Anzeige(text));
+    box.setStandardButtons(knöpfe);
+    for (const auto &[art, wort] :
+         {std::pair(QMessageBox::Ok, "OK"), {QMessageBox::Yes, "&Ja"}, {QMessageBox::No, "&Nein"}})
+        if (QAbstractButton *knopf = box.button(art))
+            knopf->setText(wort);
+    box.setDefaultButton(vorgabe);
+    const bool beiMausdruck = QGuiApplication::mouseButtons() != Qt::NoButton;
+    const auto antwort = static_cast<QMessageBox::StandardButton>(box.exec());
+    if (beiMausdruck)
+        DruckVerwerfen();
+    return antwort;
+}
+
+} // namespace
+
+void AnwendungEinrichten(QApplication &anwendung)
+{
+    // Without a display name, which would be added to the title of every window.
+    QApplication::setApplicationName("Altardienst");
+    QApplication::setQuitOnLastWindowClosed(false);
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    QApplication::installTranslator(new Deutsch(&anwendung));
+    QApplication::setStyle(new Stil);
+
+    Systeminfo.Starten = [](const std::filesystem::path &programm) {
+        QProcess::startDetached(Anzeige(TextVon(programm)), {});
+    };
+    static DruckerQt drucker(DruckdialogZeigen);
+    Drucker = &drucker;
+    Meldungen.Zeigen = [](const Text &text) {
+        MeldungZeigen(text, "Altardienst", QMessageBox::Ok, QMessageBox::Ok);
+    };
+    Meldungen.Fragen = [](const Text &text, const Text &titel) {
+        return MeldungZeigen(text, titel, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) ==
+               QMessageBox::Yes;
+    };
+}
+
+void HauptfensterSetzen(QWidget *haupt)
+{
+    Hauptfenster = haupt;
+}
+
+void DialogDanebenÖffnen(QWidget *dialog)
+{
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+    dialog->activateWindow();
+}
+
+void DialogÖffnen(QWidget *dialog)
+{
+    if (Hauptfenster) {
+        if (Hauptfenster->isEnabled())
+            FokusZuvor = Hauptfenster->focusWidget();
+        Hauptfenster->setEnabled(false);
+        Hauptfenster->showMinimized();
+    }
+    DialogDanebenÖffnen(dialog);
+}
+
+void HauptfensterZurück()
+{
+    if (!Hauptfenster)
+        return;
+    Hauptfenster->setEnabled(true);
+    Hauptfenster->showMaximized();
+    Hauptfenster->activateWindow();
+    if (FokusZuvor)
+        FokusZuvor->setFocus();
+    FokusZuvor.clear();
+}
+
+void AlleFormenEntladen()
+{
+    const QWidgetList fenster = QApplication::topLevelWidgets();
+    for (QWidget *form : fenster) {
+        if (!form->isWindow() || form->parent())
+            continue;
+        form->hide();
+        form->deleteLater();
+    }
+}
+
+} // namespace altardienst

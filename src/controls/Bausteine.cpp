@@ -1,0 +1,268 @@
+// Small pieces of every form.
+#include "controls/Bausteine.h"
+
+#include "controls/Textwahl.h"
+#include "controls/Tippgedächtnis.h"
+#include "values/Ansi.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
+
+#include <limits>
+#include <utility>
+
+namespace altardienst {
+namespace {
+
+/// Calls a handler before the control sees an event, and lets the event pass.
+class Ereignisfilter : public QObject {
+  public:
+    using Erkennung = std::function<bool(QEvent *)>;
+
+    Ereignisfilter(QObject *control, Erkennung meint, std::function<void()> handler)
+        : QObject(control), meint(std::move(meint)), handler(std::move(handler))
+    {
+        control->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *ereignis) override
+    {
+        if (meint(ereignis))
+            handler();
+        return false;
+    }
+
+  private:
+    Erkennung meint;
+    std::function<void()> handler;
+};
+
+/// Wants as much room as its content, unlike its base.
+class Rollfläche : public QScrollArea {
+  public:
+    QSize sizeHint() const override
+    {
+        constexpr QSize Rundung(4, 4); // some controls grow by a pixel or two when they are drawn
+        return widget()->sizeHint() + Rundung;
+    }
+};
+
+/// As a file gives it back: one line of Windows-1252. A line break that was pasted would move all
+/// lines behind it.
+QString Speicherbar(QString text)
+{
+    text.replace("\r\n", " ").replace('\n', ' ').replace('\r', ' ');
+    return Anzeige(InAnsiDarstellbar(text.toStdString()));
+}
+
+} // namespace
+
+QString Anzeige(const Text &text)
+{
+    return QString::fromStdString(text);
+}
+
+Text TextVon(const QLineEdit *feld)
+{
+    return feld->text().toStdString();
+}
+
+QPushButton *Knopf(const char *name, const char *beschriftung)
+{
+    auto *knopf = Benannt(new QPushButton(QString::fromUtf8(beschriftung)), name);
+    knopf->setAutoDefault(true); // Enter presses the button that has the focus
+    return knopf;
+}
+
+QLabel *Beschriftung(const char *name, const char *text, QWidget *zu)
+{
+    auto *label = Benannt(new QLabel(QString::fromUtf8(text)), name);
+    label->setTextFormat(Qt::PlainText);
+    if (zu) {
+        label->setBuddy(zu);
+        zu->setAccessibleName(QString::fromUtf8(text).remove(':').trimmed());
+    }
+    return label;
+}
+
+QLineEdit *Textfeld(const char *name)
+{
+    auto *feld = Benannt(new QLineEdit, name);
+    feld->setMaxLength(
+        std::numeric_limits<int>::max()); // a long text of a file is stored again whole
+    QObject::connect(feld, &QLineEdit::textChanged, feld, [feld](const QString &text) {
+        QString darstellbar = Speicherbar(text);
+        if (darstellbar == text)
+            return;
+        // One "?" may stand for a character that Qt counts as two.
+        const auto stelle = Speicherbar(text.left(feld->cursorPosition())).size();
+        feld->setText(darstellbar);
+        feld->setCursorPosition(static_cast<int>(stelle));
+    });
+    new Tippgedächtnis(feld);
+    return feld;
+}
+
+void BeiFokusVerlust(QWidget *control, std::function<void()> handler)
+{
+    new Ereignisfilter(
+        control,
+        [](QEvent *ereignis) {
+            if (ereignis->type() != QEvent::FocusOut)
+                return false;
+            const Qt::FocusReason grund = static_cast<QFocusEvent *>(ereignis)->reason();
+            const bool anderesProgramm =
+                grund == Qt::ActiveWindowFocusReason && !QApplication::activeWindow();
+            return grund != Qt::PopupFocusReason && !anderesProgramm;
+        },
+        std::move(handler));
+}
+
+void BeiEingabetaste(QLineEdit *feld, std::function<void()> handler)
+{
+    QObject::connect(feld, &QLineEdit::returnPressed, feld, std::move(handler));
+}
+
+void BeiKlick(QWidget *control, std::function<void()> handler)
+{
+    new Ereignisfilter(
+        control,
+        [](QEvent *ereignis) {
+            return ereignis->type() == QEvent::MouseButtonRelease &&
+                   static_cast<QMouseEvent *>(ereignis)->button() == Qt::LeftButton;
+        },
+        std::move(handler));
+}
+
+void BeiMausdruck(QPushButton *knopf, std::function<void()> handler)
+{
+    new Ereignisfilter(
+        knopf,
+        [knopf](QEvent *ereignis) {
+            return knopf->isEnabled() &&
+                   (ereignis->type() == QEvent::MouseButtonPress ||
+                    ereignis->type() == QEvent::MouseButtonDblClick) &&
+                   static_cast<QMouseEvent *>(ereignis)->button() == Qt::LeftButton;
+        },
+        std::move(handler));
+}
+
+void BeiTastendruck(QPushButton *knopf, std::function<void()> handler)
+{
+    new Ereignisfilter(
+        knopf,
+        [](QEvent *ereignis) {
+            if (ereignis->type() != QEvent::KeyPress)
+                return false;
+            auto *taste = static_cast<QKeyEvent *>(ereignis);
+            return !taste->text().isEmpty() && taste->key() != Qt::Key_Tab &&
+                   !(taste->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+        },
+        std::move(handler));
+}
+
+void SchritteVerbinden(QPushButton *minus, QPushButton *plus, SpinButton *spin,
+                       const std::function<void(int)> &schritt)
+{
+    const auto knopf = [&](QPushButton *k, Qt::Key taste, int richtung) {
+        if (!k)
+            return;
+        const auto auslösen = [schritt, richtung] { schritt(richtung); };
+        QObject::connect(k, &QPushButton::clicked, k, auslösen);
+        new Ereignisfilter(
+            k,
+            [taste](QEvent *ereignis) {
+                return ereignis->type() == QEvent::KeyPress &&
+                       static_cast<QKeyEvent *>(ereignis)->key() == taste;
+            },
+            auslösen);
+    };
+    knopf(minus, Qt::Key_Minus, -1);
+    knopf(plus, Qt::Key_Plus, +1);
+    if (spin) {
+        spin->BeiAb([schritt] { schritt(-1); });
+        spin->BeiAuf([schritt] { schritt(+1); });
+    }
+}
+
+namespace {
+
+QPushButton *Schrittknopf(const char *name, const char *zeichen, const char *gesprochen)
+{
+    QPushButton *knopf = Knopf(name, zeichen);
+    knopf->setAccessibleName(QString::fromUtf8(gesprochen));
+    knopf->setFixedWidth(36);
+    return knopf;
+}
+
+} // namespace
+
+QPushButton *Minusknopf(const char *name, const char *gesprochen)
+{
+    return Schrittknopf(name, "-", gesprochen);
+}
+
+QPushButton *Plusknopf(const char *name, const char *gesprochen)
+{
+    return Schrittknopf(name, "+", gesprochen);
+}
+
+void Setzen(QLineEdit *feld, const Text &text)
+{
+    const QString neu = Anzeige(text);
+    if (feld->text() != neu) // records are filled in twice, and the second time costs nothing
+        feld->setText(neu);
+}
+
+void Setzen(QLabel *label, const Text &text)
+{
+    label->setText(Anzeige(text));
+}
+
+QWidget *Rollbar(QLayout *inhalt)
+{
+    inhalt->setContentsMargins(0, 0, 0, 0);
+    auto *fläche = new QWidget;
+    fläche->setLayout(inhalt);
+    for (auto *wahl : fläche->findChildren<QComboBox *>())
+        RadSperren(wahl);
+    auto *rollbar = new Rollfläche;
+    rollbar->setWidgetResizable(true);
+    rollbar->setFrameShape(QFrame::NoFrame);
+    rollbar->setFocusPolicy(Qt::NoFocus);
+    rollbar->setWidget(fläche);
+    return rollbar;
+}
+
+void GrößeAnpassen(QWidget *fenster)
+{
+    const auto anpassen = [fenster] {
+        constexpr QSize Rahmen(16, 40); // about what frame and title bar take
+        for (QScrollArea *fläche : fenster->findChildren<QScrollArea *>())
+            fläche->updateGeometry(); // it doesn't follow its content by itself
+        const QSize platz = fenster->screen()->availableSize() - Rahmen;
+        const int balken = fenster->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2;
+        QSize größe = fenster->sizeHint();
+        // The bar for one direction takes room in the other.
+        if (größe.height() > platz.height())
+            größe.rwidth() += balken;
+        else if (größe.width() > platz.width())
+            größe.rheight() += balken;
+        fenster->resize(größe.boundedTo(platz));
+    };
+    anpassen();
+    // Some controls know their size only once they are shown.
+    new Ereignisfilter(
+        fenster,
+        [erstes = true](QEvent *ereignis) mutable {
+            return ereignis->type() == QEvent::Show && std::exchange(erstes, false);
+        },
+        anpassen);
+}
+
+} // namespace altardienst

@@ -1,0 +1,65 @@
+// Small pieces of every form: controls with their names, and the events that Qt has no signal for.
+#pragma once
+
+#include "controls/SpinButton.h"
+#include "values/Text.h"
+
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QString>
+
+#include <functional>
+
+namespace altardienst {
+
+QString Anzeige(const Text &text); // UTF-8 text of the tables for the screen
+Text TextVon(const QLineEdit *feld);
+
+/// Gives a control its bare name, by which tests find it, and a spoken name for screen readers
+/// where its caption is no word.
+template <class Control> Control *Benannt(Control *control, const char *name)
+{
+    control->setObjectName(QString::fromUtf8(name));
+    return control;
+}
+
+QPushButton *Knopf(const char *name, const char *beschriftung);
+
+/// A label; with a control it is that control's buddy and gives it its spoken name.
+QLabel *Beschriftung(const char *name, const char *text, QWidget *zu = nullptr);
+
+/// A text box. A character that the files cannot hold shows as "?" at once, and a line break as a
+/// blank, so that what is seen is what will be stored.
+QLineEdit *Textfeld(const char *name);
+
+// Events. The handlers come wrapped in their kind (controls/Handler.h).
+void BeiFokusVerlust(QWidget *control, std::function<void()> handler);
+void BeiEingabetaste(QLineEdit *feld, std::function<void()> handler);
+void BeiKlick(QWidget *control,
+              std::function<void()> handler); // for controls that have no such signal
+void BeiMausdruck(QPushButton *knopf, std::function<void()> handler);   // the first mouse button
+void BeiTastendruck(QPushButton *knopf, std::function<void()> handler); // a key with a character
+
+/// A row of steps: `minus` and the spin button's down event run `schritt` with -1, `plus` and up
+/// with +1; the key "-" on `minus` and "+" on `plus` count as clicks. Any of the three may be
+/// missing.
+void SchritteVerbinden(QPushButton *minus, QPushButton *plus, SpinButton *spin,
+                       const std::function<void(int richtung)> &schritt);
+
+/// A pair of small buttons "−" and "+" with spoken names.
+QPushButton *Minusknopf(const char *name, const char *gesprochen);
+QPushButton *Plusknopf(const char *name, const char *gesprochen);
+
+/// Sets the text of a label or box from a value of the tables.
+void Setzen(QLineEdit *feld, const Text &text);
+void Setzen(QLabel *label, const Text &text);
+
+/// A part of a window that scrolls where the screen is small or strongly enlarged.
+QWidget *Rollbar(QLayout *inhalt);
+
+/// As large as its content wants, or as the screen allows.
+void GrößeAnpassen(QWidget *fenster);
+
+} // namespace altardienst

@@ -1,0 +1,28 @@
+// Reading the boxes of a form for a save.
+#pragma once
+
+#include "controls/Bausteine.h"
+#include "values/Laufzeitfehler.h"
+
+#include <QScrollArea>
+
+#include <string_view>
+
+namespace altardienst {
+
+/// What `lesen` makes of the text of a box. If it fails, the box takes the focus and rolls into
+/// view, so that the message, which names no box, leaves the user where the mistake is.
+template <class Wert> Wert Gelesen(QLineEdit *feld, Wert (*lesen)(std::string_view))
+{
+    try {
+        return lesen(TextVon(feld));
+    } catch (const Laufzeitfehler &) {
+        feld->setFocus();
+        for (QWidget *um = feld->parentWidget(); um; um = um->parentWidget())
+            if (auto *fläche = qobject_cast<QScrollArea *>(um))
+                fläche->ensureWidgetVisible(feld);
+        throw;
+    }
+}
+
+} // namespace altardienst

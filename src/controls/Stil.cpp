@@ -1,0 +1,78 @@
+// How the controls of all windows are drawn.
+#include "controls/Stil.h"
+
+#include <QPainter>
+#include <QStyleOptionButton>
+
+namespace altardienst {
+namespace {
+
+// Colours 10 and 7 of the standard palette of 16.
+constexpr QColor Hellgrün(0x00, 0xff, 0x00);
+constexpr QColor Hellgrau(0xc0, 0xc0, 0xc0);
+
+/// The colours of a command button and the width of its border in pixels.
+struct Knopffarben {
+    QColor Fläche;
+    QColor Rand;
+    QColor Schrift;
+    int Randbreite = 1;
+};
+
+Knopffarben FarbenFür(QStyle::State zustand)
+{
+    if (!(zustand & QStyle::State_Enabled))
+        return {QColor(0xd8, 0xd8, 0xd8), QColor(0xb0, 0xb0, 0xb0), QColor(0x7a, 0x7a, 0x7a)};
+    const QColor fläche = zustand & QStyle::State_HasFocus ? Hellgrün : Hellgrau;
+    if (zustand & QStyle::State_Sunken)
+        return {fläche, QColor(0x60, 0x60, 0x60), Qt::black, 2};
+    return {fläche, QColor(0x80, 0x80, 0x80), Qt::black};
+}
+
+void FlächeZeichnen(QPainter &stift, const QRect &platz, const Knopffarben &farben)
+{
+    constexpr qreal Rundung = 3;
+    const qreal halb = farben.Randbreite / 2.0;
+    stift.save();
+    stift.setRenderHint(QPainter::Antialiasing);
+    stift.setPen(QPen(farben.Rand, farben.Randbreite));
+    stift.setBrush(farben.Fläche);
+    stift.drawRoundedRect(QRectF(platz).adjusted(halb, halb, -halb, -halb), Rundung, Rundung);
+    stift.restore();
+}
+
+} // namespace
+
+void Stil::drawControl(ControlElement element, const QStyleOption *option, QPainter *stift,
+                       const QWidget *control) const
+{
+    const auto *knopf = qstyleoption_cast<const QStyleOptionButton *>(option);
+    if (element != CE_PushButton || !knopf)
+        return QProxyStyle::drawControl(element, option, stift, control);
+    const Knopffarben farben = FarbenFür(knopf->state);
+    FlächeZeichnen(*stift, knopf->rect, farben);
+    QStyleOptionButton beschriftung = *knopf;
+    beschriftung.palette.setColor(QPalette::ButtonText, farben.Schrift);
+    QProxyStyle::drawControl(CE_PushButtonLabel, &beschriftung, stift, control);
+}
+
+void Stil::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *stift,
+                         const QWidget *control) const
+{
+    QProxyStyle::drawPrimitive(element, option, stift, control);
+    // Controls made of others, which have no look of their own.
+    if (element == PE_Widget && option->state & State_HasFocus) {
+        stift->setPen(QColor(0x00, 0x80, 0x00));
+        stift->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    }
+}
+
+QSize Stil::sizeFromContents(ContentsType art, const QStyleOption *option, const QSize &inhalt,
+                             const QWidget *control) const
+{
+    constexpr QSize Rand(26, 10); // left and right, above and below together
+    return art == CT_PushButton ? inhalt + Rand
+                                : QProxyStyle::sizeFromContents(art, option, inhalt, control);
+}
+
+} // namespace altardienst

@@ -1,0 +1,61 @@
+// Boxes for a date or a time of day.
+#include "controls/Terminbox.h"
+
+#include "controls/Bausteine.h"
+#include "core/Umwandlung.h"
+
+namespace altardienst {
+namespace {
+
+Datum WertIn(const QLineEdit *feld)
+{
+    return DatumLesen(TextVon(feld));
+}
+
+/// The cursor keeps its place as counted from the end: digits before it may gain or lose a zero,
+/// and typing in the midst of a box goes on where it was.
+void Umschreiben(QLineEdit *feld, const Text &text)
+{
+    const auto vomEnde = feld->text().size() - feld->cursorPosition();
+    Setzen(feld, text);
+    feld->setCursorPosition(static_cast<int>(feld->text().size() - vomEnde));
+}
+
+} // namespace
+
+void TageWeiter(QLineEdit *feld, int tage)
+{
+    Setzen(feld, KurzesDatum(WertIn(feld) + tage));
+}
+
+void MonateWeiter(QLineEdit *feld, int monate)
+{
+    Setzen(feld, KurzesDatum(MonateWeiter(WertIn(feld), monate)));
+}
+
+void JahreWeiter(QLineEdit *feld, int jahre)
+{
+    MonateWeiter(feld, 12 * jahre);
+}
+
+void StundenWeiter(QLineEdit *feld, int stunden)
+{
+    Setzen(feld, LangeZeit(UhrzeitWeiter(WertIn(feld), stunden * 3600)));
+}
+
+void MinutenWeiter(QLineEdit *feld, int minuten)
+{
+    Setzen(feld, LangeZeit(UhrzeitWeiter(WertIn(feld), minuten * 60)));
+}
+
+void AlsKurzesDatum(QLineEdit *feld)
+{
+    Umschreiben(feld, KurzesDatum(WertIn(feld)));
+}
+
+void AlsLangeZeit(QLineEdit *feld)
+{
+    Umschreiben(feld, LangeZeit(WertIn(feld)));
+}
+
+} // namespace altardienst

@@ -1,0 +1,169 @@
+// A text box with a list to choose from.
+#include "controls/Textwahl.h"
+
+#include "controls/Bausteine.h"
+
+#include <QKeyEvent>
+#include <QSignalBlocker>
+#include <QStringListModel>
+
+namespace altardienst {
+namespace {
+
+/// The entry that bears the text becomes the current one, so that Qt does not announce it as picked
+/// when the editing ends.
+void EintragAngleichen(QComboBox *wahl)
+{
+    const QString text = wahl->currentText();
+    const int jetzt = wahl->currentIndex();
+    if (jetzt >= 0 && wahl->itemText(jetzt) == text)
+        return; // of entries that read alike it stays the one that was picked
+    const QSignalBlocker still(wahl);
+    wahl->setCurrentIndex(wahl->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    wahl->setEditText(text);
+}
+
+/// The keys and the opened list begin at the entry that the box shows, however its text came there.
+/// A pick that is refused empties the box: the keys go on from it, or they would never get past it.
+class Listenbedienung : public QObject {
+  public:
+    explicit Listenbedienung(QComboBox *wahl) : QObject(wahl), wahl(wahl)
+    {
+        wahl->installEventFilter(this);
+        connect(wahl, &QComboBox::activated, this, [this](int zeile) { gewählt = zeile; });
+        connect(wahl->lineEdit(), &QLineEdit::textEdited, this, [this] { gewählt = -1; });
+        connect(wahl->model(), &QAbstractItemModel::rowsRemoved, this, [this] { gewählt = -1; });
+    }
+
+    bool eventFilter(QObject *, QEvent *ereignis) override
+    {
+        if (ereignis->type() == QEvent::FocusIn || Blättert(ereignis))
+            EintragAngleichen(wahl);
+        if (Verläßt(ereignis) || AndereTaste(ereignis))
+            gewählt = -1;
+        if (Blättert(ereignis) && wahl->currentText().isEmpty() && wahl->currentIndex() < 0)
+            OhneText(gewählt);
+        return false;
+    }
+
+  private:
+    void OhneText(int zeile)
+    {
+        const QSignalBlocker still(wahl);
+        wahl->setCurrentIndex(zeile);
+        wahl->setEditText({});
+    }
+
+    /// A message box or the opened list has the focus for a while only.
+    static bool Verläßt(QEvent *ereignis)
+    {
+        if (ereignis->type() != QEvent::FocusOut)
+            return false;
+        const Qt::FocusReason grund = static_cast<QFocusEvent *>(ereignis)->reason();
+        return grund != Qt::ActiveWindowFocusReason && grund != Qt::PopupFocusReason;
+    }
+
+    static bool Pfeiltaste(QEvent *ereignis)
+    {
+        const int taste = static_cast<QKeyEvent *>(ereignis)->key();
+        return taste == Qt::Key_Up || taste == Qt::Key_Down;
+    }
+
+    static bool Blättert(QEvent *ereignis)
+    {
+        return ereignis->type() == QEvent::KeyPress && Pfeiltaste(ereignis);
+    }
+
+    /// Also one that shows another record while the box keeps the focus.
+    static bool AndereTaste(QEvent *ereignis)
+    {
+        return ereignis->type() == QEvent::ShortcutOverride && !Pfeiltaste(ereignis);
+    }
+
+    QComboBox *wahl;
+    int gewählt = -1; // the entry picked last, as long as nothing else has happened to the box
+};
+
+/// Hands the wheel on to what lies behind a box: passing over it, it would choose another entry.
+class Radsperre : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *, QEvent *ereignis) override
+    {
+        if (ereignis->type() != QEvent::Wheel)
+            return false;
+        ereignis->ignore();
+        return true;
+    }
+};
+
+} // namespace
+
+QComboBox *Textwahl(const char *name, const char *gesprochen)
+{
+    auto *wahl = Benannt(new QComboBox, name);
+    wahl->setEditable(true);
+    wahl->setLineEdit(Textfeld(""));
+    wahl->setCompleter(nullptr);
+    for (QWidget *control : std::initializer_list<QWidget *>{wahl, wahl->lineEdit()})
+        control->setAccessibleName(QString::fromUtf8(gesprochen));
+    wahl->setInsertPolicy(QComboBox::NoInsert);
+    new Listenbedienung(wahl);
+    RadSperren(wahl);
+    return wahl;
+}
+
+void RadSperren(QComboBox *wahl)
+{
+    wahl->setFocusPolicy(Qt::StrongFocus); // nor does the wheel bring the focus
+    wahl->installEventFilter(new Radsperre(wahl));
+}
+
+void ListeSetzen(QComboBox *wahl, const QStringList &liste)
+{
+    const QString text = wahl->currentText();
+    const QSignalBlocker still(wahl);
+    wahl->clear();
+    wahl->addItems(liste);
+    wahl->setCurrentIndex(-1);
+    wahl->setEditText(text);
+}
+
+void ListeTeilen(const std::vector<QComboBox *> &wahlen, const QStringList &liste)
+{
+    auto *modell = new QStringListModel(liste, wahlen.front()->window());
+    for (QComboBox *wahl : wahlen) {
+        const QString text = wahl->currentText();
+        const QSignalBlocker still(wahl);
+        wahl->setModel(modell);
+        wahl->setCurrentIndex(-1);
+        wahl->setEditText(text);
+    }
+}
+
+Text TextVon(const QComboBox *wahl)
+{
+    return wahl->currentText().toStdString();
+}
+
+void Setzen(QComboBox *wahl, const Text &text)
+{
+    wahl->setEditText(Anzeige(text));
+}
+
+void BeiAuswahl(QComboBox *wahl, std::function<void()> handler)
+{
+    QObject::connect(wahl, &QComboBox::activated, wahl, std::move(handler));
+}
+
+void BeiVerlassen(QComboBox *wahl, std::function<void()> handler)
+{
+    BeiFokusVerlust(wahl, [wahl, handler = std::move(handler)] {
+        EintragAngleichen(wahl);
+        handler();
+        EintragAngleichen(wahl);
+    });
+}
+
+} // namespace altardienst

@@ -1,0 +1,37 @@
+// A text box with a list to choose from; any other text may be typed.
+#pragma once
+
+#include "values/Text.h"
+
+#include <QComboBox>
+
+#include <functional>
+#include <vector>
+
+namespace altardienst {
+
+/// Nothing is completed while typing: a text that begins like an entry of the list is not yet that
+/// entry.
+/// `gesprochen` is its name for screen readers.
+QComboBox *Textwahl(const char *name, const char *gesprochen);
+
+/// The wheel scrolls the window instead of choosing another entry unseen.
+void RadSperren(QComboBox *wahl);
+
+/// The list anew; the text stays.
+void ListeSetzen(QComboBox *wahl, const QStringList &liste);
+
+/// One long list that several boxes of a window have in common; their texts stay.
+void ListeTeilen(const std::vector<QComboBox *> &wahlen, const QStringList &liste);
+
+Text TextVon(const QComboBox *wahl);
+void Setzen(QComboBox *wahl, const Text &text);
+
+/// Runs when an entry of the list is picked.
+void BeiAuswahl(QComboBox *wahl, std::function<void()> handler);
+
+/// Runs when the focus leaves the box. A typed text that is an entry of the list does not count as
+/// picked then.
+void BeiVerlassen(QComboBox *wahl, std::function<void()> handler);
+
+} // namespace altardienst

@@ -1,0 +1,53 @@
+// Typing on behind what a box has made of the text so far.
+#include "controls/Tippgedächtnis.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+
+namespace altardienst {
+namespace {
+
+/// A letter, a digit, a sign, or the key that takes one back.
+bool Schreibt(const QKeyEvent *taste)
+{
+    if (taste->modifiers() & (Qt::ControlModifier | Qt::AltModifier))
+        return false;
+    return taste->key() == Qt::Key_Backspace ||
+           (!taste->text().isEmpty() && taste->text().front().isPrint());
+}
+
+} // namespace
+
+Tippgedächtnis::Tippgedächtnis(QLineEdit *feld) : QObject(feld), feld(feld)
+{
+    feld->installEventFilter(this);
+    // Comes ahead of the change, which may rewrite the box.
+    connect(feld, &QLineEdit::textEdited, this, [this](const QString &text) { getippt = text; });
+}
+
+bool Tippgedächtnis::eventFilter(QObject *, QEvent *ereignis)
+{
+    if (ereignis->type() == QEvent::FocusOut)
+        gezeigt.clear();
+    if (ereignis->type() != QEvent::KeyPress || läuft || feld->isReadOnly() ||
+        !Schreibt(static_cast<QKeyEvent *>(ereignis)))
+        return false;
+    if (!gezeigt.isEmpty() && feld->text() == gezeigt && AmEnde()) {
+        const QSignalBlocker still(feld);
+        feld->setText(getippt);
+    }
+    getippt = feld->text();
+    läuft = true;
+    QCoreApplication::sendEvent(feld, ereignis);
+    läuft = false;
+    gezeigt = feld && AmEnde() && feld->text() != getippt ? feld->text() : QString();
+    return true;
+}
+
+bool Tippgedächtnis::AmEnde() const
+{
+    return !feld->hasSelectedText() && feld->cursorPosition() == feld->text().size();
+}
+
+} // namespace altardienst

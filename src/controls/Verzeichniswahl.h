@@ -1,0 +1,67 @@
+// The directory picker that several dialogs share: a list of drives, of directories, of files.
+#pragma once
+
+#include "platform/Laufwerke.h"
+#include "values/Text.h"
+
+#include <QComboBox>
+#include <QListWidget>
+
+#include <filesystem>
+#include <functional>
+
+namespace altardienst {
+
+/// The three lists of a dialog, which lays them out itself. The file list follows the directory
+/// list. Choosing a drive goes to its root; one that cannot be read leaves the lists, and the drive
+/// that was chosen before. A double click or Enter on a directory opens it.
+class Verzeichniswahl {
+  public:
+    /// The names of the three controls; a dialog without one of the lists still has the control but
+    /// doesn't lay it out.
+    Verzeichniswahl(const char *laufwerkName, const char *verzeichnisName, const char *dateienName);
+
+    Verzeichniswahl(const Verzeichniswahl &) = delete;
+    Verzeichniswahl &operator=(const Verzeichniswahl &) = delete;
+
+    QComboBox *Laufwerk;
+    QListWidget *Verzeichnis;
+    QListWidget *Dateien;
+
+    const std::filesystem::path &Pfad() const { return pfad; }
+
+    /// Opens a directory: fills both lists, then runs `BeiWechsel`. Failure 75 or 76 if it cannot
+    /// be read; the lists then stay as they are.
+    void Öffnen(const std::filesystem::path &neu);
+
+    /// Opens the first drive that can be read; if none can, the lists stay empty.
+    void Beginnen();
+
+    /// Makes a directory in the one that is open, without showing it: one level alone, so a name
+    /// with separators needs what it names before its last one. May exist. Failure 75 or 76, also
+    /// where no directory is open or the open one is gone.
+    void Anlegen(const Text &name) const;
+
+    /// Reads the directory again, without `BeiWechsel`. What is marked and in sight stays.
+    void Auffrischen();
+
+    /// Runs after each change of the directory.
+    std::function<void()> BeiWechsel = [] {};
+
+    /// Runs after the choice of a drive that cannot be read.
+    std::function<void()> BeiUnlesbaremLaufwerk = [] {};
+
+    /// The name of a file in the list, also where the screen cannot show it.
+    static Text Name(const QListWidgetItem *eintrag);
+
+  private:
+    void LaufwerkGewählt();
+    void LaufwerkÖffnen();
+    void EintragÖffnen(const QListWidgetItem *eintrag);
+    void Zeigen(const Verzeichnisinhalt &inhalt) const;
+
+    std::filesystem::path pfad;
+    int offenesLaufwerk = 0;
+};
+
+} // namespace altardienst

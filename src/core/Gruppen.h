@@ -1,0 +1,12 @@
+// Who belongs to a group.
+#pragma once
+
+#include "values/Text.h"
+
+namespace altardienst {
+
+/// Whether the server belongs to the group. A server without a group belongs to none, and so nobody
+/// belongs to a group without a name.
+bool IstInGruppe(int diener, const Text &gruppe);
+
+} // namespace altardienst

@@ -1,0 +1,229 @@
+// The print dialog.
+#include "paper/Druckdialog.h"
+
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "platform/Meldungen.h"
+
+#include <QApplication>
+#include <QButtonGroup>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPrintDialog>
+#include <QPrinterInfo>
+#include <QStandardPaths>
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+/// Where files go that are named without a directory: nobody would find them in that of the
+/// process.
+QDir Ablage()
+{
+    const QDir dokumente = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return dokumente.exists() ? dokumente : QDir::home();
+}
+
+bool IstBeschreibbar(const QString &datei)
+{
+    const QFileInfo ziel(datei);
+    const QFileInfo verzeichnis(ziel.path());
+    return verzeichnis.isDir() && verzeichnis.isWritable() && !ziel.isDir();
+}
+
+/// The last file again, unless its directory has gone meanwhile.
+QString PdfVorschlag()
+{
+    const QString letzte = LetztePdfDatei();
+    return !letzte.isEmpty() && IstBeschreibbar(letzte) ? letzte
+                                                        : Ablage().filePath("Altardienst.pdf");
+}
+
+template <class Control> Control *Option(const char *name, const QString &text)
+{
+    return Benannt(new Control(text), name);
+}
+
+} // namespace
+
+QString &LetztePdfDatei()
+{
+    static QString datei;
+    return datei;
+}
+
+Druckerliste EingerichteteDrucker()
+{
+    return {QPrinterInfo::availablePrinterNames(), QPrinterInfo::defaultPrinterName()};
+}
+
+DruckdialogForm::DruckdialogForm(const Druckanfrage &anfrage, const Druckerliste &liste)
+    : Papier(Option<QRadioButton>("Papier", "Drucker:")),
+      Druckername(Benannt(new QComboBox, "Druckername")),
+      Einstellungen(Knopf("Einstellungen", "Einstellungen...")),
+      Kopien(Benannt(new QSpinBox, "Kopien")), Pdf(Option<QRadioButton>("Pdf", "PDF-Datei:")),
+      PdfDatei(Benannt(new QLineEdit(PdfVorschlag()), "PdfDatei")),
+      Durchsuchen(Knopf("Durchsuchen", "Durchsuchen...")), Hinweis(Beschriftung("Hinweis", "")),
+      Ausführung(Benannt(new QGroupBox("Ausführung"), "Ausführung")),
+      ErsteForm(Option<QRadioButton>("ErsteForm", Anzeige(anfrage.ErsteForm))),
+      ZweiteForm(Option<QRadioButton>("ZweiteForm", Anzeige(anfrage.ZweiteForm))),
+      OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen")),
+      papier(std::make_shared<QPrinter>(QPrinter::HighResolution))
+{
+    Benannt(this, "CommonDialog1");
+    setWindowTitle("Drucken");
+    Druckername->setAccessibleName("Drucker");
+    PdfDatei->setAccessibleName("PDF-Datei");
+    Kopien->setRange(1, 99);
+    Druckername->addItems(liste.Namen);
+    Druckername->setCurrentText(liste.Vorgabe);
+    const bool hatDrucker = Druckername->count() > 0;
+    if (!hatDrucker)
+        Druckername->setPlaceholderText("kein Drucker eingerichtet");
+    Papier->setEnabled(hatDrucker);
+    (hatDrucker ? Papier : Pdf)->setChecked(true);
+    Ausführung->setVisible(anfrage.HatZweiFormen());
+    ErsteForm->setChecked(true);
+    Anordnen();
+    Verbinden();
+    ZielGewählt();
+}
+
+void DruckdialogForm::Anordnen()
+{
+    // Without a group of their own these would take in the options of the frame below.
+    auto *ziele = new QButtonGroup(this);
+    for (QRadioButton *ziel : {Papier, Pdf})
+        ziele->addButton(ziel);
+
+    PdfDatei->setMinimumWidth(320);
+    auto *raster = new QGridLayout;
+    raster->setHorizontalSpacing(10);
+    raster->setVerticalSpacing(10);
+    raster->addWidget(Papier, 0, 0);
+    raster->addWidget(Druckername, 0, 1);
+    raster->addWidget(Einstellungen, 0, 2);
+    raster->addWidget(Beschriftung("KopienText", "Kopien:", Kopien), 1, 0);
+    raster->addWidget(Kopien, 1, 1, Qt::AlignLeft);
+    raster->addWidget(Pdf, 2, 0);
+    raster->addWidget(PdfDatei, 2, 1);
+    raster->addWidget(Durchsuchen, 2, 2);
+    raster->addWidget(Hinweis, 3, 1, 1, 2);
+
+    auto *formen = new QHBoxLayout(Ausführung);
+    formen->addWidget(ErsteForm);
+    formen->addWidget(ZweiteForm);
+    formen->addStretch();
+
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(16, 16, 16, 16);
+    spalte->setSpacing(14);
+    spalte->addLayout(raster);
+    spalte->addWidget(Ausführung);
+    spalte->addLayout(Knopfreihe({OKButton, CancelButton}));
+    OKButton->setDefault(true);
+    OKButton->setFocus();
+}
+
+void DruckdialogForm::Verbinden()
+{
+    connect(Papier, &QRadioButton::toggled, this, [this] { ZielGewählt(); });
+    connect(PdfDatei, &QLineEdit::textChanged, this, [this] { ZielGewählt(); });
+    connect(Einstellungen, &QPushButton::clicked, this, [this] { EinstellungenZeigen(); });
+    connect(Durchsuchen, &QPushButton::clicked, this, [this] { PdfSuchen(); });
+    BeiFokusVerlust(PdfDatei, [this] {
+        if (const QString pfad = PdfPfad(); !pfad.isEmpty())
+            PdfDatei->setText(pfad);
+    });
+    connect(OKButton, &QPushButton::clicked, this, [this] { Bestätigen(); });
+    connect(CancelButton, &QPushButton::clicked, this, [this] { reject(); });
+}
+
+void DruckdialogForm::ZielGewählt()
+{
+    const bool aufPapier = Papier->isChecked();
+    for (QWidget *control : std::initializer_list<QWidget *>{Druckername, Einstellungen, Kopien})
+        control->setEnabled(aufPapier);
+    for (QWidget *control : std::initializer_list<QWidget *>{PdfDatei, Durchsuchen})
+        control->setEnabled(!aufPapier);
+    const QString pfad = PdfPfad();
+    const bool beschreibbar = !pfad.isEmpty() && IstBeschreibbar(pfad);
+    OKButton->setEnabled(aufPapier || beschreibbar);
+    Hinweis->setText(aufPapier || pfad.isEmpty() || beschreibbar
+                         ? ""
+                         : "In dieses Verzeichnis läßt sich nichts schreiben.");
+}
+
+/// The file as it will be written; empty without a name.
+QString DruckdialogForm::PdfPfad() const
+{
+    QString name = PdfDatei->text().trimmed();
+    if (name.isEmpty() || name.endsWith('/'))
+        return {};
+    if (!name.endsWith(".pdf", Qt::CaseInsensitive))
+        name += ".pdf";
+    return QDir::cleanPath(Ablage().absoluteFilePath(name));
+}
+
+void DruckdialogForm::Bestätigen()
+{
+    const QString pfad = PdfPfad();
+    if (Pdf->isChecked() && pfad != ersetzbar && QFileInfo::exists(pfad) &&
+        !Meldungen.Fragen("Die Datei " + pfad.toStdString() +
+                              " gibt es schon. Soll sie ersetzt werden?",
+                          "Drucken"))
+        return;
+    accept();
+}
+
+/// The platform's own dialog, for what this one leaves out (tray, both sides, colour).
+void DruckdialogForm::EinstellungenZeigen()
+{
+    papier->setPrinterName(Druckername->currentText());
+    papier->setCopyCount(Kopien->value());
+    QPrintDialog einstellungen(papier.get(), this);
+    if (einstellungen.exec() != QDialog::Accepted)
+        return;
+    Druckername->setCurrentText(papier->printerName());
+    Kopien->setValue(papier->copyCount());
+}
+
+void DruckdialogForm::PdfSuchen()
+{
+    const QString datei =
+        QFileDialog::getSaveFileName(this, "PDF-Datei", PdfPfad(), "PDF-Dateien (*.pdf)");
+    if (datei.isEmpty())
+        return;
+    ersetzbar = datei; // the system's dialog has asked already
+    PdfDatei->setText(datei);
+}
+
+Druckauswahl DruckdialogForm::Auswahl() const
+{
+    Druckauswahl auswahl;
+    auswahl.Modus = ZweiteForm->isChecked() ? DruckerDienst::ZweiteForm : 0;
+    if (Pdf->isChecked()) {
+        LetztePdfDatei() = PdfPfad();
+        auswahl.Ziel = PdfDrucker(PdfPfad());
+    } else {
+        papier->setPrinterName(Druckername->currentText());
+        papier->setCopyCount(Kopien->value());
+        auswahl.Ziel = papier;
+    }
+    return auswahl;
+}
+
+std::optional<Druckauswahl> DruckdialogZeigen(const Druckanfrage &anfrage)
+{
+    DruckdialogForm dialog(anfrage);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.Auswahl();
+}
+
+} // namespace altardienst

@@ -1,0 +1,57 @@
+// The helpers of one mass, shown and set by hand.
+#pragma once
+
+#include "application/Nebenfenster.h"
+#include "controls/Zahlbox.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+
+#include <array>
+#include <functional>
+
+namespace altardienst {
+
+/// Works on the mass at `Messe.Cursor`. There is no cancel: what stands on the screen when the
+/// dialog closes is what the mass holds.
+class LektorrenuswForm : public QWidget {
+  public:
+    /// `danach` runs when the dialog has closed.
+    explicit LektorrenuswForm(std::function<void()> danach);
+
+    /// One of the eight places.
+    struct Platz {
+        QLabel *Beschriftung;
+        QComboBox *LH; // LH1 to LH8
+        QLineEdit *Vor;
+        QLineEdit *Nach;
+    };
+
+    std::array<Zahlbox, 4> Zahlen; // Lecki, Kommi, Kanto, Kolt, Änderung1 to 4
+    std::array<Platz, 8> Plätze;   // two for each kind
+    QPushButton *Ende;
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void Anordnen();
+    void Verbinden();
+
+    void Füllen();
+    void ZahlGeändert(std::size_t art);
+    void KomboVerlassen(std::size_t p);
+    void KomboZurück(const Platz &platz);
+    void NamenTeilen();
+    void Melden(const char *meldung);
+    void Schreiben();
+    void Merken();
+
+    std::function<void()> danach;
+    Gezeigt gezeigt;
+    bool meldet = false;
+};
+
+} // namespace altardienst

@@ -1,0 +1,83 @@
+// The content of a window on paper.
+#include "printing/Fensterdruck.h"
+
+#include "paper/DruckerQt.h"
+#include "printing/Druckrahmen.h"
+
+#include <QLayout>
+#include <QPainter>
+#include <QPushButton>
+
+#include <utility>
+
+namespace altardienst {
+namespace {
+
+/// Makes a window ready for paper until it goes: black on white, without command buttons.
+class Druckansicht {
+  public:
+    explicit Druckansicht(QWidget *fenster) : fenster(fenster), fokus(fenster->focusWidget())
+    {
+        for (auto *knopf : fenster->findChildren<QPushButton *>())
+            if (!knopf->isHidden()) {
+                knöpfe.append(knopf);
+                knopf->hide();
+            }
+        // Parts with colours of their own don't take those of the window.
+        Umfärben(fenster);
+        for (auto *teil : fenster->findChildren<QWidget *>())
+            Umfärben(teil);
+        fenster->layout()->activate();
+    }
+    Druckansicht(const Druckansicht &) = delete;
+    Druckansicht &operator=(const Druckansicht &) = delete;
+    ~Druckansicht()
+    {
+        for (const auto &[teil, palette] : farben)
+            teil->setPalette(palette);
+        for (QPushButton *knopf : knöpfe)
+            knopf->show();
+        fenster->layout()->activate();
+        if (fokus)
+            fokus->setFocus();
+    }
+
+  private:
+    void Umfärben(QWidget *teil)
+    {
+        farben.append({teil, teil->palette()});
+        QPalette papier = teil->palette();
+        for (const auto rolle : {QPalette::Window, QPalette::Base})
+            papier.setColor(rolle, Qt::white);
+        for (const auto rolle : {QPalette::WindowText, QPalette::Text})
+            papier.setColor(rolle, Qt::black);
+        teil->setPalette(papier);
+    }
+
+    QWidget *fenster;
+    QWidget *fokus;
+    QList<QPushButton *> knöpfe;
+    QList<std::pair<QWidget *, QPalette>> farben;
+};
+
+/// A printer as the target would give a blown-up screen picture; a QPicture keeps the strokes.
+Druckbild Aufnahme(QWidget *fenster)
+{
+    const Druckansicht ansicht(fenster);
+    Druckbild bild = {QPicture(), fenster->size()};
+    QPainter stift(&bild.Bild);
+    fenster->render(&stift);
+    return bild;
+}
+
+} // namespace
+
+void FensterDrucken(QWidget *fenster)
+{
+    BerichtDrucken({}, [&](int) {
+        Drucker->Picture(Aufnahme(fenster));
+        Drucker->EndDoc();
+    });
+}
+
+} // namespace altardienst

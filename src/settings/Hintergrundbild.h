@@ -1,0 +1,39 @@
+// The picture behind the main window.
+#pragma once
+
+#include "values/Text.h"
+
+#include <QDateTime>
+#include <QPixmap>
+#include <QWidget>
+
+namespace altardienst {
+
+/// Shows the built-in black-and-white picture of 720 x 520 dots, or the picture of a file, as large
+/// as the control allows without distorting it.
+class Hintergrundbild : public QWidget {
+  public:
+    explicit Hintergrundbild(const char *name);
+
+    /// Shows the file, or the built-in picture if the path is empty. Cheap enough for every tick of
+    /// a timer: it looks at the file each time but decodes it only when it changed. A missing or
+    /// unreadable file changes nothing on the screen.
+    void Zeigen(const Text &pfad);
+
+    int Dekodiert() const { return dekodiert; } // how often a file was decoded
+
+  protected:
+    void paintEvent(QPaintEvent *ereignis) override;
+
+  private:
+    void BildSetzen(const QPixmap &neu);
+
+    QPixmap bild;
+    QPixmap passend; // the picture at the present size of the control, in dots of the screen
+    Text gezeigterPfad;
+    QDateTime gezeigterStand;
+    qint64 gezeigteGröße = -1;
+    int dekodiert = 0;
+};
+
+} // namespace altardienst

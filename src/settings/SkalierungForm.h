@@ -1,0 +1,36 @@
+// Print scales and table sizes.
+#pragma once
+
+#include "controls/Zahlbox.h"
+
+#include <QPushButton>
+#include <QWidget>
+
+#include <functional>
+
+namespace altardienst {
+
+/// Every change is stored at once; there is no cancel.
+class SkalierungForm : public QWidget {
+  public:
+    SkalierungForm();
+
+    Zahlbox XSKALA; // XX
+    Zahlbox YSKALA; // YY
+    Zahlbox MDS;    // MDSS
+    Zahlbox MHS;    // MHSS
+    Zahlbox MS;     // MSS
+    Zahlbox MGS;    // MGSS
+    Zahlbox MJS;    // MJSS
+    Zahlbox MVS;    // MVSS
+    QPushButton *Ende;
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void Anordnen();
+    void Verbinden();
+};
+
+} // namespace altardienst

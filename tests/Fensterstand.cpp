@@ -1,0 +1,195 @@
+// The fixture of the tests that drive real windows.
+#include "Fensterstand.h"
+
+#include "application/Anwendung.h"
+#include "paper/Druckdialog.h"
+#include "platform/Drucker.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QPointer>
+#include <QTimer>
+
+namespace altardienst {
+namespace {
+
+constexpr int Geduld = 5000; // ms
+
+MeldungenDienst Meldungsfenster; // the message boxes that the program puts in
+
+QWidget *OffenesFenster(const char *name)
+{
+    const QWidgetList fenster = QApplication::topLevelWidgets();
+    for (QWidget *eines : fenster)
+        if (eines->isVisible() && eines->objectName() == QString::fromUtf8(name))
+            return eines;
+    return nullptr;
+}
+
+void AlleLöschen()
+{
+    HauptfensterSetzen(nullptr);
+    const QWidgetList fenster = QApplication::topLevelWidgets();
+    std::vector<QPointer<QWidget>> eigene(fenster.begin(), fenster.end());
+    for (const auto &eines : eigene)
+        if (eines && !eines->parent()) {
+            eines->hide(); // as the program does: handlers of a lost focus run on a whole window
+            delete eines;
+        }
+}
+
+} // namespace
+
+Text NamenIn(const QObject *fenster)
+{
+    Text namen;
+    for (const QObject *kind : fenster->findChildren<QObject *>())
+        if (!kind->objectName().isEmpty() && !kind->objectName().startsWith("qt_"))
+            namen += kind->objectName().toStdString() + " ";
+    return namen;
+}
+
+Text Aufschrift(const QWidget *control)
+{
+    if (auto *label = qobject_cast<const QLabel *>(control))
+        return label->text().toStdString();
+    if (auto *feld = qobject_cast<const QLineEdit *>(control))
+        return feld->text().toStdString();
+    if (auto *knopf = qobject_cast<const QAbstractButton *>(control))
+        return knopf->text().toStdString();
+    throw std::runtime_error(control->objectName().toStdString() + " shows no text");
+}
+
+void Klick(QWidget *control)
+{
+    QTest::mouseClick(control, Qt::LeftButton);
+}
+
+void Tippen(QWidget *feld, const char *text)
+{
+    FokusAuf(feld);
+    QTest::keyClick(feld, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(feld, Qt::Key_Delete);
+    for (const QChar zeichen : QString::fromUtf8(text)) // umlauts too
+        QTest::sendKeyEvent(QTest::Click, feld, Qt::Key_unknown, QString(zeichen), Qt::NoModifier);
+}
+
+void FokusAuf(QWidget *control)
+{
+    control->setFocus(Qt::TabFocusReason);
+    if (!control->hasFocus())
+        throw std::runtime_error(control->objectName().toStdString() + " did not take the focus");
+}
+
+QColor Grundfarbe(QWidget *knopf)
+{
+    return knopf->grab().toImage().pixelColor(5, knopf->height() / 2);
+}
+
+std::vector<Text> Tabfolge(QWidget *fenster)
+{
+    std::vector<Text> namen;
+    const QWidget *erster = QApplication::focusWidget();
+    const QWidget *jetzt = erster;
+    do {
+        namen.push_back(jetzt->objectName().toStdString());
+        QTest::keyClick(fenster->windowHandle(), Qt::Key_Tab);
+        jetzt = QApplication::focusWidget();
+    } while (jetzt && jetzt != erster && namen.size() < 100);
+    return namen;
+}
+
+std::vector<Text> Stumme(QWidget *fenster)
+{
+    std::vector<Text> namen;
+    for (QWidget *control : fenster->findChildren<QWidget *>()) {
+        if (!control->isVisibleTo(fenster) || control->focusPolicy() == Qt::NoFocus)
+            continue;
+        QAccessibleInterface *hilfe = QAccessible::queryAccessibleInterface(control);
+        if (!hilfe || hilfe->text(QAccessible::Name).isEmpty())
+            namen.push_back(control->objectName().toStdString());
+    }
+    return namen;
+}
+
+Fensterstand::~Fensterstand()
+{
+    AlleLöschen();
+    LetztePdfDatei().clear(); // the next dialog would propose it
+}
+
+void Fensterstand::Zeigen(QWidget *fenster)
+{
+    fenster->show();
+    fenster->activateWindow();
+    if (!QTest::qWaitForWindowActive(fenster))
+        throw std::runtime_error(fenster->objectName().toStdString() + " did not become active");
+}
+
+QWidget *Fensterstand::Fenster(const char *name)
+{
+    if (!Warten([&] { return IstOffen(name); }))
+        throw std::runtime_error("the window " + Text(name) + " did not open");
+    return OffenesFenster(name);
+}
+
+bool Fensterstand::IstOffen(const char *name)
+{
+    return OffenesFenster(name) != nullptr;
+}
+
+bool Fensterstand::Warten(const std::function<bool()> &bedingung)
+{
+    return QTest::qWaitFor(bedingung, Geduld);
+}
+
+int Fensterstand::Programmlauf(const std::function<void()> &beginn)
+{
+    constexpr int NichtBeendet = -99;
+    QTimer wache;
+    wache.setSingleShot(true);
+    QObject::connect(&wache, &QTimer::timeout, [] { QApplication::exit(NichtBeendet); });
+    wache.start(Geduld);
+    QTimer::singleShot(0, [&] {
+        try {
+            beginn();
+        } catch (const std::exception &fehler) {
+            ADD_FAILURE() << fehler.what();
+            QApplication::exit(NichtBeendet);
+        }
+    });
+    const int ergebnis = QApplication::exec();
+    if (ergebnis == NichtBeendet)
+        throw std::runtime_error("the program did not end");
+    return ergebnis;
+}
+
+void Fensterstand::EchteMeldungen()
+{
+    Meldungen = Meldungsfenster;
+}
+
+void Fensterstand::Beantworten(const std::function<void(QMessageBox *)> &antwort)
+{
+    QTimer::singleShot(1, [antwort] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
+            antwort(box);
+        else
+            ADD_FAILURE() << "no message box opened";
+    });
+}
+
+} // namespace altardienst
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    ::testing::InitGoogleTest(&argc, argv);
+    QApplication anwendung(argc, argv);
+    altardienst::DruckerDienst *ohneDrucker = altardienst::Drucker;
+    altardienst::AnwendungEinrichten(anwendung);
+    altardienst::Drucker = ohneDrucker; // a print dialog would wait for someone
+    altardienst::Meldungsfenster = altardienst::Meldungen;
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,84 @@
+// The look of command buttons.
+#include "controls/Stil.h"
+
+#include "Fensterstand.h"
+
+#include <QVBoxLayout>
+
+namespace altardienst {
+namespace {
+
+constexpr QColor Hellgrün(0x00, 0xff, 0x00);
+constexpr QColor Hellgrau(0xc0, 0xc0, 0xc0);
+
+/// How many pixels of the button look like this.
+int Punkte(QWidget *knopf, const QColor &farbe)
+{
+    const QImage bild = knopf->grab().toImage();
+    int anzahl = 0;
+    for (int y = 0; y < bild.height(); ++y)
+        for (int x = 0; x < bild.width(); ++x)
+            anzahl += bild.pixelColor(x, y) == farbe;
+    return anzahl;
+}
+
+class StilTest : public Fensterstand {
+  protected:
+    StilTest()
+    {
+        auto *spalte = new QVBoxLayout(&fenster);
+        spalte->addWidget(feld);
+        spalte->addWidget(knopf);
+        Zeigen(&fenster);
+        FokusAuf(feld);
+    }
+
+    QWidget fenster;
+    QLineEdit *feld = Textfeld("Feld");
+    QPushButton *knopf = Knopf("Knopf", "Drucken");
+};
+
+TEST_F(StilTest, DieFlächeIstHellgrünMitUndHellgrauOhneFokus)
+{
+    const int fläche = knopf->width() * knopf->height() / 2;
+    EXPECT_GT(Punkte(knopf, Hellgrau), fläche);
+    EXPECT_EQ(Punkte(knopf, Hellgrün), 0);
+    FokusAuf(knopf);
+    EXPECT_GT(Punkte(knopf, Hellgrün), fläche);
+    EXPECT_EQ(Punkte(knopf, Hellgrau), 0);
+}
+
+TEST_F(StilTest, DieSchriftIstSchwarzAuchAufEinemDunklenBildschirm)
+{
+    QPalette dunkel;
+    dunkel.setColor(QPalette::ButtonText, Qt::white);
+    knopf->setPalette(dunkel);
+    EXPECT_GT(Punkte(knopf, Qt::black), 0);
+    EXPECT_EQ(Punkte(knopf, Qt::white), 0);
+}
+
+TEST_F(StilTest, EinGesperrterKnopfIstBlaß)
+{
+    knopf->setEnabled(false);
+    EXPECT_EQ(Punkte(knopf, Hellgrau), 0);
+    EXPECT_EQ(Punkte(knopf, Qt::black), 0);
+    EXPECT_EQ(Grundfarbe(knopf), QColor(0xd8, 0xd8, 0xd8));
+}
+
+TEST_F(StilTest, EinGedrückterKnopfHatEinenBreitenRand)
+{
+    const auto rand = [this] { return knopf->grab().toImage().pixelColor(1, knopf->height() / 2); };
+    EXPECT_EQ(rand(), Hellgrau);
+    QTest::mousePress(knopf, Qt::LeftButton);
+    EXPECT_EQ(rand(), QColor(0x60, 0x60, 0x60));
+    QTest::mouseRelease(knopf, Qt::LeftButton);
+}
+
+TEST_F(StilTest, UmDieSchriftBleibtPlatz)
+{
+    const QSize schrift = knopf->fontMetrics().size(Qt::TextShowMnemonic, knopf->text());
+    EXPECT_EQ(knopf->sizeHint(), schrift + QSize(26, 10));
+}
+
+} // namespace
+} // namespace altardienst

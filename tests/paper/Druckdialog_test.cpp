@@ -1,0 +1,173 @@
+// The print dialog on a machine without a printer.
+#include "paper/Druckdialog.h"
+
+#include "Fensterstand.h"
+
+#include <QApplication>
+#include <QPrinterInfo>
+#include <QTimer>
+
+#include <map>
+#include <memory>
+
+namespace altardienst {
+namespace {
+
+const Druckanfrage ZweiFormen = {"Plan mit Namen", "Formular für die Helfer"};
+
+class DruckdialogTest : public Fensterstand {
+  protected:
+    void Öffnen(const Druckanfrage &anfrage)
+    {
+        dialog = std::make_unique<DruckdialogForm>(anfrage);
+        Zeigen(dialog.get());
+    }
+
+    QWidget *Control(const char *name) const { return Finden(dialog.get(), name); }
+    QRadioButton *Option(const char *name) const
+    {
+        return Finden<QRadioButton>(dialog.get(), name);
+    }
+
+    /// Shows the dialog as a report does, and does this with it.
+    static std::optional<Druckauswahl> Ablauf(const std::function<void(QDialog *)> &eingabe)
+    {
+        QTimer::singleShot(1, [eingabe] {
+            auto *offen = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            try {
+                if (!offen || !QTest::qWaitForWindowActive(offen))
+                    throw std::runtime_error("no dialog opened");
+                eingabe(offen);
+            } catch (const std::exception &fehler) {
+                ADD_FAILURE() << fehler.what();
+                if (offen)
+                    offen->reject();
+            }
+        });
+        return DruckdialogZeigen(ZweiFormen);
+    }
+
+    std::unique_ptr<DruckdialogForm> dialog;
+};
+
+TEST_F(DruckdialogTest, OhneDruckerBleibtDasPdf)
+{
+    ASSERT_TRUE(QPrinterInfo::availablePrinterNames().isEmpty());
+    Öffnen({});
+    EXPECT_EQ(dialog->windowTitle(), "Drucken");
+    EXPECT_TRUE(Option("Pdf")->isChecked());
+    for (const char *name : {"Papier", "Druckername", "Einstellungen", "Kopien"})
+        EXPECT_FALSE(Control(name)->isEnabled()) << name;
+    for (const char *name : {"Pdf", "PdfDatei", "Durchsuchen", "OKButton", "CancelButton"})
+        EXPECT_TRUE(Control(name)->isEnabled()) << name;
+    EXPECT_EQ(dialog->Druckername->placeholderText(), "kein Drucker eingerichtet");
+}
+
+TEST_F(DruckdialogTest, AuswahlIstDasPdfMitDerErstenAusführung)
+{
+    Öffnen({});
+    Tippen(Control("PdfDatei"), "/tmp/Plan.pdf");
+    const Druckauswahl auswahl = dialog->Auswahl();
+    EXPECT_EQ(auswahl.Modus, 0);
+    EXPECT_EQ(auswahl.Ziel->outputFormat(), QPrinter::PdfFormat);
+    EXPECT_EQ(auswahl.Ziel->outputFileName(), QString::fromUtf8("/tmp/Plan.pdf"));
+}
+
+TEST_F(DruckdialogTest, DieZweiteAusführungStehtNurZurWahlWoEsSieGibt)
+{
+    Öffnen({});
+    EXPECT_FALSE(Control("Ausführung")->isVisible());
+    Öffnen(ZweiFormen);
+    EXPECT_TRUE(Control("Ausführung")->isVisible());
+    EXPECT_EQ(Aufschrift(Control("ErsteForm")), "Plan mit Namen");
+    EXPECT_EQ(Aufschrift(Control("ZweiteForm")), "Formular für die Helfer");
+    EXPECT_TRUE(Option("ErsteForm")->isChecked());
+}
+
+TEST_F(DruckdialogTest, DieZweiteAusführungIstModusEinsUndÄndertDasZielNicht)
+{
+    Öffnen(ZweiFormen);
+    Klick(Control("ZweiteForm"));
+    EXPECT_EQ(dialog->Auswahl().Modus, 1);
+    EXPECT_TRUE(Option("Pdf")->isChecked());
+    QTest::keyClick(Control("ZweiteForm"), Qt::Key_Left);
+    EXPECT_EQ(dialog->Auswahl().Modus, 0);
+    FokusAuf(Control("Pdf"));
+    QTest::keyClick(Control("Pdf"), Qt::Key_Down);
+    EXPECT_EQ(dialog->Auswahl().Modus, 0);
+    EXPECT_TRUE(Option("Pdf")->isChecked());
+}
+
+TEST_F(DruckdialogTest, OhneDateinamenGibtEsKeinOk)
+{
+    Öffnen({});
+    Tippen(Control("PdfDatei"), "");
+    EXPECT_FALSE(Control("OKButton")->isEnabled());
+    Tippen(Control("PdfDatei"), "x");
+    EXPECT_TRUE(Control("OKButton")->isEnabled());
+}
+
+TEST_F(DruckdialogTest, OkUndEingabetasteWählen)
+{
+    auto auswahl = Ablauf([](QDialog *offen) { Klick(Finden(offen, "OKButton")); });
+    ASSERT_TRUE(auswahl.has_value());
+    EXPECT_EQ(auswahl->Modus, 0);
+    auswahl = Ablauf([](QDialog *offen) {
+        Finden<QRadioButton>(offen, "ZweiteForm")->setChecked(true);
+        QTest::keyClick(offen, Qt::Key_Return);
+    });
+    ASSERT_TRUE(auswahl.has_value());
+    EXPECT_EQ(auswahl->Modus, 1);
+}
+
+TEST_F(DruckdialogTest, AbbrechenEscapeUndSchließenBrechenAb)
+{
+    EXPECT_FALSE(Ablauf([](QDialog *offen) { Klick(Finden(offen, "CancelButton")); }));
+    EXPECT_FALSE(Ablauf([](QDialog *offen) { QTest::keyClick(offen, Qt::Key_Escape); }));
+    EXPECT_FALSE(Ablauf([](QDialog *offen) { offen->close(); }));
+}
+
+TEST_F(DruckdialogTest, DerDateinameIstBeimNächstenMalWiederDa)
+{
+    Ablauf([](QDialog *offen) {
+        Tippen(Finden(offen, "PdfDatei"), "/tmp/einmal.pdf");
+        Klick(Finden(offen, "OKButton"));
+    });
+    Öffnen({});
+    EXPECT_EQ(Aufschrift(Control("PdfDatei")), "/tmp/einmal.pdf");
+    dialog.reset();
+    Ablauf([](QDialog *offen) {
+        Tippen(Finden(offen, "PdfDatei"), "/tmp/anders.pdf");
+        Klick(Finden(offen, "CancelButton"));
+    });
+    Öffnen({});
+    EXPECT_EQ(Aufschrift(Control("PdfDatei")), "/tmp/einmal.pdf");
+}
+
+TEST_F(DruckdialogTest, AlleTexteSindDeutschUndTabFolgtDemAuge)
+{
+    Öffnen(ZweiFormen);
+    const std::map<const char *, const char *> aufschriften = {
+        {"Papier", "Drucker:"},   {"Einstellungen", "Einstellungen..."},
+        {"Pdf", "PDF-Datei:"},    {"Durchsuchen", "Durchsuchen..."},
+        {"OKButton", "OK"},       {"CancelButton", "Abbrechen"},
+        {"KopienText", "Kopien:"}};
+    for (const auto &[name, text] : aufschriften)
+        EXPECT_EQ(Aufschrift(Control(name)), text) << name;
+    FokusAuf(Control("Pdf"));
+    EXPECT_EQ(Tabfolge(dialog.get()), (std::vector<Text>{"Pdf", "PdfDatei", "Durchsuchen",
+                                                         "ErsteForm", "OKButton", "CancelButton"}));
+    // The inner box of `Kopien`, which has the name of the whole.
+    EXPECT_EQ(Stumme(dialog.get()), std::vector<Text>{"qt_spinbox_lineedit"});
+    EXPECT_EQ(Control("Kopien")->accessibleName(), "Kopien");
+}
+
+TEST_F(DruckdialogTest, PasstAufDenKleinstenBildschirm)
+{
+    Öffnen(ZweiFormen);
+    EXPECT_LE(dialog->width(), KleinsterBildschirm.width());
+    EXPECT_LE(dialog->height(), KleinsterBildschirm.height());
+}
+
+} // namespace
+} // namespace altardienst

@@ -1,0 +1,81 @@
+// Reads a PDF back with the poppler tools: its text, where the words stand, fonts, pictures.
+#pragma once
+
+#include "values/Text.h"
+
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+
+#include <stdexcept>
+#include <vector>
+
+namespace altardienst {
+
+/// What a tool writes to its standard output.
+inline Text Aufruf(const char *werkzeug, const QStringList &angaben)
+{
+    QProcess lauf;
+    lauf.start(werkzeug, angaben);
+    if (!lauf.waitForFinished() || lauf.exitCode() != 0)
+        throw std::runtime_error(Text(werkzeug) + ": " + lauf.readAllStandardError().toStdString());
+    return lauf.readAllStandardOutput().toStdString();
+}
+
+/// Positions in points from the upper left corner of the page.
+struct PdfWort {
+    int Seite; // from 1
+    double Links, Oben, Rechts, Unten;
+    Text Inhalt;
+};
+
+struct PdfSeite {
+    double Breite, Höhe; // points
+};
+
+struct PdfInhalt {
+    std::vector<PdfSeite> Seiten;
+    std::vector<PdfWort> Wörter; // as they are read, not as they were printed
+
+    const PdfWort &Wort(const Text &inhalt) const
+    {
+        for (const PdfWort &wort : Wörter)
+            if (wort.Inhalt == inhalt)
+                return wort;
+        throw std::runtime_error("not on the paper: " + inhalt);
+    }
+};
+
+inline PdfInhalt PdfLesen(const QString &datei)
+{
+    PdfInhalt inhalt;
+    const QString html = QString::fromStdString(Aufruf("pdftotext", {"-bbox", datei, "-"}));
+    static const QRegularExpression muster(
+        "<page width=\"([\\d.]+)\" height=\"([\\d.]+)\">|<word xMin=\"([-\\d.]+)\" "
+        "yMin=\"([-\\d.]+)\" xMax=\"([-\\d.]+)\" yMax=\"([-\\d.]+)\">(.*)</word>");
+    for (auto treffer = muster.globalMatch(html); treffer.hasNext();) {
+        const auto t = treffer.next();
+        const auto zahl = [&](int n) { return t.captured(n).toDouble(); };
+        if (!t.captured(1).isEmpty())
+            inhalt.Seiten.push_back({zahl(1), zahl(2)});
+        else
+            inhalt.Wörter.push_back({static_cast<int>(inhalt.Seiten.size()), zahl(3), zahl(4),
+                                     zahl(5), zahl(6), t.captured(7).toStdString()});
+    }
+    return inhalt;
+}
+
+/// The text as it lies on the page.
+inline Text PdfText(const QString &datei)
+{
+    return Aufruf("pdftotext", {"-layout", datei, "-"});
+}
+
+/// The first page, 4 dots to the millimetre.
+inline QImage PdfBild(const QString &datei)
+{
+    Aufruf("pdftoppm", {"-png", "-r", "101.6", "-singlefile", datei, datei});
+    return QImage(datei + ".png");
+}
+
+} // namespace altardienst
