@@ -17,8 +17,6 @@ template <class Tabelle> Personenname NameVon(Tabelle &t, int i)
 
 template <class Tabelle> bool IstAnderer(Tabelle &t, int i, const Personenname &name)
 {
-    if (name.Leer())
-        return false;
     for (int n = 0; n <= t.Anzahl; ++n)
         if (n != i && NameVon(t, n) == name)
             return true;

@@ -16,8 +16,8 @@ struct Personenname {
     bool operator==(const Personenname &) const = default;
 };
 
-// Whether a record other than `i`, the blank slot behind the last one included, bears the name.
-// People without any name are nobody's double; groups without a name are.
+// Whether a record other than `i` bears the name. The blank slot past the last record counts, and
+// as a rule it bears none: an empty name is taken there, except by the blank slot itself.
 bool IstAndererMeßdiener(int i, const Personenname &name);
 bool IstAndererHelfer(int i, const Personenname &name);
 bool IstAndereGruppe(int i, const Text &bezeichnung);

@@ -94,6 +94,57 @@ TEST_F(HelferFormTest, EinVergebenerNameWirdStillZurückgenommen)
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
+TEST_F(HelferFormTest, OhneBeideNamenSpeichertNurDasSchließfeld)
+{
+    Helfer.Straße[2] = "Weg 2";
+    const auto leeren = [this] {
+        Öffnen(1);
+        Schreiben("Vorne", "");
+        Schreiben("Hinten", "");
+        Schreiben("Weg", "Gasse 1");
+    };
+    for (const auto &[weg, danach] : std::initializer_list<std::pair<const char *, const char *>>{
+             {"PLUS", "2"}, {"MINUS", "0"}, {"auf", "2"}, {"ab", "0"}, {"Ende", "1"}}) {
+        SCOPED_TRACE(weg);
+        leeren();
+        Helfer.Straße[1].clear();
+        if (const Text knopf = weg; knopf == "auf" || knopf == "ab")
+            Drehen("DPM", knopf == "auf" ? +1 : -1);
+        else
+            Drücken(weg);
+        EXPECT_EQ(Gezeigt("Indexen"), danach) << "left like any other record";
+        EXPECT_EQ(Helfer.Vorname[1] + Helfer.Nachname[1], "BeaBerg");
+        EXPECT_EQ(Messe.Kollekt2Vor[0] + Messe.Kollekt2Nach[0], "BeaBerg");
+        EXPECT_EQ(Helfer.Straße[1], "Gasse 1");
+    }
+    leeren();
+    Drücken("PLUS"); // shows the next helper, whom closing then writes where he belongs
+    form->close();
+    EXPECT_EQ(Helfer.Straße[1] + "," + Helfer.Straße[2], "Gasse 1,Weg 2");
+    leeren();
+    form->close();
+    EXPECT_EQ(Helfer.Vorname[1] + Helfer.Nachname[1], "");
+    EXPECT_EQ(Messe.Kollekt2Vor[0] + Messe.Kollekt2Nach[0], "BeaBerg");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(HelferFormTest, DerLeerePlatzSelbstDarfOhneNamenBleiben)
+{
+    Öffnen(3);
+    Schreiben("Weg", "Gasse 1");
+    Drücken("MINUS");
+    EXPECT_EQ(Gezeigt("Vorne"), "Cem");
+    EXPECT_EQ(Helfer.Straße[3], "Gasse 1");
+    Helfer.Vorname[3] = "Dora"; // stored, but never adopted
+    Helfer.Nachname[3] = "Dorn";
+    Schreiben("Indexen", "3");
+    Schreiben("Vorne", "");
+    Schreiben("Hinten", "");
+    Drücken("Ende");
+    EXPECT_EQ(Helfer.Vorname[3] + Helfer.Nachname[3], "");
+    EXPECT_EQ(Helfer.Anzahl, 3);
+}
+
 TEST_F(HelferFormTest, GespeichertWirdBeimCursorNichtBeiDerNummer)
 {
     Öffnen(1);

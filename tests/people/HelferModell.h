@@ -87,8 +87,7 @@ struct HelferModell : Modellschirm {
         const Text vor = S(Cursor)[0];
         const Text nach = S(Cursor)[1];
         for (int n = 0; n <= Anzahl; ++n)
-            if (n != nummer && S(n)[0] == Texte["Vorne"] && S(n)[1] == Texte["Hinten"] &&
-                !(S(n)[0].empty() && S(n)[1].empty())) {
+            if (n != nummer && S(n)[0] == Texte["Vorne"] && S(n)[1] == Texte["Hinten"]) {
                 Texte["Vorne"] = vor;
                 Texte["Hinten"] = nach;
             }

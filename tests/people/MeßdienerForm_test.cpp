@@ -68,6 +68,64 @@ TEST_F(MeßdienerFormTest, EinVergebenerNameWirdStillZurückgenommen)
     EXPECT_EQ(Gezeigt("Datensätze"), "2");
 }
 
+TEST_F(MeßdienerFormTest, OhneBeideNamenSpeichertNurDasSchließfeld)
+{
+    MesseMitDienern(Heute, 2);
+    Messe.DienerVor[0][2] = MesseDienerFest.Vorname[0][3] = Meßdiener.WunschVorname[0] = "Bea";
+    Messe.DienerNach[0][2] = MesseDienerFest.Nachname[0][3] = Meßdiener.WunschNachname[0] = "Berg";
+    const auto leeren = [this] {
+        Öffnen(1);
+        Schreiben("Vornamen", "");
+        Schreiben("Nachnamen", "");
+        Schreiben("Straßen", "Gasse 1");
+    };
+    const auto benannt = [] {
+        return Meßdiener.Vorname[1] + Meßdiener.Nachname[1] + Messe.DienerVor[0][2] +
+               Messe.DienerNach[0][2] + MesseDienerFest.Vorname[0][3] +
+               MesseDienerFest.Nachname[0][3] + Meßdiener.WunschVorname[0] +
+               Meßdiener.WunschNachname[0];
+    };
+    for (const auto &[weg, danach] : std::initializer_list<std::pair<const char *, const char *>>{
+             {"PLUS", "2"}, {"MINUS", "0"}, {"auf", "2"}, {"ab", "0"}, {"Ende", "1"}}) {
+        SCOPED_TRACE(weg);
+        leeren();
+        Meßdiener.Straße[1].clear();
+        if (const Text knopf = weg; knopf == "auf" || knopf == "ab")
+            Drehen("DPM", knopf == "auf" ? +1 : -1);
+        else
+            Drücken(weg);
+        EXPECT_EQ(Gezeigt("Datensätze"), danach) << "left like any other record";
+        EXPECT_EQ(benannt(), "BeaBergBeaBergBeaBergBeaBerg");
+        EXPECT_EQ(Meßdiener.Straße[1], "Gasse 1");
+        EXPECT_TRUE(GezeigteMeldungen.empty());
+        delete form;
+    }
+    leeren();
+    form->close();
+    EXPECT_EQ(benannt(), "BeaBergBeaBergBeaBerg") << "the record alone";
+    EXPECT_EQ(Meßdiener.Anzahl, 3);
+}
+
+TEST_F(MeßdienerFormTest, DerLeerePlatzSelbstDarfOhneNamenBleiben)
+{
+    Öffnen(3);
+    Schreiben("Straßen", "Gasse 1");
+    Drücken("PLUS");
+    EXPECT_EQ(Gezeigt("Datensätze"), "3");
+    EXPECT_EQ(Meßdiener.Straße[3], "Gasse 1");
+    Drücken("MINUS");
+    EXPECT_EQ(Gezeigt("Vornamen"), "Cem");
+    EXPECT_EQ(Meßdiener.Anzahl, 3);
+    Meßdiener.Vorname[3] = "Dora"; // stored, but never adopted
+    Meßdiener.Nachname[3] = "Dorn";
+    Schreiben("Datensätze", "3");
+    Schreiben("Vornamen", "");
+    Schreiben("Nachnamen", "");
+    Drücken("Ende");
+    EXPECT_EQ(Meßdiener.Vorname[3] + Meßdiener.Nachname[3], "");
+    EXPECT_EQ(Meßdiener.Anzahl, 3);
+}
+
 TEST_F(MeßdienerFormTest, UmbenennenErreichtAlleNurDasSchließfeldNicht)
 {
     MesseMitDienern(Heute, 2);

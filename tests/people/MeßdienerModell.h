@@ -108,7 +108,7 @@ struct MeßdienerModell : Modellschirm {
             return S(n)[0] == Texte["Vornamen"] && S(n)[1] == Texte["Nachnamen"];
         };
         for (int n = 0; n <= Anzahl; ++n)
-            if (n != i && heißt(n) && !(S(n)[0].empty() && S(n)[1].empty())) {
+            if (n != i && heißt(n)) {
                 Texte["Vornamen"] = altVor;
                 Texte["Nachnamen"] = altNach;
             }

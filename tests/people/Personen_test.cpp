@@ -184,7 +184,7 @@ TEST_F(PersonenTest, UmbenennenEinesHelfersErreichtAlleAchtPlätze)
         }
 }
 
-TEST_F(PersonenTest, LeereNamenVonPersonenTreffenNiemanden)
+TEST_F(PersonenTest, WerKeinenNamenHatteWirdNirgendsUmbenannt)
 {
     MeßdienerAnlegen("Anna", "Adler");
     HelferAnlegen("Anna", "Adler", "Lektor");
@@ -194,6 +194,17 @@ TEST_F(PersonenTest, LeereNamenVonPersonenTreffenNiemanden)
     EXPECT_EQ(Messe.DienerVor[0][1], "");
     EXPECT_EQ(Messe.Lektor1Vor[0], "");
     EXPECT_EQ(Meßdiener.WunschVorname[0], "");
+}
+
+TEST_F(PersonenTest, DerLeerePlatzTrägtDenLeerenNamen)
+{
+    MeßdienerAnlegen("Anna", "Adler");
+    HelferAnlegen("Anna", "Adler", "Lektor");
+    EXPECT_TRUE(IstAndererMeßdiener(0, {}));
+    EXPECT_TRUE(IstAndererHelfer(0, {}));
+    EXPECT_FALSE(IstAndererMeßdiener(1, {})) << "the blank slot itself";
+    EXPECT_FALSE(IstAndererHelfer(1, {}));
+    Meßdiener.Nachname[1] = Helfer.Nachname[1] = "Dorn";
     EXPECT_FALSE(IstAndererMeßdiener(0, {}));
     EXPECT_FALSE(IstAndererHelfer(0, {}));
 }
