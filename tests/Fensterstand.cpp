@@ -170,6 +170,22 @@ void Fensterstand::EchteMeldungen()
     Meldungen = Meldungsfenster;
 }
 
+void Fensterstand::MeldungenBestätigen()
+{
+    EchteMeldungen();
+    Meldungen.Zeigen = [this, zeigen = Meldungen.Zeigen](const Text &text) {
+        GezeigteMeldungen.push_back(text);
+        const QPointer<QWidget> zuvor = QApplication::activeWindow();
+        Beantworten([](QMessageBox *box) {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(box));
+            box->accept();
+        });
+        zeigen(text);
+        if (zuvor)
+            Zeigen(zuvor); // as a desktop does
+    };
+}
+
 void Fensterstand::Beantworten(const std::function<void(QMessageBox *)> &antwort)
 {
     QTimer::singleShot(1, [antwort] {

@@ -69,6 +69,10 @@ class Fensterstand : public Prüfstand {
     /// From here on messages and questions are the real message boxes.
     static void EchteMeldungen();
 
+    /// The same, and each message is written down and confirmed once it has taken the focus; then
+    /// the window in front of which it stood has it again.
+    void MeldungenBestätigen();
+
     /// Called before a message box opens: looks at it and closes it, as soon as it is there.
     static void Beantworten(const std::function<void(QMessageBox *)> &antwort);
 };

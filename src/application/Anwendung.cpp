@@ -1,11 +1,12 @@
 // What holds for all windows.
 #include "application/Anwendung.h"
 
-#include "application/Deutsch.h"
-#include "application/Wartezeiger.h"
 #include "controls/Bausteine.h"
-#include "controls/Stil.h"
+#include "application/Deutsch.h"
 #include "paper/Druckdialog.h"
+#include "controls/Stil.h"
+#include "controls/Verlassen.h"
+#include "application/Wartezeiger.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 #include "platform/Systeminfo.h"
@@ -45,6 +46,7 @@ QMessageBox::StandardButton MeldungZeigen(const Text &text, const Text &titel,
                                           QMessageBox::StandardButton vorgabe)
 {
     const OhneWartezeiger ohne;
+    const OhneVerlassen ruhe; // the box that loses the focus to the message has it again after it
     QMessageBox box(QApplication::activeWindow());
     box.setObjectName("Meldung");
     box.setWindowTitle(Anzeige(titel));

@@ -1,9 +1,10 @@
 // Small pieces of every form.
 #include "controls/Bausteine.h"
 
+#include "values/Ansi.h"
 #include "controls/Textwahl.h"
 #include "controls/Tippgedächtnis.h"
-#include "values/Ansi.h"
+#include "controls/Verlassen.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -113,7 +114,7 @@ void BeiFokusVerlust(QWidget *control, std::function<void()> handler)
     new Ereignisfilter(
         control,
         [](QEvent *ereignis) {
-            if (ereignis->type() != QEvent::FocusOut)
+            if (ereignis->type() != QEvent::FocusOut || OhneVerlassen::Gilt())
                 return false;
             const Qt::FocusReason grund = static_cast<QFocusEvent *>(ereignis)->reason();
             const bool anderesProgramm =

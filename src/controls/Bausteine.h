@@ -35,6 +35,9 @@ QLabel *Beschriftung(const char *name, const char *text, QWidget *zu = nullptr);
 QLineEdit *Textfeld(const char *name);
 
 // Events. The handlers come wrapped in their kind (controls/Handler.h).
+
+/// Runs when the user leaves the control for another one or another window of the program; see
+/// controls/Verlassen.h for what is no leaving.
 void BeiFokusVerlust(QWidget *control, std::function<void()> handler);
 void BeiEingabetaste(QLineEdit *feld, std::function<void()> handler);
 void BeiKlick(QWidget *control,

@@ -1,8 +1,9 @@
 // Reading the boxes of a form for a save.
 #pragma once
 
-#include "controls/Bausteine.h"
 #include "values/Laufzeitfehler.h"
+#include "controls/Bausteine.h"
+#include "controls/Verlassen.h"
 
 #include <QScrollArea>
 
@@ -11,12 +12,14 @@
 namespace altardienst {
 
 /// What `lesen` makes of the text of a box. If it fails, the box takes the focus and rolls into
-/// view, so that the message, which names no box, leaves the user where the mistake is.
+/// view, so that the message, which names no box, leaves the user where the mistake is. The box
+/// that had the focus has not been left by that.
 template <class Wert> Wert Gelesen(QLineEdit *feld, Wert (*lesen)(std::string_view))
 {
     try {
         return lesen(TextVon(feld));
     } catch (const Laufzeitfehler &) {
+        const OhneVerlassen ruhe;
         feld->setFocus();
         for (QWidget *um = feld->parentWidget(); um; um = um->parentWidget())
             if (auto *fläche = qobject_cast<QScrollArea *>(um))

@@ -265,20 +265,20 @@ void Zuordnungsfelder::ZeilenLeeren(int ab) const
 
 /// The first slot with an unknown text goes back to its names; those behind it are not checked this
 /// time.
-void Zuordnungsfelder::ZuordnungenPrüfen()
+void Zuordnungsfelder::ZuordnungenPrüfen() const
 {
     for (const Slot &slot : Slots) {
         const Text text = TextVon(slot.MDiener);
         if (text.empty() || IstZuordnung(text))
             continue;
         NameZeigen(slot);
-        return Melden("FEHLEINGABE!!!");
+        return Meldungen.Zeigen("FEHLEINGABE!!!");
     }
 }
 
 /// Who stands in two slots is taken out of the one that is left: the entry that was there first
 /// wins.
-void Zuordnungsfelder::SlotVerlassen(const Slot &slot)
+void Zuordnungsfelder::SlotVerlassen(const Slot &slot) const
 {
     ZuordnungenPrüfen();
     const Text text = TextVon(slot.MDiener);
@@ -288,10 +288,10 @@ void Zuordnungsfelder::SlotVerlassen(const Slot &slot)
     Übernehmen();
 }
 
-void Zuordnungsfelder::MesseVerlassen()
+void Zuordnungsfelder::MesseVerlassen() const
 {
     if (!IstMesse(TextVon(Messen))) {
-        Melden("Messe ist unbekannt!! Auswählen oder neu eingeben!!");
+        Meldungen.Zeigen("Messe ist unbekannt!! Auswählen oder neu eingeben!!");
         return MesseZeigen();
     }
     if (Länge(TextVon(Messen)) < KürzestesTermintext)
@@ -300,13 +300,6 @@ void Zuordnungsfelder::MesseVerlassen()
     if (const auto zahl = DienerzahlDerMesse(DatumIn(DatumD), DatumIn(Zeitd)))
         unterschiede.DienerzahlAblegen(*zahl);
     MeßdienerZeilenEinblenden();
-}
-
-void Zuordnungsfelder::Melden(const char *meldung)
-{
-    const bool zuvor = std::exchange(still, true);
-    Meldungen.Zeigen(meldung);
-    still = zuvor;
 }
 
 } // namespace altardienst

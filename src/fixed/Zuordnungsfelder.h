@@ -75,13 +75,12 @@ class Zuordnungsfelder {
 
   private:
     static void NameZeigen(const Slot &slot);
-    void ZuordnungenPrüfen();
-    void SlotVerlassen(const Slot &slot);
-    void MesseVerlassen();
-    void Melden(const char *meldung);
+    void ZuordnungenPrüfen() const;
+    void SlotVerlassen(const Slot &slot) const;
+    void MesseVerlassen() const;
 
     Unterschiede unterschiede;
-    bool still = false; // also while a message is open, which takes the focus
+    bool still = false;
 };
 
 } // namespace altardienst

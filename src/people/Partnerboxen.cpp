@@ -77,15 +77,13 @@ void Partnerboxen::PartnerZeigen() const
     Setzen(Partner, beide ? Listenname(nachname, vorname) : Text());
 }
 
-/// The boxes are set before a message appears, as the message takes the focus and the box is left
-/// then.
 void Partnerboxen::Prüfen(const QLineEdit *nummer, const Personenname &selbst,
                           bool ausgewählt) const
 {
     const Text text = TextVon(Partner);
     if (!text.empty() && !IstBekannt(text)) {
-        PartnerZeigen();
-        return Meldungen.Zeigen("Meßdiener ist unbekannt!! Auswählen oder neu eingeben!!");
+        Meldungen.Zeigen("Meßdiener ist unbekannt!! Auswählen oder neu eingeben!!");
+        return PartnerZeigen();
     }
     Text nachname = TextVon(NName);
     Text vorname = TextVon(VName);
@@ -99,9 +97,9 @@ void Partnerboxen::Prüfen(const QLineEdit *nummer, const Personenname &selbst,
         if (ausgewählt)
             Meldungen.Zeigen("Ein und dieselbe Person!!!");
     } else if (IstVergeben(partner, ZahlIn(nummer))) {
-        Leeren();
         if (ausgewählt && !text.empty())
             Meldungen.Zeigen("Schon mal zugeordnet!!!!!");
+        Leeren();
     }
 }
 

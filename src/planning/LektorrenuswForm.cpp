@@ -9,6 +9,7 @@
 #include "core/Namen.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
+#include "controls/Verlassen.h"
 #include "platform/Meldungen.h"
 
 #include <QCloseEvent>
@@ -149,8 +150,8 @@ void LektorrenuswForm::Verbinden()
             if (!isVisible())
                 return;
             for (std::size_t p = 0; p < Plätze.size(); ++p)
-                if (Plätze[p].LH == focusWidget())
-                    KomboVerlassen(p);
+                if (Plätze[p].LH == focusWidget() && !OhneVerlassen::Gilt())
+                    KomboVerlassen(p); // not while the message about it is open
             if (gezeigt.Getippt() && !gezeigt.Überholt())
                 Schreiben();
         },
@@ -162,6 +163,7 @@ void LektorrenuswForm::Verbinden()
 
 void LektorrenuswForm::Füllen()
 {
+    const OhneVerlassen ruhe; // a place that is switched off now loses the focus half filled in
     const int i = Messe.Cursor;
     for (std::size_t art = 0; art < Zahlen.size(); ++art)
         ZahlSetzen(Zahlen[art].Feld, (*Zahlspalten()[art])[i]);
@@ -196,28 +198,18 @@ void LektorrenuswForm::ZahlGeändert(std::size_t art)
 
 void LektorrenuswForm::KomboVerlassen(std::size_t p)
 {
-    if (meldet)
-        return;
     const Platz &platz = Plätze[p];
     const Text text = TextVon(platz.LH);
     for (std::size_t q = 0; q < Plätze.size(); ++q) {
         if (q == p || text.empty() || TextVon(Plätze[q].LH) != text)
             continue;
-        Melden("Meßhelfer ist schon dieser Messe zugeordnet!!!");
+        Meldungen.Zeigen("Meßhelfer ist schon dieser Messe zugeordnet!!!");
         return KomboZurück(platz);
     }
     if (text.empty() || IstHelfer(text))
         return NamenTeilen();
-    Melden("Meßhelfer ist unbekannt!! Auswählen oder neu eingeben!!");
+    Meldungen.Zeigen("Meßhelfer ist unbekannt!! Auswählen oder neu eingeben!!");
     KomboZurück(platz);
-}
-
-/// The message takes the focus from the box that has just got it; that is no leaving.
-void LektorrenuswForm::Melden(const char *meldung)
-{
-    meldet = true;
-    Meldungen.Zeigen(meldung);
-    meldet = false;
 }
 
 /// Back to the names of the place.

@@ -45,13 +45,11 @@ class LektorrenuswForm : public QWidget {
     void KomboVerlassen(std::size_t p);
     void KomboZurück(const Platz &platz);
     void NamenTeilen();
-    void Melden(const char *meldung);
     void Schreiben();
     void Merken();
 
     std::function<void()> danach;
     Gezeigt gezeigt;
-    bool meldet = false;
 };
 
 } // namespace altardienst

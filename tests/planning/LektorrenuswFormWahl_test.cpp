@@ -1,4 +1,5 @@
 // The helpers of a mass: choosing a person.
+#include "application/Nebenfenster.h"
 #include "planning/Lektorenstand.h"
 
 namespace altardienst {
@@ -95,6 +96,31 @@ TEST_F(LektorrenuswFormWahlTest, EinUnbekannterGehtAuchAufDemWegZumNächstenPlat
         EXPECT_EQ(Zeigt("Lecki1nach"), "Abel");
         delete form;
     }
+}
+
+TEST_F(LektorrenuswFormWahlTest, WasDasHauptfensterAbschaltetWirdNichtVerlassen)
+{
+    Öffnen();
+    FokusAuf(LH(0));
+    HauptfensterHandelt([] {
+        Messe.LektorZahl[2] = 0;
+        Helfer.Nachname[0] = "Ahorn";
+    });
+    EXPECT_FALSE(IstAktiv(0));
+    EXPECT_FALSE(LH(0)->hasFocus());
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
+}
+
+TEST_F(LektorrenuswFormWahlTest, NebenDerMeldungKommtKeineZweiteVomHauptfenster)
+{
+    Öffnen();
+    FokusAuf(LH(0));
+    LH(0)->setEditText("Niemand,Nina");
+    MeldungenBestätigen();
+    QWidget anderes;
+    Zeigen(&anderes); // what was typed is also written then
+    EXPECT_TRUE(Warten([&] { return Gewählt(0) == "Abel,Anna"; }));
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{Unbekannt});
 }
 
 TEST_F(LektorrenuswFormWahlTest, DoppeltGiltVorUnbekannt)

@@ -249,6 +249,20 @@ TEST_F(KonfigurationOrtFormTest, DieMeldungIstEinFensterUndDanachGehtEsWeiter)
     EXPECT_TRUE(form->isVisible());
 }
 
+TEST_F(KonfigurationOrtFormTest, DieMeldungVerläßtNichtDieTageDieNurBetretenSind)
+{
+    Öffnen();
+    MeldungenBestätigen();
+    Einfügen("Örtchus", "4");
+    Finden<QLineEdit>(form, "tagilein")->setText("150"); // allowed until the box is left
+    Control("tagilein")->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(GezeigteMeldungen, (Liste{ZuKurz}));
+    EXPECT_EQ(Zeigt("tagilein"), "150");
+    EXPECT_TRUE(Control("tagilein")->hasFocus());
+    FokusAuf(Control("Ende"));
+    EXPECT_EQ(Zeigt("tagilein"), "120");
+}
+
 TEST_F(KonfigurationOrtFormTest, BeimSchließenWirdNichtsGeprüft)
 {
     Öffnen();

@@ -1,0 +1,22 @@
+// When a box that loses the focus has not been left.
+#pragma once
+
+namespace altardienst {
+
+/// As long as one lives, no box counts as left, whatever becomes of the focus: a message box has
+/// taken it for a while, or the program has moved it to the box that a save failed at. Neither was
+/// the user's doing, and rules that ran now would bring further messages or change what he typed.
+class OhneVerlassen {
+  public:
+    OhneVerlassen() { ++zahl; }
+    ~OhneVerlassen() { --zahl; }
+    OhneVerlassen(const OhneVerlassen &) = delete;
+    OhneVerlassen &operator=(const OhneVerlassen &) = delete;
+
+    static bool Gilt() { return zahl > 0; }
+
+  private:
+    static inline int zahl = 0;
+};
+
+} // namespace altardienst

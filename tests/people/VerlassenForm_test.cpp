@@ -1,0 +1,144 @@
+// Messages and failed saves in the editors of the people: neither leaves a box that the user has
+// not left.
+#include "people/Personenfenster.h"
+
+namespace altardienst {
+namespace {
+
+const Text Stop = "Laufzeitfehler '13': Typen unverträglich";
+const Text UnbekannteGruppe = "Die Gruppe ist unbekannt!!";
+const Text UnbekannterPartner = "Meßdiener ist unbekannt!! Auswählen oder neu eingeben!!";
+
+class VerlassenForm : public Personenfenster {
+  protected:
+    VerlassenForm()
+    {
+        Konfig.PlzOrt = "48999 Beispielort";
+        Meßdiener.WunschVorname[0] = "Bea";
+        Meßdiener.WunschNachname[0] = "Berg";
+    }
+
+    /// Types into a box and stays in it.
+    void Eintippen(const char *box, const Text &text)
+    {
+        FokusAuf(C(box));
+        Schreiben(box, text);
+    }
+    void Taste(Qt::Key taste) { QTest::keyClick(QApplication::focusWidget(), taste); }
+};
+
+TEST_F(VerlassenForm, NachEinemUnbekanntenPartnerIstDieGruppeNurBetreten)
+{
+    Öffnen("Meßdiener");
+    MeldungenBestätigen();
+    Schreiben("Dieenst", "Grau");
+    Eintippen("Partner", "Niemand");
+    C("Dieenst")->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{UnbekannterPartner});
+    EXPECT_EQ(Gezeigt("Partner"), "Berg,Bea");
+    EXPECT_EQ(Gezeigt("Dieenst"), "Grau");
+    EXPECT_TRUE(C("Dieenst")->hasFocus());
+    FokusAuf(C("Vornamen"));
+    EXPECT_EQ(GezeigteMeldungen, (std::vector<Text>{UnbekannterPartner, UnbekannteGruppe}));
+    EXPECT_EQ(Gezeigt("Dieenst"), "Rot");
+}
+
+TEST_F(VerlassenForm, NachEinerUnbekanntenGruppeIstDerPartnerNurBetreten)
+{
+    Öffnen("Meßdiener");
+    MeldungenBestätigen();
+    Schreiben("Partner", "Niemand");
+    Eintippen("Dieenst", "Grau");
+    C("Partner")->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{UnbekannteGruppe});
+    EXPECT_EQ(Gezeigt("Dieenst"), "Rot");
+    EXPECT_EQ(Gezeigt("Partner"), "Niemand");
+    EXPECT_TRUE(C("Partner")->hasFocus());
+    FokusAuf(C("Vornamen"));
+    EXPECT_EQ(GezeigteMeldungen, (std::vector<Text>{UnbekannteGruppe, UnbekannterPartner}));
+}
+
+TEST_F(VerlassenForm, EinGescheitertesSpeichernMeldetNurSich)
+{
+    for (const auto &[box, getippt, fehler] :
+         std::vector<std::array<const char *, 3>>{{"Partner", "Niemand", "Postleit"},
+                                                  {"Dieenst", "Grau", "Postleit"},
+                                                  {"Postleit", "123456", "Gebutag"}}) {
+        SCOPED_TRACE(box);
+        Öffnen("Meßdiener");
+        MeldungenBestätigen();
+        GezeigteMeldungen.clear();
+        Schreiben(fehler, "abc");
+        Eintippen(box, getippt);
+        Taste(Qt::Key_PageUp);
+        EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{Stop});
+        EXPECT_EQ(Gezeigt(box), getippt);
+        EXPECT_EQ(Gezeigt("VName") + Gezeigt("NName"), "BeaBerg");
+        EXPECT_TRUE(C(fehler)->hasFocus());
+    }
+}
+
+TEST_F(VerlassenForm, DiePostleitzahlEinesHelfersBleibtBeimGescheitertenSpeichernWieGetippt)
+{
+    for (const auto &[getippt, fehler, meldung] : std::vector<std::array<Text, 3>>{
+             {"123456", "Tagen", Stop},
+             {"-7", "Schluß3", Stop},
+             {"3000000000", "PLZetus", "Laufzeitfehler '6': Überlauf"}}) {
+        SCOPED_TRACE(getippt);
+        Öffnen("Helfer");
+        MeldungenBestätigen();
+        GezeigteMeldungen.clear();
+        if (fehler != "PLZetus")
+            Schreiben(fehler.c_str(), "abc");
+        Eintippen("PLZetus", getippt);
+        Taste(Qt::Key_PageUp);
+        EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{meldung});
+        EXPECT_EQ(Gezeigt("PLZetus"), getippt);
+        EXPECT_TRUE(C(fehler.c_str())->hasFocus());
+        FokusAuf(C("PLZetus"));
+        FokusAuf(C("Wohort"));
+        EXPECT_EQ(Gezeigt("PLZetus"), getippt == "-7" ? "0" : "48999") << "left by the user";
+    }
+}
+
+// What the boxes show while the user reads the message.
+TEST_F(VerlassenForm, ErstDieMeldungDannGehtDerPartnerZurück)
+{
+    Meßdiener.WunschVorname[1] = "Cem";
+    Meßdiener.WunschNachname[1] = "Cohn";
+    Öffnen("Meßdiener");
+    std::vector<Text> dabei;
+    Meldungen.Zeigen = [&](const Text &) { dabei.push_back(Gezeigt("Partner")); };
+    const auto auswählen = [&](const char *name) {
+        auto *partner = Finden<QComboBox>(form, "Partner");
+        partner->setCurrentIndex(partner->findText(name));
+        Q_EMIT partner->activated(partner->currentIndex());
+        EXPECT_EQ(Gezeigt("Partner"), "");
+    };
+    Schreiben("Partner", "Niemand");
+    Verlassen("Partner");
+    EXPECT_EQ(Gezeigt("Partner"), "Berg,Bea");
+    auswählen("Cohn,Cem");   // whom someone else has
+    auswählen("Adler,Anna"); // herself
+    EXPECT_EQ(dabei, (std::vector<Text>{"Niemand", "Cohn,Cem", ""}));
+}
+
+TEST_F(VerlassenForm, EineFrageVerläßtDieBoxNicht)
+{
+    Öffnen("Meßdiener");
+    MeldungenBestätigen();
+    Eintippen("Partner", "Niemand");
+    for (const bool ja : {false, true}) {
+        Beantworten([ja](QMessageBox *box) {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(box));
+            box->button(ja ? QMessageBox::Yes : QMessageBox::No)->click();
+        });
+        Drücken("Lösch"); // as a screen reader presses it, which leaves the focus where it is
+        EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
+        Zeigen(form);
+    }
+    EXPECT_EQ(Meßdiener.Anzahl, 2);
+}
+
+} // namespace
+} // namespace altardienst
