@@ -39,16 +39,7 @@ int HöchsterEintrag()
 
 MesseDienerFestForm::MesseDienerFestForm()
     : Wahl(new Datensatzwahl({"Index", "Plus", "Minus", "DatensatzWechsel"})),
-      MaxIndex(Beschriftung("MaxIndex", "")),
-      Felder({.Leereintrag = true,
-              .Dienerzahl = [] {
-    return MesseDienerFest.Index[MesseDienerFest.Cursor]; },
-              .DienerzahlAblegen =
-                  [this](Int16 zahl) {
-    MesseDienerFest.Index[ZahlIn(Wahl->Nummer)] = zahl; },
-              .Dienste = []() -> auto & { return MesseDienerFest.Dienst[MesseDienerFest.Cursor];
-} // namespace altardienst
-}),
+      MaxIndex(Beschriftung("MaxIndex", "")), Felder(Unterschiede()),
       Hinzu(Knopf("Hinzu", "Datensatz hinzufügen")), Löschen(Knopf("Löschen", "Datensatz löschen")),
       OKbutton(Knopf("OKbutton", "OK"))
 {
@@ -63,6 +54,21 @@ MesseDienerFestForm::MesseDienerFestForm()
         Felder.ListenFüllen();
         Aufschlagen();
     })();
+}
+
+/// What the fields show and set belongs to the entry at the cursor, and to the number typed.
+Zuordnungsfelder::Unterschiede MesseDienerFestForm::Unterschiede()
+{
+    Zuordnungsfelder::Unterschiede unterschiede;
+    unterschiede.Leereintrag = true;
+    unterschiede.Dienerzahl = [] { return MesseDienerFest.Index[MesseDienerFest.Cursor]; };
+    unterschiede.DienerzahlAblegen = [this](Int16 zahl) {
+        MesseDienerFest.Index[ZahlIn(Wahl->Nummer)] = zahl;
+    };
+    unterschiede.Dienste = []() -> Zuordnungsfelder::Dienstnamen & {
+        return MesseDienerFest.Dienst[MesseDienerFest.Cursor];
+    };
+    return unterschiede;
 }
 
 MesseDienerFestForm *MesseDienerFestForm::Offene()
@@ -103,7 +109,7 @@ void MesseDienerFestForm::Verbinden()
     Wahl->DPM->BeiAb(Abgefangen([this] { Wechseln(-1); }));
     Wahl->DPM->BeiAuf(Abgefangen([this] { Wechseln(+1); }));
     Felder.Verbinden();
-    connect(Hinzu, &QPushButton::clicked, this, [this] { Hinzufügen(); });
+    connect(Hinzu, &QPushButton::clicked, this, Abgefangen([this] { Hinzufügen(); }));
     connect(Löschen, &QPushButton::clicked, this, Abgefangen([this] { EintragLöschen(); }));
     connect(OKbutton, &QPushButton::clicked, this, Abgefangen([this] {
                 Speichern();
@@ -167,9 +173,10 @@ void MesseDienerFestForm::Wechseln(int richtung)
 
 void MesseDienerFestForm::Hinzufügen()
 {
-    setEnabled(false);
+    auto *dialog = new NeuMesseDienerFestForm;
+    setEnabled(false); // not before: where the dialog fails, this one stays in use
     showMinimized();
-    DialogDanebenÖffnen(new NeuMesseDienerFestForm);
+    DialogDanebenÖffnen(dialog);
 }
 
 void MesseDienerFestForm::EintragLöschen()

@@ -27,6 +27,7 @@ class MesseDienerFestForm : public QWidget {
 
   private:
     MesseDienerFestForm();
+    Zuordnungsfelder::Unterschiede Unterschiede();
     void Anordnen();
     void Verbinden();
 

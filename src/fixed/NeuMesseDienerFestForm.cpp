@@ -24,15 +24,8 @@ constexpr int MeisteEinträge = 200;
 } // namespace
 
 NeuMesseDienerFestForm::NeuMesseDienerFestForm()
-    : Felder({.Leereintrag = false,
-              .Dienerzahl = [this] {
-    return DienerAnzahl; },
-              .DienerzahlAblegen = [this](Int16 zahl) {
-    DienerAnzahl = zahl; },
-              .Dienste = [this]() -> auto & { return Dienste;
-} // namespace altardienst
-}),
-      Anfügen(Knopf("Anfügen", "Anfügen")), Abrechen(Knopf("Abrechen", "Abbrechen"))
+    : Felder(Unterschiede()), Anfügen(Knopf("Anfügen", "Anfügen")),
+      Abrechen(Knopf("Abrechen", "Abbrechen"))
 {
     Benannt(this, "NeuMesseDienerFest");
     setWindowTitle("Meßdiener Messe zuordnen");
@@ -44,6 +37,17 @@ NeuMesseDienerFestForm::NeuMesseDienerFestForm()
         Felder.ListenFüllen();
         Vorschlagen();
     })();
+}
+
+/// There is no entry yet, so that the form itself keeps what belongs to one.
+Zuordnungsfelder::Unterschiede NeuMesseDienerFestForm::Unterschiede()
+{
+    Zuordnungsfelder::Unterschiede unterschiede;
+    unterschiede.Leereintrag = false;
+    unterschiede.Dienerzahl = [this] { return DienerAnzahl; };
+    unterschiede.DienerzahlAblegen = [this](Int16 zahl) { DienerAnzahl = zahl; };
+    unterschiede.Dienste = [this]() -> Zuordnungsfelder::Dienstnamen & { return Dienste; };
+    return unterschiede;
 }
 
 void NeuMesseDienerFestForm::Anordnen()

@@ -21,6 +21,7 @@ class NeuMesseDienerFestForm : public QWidget {
     void closeEvent(QCloseEvent *ereignis) override;
 
   private:
+    Zuordnungsfelder::Unterschiede Unterschiede();
     void Anordnen();
     void Verbinden();
 
