@@ -3,6 +3,8 @@
 
 #include "application/Anwendung.h"
 #include "paper/Druckdialog.h"
+#include "application/Fangnetz.h"
+#include "controls/Unerwartetes.h"
 #include "platform/Drucker.h"
 
 #include <QAbstractButton>
@@ -116,6 +118,11 @@ std::vector<Text> Stumme(QWidget *fenster)
 Fensterstand::~Fensterstand()
 {
     AlleLöschen();
+    for (const Text &text : GezeigteMeldungen)
+        if (text.starts_with("Unerwarteter Fehler"))
+            ADD_FAILURE() << text;
+    Meldungen.Zeigen = [](const Text &text) { ADD_FAILURE() << "after the test: " << text; };
+    UnerwartetesZeigen();
     LetztePdfDatei().clear(); // the next dialog would propose it
 }
 
@@ -196,13 +203,34 @@ void Fensterstand::Beantworten(const std::function<void(QMessageBox *)> &antwort
     });
 }
 
+namespace {
+
+/// The program's application object, but what the fixtures throw within an event fails the test.
+class Prüfanwendung : public Fangnetz {
+  public:
+    using Fangnetz::Fangnetz;
+
+    bool notify(QObject *empfänger, QEvent *ereignis) override
+    {
+        try {
+            return QApplication::notify(empfänger, ereignis);
+        } catch (const std::runtime_error &fehler) {
+            ADD_FAILURE() << fehler.what();
+            return true;
+        } catch (...) {
+            return Auffangen(ereignis);
+        }
+    }
+};
+
+} // namespace
 } // namespace altardienst
 
 int main(int argc, char *argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     ::testing::InitGoogleTest(&argc, argv);
-    QApplication anwendung(argc, argv);
+    altardienst::Prüfanwendung anwendung(argc, argv);
     altardienst::DruckerDienst *ohneDrucker = altardienst::Drucker;
     altardienst::AnwendungEinrichten(anwendung);
     altardienst::Drucker = ohneDrucker; // a print dialog would wait for someone

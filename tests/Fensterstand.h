@@ -47,7 +47,8 @@ constexpr QSize KleinsterBildschirm(680, 484);
 /// Names of the controls that take the focus but have no spoken name.
 std::vector<Text> Stumme(QWidget *fenster);
 
-/// Windows that are left over are deleted behind each test.
+/// Windows that are left over are deleted after each test. A failure that nobody reckoned with
+/// fails it, unless it clears the message about it.
 class Fensterstand : public Prüfstand {
   protected:
     ~Fensterstand() override;

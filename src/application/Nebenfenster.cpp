@@ -33,9 +33,9 @@ void Alle(std::function<void()> Nebenfenster::*tun)
 void NebenDemHauptfenster(QWidget *form, std::function<void()> ablegen,
                           std::function<void()> erneuern)
 {
-    BeiRückkehr(form, Abgefangen(erneuern), [form, ablegen] {
-        QTimer::singleShot(0, form, Abgefangen(ablegen)); // behind the box that is left
-    });
+    BeiRückkehr(form, Abgefangen(erneuern), Abgefangen([form, ablegen] {
+                    QTimer::singleShot(0, form, Abgefangen(ablegen)); // behind the box that is left
+                }));
     alle.push_back({form, std::move(ablegen), std::move(erneuern)});
 }
 

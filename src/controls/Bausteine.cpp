@@ -2,6 +2,7 @@
 #include "controls/Bausteine.h"
 
 #include "values/Ansi.h"
+#include "controls/Handler.h"
 #include "controls/Textwahl.h"
 #include "controls/Tippgedächtnis.h"
 #include "controls/Verlassen.h"
@@ -96,15 +97,15 @@ QLineEdit *Textfeld(const char *name)
     auto *feld = Benannt(new QLineEdit, name);
     feld->setMaxLength(
         std::numeric_limits<int>::max()); // a long text of a file is stored again whole
-    QObject::connect(feld, &QLineEdit::textChanged, feld, [feld](const QString &text) {
-        QString darstellbar = Speicherbar(text);
-        if (darstellbar == text)
-            return;
-        // One "?" may stand for a character that Qt counts as two.
-        const auto stelle = Speicherbar(text.left(feld->cursorPosition())).size();
-        feld->setText(darstellbar);
-        feld->setCursorPosition(static_cast<int>(stelle));
-    });
+    QObject::connect(feld, &QLineEdit::textChanged, feld, Abgefangen([feld](const QString &text) {
+                         QString darstellbar = Speicherbar(text);
+                         if (darstellbar == text)
+                             return;
+                         // One "?" may stand for a character that Qt counts as two.
+                         const auto stelle = Speicherbar(text.left(feld->cursorPosition())).size();
+                         feld->setText(darstellbar);
+                         feld->setCursorPosition(static_cast<int>(stelle));
+                     }));
     new Tippgedächtnis(feld);
     return feld;
 }

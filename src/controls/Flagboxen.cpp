@@ -1,8 +1,9 @@
 // A flag string and the check boxes before it.
 #include "controls/Flagboxen.h"
 
-#include "controls/Bausteine.h"
 #include "values/Text.h"
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
 
 namespace altardienst {
 
@@ -29,7 +30,7 @@ QLayout *Flagboxen::Anordnen(QWidget *fenster, int jeZeile) const
         QCheckBox *box = Boxen[k];
         auto *label = Beschriftung("", namen[k].Text);
         label->setBuddy(box);
-        BeiKlick(label, [box] { box->click(); });
+        BeiKlick(label, Abgefangen([box] { box->click(); }));
         raster->addWidget(box, zeile, spalte);
         raster->addWidget(label, zeile, spalte + 1);
         raster->setColumnMinimumWidth(spalte + 2, 14);
@@ -41,13 +42,13 @@ QLayout *Flagboxen::Anordnen(QWidget *fenster, int jeZeile) const
 void Flagboxen::Verbinden() const
 {
     for (std::size_t k = 0; k < Boxen.size(); ++k)
-        QObject::connect(Boxen[k], &QCheckBox::clicked, Feld, [feld = Feld, k](bool ja) {
-            Setzen(feld, MitFlag(TextVon(feld), static_cast<int>(k) + 1, ja));
-        });
-    QObject::connect(Feld, &QLineEdit::textChanged, Feld, [feld = Feld, boxen = Boxen] {
-        for (std::size_t k = 0; k < boxen.size(); ++k)
-            boxen[k]->setChecked(IstJa(TextVon(feld), static_cast<int>(k) + 1));
-    });
+        QObject::connect(Boxen[k], &QCheckBox::clicked, Feld, Abgefangen([feld = Feld, k](bool ja) {
+                             Setzen(feld, MitFlag(TextVon(feld), static_cast<int>(k) + 1, ja));
+                         }));
+    QObject::connect(Feld, &QLineEdit::textChanged, Feld, Abgefangen([feld = Feld, boxen = Boxen] {
+                         for (std::size_t k = 0; k < boxen.size(); ++k)
+                             boxen[k]->setChecked(IstJa(TextVon(feld), static_cast<int>(k) + 1));
+                     }));
 }
 
 } // namespace altardienst

@@ -2,6 +2,7 @@
 #include "controls/Textwahl.h"
 
 #include "controls/Bausteine.h"
+#include "controls/Handler.h"
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -159,11 +160,11 @@ void BeiAuswahl(QComboBox *wahl, std::function<void()> handler)
 
 void BeiVerlassen(QComboBox *wahl, std::function<void()> handler)
 {
-    BeiFokusVerlust(wahl, [wahl, handler = std::move(handler)] {
-        EintragAngleichen(wahl);
-        handler();
-        EintragAngleichen(wahl);
-    });
+    BeiFokusVerlust(wahl, Abgefangen([wahl, handler = std::move(handler)] {
+                        EintragAngleichen(wahl);
+                        handler();
+                        EintragAngleichen(wahl);
+                    }));
 }
 
 } // namespace altardienst

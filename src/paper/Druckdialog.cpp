@@ -3,6 +3,7 @@
 
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
 #include "platform/Meldungen.h"
 
 #include <QApplication>
@@ -132,15 +133,15 @@ void DruckdialogForm::Anordnen()
 
 void DruckdialogForm::Verbinden()
 {
-    connect(Papier, &QRadioButton::toggled, this, [this] { ZielGewählt(); });
-    connect(PdfDatei, &QLineEdit::textChanged, this, [this] { ZielGewählt(); });
-    connect(Einstellungen, &QPushButton::clicked, this, [this] { EinstellungenZeigen(); });
-    connect(Durchsuchen, &QPushButton::clicked, this, [this] { PdfSuchen(); });
-    BeiFokusVerlust(PdfDatei, [this] {
-        if (const QString pfad = PdfPfad(); !pfad.isEmpty())
-            PdfDatei->setText(pfad);
-    });
-    connect(OKButton, &QPushButton::clicked, this, [this] { Bestätigen(); });
+    connect(Papier, &QRadioButton::toggled, this, Abgefangen([this] { ZielGewählt(); }));
+    connect(PdfDatei, &QLineEdit::textChanged, this, Abgefangen([this] { ZielGewählt(); }));
+    connect(Einstellungen, &QPushButton::clicked, this, Offen([this] { EinstellungenZeigen(); }));
+    connect(Durchsuchen, &QPushButton::clicked, this, Offen([this] { PdfSuchen(); }));
+    BeiFokusVerlust(PdfDatei, Abgefangen([this] {
+                        if (const QString pfad = PdfPfad(); !pfad.isEmpty())
+                            PdfDatei->setText(pfad);
+                    }));
+    connect(OKButton, &QPushButton::clicked, this, Offen([this] { Bestätigen(); }));
     connect(CancelButton, &QPushButton::clicked, this, [this] { reject(); });
 }
 

@@ -50,7 +50,7 @@ void Anlegefenster::Fertig()
 void Anlegefenster::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->accept();
-    danach(angelegt);
+    Offen([this] { danach(angelegt); })();
 }
 
 } // namespace altardienst

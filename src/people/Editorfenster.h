@@ -33,13 +33,14 @@ class Editorfenster : public QWidget {
     /// record was added, after `angelegt`.
     template <class Dialog> void NeuAnlegen(const std::function<void()> &angelegt)
     {
-        hide();
-        DialogDanebenÖffnen(new Dialog([this, angelegt](bool neu) {
+        auto *dialog = new Dialog([this, angelegt](bool neu) {
             if (neu)
                 angelegt();
             show();
             activateWindow();
-        }));
+        });
+        hide(); // not before: where the dialog fails, this window stays
+        DialogDanebenÖffnen(dialog);
     }
 
     /// Failure 13 if the number box holds none.

@@ -56,10 +56,10 @@ void GruppeForm::Anordnen()
 
 void GruppeForm::Verbinden()
 {
-    Wahl->BeiWechsel([this] { NummerGeändert(); });
+    Wahl->BeiWechsel(Abgefangen([this] { NummerGeändert(); }));
     Wahl->BeiSchritt([this](int richtung) { Offen([&] { Schritt(richtung); })(); });
     connect(Löschend, &QPushButton::clicked, this, Offen([this] { Löschen(); }));
-    connect(NEWGroup, &QPushButton::clicked, this, [this] { NeueGruppe(); });
+    connect(NEWGroup, &QPushButton::clicked, this, Offen([this] { NeueGruppe(); }));
     EndeVerbinden();
 }
 

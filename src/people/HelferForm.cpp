@@ -110,7 +110,7 @@ void HelferForm::Anordnen()
 
 void HelferForm::Verbinden()
 {
-    Wahl->BeiWechsel([this] { NummerGeändert(); });
+    Wahl->BeiWechsel(Abgefangen([this] { NummerGeändert(); }));
     Wahl->BeiSchritt([this](int richtung) {
         Offen([&] {
             if (Wahl->Nummer->text().isEmpty())
@@ -120,18 +120,17 @@ void HelferForm::Verbinden()
     });
     // The spin button does not fill an empty number box, and gives it the focus.
     const auto drehen = [this](int richtung) {
-        Offen([&] {
-            Schritt(richtung);
-            Wahl->Nummer->setFocus();
-        })();
+        Schritt(richtung);
+        Wahl->Nummer->setFocus();
     };
-    Wahl->DPM->BeiAb([drehen] { drehen(-1); });
-    Wahl->DPM->BeiAuf([drehen] { drehen(+1); });
+    Wahl->DPM->BeiAb(Offen([drehen] { drehen(-1); }));
+    Wahl->DPM->BeiAuf(Offen([drehen] { drehen(+1); }));
     Person.Verbinden();
     Tagen.SchritteVerbinden();
-    connect(Tagen.Feld, &QLineEdit::textChanged, this, [this] { GeburtstagPrüfen(Tagen.Feld); });
+    connect(Tagen.Feld, &QLineEdit::textChanged, this,
+            Abgefangen([this] { GeburtstagPrüfen(Tagen.Feld); }));
     Abwesenheiten.Verbinden();
-    connect(NeuHelfer, &QPushButton::clicked, this, [this] { NeuerHelfer(); });
+    connect(NeuHelfer, &QPushButton::clicked, this, Offen([this] { NeuerHelfer(); }));
     connect(Datensatzlösch, &QPushButton::clicked, this, Offen([this] { Löschen(); }));
     EndeVerbinden();
 }

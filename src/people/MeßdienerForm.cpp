@@ -125,7 +125,7 @@ QLayout *MeßdienerForm::Dienstteil()
 
 void MeßdienerForm::Verbinden()
 {
-    Wahl->BeiWechsel([this] { NummerGeändert(); });
+    Wahl->BeiWechsel(Abgefangen([this] { NummerGeändert(); }));
     Wahl->BeiSchritt([this](int richtung) {
         Offen([&] {
             if (Wahl->Nummer->text().isEmpty())
@@ -142,13 +142,13 @@ void MeßdienerForm::Verbinden()
     BeiVerlassen(Angaben.Dieenst, Abgefangen([this] { GruppePrüfen(); }));
     Dienstmittig.Verbinden();
     Abgewählt.Verbinden();
-    connect(Norm, &QRadioButton::clicked, this, [this] { ZahlSetzen(Haufigk, 0); });
-    connect(Oft, &QRadioButton::clicked, this, [this] { ZahlSetzen(Haufigk, 2); });
+    connect(Norm, &QRadioButton::clicked, this, Abgefangen([this] { ZahlSetzen(Haufigk, 0); }));
+    connect(Oft, &QRadioButton::clicked, this, Abgefangen([this] { ZahlSetzen(Haufigk, 2); }));
     connect(Haufigk, &QLineEdit::textChanged, this, Abgefangen([this] { HäufigkeitGeändert(); }));
     Abwesenheiten.Verbinden();
     BeiAuswahl(Wunsch.Partner, Abgefangen([this] { PartnerPrüfen(true); }));
     BeiVerlassen(Wunsch.Partner, Abgefangen([this] { PartnerPrüfen(false); }));
-    connect(NeuDiener, &QPushButton::clicked, this, [this] { NeuerMeßdiener(); });
+    connect(NeuDiener, &QPushButton::clicked, this, Offen([this] { NeuerMeßdiener(); }));
     connect(Lösch, &QPushButton::clicked, this, Offen([this] { Löschen(); }));
     connect(Aufnahmebestätigung, &QPushButton::clicked, this, Offen([this] { Bestätigen(); }));
     EndeVerbinden();

@@ -3,6 +3,7 @@
 
 #include "controls/Bausteine.h"
 #include "core/tables.h"
+#include "controls/Handler.h"
 #include "people/HelferForm.h"
 #include "platform/Meldungen.h"
 
@@ -50,7 +51,8 @@ void NeuerHelferForm::Verbinden()
     Person.Verbinden();
     Tagen.SchritteVerbinden();
     Tagen.BeiKlickUmschreiben();
-    connect(Tagen.Feld, &QLineEdit::textChanged, this, [this] { GeburtstagPrüfen(Tagen.Feld); });
+    connect(Tagen.Feld, &QLineEdit::textChanged, this,
+            Abgefangen([this] { GeburtstagPrüfen(Tagen.Feld); }));
     KnöpfeVerbinden([this] { Anlegen(); });
 }
 

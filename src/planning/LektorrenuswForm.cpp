@@ -138,7 +138,8 @@ void LektorrenuswForm::Verbinden()
 {
     for (std::size_t art = 0; art < Zahlen.size(); ++art) {
         const Zahlbox &box = Zahlen[art];
-        connect(box.Feld, &QLineEdit::textChanged, this, [this, art] { ZahlGeändert(art); });
+        connect(box.Feld, &QLineEdit::textChanged, this,
+                Abgefangen([this, art] { ZahlGeändert(art); }));
         DrehenMitFokus(box);
     }
     for (std::size_t p = 0; p < Plätze.size(); ++p)

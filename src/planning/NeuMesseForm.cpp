@@ -149,8 +149,10 @@ void NeuMesseForm::Schreiben(int i)
 void NeuMesseForm::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->accept();
-    if (liste)
-        liste->NachNeuerMesse(angelegt);
+    Offen([this] {
+        if (liste)
+            liste->NachNeuerMesse(angelegt);
+    })();
 }
 
 } // namespace altardienst

@@ -126,7 +126,7 @@ void StandardmessenForm::Verbinden()
     zeit(mMin, pMini, Minutenänderung, MinutenWeiter, 5);
     Dienste.Verbinden([this] { DienerzahlGeändert(); });
     Helferzahlen.Verbinden();
-    connect(Löschig, &QPushButton::clicked, this, [this] { Löschen(); });
+    connect(Löschig, &QPushButton::clicked, this, Offen([this] { Löschen(); }));
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
 }
 

@@ -83,7 +83,7 @@ void DialogForm::Verbinden()
     auto erstellen = Offen([this] { VerzeichnisErstellen(); });
     connect(Verzeichnis, &QPushButton::clicked, this, erstellen);
     BeiEingabetaste(VZ, erstellen);
-    connect(OKButton, &QPushButton::clicked, this, [this] { Schreiben(); });
+    connect(OKButton, &QPushButton::clicked, this, Offen([this] { Schreiben(); }));
     connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
 }
 

@@ -49,7 +49,8 @@ void HintergrundsucheForm::Anordnen()
 
 void HintergrundsucheForm::Verbinden()
 {
-    connect(Wahl.Dateien, &QListWidget::itemSelectionChanged, this, [this] { DateiGewählt(); });
+    connect(Wahl.Dateien, &QListWidget::itemSelectionChanged, this,
+            Abgefangen([this] { DateiGewählt(); }));
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
 }
 

@@ -30,7 +30,8 @@ void Zahlzeile(QGridLayout *raster, int zeile, const char *text, const Zahlbox &
 
 void TextVerbinden(QLineEdit *feld, Text &wert)
 {
-    QObject::connect(feld, &QLineEdit::textChanged, feld, [feld, &wert] { wert = TextVon(feld); });
+    QObject::connect(feld, &QLineEdit::textChanged, feld,
+                     Abgefangen([feld, &wert] { wert = TextVon(feld); }));
 }
 
 QGroupBox *Rahmen(const char *titel, QLayout *inhalt)
@@ -190,7 +191,7 @@ void KonfigurationForm::Verbinden()
     BegrenztVerbinden(GrenzAuslos.Feld, Konfig.GrenzeAuslöse, 1, 99);
 
     connect(Schriftartig, &QComboBox::editTextChanged, this,
-            [this] { Konfig.Schriftart = TextVon(Schriftartig); });
+            Abgefangen([this] { Konfig.Schriftart = TextVon(Schriftartig); }));
     Schriftartig->installEventFilter(this);
     BegrenztVerbinden(Schriftg.Feld, Konfig.Schriftgröße, 1, 30);
     BegrenztVerbinden(Über.Feld, Konfig.Überschriftgröße, 1, 50);
@@ -202,12 +203,12 @@ void KonfigurationForm::Verbinden()
 
     BegrenztVerbinden(DiffJahr, Konfig.DiffJahr, DruckerDienst::Hochformat,
                       DruckerDienst::Querformat);
-    connect(Hochformat, &QRadioButton::clicked, this, [this](bool an) {
-        ZahlSetzen(DiffJahr, an ? DruckerDienst::Hochformat : DruckerDienst::Querformat);
-    });
-    connect(Querformat, &QRadioButton::clicked, this, [this](bool an) {
-        ZahlSetzen(DiffJahr, an ? DruckerDienst::Querformat : DruckerDienst::Hochformat);
-    });
+    connect(Hochformat, &QRadioButton::clicked, this, Abgefangen([this](bool an) {
+                ZahlSetzen(DiffJahr, an ? DruckerDienst::Hochformat : DruckerDienst::Querformat);
+            }));
+    connect(Querformat, &QRadioButton::clicked, this, Abgefangen([this](bool an) {
+                ZahlSetzen(DiffJahr, an ? DruckerDienst::Querformat : DruckerDienst::Hochformat);
+            }));
 
     for (const auto &[flags, wert] : {std::pair{&Flags8, &Konfig.Flags8},
                                       {&Flags6, &Konfig.Flags6},
@@ -278,7 +279,7 @@ bool KonfigurationForm::eventFilter(QObject *control, QEvent *ereignis)
 {
     if (control == Schriftartig && ereignis->type() == QEvent::FocusIn &&
         static_cast<QFocusEvent *>(ereignis)->reason() != Qt::PopupFocusReason)
-        SchriftenFüllen();
+        Nebenbei([this] { SchriftenFüllen(); })(); // a message would bring the focus back
     return QWidget::eventFilter(control, ereignis);
 }
 

@@ -133,7 +133,7 @@ void KopierForm::Anordnen()
 void KopierForm::Verbinden()
 {
     for (QRadioButton *option : {Alle, Einzel})
-        connect(option, &QRadioButton::toggled, this, [this] { UmfangGewählt(); });
+        connect(option, &QRadioButton::toggled, this, Abgefangen([this] { UmfangGewählt(); }));
     Wahl.BeiWechsel = [this] { VerzeichnisGewechselt(); };
     // The present directory is looked at again: a stick may have been changed.
     Wahl.BeiUnlesbaremLaufwerk =
@@ -193,7 +193,7 @@ void KopierForm::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->accept();
     hide(); // what comes next looks whether this dialog is still there
-    danach(kopiert);
+    Offen([this] { danach(kopiert); })();
 }
 
 } // namespace altardienst

@@ -52,7 +52,7 @@ QLayout *Planzeitraum::Anordnen() const
 
 void Planzeitraum::Verbinden()
 {
-    BeiEingabetaste(Datumsen, [this] { Berechnen(); });
+    BeiEingabetaste(Datumsen, Abgefangen([this] { Berechnen(); }));
     SchritteVerbinden(nullptr, nullptr, SpinButton1, [this](int tage) { DatumGedreht(tage); });
     SchritteVerbinden(nullptr, nullptr, tagilein.Spin, [this](int tage) { TageGedreht(tage); });
     BeiEingabetaste(tagilein.Feld, Abgefangen([this] { TageBegrenzen(MeisteTageBeiEingabe); }));

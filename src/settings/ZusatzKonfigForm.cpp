@@ -5,6 +5,7 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "core/tables.h"
+#include "controls/Handler.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -83,10 +84,11 @@ void ZusatzKonfigForm::Verbinden()
 {
     for (const auto &[box, wert] :
          {std::pair{Wer, &Konfig.ManuellWeihrauch}, {Kr, &Konfig.ManuellKreuzträger}})
-        connect(box, &QCheckBox::clicked, this, [wert = wert](bool ja) { *wert = ja ? 1 : 0; });
+        connect(box, &QCheckBox::clicked, this,
+                Abgefangen([wert = wert](bool ja) { *wert = ja ? 1 : 0; }));
     for (int n = 0; n < static_cast<int>(OO.size()); ++n)
         connect(OO[static_cast<std::size_t>(n)], &QRadioButton::clicked, this,
-                [n] { Konfig.StartWochentag = n + 1; });
+                Abgefangen([n] { Konfig.StartWochentag = n + 1; }));
     BegrenztVerbinden(WOBO.Feld, Konfig.VorlaufWochen, WenigsteWochen, MeisteWochen);
     DrehenMitFokus(WOBO);
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });

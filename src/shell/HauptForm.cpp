@@ -339,7 +339,7 @@ void HauptForm::Verbinden()
     schritt(AnzMesse, [] { DialogÖffnen(MessenlisteForm::Offene()); });
     schritt(Messendruck, PlanDrucken);
 
-    connect(Timer1, &QTimer::timeout, this, Abgefangen([this] { Takt(); }));
+    connect(Timer1, &QTimer::timeout, this, Nebenbei([this] { Takt(); }));
     Timer1->start(50);
 }
 
@@ -351,8 +351,11 @@ void HauptForm::Takt()
 
 void HauptForm::closeEvent(QCloseEvent *ereignis)
 {
-    ereignis->accept();
-    HauptfensterHandelt(Beenden);
+    ereignis->ignore();
+    HauptfensterHandelt([ereignis] {
+        Beenden();
+        ereignis->accept();
+    });
 }
 
 /// The keys 1 to 7 of the main keyboard press the button of that number, whichever control has the

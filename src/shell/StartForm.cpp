@@ -92,7 +92,7 @@ void StartForm::Anordnen()
 void StartForm::Verbinden()
 {
     connect(Tagilein, &QLineEdit::textChanged, this, Abgefangen([this] { TagileinGeändert(); }));
-    BeiEingabetaste(Datumsen, [this] { Neuberechnen(); });
+    BeiEingabetaste(Datumsen, Abgefangen([this] { Neuberechnen(); }));
     BeiFokusVerlust(Datumsen,
                     Schrittweise([this] { Neuberechnen(); }, [this] { WochentageSetzen(); }));
     SpinButton1->BeiAb(Abgefangen([this] { DatumGedreht(-1); }));
@@ -103,20 +103,19 @@ void StartForm::Verbinden()
                            Neuberechnen();
                            DatumVerschieben(tage);
                        }));
-        connect(knopf, &QPushButton::clicked, this, [this] { Neuberechnen(); });
+        connect(knopf, &QPushButton::clicked, this, Abgefangen([this] { Neuberechnen(); }));
     };
     schrittknopf(Plus, +1);
     schrittknopf(Minus, -1);
     Änderung1->BeiAb(Abgefangen([this] { TageGedreht(-1); }));
     Änderung1->BeiAuf(Abgefangen([this] { TageGedreht(+1); }));
-    connect(Starten, &QPushButton::clicked, this, [this] {
-        Neuberechnen();
-        starten();
-        hide();
-    });
-    auto uhrStellen = [this] {
-        UHRZEIT->setText(Anzeige(LangeZeit(ZeitAus(Uhr.Sekunden())) + " Uhr"));
-    };
+    connect(Starten, &QPushButton::clicked, this, Offen([this] {
+                Neuberechnen();
+                starten();
+                hide();
+            }));
+    auto uhrStellen = Nebenbei(
+        [this] { UHRZEIT->setText(Anzeige(LangeZeit(ZeitAus(Uhr.Sekunden())) + " Uhr")); });
     connect(Timer1, &QTimer::timeout, this, uhrStellen);
     Timer1->start(50);
     uhrStellen();

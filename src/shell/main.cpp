@@ -1,15 +1,27 @@
 // The program: the start dialog, then the main window.
 #include "application/Anwendung.h"
+#include "application/Fangnetz.h"
+#include "controls/Handler.h"
+#include "controls/Unerwartetes.h"
 #include "shell/Programm.h"
 
 #include <QIcon>
 
+#include <cstdlib>
+
 int main(int argc, char *argv[])
 {
-    QApplication anwendung(argc, argv);
+    altardienst::Fangnetz anwendung(argc, argv);
     altardienst::AnwendungEinrichten(anwendung);
     QApplication::setWindowIcon(QIcon(":/altardienst.png"));
     QApplication::setDesktopFileName("altardienst"); // by which the desktop finds name and symbol
-    altardienst::ProgrammStarten();
-    return QApplication::exec();
+    bool gestartet = false;
+    altardienst::Offen([&] {
+        altardienst::ProgrammStarten();
+        gestartet = true;
+    })();
+    if (gestartet)
+        return QApplication::exec();
+    altardienst::UnerwartetesZeigen();
+    return EXIT_FAILURE;
 }

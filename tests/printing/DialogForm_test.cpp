@@ -46,6 +46,18 @@ TEST_F(DialogFormTest, OkSchreibtEineNeueDateiUndKehrtZurück)
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
+TEST_F(DialogFormTest, ReichtDerSpeicherNichtBleibtDerDialogOffen)
+{
+    Öffnen();
+    Laufwerke.Schreiben = [](const std::filesystem::path &, std::string_view) {
+        throw std::bad_alloc();
+    };
+    Klick(form->OKButton);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_TRUE(Warten([this] { return GezeigteMeldungen.size() == 1; }));
+    EXPECT_TRUE(GezeigteMeldungen.at(0).starts_with("Der Arbeitsspeicher reicht nicht aus."));
+}
+
 TEST_F(DialogFormTest, EinZweiterExportHängtDenGanzenPlanAn)
 {
     for (int mal = 0; mal < 2; ++mal) {

@@ -51,6 +51,23 @@ TEST_F(HauptBildTest, DieUhrZeigtAlle50MillisekundenDieZeitOhneZusatz)
     EXPECT_TRUE(Warten([&] { return Aufschrift(haupt->UHRZEITIGES) == "23:59:59"; }));
 }
 
+// A message would come again with the next of the 20 ticks of each second.
+TEST_F(HauptBildTest, EinTaktDerVersagtSchweigt)
+{
+    Öffnen();
+    auto versagt = std::make_shared<int>(0);
+    const auto uhr = Uhr.Sekunden;
+    Uhr.Sekunden = [versagt]() -> int {
+        ++*versagt;
+        throw std::bad_alloc();
+    };
+    EXPECT_TRUE(Warten([&] { return *versagt >= 3; }));
+    Uhr.Sekunden = uhr;
+    Sekunden = 86399;
+    EXPECT_TRUE(Warten([&] { return Aufschrift(haupt->UHRZEITIGES) == "23:59:59"; }));
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
 TEST_F(HauptBildTest, OhneHintergrundStehtDasEingebauteBildInSchwarzUndWeiß)
 {
     Öffnen();

@@ -133,6 +133,27 @@ TEST_F(HauptEndeTest, ScheitertDasSpeichernVorHolenOderSichernEndetDasProgrammOh
     }
 }
 
+// Nobody could reach the program any more if its window went.
+TEST_F(HauptEndeTest, ScheitertDasEndeAnEtwasUnerwartetemBleibtDasHauptfensterOffen)
+{
+    const auto schreiben = Laufwerke.Schreiben;
+    Konfig.Gemeinde = "St. Ägid";
+    EXPECT_EQ(Programmlauf([&] {
+                  Laufwerke.Schreiben = [](const fs::path &, std::string_view) {
+                      throw std::bad_alloc();
+                  };
+                  EXPECT_FALSE(Öffnen().close());
+                  EXPECT_TRUE(Warten([this] { return GezeigteMeldungen.size() == 1; }));
+                  EXPECT_TRUE(haupt->isVisible());
+                  EXPECT_EQ(Konfig.Gemeinde, "St. Ägid");
+                  Laufwerke.Schreiben = schreiben;
+                  EXPECT_TRUE(haupt->close());
+              }),
+              0);
+    EXPECT_EQ(Geschrieben(), AlleAcht());
+    EXPECT_TRUE(GezeigteMeldungen.at(0).starts_with("Der Arbeitsspeicher reicht nicht aus."));
+}
+
 TEST_F(HauptEndeTest, DieMeldungEinesGescheitertenSpeichernsIstEinFenster)
 {
     DatenträgerFüllen();

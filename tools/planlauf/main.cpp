@@ -4,6 +4,7 @@
 #include "controls/Bausteine.h"
 #include "core/Umwandlung.h"
 #include "paper/DruckerQt.h"
+#include "application/Fangnetz.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 #include "platform/Uhr.h"
@@ -313,7 +314,7 @@ int main(int argc, char *argv[])
     QTemporaryFile bildschirm;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", OhneBildschirm(bildschirm));
-    QApplication anwendung(argc, argv);
+    Fangnetz anwendung(argc, argv);
     AnwendungEinrichten(anwendung);
     int ergebnis = 0;
     try {
