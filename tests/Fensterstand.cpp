@@ -210,15 +210,16 @@ class Prüfanwendung : public Fangnetz {
   public:
     using Fangnetz::Fangnetz;
 
-    bool notify(QObject *empfänger, QEvent *ereignis) override
+  protected:
+    bool Auffangen(QEvent *ereignis) override
     {
         try {
-            return QApplication::notify(empfänger, ereignis);
+            throw;
         } catch (const std::runtime_error &fehler) {
             ADD_FAILURE() << fehler.what();
             return true;
         } catch (...) {
-            return Auffangen(ereignis);
+            return Fangnetz::Auffangen(ereignis);
         }
     }
 };

@@ -16,7 +16,7 @@ class Fangnetz : public QApplication {
 
   protected:
     /// In a `catch` block around an event: all that is said above. The event counts as handled.
-    static bool Auffangen(QEvent *ereignis);
+    virtual bool Auffangen(QEvent *ereignis);
 };
 
 } // namespace altardienst

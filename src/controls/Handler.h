@@ -70,7 +70,7 @@ template <class F> auto Nebenbei(F f)
     return [f = std::move(f)] {
         try {
             f();
-        } catch (...) { // NOLINT(bugprone-empty-catch): see above
+        } catch (...) {
         }
     };
 }

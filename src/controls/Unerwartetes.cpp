@@ -58,7 +58,8 @@ void UnerwartetesMelden(Anlaß anlaß) noexcept
             Planen(0);
             geplant = true;
         }
-    } catch (...) { // NOLINT(bugprone-empty-catch): not even this can be told
+    } catch (...) {
+        // Not even this can be told.
     }
 }
 
@@ -70,7 +71,8 @@ void UnerwartetesZeigen()
     while (!wartend.empty()) {
         try {
             Meldungen.Zeigen(wartend.front());
-        } catch (...) { // NOLINT(bugprone-empty-catch): as above
+        } catch (...) {
+            // As above.
         }
         wartend.erase(wartend.begin());
     }

@@ -50,8 +50,8 @@ class FangnetzTest : public Fensterstand {
         return std::exchange(GezeigteMeldungen, {});
     }
 
-    static constexpr auto Folge = " Was Sie zuletzt begonnen haben, ist nicht zu Ende geführt. Die "
-                                  "Daten im Programm bleiben erhalten.";
+    const Text Folge = " Was Sie zuletzt begonnen haben, ist nicht zu Ende geführt. Die "
+                       "Daten im Programm bleiben erhalten.";
     Störfenster fenster;
 };
 
@@ -71,13 +71,13 @@ TEST_F(FangnetzTest, WasNiemandErwartetWirdAufDeutschGemeldet)
 {
     fenster.BeiMaus = [] { throw std::bad_alloc(); };
     Klick(&fenster);
-    EXPECT_EQ(Gemeldet(), Liste{Text("Der Arbeitsspeicher reicht nicht aus.") + Folge});
+    EXPECT_EQ(Gemeldet(), Liste{"Der Arbeitsspeicher reicht nicht aus." + Folge});
     fenster.BeiMaus = [] { throw std::logic_error("map::at"); };
     Klick(&fenster);
-    EXPECT_EQ(Gemeldet(), Liste{Text("Unerwarteter Fehler (map::at).") + Folge});
+    EXPECT_EQ(Gemeldet(), Liste{"Unerwarteter Fehler (map::at)." + Folge});
     fenster.BeiMaus = [] { throw 7; };
     Klick(&fenster);
-    EXPECT_EQ(Gemeldet(), Liste{Text("Unerwarteter Fehler.") + Folge});
+    EXPECT_EQ(Gemeldet(), Liste{"Unerwarteter Fehler." + Folge});
 }
 
 TEST_F(FangnetzTest, BeimMalenWirdNichtGemeldetSondernDanachUndNurEinmal)
@@ -94,7 +94,7 @@ TEST_F(FangnetzTest, BeimMalenWirdNichtGemeldetSondernDanachUndNurEinmal)
         QCoreApplication::processEvents();
     }
     EXPECT_GE(fenster.Gemalt, zuvor + 5);
-    EXPECT_EQ(Gemeldet(), Liste{Text("Unerwarteter Fehler (beim Malen).") + Folge});
+    EXPECT_EQ(Gemeldet(), Liste{"Unerwarteter Fehler (beim Malen)." + Folge});
     EXPECT_FALSE(imMalen);
 }
 
@@ -108,7 +108,7 @@ TEST_F(FangnetzTest, EinTaktDerImmerScheitertMeldetEsEinmal)
     });
     takt.start(1);
     EXPECT_TRUE(Warten([&] { return takte > 50; }));
-    EXPECT_EQ(Gemeldet(), Liste{Text("Unerwarteter Fehler (im Takt).") + Folge});
+    EXPECT_EQ(Gemeldet(), Liste{"Unerwarteter Fehler (im Takt)." + Folge});
 }
 
 TEST_F(FangnetzTest, EinFensterDessenSchließenScheitertBleibtOffen)
@@ -144,8 +144,8 @@ TEST_F(FangnetzTest, EsStehtNieMehrAlsEineMeldungOffen)
     };
     Meldungen.Zeigen("eine andere");
     EXPECT_TRUE(Warten([&] { return GezeigteMeldungen.size() == 3; }));
-    EXPECT_EQ(Gemeldet(), (Liste{"eine andere", Text("Unerwarteter Fehler (eins).") + Folge,
-                                 Text("Unerwarteter Fehler (zwei).") + Folge}));
+    EXPECT_EQ(Gemeldet(), (Liste{"eine andere", "Unerwarteter Fehler (eins)." + Folge,
+                                 "Unerwarteter Fehler (zwei)." + Folge}));
     EXPECT_EQ(höchstens, 1);
     EXPECT_TRUE(Warten([&] { return offen == 0; }));
 }

@@ -34,9 +34,9 @@ class HandlerTest : public Fensterstand {
         return std::exchange(GezeigteMeldungen, {});
     }
 
-    static constexpr auto Folge = " Was Sie zuletzt begonnen haben, ist nicht zu Ende geführt. Die "
-                                  "Daten im Programm bleiben erhalten.";
-    const Text Unglück = Text("Unerwarteter Fehler (vector).") + Folge;
+    const Text Folge = " Was Sie zuletzt begonnen haben, ist nicht zu Ende geführt. Die "
+                       "Daten im Programm bleiben erhalten.";
+    const Text Unglück = "Unerwarteter Fehler (vector)." + Folge;
 };
 
 TEST_F(HandlerTest, AbgefangenEndetStumm)
@@ -119,8 +119,8 @@ TEST_F(HandlerTest, JedeUrsacheHatIhreMeldungAufDeutsch)
     Abgefangen(Verunglücken)();
     for (int mal = 0; mal < 3; ++mal) // such as the boxes of a record, one after the other
         Abgefangen([] { throw std::bad_alloc(); })();
-    EXPECT_EQ(Gemeldet(), (std::vector<Text>{Text("Der Arbeitsspeicher reicht nicht aus.") + Folge,
-                                             Text("Unerwarteter Fehler.") + Folge, Unglück}));
+    EXPECT_EQ(Gemeldet(), (std::vector<Text>{"Der Arbeitsspeicher reicht nicht aus." + Folge,
+                                             "Unerwarteter Fehler." + Folge, Unglück}));
     Abgefangen(Verunglücken)();
     EXPECT_EQ(Gemeldet(), std::vector<Text>{Unglück}) << "again, where it comes again";
 }

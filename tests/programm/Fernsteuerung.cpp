@@ -8,6 +8,7 @@
 //   laufwerk NAME TEXT   chooses an entry of a drop-down list
 //   öffne NAME TEXT      opens an entry of a list, as a double click does
 //   schließe FENSTER     closes a window
+//   scheitere            lets an event fail in a way that nobody reckoned with
 //   bild FENSTER DATEI   saves a picture of a window
 //
 // The answer to a command that cannot be carried out begins with "Fehler".
@@ -22,6 +23,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <stdexcept>
 #include <string>
 
 #include <unistd.h>
@@ -106,6 +108,10 @@ QString Ausführen(const QString &zeile)
         if (befehl == "bild")
             return fenster->grab().save(rest) ? "ok" : "Fehler: kein Bild";
         QTimer::singleShot(0, fenster, &QWidget::close);
+        return "ok";
+    }
+    if (befehl == "scheitere") {
+        QTimer::singleShot(0, qApp, [] { throw std::logic_error("probe"); });
         return "ok";
     }
     QWidget *control = Control(name);
