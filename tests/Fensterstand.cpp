@@ -2,9 +2,9 @@
 #include "Fensterstand.h"
 
 #include "application/Anwendung.h"
-#include "paper/Druckdialog.h"
 #include "application/Fangnetz.h"
 #include "controls/Unerwartetes.h"
+#include "paper/Druckdialog.h"
 #include "platform/Drucker.h"
 
 #include <QAbstractButton>

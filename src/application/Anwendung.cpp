@@ -1,12 +1,12 @@
 // What holds for all windows.
 #include "application/Anwendung.h"
 
-#include "controls/Bausteine.h"
 #include "application/Deutsch.h"
-#include "paper/Druckdialog.h"
+#include "application/Wartezeiger.h"
+#include "controls/Bausteine.h"
 #include "controls/Stil.h"
 #include "controls/Verlassen.h"
-#include "application/Wartezeiger.h"
+#include "paper/Druckdialog.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 #include "platform/Systeminfo.h"

@@ -1,11 +1,11 @@
 // Small pieces of every form.
 #include "controls/Bausteine.h"
 
-#include "values/Ansi.h"
 #include "controls/Handler.h"
 #include "controls/Textwahl.h"
 #include "controls/Tippgedächtnis.h"
 #include "controls/Verlassen.h"
+#include "values/Ansi.h"
 
 #include <QApplication>
 #include <QFocusEvent>

@@ -1,9 +1,9 @@
 // A flag string and the check boxes before it.
 #include "controls/Flagboxen.h"
 
-#include "values/Text.h"
 #include "controls/Bausteine.h"
 #include "controls/Handler.h"
+#include "values/Text.h"
 
 namespace altardienst {
 

@@ -1,9 +1,9 @@
 // Reading the boxes of a form for a save.
 #pragma once
 
-#include "values/Laufzeitfehler.h"
 #include "controls/Bausteine.h"
 #include "controls/Verlassen.h"
+#include "values/Laufzeitfehler.h"
 
 #include <QScrollArea>
 

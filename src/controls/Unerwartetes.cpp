@@ -1,10 +1,10 @@
 // Failures that nobody reckoned with.
 #include "controls/Unerwartetes.h"
 
-#include "values/Laufzeitfehler.h"
-#include "values/Text.h"
 #include "controls/Verlassen.h"
 #include "platform/Meldungen.h"
+#include "values/Laufzeitfehler.h"
+#include "values/Text.h"
 
 #include <QCoreApplication>
 #include <QTimer>

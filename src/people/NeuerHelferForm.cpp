@@ -2,8 +2,8 @@
 #include "people/NeuerHelferForm.h"
 
 #include "controls/Bausteine.h"
-#include "core/tables.h"
 #include "controls/Handler.h"
+#include "core/tables.h"
 #include "people/HelferForm.h"
 #include "platform/Meldungen.h"
 

@@ -6,10 +6,10 @@
 #include "controls/Gelesen.h"
 #include "controls/Handler.h"
 #include "controls/Textwahl.h"
+#include "controls/Verlassen.h"
 #include "core/Namen.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
-#include "controls/Verlassen.h"
 #include "platform/Meldungen.h"
 
 #include <QCloseEvent>

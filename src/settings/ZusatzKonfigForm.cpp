@@ -4,8 +4,8 @@
 #include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
-#include "core/tables.h"
 #include "controls/Handler.h"
+#include "core/tables.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>

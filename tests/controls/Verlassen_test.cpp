@@ -2,10 +2,10 @@
 // not.
 #include "controls/Verlassen.h"
 
-#include "core/Umwandlung.h"
 #include "Fensterstand.h"
 #include "controls/Gelesen.h"
 #include "controls/Textwahl.h"
+#include "core/Umwandlung.h"
 
 #include <QVBoxLayout>
 

@@ -1,10 +1,10 @@
 // Drives the real windows without a screen: loads a directory, presses the buttons of the main
 // window, writes the plan and pictures, and leaves by the exit routine.
 #include "application/Anwendung.h"
+#include "application/Fangnetz.h"
 #include "controls/Bausteine.h"
 #include "core/Umwandlung.h"
 #include "paper/DruckerQt.h"
-#include "application/Fangnetz.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 #include "platform/Uhr.h"
