@@ -134,8 +134,9 @@ TEST_F(FangnetzTest, EsStehtNieMehrAlsEineMeldungOffen)
         höchstens = std::max(höchstens, ++offen);
         Beantworten([&](QMessageBox *box) {
             // While it is open the user cannot reach the window, but a timer can.
-            for (const char *was : {"eins", "zwei", "zwei"})
-                QTimer::singleShot(0, &fenster, [was] { throw std::logic_error(was); });
+            if (GezeigteMeldungen.size() == 1)
+                for (const char *was : {"eins", "zwei", "zwei"})
+                    QTimer::singleShot(0, &fenster, [was] { throw std::logic_error(was); });
             QTest::qWait(300);
             box->accept();
         });

@@ -131,7 +131,7 @@ TEST_F(VerlassenForm, EineFrageVerläßtDieBoxNicht)
     for (const bool ja : {false, true}) {
         Beantworten([ja](QMessageBox *box) {
             EXPECT_TRUE(QTest::qWaitForWindowActive(box));
-            box->button(ja ? QMessageBox::Yes : QMessageBox::No)->click();
+            box->done(ja ? QMessageBox::Yes : QMessageBox::No);
         });
         Drücken("Lösch"); // as a screen reader presses it, which leaves the focus where it is
         EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
