@@ -61,9 +61,7 @@ int Wochentag(Datum datum)
 
 Text WochentagName(Datum datum)
 {
-    static const std::array<const char *, 7> Namen = {
-        "Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"};
-    return Namen[static_cast<std::size_t>(Wochentag(datum) - 1)];
+    return Text(Wochentagsnamen[static_cast<std::size_t>(Wochentag(datum) - 1)]);
 }
 
 Text WochentagNameGefüllt(Datum datum)

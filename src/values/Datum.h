@@ -3,6 +3,9 @@
 
 #include "values/Text.h"
 
+#include <array>
+#include <string_view>
+
 namespace altardienst {
 
 /// Whole part: days since 30.12.1899; fraction: time of day. 0 means not set. A date field holds a
@@ -38,6 +41,10 @@ Datum UhrzeitWeiter(Datum zeit, int sekunden);
 
 /// Weekday number, 1 Sunday to 7 Saturday.
 int Wochentag(Datum datum);
+
+/// The names of weekdays 1 to 7.
+inline constexpr std::array<std::string_view, 7> Wochentagsnamen = {
+    "Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"};
 
 /// "Sonntag" for weekday 1 to "Samstag" for weekday 7.
 Text WochentagName(Datum datum);

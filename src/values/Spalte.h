@@ -5,9 +5,11 @@
 #include "values/Laufzeitfehler.h"
 #include "values/Text.h"
 
+#include <algorithm>
 #include <array>
 #include <tuple>
 #include <utility>
+#include <vector>
 
 namespace altardienst {
 
@@ -19,14 +21,17 @@ template <class T, int höchster> class Spalte {
     Spalte() = default;
     explicit Spalte(const T &anfang) { werte.fill(anfang); }
 
-    T &operator[](int i)
+    T &operator[](int i) { return werte[Geprüft(i)]; }
+    const T &operator[](int i) const { return werte[Geprüft(i)]; }
+
+  private:
+    static std::size_t Geprüft(int i)
     {
         if (static_cast<unsigned>(i) > static_cast<unsigned>(höchster)) [[unlikely]]
             throw Laufzeitfehler(Laufzeitfehler::IndexAußerhalb);
-        return werte[static_cast<std::size_t>(i)];
+        return static_cast<std::size_t>(i);
     }
 
-  private:
     std::array<T, static_cast<std::size_t>(höchster) + 1> werte{};
 };
 
@@ -113,10 +118,23 @@ template <class Liste, class F> void FürJedeSpalte(Liste liste, F f)
     std::apply([&](auto &...spalten) { (SpaltenDer(spalten, f), ...); }, liste);
 }
 
-/// Record `ziel` takes the fields of record `quelle`.
-template <class Liste> void FelderÜbernehmen(Liste liste, int ziel, int quelle)
+/// Columns that something leaves out, by their addresses.
+using Auslassung = std::vector<const void *>;
+
+/// Calls `f` with each column of the list but those left out.
+template <class Liste, class F> void FürJedeSpalteAußer(Liste liste, const Auslassung &außer, F f)
 {
-    FürJedeSpalte(liste, [&](auto &spalte) { spalte[ziel] = spalte[quelle]; });
+    FürJedeSpalte(liste, [&](auto &spalte) {
+        if (std::ranges::find(außer, &spalte) == außer.end())
+            f(spalte);
+    });
+}
+
+/// Record `ziel` takes the fields of record `quelle`, but for those left out.
+template <class Liste>
+void FelderÜbernehmen(Liste liste, int ziel, int quelle, const Auslassung &außer = {})
+{
+    FürJedeSpalteAußer(liste, außer, [&](auto &spalte) { spalte[ziel] = spalte[quelle]; });
 }
 
 /// Records `a` and `b` change places.
