@@ -12,14 +12,23 @@
 namespace altardienst {
 namespace {
 
-constexpr int Neustartgrenze = 2;      // whole seconds of search, then the mass starts again
-constexpr int MeisteNeustarts = 5;     // of one mass
-constexpr int Aufgabegrenze = 80;      // whole seconds of search, then the run ends
-constexpr int HöchsterDienstSlot = 16; // the slots above carry no named service
+constexpr int Neustartgrenze = 2;  // whole seconds of search, then the mass starts again
+constexpr int MeisteNeustarts = 5; // of one mass
+constexpr int Aufgabegrenze = 80;  // whole seconds of search, then the run ends
 
 int Slots(int messe)
 {
-    return std::min<int>(Messe.Dienerzahl[messe], HöchsterSlot);
+    return std::min<int>(Messe.Dienerzahl[messe], MesseTabelle::HöchsterSlot);
+}
+
+/// Whether `Kandidat` passes the tests of slot `n`.
+template <class Prüfungen> bool Passt(int n)
+{
+    const Laufstand stand = {.Vergeben = IstVergeben(Meßdiener, Kandidat),
+                             .MittelGröße = MittelGröße,
+                             .LetztesGeschlecht = LetztesGeschlecht};
+    return Prüfungen::Erster({Meßdiener, Kandidat}, {Messe, Konfig, MesseNr, n}, stand) ==
+           Grund::Keiner;
 }
 
 /// The slot loop of the two simple ways: any named server who is not taken.
@@ -29,7 +38,7 @@ void OhnePrüfungFüllen()
     for (int n = 1; n <= slots; ++n) {
         do
             KandidatZiehen();
-        while (!HatNamen() || Meßdiener.Belegt[Kandidat] == 1);
+        while (!Passt<EinfachePrüfungen>(n));
         MeßdienerEintragen(n);
     }
 }
@@ -38,29 +47,6 @@ void AlleFreigeben()
 {
     for (int s = 0; s <= Meßdiener.Anzahl; ++s)
         Meßdiener.Belegt[s] = 0;
-}
-
-bool GrößePasst()
-{
-    const Int16 größe = Meßdiener.Größe[Kandidat];
-    return MittelGröße - Konfig.DiffGröße <= größe && größe <= MittelGröße + Konfig.DiffGröße;
-}
-
-/// The tests of slot `n`, in their order.
-bool Passt(int n)
-{
-    if (!HatNamen() || !IstFrei())
-        return false;
-    if (n >= 2 && !GrößePasst())
-        return false;
-    if (n <= HöchsterDienstSlot && !IstQualifiziert(Messe.DienerDienst[MesseNr][n - 1]))
-        return false;
-    if (!IstAnwesend())
-        return false;
-    // Servers stand in pairs of one sex: slots 1 and 2, 3 and 4, and so on.
-    if (n % 2 == 0 && Meßdiener.Geschlecht[Kandidat] != LetztesGeschlecht)
-        return false;
-    return WochenwunschErlaubt();
 }
 
 /// False if the search was given up.
@@ -84,7 +70,7 @@ bool MesseFüllen()
                                  "Größendifferenz anzupassen!!!!!");
                 return false;
             }
-        } while (!Passt(n));
+        } while (!Passt<VollePrüfungen>(n));
         MeßdienerEintragen(n);
     }
     return true;
@@ -107,9 +93,9 @@ void MeßdienerFreiZuweisen()
     Zufall.Streuen();
     for (int i = 0; i <= Messe.Anzahl; ++i) {
         MesseNr = i;
-        SperreLösen(i);
+        SperreLösen(Meßdiener, i);
         OhnePrüfungFüllen();
-        SperreLösen(i);
+        SperreLösen(Meßdiener, i);
     }
 }
 

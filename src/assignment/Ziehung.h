@@ -1,7 +1,7 @@
-// What all ways of assigning servers share: the draw, the placement in a slot, the block by date,
-// and the tests of a drawn server.
+// What all ways of assignment share: the draw, the placement in a slot and the block by date.
 #pragma once
 
+#include "assignment/Gründe.h"
 #include "values/Int16.h"
 #include "values/Text.h"
 
@@ -16,8 +16,6 @@ extern int SucheStart;         // time of day at which the search began, whole s
 extern Int16 Neustarts;        // restarts of the current mass so far
 extern Int16 BelegtProzent;    // taken servers in per cent of all
 
-constexpr int HöchsterSlot = 20;
-
 /// Draws a record of a table of `anzahl` records: 0 to `anzahl`, the blank row behind the last
 /// included; the first and the blank row have half the chance of the others.
 Int16 Ziehen(Int16 anzahl);
@@ -28,8 +26,17 @@ void KandidatZiehen();
 /// Places `Kandidat` in slot `n` (1 to 20) of the mass `MesseNr`.
 void MeßdienerEintragen(int n);
 
-/// Frees every server who was placed neither on the date of mass `i` nor on the day before.
-void SperreLösen(int i);
+/// The height reference of a mass after a server of this height was placed in slot `n`. The first
+/// three servers set it; the others are held against it.
+Int16 MittelGrößeNach(int n, Int16 größe, Int16 bisher);
+
+/// Frees everybody of a table who was placed neither on the date of mass `i` nor on the day before.
+template <class Tabelle> void SperreLösen(Tabelle &personen, int i)
+{
+    for (int s = 0; s <= personen.Anzahl; ++s)
+        if (!IstGesperrt(personen.LetzterDienst[s], Messe.Datum[i]))
+            personen.Belegt[s] = 0;
+}
 
 /// `SperreLösen` for the mass `MesseNr` once the share of taken servers has reached
 /// `Konfig.GrenzeAuslöse`.
@@ -37,18 +44,5 @@ void MesseAbschließen();
 
 /// Whole seconds since `SucheStart`; negative while a search runs across midnight.
 int Suchdauer();
-
-// Tests of the server `Kandidat` for the mass `MesseNr`.
-bool HatNamen();
-bool IstFrei();
-bool IstQualifiziert(const Text &dienst); // a service without a position needs no qualification
-bool IstAnwesend();
-bool WochenwunschErlaubt();
-
-/// Whether `tag` lies in a period of absence; both its end dates belong to it.
-constexpr bool LiegtIn(double tag, double von, double bis)
-{
-    return !(tag < von || tag > bis);
-}
 
 } // namespace altardienst

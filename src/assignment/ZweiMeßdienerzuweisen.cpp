@@ -31,8 +31,7 @@ void FesteSperren()
 {
     constexpr int HöchsterGesehener = 100; // entries above it block nobody
     for (int k = 0; k <= HöchsterGesehener; ++k) {
-        const Datum tag = MesseDienerFest.Datum[k];
-        if (tag != Messe.Datum[MesseNr] && tag + 1 != Messe.Datum[MesseNr])
+        if (!IstGesperrt(MesseDienerFest.Datum[k], Messe.Datum[MesseNr]))
             continue;
         for (int n = 1; n <= MesseDienerFestTabelle::HöchsterSlot; ++n) {
             const Text &vorname = MesseDienerFest.Vorname[k][n];
@@ -47,25 +46,20 @@ void FesteSperren()
     }
 }
 
-bool HatWunschpartner()
-{
-    return !Meßdiener.WunschVorname[Kandidat].empty() &&
-           !Meßdiener.WunschNachname[Kandidat].empty();
-}
-
 /// Places `Kandidat` at `Slot`, and the wish partner in the next one unless somebody of that name
 /// is taken. The partner is tested for nothing else, and the wish is written as it stands, also if
 /// no server bears the name.
 void WunschpartnerEintragen()
 {
     MeßdienerEintragen(Slot);
-    if (!HatWunschpartner() || Slot >= HöchsterSlot || Slot >= Messe.Dienerzahl[MesseNr])
+    if (!HatWunschpartner(Meßdiener, Kandidat) || Slot >= MesseTabelle::HöchsterSlot ||
+        Slot >= Messe.Dienerzahl[MesseNr])
         return;
     const Text &vorname = Meßdiener.WunschVorname[Kandidat];
     const Text &nachname = Meßdiener.WunschNachname[Kandidat];
     bool vergeben = false;
     FürJedenNamens(vorname, nachname,
-                   [&](int p) { vergeben = vergeben || Meßdiener.Belegt[p] == 1; });
+                   [&](int p) { vergeben = vergeben || IstVergeben(Meßdiener, p); });
     if (vergeben)
         return;
     Messe.DienerVor[MesseNr][Slot + 1] = vorname;
@@ -81,34 +75,30 @@ void WunschpartnerEintragen()
 
 enum class Urteil { Passt, Abgelehnt, MesseFertig };
 
-/// The tests of the drawn server for `Slot`, in their order. A slot whose service is set by hand is
-/// passed over only here, behind the tests before it: some server must hold the qualification,
-/// though nobody is placed.
+/// Passes over a slot whose service is set by hand.
+Urteil SlotÜbergehen()
+{
+    const bool kreuz = DienstDesSlots(MesseNr, Slot) == Kreuzträger.Name;
+    ++Slot; // at the last slot too, so a server can come to stand beyond the count
+    return kreuz && Slot == Messe.Dienerzahl[MesseNr] ? Urteil::MesseFertig : Urteil::Abgelehnt;
+}
+
+/// The tests of the drawn server for `Slot`.
 Urteil Prüfen()
 {
-    const Text &dienst = Messe.DienerDienst[MesseNr][Slot - 1];
-    if (!HatNamen() || !IstFrei())
-        return Urteil::Abgelehnt;
-    if (Meßdiener.DienstZähler[Kandidat] >= Meßdiener.Häufigkeit[Kandidat] + DienstProDiener)
-        return Urteil::Abgelehnt;
-    if (!IstQualifiziert(dienst))
-        return Urteil::Abgelehnt;
-    if (dienst == "Weihrauch" && Konfig.ManuellWeihrauch == 1) {
-        ++Slot; // at the last slot too, so a server can come to stand behind the count
+    const Laufstand stand = {.Vergeben = IstVergeben(Meßdiener, Kandidat),
+                             .LetztesGeschlecht = LetztesGeschlecht,
+                             .Paare = Meßdiener.DienstZähler[Kandidat],
+                             .DienstProDiener = DienstProDiener};
+    switch (
+        Partnerprüfungen::Erster({Meßdiener, Kandidat}, {Messe, Konfig, MesseNr, Slot}, stand)) {
+    case Grund::Keiner:
+        return Urteil::Passt;
+    case Grund::VonHand:
+        return SlotÜbergehen();
+    default:
         return Urteil::Abgelehnt;
     }
-    if (dienst == "Kreuzträger" && Konfig.ManuellKreuzträger == 1) {
-        ++Slot;
-        return Slot == Messe.Dienerzahl[MesseNr] ? Urteil::MesseFertig : Urteil::Abgelehnt;
-    }
-    if (!IstAnwesend() || !WochenwunschErlaubt())
-        return Urteil::Abgelehnt;
-    if (Slot % 2 == 0 && Meßdiener.Geschlecht[Kandidat] != LetztesGeschlecht)
-        return Urteil::Abgelehnt;
-    // The last place stays free for someone without a partner.
-    if (HatWunschpartner() && Slot == Messe.Dienerzahl[MesseNr])
-        return Urteil::Abgelehnt;
-    return Urteil::Passt;
 }
 
 /// False if the search was given up.

@@ -1,4 +1,4 @@
-// The draw, the placement in a slot, the block by date, and the tests of a drawn server.
+// The draw, the placement in a slot and the block by date.
 #include "assignment/Ziehung.h"
 
 #include "assignment/Wurf.h"
@@ -103,7 +103,7 @@ TEST_F(ZiehungTest, SperreHältNurAmTagDerMesseUndAmTagDanach)
     for (int j = 0; j <= 6; ++j)
         Meßdiener.Belegt[j] = 1;
     MesseNr = 0; // the argument tells the mass
-    SperreLösen(1);
+    SperreLösen(Meßdiener, 1);
     EXPECT_EQ(Meßdiener.Belegt[0], 0);
     EXPECT_EQ(Meßdiener.Belegt[1], 1);
     EXPECT_EQ(Meßdiener.Belegt[2], 1);
@@ -169,117 +169,6 @@ TEST_F(ZiehungTest, SuchdauerWirdÜberMitternachtNegativ)
     EXPECT_EQ(Suchdauer(), 9);
     Sekunden = 5;
     EXPECT_EQ(Suchdauer(), 5 - 86390);
-}
-
-TEST_F(ZiehungTest, NamenUndFreisein)
-{
-    DienerAnlegen(4);
-    Meßdiener.Vorname[1] = "";
-    Meßdiener.Nachname[2] = "";
-    const bool erwartet[] = {true, false, false, true, false};
-    for (int j = 0; j <= 4; ++j) {
-        Kandidat = j;
-        EXPECT_EQ(HatNamen(), erwartet[j]);
-    }
-    Kandidat = 3;
-    EXPECT_TRUE(IstFrei());
-    Meßdiener.Belegt[3] = 1;
-    EXPECT_FALSE(IstFrei());
-}
-
-TEST_F(ZiehungTest, JederDienstHatSeineStelleDerQualifikation)
-{
-    DienerAnlegen(1);
-    Kandidat = 0;
-    const char *dienste[] = {"Gabenbereitung", "Leuchter", "Flambeau", "Weihrauch", "Kreuzträger"};
-    for (int stelle = 1; stelle <= 6; ++stelle) {
-        Meßdiener.Qualifikation[0] = "nnnnnn";
-        Meßdiener.Qualifikation[0][static_cast<std::size_t>(stelle - 1)] = 'j';
-        for (int d = 0; d < 5; ++d)
-            EXPECT_EQ(IstQualifiziert(dienste[d]), d + 1 == stelle) << dienste[d] << stelle;
-    }
-    Meßdiener.Qualifikation[0] = "JJJJJJ"; // only the small letter is a yes
-    for (const char *dienst : dienste)
-        EXPECT_FALSE(IstQualifiziert(dienst));
-    for (const char *dienst : {"Allgemein", "", "leuchter", "Anführer"})
-        EXPECT_TRUE(IstQualifiziert(dienst));
-}
-
-TEST_F(ZiehungTest, JederDerFünfZeiträumeSchließtBeideEndtageEin)
-{
-    using Spalte = MeßdienerTabelle::Spalte<Datum>;
-    const std::pair<Spalte *, Spalte *> zeiträume[] = {{&Meßdiener.Von1, &Meßdiener.Bis1},
-                                                       {&Meßdiener.Von2, &Meßdiener.Bis2},
-                                                       {&Meßdiener.Von3, &Meßdiener.Bis3},
-                                                       {&Meßdiener.Von4, &Meßdiener.Bis4},
-                                                       {&Meßdiener.Von5, &Meßdiener.Bis5}};
-    DienerAnlegen(1);
-    Kandidat = 0;
-    MesseNr = MesseMitDienern(Sonntag, 1);
-    EXPECT_TRUE(IstAnwesend());
-    for (const auto &[von, bis] : zeiträume) {
-        auto anwesend = [&](Datum ab, Datum ende) {
-            (*von)[0] = ab;
-            (*bis)[0] = ende;
-            return IstAnwesend();
-        };
-        EXPECT_FALSE(anwesend(Sonntag, Sonntag));
-        EXPECT_FALSE(anwesend(Samstag, Sonntag));
-        EXPECT_FALSE(anwesend(Sonntag, Montag));
-        EXPECT_FALSE(anwesend(Samstag, Montag));
-        EXPECT_TRUE(anwesend(Samstag, Samstag));
-        EXPECT_TRUE(anwesend(Montag, Montag));
-        EXPECT_TRUE(anwesend(Montag, Samstag)); // turned round
-        EXPECT_FALSE(anwesend(0, Sonntag));     // only an end: every date up to it
-        EXPECT_TRUE(anwesend(0, Samstag));
-        EXPECT_TRUE(anwesend(Samstag, 0)); // only a beginning
-        EXPECT_TRUE(anwesend(0, 0));
-    }
-}
-
-TEST_F(ZiehungTest, WochenwunschNachWochentagGiltNurFürStandardmessen)
-{
-    const char *tage[] = {"Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag"};
-    DienerAnlegen(1);
-    Kandidat = 0;
-    MesseNr = MesseMitDienern(Sonntag, 1);
-    for (int stelle = 1; stelle <= 8; ++stelle) {
-        Meßdiener.Wochendienst[0] = "nnnnnnnn";
-        Meßdiener.Wochendienst[0][static_cast<std::size_t>(stelle - 1)] = 'j';
-        for (int t = 0; t < 5; ++t) {
-            Messe.Wochentag[0] = tage[t];
-            Messe.Kennung[0] = "s";
-            EXPECT_EQ(WochenwunschErlaubt(), t + 2 != stelle) << tage[t] << stelle;
-            for (const char *kennung : {"", "S"}) {
-                Messe.Kennung[0] = kennung;
-                EXPECT_TRUE(WochenwunschErlaubt());
-            }
-        }
-    }
-    Meßdiener.Wochendienst[0] = "jjjjjjjj";
-    Messe.Kennung[0] = "s";
-    for (const char *frei : {"Samstag", "Sonntag", "Montag    ", ""}) {
-        Messe.Wochentag[0] = frei;
-        EXPECT_TRUE(WochenwunschErlaubt()) << frei;
-    }
-}
-
-TEST_F(ZiehungTest, WunschGegenWochendienstGiltAuchFürMessenVonHand)
-{
-    DienerAnlegen(1);
-    Kandidat = 0;
-    MesseNr = MesseMitDienern(Sonntag, 1);
-    for (const char *kennung : {"s", ""}) {
-        Messe.Kennung[0] = kennung;
-        Messe.Messeart[0] = "Wochendienst";
-        Meßdiener.Wochendienst[0] = "jnnnnnnn";
-        EXPECT_FALSE(WochenwunschErlaubt());
-        Meßdiener.Wochendienst[0] = "njjjjjjj";
-        EXPECT_TRUE(WochenwunschErlaubt());
-        Messe.Messeart[0] = "Wochendienste";
-        Meßdiener.Wochendienst[0] = "jnnnnnnn";
-        EXPECT_TRUE(WochenwunschErlaubt());
-    }
 }
 
 } // namespace

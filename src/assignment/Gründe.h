@@ -1,0 +1,293 @@
+// Why somebody is refused for a place. Each rule of the draw stands here once, as a function of the
+// person and the place that answers with its reason. The ways of assignment go by the first reason
+// of their list; whoever wants to know why somebody cannot stand somewhere asks for all of them.
+#pragma once
+
+#include "core/Dienstordnung.h"
+#include "core/tables.h"
+
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace altardienst {
+
+enum class Grund {
+    Keiner,
+    OhneNamen,            // a name is missing, as in the blank row
+    Vergeben,             // counts as taken
+    ZuVielePaare,         // has stood in as many pairs as his frequency allows
+    FalscheGröße,         // too far from the height reference of the mass
+    OhneQualifikation,    // may not do the service
+    VonHand,              // not the person's: the service of the place is set by hand
+    Abwesend,             // on the date of the mass
+    AnderesGeschlecht,    // than the server placed before, with whom he would stand as a pair
+    GegenWochendienst,    // wishes no masses of the kind "Wochendienst"
+    GegenWochentag,       // wishes not to serve on this weekday
+    PartnerOhnePlatz,     // has a wish partner, for whom the last place leaves none
+    OhneDienst,           // the service is none of the helper's
+    DienstInBeidenFeldern // the helper has named the service twice
+};
+
+// The tables are arguments: the shared ones, or copies to work on aside.
+
+template <class Tabelle> struct Person {
+    const Tabelle &Personen;
+    int Nr;
+};
+using Dienerperson = Person<MeßdienerTabelle>;
+using Helferperson = Person<HelferTabelle>;
+
+/// A slot of a mass, from 1.
+struct Dienerplatz {
+    const MesseTabelle &Messen;
+    const KonfigDatensatz &Einstellungen;
+    int Messe;
+    int Slot;
+
+    bool IstLetzter() const { return Slot == Messen.Dienerzahl[Messe]; }
+};
+
+struct Helferstelle {
+    const MesseTabelle &Messen;
+    int Messe;
+    const Helferplatz &Platz;
+};
+
+/// What the tests have to know of the run beside the tables.
+struct Laufstand {
+    bool Vergeben = false;                   // the person counts as taken
+    Int16 MittelGröße = 0;                   // height reference of the mass, cm
+    std::string_view LetztesGeschlecht = {}; // of the server placed last
+    Int16 Paare = 0;                         // in which the server has stood
+    Int16 DienstProDiener = 0;               // pairs for a server whose frequency is normal
+};
+
+// Pieces of the rules.
+
+/// Whether the run counts the person as taken.
+template <class Tabelle> bool IstVergeben(const Tabelle &personen, int j)
+{
+    return personen.Belegt[j] == 1;
+}
+
+/// Whether `tag` lies in a period of absence; both its end dates belong to it.
+constexpr bool LiegtIn(Datum tag, Datum von, Datum bis)
+{
+    return !(tag < von || tag > bis);
+}
+
+/// Whether somebody placed on the date `zuletzt` is held back on `tag`: on the same date and on the
+/// next one.
+constexpr bool IstGesperrt(Datum zuletzt, Datum tag)
+{
+    return zuletzt == tag || zuletzt + 1 == tag;
+}
+
+inline bool IstAbwesend(const MeßdienerTabelle &t, int j, Datum tag)
+{
+    return LiegtIn(tag, t.Von1[j], t.Bis1[j]) || LiegtIn(tag, t.Von2[j], t.Bis2[j]) ||
+           LiegtIn(tag, t.Von3[j], t.Bis3[j]) || LiegtIn(tag, t.Von4[j], t.Bis4[j]) ||
+           LiegtIn(tag, t.Von5[j], t.Bis5[j]);
+}
+
+inline bool IstAbwesend(const HelferTabelle &t, int j, Datum tag)
+{
+    return LiegtIn(tag, t.Von1[j], t.Bis1[j]) || LiegtIn(tag, t.Von2[j], t.Bis2[j]) ||
+           LiegtIn(tag, t.Von3[j], t.Bis3[j]);
+}
+
+/// A wish with one of the two names alone is none.
+inline bool HatWunschpartner(const MeßdienerTabelle &t, int j)
+{
+    return !t.WunschVorname[j].empty() && !t.WunschNachname[j].empty();
+}
+
+inline bool IstVonHand(const KonfigDatensatz &einstellungen, std::string_view dienst)
+{
+    return (dienst == Weihrauch.Name && einstellungen.ManuellWeihrauch == 1) ||
+           (dienst == Kreuzträger.Name && einstellungen.ManuellKreuzträger == 1);
+}
+
+constexpr Grund Falls(bool trifftZu, Grund grund)
+{
+    return trifftZu ? grund : Grund::Keiner;
+}
+
+// The tests of servers and helpers alike.
+
+template <class P, class Platz> Grund NamenPrüfen(const P &person, const Platz &, const Laufstand &)
+{
+    const auto &[personen, j] = person;
+    return Falls(personen.Nachname[j].empty() || personen.Vorname[j].empty(), Grund::OhneNamen);
+}
+
+template <class P, class Platz>
+Grund FreiseinPrüfen(const P &, const Platz &, const Laufstand &stand)
+{
+    return Falls(stand.Vergeben, Grund::Vergeben);
+}
+
+template <class P, class Platz>
+Grund AnwesenheitPrüfen(const P &person, const Platz &platz, const Laufstand &)
+{
+    const Datum tag = platz.Messen.Datum[platz.Messe];
+    return Falls(IstAbwesend(person.Personen, person.Nr, tag), Grund::Abwesend);
+}
+
+// The tests of servers.
+
+/// The first slot sets the reference. Failure 6 if the tolerance goes beyond an Int16.
+inline Grund GrößePrüfen(const Dienerperson &person, const Dienerplatz &platz,
+                         const Laufstand &stand)
+{
+    if (platz.Slot < 2)
+        return Grund::Keiner;
+    const Int16 größe = person.Personen.Größe[person.Nr];
+    const Int16 spielraum = platz.Einstellungen.DiffGröße;
+    const bool passt =
+        stand.MittelGröße - spielraum <= größe && größe <= stand.MittelGröße + spielraum;
+    return Falls(!passt, Grund::FalscheGröße);
+}
+
+/// A service without a position among the qualifications is open to everybody.
+inline Grund QualifikationPrüfen(const Dienerperson &person, const Dienerplatz &platz,
+                                 const Laufstand &)
+{
+    const Text &dienst = DienstDesSlots(platz.Messen, platz.Messe, platz.Slot);
+    for (const Dienstart &art : BesondereDienste)
+        if (dienst == art.Name)
+            return Falls(!IstJa(person.Personen.Qualifikation[person.Nr], art.Stelle),
+                         Grund::OhneQualifikation);
+    return Grund::Keiner;
+}
+
+/// The same, whatever a file has left in the slots that never have a service of their own.
+inline Grund QualifikationDerDienstslotsPrüfen(const Dienerperson &person, const Dienerplatz &platz,
+                                               const Laufstand &stand)
+{
+    return platz.Slot <= HöchsterDienstSlot ? QualifikationPrüfen(person, platz, stand)
+                                            : Grund::Keiner;
+}
+
+inline Grund VonHandPrüfen(const Dienerperson &, const Dienerplatz &platz, const Laufstand &)
+{
+    return Falls(
+        IstVonHand(platz.Einstellungen, DienstDesSlots(platz.Messen, platz.Messe, platz.Slot)),
+        Grund::VonHand);
+}
+
+/// Servers stand in pairs of one sex: slots 1 and 2, 3 and 4, and so on.
+inline Grund GeschlechtPrüfen(const Dienerperson &person, const Dienerplatz &platz,
+                              const Laufstand &stand)
+{
+    return Falls(platz.Slot % 2 == 0 &&
+                     person.Personen.Geschlecht[person.Nr] != stand.LetztesGeschlecht,
+                 Grund::AnderesGeschlecht);
+}
+
+// In the week wishes a "j" is the wish to be left out.
+
+inline Grund WochendienstPrüfen(const Dienerperson &person, const Dienerplatz &platz,
+                                const Laufstand &)
+{
+    return Falls(IstJa(person.Personen.Wochendienst[person.Nr], 1) &&
+                     platz.Messen.Messeart[platz.Messe] == "Wochendienst",
+                 Grund::GegenWochendienst);
+}
+
+/// The wishes by weekday hold only for masses that come from the week pattern, and not on Saturday
+/// and Sunday. A filled-up name is none of them.
+inline Grund WochentagPrüfen(const Dienerperson &person, const Dienerplatz &platz,
+                             const Laufstand &)
+{
+    constexpr int Montag = 2; // weekday, and its position among the wishes
+    constexpr int Freitag = 6;
+    if (platz.Messen.Kennung[platz.Messe] != "s")
+        return Grund::Keiner;
+    const Text &wunsch = person.Personen.Wochendienst[person.Nr];
+    for (int tag = Montag; tag <= Freitag; ++tag)
+        if (IstJa(wunsch, tag) && platz.Messen.Wochentag[platz.Messe] ==
+                                      Wochentagsnamen[static_cast<std::size_t>(tag - 1)])
+            return Grund::GegenWochentag;
+    return Grund::Keiner;
+}
+
+/// Failure 6 if frequency and share go beyond an Int16 together.
+inline Grund PaarePrüfen(const Dienerperson &person, const Dienerplatz &, const Laufstand &stand)
+{
+    return Falls(stand.Paare >= person.Personen.Häufigkeit[person.Nr] + stand.DienstProDiener,
+                 Grund::ZuVielePaare);
+}
+
+/// The last place stays free for someone without a partner.
+inline Grund LetztenPlatzPrüfen(const Dienerperson &person, const Dienerplatz &platz,
+                                const Laufstand &)
+{
+    return Falls(HatWunschpartner(person.Personen, person.Nr) && platz.IstLetzter(),
+                 Grund::PartnerOhnePlatz);
+}
+
+// The test of helpers.
+
+/// A Lektor needs the service in one of the two fields. For all other places the sense is turned
+/// round: only who has the service in both fields is refused.
+inline Grund HelferdienstPrüfen(const Helferperson &person, const Helferstelle &stelle,
+                                const Laufstand &)
+{
+    const Helferart &art = stelle.Platz.Art;
+    const bool erster = person.Personen.Dienst1[person.Nr] == art.Name;
+    const bool zweiter = person.Personen.Dienst2[person.Nr] == art.Name;
+    if (&art == &Lektor)
+        return Falls(!erster && !zweiter, Grund::OhneDienst);
+    return Falls(erster && zweiter, Grund::DienstInBeidenFeldern);
+}
+
+// The lists.
+
+template <class P, class Platz>
+using Prüfung = Grund (*)(const P &, const Platz &, const Laufstand &);
+
+/// Tests in the order in which a way makes them.
+template <class P, class Platz, Prüfung<P, Platz>... prüfungen> struct Prüfliste {
+    /// The first reason; the tests after it are not made.
+    static Grund Erster(const P &person, const Platz &platz, const Laufstand &stand)
+    {
+        Grund grund = Grund::Keiner;
+        static_cast<void>(
+            ((grund = prüfungen(person, platz, stand), grund == Grund::Keiner) && ...));
+        return grund;
+    }
+
+    /// All reasons, in the order of the tests.
+    static std::vector<Grund> Alle(const P &person, const Platz &platz, const Laufstand &stand)
+    {
+        std::vector<Grund> gründe = {prüfungen(person, platz, stand)...};
+        std::erase(gründe, Grund::Keiner);
+        return gründe;
+    }
+};
+
+/// The two simple ways of servers.
+using EinfachePrüfungen = Prüfliste<Dienerperson, Dienerplatz, NamenPrüfen, FreiseinPrüfen>;
+
+/// The full way of servers.
+using VollePrüfungen = Prüfliste<Dienerperson, Dienerplatz, NamenPrüfen, FreiseinPrüfen,
+                                 GrößePrüfen, QualifikationDerDienstslotsPrüfen, AnwesenheitPrüfen,
+                                 GeschlechtPrüfen, WochendienstPrüfen, WochentagPrüfen>;
+
+/// The partner way of servers. A service set by hand comes to light only after the tests before it:
+/// some server must hold the qualification, though nobody is placed.
+using Partnerprüfungen =
+    Prüfliste<Dienerperson, Dienerplatz, NamenPrüfen, FreiseinPrüfen, PaarePrüfen,
+              QualifikationPrüfen, VonHandPrüfen, AnwesenheitPrüfen, WochendienstPrüfen,
+              WochentagPrüfen, GeschlechtPrüfen, LetztenPlatzPrüfen>;
+
+/// Helpers, where there are enough.
+using Helferprüfungen = Prüfliste<Helferperson, Helferstelle, NamenPrüfen, FreiseinPrüfen,
+                                  AnwesenheitPrüfen, HelferdienstPrüfen>;
+
+/// Helpers, where one service has too few.
+using FreieHelferprüfungen = Prüfliste<Helferperson, Helferstelle, NamenPrüfen>;
+
+} // namespace altardienst
