@@ -1,7 +1,7 @@
 // From the counts of a mass to the services of its slots.
 #include "assignment/Dienste.h"
 
-#include "core/Dienstordnung.h"
+#include "core/Plätze.h"
 #include "core/SchleifenZähler.h"
 
 #include <algorithm>

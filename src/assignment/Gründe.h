@@ -3,7 +3,7 @@
 // of their list; whoever wants to know why somebody cannot stand somewhere asks for all of them.
 #pragma once
 
-#include "core/Dienstordnung.h"
+#include "core/Plätze.h"
 #include "core/tables.h"
 
 #include <string_view>
