@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <span>
-#include <string_view>
 #include <type_traits>
 
 namespace altardienst {
@@ -34,8 +33,8 @@ struct Zahlspalte {
 
 /// A service of servers.
 struct Dienstart {
-    std::string_view Name; // in `Messe.DienerDienst` and on paper
-    std::string_view Kurz; // where there is little room
+    Festtext Name; // in `Messe.DienerDienst` and on paper
+    Festtext Kurz; // where there is little room
     Zahlspalte Zahl;
     int Höchstens; // places in a mass; a larger count gives no more
     int Stelle;    // in `Meßdiener.Qualifikation`; 0: everybody may do it
@@ -84,8 +83,8 @@ inline const Text &DienstDesSlots(const MesseTabelle &messen, int messe, int n)
 
 /// A service of helpers.
 struct Helferart {
-    std::string_view Name;       // in `Helfer.Dienst1` and `Dienst2`
-    std::string_view Aufschrift; // of the box of its count and in the plan
+    Festtext Name;       // in `Helfer.Dienst1` and `Dienst2`
+    Festtext Aufschrift; // of the box of its count and in the plan
     Zahlspalte Zahl;
 };
 
@@ -137,6 +136,17 @@ inline constexpr std::array<Helferplatz, 8> Helferplätze = {{
 constexpr std::size_t NummerDer(const Helferart &art)
 {
     return static_cast<std::size_t>(&art - Helferarten.data());
+}
+
+/// The columns with the counts of all these kinds, in their order.
+template <class Art, std::size_t n, class Tabelle>
+auto Zahlspalten(const std::array<Art, n> &arten, Tabelle &tabelle)
+{
+    using Spalte = std::remove_reference_t<decltype(arten[0].Zahl.In(tabelle))>;
+    std::array<Spalte *, n> spalten;
+    for (std::size_t k = 0; k < n; ++k)
+        spalten[k] = &arten[k].Zahl.In(tabelle);
+    return spalten;
 }
 
 /// How many places a mass has for helpers of a kind.

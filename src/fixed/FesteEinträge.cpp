@@ -2,6 +2,7 @@
 #include "fixed/FesteEinträge.h"
 
 #include "core/Namen.h"
+#include "core/Plätze.h"
 #include "core/SchleifenZähler.h"
 #include "core/Umwandlung.h"
 
@@ -45,7 +46,7 @@ void DiensteDerMesse(Datum datum, Datum uhrzeit, MesseDienerFestTabelle::JeSlot 
 {
     FürJedeMesse(datum, uhrzeit, [&](int m) {
         for (int slot = 1; slot <= MesseDienerFestTabelle::HöchsterSlot; ++slot)
-            dienste[slot] = Messe.DienerDienst[m][slot - 1];
+            dienste[slot] = DienstDesSlots(m, slot);
     });
 }
 

@@ -1,12 +1,12 @@
 // The editor of the helpers, one at a time.
 #include "people/HelferForm.h"
 
+#include "core/Plätze.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 #include "controls/Terminbox.h"
 #include "controls/Zahlbox.h"
-#include "core/tables.h"
 #include "people/NeuerHelferForm.h"
 #include "platform/Meldungen.h"
 
@@ -30,7 +30,10 @@ auto Zeitspalten()
 QComboBox *Dienstwahl(const char *name, const char *gesprochen)
 {
     QComboBox *wahl = Textwahl(name, gesprochen);
-    ListeSetzen(wahl, {"Lektor", "Kommunionhelfer", "Kantor", "Kollektant"});
+    QStringList dienste;
+    for (const Helferart &art : Helferarten)
+        dienste << art.Name.c_str();
+    ListeSetzen(wahl, dienste);
     return wahl;
 }
 

@@ -1,10 +1,10 @@
 // The editor of the altar servers, one at a time.
 #include "people/MeßdienerForm.h"
 
+#include "core/Plätze.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
-#include "core/tables.h"
 #include "people/NeuMeßdienerForm.h"
 #include "platform/Meldungen.h"
 #include "printing/Aufnahmebestätigung.h"
@@ -24,17 +24,24 @@ auto Zeitspalten()
                       &Meßdiener.Von5, &Meßdiener.Bis5};
 }
 
+/// One position for each service with slots of its own, and one for who leads.
+std::vector<Flagname> Qualifikationen()
+{
+    constexpr std::array<const char *, BesondereDienste.size()> boxen = {
+        "Check1", "Check2", "Check3", "Check4", "Check5"};
+    std::vector<Flagname> namen;
+    for (std::size_t k = 0; k < boxen.size(); ++k)
+        namen.push_back({boxen[k], BesondereDienste[k].Name.c_str()});
+    namen.push_back({"Check3a", "Anführer"});
+    return namen;
+}
+
 } // namespace
 
 MeßdienerForm::MeßdienerForm()
     : Editorfenster(new Datensatzwahl({"Datensätze", "PLUS", "MINUS", "DPM"})),
-      MaxIndex(Beschriftung("MaxIndex", "")), Dienstmittig("Dienstmittig", "Qualifikation",
-                                                           {{"Check1", "Gabenbereitung"},
-                                                            {"Check2", "Leuchter"},
-                                                            {"Check3", "Flambeau"},
-                                                            {"Check4", "Weihrauch"},
-                                                            {"Check5", "Kreuzträger"},
-                                                            {"Check3a", "Anführer"}}),
+      MaxIndex(Beschriftung("MaxIndex", "")),
+      Dienstmittig("Dienstmittig", "Qualifikation", Qualifikationen()),
       Abgewählt("Abgewählt", "Möchte nicht dienen",
                 {{"Check6", "Wochendienst"},
                  {"Check7", "Mo"},

@@ -1,11 +1,9 @@
 // What the forms of the people do to the tables.
 #include "people/Personen.h"
 
-#include "core/tables.h"
+#include "core/Plätze.h"
 
-#include <array>
 #include <limits>
-#include <utility>
 
 namespace altardienst {
 namespace {
@@ -78,19 +76,9 @@ void HelferUmbenennen(int i, const Personenname &neu)
     const Personenname alt = NameVon(Helfer, i);
     if (alt.Leer())
         return;
-    const std::array plätze = {
-        std::pair(&Messe.Lektor1Vor, &Messe.Lektor1Nach),
-        std::pair(&Messe.Lektor2Vor, &Messe.Lektor2Nach),
-        std::pair(&Messe.Komm1Vor, &Messe.Komm1Nach),
-        std::pair(&Messe.Komm2Vor, &Messe.Komm2Nach),
-        std::pair(&Messe.Kantor1Vor, &Messe.Kantor1Nach),
-        std::pair(&Messe.Kantor2Vor, &Messe.Kantor2Nach),
-        std::pair(&Messe.Kollekt1Vor, &Messe.Kollekt1Nach),
-        std::pair(&Messe.Kollekt2Vor, &Messe.Kollekt2Nach),
-    };
     for (int m = 0; m <= Messe.Anzahl; ++m)
-        for (const auto &[vor, nach] : plätze)
-            Ersetzen((*vor)[m], (*nach)[m], alt, neu);
+        for (const Helferplatz &platz : Helferplätze)
+            Ersetzen((Messe.*platz.Vor)[m], (Messe.*platz.Nach)[m], alt, neu);
 }
 
 void GruppeUmbenennen(int i, const Text &neu)

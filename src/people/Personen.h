@@ -27,7 +27,7 @@ bool IstAndereGruppe(int i, const Text &bezeichnung);
 // the blank slot must not fill every empty place of every mass. The empty name of a group is found
 // at every server who has none.
 void MeßdienerUmbenennen(int i, const Personenname &neu); // wish partners, masses, fixed entries
-void HelferUmbenennen(int i, const Personenname &neu);    // the eight places of all masses
+void HelferUmbenennen(int i, const Personenname &neu);    // the helpers' places of all masses
 void GruppeUmbenennen(int i, const Text &neu);            // servers
 
 /// Takes server `i` out of the table and out of the wishes of the others. Masses and fixed entries

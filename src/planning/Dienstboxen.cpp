@@ -6,30 +6,48 @@
 namespace altardienst {
 namespace {
 
-constexpr int MeisteDiener = 20;
-constexpr int MeisteHelfer = 2; // of one service
-constexpr std::array<int, 5> Höchstzahlen = {2, 2, 8, 2, 2};
+constexpr int MeisteDiener = MesseTabelle::HöchsterSlot;
 
-Zahlbox Box(const Dienstnamen &namen, std::size_t k)
+std::array<Text, Dienstnamen::Zahl> Aufschriften(const Dienstnamen &namen)
 {
-    return ZahlboxAnlegen(namen.Felder[k], namen.Spins[k], namen.Texte[k]);
+    std::array<Text, Dienstnamen::Zahl> texte = {namen.Dienerzahl + Text(namen.Ende)};
+    for (std::size_t k = 0; k < Dienstarten.size(); ++k) {
+        const bool mehrzahl = &Dienstarten[k] == &Flambeau;
+        texte[1 + k] = Text(Dienstarten[k].Name) + (mehrzahl ? "s" : "") + namen.Ende;
+    }
+    return texte;
+}
+
+std::array<Text, Helferzahlboxen::Zahl> Aufschriften(const Helferzahlboxen::Namen &namen)
+{
+    std::array<Text, Helferzahlboxen::Zahl> texte;
+    for (std::size_t k = 0; k < texte.size(); ++k)
+        texte[k] = Text(Helferarten[k].Aufschrift) + namen.Ende;
+    return texte;
 }
 
 } // namespace
 
-Dienstboxen::Dienstboxen(const Dienstnamen &namen)
-    : Dienerzahl(Box(namen, 0)), Dienste{Box(namen, 1), Box(namen, 2), Box(namen, 3), Box(namen, 4),
-                                         Box(namen, 5)},
-      Allgemein(Box(namen, 6)), texte(namen.Texte)
+Dienstboxen::Dienstboxen(const Dienstnamen &namen) : texte(Aufschriften(namen))
 {
+    const auto box = [&](std::size_t k) {
+        return ZahlboxAnlegen(namen.Felder[k], namen.Spins[k], texte[k].c_str());
+    };
+    Dienerzahl = box(0);
+    for (std::size_t k = 0; k < Dienste.size(); ++k)
+        Dienste[k] = box(1 + k);
+    Allgemein = box(1 + Dienste.size());
 }
 
 void Dienstboxen::Anordnen(QGridLayout *raster, int zeile) const
 {
-    ZahlboxAnordnen(raster, zeile, 0, texte[0], Dienerzahl);
+    const auto anordnen = [&](std::size_t k, const Zahlbox &box) {
+        ZahlboxAnordnen(raster, zeile + static_cast<int>(k), 0, texte[k].c_str(), box);
+    };
+    anordnen(0, Dienerzahl);
     for (std::size_t k = 0; k < Dienste.size(); ++k)
-        ZahlboxAnordnen(raster, zeile + 1 + static_cast<int>(k), 0, texte[k + 1], Dienste[k]);
-    ZahlboxAnordnen(raster, zeile + 6, 0, texte[6], Allgemein);
+        anordnen(1 + k, Dienste[k]);
+    anordnen(1 + Dienste.size(), Allgemein);
 }
 
 void Dienstboxen::Verbinden(const std::function<void()> &beiDienerzahl,
@@ -53,19 +71,19 @@ int Dienstboxen::DienerzahlBegrenzen() const
     return Begrenzen(Dienerzahl.Feld, 0, MeisteDiener);
 }
 
-std::array<QLineEdit *, 7> Dienstboxen::Felder() const
+std::array<QLineEdit *, Dienstnamen::Zahl> Dienstboxen::Felder() const
 {
-    return {Dienerzahl.Feld, Dienste[0].Feld, Dienste[1].Feld, Dienste[2].Feld,
-            Dienste[3].Feld, Dienste[4].Feld, Allgemein.Feld};
+    std::array<QLineEdit *, Dienstnamen::Zahl> felder = {Dienerzahl.Feld};
+    for (std::size_t k = 0; k < Dienste.size(); ++k)
+        felder[1 + k] = Dienste[k].Feld;
+    felder.back() = Allgemein.Feld;
+    return felder;
 }
 
 void Dienstboxen::Lesen(Dienstwünsche &wünsche) const
 {
-    wünsche.Gabenbereitung = ZahlIn(Dienste[0].Feld);
-    wünsche.Leuchter = ZahlIn(Dienste[1].Feld);
-    wünsche.Flambeau = ZahlIn(Dienste[2].Feld);
-    wünsche.Weihrauch = ZahlIn(Dienste[3].Feld);
-    wünsche.Kreuzträger = ZahlIn(Dienste[4].Feld);
+    for (std::size_t k = 0; k < Dienste.size(); ++k)
+        wünsche[k] = ZahlIn(Dienste[k].Feld);
 }
 
 int Dienstboxen::SummeDerDienste() const
@@ -78,7 +96,7 @@ int Dienstboxen::SummeDerDienste() const
 
 void Dienstboxen::DienstGeändert(std::size_t k) const
 {
-    Begrenzen(Dienste[k].Feld, 0, Höchstzahlen[k]);
+    Begrenzen(Dienste[k].Feld, 0, BesondereDienste[k].Höchstens);
     const int rest = MeisteDiener - SummeDerDienste();
     if (ZahlIn(Allgemein.Feld) > rest)
         ZahlSetzen(Allgemein.Feld, rest);
@@ -91,33 +109,35 @@ void Dienstboxen::AllgemeinGeändert() const
     ZahlSetzen(Dienerzahl.Feld, SummeDerDienste() + ZahlIn(Allgemein.Feld));
 }
 
-Helferzahlboxen::Helferzahlboxen(const Namen &namen)
-    : Boxen{ZahlboxAnlegen(namen.Felder[0], namen.Spins[0], namen.Texte[0]),
-            ZahlboxAnlegen(namen.Felder[1], namen.Spins[1], namen.Texte[1]),
-            ZahlboxAnlegen(namen.Felder[2], namen.Spins[2], namen.Texte[2]),
-            ZahlboxAnlegen(namen.Felder[3], namen.Spins[3], namen.Texte[3])},
-      texte(namen.Texte)
+Helferzahlboxen::Helferzahlboxen(const Namen &namen) : texte(Aufschriften(namen))
 {
+    for (std::size_t k = 0; k < Zahl; ++k)
+        Boxen[k] = ZahlboxAnlegen(namen.Felder[k], namen.Spins[k], texte[k].c_str());
 }
 
 void Helferzahlboxen::Anordnen(QGridLayout *raster, int zeile) const
 {
     for (std::size_t k = 0; k < Boxen.size(); ++k)
-        ZahlboxAnordnen(raster, zeile + static_cast<int>(k), 0, texte[k], Boxen[k]);
+        ZahlboxAnordnen(raster, zeile + static_cast<int>(k), 0, texte[k].c_str(), Boxen[k]);
 }
 
 void Helferzahlboxen::Verbinden() const
 {
-    for (const Zahlbox &box : Boxen) {
-        QObject::connect(box.Feld, &QLineEdit::textChanged, box.Feld,
-                         Abgefangen([feld = box.Feld] { Begrenzen(feld, 0, MeisteHelfer); }));
-        DrehenVerbinden(box);
+    for (std::size_t k = 0; k < Zahl; ++k) {
+        QLineEdit *feld = Boxen[k].Feld;
+        const int plätze = PlätzeFür(Helferarten[k]);
+        QObject::connect(feld, &QLineEdit::textChanged, feld,
+                         Abgefangen([feld, plätze] { Begrenzen(feld, 0, plätze); }));
+        DrehenVerbinden(Boxen[k]);
     }
 }
 
-std::array<QLineEdit *, 4> Helferzahlboxen::Felder() const
+std::array<QLineEdit *, Helferzahlboxen::Zahl> Helferzahlboxen::Felder() const
 {
-    return {Boxen[0].Feld, Boxen[1].Feld, Boxen[2].Feld, Boxen[3].Feld};
+    std::array<QLineEdit *, Zahl> felder;
+    for (std::size_t k = 0; k < Zahl; ++k)
+        felder[k] = Boxen[k].Feld;
+    return felder;
 }
 
 } // namespace altardienst

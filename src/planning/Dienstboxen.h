@@ -1,20 +1,25 @@
 // The number of servers of a mass and the boxes of its services, which add up to it.
 #pragma once
 
+#include "core/Plätze.h"
 #include "controls/Zahlbox.h"
 #include "planning/Messenbearbeitung.h"
 
+#include <algorithm>
 #include <array>
 #include <functional>
 
 namespace altardienst {
 
-/// The names that a form gives to the boxes: the number of servers, Gabenbereitung, Leuchter,
-/// Flambeau, Weihrauch, Kreuzträger, Allgemein.
+/// The names that a form gives to the boxes: the number of servers, then the services in the order
+/// of `Dienstarten`.
 struct Dienstnamen {
-    std::array<const char *, 7> Felder;
-    std::array<const char *, 7> Spins;
-    std::array<const char *, 7> Texte;
+    static constexpr std::size_t Zahl = 1 + Dienstarten.size();
+
+    std::array<const char *, Zahl> Felder;
+    std::array<const char *, Zahl> Spins;
+    const char *Dienerzahl; // what the form calls the number of servers
+    const char *Ende;       // of each label: ":" or nothing
 };
 
 /// A change of a service clips it, cuts `Allgemein` to what is left of 20, and sets the number of
@@ -24,7 +29,7 @@ class Dienstboxen {
     explicit Dienstboxen(const Dienstnamen &namen);
 
     Zahlbox Dienerzahl;
-    std::array<Zahlbox, 5> Dienste; // Gabenbereitung to Kreuzträger
+    std::array<Zahlbox, BesondereDienste.size()> Dienste;
     Zahlbox Allgemein;
 
     void Anordnen(QGridLayout *raster, int zeile) const;
@@ -49,7 +54,7 @@ class Dienstboxen {
     }
 
     /// All seven boxes, in the order of the screen.
-    std::array<QLineEdit *, 7> Felder() const;
+    std::array<QLineEdit *, Dienstnamen::Zahl> Felder() const;
 
     /// In the order of the screen up to the first box that holds no number; failure 13 then.
     void Lesen(Dienstwünsche &wünsche) const;
@@ -57,39 +62,52 @@ class Dienstboxen {
   private:
     template <class Tabelle> static auto Spalten(Tabelle &t)
     {
-        return std::array{&t.Dienerzahl, &t.Gabenbereitung, &t.Leuchter, &t.Flambeau,
-                          &t.Weihrauch,  &t.Kreuzträger,    &t.Allgemein};
+        std::array<decltype(&t.Dienerzahl), Dienstnamen::Zahl> spalten = {&t.Dienerzahl};
+        std::ranges::copy(Zahlspalten(Dienstarten, t), spalten.begin() + 1);
+        return spalten;
     }
 
     int SummeDerDienste() const;
     void DienstGeändert(std::size_t k) const;
     void AllgemeinGeändert() const;
 
-    std::array<const char *, 7> texte;
+    std::array<Text, Dienstnamen::Zahl> texte;
 };
 
-/// The numbers of helpers that a mass wants: Lektor, Kommunionhelfer, Kantor, Kollektant.
+/// The numbers of helpers that a mass wants, in the order of `Helferarten`.
 class Helferzahlboxen {
   public:
+    static constexpr std::size_t Zahl = Helferarten.size();
+
     struct Namen {
-        std::array<const char *, 4> Felder;
-        std::array<const char *, 4> Spins;
-        std::array<const char *, 4> Texte;
+        std::array<const char *, Zahl> Felder;
+        std::array<const char *, Zahl> Spins;
+        const char *Ende; // of each label: ":" or nothing
     };
 
     explicit Helferzahlboxen(const Namen &namen);
 
-    std::array<Zahlbox, 4> Boxen;
+    std::array<Zahlbox, Zahl> Boxen;
 
     void Anordnen(QGridLayout *raster, int zeile) const;
 
-    /// Each number is clipped to 0 to 2 on change.
+    /// Each number is clipped on change to the places that a mass has for its kind.
     void Verbinden() const;
 
-    std::array<QLineEdit *, 4> Felder() const;
+    /// Shows or writes the numbers of record `i` of `Standardmesse` or `Messe`.
+    template <class Tabelle> void Zeigen(Tabelle &tabelle, int i) const
+    {
+        ZahlenZeigen(Felder(), Zahlspalten(Helferarten, tabelle), i);
+    }
+    template <class Tabelle> void Schreiben(Tabelle &tabelle, int i) const
+    {
+        ZahlenSchreiben(Felder(), Zahlspalten(Helferarten, tabelle), i);
+    }
+
+    std::array<QLineEdit *, Zahl> Felder() const;
 
   private:
-    std::array<const char *, 4> texte;
+    std::array<Text, Zahl> texte;
 };
 
 } // namespace altardienst

@@ -8,8 +8,8 @@
 #include "controls/Textwahl.h"
 #include "controls/Verlassen.h"
 #include "core/Namen.h"
+#include "core/Plätze.h"
 #include "core/Umwandlung.h"
-#include "core/tables.h"
 #include "platform/Meldungen.h"
 
 #include <QCloseEvent>
@@ -21,33 +21,48 @@
 namespace altardienst {
 namespace {
 
-/// One of the eight places: its names on the screen and its fields in the table.
+/// How a count of helpers and its spin button are named on the screen.
+struct Zahlnamen {
+    const char *Feld;
+    const char *Spin;
+};
+
+/// In the order of `Helferarten`.
+constexpr std::array<Zahlnamen, Helferarten.size()> DieZahlnamen = {{{"Lecki", "Änderung1"},
+                                                                     {"Kommi", "Änderung2"},
+                                                                     {"Kanto", "Änderung3"},
+                                                                     {"Kolt", "Änderung4"}}};
+
+/// How a place is named on the screen.
 struct Platznamen {
-    const char *Aufschrift;
     const char *LH;
     const char *Vor;
     const char *Nach;
-    MesseTabelle::Spalte<Text> &VorFeld;
-    MesseTabelle::Spalte<Text> &NachFeld;
 };
 
-const std::array<Platznamen, 8> Namen = {{
-    {"Lektor 1:", "LH1", "Lecki1Vor", "Lecki1nach", Messe.Lektor1Vor, Messe.Lektor1Nach},
-    {"Lektor 2:", "LH2", "Lecki2Vor", "Lecki2Nach", Messe.Lektor2Vor, Messe.Lektor2Nach},
-    {"Kommunionhelfer 1:", "LH3", "Komm1Vor", "Komm1Nach", Messe.Komm1Vor, Messe.Komm1Nach},
-    {"Kommunionhelfer 2:", "LH4", "Kommt2Vor", "Kommt2Nach", Messe.Komm2Vor, Messe.Komm2Nach},
-    {"Kantor 1:", "LH5", "Kant1Vor", "Kant1Nach", Messe.Kantor1Vor, Messe.Kantor1Nach},
-    {"Kantor 2:", "LH6", "Kant2Vor", "Kant2Nach", Messe.Kantor2Vor, Messe.Kantor2Nach},
-    {"Kollektant 1:", "LH7", "Ko1Vor", "Ko1Nach", Messe.Kollekt1Vor, Messe.Kollekt1Nach},
-    {"Kollektant 2:", "LH8", "Ko2Vor", "Ko2Nach", Messe.Kollekt2Vor, Messe.Kollekt2Nach},
+/// In the order of `Helferplätze`.
+constexpr std::array<Platznamen, Helferplätze.size()> DiePlatznamen = {{
+    {"LH1", "Lecki1Vor", "Lecki1nach"},
+    {"LH2", "Lecki2Vor", "Lecki2Nach"},
+    {"LH3", "Komm1Vor", "Komm1Nach"},
+    {"LH4", "Kommt2Vor", "Kommt2Nach"},
+    {"LH5", "Kant1Vor", "Kant1Nach"},
+    {"LH6", "Kant2Vor", "Kant2Nach"},
+    {"LH7", "Ko1Vor", "Ko1Nach"},
+    {"LH8", "Ko2Vor", "Ko2Nach"},
 }};
 
-constexpr std::array<const char *, 4> Zahltexte = {
-    "Lektor:", "Kommunionhelfer:", "Kantor/in:", "Kollektant:"};
-
-std::array<MesseTabelle::Spalte<Int16> *, 4> Zahlspalten()
+/// Calls `f` with the number of each place of a kind.
+template <class F> void FürJedenPlatz(std::size_t art, F f)
 {
-    return {&Messe.LektorZahl, &Messe.KommZahl, &Messe.KantorZahl, &Messe.KollektZahl};
+    for (std::size_t p = 0; p < Helferplätze.size(); ++p)
+        if (&Helferplätze[p].Art == &Helferarten[art])
+            f(p);
+}
+
+Text Zahltext(const Helferart &art)
+{
+    return Text(art.Aufschrift) + ":";
 }
 
 /// All that the dialog shows of the mass, and which mass it is.
@@ -55,11 +70,11 @@ auto Gezeigtes()
 {
     const int i = Messe.Cursor;
     std::vector<int> zahlen{i};
-    for (auto *spalte : Zahlspalten())
-        zahlen.push_back((*spalte)[i]);
+    for (const Helferart &art : Helferarten)
+        zahlen.push_back(art.Zahl.In(Messe)[i]);
     std::vector<Text> namen;
-    for (const Platznamen &n : Namen)
-        namen.insert(namen.end(), {n.VorFeld[i], n.NachFeld[i]});
+    for (const Helferplatz &platz : Helferplätze)
+        namen.insert(namen.end(), {(Messe.*platz.Vor)[i], (Messe.*platz.Nach)[i]});
     return std::tuple(Messe.Datum[i], Messe.Uhrzeit[i], Messe.Wochentag[i], Messe.Messeart[i],
                       zahlen, namen);
 }
@@ -72,9 +87,9 @@ bool IstHelfer(const Text &listenname)
     return false;
 }
 
-QComboBox *Namenwahl(const char *name, const char *text)
+QComboBox *Namenwahl(const char *name, const Text &wofür)
 {
-    QComboBox *kombo = Textwahl(name, QString::fromUtf8(text).remove(':').toUtf8().constData());
+    QComboBox *kombo = Textwahl(name, wofür.c_str());
     kombo->setMinimumContentsLength(18);
     return kombo;
 }
@@ -82,24 +97,23 @@ QComboBox *Namenwahl(const char *name, const char *text)
 } // namespace
 
 LektorrenuswForm::LektorrenuswForm(std::function<void()> danach)
-    : Zahlen{ZahlboxAnlegen("Lecki", "Änderung1", Zahltexte[0]),
-             ZahlboxAnlegen("Kommi", "Änderung2", Zahltexte[1]),
-             ZahlboxAnlegen("Kanto", "Änderung3", Zahltexte[2]),
-             ZahlboxAnlegen("Kolt", "Änderung4", Zahltexte[3])},
-      Ende(Knopf("Ende", "Ende")), danach(std::move(danach))
+    : Ende(Knopf("Ende", "Ende")), danach(std::move(danach))
 {
     Benannt(this, "Lektorrenusw");
     setWindowTitle("Lektoren usw.");
+    for (std::size_t art = 0; art < Zahlen.size(); ++art)
+        Zahlen[art] = ZahlboxAnlegen(DieZahlnamen[art].Feld, DieZahlnamen[art].Spin,
+                                     Zahltext(Helferarten[art]).c_str());
     for (std::size_t p = 0; p < Plätze.size(); ++p) {
-        const Platznamen &n = Namen[p];
-        QComboBox *kombo = Namenwahl(n.LH, n.Aufschrift);
-        Plätze[p] = {altardienst::Beschriftung("", n.Aufschrift), kombo, Textfeld(n.Vor),
+        const Platznamen &n = DiePlatznamen[p];
+        const Text wer = Helferplätze[p].Aufschrift();
+        QComboBox *kombo = Namenwahl(n.LH, wer);
+        Plätze[p] = {altardienst::Beschriftung("", (wer + ":").c_str()), kombo, Textfeld(n.Vor),
                      Textfeld(n.Nach)};
-        const QString wer = QString::fromUtf8(n.Aufschrift).remove(':');
         for (QLineEdit *feld : {Plätze[p].Vor, Plätze[p].Nach})
             feld->setMinimumWidth(90);
-        Plätze[p].Vor->setAccessibleName("Vorname " + wer);
-        Plätze[p].Nach->setAccessibleName("Nachname " + wer);
+        Plätze[p].Vor->setAccessibleName(Anzeige("Vorname " + wer));
+        Plätze[p].Nach->setAccessibleName(Anzeige("Nachname " + wer));
     }
     Anordnen();
     Verbinden();
@@ -113,8 +127,9 @@ void LektorrenuswForm::Anordnen()
     raster->setVerticalSpacing(8);
     for (std::size_t p = 0; p < Plätze.size(); ++p) {
         const int zeile = static_cast<int>(p);
-        if (p % 2 == 0)
-            ZahlboxAnordnen(raster, zeile, 0, Zahltexte[p / 2], Zahlen[p / 2]);
+        const Helferart &art = Helferplätze[p].Art;
+        if (Helferplätze[p].Nummer == 1)
+            ZahlboxAnordnen(raster, zeile, 0, Zahltext(art).c_str(), Zahlen[NummerDer(art)]);
         const Platz &platz = Plätze[p];
         platz.Beschriftung->setBuddy(platz.LH);
         raster->addWidget(platz.Beschriftung, zeile, 3);
@@ -167,13 +182,13 @@ void LektorrenuswForm::Füllen()
     const OhneVerlassen ruhe; // a place that is switched off now loses the focus half filled in
     const int i = Messe.Cursor;
     for (std::size_t art = 0; art < Zahlen.size(); ++art)
-        ZahlSetzen(Zahlen[art].Feld, (*Zahlspalten()[art])[i]);
+        ZahlSetzen(Zahlen[art].Feld, Helferarten[art].Zahl.In(Messe)[i]);
     QStringList liste;
     for (int h = 0; h < Helfer.Anzahl; ++h)
         liste << Anzeige(Listenname(Helfer.Nachname[h], Helfer.Vorname[h]));
     for (std::size_t p = 0; p < Plätze.size(); ++p) {
-        const Text &vor = Namen[p].VorFeld[i];
-        const Text &nach = Namen[p].NachFeld[i];
+        const Text &vor = (Messe.*Helferplätze[p].Vor)[i];
+        const Text &nach = (Messe.*Helferplätze[p].Nach)[i];
         Setzen(Plätze[p].Vor, vor);
         Setzen(Plätze[p].Nach, nach);
         const bool besetzt = !vor.empty() && !nach.empty();
@@ -188,13 +203,15 @@ void LektorrenuswForm::ZahlGeändert(std::size_t art)
 {
     QLineEdit *feld = Zahlen[art].Feld;
     const auto schalten = [feld](const Platz &platz, int ab) {
-        const bool aktiv = ZahlIn(feld) > ab;
+        const bool aktiv = ZahlIn(feld) >= ab;
         for (QWidget *control :
              std::initializer_list<QWidget *>{platz.Beschriftung, platz.Vor, platz.Nach, platz.LH})
             control->setEnabled(aktiv);
     };
-    Schrittweise([&] { Begrenzen(feld, 0, 2); }, [&] { schalten(Plätze[2 * art], 0); },
-                 [&] { schalten(Plätze[2 * art + 1], 1); })();
+    Schrittweise([&] { Begrenzen(feld, 0, PlätzeFür(Helferarten[art])); })();
+    FürJedenPlatz(art, [&](std::size_t p) {
+        Schrittweise([&] { schalten(Plätze[p], Helferplätze[p].Nummer); })();
+    });
 }
 
 void LektorrenuswForm::KomboVerlassen(std::size_t p)
@@ -236,11 +253,11 @@ void LektorrenuswForm::Schreiben()
     const auto amEnde = qScopeGuard(Abgefangen([this] { Merken(); })); // a part counts too
     const int i = Messe.Cursor;
     for (std::size_t art = 0; art < Zahlen.size(); ++art) {
-        (*Zahlspalten()[art])[i] = Gelesen(Zahlen[art].Feld, Int16Lesen);
-        for (std::size_t p = 2 * art; p < 2 * art + 2; ++p) {
-            Namen[p].VorFeld[i] = TextVon(Plätze[p].Vor);
-            Namen[p].NachFeld[i] = TextVon(Plätze[p].Nach);
-        }
+        Helferarten[art].Zahl.In(Messe)[i] = Gelesen(Zahlen[art].Feld, Int16Lesen);
+        FürJedenPlatz(art, [&](std::size_t p) {
+            (Messe.*Helferplätze[p].Vor)[i] = TextVon(Plätze[p].Vor);
+            (Messe.*Helferplätze[p].Nach)[i] = TextVon(Plätze[p].Nach);
+        });
     }
 }
 

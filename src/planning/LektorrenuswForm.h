@@ -1,6 +1,7 @@
 // The helpers of one mass, shown and set by hand.
 #pragma once
 
+#include "core/Plätze.h"
 #include "application/Nebenfenster.h"
 #include "controls/Zahlbox.h"
 
@@ -21,7 +22,7 @@ class LektorrenuswForm : public QWidget {
     /// `danach` runs when the dialog has closed.
     explicit LektorrenuswForm(std::function<void()> danach);
 
-    /// One of the eight places.
+    /// A place of a helper.
     struct Platz {
         QLabel *Beschriftung;
         QComboBox *LH; // LH1 to LH8
@@ -29,8 +30,8 @@ class LektorrenuswForm : public QWidget {
         QLineEdit *Nach;
     };
 
-    std::array<Zahlbox, 4> Zahlen; // Lecki, Kommi, Kanto, Kolt, Änderung1 to 4
-    std::array<Platz, 8> Plätze;   // two for each kind
+    std::array<Zahlbox, Helferarten.size()> Zahlen; // Lecki, Kommi, Kanto, Kolt, Änderung1 to 4
+    std::array<Platz, Helferplätze.size()> Plätze;
     QPushButton *Ende;
 
   protected:

@@ -1,7 +1,7 @@
 // From the week pattern to the masses of the plan period.
 #include "planning/MessenBestimmen.h"
 
-#include "core/tables.h"
+#include "core/Plätze.h"
 #include "platform/Meldungen.h"
 #include "platform/Uhr.h"
 
@@ -17,27 +17,19 @@ Text Tagname;       // weekday of the current day
 /// Masses above this record keep their helpers and services when a plan is made anew.
 constexpr int HöchsteGeleerteMesse = 200;
 
+/// All but date and time, and the names that slot 0 may hold.
 void MesseLeeren(int i)
 {
-    Messe.Wochentag[i].clear();
-    Messe.Messeart[i].clear();
-    Messe.Kennung[i].clear();
-    for (auto *zahl : {&Messe.Dienerzahl, &Messe.Gabenbereitung, &Messe.Leuchter, &Messe.Flambeau,
-                       &Messe.Weihrauch, &Messe.Kreuzträger, &Messe.Allgemein, &Messe.LektorZahl,
-                       &Messe.KommZahl, &Messe.KantorZahl, &Messe.KollektZahl})
-        (*zahl)[i] = 0;
+    FürJedeSpalteAußer(
+        Messe.Felder(),
+        {&Messe.Datum, &Messe.Uhrzeit, &Messe.DienerVor, &Messe.DienerNach, &Messe.DienerDienst},
+        [i](auto &spalte) { spalte[i] = {}; });
     for (int slot = 1; slot <= MesseTabelle::HöchsterSlot; ++slot) {
         Messe.DienerVor[i][slot].clear();
         Messe.DienerNach[i][slot].clear();
     }
     for (int k = 0; k <= MesseTabelle::HöchsterSlot; ++k)
-        Messe.DienerDienst[i][k] = "Allgemein";
-    for (auto *name :
-         {&Messe.Lektor1Vor, &Messe.Lektor1Nach, &Messe.Lektor2Vor, &Messe.Lektor2Nach,
-          &Messe.Komm1Vor, &Messe.Komm1Nach, &Messe.Komm2Vor, &Messe.Komm2Nach, &Messe.Kantor1Vor,
-          &Messe.Kantor1Nach, &Messe.Kantor2Vor, &Messe.Kantor2Nach, &Messe.Kollekt1Vor,
-          &Messe.Kollekt1Nach, &Messe.Kollekt2Vor, &Messe.Kollekt2Nach})
-        (*name)[i].clear();
+        Messe.DienerDienst[i][k] = Allgemein.Name;
 }
 
 /// The part of the month, 1 to 5, in which the current day lies.
@@ -66,16 +58,13 @@ void MesseAnlegen()
     Messe.Uhrzeit[NächsteMesse] = Standardmesse.Uhrzeit[StandardNr];
     Messe.Messeart[NächsteMesse] = Standardmesse.Messeart[StandardNr];
     Messe.Dienerzahl[NächsteMesse] = Standardmesse.Dienerzahl[StandardNr];
-    Messe.Gabenbereitung[NächsteMesse] = Standardmesse.Gabenbereitung[StandardNr];
-    Messe.Leuchter[NächsteMesse] = Standardmesse.Leuchter[StandardNr];
-    Messe.Flambeau[NächsteMesse] = Standardmesse.Flambeau[StandardNr];
-    Messe.Weihrauch[NächsteMesse] = Standardmesse.Weihrauch[StandardNr];
-    Messe.Kreuzträger[NächsteMesse] = Standardmesse.Kreuzträger[StandardNr];
-    Messe.Allgemein[NächsteMesse] = Standardmesse.Allgemein[StandardNr];
-    Messe.LektorZahl[NächsteMesse] = Standardmesse.Lektor[StandardNr];
-    Messe.KommZahl[NächsteMesse] = Standardmesse.Kommunion[StandardNr];
-    Messe.KantorZahl[NächsteMesse] = Standardmesse.Kantor[StandardNr];
-    Messe.KollektZahl[NächsteMesse] = Standardmesse.Kollektant[StandardNr];
+    const auto übernehmen = [](const Zahlspalte &zahl) {
+        zahl.In(Messe)[NächsteMesse] = zahl.In(Standardmesse)[StandardNr];
+    };
+    for (const Dienstart &art : Dienstarten)
+        übernehmen(art.Zahl);
+    for (const Helferart &art : Helferarten)
+        übernehmen(art.Zahl);
     Messe.Kennung[NächsteMesse] = "s";
     ++NächsteMesse;
 }
@@ -92,14 +81,15 @@ void TagAnlegen(bool ersterTag)
 void MessenKürzen()
 {
     constexpr int HöchsterBewegterSlot = 16;
-    auto felder = std::tie(Messe.Wochentag, Messe.Datum, Messe.Uhrzeit, Messe.Messeart,
-                           Messe.Dienerzahl, Messe.Gabenbereitung, Messe.Leuchter, Messe.Flambeau,
-                           Messe.Weihrauch, Messe.Kreuzträger);
+    auto felder =
+        std::tie(Messe.Wochentag, Messe.Datum, Messe.Uhrzeit, Messe.Messeart, Messe.Dienerzahl);
     const int alteAnzahl = Messe.Anzahl;
     const int neueAnzahl = NächsteMesse;
     for (int mal = 0; mal < alteAnzahl - neueAnzahl; ++mal) {
         for (int j = neueAnzahl; j <= alteAnzahl + 1; ++j) {
             FelderÜbernehmen(felder, j, j + 1);
+            for (const Dienstart &art : BesondereDienste)
+                art.Zahl.In(Messe)[j] = art.Zahl.In(Messe)[j + 1];
             for (int slot = 1; slot <= HöchsterBewegterSlot; ++slot) {
                 Messe.DienerVor[j][slot] = Messe.DienerVor[j + 1][slot];
                 Messe.DienerNach[j][slot] = Messe.DienerNach[j + 1][slot];

@@ -1,8 +1,7 @@
 // What the mass list does to the tables, and what it says of a slot.
 #pragma once
 
-#include "values/Datum.h"
-#include "values/Text.h"
+#include "core/Plätze.h"
 
 #include <array>
 
@@ -16,16 +15,14 @@ void FesteEintraegeMitziehen(int i, const Text &datum, const Text &uhrzeit);
 /// services of its slots, which are written anew before their next use.
 void MesseVorziehen(int i);
 
-/// The wanted services of a mass, as its dialogs count them.
-struct Dienstwünsche {
-    int Gabenbereitung = 0;
-    int Leuchter = 0;
-    int Flambeau = 0;
-    int Weihrauch = 0;
-    int Kreuzträger = 0;
-};
+/// How often each service with slots of its own is wanted, as the dialogs of a mass count them; in
+/// the order of `BesondereDienste`.
+using Dienstwünsche = std::array<int, BesondereDienste.size()>;
 
-/// The labels of the 20 slots: the service that each will get, then "Meßdiener 7 :" and so on.
-std::array<Text, 20> SlotBeschriftungen(const Dienstwünsche &wünsche);
+/// One text for each slot, from slot 1 on.
+using Slottexte = std::array<Text, MesseTabelle::HöchsterSlot>;
+
+/// The labels of the slots: the service that each will get, then "Meßdiener 7 :" and so on.
+Slottexte SlotBeschriftungen(const Dienstwünsche &wünsche);
 
 } // namespace altardienst

@@ -7,8 +7,8 @@
 #include "controls/Gelesen.h"
 #include "controls/Handler.h"
 #include "controls/Terminbox.h"
+#include "core/Plätze.h"
 #include "core/Umwandlung.h"
-#include "core/tables.h"
 #include "planning/LektorrenuswForm.h"
 #include "planning/NeuMesseForm.h"
 #include "platform/Meldungen.h"
@@ -26,18 +26,38 @@ constexpr int LetzterDatensatz = 600;
 
 QPointer<MessenlisteForm> offene;
 
-/// All that the list shows of a mass.
-auto Gezeigtes(int i)
+/// Who helps, the services of the slots and where the mass comes from are not shown.
+Auslassung NichtGezeigt()
 {
-    std::vector<Text> namen;
-    for (int slot = 1; slot <= MesseTabelle::HöchsterSlot; ++slot)
-        namen.insert(namen.end(), {Messe.DienerVor[i][slot], Messe.DienerNach[i][slot]});
-    std::vector<int> zahlen{Messe.Anzahl};
-    for (auto *spalte : {&Messe.Dienerzahl, &Messe.Gabenbereitung, &Messe.Leuchter, &Messe.Flambeau,
-                         &Messe.Weihrauch, &Messe.Kreuzträger, &Messe.Allgemein})
-        zahlen.push_back((*spalte)[i]);
-    return std::tuple(Messe.Wochentag[i], Messe.Datum[i], Messe.Uhrzeit[i], Messe.Messeart[i],
-                      zahlen, namen);
+    Auslassung spalten = {&Messe.DienerDienst, &Messe.Kennung};
+    for (const Helferart &art : Helferarten)
+        spalten.push_back(&art.Zahl.In(Messe));
+    for (const Helferplatz &platz : Helferplätze)
+        spalten.insert(spalten.end(), {&(Messe.*platz.Vor), &(Messe.*platz.Nach)});
+    return spalten;
+}
+
+/// What the list shows of a mass, to be compared later.
+struct Messenbild {
+    std::vector<Text> Texte;
+    std::vector<double> Zahlen;
+
+    void operator()(const Text &text) { Texte.push_back(text); }
+    void operator()(double zahl) { Zahlen.push_back(zahl); }
+    void operator()(const MesseTabelle::JeSlot &namen)
+    {
+        for (int slot = 1; slot <= MesseTabelle::HöchsterSlot; ++slot)
+            Texte.push_back(namen[slot]);
+    }
+    bool operator==(const Messenbild &) const = default;
+};
+
+Messenbild Gezeigtes(int i)
+{
+    Messenbild bild;
+    bild(Messe.Anzahl);
+    FürJedeSpalteAußer(Messe.Felder(), NichtGezeigt(), [&](auto &spalte) { bild(spalte[i]); });
+    return bild;
 }
 
 } // namespace
@@ -53,8 +73,8 @@ MessenlisteForm::MessenlisteForm()
       Dienste({{"Dienerzahlen", "Dienster1", "Dienster2", "Dienster3", "Dienster4", "Dienster5",
                 "Dienster6"},
                {"Ä1", "Ä2", "Ä3", "Ä4", "Ä5", "Ä6", "Ä7"},
-               {"Meßdienerzahl:", "Gabenbereitung:", "Leuchter:", "Flambeaus:", "Weihrauch:",
-                "Kreuzträger:", "Allgemein:"}}),
+               "Meßdienerzahl",
+               ":"}),
       Löscher(Knopf("Löscher", "Datensatz löschen")), NeuMeß(Knopf("NeuMeß", "neue Messe")),
       Lektoren(Knopf("Lektoren", "Lektoren und ...")), Ende(Knopf("Ende", "Ende"))
 {
@@ -210,7 +230,7 @@ void MessenlisteForm::ZeilenZeigen(int diener)
 /// A service that is no number leaves its slots and all after them numbered.
 void MessenlisteForm::Beschriften()
 {
-    Dienstwünsche wünsche;
+    Dienstwünsche wünsche{}; // what cannot be read counts as none
     const auto beschriften = [&] { Slots.Beschriften(SlotBeschriftungen(wünsche)); };
     try {
         Dienste.Lesen(wünsche);

@@ -29,11 +29,9 @@ NeuMesseForm::NeuMesseForm(MessenlisteForm &liste)
       Dienste({{"Dienerzahlen", "Dienster1", "Dienster2", "Dienster3", "Dienster4", "Dienster5",
                 "Dienster6"},
                {"Ä1", "Ä2", "Ä3", "Ä4", "Ä5", "Ä6", "Ä7"},
-               {"Meßdienerzahl:", "Gabenbereitung:", "Leuchter:", "Flambeaus:", "Weihrauch:",
-                "Kreuzträger:", "Allgemein:"}}),
-      Helferzahlen({{"Lecki", "Kommi", "Kanto", "Kolt"},
-                    {"Ä8", "Ä9", "Ä10", "Ä11"},
-                    {"Lektor:", "Kommunionhelfer:", "Kantor/in:", "Kollektant:"}}),
+               "Meßdienerzahl",
+               ":"}),
+      Helferzahlen({{"Lecki", "Kommi", "Kanto", "Kolt"}, {"Ä8", "Ä9", "Ä10", "Ä11"}, ":"}),
       OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen")),
       liste(&liste)
 {
@@ -141,9 +139,7 @@ void NeuMesseForm::Schreiben(int i)
     Messe.Uhrzeit[i] = Gelesen(Termin.Uhrwerk, DatumLesen);
     Messe.Messeart[i] = TextVon(Messewesen);
     Dienste.Schreiben(Messe, i);
-    ZahlenSchreiben(
-        Helferzahlen.Felder(),
-        std::array{&Messe.LektorZahl, &Messe.KommZahl, &Messe.KantorZahl, &Messe.KollektZahl}, i);
+    Helferzahlen.Schreiben(Messe, i);
 }
 
 void NeuMesseForm::closeEvent(QCloseEvent *ereignis)

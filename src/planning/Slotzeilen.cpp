@@ -58,7 +58,7 @@ void Slotzeilen::Sichtbar(int diener) const
     ordnung->invalidate();
 }
 
-void Slotzeilen::Beschriften(const std::array<Text, 20> &texte) const
+void Slotzeilen::Beschriften(const Slottexte &texte) const
 {
     for (std::size_t k = 0; k < MDR.size(); ++k)
         Setzen(MDR[k], texte[k]);

@@ -1,7 +1,7 @@
 // The rows of the servers of a mass: what each serves, first name, surname.
 #pragma once
 
-#include "values/Text.h"
+#include "planning/Messenbearbeitung.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -16,15 +16,16 @@ class Slotzeilen {
   public:
     Slotzeilen();
 
-    std::array<QLabel *, 20> MDR;    // MDR[0] to MDR[19]
-    std::array<QLineEdit *, 20> vor; // vor1 to vor20
-    std::array<QLineEdit *, 20> nach;
+    static constexpr std::size_t Zahl = MesseTabelle::HöchsterSlot;
+    std::array<QLabel *, Zahl> MDR;    // MDR[0] to MDR[19]
+    std::array<QLineEdit *, Zahl> vor; // vor1 to vor20
+    std::array<QLineEdit *, Zahl> nach;
 
     QLayout *Anordnen() const;
 
     /// The rows beyond this number of servers are hidden, so that they leave no hole.
     void Sichtbar(int diener) const;
-    void Beschriften(const std::array<Text, 20> &texte) const;
+    void Beschriften(const Slottexte &texte) const;
 
     /// The names of mass `i`.
     void Zeigen(int i) const;

@@ -22,14 +22,6 @@ namespace altardienst {
 namespace {
 
 constexpr int LetzterDatensatz = 10;
-constexpr std::array Wochentage = {"Sonntag",    "Montag",  "Dienstag", "Mittwoch",
-                                   "Donnerstag", "Freitag", "Samstag"};
-
-auto Helferspalten()
-{
-    return std::array{&Standardmesse.Lektor, &Standardmesse.Kommunion, &Standardmesse.Kantor,
-                      &Standardmesse.Kollektant};
-}
 
 } // namespace
 
@@ -44,17 +36,17 @@ StandardmessenForm::StandardmessenForm()
       Dienste({{"ZahlMeßdiener", "DienstA", "DienstB", "DienstC", "DienstD", "Dienste", "DienstF"},
                {"Änderung1", "Änderung2", "Änderung3", "Änderung4", "Änderung5", "Änderung6",
                 "Änderung7"},
-               {"Anzahl Meßdiener", "Gabenbereitung", "Leuchter", "Flambeaus", "Weihrauch",
-                "Kreuzträger", "Allgemein"}}),
+               "Anzahl Meßdiener",
+               ""}),
       Helferzahlen({{"Leck", "Komu", "Kanto", "Kolle"},
                     {"Änderung8", "Änderung9", "Änderung10", "Änderung11"},
-                    {"Lektor", "Kommunionhelfer", "Kantor/in", "Kollektant"}}),
+                    ""}),
       Löschig(Knopf("Löschig", "Löschen")), Ende(Knopf("Ende", "Ende"))
 {
     Benannt(this, "Standardmessen");
     setWindowTitle("Standardmessen");
-    for (const char *tag : Wochentage)
-        Tage->addItem(tag);
+    for (const Festtext &tag : Wochentagsnamen)
+        Tage->addItem(tag.c_str());
     RadSperren(Tage);
     Anordnen();
     Verbinden();
@@ -180,7 +172,7 @@ void StandardmessenForm::Löschen()
 /// written as it was; it cannot be chosen.
 void StandardmessenForm::TagZeigen(const Text &tag)
 {
-    constexpr int keiner = Wochentage.size(); // the place behind them
+    constexpr int keiner = Wochentagsnamen.size(); // the place behind them
     Tage->removeItem(keiner);
     if (!tag.empty() && Tage->findText(Anzeige(tag)) < 0) {
         Tage->addItem(Anzeige(tag));
@@ -196,7 +188,7 @@ void StandardmessenForm::Zeigen(int i)
     Setzen(Zeitig, LangeZeit(Standardmesse.Uhrzeit[i]));
     Setzen(Messearten, Standardmesse.Messeart[i]);
     Dienste.Zeigen(Standardmesse, i);
-    ZahlenZeigen(Helferzahlen.Felder(), Helferspalten(), i);
+    Helferzahlen.Zeigen(Standardmesse, i);
 }
 
 void StandardmessenForm::Schreiben(int i)
@@ -205,7 +197,7 @@ void StandardmessenForm::Schreiben(int i)
     Standardmesse.Uhrzeit[i] = Gelesen(Zeitig, DatumLesen);
     Standardmesse.Messeart[i] = TextVon(Messearten);
     Dienste.Schreiben(Standardmesse, i);
-    ZahlenSchreiben(Helferzahlen.Felder(), Helferspalten(), i);
+    Helferzahlen.Schreiben(Standardmesse, i);
 }
 
 /// A box that cannot be converted keeps the form open, with the failure shown.

@@ -2,12 +2,11 @@
 #include "printing/Listen.h"
 
 #include "core/Gruppen.h"
+#include "core/Plätze.h"
 #include "core/Umwandlung.h"
-#include "core/tables.h"
 #include "printing/Druckrahmen.h"
 #include "printing/Druckwerte.h"
 
-#include <array>
 #include <functional>
 
 namespace altardienst {
@@ -51,12 +50,10 @@ Text DatenZeile(int i)
 
 Text QualifikationenZeile(int i)
 {
-    constexpr std::array<const char *, 5> Dienste = {"Gabenbereitung", ", Leuchter", ", Flambeau",
-                                                     ", Weihrauch", ", Kreuzträger"};
     Text zeile = "Qualifikationen: ";
-    for (int position = 1; position <= 5; ++position)
-        if (IstJa(Meßdiener.Qualifikation[i], position))
-            zeile += Dienste[static_cast<std::size_t>(position - 1)];
+    for (const Dienstart &art : BesondereDienste)
+        if (IstJa(Meßdiener.Qualifikation[i], art.Stelle))
+            zeile += Text(art.Stelle == 1 ? "" : ", ") + art.Name.c_str();
     return zeile;
 }
 
@@ -199,13 +196,13 @@ void StandardmessenDrucken()
         for (int i = 0; i <= LetzteZeile; ++i) {
             ZeileDrucken(Standardmesse.Wochentag[i] + ", " + Druckdatum(Standardmesse.Uhrzeit[i]) +
                          "Uhr, " + Standardmesse.Messeart[i]);
-            ZeileDrucken("a:" + Druckzahl(Standardmesse.Dienerzahl[i]) +
-                         ", b:" + Druckzahl(Standardmesse.Gabenbereitung[i]) +
-                         ", c:" + Druckzahl(Standardmesse.Leuchter[i]) +
-                         ", d:" + Druckzahl(Standardmesse.Flambeau[i]) +
-                         ", e:" + Druckzahl(Standardmesse.Weihrauch[i]) +
-                         ", f:" + Druckzahl(Standardmesse.Kreuzträger[i]) +
-                         ", g:" + Druckzahl(Standardmesse.Allgemein[i]));
+            Text dienste = "a:" + Druckzahl(Standardmesse.Dienerzahl[i]);
+            char buchstabe = 'a';
+            for (const Dienstart &art : Dienstarten) {
+                ++buchstabe;
+                dienste += Text(", ") + buchstabe + ":" + Druckzahl(art.Zahl.In(Standardmesse)[i]);
+            }
+            ZeileDrucken(dienste);
             ZeileDrucken("Lektor:" + Druckzahl(Standardmesse.Lektor[i]) +
                          ", Kom.-Helfer:" + Druckzahl(Standardmesse.Kommunion[i]) +
                          ", Kantor/in:" + Druckzahl(Standardmesse.Kantor[i]) +

@@ -10,8 +10,8 @@ namespace altardienst {
 /// Every line of the plan that names a mass or its people, without line ends.
 struct PlanZeilen {
     Text Überschrift;
-    std::vector<Text> Diener; // Gabenbereitung, Leuchter, Flambeau, Weihrauch, Kreuzträger, others
-    std::vector<Text> Helfer; // Lektor, Kommunionhelfer, Kantor/in, Kollektant
+    std::vector<Text> Diener; // in the order of `Dienstarten`
+    std::vector<Text> Helfer; // in the order of `Helferarten`
 };
 
 /// The lines of mass `i`, from the services as they stand in `Messe.DienerDienst`.

@@ -2,8 +2,8 @@
 #include "printing/Plandruck.h"
 
 #include "assignment/Dienste.h"
+#include "core/Plätze.h"
 #include "core/Umwandlung.h"
-#include "core/tables.h"
 #include "printing/Druckrahmen.h"
 #include "printing/PlanZeilen.h"
 
@@ -23,8 +23,8 @@ void VollerPlan(int i, const PlanZeilen &plan, Int16 &Zeilen)
         ZeileDrucken(zeile);
     for (const Text &zeile : plan.Helfer)
         ZeileDrucken(zeile);
-    for (auto *zahl : {&Messe.LektorZahl, &Messe.KommZahl, &Messe.KantorZahl, &Messe.KollektZahl})
-        if ((*zahl)[i] > 0)
+    for (const Helferart &art : Helferarten)
+        if (art.Zahl.In(Messe)[i] > 0)
             ++Zeilen;
     Leerzeile();
     SeitePrüfen(Zeilen, Messe.Dienerzahl[i + 1] / 2.0 + MesseNachher);
@@ -36,8 +36,9 @@ void Helferformular(int i, Int16 &Zeilen)
     Drucker->FontBold(false);
     Zeilen += 2;
     if (Messe.Messeart[i] != "Wochendienst" && IstJa(Konfig.Flags11, 2)) {
-        for (const char *dienst : {"Lektor: ", "Kommunionhelfer: ", "Kollektant: ", "Kantor: "})
-            ZeileDrucken(dienst + Text("__________________________________"));
+        // Not in the order of the plan.
+        for (const Helferart *art : {&Lektor, &Kommunionhelfer, &Kollektant, &Kantor})
+            ZeileDrucken(art->Name.c_str() + Text(": __________________________________"));
         Leerzeile();
         Zeilen += 4;
     }

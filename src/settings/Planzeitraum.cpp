@@ -4,8 +4,8 @@
 #include "controls/Bausteine.h"
 #include "controls/Handler.h"
 #include "controls/Terminbox.h"
+#include "core/Plätze.h"
 #include "core/Umwandlung.h"
-#include "core/tables.h"
 #include "settings/Einstellungen.h"
 
 #include <QHBoxLayout>
@@ -13,9 +13,7 @@
 namespace altardienst {
 namespace {
 
-constexpr int WenigsteTage = 7;
-constexpr int MeisteTageBeiEingabe = 180;    // as in the start dialog
-constexpr int MeisteTageBeimVerlassen = 120; // the two differ, and both hold
+constexpr int MeisteTageBeimVerlassen = 120; // fewer than on Enter, and both hold
 
 QLayout *Reihe(std::initializer_list<QWidget *> controls)
 {
@@ -55,7 +53,7 @@ void Planzeitraum::Verbinden()
     BeiEingabetaste(Datumsen, Abgefangen([this] { Berechnen(); }));
     SchritteVerbinden(nullptr, nullptr, SpinButton1, [this](int tage) { DatumGedreht(tage); });
     SchritteVerbinden(nullptr, nullptr, tagilein.Spin, [this](int tage) { TageGedreht(tage); });
-    BeiEingabetaste(tagilein.Feld, Abgefangen([this] { TageBegrenzen(MeisteTageBeiEingabe); }));
+    BeiEingabetaste(tagilein.Feld, Abgefangen([this] { TageBegrenzen(MeisteTage); }));
 }
 
 void Planzeitraum::TageVerlassen()

@@ -5,7 +5,7 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
-#include "core/tables.h"
+#include "core/Plätze.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -28,16 +28,13 @@ QLabel *Absatz(const char *text, QWidget *zu = nullptr)
 } // namespace
 
 ZusatzKonfigForm::ZusatzKonfigForm()
-    : Wer(Benannt(new QCheckBox("Weihrauch"), "Wer")),
-      Kr(Benannt(new QCheckBox("Kreuzträger"), "Kr")),
+    : Wer(Benannt(new QCheckBox(Weihrauch.Name.c_str()), "Wer")),
+      Kr(Benannt(new QCheckBox(Kreuzträger.Name.c_str()), "Kr")),
       WOBO(ZahlboxAnlegen("WOBO", "UI1", "Wochen")), Ende(Knopf("Ende", "Ende"))
 {
-    std::size_t n = 0;
-    for (const char *tag :
-         {"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"}) {
-        OO[n] = Benannt(new QRadioButton(tag), ("OO" + std::to_string(n + 1)).c_str());
-        ++n;
-    }
+    for (std::size_t n = 0; n < OO.size(); ++n)
+        OO[n] = Benannt(new QRadioButton(Wochentagsnamen[n].c_str()),
+                        ("OO" + std::to_string(n + 1)).c_str());
     Benannt(this, "ZusatzKonfig");
     setWindowTitle("Zusätzliche Konfiguration");
     Anordnen();

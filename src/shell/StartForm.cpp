@@ -6,6 +6,7 @@
 #include "controls/Zahlbox.h"
 #include "core/Allgemein.h"
 #include "core/Dateien.h"
+#include "core/Plätze.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
 #include "fixed/FesteEinträge.h"
@@ -190,8 +191,6 @@ void StartForm::TageGedreht(int tage)
 
 void StartForm::TagileinGeändert()
 {
-    constexpr int WenigsteTage = 7;
-    constexpr int MeisteTage = 180;
     Neuberechnen();
     const Single tage = SingleLesen(TextVon(Tagilein)); // any number, however large
     if (tage < WenigsteTage)

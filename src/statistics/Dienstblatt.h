@@ -32,6 +32,19 @@ struct Dienstblattnamen {
     std::vector<Feld> Felder; // what is shown of a person
 };
 
+/// The fields of a person's services, with their names on the screen: both names, a count for each
+/// kind, the sum.
+template <class Art, std::size_t n>
+std::vector<Dienstblattnamen::Feld> Dienstfelder(const std::array<Art, n> &arten,
+                                                 const std::array<const char *, n + 3> &namen)
+{
+    std::vector<Dienstblattnamen::Feld> felder = {{namen[0], "Vorname"}, {namen[1], "Nachname"}};
+    for (std::size_t k = 0; k < n; ++k)
+        felder.push_back({namen[2 + k], arten[k].Name.c_str()});
+    felder.push_back({namen[2 + n], "Insgesamt"});
+    return felder;
+}
+
 /// Shows the person of number 0 first; a number of `anzahl` or more falls back to 0.
 class Dienstblatt : public QWidget {
   public:

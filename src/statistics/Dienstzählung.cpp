@@ -5,7 +5,6 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -82,9 +81,6 @@ template <class Zählung> class Namensverzeichnis {
     std::vector<std::pair<int, int>> weitere; // a row, and the first one of its name
 };
 
-constexpr std::array<std::string_view, 6> Dienste = {"Gabenbereitung", "Leuchter",    "Flambeau",
-                                                     "Weihrauch",      "Kreuzträger", "Allgemein"};
-
 } // namespace
 
 Meßdienerzählung MeßdienerdiensteZählen()
@@ -92,13 +88,14 @@ Meßdienerzählung MeßdienerdiensteZählen()
     Meßdienerzählung zählung;
     Namensverzeichnis verzeichnis(zählung, Meßdiener);
     for (int i = 0; i <= Messe.Anzahl; ++i) {
-        auto &dienste = Messe.DienerDienst[i];
         // Slot 0 has no service and counts nowhere.
         for (int slot = 1; slot <= MesseTabelle::HöchsterSlot; ++slot) {
-            const auto dienst = std::find(Dienste.begin(), Dienste.end(), dienste[slot - 1]);
-            if (dienst != Dienste.end())
+            const Text &dienst = DienstDesSlots(i, slot);
+            const auto art = std::ranges::find_if(
+                Dienstarten, [&](const Dienstart &eine) { return dienst == eine.Name; });
+            if (art != Dienstarten.end())
                 verzeichnis.Zählen(Messe.DienerVor[i][slot], Messe.DienerNach[i][slot],
-                                   static_cast<std::size_t>(dienst - Dienste.begin()));
+                                   static_cast<std::size_t>(art - Dienstarten.begin()));
         }
     }
     verzeichnis.Abschließen();
@@ -107,25 +104,11 @@ Meßdienerzählung MeßdienerdiensteZählen()
 
 Helferzählung HelferdiensteZählen()
 {
-    struct Platz {
-        MesseTabelle::Spalte<Text> &Vor, &Nach;
-        std::size_t Art;
-    };
-    const std::array<Platz, 8> plätze = {{
-        {Messe.Lektor1Vor, Messe.Lektor1Nach, 0},
-        {Messe.Lektor2Vor, Messe.Lektor2Nach, 0},
-        {Messe.Komm1Vor, Messe.Komm1Nach, 1},
-        {Messe.Komm2Vor, Messe.Komm2Nach, 1},
-        {Messe.Kantor1Vor, Messe.Kantor1Nach, 2},
-        {Messe.Kantor2Vor, Messe.Kantor2Nach, 2},
-        {Messe.Kollekt1Vor, Messe.Kollekt1Nach, 3},
-        {Messe.Kollekt2Vor, Messe.Kollekt2Nach, 3},
-    }};
     Helferzählung zählung;
     Namensverzeichnis verzeichnis(zählung, Helfer);
     for (int i = 0; i <= Messe.Anzahl; ++i)
-        for (const Platz &platz : plätze)
-            verzeichnis.Zählen(platz.Vor[i], platz.Nach[i], platz.Art);
+        for (const Helferplatz &platz : Helferplätze)
+            verzeichnis.Zählen((Messe.*platz.Vor)[i], (Messe.*platz.Nach)[i], NummerDer(platz.Art));
     verzeichnis.Abschließen();
     return zählung;
 }

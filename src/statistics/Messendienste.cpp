@@ -1,7 +1,6 @@
 // How many services the masses of the plan call for, and which the helpers offer.
 #include "statistics/Messendienste.h"
 
-#include "core/tables.h"
 #include "statistics/Teilen.h"
 
 #include <numeric>
@@ -9,14 +8,13 @@
 namespace altardienst {
 namespace {
 
-/// Sums of one column each over the masses of the plan.
-template <std::size_t n>
-std::array<int, n> Summen(const std::array<MesseTabelle::Spalte<Int16> *, n> &spalten)
+/// Sums of one count each over the masses of the plan.
+template <class Art, std::size_t n> std::array<int, n> Summen(const std::array<Art, n> &arten)
 {
     std::array<int, n> summen{};
     for (int i = 0; i < Messe.Anzahl; ++i)
         for (std::size_t k = 0; k < n; ++k)
-            summen[k] += (*spalten[k])[i];
+            summen[k] += arten[k].Zahl.In(Messe)[i];
     return summen;
 }
 
@@ -35,8 +33,7 @@ double Je(int summe, int anzahl)
 Messendienste MessendiensteAuswerten()
 {
     Messendienste d;
-    d.Gesamt = Summen<6>({&Messe.Gabenbereitung, &Messe.Leuchter, &Messe.Flambeau, &Messe.Weihrauch,
-                          &Messe.Kreuzträger, &Messe.Allgemein});
+    d.Gesamt = Summen(Dienstarten);
     d.Dienste = Summe(d.Gesamt);
     for (std::size_t k = 0; k < d.Gesamt.size(); ++k)
         d.JeMesse[k] = Je(d.Gesamt[k], Messe.Anzahl);
@@ -48,8 +45,7 @@ Messendienste MessendiensteAuswerten()
 Helferdienste HelferdiensteAuswerten()
 {
     Helferdienste d;
-    d.Gesamt =
-        Summen<4>({&Messe.LektorZahl, &Messe.KommZahl, &Messe.KantorZahl, &Messe.KollektZahl});
+    d.Gesamt = Summen(Helferarten);
     d.Dienste = Summe(d.Gesamt);
     if (d.Dienste > 0)
         for (std::size_t k = 0; k < d.Gesamt.size(); ++k)
@@ -61,14 +57,13 @@ Helferdienste HelferdiensteAuswerten()
 
 Helferangebot HelferangebotAuswerten()
 {
-    constexpr std::array<const char *, 4> Dienste = {"Lektor", "Kommunionhelfer", "Kantor",
-                                                     "Kollektant"};
     Helferangebot a;
     for (int i = 0; i <= Helfer.Anzahl; ++i)
-        for (std::size_t k = 0; k < Dienste.size(); ++k)
-            a.Anzahl[k] += (Helfer.Dienst1[i] == Dienste[k]) + (Helfer.Dienst2[i] == Dienste[k]);
+        for (std::size_t k = 0; k < Helferarten.size(); ++k)
+            a.Anzahl[k] += (Helfer.Dienst1[i] == Helferarten[k].Name) +
+                           (Helfer.Dienst2[i] == Helferarten[k].Name);
     a.Insgesamt = Summe(a.Anzahl);
-    for (std::size_t k = 0; k < Dienste.size(); ++k)
+    for (std::size_t k = 0; k < Helferarten.size(); ++k)
         a.Anteil[k] = Je(a.Anzahl[k], a.Insgesamt);
     a.AnteilInsgesamt = Je(a.Insgesamt, a.Insgesamt);
     return a;

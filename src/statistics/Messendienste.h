@@ -1,15 +1,16 @@
 // How many services the masses of the plan call for, and which the helpers offer.
 #pragma once
 
+#include "core/Plätze.h"
+
 #include <array>
 
 namespace altardienst {
 
-/// Services of servers. The kinds: Gabenbereitung, Leuchter, Flambeau, Weihrauch, Kreuzträger,
-/// Allgemein.
+/// Services of servers, in the order of `Dienstarten`.
 struct Messendienste {
-    std::array<int, 6> Gesamt{};
-    std::array<double, 6> JeMesse{};
+    std::array<int, Dienstarten.size()> Gesamt{};
+    std::array<double, Dienstarten.size()> JeMesse{};
     int Dienste = 0; // all kinds
     double DiensteJeMesse = 0;
     double DiensteJeMeßdiener = 0;
@@ -19,11 +20,11 @@ struct Messendienste {
 /// failure 11 if services are wanted and there are no servers.
 Messendienste MessendiensteAuswerten();
 
-/// Services of helpers. The kinds: Lektor, Kommunionhelfer, Kantor, Kollektant.
+/// Services of helpers, in the order of `Helferarten`.
 struct Helferdienste {
-    std::array<int, 4> Gesamt{};
-    std::array<double, 4> Anteil{}; // of all kinds
-    int Dienste = 0;                // all kinds
+    std::array<int, Helferarten.size()> Gesamt{};
+    std::array<double, Helferarten.size()> Anteil{}; // of all kinds
+    int Dienste = 0;                                 // all kinds
     double DiensteJeMesse = 0;
     double DiensteJeHelfer = 0;
 };
@@ -32,8 +33,8 @@ struct Helferdienste {
 Helferdienste HelferdiensteAuswerten();
 
 struct Helferangebot {
-    std::array<int, 4> Anzahl{};
-    std::array<double, 4> Anteil{};
+    std::array<int, Helferarten.size()> Anzahl{};
+    std::array<double, Helferarten.size()> Anteil{};
     int Insgesamt = 0;
     double AnteilInsgesamt = 0; // 1, or 0 without any
 };

@@ -14,17 +14,9 @@ namespace altardienst {
 
 StatDienstForm::StatDienstForm() : zählung(MeßdienerdiensteZählen())
 {
-    Blatt = new Dienstblatt({"INDEXLEIN",
-                             {{"V", "Vorname"},
-                              {"N", "Nachname"},
-                              {"G", "Gabenbereitung"},
-                              {"L", "Leuchter"},
-                              {"F", "Flambeau"},
-                              {"W", "Weihrauch"},
-                              {"K", "Kreuzträger"},
-                              {"A", "Allgemein"},
-                              {"I", "Insgesamt"}}},
-                            Meßdiener.Anzahl, [this](int i) { return TexteDer(zählung[i]); });
+    Blatt = new Dienstblatt(
+        {"INDEXLEIN", Dienstfelder(Dienstarten, {"V", "N", "G", "L", "F", "W", "K", "A", "I"})},
+        Meßdiener.Anzahl, [this](int i) { return TexteDer(zählung[i]); });
     Druckern = Knopf("Druckern", "Drucken");
     Ende = Knopf("Ende", "Ende");
     Benannt(this, "StatDienst");

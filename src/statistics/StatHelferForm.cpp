@@ -14,15 +14,9 @@ namespace altardienst {
 
 StatHelferForm::StatHelferForm() : zählung(HelferdiensteZählen())
 {
-    Blatt = new Dienstblatt({"Indexchen",
-                             {{"V1", "Vorname"},
-                              {"N1", "Nachname"},
-                              {"LE1", "Lektor"},
-                              {"KM1", "Kommunionhelfer"},
-                              {"KN1", "Kantor"},
-                              {"KL1", "Kollektant"},
-                              {"IN1", "Insgesamt"}}},
-                            Helfer.Anzahl, [this](int i) { return TexteDer(zählung[i]); });
+    Blatt = new Dienstblatt(
+        {"Indexchen", Dienstfelder(Helferarten, {"V1", "N1", "LE1", "KM1", "KN1", "KL1", "IN1"})},
+        Helfer.Anzahl, [this](int i) { return TexteDer(zählung[i]); });
     Dluckeln = Knopf("Dluckeln", "Drucken");
     Ende = Knopf("Ende", "Ende");
     Benannt(this, "StatHelfer");

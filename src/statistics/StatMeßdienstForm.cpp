@@ -26,15 +26,21 @@ StatMeßdienstForm::StatMeßdienstForm()
     Füllen();
 }
 
+StatMeßdienstForm::Labels StatMeßdienstForm::Gesamt() const
+{
+    return {MGges, MLges, MFges, MWges, MKges, MAges};
+}
+
+StatMeßdienstForm::Labels StatMeßdienstForm::JeMesse() const
+{
+    return {MGMes, MLMes, MFMes, MWMes, MKMes, MAMes};
+}
+
 void StatMeßdienstForm::Anordnen()
 {
     auto *tafel = new Zahlentafel({"Messendienst", "Insgesamt", "pro Messe"});
-    tafel->Zeile("Gabenbereitung", {MGges, MGMes});
-    tafel->Zeile("Leuchter", {MLges, MLMes});
-    tafel->Zeile("Flambeau", {MFges, MFMes});
-    tafel->Zeile("Weihrauch", {MWges, MWMes});
-    tafel->Zeile("Kreuzträger", {MKges, MKMes});
-    tafel->Zeile("Allgemein", {MAges, MAMes});
+    for (std::size_t k = 0; k < Dienstarten.size(); ++k)
+        tafel->Zeile(Dienstarten[k].Name.c_str(), {Gesamt()[k], JeMesse()[k]});
     tafel->Zeile("Dienste Meßdiener gesamt", {DMges});
     tafel->Zeile("Dienste je Messe", {nullptr, DMm});
     tafel->Zeile("Dienste je Meßdiener", {nullptr, DjM});
@@ -44,11 +50,9 @@ void StatMeßdienstForm::Anordnen()
 void StatMeßdienstForm::Füllen()
 {
     const Messendienste d = MessendiensteAuswerten();
-    const std::array gesamt = {MGges, MLges, MFges, MWges, MKges, MAges};
-    const std::array jeMesse = {MGMes, MLMes, MFMes, MWMes, MKMes, MAMes};
-    for (std::size_t k = 0; k < gesamt.size(); ++k) {
-        Setzen(gesamt[k], ZahlText(d.Gesamt[k]));
-        Setzen(jeMesse[k], Format(d.JeMesse[k], "##,####0.000"));
+    for (std::size_t k = 0; k < Dienstarten.size(); ++k) {
+        Setzen(Gesamt()[k], ZahlText(d.Gesamt[k]));
+        Setzen(JeMesse()[k], Format(d.JeMesse[k], "##,####0.000"));
     }
     Setzen(DMges, Format(d.Dienste, "###,#000.0"));
     Setzen(DMm, Format(d.DiensteJeMesse, "##,####0.000"));

@@ -1,6 +1,8 @@
 // The services of servers that the masses of the plan call for.
 #pragma once
 
+#include "core/Plätze.h"
+
 #include <QLabel>
 #include <QPushButton>
 #include <QWidget>
@@ -28,6 +30,10 @@ class StatMeßdienstForm : public QWidget {
     void closeEvent(QCloseEvent *ereignis) override;
 
   private:
+    using Labels = std::array<QLabel *, Dienstarten.size()>;
+    Labels Gesamt() const;
+    Labels JeMesse() const;
+
     void Anordnen();
     void Füllen();
 };

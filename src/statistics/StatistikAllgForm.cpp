@@ -27,13 +27,21 @@ StatistikAllgForm::StatistikAllgForm()
     Füllen();
 }
 
+StatistikAllgForm::Labels StatistikAllgForm::Anzahl() const
+{
+    return {LE1, Kom1, Ka1, Kol1};
+}
+
+StatistikAllgForm::Labels StatistikAllgForm::Anteil() const
+{
+    return {Le2, Kom2, Ka2, Kol2};
+}
+
 void StatistikAllgForm::Anordnen()
 {
     auto *tafel = new Zahlentafel({"Dienste", "Anzahl Wert", "Anzahl Prozentual"});
-    tafel->Zeile("Lektor", {LE1, Le2});
-    tafel->Zeile("Kommunionhelfer", {Kom1, Kom2});
-    tafel->Zeile("Kantor", {Ka1, Ka2});
-    tafel->Zeile("Kollektant", {Kol1, Kol2});
+    for (std::size_t k = 0; k < Helferarten.size(); ++k)
+        tafel->Zeile(Helferarten[k].Name.c_str(), {Anzahl()[k], Anteil()[k]});
     tafel->Zeile("Insgesamt", {I1, I2});
 
     auto *spalte = new QVBoxLayout(this);
@@ -51,11 +59,9 @@ void StatistikAllgForm::Füllen()
 {
     Setzen(DD1, KurzesDatum(Uhr.Heute()));
     const Helferangebot d = HelferangebotAuswerten();
-    const std::array anzahl = {LE1, Kom1, Ka1, Kol1};
-    const std::array anteil = {Le2, Kom2, Ka2, Kol2};
-    for (std::size_t k = 0; k < anzahl.size(); ++k) {
-        Setzen(anzahl[k], ZahlText(d.Anzahl[k]));
-        Setzen(anteil[k], Format(d.Anteil[k], "##,##0.00%"));
+    for (std::size_t k = 0; k < Helferarten.size(); ++k) {
+        Setzen(Anzahl()[k], ZahlText(d.Anzahl[k]));
+        Setzen(Anteil()[k], Format(d.Anteil[k], "##,##0.00%"));
     }
     Setzen(I1, ZahlText(d.Insgesamt));
     Setzen(I2, Format(d.AnteilInsgesamt, "##,##0.00%"));

@@ -1,6 +1,8 @@
 // How the services that the helpers offer are distributed.
 #pragma once
 
+#include "core/Plätze.h"
+
 #include <QLabel>
 #include <QPushButton>
 #include <QWidget>
@@ -24,6 +26,10 @@ class StatistikAllgForm : public QWidget {
     void closeEvent(QCloseEvent *ereignis) override;
 
   private:
+    using Labels = std::array<QLabel *, Helferarten.size()>;
+    Labels Anzahl() const;
+    Labels Anteil() const;
+
     void Anordnen();
     void Füllen();
 };

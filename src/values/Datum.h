@@ -4,7 +4,6 @@
 #include "values/Text.h"
 
 #include <array>
-#include <string_view>
 
 namespace altardienst {
 
@@ -43,7 +42,7 @@ Datum UhrzeitWeiter(Datum zeit, int sekunden);
 int Wochentag(Datum datum);
 
 /// The names of weekdays 1 to 7.
-inline constexpr std::array<std::string_view, 7> Wochentagsnamen = {
+inline constexpr std::array<Festtext, 7> Wochentagsnamen = {
     "Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"};
 
 /// "Sonntag" for weekday 1 to "Samstag" for weekday 7.

@@ -10,6 +10,14 @@ namespace altardienst {
 /// letters, umlauts and "ß" behind "z".
 using Text = std::string;
 
+/// A text that stands in the program itself, whole and with its end.
+class Festtext : public std::string_view {
+  public:
+    consteval Festtext(const char *text) : std::string_view(text) {} // implicit on purpose
+
+    const char *c_str() const { return data(); }
+};
+
 /// The number of characters (code points).
 int Länge(std::string_view text);
 

@@ -95,8 +95,7 @@ TEST_F(MessenbearbeitungTest, SlotBeschriftungenOhneDiensteSindDieNummern)
 
 TEST_F(MessenbearbeitungTest, SlotBeschriftungenNennenDieDiensteInFesterFolge)
 {
-    const auto texte = SlotBeschriftungen(
-        {.Gabenbereitung = 1, .Leuchter = 2, .Flambeau = 3, .Weihrauch = 1, .Kreuzträger = 2});
+    const auto texte = SlotBeschriftungen({1, 2, 3, 1, 2});
     const std::array<Text, 20> erwartet = {
         "Gabenber. :",    "Leuchter :",     "Leuchter :",     "Flambeau :",     "Flambeau :",
         "Flambeau :",     "Weihrauch :",    "Kreuztr. :",     "Kreuztr. :",     "Meßdiener 10 :",

@@ -216,12 +216,12 @@ Meßdienerzählung AlleMitAllen()
     return zählung;
 }
 
-struct Helferplatz {
+struct PlatzUndArt {
     MesseTabelle::Spalte<Text> &Vor, &Nach;
     std::size_t Art;
 };
 
-const std::array<Helferplatz, 8> Helferplätze = {{
+const std::array<PlatzUndArt, 8> AllePlätze = {{
     {Messe.Lektor1Vor, Messe.Lektor1Nach, 0},
     {Messe.Lektor2Vor, Messe.Lektor2Nach, 0},
     {Messe.Komm1Vor, Messe.Komm1Nach, 1},
@@ -239,7 +239,7 @@ Helferzählung AlleHelferMitAllen()
         zählung[h].Vorname = Helfer.Vorname[h];
         zählung[h].Nachname = Helfer.Nachname[h];
         for (int i = 0; i <= Messe.Anzahl; ++i)
-            for (const Helferplatz &platz : Helferplätze)
+            for (const PlatzUndArt &platz : AllePlätze)
                 if (platz.Nach[i] == Helfer.Nachname[h] && platz.Vor[i] == Helfer.Vorname[h])
                     ++zählung[h].Dienste[platz.Art];
     }
@@ -286,7 +286,7 @@ void Erwürfeln(std::mt19937 &zufall, int meßdiener, int messen)
         Helfer.Nachname[h] = eines(nachnamen);
     }
     for (int i = 0; i <= messen; ++i)
-        for (const Helferplatz &platz : Helferplätze) {
+        for (const PlatzUndArt &platz : AllePlätze) {
             const int h = zahl(Helfer.Anzahl);
             const bool leer = zahl(10) == 0;
             platz.Vor[i] = leer ? "" : Helfer.Vorname[h];
