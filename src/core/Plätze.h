@@ -1,6 +1,6 @@
 // The services and places of a mass, and the bounds of a plan, each in one place. Whatever lists
 // them walks these tables; what a list has to itself stands with that list. The names of the
-// weekdays stand with the dates (core/Datum.h).
+// weekdays stand with the dates (values/Datum.h).
 #pragma once
 
 #include "core/tables.h"

@@ -1,12 +1,12 @@
 // The editor of the helpers, one at a time.
 #include "people/HelferForm.h"
 
-#include "core/Plätze.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 #include "controls/Terminbox.h"
 #include "controls/Zahlbox.h"
+#include "core/Plätze.h"
 #include "people/NeuerHelferForm.h"
 #include "platform/Meldungen.h"
 

@@ -1,10 +1,10 @@
 // The editor of the altar servers, one at a time.
 #include "people/MeßdienerForm.h"
 
-#include "core/Plätze.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
+#include "core/Plätze.h"
 #include "people/NeuMeßdienerForm.h"
 #include "platform/Meldungen.h"
 #include "printing/Aufnahmebestätigung.h"

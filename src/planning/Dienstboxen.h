@@ -1,8 +1,8 @@
 // The number of servers of a mass and the boxes of its services, which add up to it.
 #pragma once
 
-#include "core/Plätze.h"
 #include "controls/Zahlbox.h"
+#include "core/Plätze.h"
 #include "planning/Messenbearbeitung.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 // The helpers of one mass, shown and set by hand.
 #pragma once
 
-#include "core/Plätze.h"
 #include "application/Nebenfenster.h"
 #include "controls/Zahlbox.h"
+#include "core/Plätze.h"
 
 #include <QComboBox>
 #include <QLabel>
