@@ -10,6 +10,7 @@
 #include "assignment/Zuweisungsrahmen.h"
 #include "assignment/ZweiMeßdienerzuweisen.h"
 #include "core/Sortierbefehle.h"
+#include "fixed/FesteMeßdienerÜbertragen.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -79,12 +80,12 @@ class GleichePläneTest : public Gemeindestand {
              UhrTickt(Ticken);
              Antworten = {true};
              WenigerMeßdiener();
-             MessenMitMeßdienerBesetzen();
+             MessenMitMeßdienerBesetzen(FesteMeßdienerÜbertragen);
          }},
         {"button (4)",
          [this] {
              UhrTickt(Ticken);
-             WunschpartnerBerücksichtigen();
+             WunschpartnerBerücksichtigen(FesteMeßdienerÜbertragen);
          }},
     };
 
