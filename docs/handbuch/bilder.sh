@@ -11,17 +11,19 @@ mkdir -p "$arbeit/bilder" "$arbeit/pfarrbuero/"{Bilder,Dokumente,Sicherung}
 export HOME=$arbeit/pfarrbuero
 env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --saat 1 \
     --schritte 1,4,5,6,2 \
-    --menue mnuStandardmessen,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern,mnuDatenHolen,mnuHintergrund,mnuHelpAbout \
+    --menue mnuStandardmessen,mnuGruppe,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern,mnuDatenHolen,mnuHintergrund,mnuHelpAbout \
     --bilder "$arbeit/bilder" >/dev/null 2>&1
 
 # The last picture of a window is the one with the finished plan.
 bild() {
     cp "$(ls "$arbeit"/bilder/*-"$1".png | tail -1)" "bilder/$2.png"
 }
+bild Start start
 bild Haupt haupt
 bild Standardmessen standardmessen
 bild Messenliste messenliste
 bild NeuMesseDienerFest fest
+bild Gruppe gruppe
 bild Meßdiener messdiener
 bild Helfer helfer
 bild Druck druck
