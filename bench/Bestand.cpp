@@ -2,7 +2,7 @@
 #include "Bestand.h"
 
 #include "assignment/Dienste.h"
-#include "core/tables.h"
+#include "core/Plätze.h"
 
 #include <array>
 #include <string>
@@ -134,14 +134,11 @@ void MessehelferFüllen(int i)
 {
     Messe.LektorZahl[i] = Messe.KommZahl[i] = Messe.KantorZahl[i] = Messe.KollektZahl[i] = 2;
     int person = i;
-    for (auto *vor : {&Messe.Lektor1Vor, &Messe.Lektor2Vor, &Messe.Komm1Vor, &Messe.Komm2Vor,
-                      &Messe.Kantor1Vor, &Messe.Kantor2Vor, &Messe.Kollekt1Vor, &Messe.Kollekt2Vor})
-        (*vor)[i] = VornameNr(++person);
-    person = i;
-    for (auto *nach :
-         {&Messe.Lektor1Nach, &Messe.Lektor2Nach, &Messe.Komm1Nach, &Messe.Komm2Nach,
-          &Messe.Kantor1Nach, &Messe.Kantor2Nach, &Messe.Kollekt1Nach, &Messe.Kollekt2Nach})
-        (*nach)[i] = NachnameNr(++person);
+    for (const Helferplatz &platz : Helferplätze) {
+        ++person;
+        (Messe.*platz.Vor)[i] = VornameNr(person);
+        (Messe.*platz.Nach)[i] = NachnameNr(person);
+    }
 }
 
 void KonfigAnlegen()

@@ -3,7 +3,6 @@
 
 #include "core/Jahre.h"
 #include "core/Umwandlung.h"
-#include "core/tables.h"
 #include "statistics/Teilen.h"
 
 #include <algorithm>
@@ -13,7 +12,6 @@ namespace altardienst {
 
 Meßdienerstatistik MeßdienerAuswerten(Datum heute)
 {
-    constexpr int LetzteQualifikation = 5; // the sixth, Anführer, is not counted
     Meßdienerstatistik s;
     Single altersmonate = 0;
     Single zugehörigkeitsmonate = 0;
@@ -26,10 +24,10 @@ Meßdienerstatistik MeßdienerAuswerten(Datum heute)
 
         s.Zusammensetzung[0] += Meßdiener.Geschlecht[i] == "männlich";
         s.Zusammensetzung[1] += Meßdiener.Geschlecht[i] == "weiblich";
-        for (std::size_t q = 1; q <= LetzteQualifikation; ++q)
-            s.Zusammensetzung[1 + q] +=
-                IstJa(Meßdiener.Qualifikation[i], static_cast<int>(q)) ? 1 : 0;
-        ++s.Zusammensetzung[7];
+        for (std::size_t k = 0; k < BesondereDienste.size(); ++k)
+            s.Zusammensetzung[2 + k] +=
+                IstJa(Meßdiener.Qualifikation[i], BesondereDienste[k].Stelle) ? 1 : 0;
+        ++s.Zusammensetzung.back();
 
         altersmonate += static_cast<Single>(Monatsgrenzen(Meßdiener.Geburtstag[i], heute));
         zugehörigkeitsmonate +=

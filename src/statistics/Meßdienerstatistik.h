@@ -3,6 +3,7 @@
 
 #include "values/Datum.h"
 #include "values/Int16.h"
+#include "core/Plätze.h"
 #include "values/Spalte.h"
 #include "values/Text.h"
 
@@ -14,9 +15,9 @@ struct Meßdienerstatistik {
     std::array<int, 12> Alter{};         // years: up to 9, 10 to 19 one each, 20 or more
     std::array<int, 16> Zugehörigkeit{}; // years: 0 to 14 one each, 15 or more
 
-    // male, female, the five qualifications from Gabenbereitung to Kreuzträger, all servers. Who
-    // has no sex is in neither of the first two.
-    std::array<int, 8> Zusammensetzung{};
+    // male, female, the qualifications for the services that have slots of their own, all servers.
+    // Who has no sex is in neither of the first two; who leads is not counted apart.
+    std::array<int, 3 + BesondereDienste.size()> Zusammensetzung{};
 
     Single Durchschnittsalter = 0;         // years, from the months
     Single Durchschnittszugehörigkeit = 0; // years, from the months

@@ -25,13 +25,24 @@ StatistikHelferForm::StatistikHelferForm()
     Füllen();
 }
 
+StatistikHelferForm::Labels StatistikHelferForm::Gesamt() const
+{
+    return {LL1, KOR1, KAR1, KLR1};
+}
+
+StatistikHelferForm::Labels StatistikHelferForm::Anteil() const
+{
+    return {LL2, KOR2, KAR2, KLR2};
+}
+
 void StatistikHelferForm::Anordnen()
 {
     auto *tafel = new Zahlentafel({"Messendienst", "Insgesamt", "pro Messe"});
-    tafel->Zeile("Lektor", {LL1, LL2});
-    tafel->Zeile("Kommunionhelfer", {KOR1, KOR2});
-    tafel->Zeile("Kantor", {KAR1, KAR2});
-    tafel->Zeile("Kollektor", {KLR1, KLR2});
+    for (std::size_t k = 0; k < Helferarten.size(); ++k) {
+        const bool kollektant = &Helferarten[k] == &Kollektant; // has another name here
+        tafel->Zeile(kollektant ? "Kollektor" : Helferarten[k].Name.c_str(),
+                     {Gesamt()[k], Anteil()[k]});
+    }
     tafel->Zeile("Dienste Helfer insgesamt", {DHI});
     tafel->Zeile("Dienste je Messe", {nullptr, DHM});
     tafel->Zeile("Dienste je Helfer", {nullptr, DHH});
@@ -41,11 +52,9 @@ void StatistikHelferForm::Anordnen()
 void StatistikHelferForm::Füllen()
 {
     const Helferdienste d = HelferdiensteAuswerten();
-    const std::array gesamt = {LL1, KOR1, KAR1, KLR1};
-    const std::array anteil = {LL2, KOR2, KAR2, KLR2};
-    for (std::size_t k = 0; k < gesamt.size(); ++k) {
-        Setzen(gesamt[k], ZahlText(d.Gesamt[k]));
-        Setzen(anteil[k], Format(d.Anteil[k], "##,##0.00%"));
+    for (std::size_t k = 0; k < Helferarten.size(); ++k) {
+        Setzen(Gesamt()[k], ZahlText(d.Gesamt[k]));
+        Setzen(Anteil()[k], Format(d.Anteil[k], "##,##0.00%"));
     }
     Setzen(DHI, ZahlText(d.Dienste));
     Setzen(DHM, Format(d.DiensteJeMesse, "##,####0.000"));

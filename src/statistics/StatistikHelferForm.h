@@ -1,6 +1,8 @@
 // The services of helpers that the masses of the plan call for.
 #pragma once
 
+#include "core/Plätze.h"
+
 #include <QLabel>
 #include <QPushButton>
 #include <QWidget>
@@ -26,6 +28,10 @@ class StatistikHelferForm : public QWidget {
     void closeEvent(QCloseEvent *ereignis) override;
 
   private:
+    using Labels = std::array<QLabel *, Helferarten.size()>;
+    Labels Gesamt() const;
+    Labels Anteil() const;
+
     void Anordnen();
     void Füllen();
 };

@@ -4,6 +4,8 @@
 
 #include "Prüfstand.h"
 
+#include "core/Plätze.h"
+
 #include <algorithm>
 #include <random>
 
@@ -91,12 +93,8 @@ class Gemeindestand : public Prüfstand {
         for (int i = 0; i <= MeisteMessen + 2; ++i) {
             for (int s = 0; s <= MeisteSlots; ++s)
                 Messe.DienerVor[i][s] = Messe.DienerNach[i][s] = Unberührt;
-            for (auto *name :
-                 {&Messe.Lektor1Vor, &Messe.Lektor1Nach, &Messe.Lektor2Vor, &Messe.Lektor2Nach,
-                  &Messe.Komm1Vor, &Messe.Komm1Nach, &Messe.Komm2Vor, &Messe.Komm2Nach,
-                  &Messe.Kantor1Vor, &Messe.Kantor1Nach, &Messe.Kantor2Vor, &Messe.Kantor2Nach,
-                  &Messe.Kollekt1Vor, &Messe.Kollekt1Nach, &Messe.Kollekt2Vor, &Messe.Kollekt2Nach})
-                (*name)[i] = Unberührt;
+            for (const Helferplatz &platz : Helferplätze)
+                (Messe.*platz.Vor)[i] = (Messe.*platz.Nach)[i] = Unberührt;
         }
     }
 
