@@ -9,7 +9,6 @@
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -146,9 +145,7 @@ void JubiGebuForm::Anordnen()
     teile->setColumnStretch(1, 1);
     teile->setRowStretch(2, 1);
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(12, 12, 12, 12);
-    spalte->setSpacing(14);
+    auto *spalte = Fensterspalte(this, Luft::Wenig);
     spalte->addWidget(Rollbar(teile), 1);
     spalte->addLayout(Knopfreihe({Ende}));
     Monat->checkedButton()->setFocus();
@@ -198,12 +195,6 @@ void JubiGebuForm::EtikettenDrucken()
 {
     Etikettenrahmen->Drucken(Jubiläum->isChecked() ? EtikettenDerJubiläen()
                                                    : EtikettenDerGeburtstage());
-}
-
-void JubiGebuForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

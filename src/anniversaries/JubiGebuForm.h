@@ -2,6 +2,7 @@
 #pragma once
 
 #include "anniversaries/JubiGebu.h"
+#include "application/Dialogfenster.h"
 #include "printing/Etikettenwahl.h"
 
 #include <QButtonGroup>
@@ -9,7 +10,7 @@
 namespace altardienst {
 
 /// The two tables always hold what is chosen.
-class JubiGebuForm : public QWidget {
+class JubiGebuForm : public Dialogfenster {
   public:
     JubiGebuForm();
 
@@ -24,9 +25,6 @@ class JubiGebuForm : public QWidget {
     QRadioButton *Jubiläum;
     Etikettenwahl *Etikettenrahmen; // EtiGröß with O1 to O10, Etik with Reih, Spal, Etiketten
     QPushButton *Ende;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     void Anordnen();

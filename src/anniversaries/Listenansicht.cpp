@@ -9,7 +9,6 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
@@ -64,9 +63,7 @@ void Listenansicht::Anordnen(const Listenworte &worte)
         raster->addWidget(feld, reihe++, 1);
     }
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 20, 20, 20);
-    spalte->setSpacing(18);
+    auto *spalte = Fensterspalte(this, Luft::Viel);
     spalte->addLayout(kopf);
     spalte->addLayout(raster);
     spalte->addStretch();

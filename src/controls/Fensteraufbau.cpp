@@ -1,9 +1,25 @@
-// What stands at the same place in every dialog: the row of the records above, the buttons below.
+// What is the same in every window: the room at its edges, the row of the records above, the
+// buttons below.
 #include "controls/Fensteraufbau.h"
 
 #include <QHBoxLayout>
 
 namespace altardienst {
+
+QVBoxLayout *Fensterspalte(QWidget *fenster, Luft luft)
+{
+    struct Maße {
+        int Rand;
+        int Abstand;
+    };
+    const Maße maße = luft == Luft::Viel     ? Maße{20, 18}
+                      : luft == Luft::Mittel ? Maße{16, 12}
+                                             : Maße{12, 8};
+    auto *spalte = new QVBoxLayout(fenster);
+    spalte->setContentsMargins(maße.Rand, maße.Rand, maße.Rand, maße.Rand);
+    spalte->setSpacing(maße.Abstand);
+    return spalte;
+}
 
 QLayout *Datensatzkopf(Datensatzwahl *wahl, QLabel *beschriftung, QLabel *anzahl)
 {

@@ -1,4 +1,5 @@
-// What stands at the same place in every dialog: the row of the records above, the buttons below.
+// What is the same in every window: the room at its edges, the row of the records above, the
+// buttons below.
 #pragma once
 
 #include "controls/Datensatzwahl.h"
@@ -6,10 +7,17 @@
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include <initializer_list>
 
 namespace altardienst {
+
+/// How much room a window leaves at its edges and between its parts: the fuller it is, the less.
+enum class Luft { Viel, Mittel, Wenig };
+
+/// The column in which everything in a window stands.
+QVBoxLayout *Fensterspalte(QWidget *fenster, Luft luft);
 
 /// The record mover, and beside it the number of records.
 QLayout *Datensatzkopf(Datensatzwahl *wahl, QLabel *beschriftung, QLabel *anzahl);

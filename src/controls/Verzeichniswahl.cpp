@@ -52,6 +52,23 @@ std::filesystem::path OhneTrenner(const std::filesystem::path &verzeichnis)
 
 } // namespace
 
+QLabel *Pfadanzeige(const char *name)
+{
+    QLabel *pfad = Beschriftung(name, "");
+    pfad->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    pfad->setWordWrap(true);
+    pfad->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    return pfad;
+}
+
+QLineEdit *Verzeichnisname(const char *name)
+{
+    QLineEdit *feld = Textfeld(name);
+    feld->setAccessibleName("Name des neuen Verzeichnisses");
+    feld->setPlaceholderText("neues Verzeichnis");
+    return feld;
+}
+
 Verzeichniswahl::Verzeichniswahl(const char *laufwerkName, const char *verzeichnisName,
                                  const char *dateienName)
     : Laufwerk(Benannt(new QComboBox, laufwerkName)),

@@ -5,12 +5,21 @@
 #include "values/Text.h"
 
 #include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 
 #include <filesystem>
 #include <functional>
 
 namespace altardienst {
+
+/// Shows a path, which can be marked and wraps: a long one must not widen the window beyond the
+/// screen.
+QLabel *Pfadanzeige(const char *name);
+
+/// For the name of a directory to be made.
+QLineEdit *Verzeichnisname(const char *name);
 
 /// The three lists of a dialog, which lays them out itself. The file list follows the directory
 /// list. Choosing a drive goes to its root; one that cannot be read leaves the lists, and the drive
@@ -21,7 +30,7 @@ class Verzeichniswahl {
     /// doesn't lay it out.
     Verzeichniswahl(const char *laufwerkName, const char *verzeichnisName, const char *dateienName);
 
-    Verzeichniswahl(const Verzeichniswahl &) = delete;
+    Verzeichniswahl(const Verzeichniswahl &) = delete; // its handlers refer to it
     Verzeichniswahl &operator=(const Verzeichniswahl &) = delete;
 
     QComboBox *Laufwerk;

@@ -14,10 +14,8 @@
 #include "fixed/NeuMesseDienerFestForm.h"
 #include "platform/Meldungen.h"
 
-#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QPointer>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -91,9 +89,7 @@ void MesseDienerFestForm::Zurück()
 
 void MesseDienerFestForm::Anordnen()
 {
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(16, 16, 16, 16);
-    spalte->setSpacing(12);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Anzahl Datensätze:"), MaxIndex));
     spalte->addLayout(Felder.Messenzeile());
     spalte->addWidget(Rollbar(Felder.Slotzeilen()), 1);
@@ -210,7 +206,7 @@ void MesseDienerFestForm::Zeigen()
 }
 
 /// The window's own close presses `OKbutton`; an entry that cannot be stored does not hold it up.
-void MesseDienerFestForm::closeEvent(QCloseEvent *ereignis)
+void MesseDienerFestForm::VorDemSchließen()
 {
     if (!gespeichert) {
         OKbutton->setFocus(); // the box being filled in is left
@@ -220,8 +216,6 @@ void MesseDienerFestForm::closeEvent(QCloseEvent *ereignis)
     hide();
     FesteZuordnungOffen = false;
     Abgefangen(ÜbertragenAufWunsch)();
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

@@ -1,13 +1,14 @@
 // Servers and groups fixed to particular masses, one entry at a time.
 #pragma once
 
+#include "application/Dialogfenster.h"
 #include "controls/Datensatzwahl.h"
 #include "fixed/Zuordnungsfelder.h"
 
 namespace altardienst {
 
 /// There is one at most, which the dialog for a new entry comes back to. All handlers are trapped.
-class MesseDienerFestForm : public QWidget {
+class MesseDienerFestForm : public Dialogfenster {
   public:
     /// The one that is open, enabled again, or a new one.
     static MesseDienerFestForm *Offene();
@@ -22,14 +23,12 @@ class MesseDienerFestForm : public QWidget {
     QPushButton *Löschen;
     QPushButton *OKbutton;
 
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
-
   private:
     MesseDienerFestForm();
     Zuordnungsfelder::Unterschiede Unterschiede();
     void Anordnen();
     void Verbinden();
+    void VorDemSchließen() override;
 
     void Aufschlagen();
     void NummerGeändert();

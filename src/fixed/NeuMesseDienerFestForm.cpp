@@ -14,7 +14,6 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
@@ -52,9 +51,7 @@ Zuordnungsfelder::Unterschiede NeuMesseDienerFestForm::Unterschiede()
 
 void NeuMesseDienerFestForm::Anordnen()
 {
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(16, 16, 16, 16);
-    spalte->setSpacing(12);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(Felder.Messenzeile());
     spalte->addWidget(Rollbar(Felder.Slotzeilen()), 1);
     spalte->addLayout(Knopfreihe({Anfügen, Abrechen}));

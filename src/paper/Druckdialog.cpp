@@ -17,7 +17,6 @@
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QStandardPaths>
-#include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
@@ -121,9 +120,7 @@ void DruckdialogForm::Anordnen()
     formen->addWidget(ZweiteForm);
     formen->addStretch();
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(16, 16, 16, 16);
-    spalte->setSpacing(14);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(raster);
     spalte->addWidget(Ausführung);
     spalte->addLayout(Knopfreihe({OKButton, CancelButton}));

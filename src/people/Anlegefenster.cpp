@@ -7,7 +7,6 @@
 
 #include <QCloseEvent>
 #include <QShortcut>
-#include <QVBoxLayout>
 
 namespace altardienst {
 
@@ -25,9 +24,7 @@ void Anlegefenster::KnöpfeVerbinden(std::function<void()> anlegen)
 
 void Anlegefenster::RahmenAnordnen(QLayout *angaben)
 {
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 20, 20, 20);
-    spalte->setSpacing(18);
+    auto *spalte = Fensterspalte(this, Luft::Viel);
     spalte->addWidget(Rollbar(angaben), 1);
     spalte->addLayout(Schlußknöpfe());
     setMinimumWidth(460);

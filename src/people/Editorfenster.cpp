@@ -5,8 +5,6 @@
 #include "controls/Handler.h"
 #include "controls/Zahlbox.h"
 
-#include <QCloseEvent>
-
 namespace altardienst {
 
 Editorfenster::Editorfenster(Datensatzwahl *wahl) : Wahl(wahl), Ende(Knopf("Ende", "Ende")) {}
@@ -33,15 +31,10 @@ void Editorfenster::Speichern()
 
 /// The window's own close writes without renaming. A box that cannot be converted keeps the form
 /// open, with the failure shown.
-void Editorfenster::closeEvent(QCloseEvent *ereignis)
+void Editorfenster::VorDemSchließen()
 {
-    ereignis->ignore();
-    Offen([&] {
-        if (!abgeschlossen)
-            Speichern();
-        ereignis->accept();
-        HauptfensterZurück();
-    })();
+    if (!abgeschlossen)
+        Speichern();
 }
 
 } // namespace altardienst

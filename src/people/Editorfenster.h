@@ -3,16 +3,16 @@
 #pragma once
 
 #include "application/Anwendung.h"
+#include "application/Dialogfenster.h"
 #include "controls/Datensatzwahl.h"
 
 #include <QPushButton>
-#include <QWidget>
 
 #include <functional>
 
 namespace altardienst {
 
-class Editorfenster : public QWidget {
+class Editorfenster : public Dialogfenster {
   public:
     explicit Editorfenster(Datensatzwahl *wahl);
 
@@ -49,9 +49,8 @@ class Editorfenster : public QWidget {
     /// What still comes of the focus then is of no concern.
     bool IstAbgeschlossen() const { return abgeschlossen; }
 
-    void closeEvent(QCloseEvent *ereignis) override;
-
   private:
+    void VorDemSchließen() override;
     void Speichern();
 
     bool abgeschlossen = false;

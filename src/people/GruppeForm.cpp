@@ -11,7 +11,6 @@
 #include "platform/Meldungen.h"
 
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
@@ -43,9 +42,7 @@ void GruppeForm::Anordnen()
     name->addWidget(Beschriftung("", "Gruppe:", GBezeichnung));
     name->addWidget(GBezeichnung, 1);
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 20, 20, 20);
-    spalte->setSpacing(18);
+    auto *spalte = Fensterspalte(this, Luft::Viel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Anzahl Gruppen:"), Gruppenzahl));
     spalte->addLayout(name);
     spalte->addLayout(Knopfreihe({Ende}, {NEWGroup, Löschend}));

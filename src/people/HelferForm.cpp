@@ -101,9 +101,7 @@ void HelferForm::Anordnen()
     mitte->addLayout(person, 1);
     mitte->addLayout(rechts);
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 20, 20, 20);
-    spalte->setSpacing(18);
+    auto *spalte = Fensterspalte(this, Luft::Viel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Datensatzanzahl:"), Datensätzig));
     spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(Knopfreihe({Ende}, {NeuHelfer, Datensatzlösch}));

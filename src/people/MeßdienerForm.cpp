@@ -87,9 +87,7 @@ void MeßdienerForm::Anordnen()
     mitte->addLayout(Personenteil(), 1);
     mitte->addLayout(rechts);
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(16, 16, 16, 16);
-    spalte->setSpacing(12);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Anzahl Datensätze:"), MaxIndex));
     spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(Knopfreihe({Ende}, {NeuDiener, Lösch, Aufnahmebestätigung}));

@@ -2,13 +2,13 @@
 #include "people/NeuGruppeForm.h"
 
 #include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 #include "core/tables.h"
 #include "people/Personen.h"
 #include "platform/Meldungen.h"
 
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
@@ -42,9 +42,7 @@ void NeuGruppeForm::Anordnen()
     auto *name = new QHBoxLayout;
     name->addWidget(Beschriftung("", "Gruppe:", GBezeichnung));
     name->addWidget(GBezeichnung, 1);
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 20, 20, 20);
-    spalte->setSpacing(18);
+    auto *spalte = Fensterspalte(this, Luft::Viel);
     spalte->addLayout(name);
     spalte->addLayout(Schlußknöpfe());
     spalte->addStretch();

@@ -3,6 +3,8 @@
 
 #include "controls/Handler.h"
 
+#include <QHBoxLayout>
+
 namespace altardienst {
 namespace {
 
@@ -138,6 +140,21 @@ std::array<QLineEdit *, Helferzahlboxen::Zahl> Helferzahlboxen::Felder() const
     for (std::size_t k = 0; k < Zahl; ++k)
         felder[k] = Boxen[k].Feld;
     return felder;
+}
+
+QLayout *Nebeneinander(const Dienstboxen &dienste, const Helferzahlboxen &helfer)
+{
+    auto *links = new QGridLayout;
+    dienste.Anordnen(links, 0);
+    auto *rechts = new QGridLayout;
+    helfer.Anordnen(rechts, 0);
+    auto *reihe = new QHBoxLayout;
+    reihe->setSpacing(36);
+    reihe->addLayout(links);
+    reihe->addLayout(rechts);
+    reihe->setAlignment(rechts, Qt::AlignTop);
+    reihe->addStretch();
+    return reihe;
 }
 
 } // namespace altardienst

@@ -27,6 +27,8 @@ struct Dienstnamen {
 class Dienstboxen {
   public:
     explicit Dienstboxen(const Dienstnamen &namen);
+    Dienstboxen(const Dienstboxen &) = delete; // its handlers refer to it
+    Dienstboxen &operator=(const Dienstboxen &) = delete;
 
     Zahlbox Dienerzahl;
     std::array<Zahlbox, BesondereDienste.size()> Dienste;
@@ -109,5 +111,8 @@ class Helferzahlboxen {
   private:
     std::array<Text, Zahl> texte;
 };
+
+/// The numbers of servers, and to their right those of helpers.
+QLayout *Nebeneinander(const Dienstboxen &dienste, const Helferzahlboxen &helfer);
 
 } // namespace altardienst

@@ -16,7 +16,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QScopeGuard>
-#include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
@@ -141,9 +140,7 @@ void LektorrenuswForm::Anordnen()
     raster->setColumnStretch(6, 1);
     raster->setRowStretch(static_cast<int>(Plätze.size()), 1);
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 20, 20, 20);
-    spalte->setSpacing(18);
+    auto *spalte = Fensterspalte(this, Luft::Viel);
     spalte->addWidget(Rollbar(raster), 1);
     spalte->addLayout(Knopfreihe({Ende}));
     GrößeAnpassen(this);

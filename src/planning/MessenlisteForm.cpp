@@ -132,9 +132,7 @@ void MessenlisteForm::Anordnen()
     mitte->addLayout(links);
     mitte->addLayout(Slots.Anordnen(), 1);
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(16, 16, 16, 16);
-    spalte->setSpacing(12);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("NBe", "Anzahl Datensätze:"), maxi));
     spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(Knopfreihe({Ende}, {Löscher, NeuMeß, Lektoren}));

@@ -14,7 +14,6 @@
 #include "platform/Uhr.h"
 
 #include <QCloseEvent>
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 namespace altardienst {
@@ -56,26 +55,13 @@ void NeuMesseForm::Anordnen()
     termin->addWidget(Beschriftung("", "Art:", Messewesen), 6, 0);
     termin->addWidget(Messewesen, 6, 1, 1, 2);
 
-    auto *dienste = new QGridLayout;
-    Dienste.Anordnen(dienste, 0);
-    auto *helfer = new QGridLayout;
-    Helferzahlen.Anordnen(helfer, 0);
-    auto *zahlen = new QHBoxLayout;
-    zahlen->setSpacing(36);
-    zahlen->addLayout(dienste);
-    zahlen->addLayout(helfer);
-    zahlen->setAlignment(helfer, Qt::AlignTop);
-    zahlen->addStretch();
-
     auto *oben = new QVBoxLayout;
     oben->setSpacing(18);
     oben->addLayout(termin);
-    oben->addLayout(zahlen);
+    oben->addLayout(Nebeneinander(Dienste, Helferzahlen));
     oben->addStretch();
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 20, 20, 20);
-    spalte->setSpacing(18);
+    auto *spalte = Fensterspalte(this, Luft::Viel);
     spalte->addWidget(Rollbar(oben), 1);
     spalte->addLayout(Knopfreihe({OKButton, CancelButton}));
     GrößeAnpassen(this);

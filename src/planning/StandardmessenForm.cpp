@@ -1,7 +1,6 @@
 // The editor of the week pattern: one regular mass at a time.
 #include "planning/StandardmessenForm.h"
 
-#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Gelesen.h"
@@ -12,11 +11,9 @@
 #include "core/tables.h"
 #include "platform/Meldungen.h"
 
-#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QListView>
 #include <QStandardItemModel>
-#include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
@@ -82,22 +79,9 @@ void StandardmessenForm::Anordnen()
     oben->addWidget(Beschriftung("", "Art", Messearten), 2, 0);
     oben->addWidget(Messearten, 2, 1);
 
-    auto *dienste = new QGridLayout;
-    Dienste.Anordnen(dienste, 0);
-    auto *helfer = new QGridLayout;
-    Helferzahlen.Anordnen(helfer, 0);
-    auto *zahlen = new QHBoxLayout;
-    zahlen->setSpacing(40);
-    zahlen->addLayout(dienste);
-    zahlen->addLayout(helfer);
-    zahlen->setAlignment(helfer, Qt::AlignTop);
-    zahlen->addStretch();
-
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 20, 20, 20);
-    spalte->setSpacing(18);
+    auto *spalte = Fensterspalte(this, Luft::Viel);
     spalte->addLayout(oben);
-    spalte->addLayout(zahlen);
+    spalte->addLayout(Nebeneinander(Dienste, Helferzahlen));
     spalte->addStretch();
     spalte->addLayout(Knopfreihe({Löschig, Ende}, {Wahl}));
     Tage->setFocus();
@@ -201,14 +185,9 @@ void StandardmessenForm::Schreiben(int i)
 }
 
 /// A box that cannot be converted keeps the form open, with the failure shown.
-void StandardmessenForm::closeEvent(QCloseEvent *ereignis)
+void StandardmessenForm::VorDemSchließen()
 {
-    ereignis->ignore();
-    Offen([&] {
-        Schreiben(Standardmesse.Anzahl);
-        ereignis->accept();
-        HauptfensterZurück();
-    })();
+    Schreiben(Standardmesse.Anzahl);
 }
 
 } // namespace altardienst

@@ -1,6 +1,7 @@
 // The editor of the week pattern: one regular mass at a time.
 #pragma once
 
+#include "application/Dialogfenster.h"
 #include "controls/Datensatzwahl.h"
 #include "planning/Dienstboxen.h"
 
@@ -8,7 +9,7 @@
 
 namespace altardienst {
 
-class StandardmessenForm : public QWidget {
+class StandardmessenForm : public Dialogfenster {
   public:
     StandardmessenForm();
 
@@ -27,12 +28,10 @@ class StandardmessenForm : public QWidget {
     QPushButton *Löschig;
     QPushButton *Ende;
 
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
-
   private:
     void Anordnen();
     void Verbinden();
+    void VorDemSchließen() override;
 
     void NummerGeändert();
     void Schritt(int richtung);

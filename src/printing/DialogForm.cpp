@@ -1,14 +1,12 @@
 // The dialog that writes the plan as a text file.
 #include "printing/DialogForm.h"
 
-#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -16,11 +14,11 @@
 namespace altardienst {
 
 DialogForm::DialogForm()
-    : Wahl("Drive1", "Dir1", "Dateien"), Dateiname(Textfeld("Dateiname")), VZ(Textfeld("VZ")),
-      Verzeichnis(Knopf("Verzeichnis", "Verzeichnis erstellen")),
+    : Wahl("Drive1", "Dir1", "Dateien"), Dateiname(Textfeld("Dateiname")),
+      VZ(Verzeichnisname("VZ")), Verzeichnis(Knopf("Verzeichnis", "Verzeichnis erstellen")),
       Datend(Benannt(new QGroupBox("Daten an Datei"), "Datend")),
       Überschreib(Benannt(new QRadioButton("überschreiben"), "Überschreib")),
-      Anhang(Benannt(new QRadioButton("anhängen"), "Anhang")), Datei(Beschriftung("Datei", "")),
+      Anhang(Benannt(new QRadioButton("anhängen"), "Anhang")), Datei(Pfadanzeige("Datei")),
       OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen"))
 {
     Benannt(this, "Dialog");
@@ -35,12 +33,6 @@ void DialogForm::Anordnen()
 {
     Dateiname->setAccessibleName("Dateiname ohne Endung");
     Dateiname->setPlaceholderText("Datei"); // the name that an empty box stands for
-    VZ->setAccessibleName("Name des neuen Verzeichnisses");
-    VZ->setPlaceholderText("neues Verzeichnis");
-    Datei->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    Datei->setWordWrap(true);
-    // A long path must not widen the window beyond the screen.
-    Datei->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 
     auto *links = new QVBoxLayout;
     links->addWidget(Wahl.Laufwerk);
@@ -63,9 +55,7 @@ void DialogForm::Anordnen()
     listen->addLayout(links, 1);
     listen->addLayout(rechts, 1);
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(16, 16, 16, 16);
-    spalte->setSpacing(12);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(listen, 1);
     spalte->addWidget(Datei);
     spalte->addLayout(Knopfreihe({OKButton, CancelButton}));
@@ -118,12 +108,6 @@ void DialogForm::Schreiben()
         return;
     }
     close();
-}
-
-void DialogForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

@@ -1,6 +1,7 @@
 // The dialog that writes the plan as a text file.
 #pragma once
 
+#include "application/Dialogfenster.h"
 #include "controls/Verzeichniswahl.h"
 #include "printing/Textexport.h"
 
@@ -9,12 +10,11 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QWidget>
 
 namespace altardienst {
 
 /// Proposes to append to a file that exists, and to write one that doesn't.
-class DialogForm : public QWidget {
+class DialogForm : public Dialogfenster {
   public:
     DialogForm();
 
@@ -28,9 +28,6 @@ class DialogForm : public QWidget {
     QLabel *Datei;
     QPushButton *OKButton;
     QPushButton *CancelButton;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     void Anordnen();

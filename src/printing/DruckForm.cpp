@@ -1,7 +1,6 @@
 // All printing that is not a chart: the plan, lists, blank forms and labels.
 #include "printing/DruckForm.h"
 
-#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
@@ -14,7 +13,6 @@
 #include "printing/Plandruck.h"
 
 #include <QButtonGroup>
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -77,9 +75,7 @@ void DruckForm::Anordnen()
     oben->addLayout(links);
     oben->addWidget(Adressetiketten(), 1);
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(16, 16, 16, 16);
-    spalte->setSpacing(12);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addWidget(Rollbar(oben), 1);
     spalte->addLayout(Knopfreihe({Ende}));
     Messendruck->setFocus();
@@ -219,12 +215,6 @@ void DruckForm::EtikettenDrucken()
 Text DruckForm::GewählteGruppe() const
 {
     return Gruppend->currentText().toStdString();
-}
-
-void DruckForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

@@ -1,6 +1,7 @@
 // All printing that is not a chart: the plan, lists, blank forms and labels.
 #pragma once
 
+#include "application/Dialogfenster.h"
 #include "printing/Etikettenwahl.h"
 
 #include <QComboBox>
@@ -9,7 +10,7 @@
 
 namespace altardienst {
 
-class DruckForm : public QWidget {
+class DruckForm : public Dialogfenster {
   public:
     DruckForm();
 
@@ -38,9 +39,6 @@ class DruckForm : public QWidget {
     QRadioButton *Messhelfer;
     QPushButton *EtikGross;
     QPushButton *Ende;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     void Anordnen();

@@ -1,7 +1,6 @@
 // The editor of the ten label formats.
 #include "printing/EtikettenForm.h"
 
-#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
@@ -9,10 +8,8 @@
 #include "core/Umwandlung.h"
 #include "core/tables.h"
 
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -84,9 +81,7 @@ void EtikettenForm::Anordnen()
     zahl("Spalten :", S, false);
     raster->setColumnStretch(4, 1);
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 20, 20, 20);
-    spalte->setSpacing(18);
+    auto *spalte = Fensterspalte(this, Luft::Viel);
     spalte->addLayout(raster);
     spalte->addLayout(Knopfreihe({Ende}, {Wahl}));
     spalte->addStretch();
@@ -165,14 +160,9 @@ void EtikettenForm::Schreiben()
 }
 
 /// A box that is no number keeps the form open, with the failure shown.
-void EtikettenForm::closeEvent(QCloseEvent *ereignis)
+void EtikettenForm::VorDemSchließen()
 {
-    ereignis->ignore();
-    Offen([&] {
-        Schreiben();
-        ereignis->accept();
-        HauptfensterZurück();
-    })();
+    Schreiben();
 }
 
 } // namespace altardienst

@@ -1,13 +1,14 @@
 // The editor of the ten label formats.
 #pragma once
 
+#include "application/Dialogfenster.h"
 #include "controls/Datensatzwahl.h"
 
 #include <array>
 
 namespace altardienst {
 
-class EtikettenForm : public QWidget {
+class EtikettenForm : public Dialogfenster {
   public:
     EtikettenForm();
 
@@ -23,12 +24,10 @@ class EtikettenForm : public QWidget {
     std::array<SpinButton *, 7> Ä; // Ä1 to Ä7, in the order of the number boxes
     QPushButton *Ende;
 
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
-
   private:
     void Anordnen();
     void Verbinden();
+    void VorDemSchließen() override;
 
     void IndGeändert();
     void Schritt(int richtung);

@@ -1,14 +1,12 @@
 // The dialog that chooses the picture behind the main window.
 #include "settings/HintergrundsucheForm.h"
 
-#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 #include "core/tables.h"
 #include "platform/Laufwerke.h"
 
-#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -38,9 +36,7 @@ void HintergrundsucheForm::Anordnen()
     oben->addLayout(links, 2);
     oben->addWidget(Bild, 3);
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(16, 16, 16, 16);
-    spalte->setSpacing(12);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(oben, 1);
     spalte->addLayout(Knopfreihe({Ende}));
     resize(660, 440);
@@ -67,12 +63,6 @@ void HintergrundsucheForm::DateiGewählt()
         std::filesystem::path::string_type(1, std::filesystem::path::preferred_separator)));
     Konfig.Hintergrund = TextVon(Wahl.Pfad()) + trenner + name;
     Bild->Zeigen(Konfig.Hintergrund);
-}
-
-void HintergrundsucheForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

@@ -1,7 +1,6 @@
 // The settings of the parish, of the plan and of everything printed.
 #include "settings/KonfigurationForm.h"
 
-#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
@@ -10,7 +9,6 @@
 #include "platform/Drucker.h"
 #include "settings/Einstellungen.h"
 
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -102,9 +100,7 @@ void KonfigurationForm::Anordnen()
     inhalt->addLayout(oben);
     inhalt->addLayout(Flags());
     inhalt->addStretch();
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(12, 12, 12, 12);
-    spalte->setSpacing(6);
+    auto *spalte = Fensterspalte(this, Luft::Wenig);
     spalte->addWidget(Rollbar(inhalt), 1);
     spalte->addLayout(Knopfreihe({Ende}));
     DiffJahr->setParent(this);
@@ -283,11 +279,9 @@ bool KonfigurationForm::eventFilter(QObject *control, QEvent *ereignis)
     return QWidget::eventFilter(control, ereignis);
 }
 
-void KonfigurationForm::closeEvent(QCloseEvent *ereignis)
+void KonfigurationForm::VorDemSchließen()
 {
     geschlossen = true; // boxes lose the focus behind this; nothing is checked any more
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

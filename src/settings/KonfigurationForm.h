@@ -1,6 +1,7 @@
 // The settings of the parish, of the plan and of everything printed.
 #pragma once
 
+#include "application/Dialogfenster.h"
 #include "controls/Flagboxen.h"
 #include "controls/Zahlbox.h"
 #include "core/tables.h"
@@ -16,7 +17,7 @@
 namespace altardienst {
 
 /// Every control writes its field at once; leaving the form checks nothing.
-class KonfigurationForm : public QWidget {
+class KonfigurationForm : public Dialogfenster {
   public:
     KonfigurationForm();
 
@@ -42,7 +43,6 @@ class KonfigurationForm : public QWidget {
 
   protected:
     bool eventFilter(QObject *control, QEvent *ereignis) override;
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     void Anordnen();
@@ -52,6 +52,7 @@ class KonfigurationForm : public QWidget {
     QWidget *Ausrichtung();
     QLayout *Flags();
     void Verbinden();
+    void VorDemSchließen() override;
     void Füllen();
 
     void PlzOrtVerlassen();

@@ -61,7 +61,7 @@ DateienKopierenForm::DateienKopierenForm(std::function<void(bool)> danach)
 KopierForm::KopierForm(const Kopierdialog &dialog, std::function<void(bool)> danach)
     : Wahl("Drive1", "Dir1", "Dateien"), EoA(Benannt(new QGroupBox("Daten ?"), "EoA")),
       Alle(Option("Alle", "Alle")), Einzel(Option("Einzel", "Einzel")),
-      Welche(Benannt(new QGroupBox("Welche ?"), "Welche")), Datei(Beschriftung("Datei", "")),
+      Welche(Benannt(new QGroupBox("Welche ?"), "Welche")), Datei(Pfadanzeige("Datei")),
       OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen")),
       dialog(dialog), danach(std::move(danach))
 {
@@ -70,7 +70,7 @@ KopierForm::KopierForm(const Kopierdialog &dialog, std::function<void(bool)> dan
     for (std::size_t k = 0; k < O.size(); ++k)
         O[k] = Option("O" + std::to_string(k + 1), Kopierdateien[k].Beschriftung);
     if (dialog.Hinaus) {
-        VZ = Textfeld("VZ");
+        VZ = Verzeichnisname("VZ");
         Verzeichnis = Knopf("Verzeichnis", "Verzeichnis erstellen");
     }
     Anordnen();
@@ -82,17 +82,10 @@ KopierForm::KopierForm(const Kopierdialog &dialog, std::function<void(bool)> dan
 
 void KopierForm::Anordnen()
 {
-    Datei->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    Datei->setWordWrap(true);
-    // A long path must not widen the window beyond the screen.
-    Datei->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-
     auto *links = new QVBoxLayout;
     links->addWidget(Wahl.Laufwerk);
     links->addWidget(Wahl.Verzeichnis);
     if (VZ) {
-        VZ->setAccessibleName("Name des neuen Verzeichnisses");
-        VZ->setPlaceholderText("neues Verzeichnis");
         VZ->setStyleSheet("QLineEdit { background-color: #ffffff; }"
                           "QLineEdit:focus { background-color: #00ff00; }");
         links->addWidget(VZ);
@@ -120,9 +113,7 @@ void KopierForm::Anordnen()
     PlatzBehalten(Welche);
     PlatzBehalten(OKButton);
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(16, 16, 16, 16);
-    spalte->setSpacing(12);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(oben, 1);
     spalte->addWidget(Datei);
     spalte->addLayout(Knopfreihe({OKButton, CancelButton}));

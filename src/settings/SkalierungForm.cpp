@@ -1,7 +1,6 @@
 // Print scales and table sizes.
 #include "settings/SkalierungForm.h"
 
-#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
@@ -9,10 +8,8 @@
 #include "core/tables.h"
 #include "values/Laufzeitfehler.h"
 
-#include <QCloseEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
@@ -110,9 +107,7 @@ void SkalierungForm::Anordnen()
         raster->setColumnStretch(0, 1);
         return rahmen;
     };
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(16, 14, 16, 14);
-    spalte->setSpacing(12);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addWidget(gruppe("Druckskalierung für beide Achsen (Punkte zu mm)",
                              {{"X-Achse", XSKALA}, {"Y-Achse", YSKALA}}));
     spalte->addWidget(
@@ -140,12 +135,6 @@ void SkalierungForm::Verbinden()
     GrößeVerbinden(MJS, Konfig.Skal5, [] { return Konfig.Skal1 + Konfig.Skal2; });
     GrößeVerbinden(MVS, Konfig.Skal6, fest(202));
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
-}
-
-void SkalierungForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

@@ -1,17 +1,17 @@
 // Print scales and table sizes.
 #pragma once
 
+#include "application/Dialogfenster.h"
 #include "controls/Zahlbox.h"
 
 #include <QPushButton>
-#include <QWidget>
 
 #include <functional>
 
 namespace altardienst {
 
 /// Every change is stored at once; there is no cancel.
-class SkalierungForm : public QWidget {
+class SkalierungForm : public Dialogfenster {
   public:
     SkalierungForm();
 
@@ -24,9 +24,6 @@ class SkalierungForm : public QWidget {
     Zahlbox MJS;    // MJSS
     Zahlbox MVS;    // MVSS
     QPushButton *Ende;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     void Anordnen();

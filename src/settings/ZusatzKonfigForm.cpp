@@ -1,16 +1,13 @@
 // The settings of the proposed start, and of the services that are set by hand.
 #include "settings/ZusatzKonfigForm.h"
 
-#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 #include "core/Plätze.h"
 
-#include <QCloseEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
@@ -60,9 +57,7 @@ void ZusatzKonfigForm::Anordnen()
     wochen->addWidget(Beschriftung("", "Wochen"));
     wochen->addStretch();
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 20, 20, 20);
-    spalte->setSpacing(12);
+    auto *spalte = Fensterspalte(this, Luft::Viel);
     spalte->addWidget(Absatz("Folgende Dienste können beim angehackelten Kästchen manuell im "
                              "Altardienst gesetzt werden."));
     spalte->addLayout(dienste);
@@ -98,12 +93,6 @@ void ZusatzKonfigForm::Füllen()
     for (int n = 0; n < static_cast<int>(OO.size()); ++n)
         OO[static_cast<std::size_t>(n)]->setChecked(n + 1 == Konfig.StartWochentag);
     ZahlSetzen(WOBO.Feld, Konfig.VorlaufWochen);
-}
-
-void ZusatzKonfigForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

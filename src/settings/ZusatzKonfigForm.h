@@ -1,6 +1,7 @@
 // The settings of the proposed start, and of the services that are set by hand.
 #pragma once
 
+#include "application/Dialogfenster.h"
 #include "controls/Zahlbox.h"
 
 #include <QCheckBox>
@@ -10,7 +11,7 @@
 namespace altardienst {
 
 /// Every control writes its field at once; leaving the form checks nothing.
-class ZusatzKonfigForm : public QWidget {
+class ZusatzKonfigForm : public Dialogfenster {
   public:
     ZusatzKonfigForm();
 
@@ -19,9 +20,6 @@ class ZusatzKonfigForm : public QWidget {
     std::array<QRadioButton *, 7> OO; // OO1 to OO7
     Zahlbox WOBO;                     // UI1
     QPushButton *Ende;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     void Anordnen();

@@ -10,7 +10,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
@@ -72,9 +71,7 @@ void frmAboutForm::Anordnen()
     raster->addWidget(lblDisclaimer, 4, 1);
     raster->setColumnStretch(1, 1);
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 20, 20, 20);
-    spalte->setSpacing(16);
+    auto *spalte = Fensterspalte(this, Luft::Viel);
     spalte->addLayout(raster);
     spalte->addStretch();
     spalte->addLayout(Knopfreihe({cmdOK, cmdSysInfo}));

@@ -8,6 +8,7 @@
 #include "assignment/Dienste.h"
 #include "assignment/Zuweisungsrahmen.h"
 #include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 #include "core/Allgemein.h"
 #include "core/Sortierbefehle.h"
@@ -194,8 +195,8 @@ void HauptForm::Anordnen()
     links->addLayout(uhr);
 
     auto *mitte = new QWidget;
-    auto *reihe = new QHBoxLayout(mitte);
-    reihe->setContentsMargins(16, 16, 16, 16);
+    auto *reihe = new QHBoxLayout;
+    Fensterspalte(mitte, Luft::Mittel)->addLayout(reihe);
     reihe->setSpacing(16);
     reihe->addLayout(links);
     reihe->addWidget(Image1, 1);

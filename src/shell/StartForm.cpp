@@ -2,6 +2,7 @@
 #include "shell/StartForm.h"
 
 #include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 #include "controls/Zahlbox.h"
 #include "core/Allgemein.h"
@@ -17,7 +18,6 @@
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -80,9 +80,7 @@ void StartForm::Anordnen()
     unten->addWidget(Starten);
     unten->addStretch();
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 20, 20, 20);
-    spalte->setSpacing(22);
+    auto *spalte = Fensterspalte(this, Luft::Viel);
     spalte->addLayout(raster);
     spalte->addWidget(UHRZEIT);
     spalte->addLayout(unten);

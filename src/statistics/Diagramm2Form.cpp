@@ -7,7 +7,6 @@
 #include "statistics/Zahlentafel.h"
 
 #include <QCloseEvent>
-#include <QVBoxLayout>
 
 namespace altardienst {
 
@@ -25,8 +24,7 @@ Diagramm2Form::Diagramm2Form(Statistik2Form *statistik)
 
 void Diagramm2Form::Anordnen()
 {
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(12, 10, 12, 10);
+    auto *spalte = Fensterspalte(this, Luft::Wenig);
     spalte->addWidget(MSChart1, 1);
     spalte->addLayout(Knopfreihe({Druck, OKButton, CancelButton}));
     OKButton->setFocus();
@@ -50,6 +48,8 @@ void Diagramm2Form::Füllen()
 void Diagramm2Form::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->accept();
+    if (!statistik)
+        return;
     statistik->show();
     statistik->activateWindow();
 }

@@ -1,7 +1,6 @@
 // Age and membership of the servers as charts.
 #include "statistics/DiagrammeForm.h"
 
-#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "core/Umwandlung.h"
 #include "platform/Uhr.h"
@@ -12,7 +11,6 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 namespace altardienst {
 namespace {
@@ -55,8 +53,7 @@ void DiagrammeForm::Anordnen()
         wahl->addWidget(option);
     wahl->addStretch();
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(12, 10, 12, 10);
+    auto *spalte = Fensterspalte(this, Luft::Wenig);
     spalte->addWidget(F1);
     for (Diagrammbild *bild : {MSChart1, MSChart2, MSChart3}) {
         bild->hide();
@@ -95,6 +92,8 @@ void DiagrammeForm::Füllen()
 void DiagrammeForm::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->accept();
+    if (!statistik)
+        return;
     statistik->show();
     statistik->activateWindow();
 }

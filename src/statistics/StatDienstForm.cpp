@@ -1,14 +1,10 @@
 // The services of each server in the plan.
 #include "statistics/StatDienstForm.h"
 
-#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "controls/Handler.h"
 #include "statistics/Dienstlisten.h"
 #include "statistics/Zahlentafel.h"
-
-#include <QCloseEvent>
-#include <QVBoxLayout>
 
 namespace altardienst {
 
@@ -27,9 +23,7 @@ StatDienstForm::StatDienstForm() : zählung(MeßdienerdiensteZählen())
 
 void StatDienstForm::Anordnen()
 {
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 16, 20, 14);
-    spalte->setSpacing(14);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addWidget(Blatt);
     spalte->addLayout(Knopfreihe({Druckern, Ende}));
     setMinimumWidth(380);
@@ -41,12 +35,6 @@ void StatDienstForm::Verbinden()
     connect(Druckern, &QPushButton::clicked, this,
             Offen([this] { MeßdienerdiensteDrucken(zählung); }));
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
-}
-
-void StatDienstForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

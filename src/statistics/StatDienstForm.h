@@ -1,22 +1,20 @@
 // The services of each server in the plan.
 #pragma once
 
+#include "application/Dialogfenster.h"
 #include "statistics/Dienstblatt.h"
 #include "statistics/Dienstzählung.h"
 
 namespace altardienst {
 
 /// Failure 9 if the tables are fuller than there is room for: the window does not come to be.
-class StatDienstForm : public QWidget {
+class StatDienstForm : public Dialogfenster {
   public:
     StatDienstForm();
 
     Dienstblatt *Blatt; // V, N, G, L, F, W, K, A, I, INDEXLEIN, MINUS, PLUS
     QPushButton *Druckern;
     QPushButton *Ende;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     void Anordnen();

@@ -1,14 +1,10 @@
 // The services of each helper in the plan.
 #include "statistics/StatHelferForm.h"
 
-#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "controls/Handler.h"
 #include "statistics/Dienstlisten.h"
 #include "statistics/Zahlentafel.h"
-
-#include <QCloseEvent>
-#include <QVBoxLayout>
 
 namespace altardienst {
 
@@ -27,9 +23,7 @@ StatHelferForm::StatHelferForm() : zählung(HelferdiensteZählen())
 
 void StatHelferForm::Anordnen()
 {
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 16, 20, 14);
-    spalte->setSpacing(14);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addWidget(Blatt);
     spalte->addLayout(Knopfreihe({Dluckeln, Ende}));
     setMinimumWidth(380);
@@ -41,12 +35,6 @@ void StatHelferForm::Verbinden()
     connect(Dluckeln, &QPushButton::clicked, this,
             Offen([this] { HelferdiensteDrucken(zählung); }));
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
-}
-
-void StatHelferForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

@@ -1,22 +1,20 @@
 // The services of each helper in the plan.
 #pragma once
 
+#include "application/Dialogfenster.h"
 #include "statistics/Dienstblatt.h"
 #include "statistics/Dienstzählung.h"
 
 namespace altardienst {
 
 /// Failure 9 if the tables are fuller than there is room for: the window does not come to be.
-class StatHelferForm : public QWidget {
+class StatHelferForm : public Dialogfenster {
   public:
     StatHelferForm();
 
     Dienstblatt *Blatt; // V1, N1, LE1, KM1, KN1, KL1, IN1, Indexchen, MINUS, PLUS
     QPushButton *Dluckeln;
     QPushButton *Ende;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     void Anordnen();

@@ -1,14 +1,11 @@
 // The services of servers that the masses of the plan call for.
 #include "statistics/StatMeßdienstForm.h"
 
-#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "core/Umwandlung.h"
 #include "core/Zahlenmuster.h"
 #include "statistics/Messendienste.h"
 #include "statistics/Zahlentafel.h"
-
-#include <QCloseEvent>
 
 namespace altardienst {
 
@@ -57,12 +54,6 @@ void StatMeßdienstForm::Füllen()
     Setzen(DMges, Format(d.Dienste, "###,#000.0"));
     Setzen(DMm, Format(d.DiensteJeMesse, "##,####0.000"));
     Setzen(DjM, Format(d.DiensteJeMeßdiener, "##,####0.000"));
-}
-
-void StatMeßdienstForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

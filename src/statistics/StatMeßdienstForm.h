@@ -1,16 +1,16 @@
 // The services of servers that the masses of the plan call for.
 #pragma once
 
+#include "application/Dialogfenster.h"
 #include "core/Plätze.h"
 
 #include <QLabel>
 #include <QPushButton>
-#include <QWidget>
 
 namespace altardienst {
 
 /// Failure 11 if services are wanted and there are no servers: the window does not come to be.
-class StatMeßdienstForm : public QWidget {
+class StatMeßdienstForm : public Dialogfenster {
   public:
     StatMeßdienstForm();
 
@@ -25,9 +25,6 @@ class StatMeßdienstForm : public QWidget {
     QLabel *DjM;           // per server
     QPushButton *Druck;
     QPushButton *Ende;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     using Labels = std::array<QLabel *, Dienstarten.size()>;

@@ -13,9 +13,6 @@
 #include "statistics/Teilen.h"
 #include "statistics/Zahlentafel.h"
 
-#include <QCloseEvent>
-#include <QVBoxLayout>
-
 namespace altardienst {
 
 Statistik2Form::Statistik2Form()
@@ -37,9 +34,7 @@ void Statistik2Form::Anordnen()
         a[k]->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         tafel->Zeile(a[k], {b[k], c[k]});
     }
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 14, 20, 14);
-    spalte->setSpacing(10);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(Satz({Beschriftung("", "Größe der Meßdiener am"), Tagchus}));
     spalte->addLayout(tafel);
     spalte->addLayout(Satz({Beschriftung("", "Durchschnittsgröße "), G, Beschriftung("", "cm")}));
@@ -71,12 +66,6 @@ void Statistik2Form::Füllen()
     }
     Setzen(G, Format(s.Mittel, "##,####0.000"));
     Setzen(A, Format(s.Abweichung, "##,####0.000"));
-}
-
-void Statistik2Form::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

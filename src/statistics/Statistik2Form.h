@@ -1,16 +1,17 @@
 // Heights of the servers.
 #pragma once
 
+#include "application/Dialogfenster.h"
+
 #include <QLabel>
 #include <QPushButton>
-#include <QWidget>
 
 #include <array>
 
 namespace altardienst {
 
 /// Failure 11 without servers: the window does not come to be.
-class Statistik2Form : public QWidget {
+class Statistik2Form : public Dialogfenster {
   public:
     Statistik2Form();
 
@@ -23,9 +24,6 @@ class Statistik2Form : public QWidget {
     QPushButton *Diagramm;
     QPushButton *Druck;
     QPushButton *Ende;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     void Anordnen();

@@ -1,16 +1,12 @@
 // How the services that the helpers offer are distributed.
 #include "statistics/StatistikAllgForm.h"
 
-#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "core/Umwandlung.h"
 #include "core/Zahlenmuster.h"
 #include "platform/Uhr.h"
 #include "statistics/Messendienste.h"
 #include "statistics/Zahlentafel.h"
-
-#include <QCloseEvent>
-#include <QVBoxLayout>
 
 namespace altardienst {
 
@@ -44,9 +40,7 @@ void StatistikAllgForm::Anordnen()
         tafel->Zeile(Helferarten[k].Name.c_str(), {Anzahl()[k], Anteil()[k]});
     tafel->Zeile("Insgesamt", {I1, I2});
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(20, 14, 20, 14);
-    spalte->setSpacing(14);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(Satz({Beschriftung("", "Dienste der Helfer in Verteilung am"), DD1}));
     spalte->addLayout(tafel);
     spalte->addStretch();
@@ -65,12 +59,6 @@ void StatistikAllgForm::Füllen()
     }
     Setzen(I1, ZahlText(d.Insgesamt));
     Setzen(I2, Format(d.AnteilInsgesamt, "##,##0.00%"));
-}
-
-void StatistikAllgForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

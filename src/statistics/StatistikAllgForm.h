@@ -1,15 +1,15 @@
 // How the services that the helpers offer are distributed.
 #pragma once
 
+#include "application/Dialogfenster.h"
 #include "core/Plätze.h"
 
 #include <QLabel>
 #include <QPushButton>
-#include <QWidget>
 
 namespace altardienst {
 
-class StatistikAllgForm : public QWidget {
+class StatistikAllgForm : public Dialogfenster {
   public:
     StatistikAllgForm();
 
@@ -21,9 +21,6 @@ class StatistikAllgForm : public QWidget {
     QLabel *I1, *I2;     // all
     QPushButton *Druck;
     QPushButton *Ente;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     using Labels = std::array<QLabel *, Helferarten.size()>;

@@ -13,7 +13,6 @@
 #include "statistics/Teilen.h"
 #include "statistics/Zahlentafel.h"
 
-#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -107,9 +106,7 @@ void StatistikForm::Anordnen()
     }
     tafeln->addLayout(rechts);
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(14, 12, 14, 12);
-    spalte->setSpacing(10);
+    auto *spalte = Fensterspalte(this, Luft::Wenig);
     spalte->addLayout(Satz({Beschriftung("", "am"), Tagchen}));
     spalte->addLayout(tafeln, 1);
     spalte->addLayout(Knopfreihe({Diagramm, Druck, Ende}));
@@ -135,12 +132,6 @@ void StatistikForm::Füllen()
     AnzahlenZeigen(e, ee, s.Zusammensetzung);
     Setzen(b0, Format(s.Durchschnittsalter, "##,####0.000"));
     Setzen(c20, Format(s.Durchschnittszugehörigkeit, "##,###0.000"));
-}
-
-void StatistikForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

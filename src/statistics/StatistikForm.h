@@ -1,16 +1,17 @@
 // Age, years of membership and composition of the servers.
 #pragma once
 
+#include "application/Dialogfenster.h"
+
 #include <QLabel>
 #include <QPushButton>
-#include <QWidget>
 
 #include <array>
 
 namespace altardienst {
 
 /// Failure 11 without servers: the window does not come to be.
-class StatistikForm : public QWidget {
+class StatistikForm : public Dialogfenster {
   public:
     StatistikForm();
 
@@ -26,9 +27,6 @@ class StatistikForm : public QWidget {
     QPushButton *Diagramm;
     QPushButton *Druck;
     QPushButton *Ende;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     void Anordnen();

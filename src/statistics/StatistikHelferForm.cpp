@@ -1,14 +1,11 @@
 // The services of helpers that the masses of the plan call for.
 #include "statistics/StatistikHelferForm.h"
 
-#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "core/Umwandlung.h"
 #include "core/Zahlenmuster.h"
 #include "statistics/Messendienste.h"
 #include "statistics/Zahlentafel.h"
-
-#include <QCloseEvent>
 
 namespace altardienst {
 
@@ -59,12 +56,6 @@ void StatistikHelferForm::Füllen()
     Setzen(DHI, ZahlText(d.Dienste));
     Setzen(DHM, Format(d.DiensteJeMesse, "##,####0.000"));
     Setzen(DHH, Format(d.DiensteJeHelfer, "##,####0.000"));
-}
-
-void StatistikHelferForm::closeEvent(QCloseEvent *ereignis)
-{
-    ereignis->accept();
-    HauptfensterZurück();
 }
 
 } // namespace altardienst

@@ -1,16 +1,16 @@
 // The services of helpers that the masses of the plan call for.
 #pragma once
 
+#include "application/Dialogfenster.h"
 #include "core/Plätze.h"
 
 #include <QLabel>
 #include <QPushButton>
-#include <QWidget>
 
 namespace altardienst {
 
 /// Failure 11 if services are wanted and there are no helpers: the window does not come to be.
-class StatistikHelferForm : public QWidget {
+class StatistikHelferForm : public Dialogfenster {
   public:
     StatistikHelferForm();
 
@@ -23,9 +23,6 @@ class StatistikHelferForm : public QWidget {
     QLabel *DHH;         // per helper
     QPushButton *Druck;
     QPushButton *Ende;
-
-  protected:
-    void closeEvent(QCloseEvent *ereignis) override;
 
   private:
     using Labels = std::array<QLabel *, Helferarten.size()>;

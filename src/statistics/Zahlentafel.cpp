@@ -7,7 +7,6 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 namespace altardienst {
 
@@ -66,9 +65,7 @@ void TafelAnordnen(QWidget *fenster, const char *titel, Zahlentafel *tafel, QPus
 {
     auto *rahmen = new QGroupBox(QString::fromUtf8(titel));
     rahmen->setLayout(tafel);
-    auto *spalte = new QVBoxLayout(fenster);
-    spalte->setContentsMargins(16, 14, 16, 14);
-    spalte->setSpacing(12);
+    auto *spalte = Fensterspalte(fenster, Luft::Mittel);
     spalte->addWidget(rahmen);
     spalte->addStretch();
     spalte->addLayout(Knopfreihe({druck, ende}));
