@@ -1,6 +1,7 @@
 // Heights of the servers as a chart.
 #pragma once
 
+#include <QPointer>
 #include <QPushButton>
 #include <QWidget>
 
@@ -27,7 +28,7 @@ class Diagramm2Form : public QWidget {
     void Verbinden();
     void Füllen();
 
-    Statistik2Form *statistik;
+    QPointer<Statistik2Form> statistik;
 };
 
 } // namespace altardienst

@@ -1,6 +1,7 @@
 // Age and membership of the servers as charts.
 #pragma once
 
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QWidget>
@@ -37,7 +38,7 @@ class DiagrammeForm : public QWidget {
     void Verbinden();
     void Füllen();
 
-    StatistikForm *statistik;
+    QPointer<StatistikForm> statistik;
 };
 
 } // namespace altardienst

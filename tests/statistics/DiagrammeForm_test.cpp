@@ -265,6 +265,15 @@ TEST_F(DiagrammeFormTest, DruckenGibtDasGewählteScharfUndOhneKnöpfe)
     }
 }
 
+/// Its numbers came from there; whoever has unloaded it, closing needs it no more.
+TEST_F(DiagrammeFormTest, SchließtAuchWennDasFensterFortIst)
+{
+    ÖffnenMitStatistik();
+    delete statistik;
+    Drücken("OKButton");
+    EXPECT_TRUE(Warten([] { return !IstOffen("Diagramme"); }));
+}
+
 TEST_F(DiagrammeFormTest, Ordnung)
 {
     ÖffnenMitStatistik();

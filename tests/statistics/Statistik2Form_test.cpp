@@ -145,6 +145,16 @@ TEST_F(Statistik2FormTest, VomDiagrammZurück)
     }
 }
 
+TEST_F(Statistik2FormTest, DasDiagrammSchließtAuchWennDasFensterFortIst)
+{
+    Öffnen<Statistik2Form>();
+    Drücken("Diagramm");
+    QWidget *diagramm = Fenster("Diagramm2");
+    delete form;
+    Klick(Finden(diagramm, "OKButton"));
+    EXPECT_TRUE(Warten([] { return !IstOffen("Diagramm2"); }));
+}
+
 TEST_F(Statistik2FormTest, DruckenVonTafelUndDiagramm)
 {
     Öffnen<Statistik2Form>();
