@@ -31,6 +31,7 @@ class Zuordnungsfelder {
 
     explicit Zuordnungsfelder(Unterschiede unterschiede);
     Zuordnungsfelder(const Zuordnungsfelder &) = delete; // its handlers refer to it
+    Zuordnungsfelder &operator=(const Zuordnungsfelder &) = delete;
 
     struct Slot {
         QLabel *ME;         // its service

@@ -17,6 +17,8 @@ namespace altardienst {
 class Terminfelder {
   public:
     Terminfelder();
+    Terminfelder(const Terminfelder &) = delete; // its handlers refer to it
+    Terminfelder &operator=(const Terminfelder &) = delete;
 
     QLineEdit *tagelang;
     QPushButton *Taga;

@@ -14,6 +14,8 @@ namespace altardienst {
 class Planzeitraum {
   public:
     Planzeitraum();
+    Planzeitraum(const Planzeitraum &) = delete; // its handlers refer to it
+    Planzeitraum &operator=(const Planzeitraum &) = delete;
 
     QLineEdit *Datumsen;
     SpinButton *SpinButton1;

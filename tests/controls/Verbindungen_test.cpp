@@ -1,4 +1,6 @@
-// Every event of the program goes through a handler of one of the kinds: read from the sources.
+// What holds for all forms and their parts, read from the sources: every event goes through a
+// handler of one of the kinds, what handlers refer to is not copied, windows have one kind of
+// edges.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -83,6 +85,63 @@ TEST(Verbindungen, JedesEreignisGehtDurchEinenUmhülltenHandler)
         }
     }
     EXPECT_GT(verbindungen, 150);
+}
+
+/// The routines of a class in this source.
+std::vector<std::string> Routinen(const std::string &text, const std::string &klasse)
+{
+    std::vector<std::string> routinen;
+    const std::regex kopf("\\n(\\w[^\\n]* \\**)?" + klasse + "::[^\\n]*\\(");
+    for (std::sregex_iterator i(text.begin(), text.end(), kopf), ende; i != ende; ++i) {
+        const auto anfang = static_cast<std::size_t>(i->position());
+        routinen.push_back(text.substr(anfang, text.find("\n}\n", anfang) - anfang));
+    }
+    return routinen;
+}
+
+/// A copy would be shown and changed by the handlers of the first.
+TEST(Verbindungen, WorinHandlerGreifenWirdNichtKopiert)
+{
+    int klassen = 0;
+    for (const auto &eintrag : fs::recursive_directory_iterator(QUELLEN)) {
+        if (eintrag.path().extension() != ".h")
+            continue;
+        const std::string kopf = Inhalt(eintrag.path());
+        const std::string quelle = Inhalt(fs::path(eintrag.path()).replace_extension(".cpp"));
+        // Those with a base are windows and controls, which Qt keeps from being copied.
+        const std::regex ohneBasis(R"(\n(?:class|struct) ([^\s:]+)(?: final)? \{)");
+        for (std::sregex_iterator i(kopf.begin(), kopf.end(), ohneBasis), ende; i != ende; ++i) {
+            const std::string klasse = (*i)[1];
+            bool greift = false;
+            for (const std::string &routine : Routinen(quelle, klasse))
+                greift = greift || Enthält(routine, R"(\[(this|[^\]\n]*, this)\b)");
+            if (!greift)
+                continue;
+            ++klassen;
+            for (const std::string &gelöscht :
+                 {klasse + "(const " + klasse + " &) = delete;",
+                  klasse + " &operator=(const " + klasse + " &) = delete;"})
+                EXPECT_NE(kopf.find(gelöscht), std::string::npos) << eintrag.path() << gelöscht;
+        }
+    }
+    EXPECT_GE(klassen, 5);
+}
+
+/// Frames and parts of a window set small ones at the most.
+TEST(Fensterränder, StehenAnEinemOrt)
+{
+    int gesetzt = 0;
+    for (const auto &eintrag : fs::recursive_directory_iterator(QUELLEN)) {
+        if (eintrag.path().extension() != ".cpp")
+            continue;
+        for (const std::string &aufruf :
+             Aufrufe(Inhalt(eintrag.path()), std::regex(R"(\bsetContentsMargins\()"))) {
+            ++gesetzt;
+            if (eintrag.path().filename() != "Fensteraufbau.cpp")
+                EXPECT_FALSE(Enthält(aufruf, R"(\d\d)")) << eintrag.path() << ": " << aufruf;
+        }
+    }
+    EXPECT_GT(gesetzt, 1);
 }
 
 } // namespace
