@@ -21,7 +21,7 @@
 namespace altardienst {
 namespace {
 
-/// Calls a handler before the control sees an event, and lets the event pass.
+/// Calls a handler before the control sees an event, and lets the event through.
 class Ereignisfilter : public QObject {
   public:
     using Erkennung = std::function<bool(QEvent *)>;
@@ -54,8 +54,8 @@ class Rollfläche : public QScrollArea {
     }
 };
 
-/// As a file gives it back: one line of Windows-1252. A line break that was pasted would move all
-/// lines behind it.
+/// The text as a file gives it back: one line of Windows-1252. A pasted line break would shift all
+/// lines after it.
 QString Speicherbar(QString text)
 {
     text.replace("\r\n", " ").replace('\n', ' ').replace('\r', ' ');
@@ -96,7 +96,7 @@ QLineEdit *Textfeld(const char *name)
 {
     auto *feld = Benannt(new QLineEdit, name);
     feld->setMaxLength(
-        std::numeric_limits<int>::max()); // a long text of a file is stored again whole
+        std::numeric_limits<int>::max()); // a long text from a file is stored again in full
     QObject::connect(feld, &QLineEdit::textChanged, feld, Abgefangen([feld](const QString &text) {
                          QString darstellbar = Speicherbar(text);
                          if (darstellbar == text)
@@ -217,7 +217,7 @@ QPushButton *Plusknopf(const char *name, const char *gesprochen)
 void Setzen(QLineEdit *feld, const Text &text)
 {
     const QString neu = Anzeige(text);
-    if (feld->text() != neu) // records are filled in twice, and the second time costs nothing
+    if (feld->text() != neu) // records are filled in twice; the second time then costs nothing
         feld->setText(neu);
 }
 
@@ -244,13 +244,13 @@ QWidget *Rollbar(QLayout *inhalt)
 void GrößeAnpassen(QWidget *fenster)
 {
     const auto anpassen = [fenster] {
-        constexpr QSize Rahmen(16, 40); // about what frame and title bar take
+        constexpr QSize Rahmen(16, 40); // roughly what the frame and title bar take
         for (QScrollArea *fläche : fenster->findChildren<QScrollArea *>())
-            fläche->updateGeometry(); // it doesn't follow its content by itself
+            fläche->updateGeometry(); // it doesn't follow its content on its own
         const QSize platz = fenster->screen()->availableSize() - Rahmen;
         const int balken = fenster->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2;
         QSize größe = fenster->sizeHint();
-        // The bar for one direction takes room in the other.
+        // A scroll bar for one direction takes up room in the other.
         if (größe.height() > platz.height())
             größe.rwidth() += balken;
         else if (größe.width() > platz.width())
@@ -258,7 +258,7 @@ void GrößeAnpassen(QWidget *fenster)
         fenster->resize(größe.boundedTo(platz));
     };
     anpassen();
-    // Some controls know their size only once they are shown.
+    // Some controls only know their size once they are shown.
     new Ereignisfilter(
         fenster,
         [erstes = true](QEvent *ereignis) mutable {

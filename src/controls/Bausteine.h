@@ -17,8 +17,8 @@ namespace altardienst {
 QString Anzeige(const Text &text); // UTF-8 text of the tables for the screen
 Text TextVon(const QLineEdit *feld);
 
-/// Gives a control its bare name, by which tests find it, and a spoken name for screen readers
-/// where its caption is no word.
+/// Gives a control its bare name, by which tests find it, and a spoken name for screen readers if
+/// its caption is not a word.
 template <class Control> Control *Benannt(Control *control, const char *name)
 {
     control->setObjectName(QString::fromUtf8(name));
@@ -30,24 +30,24 @@ QPushButton *Knopf(const char *name, const char *beschriftung);
 /// A label; with a control it is that control's buddy and gives it its spoken name.
 QLabel *Beschriftung(const char *name, const char *text, QWidget *zu = nullptr);
 
-/// A text box. A character that the files cannot hold shows as "?" at once, and a line break as a
-/// blank, so that what is seen is what will be stored.
+/// A text box. A character that the files cannot hold turns into "?" at once, and a line break into
+/// a blank, so that what is seen is what will be stored.
 QLineEdit *Textfeld(const char *name);
 
 // Events. The handlers come wrapped in their kind (controls/Handler.h).
 
-/// Runs when the user leaves the control for another one or another window of the program; see
-/// controls/Verlassen.h for what is no leaving.
+/// Runs when the user leaves the control for another one or for another window of the program;
+/// controls/Verlassen.h says what does not count as leaving.
 void BeiFokusVerlust(QWidget *control, std::function<void()> handler);
 void BeiEingabetaste(QLineEdit *feld, std::function<void()> handler);
 void BeiKlick(QWidget *control,
-              std::function<void()> handler); // for controls that have no such signal
+              std::function<void()> handler); // for controls that have no such signal of their own
 void BeiMausdruck(QPushButton *knopf, std::function<void()> handler);   // the first mouse button
 void BeiTastendruck(QPushButton *knopf, std::function<void()> handler); // a key with a character
 
-/// A row of steps: `minus` and the spin button's down event run `schritt` with -1, `plus` and up
-/// with +1; the key "-" on `minus` and "+" on `plus` count as clicks. Any of the three may be
-/// missing.
+/// A row of steps: `minus` and the spin button's down event run `schritt` with -1, `plus` and its
+/// up event with +1; pressing "-" on `minus` or "+" on `plus` counts as a click. Any of the three
+/// may be missing.
 void SchritteVerbinden(QPushButton *minus, QPushButton *plus, SpinButton *spin,
                        const std::function<void(int richtung)> &schritt);
 

@@ -20,7 +20,7 @@ struct Datensatznamen {
     const char *DPM = nullptr; // the spin button, which not every form has
 };
 
-/// Lays its controls out in a row. What a move writes and shows is the form's affair.
+/// Lays its controls out in a row. What a move writes and shows is up to the form.
 class Datensatzwahl : public QWidget {
   public:
     explicit Datensatzwahl(const Datensatznamen &namen);
@@ -28,7 +28,7 @@ class Datensatzwahl : public QWidget {
     QLineEdit *Nummer;
     QPushButton *Minus;
     QPushButton *Plus;
-    SpinButton *DPM; // null without a name
+    SpinButton *DPM; // null if it has no name
 
     /// Runs with +1 on `Plus`, the up event of `DPM` and Page Up, with -1 on their counterparts.
     /// The keys work in the whole window of the form.

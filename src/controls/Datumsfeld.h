@@ -1,4 +1,4 @@
-// A date box with its steps: spin buttons for day, month and year, and pairs of buttons beside
+// A date box with its steps: spin buttons for day, month and year, and pairs of buttons next to
 // them.
 #pragma once
 
@@ -13,7 +13,7 @@
 
 namespace altardienst {
 
-/// The units stand in the order day, month, year.
+/// The units come in the order day, month, year.
 class Datumsfeld {
   public:
     struct Knopfpaar {
@@ -21,7 +21,7 @@ class Datumsfeld {
         QPushButton *Plus = nullptr;
     };
 
-    /// `gesprochen` is what the date is of, for screen readers.
+    /// `gesprochen` says what the date refers to, for screen readers.
     Datumsfeld(const char *feld, const std::array<const char *, 3> &spins, const char *gesprochen);
 
     QLineEdit *Feld;
@@ -31,15 +31,15 @@ class Datumsfeld {
     /// Adds the pairs of buttons: minus and plus of each unit.
     void KnöpfeAnlegen(const std::array<std::array<const char *, 2>, 3> &namen);
 
-    /// Label and box in one row of a grid, and beside them, in this and the next two rows, the name
-    /// of each unit with its spin button and its buttons.
+    /// Label and box go in one row of a grid; next to them, in this and the following two rows, the
+    /// name of each unit with its spin button and its buttons.
     void Anordnen(QGridLayout *raster, int zeile, const char *text) const;
 
     /// Connects the steps. Stepwise: a box without a date stays as it is. A spin button then runs
-    /// `danach`; without one it gives the box the focus.
+    /// `danach` or, if there is none, gives the box the focus.
     void SchritteVerbinden(const std::function<void()> &danach = {}) const;
 
-    /// On every change the text is rewritten in the short date format as soon as it is a date.
+    /// On every change, a text that is a date is rewritten in the short date format.
     void BeiÄnderungUmschreiben() const;
 
     /// The same on a click into the box and on Enter.

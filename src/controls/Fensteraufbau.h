@@ -19,10 +19,10 @@ enum class Luft { Viel, Mittel, Wenig };
 /// The column in which everything in a window stands.
 QVBoxLayout *Fensterspalte(QWidget *fenster, Luft luft);
 
-/// The record mover, and beside it the number of records.
+/// The record mover, with the number of records next to it.
 QLayout *Datensatzkopf(Datensatzwahl *wahl, QLabel *beschriftung, QLabel *anzahl);
 
-/// Those that work on the record at the left, those that leave the form at the right end.
+/// Buttons that work on the record go on the left, those that leave the form on the far right.
 QLayout *Knopfreihe(std::initializer_list<QPushButton *> rechts,
                     std::initializer_list<QWidget *> links = {});
 

@@ -1,4 +1,4 @@
-// A flag string and the check boxes before it.
+// A flag string and the check boxes that stand for it.
 #include "controls/Flagboxen.h"
 
 #include "controls/Bausteine.h"

@@ -1,4 +1,4 @@
-// A flag string and the check boxes before it.
+// A flag string and the check boxes that stand for it.
 #pragma once
 
 #include <QCheckBox>
@@ -9,7 +9,7 @@
 
 namespace altardienst {
 
-/// A check box and the label beside it; the boxes have no captions of their own.
+/// A check box and the label next to it; the boxes have no captions of their own.
 struct Flagname {
     const char *Box;
     const char *Text;

@@ -1,4 +1,4 @@
-// The kinds of event handlers. No handler lets a failure into Qt.
+// The kinds of event handlers. No handler lets a failure escape into Qt.
 #pragma once
 
 #include "controls/Unerwartetes.h"
@@ -10,10 +10,10 @@
 
 namespace altardienst {
 
-/// A routine for an event; it may take arguments of the signal. A `Laufzeitfehler`, such as a bad
-/// number, is what it reckons with and goes the way of its kind. Any other failure means that
-/// something was not done that should have been: it ends the handler and is told, whatever kind the
-/// handler is of.
+/// A routine for an event; it may take arguments of the signal. It expects a `Laufzeitfehler`, such
+/// as a bad number, and treats it according to its kind. Any other failure means that something was
+/// left undone that should have been done: it ends the handler and is reported, whatever the
+/// handler's kind.
 template <class F, class Weg> class Handler {
   public:
     Handler(F f, Weg weg) : f(std::move(f)), weg(std::move(weg)) {}
@@ -38,7 +38,7 @@ template <class F, class Weg> class Handler {
     Weg weg;
 };
 
-/// Trapped: a failure leaves the handler silently.
+/// Trapped: a failure ends the handler silently.
 template <class F> auto Abgefangen(F f)
 {
     return Handler(std::move(f), [](const Laufzeitfehler &) {});
@@ -63,8 +63,8 @@ template <class F> auto Offen(F f)
                    [](const Laufzeitfehler &fehler) { Meldungen.Zeigen(fehler.Meldung()); });
 }
 
-/// In passing, for what comes again by itself, such as the tick of a clock: any failure leaves
-/// silently, since a message would come again as soon as it is closed.
+/// In passing, for what recurs by itself, such as the tick of a clock: any failure ends it
+/// silently, since a message would reappear as soon as it is closed.
 template <class F> auto Nebenbei(F f)
 {
     return [f = std::move(f)] {

@@ -24,7 +24,7 @@ SpinButton::SpinButton(const char *name, const char *gesprochen)
         knopf->setAccessibleName(kind);
         knopf->setArrowType(richtung);
         knopf->setAutoRepeat(true);
-        // The arrows belong to the control, which takes the focus when one is pressed.
+        // The arrows are part of the control, which takes the focus itself when one is pressed.
         knopf->setFocusPolicy(Qt::NoFocus);
         connect(knopf, &QToolButton::clicked, this, [&handler] { handler(); });
         reihe->addWidget(knopf);

@@ -7,8 +7,8 @@
 
 namespace altardienst {
 
-/// Two arrow buttons, named `ab` and `auf`, of which each press (and each repeat while it is held)
-/// runs its event. By keyboard: Down and Up while the control has the focus.
+/// Two arrow buttons, named `ab` and `auf`, each of which runs its event on every press (and every
+/// repeat while held). By keyboard: Down and Up while the control has the focus.
 class SpinButton : public QWidget {
   public:
     SpinButton(const char *name, const char *gesprochen);

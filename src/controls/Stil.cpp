@@ -60,7 +60,7 @@ void Stil::drawPrimitive(PrimitiveElement element, const QStyleOption *option, Q
                          const QWidget *control) const
 {
     QProxyStyle::drawPrimitive(element, option, stift, control);
-    // Controls made of others, which have no look of their own.
+    // Controls made up of others, which have no look of their own.
     if (element == PE_Widget && option->state & State_HasFocus) {
         stift->setPen(QColor(0x00, 0x80, 0x00));
         stift->drawRect(option->rect.adjusted(0, 0, -1, -1));

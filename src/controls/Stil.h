@@ -5,9 +5,9 @@
 
 namespace altardienst {
 
-/// The platform's own style, but for command buttons, which are light green with the focus and
-/// light grey without, and a frame around a spin button with the focus. A style sheet would say the
-/// same, and every window would take twice as long to open.
+/// The platform's own style, except that command buttons are light green with the focus and light
+/// grey without it, and that a spin button with the focus has a frame. A style sheet could do the
+/// same, but every window would take twice as long to open.
 class Stil : public QProxyStyle {
   public:
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *stift,

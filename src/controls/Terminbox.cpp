@@ -12,8 +12,8 @@ Datum WertIn(const QLineEdit *feld)
     return DatumLesen(TextVon(feld));
 }
 
-/// The cursor keeps its place as counted from the end: digits before it may gain or lose a zero,
-/// and typing in the midst of a box goes on where it was.
+/// The cursor keeps its place counted from the end: the digits before it may gain or lose a zero,
+/// and typing in the middle of a box continues where it was.
 void Umschreiben(QLineEdit *feld, const Text &text)
 {
     const auto vomEnde = feld->text().size() - feld->cursorPosition();

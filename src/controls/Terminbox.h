@@ -1,4 +1,4 @@
-// Boxes for a date or a time of day: their steps and how they are rewritten.
+// Boxes for a date or a time of day: stepping and rewriting them.
 #pragma once
 
 #include <QLineEdit>
@@ -12,7 +12,7 @@ void JahreWeiter(QLineEdit *feld, int jahre);
 void StundenWeiter(QLineEdit *feld, int stunden);
 void MinutenWeiter(QLineEdit *feld, int minuten);
 
-/// In the short date format or the long time format of the locale.
+/// Rewrites it in the short date format or the long time format of the locale.
 void AlsKurzesDatum(QLineEdit *feld);
 void AlsLangeZeit(QLineEdit *feld);
 

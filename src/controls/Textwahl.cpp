@@ -11,21 +11,22 @@
 namespace altardienst {
 namespace {
 
-/// The entry that bears the text becomes the current one, so that Qt does not announce it as picked
-/// when the editing ends.
+/// Makes the entry with this text the current one, so that Qt does not announce it as picked when
+/// editing ends.
 void EintragAngleichen(QComboBox *wahl)
 {
     const QString text = wahl->currentText();
     const int jetzt = wahl->currentIndex();
     if (jetzt >= 0 && wahl->itemText(jetzt) == text)
-        return; // of entries that read alike it stays the one that was picked
+        return; // among entries with the same text, the one picked stays current
     const QSignalBlocker still(wahl);
     wahl->setCurrentIndex(wahl->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
     wahl->setEditText(text);
 }
 
-/// The keys and the opened list begin at the entry that the box shows, however its text came there.
-/// A pick that is refused empties the box: the keys go on from it, or they would never get past it.
+/// The keys and the opened list start at the entry that the box shows, however its text got there.
+/// A refused pick empties the box: the keys continue from that pick, or they would never get past
+/// it.
 class Listenbedienung : public QObject {
   public:
     explicit Listenbedienung(QComboBox *wahl) : QObject(wahl), wahl(wahl)
@@ -55,7 +56,7 @@ class Listenbedienung : public QObject {
         wahl->setEditText({});
     }
 
-    /// A message box or the opened list has the focus for a while only.
+    /// A message box or the opened list has the focus only for a while.
     static bool Verläßt(QEvent *ereignis)
     {
         if (ereignis->type() != QEvent::FocusOut)
@@ -75,17 +76,17 @@ class Listenbedienung : public QObject {
         return ereignis->type() == QEvent::KeyPress && Pfeiltaste(ereignis);
     }
 
-    /// Also one that shows another record while the box keeps the focus.
+    /// True also for a key that shows another record while the box keeps the focus.
     static bool AndereTaste(QEvent *ereignis)
     {
         return ereignis->type() == QEvent::ShortcutOverride && !Pfeiltaste(ereignis);
     }
 
     QComboBox *wahl;
-    int gewählt = -1; // the entry picked last, as long as nothing else has happened to the box
+    int gewählt = -1; // the entry picked last, until anything else happens to the box
 };
 
-/// Hands the wheel on to what lies behind a box: passing over it, it would choose another entry.
+/// Passes the wheel on to what the box lies on: scrolling across a box would choose another entry.
 class Radsperre : public QObject {
   public:
     using QObject::QObject;
@@ -117,7 +118,7 @@ QComboBox *Textwahl(const char *name, const char *gesprochen)
 
 void RadSperren(QComboBox *wahl)
 {
-    wahl->setFocusPolicy(Qt::StrongFocus); // nor does the wheel bring the focus
+    wahl->setFocusPolicy(Qt::StrongFocus); // the wheel does not give it the focus either
     wahl->installEventFilter(new Radsperre(wahl));
 }
 

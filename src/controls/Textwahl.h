@@ -10,18 +10,17 @@
 
 namespace altardienst {
 
-/// Nothing is completed while typing: a text that begins like an entry of the list is not yet that
-/// entry.
-/// `gesprochen` is its name for screen readers.
+/// Nothing is completed while typing: a text that starts like an entry of the list is not yet that
+/// entry. `gesprochen` is the name of the box for screen readers.
 QComboBox *Textwahl(const char *name, const char *gesprochen);
 
 /// The wheel scrolls the window instead of choosing another entry unseen.
 void RadSperren(QComboBox *wahl);
 
-/// The list anew; the text stays.
+/// Replaces the list; the text stays.
 void ListeSetzen(QComboBox *wahl, const QStringList &liste);
 
-/// One long list that several boxes of a window have in common; their texts stay.
+/// Gives several boxes of a window one long list in common; their texts stay.
 void ListeTeilen(const std::vector<QComboBox *> &wahlen, const QStringList &liste);
 
 Text TextVon(const QComboBox *wahl);
@@ -30,8 +29,8 @@ void Setzen(QComboBox *wahl, const Text &text);
 /// Runs when an entry of the list is picked.
 void BeiAuswahl(QComboBox *wahl, std::function<void()> handler);
 
-/// Runs when the focus leaves the box. A typed text that is an entry of the list does not count as
-/// picked then.
+/// Runs when the focus leaves the box. A typed text that is also an entry of the list does not
+/// count as picked then.
 void BeiVerlassen(QComboBox *wahl, std::function<void()> handler);
 
 } // namespace altardienst

@@ -1,4 +1,4 @@
-// Typing on behind what a box has made of the text so far.
+// Continuing to type in a box that has rewritten the text so far.
 #include "controls/Tippgedächtnis.h"
 
 #include <QCoreApplication>
@@ -8,7 +8,7 @@
 namespace altardienst {
 namespace {
 
-/// A letter, a digit, a sign, or the key that takes one back.
+/// A letter, a digit, a sign, or the key that deletes one.
 bool Schreibt(const QKeyEvent *taste)
 {
     if (taste->modifiers() & (Qt::ControlModifier | Qt::AltModifier))
@@ -22,7 +22,7 @@ bool Schreibt(const QKeyEvent *taste)
 Tippgedächtnis::Tippgedächtnis(QLineEdit *feld) : QObject(feld), feld(feld)
 {
     feld->installEventFilter(this);
-    // Comes ahead of the change, which may rewrite the box.
+    // Comes before `textChanged`, whose handlers may rewrite the box.
     connect(feld, &QLineEdit::textEdited, this, [this](const QString &text) { getippt = text; });
 }
 

@@ -1,4 +1,4 @@
-// Typing on behind what a box has made of the text so far.
+// Continuing to type in a box that has rewritten the text so far.
 #pragma once
 
 #include <QLineEdit>
@@ -8,7 +8,7 @@ namespace altardienst {
 
 /// Boxes rewrite their text at every change: "24.12.2" is a date and becomes "24.12.2002", "1" is
 /// too small for a height and becomes "5". This remembers what was typed, so that the next key at
-/// the end goes on from there: "24.12.20", "17". Belongs to the box and is deleted with it.
+/// the end continues from there: "24.12.20", "17". Belongs to the box and is deleted with it.
 class Tippgedächtnis : public QObject {
   public:
     explicit Tippgedächtnis(QLineEdit *feld);
@@ -20,7 +20,7 @@ class Tippgedächtnis : public QObject {
 
     QPointer<QLineEdit> feld;
     QString getippt;
-    QString gezeigt; // what the box made of it; empty: nothing to remember
+    QString gezeigt; // what the box made of it; empty if there is nothing to remember
     bool läuft = false;
 };
 

@@ -1,4 +1,4 @@
-// Failures that nobody reckoned with.
+// Failures that nobody expected.
 #include "controls/Unerwartetes.h"
 
 #include "controls/Verlassen.h"
@@ -17,11 +17,11 @@
 namespace altardienst {
 namespace {
 
-std::vector<Text> wartend; // the one that is on the screen stays the first of them
-bool geplant = false;      // they will be told
-std::set<Text> einmalige;  // told for good
+std::vector<Text> wartend; // the one on the screen stays first
+bool geplant = false;      // showing them is already scheduled
+std::set<Text> einmalige;  // never to be shown again
 
-/// What to say of the failure that was caught.
+/// What to say about the failure that was caught.
 Text Wortlaut()
 {
     const Text folge = " Was Sie zuletzt begonnen haben, ist nicht zu Ende geführt. Die Daten im "
@@ -59,7 +59,7 @@ void UnerwartetesMelden(Anlaß anlaß) noexcept
             geplant = true;
         }
     } catch (...) {
-        // Not even this can be told.
+        // Not even this can be shown.
     }
 }
 

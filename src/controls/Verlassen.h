@@ -3,9 +3,10 @@
 
 namespace altardienst {
 
-/// As long as one lives, no box counts as left, whatever becomes of the focus: a message box has
-/// taken it for a while, or the program has moved it to the box that a save failed at. Neither was
-/// the user's doing, and rules that ran now would bring further messages or change what he typed.
+/// While one of these lives, no box counts as left, whatever happens to the focus: a message box
+/// has taken it for a while, or the program has moved it to the box at which a save failed. Neither
+/// was the user's doing, and rules that ran now would cause further messages or change what he
+/// typed.
 class OhneVerlassen {
   public:
     OhneVerlassen() { ++zahl; }

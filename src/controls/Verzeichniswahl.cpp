@@ -9,7 +9,8 @@
 namespace altardienst {
 namespace {
 
-/// The name goes along as it is stored: one that is no valid text looks different on the screen.
+/// The entry carries the name as it is stored: one that is not valid text looks different on the
+/// screen.
 void Hinzufügen(QListWidget *liste, const Text &name)
 {
     auto *eintrag = new QListWidgetItem(Anzeige(name), liste);
@@ -25,7 +26,7 @@ std::vector<Text> Namen(const QListWidget *liste)
     return namen;
 }
 
-/// Where something has changed; the row that is marked and the part in sight stay.
+/// Only if something has changed; the selected row and the visible part stay.
 void Füllen(QListWidget *liste, const std::vector<Text> &namen)
 {
     if (Namen(liste) == namen)
@@ -39,7 +40,7 @@ void Füllen(QListWidget *liste, const std::vector<Text> &namen)
         if (name == markiert)
             liste->setCurrentRow(liste->count() - 1);
     }
-    liste->doItemsLayout(); // else there is nothing to scroll yet
+    liste->doItemsLayout(); // otherwise there is nothing to scroll yet
     liste->verticalScrollBar()->setValue(gerollt);
 }
 
@@ -123,7 +124,7 @@ void Verzeichniswahl::Öffnen(const std::filesystem::path &neu)
     const Verzeichnisinhalt inhalt = Laufwerke.Auflisten(verzeichnis);
     pfad = verzeichnis;
     for (QListWidget *liste : {Verzeichnis, Dateien})
-        liste->clear(); // a mark does not go along into another directory
+        liste->clear(); // a selection does not carry over into another directory
     Zeigen(inhalt);
     BeiWechsel();
 }
@@ -138,10 +139,10 @@ void Verzeichniswahl::Beginnen()
 
 void Verzeichniswahl::Anlegen(const Text &name) const
 {
-    if (pfad.empty()) // else it would come to be wherever the program was started
+    if (pfad.empty()) // otherwise it would be made wherever the program was started
         throw Laufzeitfehler(Laufzeitfehler::PfadNichtGefunden);
     const auto neu = OhneTrenner(PfadAus(OrdnerText(pfad) + name));
-    Laufwerke.Auflisten(neu.parent_path()); // fails if it is gone, as with a stick pulled out
+    Laufwerke.Auflisten(neu.parent_path()); // fails if it is gone, as when a stick was pulled out
     Laufwerke.VerzeichnisAnlegen(neu);
 }
 

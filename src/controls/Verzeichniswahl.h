@@ -22,8 +22,8 @@ QLabel *Pfadanzeige(const char *name);
 QLineEdit *Verzeichnisname(const char *name);
 
 /// The three lists of a dialog, which lays them out itself. The file list follows the directory
-/// list. Choosing a drive goes to its root; one that cannot be read leaves the lists, and the drive
-/// that was chosen before. A double click or Enter on a directory opens it.
+/// list. Choosing a drive goes to its root; if it cannot be read, the lists stay as they are and
+/// the previous drive stays chosen. A double click or Enter on a directory opens it.
 class Verzeichniswahl {
   public:
     /// The names of the three controls; a dialog without one of the lists still has the control but
@@ -46,12 +46,12 @@ class Verzeichniswahl {
     /// Opens the first drive that can be read; if none can, the lists stay empty.
     void Beginnen();
 
-    /// Makes a directory in the one that is open, without showing it: one level alone, so a name
-    /// with separators needs what it names before its last one. May exist. Failure 75 or 76, also
-    /// where no directory is open or the open one is gone.
+    /// Makes a directory in the open one, without showing it. Makes one level only: in a name with
+    /// separators, everything before the last one must exist. The directory itself may exist.
+    /// Failure 75 or 76, also if no directory is open or the open one is gone.
     void Anlegen(const Text &name) const;
 
-    /// Reads the directory again, without `BeiWechsel`. What is marked and in sight stays.
+    /// Reads the directory again, without `BeiWechsel`. The selection and the visible part stay.
     void Auffrischen();
 
     /// Runs after each change of the directory.
@@ -60,7 +60,7 @@ class Verzeichniswahl {
     /// Runs after the choice of a drive that cannot be read.
     std::function<void()> BeiUnlesbaremLaufwerk = [] {};
 
-    /// The name of a file in the list, also where the screen cannot show it.
+    /// The name of a file in the list, even if the screen cannot show it.
     static Text Name(const QListWidgetItem *eintrag);
 
   private:

@@ -8,8 +8,8 @@
 namespace altardienst {
 
 /// Runs when the user comes back to the form from another form of the program. Message boxes and
-/// other programs do not count: what was begun on the screen goes on behind them. `beimVerlassen`
-/// runs when he goes to another form while this one stays on the screen.
+/// other programs do not count: after them, what was begun on the screen continues. `beimVerlassen`
+/// runs when the user goes to another form while this one stays on the screen.
 void BeiRückkehr(
     QWidget *form, std::function<void()> handler, std::function<void()> beimVerlassen = [] {});
 

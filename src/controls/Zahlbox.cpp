@@ -18,7 +18,7 @@ Zahlbox ZahlboxAnlegen(const char *name, const char *spinName, const char *text)
 void ZahlboxAnordnen(QGridLayout *raster, int zeile, int spalte, const char *text,
                      const Zahlbox &box)
 {
-    // A grid within a layout would take over the wide spacing between its parts.
+    // A grid within a layout would inherit the wide spacing between the layout's parts.
     raster->setVerticalSpacing(6);
     raster->setHorizontalSpacing(8);
     raster->addWidget(Beschriftung("", text, box.Feld), zeile, spalte);

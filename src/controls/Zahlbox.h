@@ -1,4 +1,5 @@
-// The number box of the record editors: a text box with a spin button beside it, clipped on change.
+// The number box of the record editors: a text box with a spin button next to it, clipped on
+// change.
 #pragma once
 
 #include "controls/Gelesen.h"
@@ -20,25 +21,25 @@ struct Zahlbox {
 /// `text` is what the spin button changes, for screen readers.
 Zahlbox ZahlboxAnlegen(const char *name, const char *spinName, const char *text);
 
-/// Label, box and spin button in one row of a grid, from `spalte` on.
+/// Puts label, box and spin button in one row of a grid, starting at `spalte`.
 void ZahlboxAnordnen(QGridLayout *raster, int zeile, int spalte, const char *text,
                      const Zahlbox &box);
 
-/// The spin button adds or takes one. Trapped: a box without a number stays as it is.
+/// The spin button adds or subtracts one. Trapped: a box without a number stays as it is.
 void DrehenVerbinden(const Zahlbox &box);
 
-/// The same, and gives the box the focus.
+/// The same, but it also gives the box the focus.
 void DrehenMitFokus(const Zahlbox &box);
 
-/// On every change the box is clipped, and then the field takes its number. Without a number both
-/// stay as they are.
+/// On every change the box is clipped, then the field takes its number. If the box holds no number,
+/// both stay as they are.
 void BegrenztVerbinden(QLineEdit *feld, Int16 &wert, int von, int bis);
 
 /// Failure 13 if the box holds no number.
 int ZahlIn(const QLineEdit *feld);
 void ZahlSetzen(QLineEdit *feld, int zahl);
 
-/// Adds to the number of a box, however large; a fraction stays one. Failure 13 as above.
+/// Adds to the number in a box, however large; a fraction is kept. Failure 13 as above.
 void Weiterzählen(QLineEdit *feld, int um);
 
 /// Shows the numbers of record `i` in boxes, or writes the boxes to it, one after the other; a box
@@ -59,7 +60,7 @@ void ZahlenSchreiben(const std::array<QLineEdit *, n> &felder,
         (*spalten[k])[i] = Gelesen(felder[k], Int16Lesen);
 }
 
-/// Brings the number of a box, however large, into its limits; returns what the box then holds.
+/// Brings the number in a box, however large, within its limits; returns what the box then holds.
 /// Failure 13 as above.
 int Begrenzen(QLineEdit *feld, int von, int bis);
 

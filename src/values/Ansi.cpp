@@ -43,7 +43,7 @@ void Utf8Anhängen(Text &text, char16_t c)
     }
 }
 
-/// Takes one character off the front; what is no UTF-8 gives U+FFFD.
+/// Takes one character off the front; what is not UTF-8 gives U+FFFD.
 std::uint32_t ZeichenNehmen(std::string_view &text)
 {
     auto erstes = static_cast<unsigned char>(text.front());

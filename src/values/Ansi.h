@@ -9,7 +9,7 @@
 namespace altardienst {
 
 /// Sets `ziel` to the text of the bytes. Every byte has a character; the five bytes that the code
-/// page leaves free keep their number.
+/// page leaves undefined keep their number.
 void AusAnsi(std::string_view bytes, Text &ziel);
 
 /// Appends the bytes of the text; a character that the code page lacks becomes "?".

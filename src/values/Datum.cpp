@@ -21,7 +21,7 @@ constexpr double SpätesterTag = (sys_days(year(9999) / December / 31) - TagNull
 
 Datum DatumAus(Kalendertag tag)
 {
-    // The types of the calendar hold a month and a day in one byte: 257 would pass as 1.
+    // The calendar types hold a month and a day in one byte each: 257 would pass as 1.
     auto inGrenzen = [](int wert, int von, int bis) { return wert >= von && wert <= bis; };
     year_month_day ymd(year(tag.Jahr), month(static_cast<unsigned>(tag.Monat)),
                        day(static_cast<unsigned>(tag.Tag)));
@@ -42,7 +42,7 @@ Kalendertag KalendertagVon(Datum datum)
 
 int SekundenVon(Datum datum)
 {
-    // Before 1899 too, the fraction counts forward from midnight.
+    // The fraction counts forward from midnight, even before 1899.
     double bruch = std::fabs(datum - std::trunc(datum));
     return static_cast<int>(std::nearbyint(bruch * SekundenProTag)) % SekundenProTag;
 }

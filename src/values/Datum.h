@@ -25,8 +25,8 @@ Datum DatumAus(Kalendertag tag);
 /// The calendar day of a date. Failure 6 outside the years 100 to 9999.
 Kalendertag KalendertagVon(Datum datum);
 
-/// A time of day from whole seconds (0 to 86399). The only place where a time is made, so that two
-/// times with the same text are equal.
+/// A time of day from whole seconds (0 to 86399). Times are made only here, so that two times with
+/// the same text are equal.
 constexpr Datum ZeitAus(int sekunden)
 {
     return static_cast<double>(sekunden) / SekundenProTag;
@@ -52,7 +52,7 @@ Text WochentagName(Datum datum);
 /// equal to the plain name.
 Text WochentagNameGefüllt(Datum datum);
 
-/// The date some months later (or earlier): the day stays, or falls to the last day of a shorter
+/// The date some months later (or earlier): the day stays, or becomes the last day of a shorter
 /// month. Failure 6 outside the years 100 to 9999.
 Datum MonateWeiter(Datum datum, int monate);
 

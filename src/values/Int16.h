@@ -12,8 +12,8 @@ using Int32 = std::int32_t;
 using Single = float;
 
 /// A signed whole number from -32768 to 32767. Every sum, difference and product with an Int16 is
-/// an Int16 again and raises failure 6 (Überlauf) when it leaves the range; comparisons and
-/// divisions go by the plain value.
+/// an Int16 again and raises failure 6 (Überlauf) if it leaves the range; comparisons and divisions
+/// use the plain value.
 class Int16 {
   public:
     constexpr Int16() = default;
@@ -42,7 +42,7 @@ class Int16 {
     friend constexpr Int16 operator*(Int16 a, int b) { return {a.wert * b}; }
     friend constexpr Int16 operator*(int a, Int16 b) { return {a * b.wert}; }
 
-    // With a floating number the result is floating.
+    // With a floating-point operand the result is floating-point.
     template <std::floating_point F> friend constexpr F operator+(F a, Int16 b)
     {
         return a + b.wert;

@@ -6,8 +6,8 @@
 
 namespace altardienst {
 
-/// A failure of an operation on values, tables or files. Carries the number by which the user and
-/// the error paths know it.
+/// A failure of an operation on values, tables or files. Carries the number by which users and
+/// error paths know it.
 class Laufzeitfehler : public std::exception {
   public:
     /// The failures that the program itself raises.

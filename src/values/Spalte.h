@@ -1,4 +1,4 @@
-// The building pieces of a table: a column with checked bounds, the special columns of a file
+// The building blocks of a table: a column with checked bounds, the special columns of a file
 // order, and the operations on a list of columns.
 #pragma once
 
@@ -35,7 +35,7 @@ template <class T, int höchster> class Spalte {
     std::array<T, static_cast<std::size_t>(höchster) + 1> werte{};
 };
 
-/// A flag string and what stands in its place when a file holds none.
+/// A flag string and its default, used when a file holds none.
 struct Flagfeld {
     Text &Wert;
     const char *Vorgabe;
@@ -48,19 +48,19 @@ template <int höchster> struct Flagspalte {
 };
 
 /// Columns with one entry per slot that stand interleaved in the file: slot `von` of each column,
-/// then slot `von` + 1 of each, up to slot `bis`. As a record they move with all their slots.
+/// then slot `von` + 1 of each, up to slot `bis`. When a record moves, all its slots move with it.
 template <int höchster, int slots, std::size_t anzahl> struct Slotspalten {
     std::array<Spalte<Spalte<Text, slots>, höchster> *, anzahl> Spalten;
     int von;
     int bis;
 };
 
-/// A column that belongs to the record but not to its file.
+/// A column that is part of the record but not of its file.
 template <class T, int höchster> struct NurImSpeicher {
     Spalte<T, höchster> &Werte;
 };
 
-// What walks a file visits the fields of one record in file order.
+// Code that walks a file visits the fields of one record in file order.
 
 template <class T, int höchster, class F> void FelderDer(Spalte<T, höchster> &s, int i, F &f)
 {
@@ -82,7 +82,7 @@ void FelderDer(Slotspalten<höchster, slots, anzahl> &s, int i, F &f)
 
 template <class T, int höchster, class F> void FelderDer(NurImSpeicher<T, höchster> &, int, F &) {}
 
-// What moves records visits whole columns.
+// Code that moves records visits whole columns.
 
 template <class T, int höchster, class F> void SpaltenDer(Spalte<T, höchster> &s, F &f)
 {
@@ -106,7 +106,7 @@ template <class T, int höchster, class F> void SpaltenDer(NurImSpeicher<T, höc
     f(s.Werte);
 }
 
-/// Calls `f` with each field of record `i` that stands in the file, in file order.
+/// Calls `f` with each field of record `i` that is in the file, in file order.
 template <class Liste, class F> void FürJedesFeld(Liste liste, int i, F f)
 {
     std::apply([&](auto &...spalten) { (FelderDer(spalten, i, f), ...); }, liste);
@@ -118,10 +118,10 @@ template <class Liste, class F> void FürJedeSpalte(Liste liste, F f)
     std::apply([&](auto &...spalten) { (SpaltenDer(spalten, f), ...); }, liste);
 }
 
-/// Columns that something leaves out, by their addresses.
+/// Columns to be left out, by address.
 using Auslassung = std::vector<const void *>;
 
-/// Calls `f` with each column of the list but those left out.
+/// Calls `f` with each column of the list except those left out.
 template <class Liste, class F> void FürJedeSpalteAußer(Liste liste, const Auslassung &außer, F f)
 {
     FürJedeSpalte(liste, [&](auto &spalte) {
@@ -130,14 +130,14 @@ template <class Liste, class F> void FürJedeSpalteAußer(Liste liste, const Aus
     });
 }
 
-/// Record `ziel` takes the fields of record `quelle`, but for those left out.
+/// Record `ziel` takes the fields of record `quelle`, except those left out.
 template <class Liste>
 void FelderÜbernehmen(Liste liste, int ziel, int quelle, const Auslassung &außer = {})
 {
     FürJedeSpalteAußer(liste, außer, [&](auto &spalte) { spalte[ziel] = spalte[quelle]; });
 }
 
-/// Records `a` and `b` change places.
+/// Swaps records `a` and `b`.
 template <class Liste> void FelderTauschen(Liste liste, int a, int b)
 {
     FürJedeSpalte(liste, [&](auto &spalte) { std::swap(spalte[a], spalte[b]); });

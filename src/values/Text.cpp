@@ -11,7 +11,7 @@ bool IstFolgebyte(char c)
     return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
 }
 
-/// The byte at which the character number `zeichen` (from 0) begins, or the end.
+/// The byte at which character `zeichen` (from 0) begins, or the end.
 std::size_t ByteVon(std::string_view text, int zeichen)
 {
     std::size_t byte = 0;

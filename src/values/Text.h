@@ -1,4 +1,5 @@
-// Text as the tables hold it: UTF-8, positions counted in characters, compared in binary order.
+// Text as the tables hold it: UTF-8, with positions counted in characters, compared in binary
+// order.
 #pragma once
 
 #include <string>
@@ -7,10 +8,10 @@
 namespace altardienst {
 
 /// UTF-8. The built-in comparisons are binary, which is code point order: capitals before small
-/// letters, umlauts and "ß" behind "z".
+/// letters, umlauts and "ß" after "z".
 using Text = std::string;
 
-/// A text that stands in the program itself, whole and with its end.
+/// A text that is written in the program itself, complete and null-terminated.
 class Festtext : public std::string_view {
   public:
     consteval Festtext(const char *text) : std::string_view(text) {} // implicit on purpose
@@ -24,18 +25,18 @@ int Länge(std::string_view text);
 /// The first `anzahl` characters, or all if there are fewer.
 Text Links(std::string_view text, int anzahl);
 
-/// `anzahl` characters from position `ab` (first position 1); shorter or empty behind the end.
+/// `anzahl` characters from position `ab` (first position 1); shorter or empty past the end.
 /// Failure 5 if `ab` is below 1 or `anzahl` below 0.
 Text Mitte(std::string_view text, int ab, int anzahl);
 
-/// The position (from 1) at which `gesucht` first stands in `text`, 0 if it doesn't.
+/// The position (from 1) at which `gesucht` first occurs in `text`, 0 if it doesn't.
 int Position(std::string_view text, std::string_view gesucht);
 
-/// Whether position `position` (from 1) of a flag string holds "j". Behind its end: no.
+/// Whether position `position` (from 1) of a flag string holds "j". Past its end: no.
 bool IstJa(std::string_view flags, int position);
 
-/// The flag string with "j" or "n" at position `position` (from 1). One that is too short is filled
-/// up with "n", which is what its missing positions count as.
+/// The flag string with "j" or "n" at position `position` (from 1). A string that is too short is
+/// filled up with "n", which is what missing positions count as.
 Text MitFlag(std::string_view flags, int position, bool ja);
 
 /// The text in small letters, the letters of Windows-1252 included.
