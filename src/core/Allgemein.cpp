@@ -1,4 +1,4 @@
-// Load and save of all tables, on the hard disk and on the diskette.
+// Loading and saving all tables, on the hard disk and on the diskette.
 #include "core/Allgemein.h"
 
 #include "core/Dateien.h"
@@ -18,7 +18,7 @@ bool Vorhanden(const path &verzeichnis, const Datei &datei)
     return Laufwerke.Suchen(verzeichnis, datei.Suche).has_value();
 }
 
-/// The path of the file as it is stored, or under its own spelling if there is none yet.
+/// The path of the file under its stored name, or in its own spelling if there is none yet.
 path PfadDer(const path &verzeichnis, const Datei &datei)
 {
     return verzeichnis / PfadAus(Laufwerke.Suchen(verzeichnis, datei.Name).value_or(datei.Name));
@@ -49,7 +49,7 @@ void AlleDateienSchreiben(const path &verzeichnis)
 }
 
 /// The first-run path, taken on any failure of the load: only the first missing file is named,
-/// whatever failed. True if the load is to go on behind what failed.
+/// whatever failed. True if the load is to continue after what failed.
 bool ErststartPfad(const path &verzeichnis)
 {
     NachKopie = 0;
@@ -66,7 +66,7 @@ bool ErststartPfad(const path &verzeichnis)
                              " - im Verzeichnis - C:\\programm\\Altardienst\\ - fehlt!");
         }
         MeldungGezeigt = true;
-        // Cleared above, so it was set while the message was open.
+        // Cleared above, so it has been set while the message was open.
         if (NachKopie != 0)
             return true;
     }
@@ -118,14 +118,14 @@ void VonDisketteLaden()
     path verzeichnis = Laufwerke.Diskette();
     try {
         KonfigUndStandardmessenLesen(verzeichnis);
-        // The load of a diskette breaks off behind the header of the servers: the test for the end
+        // Loading from a diskette breaks off after the header of the servers: the test for the end
         // of the file asks a channel that is never open. The people stay as they are in memory.
         std::string inhalt = Laufwerke.Lesen(PfadDer(verzeichnis, DateiMit(DateiMeßdiener)));
         Zeilenleser zeilen(inhalt);
         MeßdienerKopfLesen(zeilen);
         SchleifenZähler = 0; // the loop over them has begun
     } catch (const Laufzeitfehler &) {
-        // The missing files are told below, another failure is not.
+        // Missing files are reported below, any other failure is not.
     }
     for (Dateinummer nummer : Suchfolge) {
         const Datei &datei = DateiMit(nummer);

@@ -38,7 +38,7 @@ template <class Tabelle> void KopfSchreiben(Tabelle &tabelle, Feldschreiber schr
 
 void KonfigLesen(Zeilenleser &zeilen)
 {
-    // Files of older versions end before one of these lines.
+    // Files from older versions end before one of these lines.
     constexpr std::array<int, 6> Gruppenanfänge = {16, 17, 19, 20, 21, 29};
     Feldleser lesen(zeilen);
     int zeile = 0;
@@ -73,14 +73,14 @@ void StandardmesseSchreiben(std::string &inhalt)
 }
 
 /// The only file that is read by delimiters, although it is written without quotes: a comma in a
-/// text of a server splits it in two on the next load.
+/// text splits that text in two on the next load.
 void MeßdienerLesen(Zeilenleser &zeilen)
 {
     MeßdienerKopfLesen(zeilen);
     DatensätzeLesen(Meßdiener, zeilen, Feldleser(zeilen, &Zeilenleser::Abgegrenzt));
 }
 
-/// The helpers' file alone is read without asking for its end, so a short one fails.
+/// Only the helpers' file is read without checking for its end, so a short one fails.
 void HelferLesen(Zeilenleser &zeilen)
 {
     Feldleser lesen(zeilen);
@@ -103,7 +103,7 @@ void EtikettSchreiben(std::string &inhalt)
     DatensätzeSchreiben(Etikett, schreiben);
 }
 
-/// The files whose header is Cursor and Anzahl and whose lines are taken whole.
+/// The files whose header is Cursor and Anzahl and whose lines are read whole.
 template <auto &Tabelle> void TabelleLesen(Zeilenleser &zeilen)
 {
     Feldleser lesen(zeilen);
@@ -111,7 +111,7 @@ template <auto &Tabelle> void TabelleLesen(Zeilenleser &zeilen)
     DatensätzeLesen(Tabelle, zeilen, lesen);
 }
 
-/// The loop over the masses alone goes on behind the end of its file, with nothing to read.
+/// Only the loop over the masses continues past the end of its file, with nothing to read.
 void MesseLesen(Zeilenleser &zeilen)
 {
     TabelleLesen<Messe>(zeilen);

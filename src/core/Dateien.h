@@ -9,11 +9,11 @@
 namespace altardienst {
 
 struct Datei {
-    const char *Name;  // its own spelling
+    const char *Name;  // spelled as the program writes it
     const char *Suche; // the spelling under which it is looked up and named in messages
 
-    /// Fills the table from the lines, up to the line that fails (Laufzeitfehler 6, 13 or 62). What
-    /// the file does not reach keeps what it held.
+    /// Fills the table from the lines, up to the line that fails (Laufzeitfehler 6, 13 or 62).
+    /// Records that the file does not reach keep what they held.
     void (*Lesen)(Zeilenleser &zeilen);
 
     /// Appends all lines of the table, used records or not, so that the shape of the file is fixed.
@@ -31,10 +31,10 @@ enum Dateinummer {
     DateiMesseDienerFest
 };
 
-/// In the order in which a whole load reads and a whole save writes them.
+/// In the order in which a full load reads and a full save writes them.
 extern const std::array<Datei, 8> Dateien;
 
-/// The order in which files are asked for that may be missing.
+/// The order in which the files are checked for missing ones.
 constexpr std::array<Dateinummer, 8> Suchfolge = {
     DateiEtikett, DateiGruppe,        DateiHelfer, DateiMeßdiener,
     DateiMesse,   DateiStandardmesse, DateiKonfig, DateiMesseDienerFest};
@@ -47,7 +47,7 @@ inline const Datei &DateiMit(Dateinummer nummer)
 /// The two header lines of the servers alone.
 void MeßdienerKopfLesen(Zeilenleser &zeilen);
 
-/// Replaces each of XSkala, YSkala and Skal1 to Skal6 that is out of its range by its default.
+/// Resets each of XSkala, YSkala and Skal1 to Skal6 that is out of range to its default.
 void SkalenBegrenzen();
 
 } // namespace altardienst

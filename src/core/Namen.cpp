@@ -1,4 +1,4 @@
-// How a person stands in a list box: "Nachname,Vorname".
+// How a person is shown in a list box: "Nachname,Vorname".
 #include "core/Namen.h"
 
 namespace altardienst {

@@ -9,13 +9,13 @@
 namespace altardienst {
 namespace {
 
-/// A text key without a copy of the text; binary order.
+/// A text key that does not copy the text; binary order.
 struct Textschlüssel {
     const Text *Wert;
     bool operator>(const Textschlüssel &b) const { return *Wert > *b.Wert; }
 };
 
-/// The same with the order turned round.
+/// The same in reverse order.
 struct TextschlüsselAbsteigend {
     const Text *Wert;
     bool operator>(const TextschlüsselAbsteigend &b) const { return *Wert < *b.Wert; }
@@ -117,7 +117,7 @@ void MessenSortieren()
 
 void VorbesetzteMessenSortieren()
 {
-    // The scratch record lies inside the table here: with more than 202 entries a swap writes over
+    // Here the scratch record lies inside the table: with more than 202 entries a swap overwrites
     // entry 202.
     NachDatumUndUhrzeitSortieren(MesseDienerFest,
                                  Sortierbereich::Bis(MesseDienerFest.Anzahl - 2, 202, 201));

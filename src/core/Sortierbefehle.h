@@ -1,4 +1,4 @@
-// The sort commands of the main menu. They change memory only and give no message.
+// The sort commands of the main menu. They only change memory and show no message.
 #pragma once
 
 namespace altardienst {
@@ -18,7 +18,7 @@ void HelferNachStraßeSortieren();
 void GruppenSortieren();
 void MessenNachDatumSortieren();
 
-/// By date, then time of day. Both ways of assigning servers begin with it.
+/// By date, then time of day. Both ways of assigning servers start with it.
 void MessenSortieren();
 
 void VorbesetzteMessenSortieren();

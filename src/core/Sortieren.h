@@ -12,22 +12,22 @@
 
 namespace altardienst {
 
-/// Which records a sort covers and where its exchanges leave their traces.
+/// Which records a sort covers and where its swaps leave traces.
 struct Sortierbereich {
     int Durchgänge;   // passes
     int Vergleiche;   // comparisons of the first pass, j from 0 to Vergleiche - 1
-    bool Schrumpfend; // each pass compares one pair less than the one before
-    int Hilfssatz;    // scratch record: after a swap it holds the record that stood first
-    int Nachfüllung;  // record that the scratch takes over after each swap, -1 for none
+    bool Schrumpfend; // each pass compares one pair fewer than the one before
+    int Hilfssatz;    // scratch record: after a swap it holds the record that came first
+    int Nachfüllung;  // record copied into the scratch record after each swap, -1 for none
 
-    /// The usual range: records 0 to n + 1, with the bound of the passes shrinking.
+    /// The usual range: records 0 to n + 1, each pass shorter than the one before.
     static Sortierbereich Bis(int n, int hilfssatz, int nachfüllung = -1)
     {
         return {n + 1, n + 1, true, hilfssatz, nachfüllung};
     }
 };
 
-/// One place of a table during a sort: the record that stands there now, and the rank of its key.
+/// One place of a table during a sort: the record that is there now, and the rank of its key.
 struct Sortierplatz {
     int Rang;
     int Quelle;
@@ -49,7 +49,7 @@ template <class Schlüssel> std::vector<Sortierplatz> Plätze(const std::vector<
     return plätze;
 }
 
-/// Exchanges neighbours out of order, as often as the range says.
+/// Swaps neighbours that are out of order, in as many passes as the range says.
 inline void NachbarnTauschen(std::vector<Sortierplatz> &plätze, Sortierbereich bereich)
 {
     Sortierplatz *platz = plätze.data();
@@ -71,10 +71,11 @@ inline void NachbarnTauschen(std::vector<Sortierplatz> &plätze, Sortierbereich 
 }
 
 /// Gives each place of a table the record that `quellen` names for it, all at once; each record is
-/// copied or moved once. Column by column, as the entries of a column lie together.
+/// copied or moved once. Goes column by column, since the entries of a column lie together in
+/// memory.
 template <class Liste> void Umstellen(Liste felder, std::vector<int> quellen)
 {
-    std::vector<int> leser(quellen.size(), 0); // places that still wait for a record
+    std::vector<int> leser(quellen.size(), 0); // how many places still wait for a record
     std::vector<int> frei;
     auto platz = [](auto &werte, int i) -> int & { return werte[static_cast<std::size_t>(i)]; };
     int anzahl = static_cast<int>(quellen.size());
@@ -84,7 +85,7 @@ template <class Liste> void Umstellen(Liste felder, std::vector<int> quellen)
     for (int i = 0; i < anzahl; ++i)
         if (platz(quellen, i) != i && platz(leser, i) == 0)
             frei.push_back(i);
-    // A place that nobody waits for can be overwritten.
+    // A place whose record nobody waits for can be overwritten.
     std::vector<std::pair<int, int>> kopien; // place and record
     while (!frei.empty()) {
         int ziel = frei.back();
@@ -94,7 +95,7 @@ template <class Liste> void Umstellen(Liste felder, std::vector<int> quellen)
         if (--platz(leser, quelle) == 0 && platz(quellen, quelle) != quelle)
             frei.push_back(quelle);
     }
-    // What is left are rings, in which each place waits for the record of the next.
+    // What remains are rings, in which each place waits for the record of the next.
     std::vector<std::vector<int>> ringe;
     for (int i = 0; i < anzahl; ++i) {
         if (platz(quellen, i) == i)
@@ -115,12 +116,12 @@ template <class Liste> void Umstellen(Liste felder, std::vector<int> quellen)
     });
 }
 
-/// Sorts a table by the key that `schlüsselVon` gives for a record. Every field of a record moves;
-/// the columns that belong to a run only do not. Failure 9 where the range goes beyond the table.
+/// Sorts a table by the key that `schlüsselVon` gives for a record. Every field of a record moves,
+/// except columns that only belong to a run. Failure 9 if the range goes beyond the table.
 template <class Tabelle, class SchlüsselVon>
 void TabelleSortieren(Tabelle &tabelle, Sortierbereich bereich, SchlüsselVon schlüsselVon)
 {
-    // Beyond the table the first pass still goes as far as there are neighbours.
+    // If the range exceeds the table, the first pass still goes as far as there are neighbours.
     bool hinaus = bereich.Vergleiche > Tabelle::HöchsterIndex;
     if (hinaus)
         bereich = {1, Tabelle::HöchsterIndex, true, bereich.Hilfssatz, bereich.Nachfüllung};

@@ -34,7 +34,7 @@ double ZahlLesen(std::string_view text)
 {
     text = OhneBlanks(text);
     std::string zahl(text.substr(text.starts_with('+') && !text.starts_with("+-") ? 1 : 0));
-    // "inf", "nan" and a point in the place of the comma are no numbers here.
+    // "inf", "nan" and a point in place of the comma do not count as numbers here.
     if (std::ranges::any_of(zahl, [](char c) {
             return !IstZiffer(c) && c != '-' && c != '+' && c != 'E' && c != 'e' &&
                    c != Gebietsschema.Dezimaltrenner;
@@ -53,7 +53,7 @@ double ZahlLesen(std::string_view text)
 
 template <class Ganz> Ganz GanzzahlLesen(std::string_view text)
 {
-    // Most lines of the files are plain digits between two blanks.
+    // Most lines in the files are plain digits between two blanks.
     std::string_view kern = OhneBlanks(text);
     std::int64_t ganz = 0;
     auto [stelle, fehler] = std::from_chars(kern.data(), kern.data() + kern.size(), ganz);
@@ -68,7 +68,7 @@ template <class Ganz> Ganz GanzzahlLesen(std::string_view text)
     return static_cast<Ganz>(ganz);
 }
 
-/// Three numbers, or two where the third may be missing, of one to four digits each.
+/// Three numbers, or two if the third may be missing, of one to four digits each.
 struct Zahlengruppe {
     int Zahl[3] = {0, 0, 0};
     int Ziffern[3] = {0, 0, 0};
@@ -168,7 +168,7 @@ void LangeZeitAnhängen(std::string &puffer, Datum datum)
     ZiffernAnhängen(puffer, sekunden % 60, 2);
 }
 
-/// The text that an appending routine makes of a value.
+/// The text that an appending routine makes from a value.
 template <class F> Text AlsText(F anhängen)
 {
     Text text;

@@ -1,4 +1,4 @@
-// Conversions between text and values, and the rounding they share. Nothing else parses or formats
+// Conversions between text and values, and the rounding they share. No other code parses or formats
 // dates and numbers.
 #pragma once
 
@@ -13,14 +13,15 @@ namespace altardienst {
 /// To the nearest whole number, an exact half to the even neighbour. Failure 6 outside Int16.
 Int16 GerundetInt16(double wert);
 
-/// Numbers in the form of the locale, blanks around them ignored; a fraction is rounded as above
-/// where a whole number is wanted. Failure 13 if the text is no number, 6 if it is out of range.
+/// Numbers as the locale writes them, ignoring blanks around them; a fraction is rounded as above
+/// if a whole number is wanted. Failure 13 if the text is not a number, 6 if it is out of range.
 Int16 Int16Lesen(std::string_view text);
 Int32 Int32Lesen(std::string_view text);
 Single SingleLesen(std::string_view text);
 
-/// A date, a time of day, or both with a blank between, in the order of the locale; the separators
-/// ".", "/" and "-" are alike. Years 0 to 29 are 20xx, 30 to 99 are 19xx. Failure 13 otherwise.
+/// A date, a time of day, or both with a blank between them, in the order of the locale; the
+/// separators ".", "/" and "-" are interchangeable. Years 0 to 29 are 20xx, 30 to 99 are 19xx.
+/// Failure 13 otherwise.
 Datum DatumLesen(std::string_view text);
 
 /// The short form: the date alone if the time is zero, the time alone if the date is zero,
@@ -42,12 +43,12 @@ Text ZahlText(int zahl);
 /// Up to seven significant digits and the decimal separator of the locale.
 Text ZahlText(Single zahl);
 
-/// At least `ganze` digits before the decimal separator, filled up with zeros, and `stellen` behind
-/// it; an exact half is rounded away from zero.
+/// At least `ganze` digits before the decimal separator, padded with zeros, and `stellen` digits
+/// after it; an exact half is rounded away from zero.
 Text FesteStellen(double zahl, int ganze, int stellen);
 
-/// Appends to `puffer` what the function of the same kind above returns; for the files, where
-/// nearly a hundred thousand values are written at once.
+/// Appends to `puffer` what the corresponding function above returns; for the files, where nearly a
+/// hundred thousand values are written at once.
 void DatumAnhängen(std::string &puffer, Datum datum);
 void ZahlAnhängen(std::string &puffer, int zahl);
 void ZahlAnhängen(std::string &puffer, Single zahl);

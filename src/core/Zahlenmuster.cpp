@@ -1,4 +1,4 @@
-// Numbers in the patterns of the figures that are shown.
+// Numbers formatted by the patterns of the figures on the screen.
 #include "core/Zahlenmuster.h"
 
 #include "platform/Gebietsschema.h"
@@ -15,7 +15,7 @@ constexpr int StellenSingle = 7;
 
 struct Muster {
     std::size_t Ganze = 0;   // digits before the decimal separator, at least
-    std::size_t Stellen = 0; // digits behind it
+    std::size_t Stellen = 0; // digits after it
     bool Tausender = false;
     bool Prozent = false;
 };
@@ -30,7 +30,7 @@ Muster MusterLesen(std::string_view text)
             .Prozent = text.ends_with('%')};
 }
 
-/// A number from 0 on as its digits, of which `komma` stand before the decimal separator.
+/// A number of at least 0 as its digits, `Komma` of which come before the decimal separator.
 struct Ziffernfolge {
     std::string Ziffern;
     int Komma;
@@ -51,14 +51,14 @@ Ziffernfolge ZiffernVon(double zahl, int stellen)
     return folge;
 }
 
-/// The digits down to so many places behind the decimal separator, without it.
+/// The digits rounded to `stellen` places after the decimal separator, without the separator.
 std::string Gerundet(const Ziffernfolge &folge, int stellen)
 {
     const int bleiben = folge.Komma + stellen;
     if (bleiben < 0)
         return "0";
     const auto anzahl = static_cast<std::size_t>(bleiben);
-    std::string ziffern = "0" + folge.Ziffern; // a place for what is carried
+    std::string ziffern = "0" + folge.Ziffern; // room for a carry
     const bool auf = anzahl + 1 < ziffern.size() && ziffern[anzahl + 1] >= '5';
     ziffern.resize(anzahl + 1, '0');
     if (auf) {

@@ -1,4 +1,4 @@
-// Numbers in the patterns of the figures that are shown.
+// Numbers formatted by the patterns of the figures on the screen.
 #pragma once
 
 #include "values/Int16.h"
@@ -9,12 +9,12 @@
 namespace altardienst {
 
 /// A number in a pattern such as "##,##0.00%": at least as many digits before the decimal separator
-/// as the pattern has zeros there, and as many behind it; with a comma in the pattern the thousands
-/// are set apart, in groups of three wherever it stands; with a "%" the hundredfold. An exact half
-/// is rounded away from zero, by the digits that the number shows and not by those of its binary
-/// form. Separators are those of the locale.
+/// as the pattern has zeros there, and exactly as many after it as it has there; with a comma
+/// anywhere in the pattern the thousands are separated in groups of three; with a "%" the number is
+/// multiplied by a hundred. An exact half is rounded away from zero, judged by the digits the
+/// number shows, not by its binary form. Separators are those of the locale.
 Text Format(double zahl, std::string_view muster);
-Text Format(Single zahl, std::string_view muster); // of which seven digits count
+Text Format(Single zahl, std::string_view muster); // only seven digits of it count
 Text Format(int zahl, std::string_view muster);
 
 } // namespace altardienst

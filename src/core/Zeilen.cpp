@@ -9,7 +9,7 @@
 namespace altardienst {
 namespace {
 
-/// A blank stands in the place of the sign of a number that has none.
+/// A number without a sign has a blank in its place.
 template <class Zahl> void ZahlenzeileAnhängen(std::string &inhalt, Zahl wert)
 {
     if (!(wert < 0))

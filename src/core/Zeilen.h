@@ -11,14 +11,14 @@
 
 namespace altardienst {
 
-/// Takes the lines of a file one after the other. Reading past the end is failure 62.
+/// Takes the lines of a file one by one. Reading past the end is failure 62.
 class Zeilenleser {
   public:
     explicit Zeilenleser(std::string_view inhalt) : rest(inhalt) {}
 
     bool AmEnde() const { return rest.empty(); }
 
-    /// The line up to its end, with commas, quotes and blanks as they stand.
+    /// The line up to its end, with commas, quotes and blanks as they are.
     std::string_view Zeile();
 
     /// The next delimited value: leading blanks are skipped; a value in double quotes runs to the
@@ -31,7 +31,8 @@ class Zeilenleser {
     std::string_view rest;
 };
 
-/// Reads fields one by one, each converted to its type, with either way of taking a line.
+/// Reads fields one by one, converting each to its type, with either of the two ways to take a
+/// line.
 class Feldleser {
   public:
     using Art = std::string_view (Zeilenleser::*)();
@@ -46,14 +47,14 @@ class Feldleser {
     void operator()(Int32 &wert);
     void operator()(Single &wert);
     void operator()(Datum &wert);
-    void operator()(Flagfeld feld); // an empty line gives what stands in its place
+    void operator()(Flagfeld feld); // an empty line gives the default
 
   private:
     Zeilenleser &zeilen;
     Art art;
 };
 
-/// Appends fields to the content of a file, a line each. A text is neither quoted nor escaped.
+/// Appends fields to the content of a file, one line each. Texts are neither quoted nor escaped.
 class Feldschreiber {
   public:
     explicit Feldschreiber(std::string &inhalt) : inhalt(inhalt) {}

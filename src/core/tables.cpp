@@ -20,7 +20,7 @@ Int16 SchleifenZähler;
 
 namespace {
 
-/// In place: a table is too large for a copy on the stack.
+/// In place: a table is too large to be copied on the stack.
 template <class T> void NeuAnlegen(T &tabelle)
 {
     std::destroy_at(&tabelle);

@@ -1,4 +1,4 @@
-// The table of the fixed entries and what it has to do with the masses.
+// The table of the fixed entries and how it relates to the masses.
 #include "fixed/FesteEinträge.h"
 
 #include "core/Namen.h"
@@ -11,7 +11,7 @@ namespace altardienst {
 bool FesteZuordnungOffen = false;
 namespace {
 
-/// Calls `f` with each mass of this date and time; the blank record behind the last one counts.
+/// Calls `f` with each mass of this date and time; the blank record after the last one counts.
 template <class F> void FürJedeMesse(Datum datum, Datum uhrzeit, F f)
 {
     for (int m = 0; m <= Messe.Anzahl; ++m)
@@ -19,7 +19,7 @@ template <class F> void FürJedeMesse(Datum datum, Datum uhrzeit, F f)
             f(m);
 }
 
-/// Date and time, the part of a mass's text that its entries share.
+/// Date and time: the part of a mass's text that is also in the text of its entries.
 Text Termintext(int i)
 {
     return DatumText(Messe.Datum[i]) + "," + DatumText(Messe.Uhrzeit[i]);
@@ -29,7 +29,7 @@ Text Termintext(int i)
 
 void DienerzahlenBestimmen()
 {
-    constexpr int HöchsterGezählter = 100; // fewer than the dialog lets in
+    constexpr int HöchsterGezählter = 100; // fewer than the dialog accepts
     for (int k = 0; k <= HöchsterGezählter; ++k)
         MesseDienerFest.Index[k] =
             DienerzahlDerMesse(MesseDienerFest.Datum[k], MesseDienerFest.Uhrzeit[k]).value_or(0);

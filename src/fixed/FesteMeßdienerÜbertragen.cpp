@@ -1,4 +1,4 @@
-// The carry of the fixed entries into the masses.
+// Carrying the fixed entries over into the masses.
 #include "fixed/FesteMeßdienerÜbertragen.h"
 
 #include "core/SchleifenZähler.h"
@@ -9,7 +9,7 @@ namespace altardienst {
 
 void FesteMeßdienerÜbertragen()
 {
-    constexpr int HöchsterÜbertragener = 200; // entries above it are never carried
+    constexpr int HöchsterÜbertragener = 200; // entries above it are never carried over
     Int16 &m = SchleifenZähler;
     for (m = 0; m <= Messe.Anzahl; ++m) {
         for (int r = 0; r <= HöchsterÜbertragener; ++r) {

@@ -1,4 +1,4 @@
-// The carry of the fixed entries into the masses: the one point at which they reach the plan.
+// Carrying the fixed entries over into the masses: the one point at which they reach the plan.
 #pragma once
 
 namespace altardienst {
@@ -7,7 +7,8 @@ namespace altardienst {
 /// later entry wins slot by slot; empty slots of an entry leave the mass as it is.
 void FesteMeßdienerÜbertragen();
 
-/// What both dialogs of the fixed entries do last: asks whether to carry, and does it on Ja.
+/// What both dialogs of the fixed entries do last: asks whether to carry them over, and does so on
+/// Ja.
 void ÜbertragenAufWunsch();
 
 } // namespace altardienst

@@ -38,7 +38,7 @@ NeuMesseDienerFestForm::NeuMesseDienerFestForm()
     })();
 }
 
-/// There is no entry yet, so that the form itself keeps what belongs to one.
+/// There is no entry yet, so the form itself keeps what belongs to one.
 Zuordnungsfelder::Unterschiede NeuMesseDienerFestForm::Unterschiede()
 {
     Zuordnungsfelder::Unterschiede unterschiede;
@@ -55,7 +55,7 @@ void NeuMesseDienerFestForm::Anordnen()
     spalte->addLayout(Felder.Messenzeile());
     spalte->addWidget(Rollbar(Felder.Slotzeilen()), 1);
     spalte->addLayout(Knopfreihe({Anfügen, Abrechen}));
-    GrößeAnpassen(this); // with all rows of slots
+    GrößeAnpassen(this); // to show all the rows of slots
     Felder.Messen->setFocus();
 }
 
@@ -82,7 +82,7 @@ void NeuMesseDienerFestForm::EintragAnfügen()
     if (Felder.Messen->currentText().isEmpty())
         return Meldungen.Zeigen("Kein korrekter Datensatz!!");
     const int i = MesseDienerFest.Anzahl;
-    // With no entry yet, date and time are not even read.
+    // While there are no entries, date and time are not even read.
     if (i >= 1 &&
         HatFestenEintrag(DatumLesen(TextVon(Felder.DatumD)), DatumLesen(TextVon(Felder.Zeitd))))
         return Meldungen.Zeigen("Lege keinen doppelten Datensatz an");

@@ -8,7 +8,7 @@
 
 namespace altardienst {
 
-/// Stays open after each new entry, with the first mass as its proposal. All handlers are trapped.
+/// Stays open after each new entry, proposing the first mass again. All handlers are trapped.
 class NeuMesseDienerFestForm : public QWidget {
   public:
     NeuMesseDienerFestForm();
@@ -29,7 +29,7 @@ class NeuMesseDienerFestForm : public QWidget {
     void EintragAnfügen();
 
     Int16 DienerAnzahl;                    // servers of the chosen mass
-    Zuordnungsfelder::Dienstnamen Dienste; // and their services
+    Zuordnungsfelder::Dienstnamen Dienste; // and the services in its slots
 };
 
 } // namespace altardienst

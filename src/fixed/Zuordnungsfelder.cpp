@@ -20,12 +20,12 @@
 namespace altardienst {
 namespace {
 
-constexpr int KürzestesTermintext = 19; // date of ten characters, comma, time of eight
+constexpr int KürzestesTermintext = 19; // a date of ten characters, a comma, a time of eight
 
 QComboBox *Listenwahl(const char *name, const char *gesprochen, int zeichen)
 {
     QComboBox *wahl = Textwahl(name, gesprochen);
-    // Measuring every entry of the long lists would take longer than all else.
+    // Measuring every entry of the long lists would take longer than everything else together.
     wahl->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     wahl->setMinimumContentsLength(zeichen);
     return wahl;
@@ -117,7 +117,7 @@ void Zuordnungsfelder::Verbinden()
     for (const Slot &slot : Slots) {
         if (&slot != &Slots.back())
             BeiVerlassen(slot.MDiener, beimVerlassen([this, &slot] { SlotVerlassen(slot); }));
-        else // this one reacts to each change of its text
+        else // the last one reacts to every change of its text
             QObject::connect(slot.MDiener, &QComboBox::editTextChanged, slot.MDiener,
                              Abgefangen([this, &slot] { SlotVerlassen(slot); }));
     }
@@ -204,7 +204,7 @@ void Zuordnungsfelder::DatumUhrzeitAngleichen() const
     MesseZeigen();
 }
 
-/// A text of another form yields whatever stands at these positions.
+/// A text in another format yields whatever is at these positions.
 void Zuordnungsfelder::MesseDatumHolen() const
 {
     const Text text = TextVon(Messen);
@@ -253,7 +253,8 @@ void Zuordnungsfelder::MeßdienerZeilenEinblenden() const
     ZeilenLeeren(zahl);
 }
 
-/// Names behind the count of the mass are dropped, and with the next save they are lost.
+/// Names beyond the count of the mass are dropped from the screen; with the next save they are
+/// lost.
 void Zuordnungsfelder::ZeilenLeeren(int ab) const
 {
     for (std::size_t k = static_cast<std::size_t>(std::max(ab, 0)); k < Slots.size(); ++k) {
@@ -263,8 +264,8 @@ void Zuordnungsfelder::ZeilenLeeren(int ab) const
     }
 }
 
-/// The first slot with an unknown text goes back to its names; those behind it are not checked this
-/// time.
+/// The first slot with an unknown text gets its previous names back; the slots after it are not
+/// checked this time.
 void Zuordnungsfelder::ZuordnungenPrüfen() const
 {
     for (const Slot &slot : Slots) {
@@ -276,8 +277,8 @@ void Zuordnungsfelder::ZuordnungenPrüfen() const
     }
 }
 
-/// Who stands in two slots is taken out of the one that is left: the entry that was there first
-/// wins.
+/// Anyone who is in two slots is removed from the one that the focus leaves: the entry that was
+/// there first wins.
 void Zuordnungsfelder::SlotVerlassen(const Slot &slot) const
 {
     ZuordnungenPrüfen();

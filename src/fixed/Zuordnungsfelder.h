@@ -13,20 +13,20 @@
 
 namespace altardienst {
 
-/// All event handlers are trapped: a date or time that cannot be read ends them without a word and
-/// stays as typed.
+/// All event handlers are trapped: a date or time that cannot be read ends them silently and stays
+/// as typed.
 class Zuordnungsfelder {
   public:
     static constexpr std::size_t Slotzahl = MesseDienerFestTabelle::HöchsterSlot;
     using Dienstnamen = MesseDienerFestTabelle::JeSlot; // of slots 1 to 20
 
-    /// Where the dialogs differ: one shows an entry of the table, the other one that is not there
+    /// Where the dialogs differ: one shows an entry of the table, the other one that does not exist
     /// yet.
     struct Unterschiede {
         bool Leereintrag;                             // the lists of names begin with a blank
-        std::function<int()> Dienerzahl;              // how many slots the entry on show has
-        std::function<void(Int16)> DienerzahlAblegen; // of the mass that was chosen for it
-        std::function<Dienstnamen &()> Dienste;       // of the entry on show
+        std::function<int()> Dienerzahl;              // how many slots the entry on the screen has
+        std::function<void(Int16)> DienerzahlAblegen; // takes that of the mass chosen for it
+        std::function<Dienstnamen &()> Dienste;       // of the entry on the screen
     };
 
     explicit Zuordnungsfelder(Unterschiede unterschiede);
@@ -49,7 +49,7 @@ class Zuordnungsfelder {
     QLayout *Slotzeilen() const;
     void Verbinden();
 
-    /// The lists of masses, and of servers and groups. They follow the tables; the texts stay.
+    /// Fills the lists of masses, and of servers and groups, from the tables; the texts stay.
     void ListenFüllen() const;
 
     // Between the entry in the table and the screen.
@@ -57,9 +57,10 @@ class Zuordnungsfelder {
     void NamenZeigen() const;        // in the combos, from the names
     void Schreiben(int i) const;     // date, time and names
     void MesseZeigen() const;        // date and time in `Messen`
-    void ZeilenLeeren(int ab) const; // the names behind so many slots
+    void ZeilenLeeren(int ab) const; // of the names after the first `ab` slots
 
-    // The working operations, each used by many events. Failure 13 if date or time cannot be read.
+    // The individual operations, each used by many events. Failure 13 if date or time cannot be
+    // read.
     void DatumUhrzeitAngleichen() const;
     void MesseDatumHolen() const;
     void MeßdienerAufteilen() const;
@@ -67,11 +68,11 @@ class Zuordnungsfelder {
     void DienstBeschriftungSetzen() const;
     void MeßdienerZeilenEinblenden() const;
 
-    /// Names, date and time from the boxes in which they are chosen, and the services from the
-    /// mass: three of the above in their order.
+    /// Takes names, date and time from the boxes in which they are chosen, and the services from
+    /// the mass: three of the above, in their order.
     void Übernehmen() const;
 
-    /// From here on leaving a box does nothing: the dialog is closing.
+    /// From now on, leaving a box does nothing: the dialog is closing.
     void Stilllegen() { still = true; }
 
   private:

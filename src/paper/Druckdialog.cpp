@@ -21,7 +21,7 @@
 namespace altardienst {
 namespace {
 
-/// Where files go that are named without a directory: nobody would find them in that of the
+/// Where files named without a directory go: nobody would find them in the directory of the
 /// process.
 QDir Ablage()
 {
@@ -36,7 +36,7 @@ bool IstBeschreibbar(const QString &datei)
     return verzeichnis.isDir() && verzeichnis.isWritable() && !ziel.isDir();
 }
 
-/// The last file again, unless its directory has gone meanwhile.
+/// The last file again, unless its directory has disappeared in the meantime.
 QString PdfVorschlag()
 {
     const QString letzte = LetztePdfDatei();
@@ -96,7 +96,7 @@ DruckdialogForm::DruckdialogForm(const Druckanfrage &anfrage, const Druckerliste
 
 void DruckdialogForm::Anordnen()
 {
-    // Without a group of their own these would take in the options of the frame below.
+    // Without a group of their own they would form one group with the options of the frame below.
     auto *ziele = new QButtonGroup(this);
     for (QRadioButton *ziel : {Papier, Pdf})
         ziele->addButton(ziel);
@@ -179,7 +179,7 @@ void DruckdialogForm::Bestätigen()
     accept();
 }
 
-/// The platform's own dialog, for what this one leaves out (tray, both sides, colour).
+/// The platform's own dialog, for what this one leaves out (tray, two-sided printing, colour).
 void DruckdialogForm::EinstellungenZeigen()
 {
     papier->setPrinterName(Druckername->currentText());
@@ -197,7 +197,7 @@ void DruckdialogForm::PdfSuchen()
         QFileDialog::getSaveFileName(this, "PDF-Datei", PdfPfad(), "PDF-Dateien (*.pdf)");
     if (datei.isEmpty())
         return;
-    ersetzbar = datei; // the system's dialog has asked already
+    ersetzbar = datei; // the system's dialog has already asked
     PdfDatei->setText(datei);
 }
 

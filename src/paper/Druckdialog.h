@@ -14,19 +14,19 @@
 
 namespace altardienst {
 
-/// The printers that can be chosen, and the one preselected.
+/// The printers to choose from, and the one that is preselected.
 struct Druckerliste {
     QStringList Namen;
     QString Vorgabe;
 };
 
-/// Those that the system has.
+/// The printers set up on the system.
 Druckerliste EingerichteteDrucker();
 
-/// The PDF file chosen last, which the next dialog proposes again; none at the program's start.
+/// The PDF file chosen last, which the next dialog proposes again; none when the program starts.
 QString &LetztePdfDatei();
 
-/// Works without any printer: then only the PDF file can be chosen.
+/// Works without a printer: then only the PDF file can be chosen.
 class DruckdialogForm : public QDialog {
   public:
     explicit DruckdialogForm(const Druckanfrage &anfrage,
@@ -39,14 +39,14 @@ class DruckdialogForm : public QDialog {
     QRadioButton *Pdf;
     QLineEdit *PdfDatei;
     QPushButton *Durchsuchen;
-    QLabel *Hinweis;       // why a PDF file cannot be written there
-    QGroupBox *Ausführung; // hidden where a report has one layout
+    QLabel *Hinweis;       // why no PDF file can be written there
+    QGroupBox *Ausführung; // hidden if the report has only one layout
     QRadioButton *ErsteForm;
     QRadioButton *ZweiteForm;
     QPushButton *OKButton;
     QPushButton *CancelButton;
 
-    /// What is chosen; the printer carries the settings made so far.
+    /// The choice made; its printer has the settings made so far.
     Druckauswahl Auswahl() const;
 
   private:
@@ -61,7 +61,7 @@ class DruckdialogForm : public QDialog {
     QString ersetzbar; // the file that may be replaced without a question
 };
 
-/// Shows the dialog; nothing if it was cancelled.
+/// Shows the dialog and returns the choice; nothing if it was cancelled.
 std::optional<Druckauswahl> DruckdialogZeigen(const Druckanfrage &anfrage);
 
 } // namespace altardienst

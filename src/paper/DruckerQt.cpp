@@ -28,7 +28,7 @@ constexpr double Bildrand = 850;     // 15 mm
     throw Laufzeitfehler(Laufzeitfehler::Druckerfehler);
 }
 
-/// Whether a PDF was written to its end: a full disk cuts it off without a word.
+/// Whether a PDF was written to its end: a full disk cuts it off silently.
 bool IstVollständig(const QString &pdf)
 {
     QFile datei(pdf);
@@ -36,7 +36,7 @@ bool IstVollständig(const QString &pdf)
            datei.readAll().trimmed().endsWith("%%EOF");
 }
 
-/// Puts a file in the place of another one, which stays if that fails.
+/// Replaces one file by another; the old one stays if that fails.
 bool Ersetzen(const QString &alt, const QString &neu)
 {
     std::error_code fehler;
@@ -44,7 +44,7 @@ bool Ersetzen(const QString &alt, const QString &neu)
     return !fehler;
 }
 
-/// What a twip is on the device, in the dots that it counts.
+/// The size of a twip in dots of the device.
 double PunkteProTwip(const QPainter &stift)
 {
     return stift.device()->logicalDpiX() / TwipsProZoll;
@@ -56,7 +56,7 @@ std::shared_ptr<QPrinter> PdfDrucker(const QString &datei)
 {
     auto drucker = std::make_shared<QPrinter>(QPrinter::HighResolution);
     drucker->setOutputFileName(datei);
-    // After the name: an empty one would choose the system's printer.
+    // After the file name: an empty one would switch back to the system's printer.
     drucker->setOutputFormat(QPrinter::PdfFormat);
     return drucker;
 }
@@ -151,8 +151,8 @@ void DruckerQt::Orientation(int neu)
     richtung = neu;
 }
 
-/// Opens the printer. A report that fails is not to leave half a document in its queue, and not
-/// every printer takes back what it was given; so nothing goes there before the report has ended.
+/// Opens the printer. A report that fails must not leave half a document in its queue, and not
+/// every printer takes back what it was given; so nothing is sent before the report has ended.
 void DruckerQt::Beginnen()
 {
     drucker->setDocName("Altardienst");
@@ -171,7 +171,7 @@ void DruckerQt::Beginnen()
     }
 }
 
-/// Draws on the page, as soon as the printer is open.
+/// Draws on the page once the printer is open.
 void DruckerQt::Zeichnen(Zeichnung zeichnung)
 {
     if (!drucker)
@@ -213,7 +213,7 @@ void DruckerQt::Picture(const Druckbild &bild)
     const QSizeF größe = QSizeF(bild.Größe).scaled(platz, Qt::KeepAspectRatio);
     Zeichnen([bild, größe](QPainter &stift) {
         const double punkte = PunkteProTwip(stift);
-        // A picture that is played is brought to the resolution of the printer already.
+        // A picture being played is already scaled to the resolution of the printer.
         const double gespielt =
             stift.device()->logicalDpiX() / static_cast<double>(bild.Bild.logicalDpiX());
         const double maßstab = größe.width() * punkte / bild.Größe.width() / gespielt;
@@ -266,7 +266,7 @@ void DruckerQt::Verwerfen()
     if (!pdf.isEmpty())
         QFile::remove(Teildatei());
     Vergessen();
-    richtung = Hochformat; // the report that turned the page does not get to turn it back
+    richtung = Hochformat; // a report that turned the page has no chance to turn it back
 }
 
 QString DruckerQt::Teildatei() const
@@ -281,7 +281,7 @@ void DruckerQt::Vergessen()
     pdf.clear();
     seiten.clear();
     neueSeite = false;
-    schriftGeändert = true; // each document sets its font anew
+    schriftGeändert = true; // each document sets its font again
     x = 0;
     y = 0;
 }

@@ -23,7 +23,7 @@ struct Druckauswahl {
     std::shared_ptr<QPrinter> Ziel;
 };
 
-/// A picture as strokes and letters, so that it is as sharp as the printer.
+/// A picture made of strokes and letters, so that it prints as sharply as the printer can.
 struct Druckbild {
     QPicture Bild;
     QSize Größe; // of the window it shows, in its pixels
@@ -32,13 +32,13 @@ struct Druckbild {
 /// A printer that writes a PDF file.
 std::shared_ptr<QPrinter> PdfDrucker(const QString &datei);
 
-/// A4, measured from the paper's edge. Pages are kept back until the document ends, so that a
+/// A4, measured from the paper's edge. Pages are held back until the document ends, so that a
 /// report that fails leaves nothing in the printer's queue; a report without output leaves no file.
-/// A PDF is made beside its place, under its name and ".teil", and takes the place of an older one
-/// when it is whole.
+/// A PDF is written under its name plus ".teil" in the same directory and replaces an older file
+/// once it is complete.
 class DruckerQt : public DruckerDienst {
   public:
-    /// What stands before each report; nothing if it was cancelled.
+    /// What runs before each report; returns nothing if it was cancelled.
     using Dialogablauf = std::function<std::optional<Druckauswahl>(const Druckanfrage &)>;
 
     explicit DruckerQt(Dialogablauf dialog);
@@ -80,13 +80,13 @@ class DruckerQt : public DruckerDienst {
     bool schriftGeändert = true;
     Single x = 0;
     Single y = 0;
-    double zeilenhöhe = 0; // twips, of the font in use
-    double oberlänge = 0;  // twips from the top of a line to its base
+    double zeilenhöhe = 0; // twips, of the current font
+    double oberlänge = 0;  // twips from the top of a line to its baseline
     std::vector<Seite> seiten;
-    bool neueSeite = false; // a page turned but not yet written on
+    bool neueSeite = false; // a new page that nothing was written on yet
 
     std::shared_ptr<QPrinter> drucker;
-    QString pdf; // the file of the document that is given out, empty on paper
+    QString pdf; // the file of the current document, empty when printing on paper
     std::unique_ptr<QPainter> stift;
 };
 
