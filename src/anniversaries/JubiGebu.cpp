@@ -19,7 +19,7 @@ template <class Liste, class Datumsspalte> void Leeren(Liste &liste, Datumsspalt
         (liste.*tag)[i] = Uhr.Heute();
 }
 
-/// Appends a row with what both lists say of a person; returns its index.
+/// Appends a row with what both lists say about a person; returns its index.
 template <class Liste, class Tabelle> int Anhängen(Liste &liste, Tabelle &leute, int person)
 {
     const int i = liste.Anzahl;
@@ -44,7 +44,7 @@ template <class Tabelle> void GeburtstageAnhängen(Tabelle &leute, int GeburtsMo
     }
 }
 
-/// Exchanges neighbours that stand wrong, in as many full passes as there are rows less one.
+/// Exchanges neighbours that are out of order, in one full pass fewer than there are rows.
 template <class Liste, class Falsch> void NachbarnTauschen(Liste &liste, Falsch falsch)
 {
     for (int durchgang = 1; durchgang < liste.Anzahl; ++durchgang)

@@ -13,7 +13,7 @@ struct GeburtstagslisteTabelle {
     static constexpr int HöchsterIndex = 600;
     template <class T> using Spalte = altardienst::Spalte<T, HöchsterIndex>;
 
-    Int16 Anzahl; // at least 1 once it was filled: without anybody it shows one blank row
+    Int16 Anzahl; // at least 1 once filled: with nobody in it, it shows one blank row
 
     Spalte<Text> Vorname, Nachname;
     Spalte<Datum> Geburtstag;
@@ -24,7 +24,7 @@ struct GeburtstagslisteTabelle {
     auto Felder() { return std::tie(Vorname, Nachname, Geburtstag, Alter, Telefon, Straße, Ort); }
 };
 
-/// The servers of one length of membership.
+/// The servers who have been members for the same number of years.
 struct JubiläumslisteTabelle {
     static constexpr int HöchsterIndex = 600;
     template <class T> using Spalte = altardienst::Spalte<T, HöchsterIndex>;
@@ -46,16 +46,16 @@ struct JubiläumslisteTabelle {
 extern GeburtstagslisteTabelle Geburtstagsliste;
 extern JubiläumslisteTabelle Jubiläumsliste;
 
-/// From this number of years on a jubilee takes in all longer memberships.
+/// A jubilee of this many years also takes in everyone who has been a member for longer.
 constexpr int MeisteJubiläumsJahre = 15;
 
-/// Fills `Geburtstagsliste` with the people born in a month (1 to 12), by the day of the month;
-/// those of one day stand as in their tables, servers first. Whoever is both server and helper
-/// stands there twice. Failure 9 with more people than rows.
+/// Fills `Geburtstagsliste` with the people born in a month (1 to 12), by day of the month; people
+/// born on the same day keep the order of their tables, servers first. Someone who is both server
+/// and helper is listed twice. Failure 9 if there are more people than rows.
 void GeburtstageSuchen(Gruppende gruppe, Int16 GeburtsMonat);
 
-/// Fills `Jubiläumsliste` with the servers of so many whole years, those who came first first.
-/// Equal dates change places at each pass of the sort.
+/// Fills `Jubiläumsliste` with the servers who have been members for that many whole years, the
+/// longest-serving first. Equal dates change places on each pass of the sort.
 void JubiläenSuchen(Int16 JubiläumsJahre);
 
 } // namespace altardienst

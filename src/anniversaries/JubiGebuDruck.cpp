@@ -30,7 +30,7 @@ Text Geburtstagstitel(Gruppende gruppe)
     }
 }
 
-/// One line and an empty one for each row.
+/// One line for each row, followed by an empty one.
 template <class Liste>
 void ListeDrucken(Liste &liste, const Text &titel, const std::function<Text(int)> &angaben)
 {

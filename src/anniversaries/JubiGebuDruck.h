@@ -6,8 +6,8 @@
 
 namespace altardienst {
 
-/// Prints `Geburtstagsliste`; group and month (1 to 12) are those it was filled for and
-/// stand in the title.
+/// Prints `Geburtstagsliste`; group and month (1 to 12) are those it was filled for and appear in
+/// the title.
 void GeburtstageDrucken(Gruppende gruppe, Int16 GeburtsMonat);
 
 /// Prints `Jubiläumsliste`, filled for that number of years.

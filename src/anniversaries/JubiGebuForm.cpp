@@ -1,4 +1,4 @@
-// Birthdays by month and jubilees by years: to look at, as lists and as labels.
+// Birthdays by month and jubilees by years: on the screen, as printed lists and as labels.
 #include "anniversaries/JubiGebuForm.h"
 
 #include "anniversaries/GeburtstagsansichtForm.h"
@@ -23,7 +23,7 @@ struct Option {
     const char *Text;
 };
 
-/// Options with the numbers from `erste` on; the first of them is chosen.
+/// Options numbered from `erste`; the first one is chosen.
 QButtonGroup *Optionen(QObject *form, int erste, const std::vector<Option> &optionen)
 {
     auto *wahl = new QButtonGroup(form);
@@ -112,7 +112,7 @@ void JubiGebuForm::Anordnen()
         geburtstage->addWidget(knopf);
     geburtstage->addStretch();
 
-    // Without a group of their own they would take in the options of the frame below.
+    // Without a group of their own they would form one group with the options of the frame below.
     auto *liste = new QButtonGroup(this);
     auto *leute = new QHBoxLayout;
     leute->setSpacing(12);
@@ -184,7 +184,7 @@ void JubiGebuForm::JubiläenFüllen()
     JubiläenSuchen(JubiläumsJahre());
 }
 
-/// When the view has closed, this form has the keyboard again.
+/// Once the view has closed, this form gets the keyboard back.
 void JubiGebuForm::AnsichtÖffnen(QWidget *ansicht)
 {
     connect(ansicht, &QObject::destroyed, this, &QWidget::activateWindow);

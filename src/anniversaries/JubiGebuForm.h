@@ -1,4 +1,4 @@
-// Birthdays by month and jubilees by years: to look at, as lists and as labels.
+// Birthdays by month and jubilees by years: on the screen, as printed lists and as labels.
 #pragma once
 
 #include "anniversaries/JubiGebu.h"
@@ -9,7 +9,7 @@
 
 namespace altardienst {
 
-/// The two tables always hold what is chosen.
+/// The two tables always match the options chosen.
 class JubiGebuForm : public Dialogfenster {
   public:
     JubiGebuForm();

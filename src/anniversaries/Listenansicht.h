@@ -16,7 +16,7 @@ struct Listenzeile {
     Text Telefon;
 };
 
-/// The words of a window.
+/// The texts of a window.
 struct Listenworte {
     const char *Fenster; // its object name
     const char *Titel;
@@ -24,10 +24,10 @@ struct Listenworte {
     const char *Jahre;
 };
 
-/// Stands in front of the form that opened it, which waits until it is closed.
+/// Stays in front of the form that opened it, which is blocked until this window closes.
 class Listenansicht : public QWidget {
   public:
-    /// The number box goes from 0 to `anzahl`, where the blank row behind the last one shows.
+    /// The number box goes from 0 to `anzahl`, which shows the blank row after the last one.
     Listenansicht(const Listenworte &worte, int anzahl,
                   std::function<Listenzeile(int)> zeileDerListe);
 

@@ -14,7 +14,7 @@ QString Schlüssel(const QString &kontext, const QString &quelle, const QString 
 
 } // namespace
 
-/// The format is that of Qt's translation sources: contexts, and in each the messages.
+/// The format is that of Qt's translation sources: contexts, each with its messages.
 Deutsch::Deutsch(QObject *eigner) : QTranslator(eigner)
 {
     QFile datei(":/texte/deutsch.ts");

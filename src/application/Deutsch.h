@@ -1,5 +1,5 @@
-// The German of Qt's own dialogs, menus and keys, which comes with the program: no catalogue need
-// be installed.
+// The German of Qt's own dialogs, menus and keys, which comes with the program, so no catalogue
+// needs to be installed.
 #pragma once
 
 #include <QHash>
@@ -14,8 +14,8 @@ class Deutsch : public QTranslator {
 
     bool isEmpty() const override { return texte.isEmpty(); }
 
-    /// Null for a text that is not there, which then shows as it stands in Qt. No text of these
-    /// dialogs has forms for numbers, so `n` is not used.
+    /// Null for a text that is not there; Qt then shows its own. No text in these dialogs has
+    /// plural forms, so `n` is not used.
     QString translate(const char *kontext, const char *quelle, const char *unterscheidung,
                       int n) const override;
 

@@ -1,4 +1,4 @@
-// The wait cursor over a step that may search for a while.
+// The wait cursor during a step that may search for a while.
 #include "application/Wartezeiger.h"
 
 #include <QGuiApplication>

@@ -1,4 +1,4 @@
-// The wait cursor over a step that may search for a while.
+// The wait cursor during a step that may search for a while.
 #pragma once
 
 #include <QCursor>
@@ -8,10 +8,11 @@
 
 namespace altardienst {
 
-/// Runs this under the wait cursor, which goes again also behind a failure.
+/// Runs `aktion` under the wait cursor, which is removed afterwards, even after a failure.
 void UnterWartezeiger(const std::function<void()> &aktion);
 
-/// Takes the wait cursor off, if there is one, as long as it lives: a message waits for the user.
+/// Removes the wait cursor, if there is one, for as long as this object lives: a message waits for
+/// the user.
 class OhneWartezeiger {
   public:
     OhneWartezeiger();

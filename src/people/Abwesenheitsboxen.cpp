@@ -25,7 +25,7 @@ Datumsfeld Feld(const char *stamm, int nummer, int ersterSpin, const char *gespr
             (gesprochen + (" " + zahl)).c_str()};
 }
 
-/// Days alone count, not times of day.
+/// Only days count, not times of day.
 void SchlußNachStart(QLineEdit *start, QLineEdit *schluß)
 {
     if (std::trunc(DatumLesen(TextVon(schluß))) < std::trunc(DatumLesen(TextVon(start))))
@@ -53,7 +53,7 @@ void Abwesenheit::Anordnen(QGridLayout *raster, int zeile) const
         raster->addWidget(datum->Feld, zeile, spalte++);
         for (SpinButton *spin : datum->Spins)
             raster->addWidget(spin, zeile, spalte++);
-        ++spalte; // the gap before `Schluß`
+        ++spalte; // a gap before `Schluß`
     }
 }
 

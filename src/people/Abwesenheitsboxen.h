@@ -10,7 +10,7 @@
 
 namespace altardienst {
 
-/// One period: `Start` and `Schluß` (from the second period on with its number behind), each with
+/// One period: `Start` and `Schluß` (from the second period on followed by its number), each with
 /// three of the six spin buttons `ä1` to `ä6`, `ä7` to `ä12` and so on.
 class Abwesenheit {
   public:
@@ -27,7 +27,7 @@ class Abwesenheit {
 };
 
 /// All periods of a person. A period cannot end before it starts, and one that started more than
-/// two calendar years ago starts today, also when it is only shown. From the second period on an
+/// two calendar years ago starts today, even if it is only shown. From the second period on, an
 /// empty box takes today's date.
 class Abwesenheitsboxen {
   public:

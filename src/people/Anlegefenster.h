@@ -11,14 +11,14 @@ namespace altardienst {
 
 class Anlegefenster : public QWidget {
   public:
-    /// `danach` runs when the dialog has closed, with whether a record was added.
+    /// `danach` runs once the dialog has closed and is passed whether a record was added.
     explicit Anlegefenster(std::function<void(bool angelegt)> danach);
 
     QPushButton *OKButton;
     QPushButton *CancelButton;
 
   protected:
-    /// OK runs `anlegen`, Abbrechen closes.
+    /// OK runs `anlegen`, Abbrechen closes the dialog.
     void KnöpfeVerbinden(std::function<void()> anlegen);
 
     /// The boxes of a person, which scroll on a small screen, above the buttons.
@@ -27,7 +27,7 @@ class Anlegefenster : public QWidget {
     /// OK and Abbrechen in the lower right corner; Escape presses Abbrechen.
     QLayout *Schlußknöpfe();
 
-    /// Closes after a record was added.
+    /// Closes the dialog after a record was added.
     void Fertig();
 
     void closeEvent(QCloseEvent *ereignis) override;

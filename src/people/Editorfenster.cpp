@@ -29,8 +29,8 @@ void Editorfenster::Speichern()
     abgeschlossen = true;
 }
 
-/// The window's own close writes without renaming. A box that cannot be converted keeps the form
-/// open, with the failure shown.
+/// Closing by the window's close box writes without renaming. A box that cannot be converted keeps
+/// the form open, with the failure shown.
 void Editorfenster::VorDemSchließen()
 {
     if (!abgeschlossen)

@@ -20,17 +20,17 @@ class Editorfenster : public Dialogfenster {
     QPushButton *Ende;
 
   protected:
-    /// Before each save but that of the window's own close.
+    /// Runs before each save, except when the window is closed by its close box.
     virtual void Umbenennen() = 0;
 
     /// The last save, which writes the screen.
     virtual void Abschließen() = 0;
 
-    /// `Ende` renames, writes and closes. A failure is shown and keeps the window open.
+    /// `Ende` renames, writes and closes. A failure is shown and the window stays open.
     void EndeVerbinden();
 
-    /// Opens the dialog that adds a record in place of this window, which then comes back; if a
-    /// record was added, after `angelegt`.
+    /// Replaces this window with the dialog that adds a record; the window then comes back, after
+    /// `angelegt` if a record was added.
     template <class Dialog> void NeuAnlegen(const std::function<void()> &angelegt)
     {
         auto *dialog = new Dialog([this, angelegt](bool neu) {
@@ -39,14 +39,14 @@ class Editorfenster : public Dialogfenster {
             show();
             activateWindow();
         });
-        hide(); // not before: where the dialog fails, this window stays
+        hide(); // not earlier: if the dialog fails, this window stays
         DialogDanebenÖffnen(dialog);
     }
 
-    /// Failure 13 if the number box holds none.
+    /// Failure 13 if the number box does not hold a number.
     int Nummer() const;
 
-    /// What still comes of the focus then is of no concern.
+    /// Focus events that still arrive after that are ignored.
     bool IstAbgeschlossen() const { return abgeschlossen; }
 
   private:

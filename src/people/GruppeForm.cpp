@@ -60,7 +60,7 @@ void GruppeForm::Verbinden()
     EndeVerbinden();
 }
 
-/// Typing a number jumps to that group without storing what was on the screen; the number one past
+/// Typing a number jumps to that group without saving what is on the screen; the number one past
 /// the blank slot adds an empty group.
 void GruppeForm::NummerGeändert()
 {
@@ -73,8 +73,8 @@ void GruppeForm::NummerGeändert()
                  [&] { AnzahlZeigen(); })();
 }
 
-/// The number box is lowered without a test and clipped by its own rule. A group without a name is
-/// not left forward, though the next name shows.
+/// The number box is lowered unchecked and clipped by its own rule. A group without a name cannot
+/// be left forwards, although the next name is shown.
 void GruppeForm::Schritt(int richtung)
 {
     Umbenennen();
@@ -86,8 +86,8 @@ void GruppeForm::Schritt(int richtung)
         ZahlSetzen(Wahl->Nummer, i + richtung);
 }
 
-/// Before each save but that of the window's own close: a name that another group bears is undone
-/// without a word, a new one is pushed to the servers.
+/// Before each save, except when closing by the close box: a name that another group has is
+/// silently undone, a new one is passed on to the servers.
 void GruppeForm::Umbenennen()
 {
     const int i = Gelesen(Wahl->Nummer, Int16Lesen);

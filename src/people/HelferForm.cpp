@@ -136,7 +136,7 @@ void HelferForm::Verbinden()
     EndeVerbinden();
 }
 
-/// Typing a number jumps to that helper without storing what was on the screen; the number one past
+/// Typing a number jumps to that helper without saving what is on the screen; the number one past
 /// the blank slot adds an empty record.
 void HelferForm::NummerGeändert()
 {
@@ -149,8 +149,8 @@ void HelferForm::NummerGeändert()
                  [&] { AnzahlZeigen(); }, [&] { Zeigen(Nummer()); })();
 }
 
-/// A helper without a first name is not left forward, though the next one shows. At 0 the number
-/// box is lowered all the same and clipped by its own rule.
+/// A helper without a first name cannot be left forwards, although the next one is shown. At 0 the
+/// number box is lowered all the same and clipped by its own rule.
 void HelferForm::Schritt(int richtung)
 {
     Umbenennen();
@@ -170,8 +170,8 @@ void HelferForm::Schritt(int richtung)
     }
 }
 
-/// Before each save but that of the window's own close: a name that another helper bears is undone
-/// without a word, a new one is pushed to the masses.
+/// Before each save, except when closing by the close box: a name that another helper has is
+/// silently undone, a new one is passed on to the masses.
 void HelferForm::Umbenennen()
 {
     if (IstAndererHelfer(Gelesen(Wahl->Nummer, Int16Lesen), Person.Name()))
@@ -196,8 +196,8 @@ void HelferForm::NeuerHelfer()
         Schrittweise([this] { Zeigen(Nummer()); }, [this] { AnzahlZeigen(); }));
 }
 
-/// Writes the screen. One name is enough for a record in the blank slot to become a helper, where
-/// a server needs both.
+/// Writes the screen. For a record in the blank slot one name is enough to become a helper; a
+/// server needs both.
 void HelferForm::Abschließen()
 {
     Schreiben(Helfer.Cursor);

@@ -10,7 +10,7 @@
 namespace altardienst {
 
 /// The record mover is `Indexen`, `PLUS`, `MINUS`, `DPM`. Every save goes to the record at
-/// `Helfer.Cursor`, whatever stands in the number box.
+/// `Helfer.Cursor`, whatever the number box says.
 class HelferForm : public Editorfenster {
   public:
     HelferForm();
@@ -40,10 +40,10 @@ class HelferForm : public Editorfenster {
     void AnzahlZeigen();
 };
 
-/// The services to choose from; any other text is taken as it stands.
+/// The services to choose from; any other text is taken as it is.
 QComboBox *Dienstwahl(const char *name, const char *gesprochen);
 
-/// A birthday more than 90 calendar years back becomes today.
+/// A birthday more than 90 calendar years ago becomes today.
 void GeburtstagPrüfen(QLineEdit *feld);
 
 } // namespace altardienst

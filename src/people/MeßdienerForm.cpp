@@ -24,7 +24,7 @@ auto Zeitspalten()
                       &Meßdiener.Von5, &Meßdiener.Bis5};
 }
 
-/// One position for each service with slots of its own, and one for who leads.
+/// One position for each service with slots of its own, and one for the leader.
 std::vector<Flagname> Qualifikationen()
 {
     constexpr std::array<const char *, BesondereDienste.size()> boxen = {
@@ -159,7 +159,7 @@ void MeßdienerForm::Verbinden()
     EndeVerbinden();
 }
 
-/// Typing a number jumps to that server without storing what was on the screen; the number one past
+/// Typing a number jumps to that server without saving what is on the screen; the number one past
 /// the blank slot adds an empty record.
 void MeßdienerForm::NummerGeändert()
 {
@@ -172,8 +172,8 @@ void MeßdienerForm::NummerGeändert()
                  [&] { AnzahlZeigen(); }, [&] { Wunsch.PartnerZeigen(); })();
 }
 
-/// A server without both names is not left forward. The cursor moves by one more than the number
-/// box, whose change has moved it already; closing the form sets it right.
+/// A server without both names cannot be left forwards. The cursor moves one further than the
+/// number box, whose change has already moved it; closing the form corrects it.
 void MeßdienerForm::Schritt(int richtung)
 {
     Umbenennen();
@@ -190,8 +190,8 @@ void MeßdienerForm::Schritt(int richtung)
     Wunsch.PartnerZeigen();
 }
 
-/// Before each save but that of the window's own close: a name that another server bears is undone
-/// without a word, a new one is pushed to all who name the server.
+/// Before each save, except when closing by the close box: a name that another server has is
+/// silently undone, a new one is passed on to every place that names the server.
 void MeßdienerForm::Umbenennen()
 {
     const int i = Gelesen(Wahl->Nummer, Int16Lesen);
@@ -201,7 +201,7 @@ void MeßdienerForm::Umbenennen()
     Wunsch.ListeFüllen();
 }
 
-/// Values other than those of the two options stay in the box.
+/// Values that neither option stands for stay in the box.
 void MeßdienerForm::HäufigkeitGeändert()
 {
     (Begrenzen(Haufigk, 0, 20) == 0 ? Norm : Oft)->setChecked(true);
@@ -232,7 +232,7 @@ void MeßdienerForm::NeuerMeßdiener()
                      [this] { Wunsch.ListeFüllen(); }, [this] { Wunsch.PartnerZeigen(); }));
 }
 
-/// Down to two servers nothing happens. On the blank slot the last server is deleted.
+/// With two servers or fewer nothing happens. On the blank slot the last server is deleted.
 void MeßdienerForm::Löschen()
 {
     if (!Meldungen.Fragen("Wirklich?", "Löschen eines Meßdieners") || Meßdiener.Anzahl <= 2)
@@ -254,7 +254,7 @@ void MeßdienerForm::Bestätigen() const
                                 TextVon(Angaben.Dieenst)});
 }
 
-/// Writes the screen; a server typed into the blank slot with both names is adopted.
+/// Writes the screen; a server typed into the blank slot with both names is added.
 void MeßdienerForm::Abschließen()
 {
     Schreiben(Gelesen(Wahl->Nummer, Int16Lesen));

@@ -17,8 +17,8 @@ class MeßdienerForm : public Editorfenster {
     MeßdienerForm();
 
     QLabel *MaxIndex;
-    Meßdienerangaben Angaben; // mTag, pTag, mMonat, PMonat, mJahr, pJahr beside the birthday,
-                              // mmTag, pptag, mmMonat, ppMonat, mmJahr, ppJahr beside the entry
+    Meßdienerangaben Angaben; // mTag, pTag, mMonat, PMonat, mJahr, pJahr next to the birthday,
+                              // mmTag, pptag, mmMonat, ppMonat, mmJahr, ppJahr next to the entry
     Flagboxen Dienstmittig;   // Check1 to Check5, Check3a
     Flagboxen Abgewählt;      // Check6 to Check11
     QRadioButton *Norm;

@@ -19,10 +19,10 @@ class Meßdienerangaben {
     Datumsfeld Eintritttdatum; // Änderung4 to 6
     QComboBox *Dieenst;
 
-    /// From the first row of a grid on; the boxes take `breite` columns.
+    /// Starts in the first row of a grid; the boxes take `breite` columns.
     void Anordnen(QGridLayout *raster, int breite) const;
 
-    /// When a date is rewritten is the form's own business.
+    /// When dates are rewritten is up to the form.
     void Verbinden() const;
 
     void GruppenlisteFüllen() const;

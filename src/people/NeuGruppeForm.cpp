@@ -13,7 +13,7 @@
 namespace altardienst {
 namespace {
 
-constexpr int MeisteGruppen = 60; // fewer than the editor's browsing reaches
+constexpr int MeisteGruppen = 60; // fewer than can be browsed to in the editor
 
 bool GibtEs(const Text &bezeichnung)
 {

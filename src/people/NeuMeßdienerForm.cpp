@@ -8,7 +8,7 @@
 namespace altardienst {
 namespace {
 
-constexpr int MeisteMeßdiener = 200; // fewer than the editor's browsing reaches
+constexpr int MeisteMeßdiener = 200; // fewer than can be browsed to in the editor
 constexpr int ÜblicheGröße = 150;    // cm
 
 } // namespace
@@ -46,8 +46,8 @@ void NeuMeßdienerForm::Verbinden()
     KnöpfeVerbinden([this] { Anlegen(); });
 }
 
-/// Qualification, wishes, absences, partner and frequency of the new server are what the slot
-/// holds.
+/// Qualification, wishes, absences, partner and frequency of the new server are those that the slot
+/// already holds.
 void NeuMeßdienerForm::Anlegen()
 {
     if (Meßdiener.Anzahl >= MeisteMeßdiener)

@@ -56,7 +56,7 @@ void NeuerHelferForm::Verbinden()
     KnöpfeVerbinden([this] { Anlegen(); });
 }
 
-/// The absences of the new helper are what the slot holds.
+/// The absences of the new helper are those that the slot already holds.
 void NeuerHelferForm::Anlegen()
 {
     if (Helfer.Anzahl >= MeisteHelfer)

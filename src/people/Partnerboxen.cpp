@@ -19,7 +19,7 @@ bool IstBekannt(const Text &listenname)
     return false;
 }
 
-/// One server can be the wish partner of one other only.
+/// A server can be the wish partner of only one other.
 bool IstVergeben(const Personenname &partner, int außerAn)
 {
     for (int i = 0; i <= Meßdiener.Anzahl; ++i)

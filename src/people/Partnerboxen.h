@@ -22,13 +22,13 @@ class Partnerboxen {
     /// The servers that have both names.
     void ListeFüllen() const;
 
-    /// Shows in the list box who the two names are; nobody unless both are there.
+    /// Shows in the list box whom the two names refer to; nobody unless both are there.
     void PartnerZeigen() const;
 
-    /// Takes over what stands in the list box of the server in the number box, who is called
-    /// `selbst`. Someone unknown is undone with a message; the server itself and a partner whom
-    /// another server has already empty the boxes, with a message only after a pick from the list.
-    /// Failure 13 if the number box holds none.
+    /// Takes over the list box for the server in the number box, whose name is `selbst`. An unknown
+    /// person is undone with a message; the server himself and anyone who is already the partner of
+    /// another server empty the boxes, with a message only after a pick from the list. Failure 13
+    /// if the number box does not hold a number.
     void Prüfen(const QLineEdit *nummer, const Personenname &selbst, bool ausgewählt) const;
 
     /// Shows or writes the two names of server `i`.

@@ -1,4 +1,4 @@
-// What the forms of the people do to the tables.
+// What the forms for people do to the tables.
 #include "people/Personen.h"
 
 #include "core/Plätze.h"
@@ -29,7 +29,7 @@ void Ersetzen(Text &vorname, Text &nachname, const Personenname &alt, const Pers
     nachname = neu.Nachname;
 }
 
-/// The names in all slots of the masses or fixed entries 0 to `anzahl`; slot 0 too.
+/// Renames in all slots, slot 0 included, of the masses or fixed entries 0 to `anzahl`.
 template <class Spalte>
 void InSlotsErsetzen(Spalte &vornamen, Spalte &nachnamen, int anzahl, const Personenname &alt,
                      const Personenname &neu)

@@ -9,7 +9,7 @@ namespace {
 
 constexpr int HöchstePostleitzahl = 99999;
 
-/// Compared as a floating number, as a number of any length may stand in the box.
+/// Compared as a floating-point number, since the box may hold a number of any length.
 void PostleitzahlBegrenzen(QLineEdit *feld)
 {
     const Single zahl = SingleLesen(TextVon(feld));

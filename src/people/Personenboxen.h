@@ -14,7 +14,7 @@
 
 namespace altardienst {
 
-/// The seven boxes bear the names of their form.
+/// Each form gives the seven boxes names of its own.
 class Personenboxen {
   public:
     explicit Personenboxen(const std::array<const char *, 7> &namen);
@@ -30,12 +30,13 @@ class Personenboxen {
     /// Seven rows of label and box; the boxes take `breite` columns of the grid.
     void Anordnen(QGridLayout *raster, int zeile, int breite) const;
 
-    /// Leaving the postal code brings it into its limits: above them it becomes that of the parish.
+    /// Leaving the postal code brings it within its limits: above them it becomes that of the
+    /// parish.
     void Verbinden() const;
 
     Personenname Name() const { return {TextVon(Vorname), TextVon(Nachname)}; }
 
-    /// New people live in the town of the parish unless told otherwise.
+    /// New people live in the town of the parish unless the user says otherwise.
     void OrtVorschlagen() const;
 
     /// Shows or writes record `i` of `Meßdiener` or `Helfer`.
@@ -64,7 +65,7 @@ class Personenboxen {
         t.EMail[i] = TextVon(EMail);
     }
 
-    /// Whether one of the records in use bears the name of the boxes.
+    /// Whether one of the records in use has the name in the boxes.
     template <class Tabelle> bool DoppeltEingegeben(Tabelle &t) const
     {
         for (int i = 0; i < t.Anzahl; ++i)
@@ -75,8 +76,8 @@ class Personenboxen {
 };
 
 /// The rule of the number box of the three editors: below 0 it becomes 0, above `letzter` it
-/// becomes that, beyond the place behind the blank slot it falls back to the blank slot, however
-/// large the number is. Returns the number. Failure 13 if the box holds none.
+/// becomes `letzter`, beyond the place after the blank slot it falls back to the blank slot,
+/// however large the number is. Returns the number. Failure 13 if the box does not hold one.
 int NummerBegrenzen(QLineEdit *feld, int letzter, int anzahl);
 
 /// The buttons of the record mover say "Plus" and "Minus" in these editors.
