@@ -11,8 +11,8 @@
 
 namespace altardienst {
 
-/// The names that a form gives to the boxes: the number of servers, then the services in the order
-/// of `Dienstarten`.
+/// What a form calls the boxes: the number of servers, then the services in the order of
+/// `Dienstarten`.
 struct Dienstnamen {
     static constexpr std::size_t Zahl = 1 + Dienstarten.size();
 
@@ -22,7 +22,7 @@ struct Dienstnamen {
     const char *Ende;       // of each label: ":" or nothing
 };
 
-/// A change of a service clips it, cuts `Allgemein` to what is left of 20, and sets the number of
+/// Changing a service clips it, cuts `Allgemein` down to what is left of 20, and sets the number of
 /// servers to the sum of all six.
 class Dienstboxen {
   public:
@@ -42,7 +42,7 @@ class Dienstboxen {
         const std::function<void()> &beiDienerzahl,
         const std::function<void()> &nachDienst = [] {}) const;
 
-    /// 0 to 20; returns it. Failure 13 if the box holds no number.
+    /// Clips it to 0 to 20 and returns it. Failure 13 if the box holds no number.
     int DienerzahlBegrenzen() const;
 
     /// Shows or writes the seven numbers of record `i` of `Standardmesse` or `Messe`.
@@ -58,7 +58,7 @@ class Dienstboxen {
     /// All seven boxes, in the order of the screen.
     std::array<QLineEdit *, Dienstnamen::Zahl> Felder() const;
 
-    /// In the order of the screen up to the first box that holds no number; failure 13 then.
+    /// Reads in the order of the screen up to the first box that holds no number; failure 13 then.
     void Lesen(Dienstwünsche &wünsche) const;
 
   private:
@@ -93,7 +93,7 @@ class Helferzahlboxen {
 
     void Anordnen(QGridLayout *raster, int zeile) const;
 
-    /// Each number is clipped on change to the places that a mass has for its kind.
+    /// On change, each number is clipped to the places that a mass has for its kind.
     void Verbinden() const;
 
     /// Shows or writes the numbers of record `i` of `Standardmesse` or `Messe`.

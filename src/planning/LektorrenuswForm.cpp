@@ -20,7 +20,7 @@
 namespace altardienst {
 namespace {
 
-/// How a count of helpers and its spin button are named on the screen.
+/// What a count of helpers and its spin button are called on the screen.
 struct Zahlnamen {
     const char *Feld;
     const char *Spin;
@@ -32,7 +32,7 @@ constexpr std::array<Zahlnamen, Helferarten.size()> DieZahlnamen = {{{"Lecki", "
                                                                      {"Kanto", "Änderung3"},
                                                                      {"Kolt", "Änderung4"}}};
 
-/// How a place is named on the screen.
+/// What the controls of a place are called on the screen.
 struct Platznamen {
     const char *LH;
     const char *Vor;
@@ -64,7 +64,7 @@ Text Zahltext(const Helferart &art)
     return Text(art.Aufschrift) + ":";
 }
 
-/// All that the dialog shows of the mass, and which mass it is.
+/// Everything the dialog shows of the mass, and which mass it is.
 auto Gezeigtes()
 {
     const int i = Messe.Cursor;
@@ -176,7 +176,7 @@ void LektorrenuswForm::Verbinden()
 
 void LektorrenuswForm::Füllen()
 {
-    const OhneVerlassen ruhe; // a place that is switched off now loses the focus half filled in
+    const OhneVerlassen ruhe; // a place disabled now may lose the focus half filled in
     const int i = Messe.Cursor;
     for (std::size_t art = 0; art < Zahlen.size(); ++art)
         ZahlSetzen(Zahlen[art].Feld, Helferarten[art].Zahl.In(Messe)[i]);
@@ -195,7 +195,7 @@ void LektorrenuswForm::Füllen()
     Merken();
 }
 
-/// Stepwise: a count that is no number changes nothing.
+/// Stepwise: a count that is not a number changes nothing.
 void LektorrenuswForm::ZahlGeändert(std::size_t art)
 {
     QLineEdit *feld = Zahlen[art].Feld;
@@ -227,7 +227,7 @@ void LektorrenuswForm::KomboVerlassen(std::size_t p)
     KomboZurück(platz);
 }
 
-/// Back to the names of the place.
+/// Shows the stored names of the place again.
 void LektorrenuswForm::KomboZurück(const Platz &platz)
 {
     const Text name = Listenname(TextVon(platz.Nach), TextVon(platz.Vor));
@@ -247,7 +247,7 @@ void LektorrenuswForm::NamenTeilen()
 
 void LektorrenuswForm::Schreiben()
 {
-    const auto amEnde = qScopeGuard(Abgefangen([this] { Merken(); })); // a part counts too
+    const auto amEnde = qScopeGuard(Abgefangen([this] { Merken(); })); // even a part counts
     const int i = Messe.Cursor;
     for (std::size_t art = 0; art < Zahlen.size(); ++art) {
         Helferarten[art].Zahl.In(Messe)[i] = Gelesen(Zahlen[art].Feld, Int16Lesen);
@@ -263,8 +263,8 @@ void LektorrenuswForm::Merken()
     gezeigt.Merken(this, Gezeigtes);
 }
 
-/// A combo that has the focus is left first: whoever is chosen on the screen stands in the mass,
-/// whichever way the dialog closes. A count that is no number keeps it open, with the failure
+/// A combo that has the focus is left first: whoever is chosen on the screen ends up in the mass,
+/// whichever way the dialog closes. A count that is not a number keeps it open, with the failure
 /// shown.
 void LektorrenuswForm::closeEvent(QCloseEvent *ereignis)
 {

@@ -15,11 +15,11 @@
 
 namespace altardienst {
 
-/// Works on the mass at `Messe.Cursor`. There is no cancel: what stands on the screen when the
-/// dialog closes is what the mass holds.
+/// Works on the mass at `Messe.Cursor`. There is no cancel: what is on the screen when the dialog
+/// closes is what the mass holds.
 class LektorrenuswForm : public QWidget {
   public:
-    /// `danach` runs when the dialog has closed.
+    /// `danach` runs once the dialog has closed.
     explicit LektorrenuswForm(std::function<void()> danach);
 
     /// A place of a helper.

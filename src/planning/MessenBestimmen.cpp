@@ -14,10 +14,10 @@ Int16 NächsteMesse; // index of the next mass to be written
 Int16 StandardNr;   // the standard mass being looked at
 Text Tagname;       // weekday of the current day
 
-/// Masses above this record keep their helpers and services when a plan is made anew.
+/// Masses above this record keep their helpers and services when a new plan is made.
 constexpr int HöchsteGeleerteMesse = 200;
 
-/// All but date and time, and the names that slot 0 may hold.
+/// Clears everything except date and time, and the names that slot 0 may hold.
 void MesseLeeren(int i)
 {
     FürJedeSpalteAußer(
@@ -32,7 +32,7 @@ void MesseLeeren(int i)
         Messe.DienerDienst[i][k] = Allgemein.Name;
 }
 
-/// The part of the month, 1 to 5, in which the current day lies.
+/// The part of the month, 1 to 5, that the current day is in.
 int Monatsteil()
 {
     return (KalendertagVon(Konfig.StartDatum).Tag - 1) / 7 + 1;
@@ -45,7 +45,7 @@ bool ErgibtMesse(bool ersterTag)
     if (Links(Standardmesse.Messeart[StandardNr], 4) != "Tauf")
         return true;
     int teil = Monatsteil();
-    // From the 29th on, baptisms are held only when the period begins on that very day.
+    // From the 29th on, baptisms are held only if the period begins on that very day.
     if (teil == 5 && !ersterTag)
         return false;
     return IstJa(Konfig.Flags8, teil);
@@ -76,8 +76,8 @@ void TagAnlegen(bool ersterTag)
             MesseAnlegen();
 }
 
-/// Pushes the masses of a longer old plan out of the range of the new one. Only these fields move,
-/// and of the slots only 1 to 16.
+/// Moves the masses of a longer old plan out of the range of the new one. Only these fields move,
+/// and only slots 1 to 16.
 void MessenKürzen()
 {
     constexpr int HöchsterBewegterSlot = 16;

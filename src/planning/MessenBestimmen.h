@@ -6,19 +6,19 @@
 namespace altardienst {
 
 /// The day `Konfig.VorlaufWochen` weeks from today, moved to the weekday `Konfig.StartWochentag` of
-/// its week. Takes both settings as they stand.
+/// its week. Takes both settings as they are.
 Datum StartDatumRechnen();
 
-/// The first day of the plan as proposed at the program's start. Brings `Konfig.StartWochentag` and
-/// `Konfig.VorlaufWochen` into their ranges.
+/// The first day of the plan as proposed when the program starts. Brings `Konfig.StartWochentag`
+/// and `Konfig.VorlaufWochen` within their ranges.
 Datum StartDatumVorschlagen();
 
-/// Button (1): empties the fixed entries, makes the masses, tells so and puts the cursor on the
+/// Button (1): empties the fixed entries, makes the masses, reports it and puts the cursor on the
 /// first mass. Failure 9 if the period has more masses than the table has places.
 void MessenNeuBestimmen();
 
-/// Makes the masses of `Konfig.Tage` + 1 days from `Konfig.StartDatum` on, in place of all masses
-/// there were. Failure 9 as above; `Konfig.StartDatum` then stays moved on.
+/// Makes the masses of the `Konfig.Tage` + 1 days from `Konfig.StartDatum` on, replacing all
+/// existing ones. Failure 9 as above; `Konfig.StartDatum` is then left at a later day.
 void MessenBestimmen();
 
 /// Empties the fixed entries.

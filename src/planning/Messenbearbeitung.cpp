@@ -1,4 +1,4 @@
-// What the mass list does to the tables, and what it says of a slot.
+// What the mass list does to the tables, and how it labels a slot.
 #include "planning/Messenbearbeitung.h"
 
 #include "core/Umwandlung.h"

@@ -1,4 +1,4 @@
-// What the mass list does to the tables, and what it says of a slot.
+// What the mass list does to the tables, and how it labels a slot.
 #pragma once
 
 #include "core/Plätze.h"
@@ -7,19 +7,19 @@
 
 namespace altardienst {
 
-/// Moves the fixed entries of mass `i` to a new date and time with it, given as they stand on the
-/// screen. Failure 13 if there is such an entry and one of the texts is no date or time.
+/// When mass `i` moves to a new date and time, moves its fixed entries along; both are given as on
+/// the screen. Failure 13 if there is such an entry and one of the texts is no date or time.
 void FesteEintraegeMitziehen(int i, const Text &datum, const Text &uhrzeit);
 
-/// Takes mass `i` out of the table: every later record moves up by one, with everything but the
-/// services of its slots, which are written anew before their next use.
+/// Removes mass `i` from the table: every later record moves up by one, with everything except the
+/// services of its slots, which are rewritten before their next use.
 void MesseVorziehen(int i);
 
 /// How often each service with slots of its own is wanted, as the dialogs of a mass count them; in
 /// the order of `BesondereDienste`.
 using Dienstwünsche = std::array<int, BesondereDienste.size()>;
 
-/// One text for each slot, from slot 1 on.
+/// One text per slot, starting with slot 1.
 using Slottexte = std::array<Text, MesseTabelle::HöchsterSlot>;
 
 /// The labels of the slots: the service that each will get, then "Meßdiener 7 :" and so on.

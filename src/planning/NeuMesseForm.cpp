@@ -104,8 +104,8 @@ void NeuMesseForm::Anlegen()
     close();
 }
 
-/// The weekday counts as text: a mass of the week pattern with "Montag" is no double of an entry
-/// with the filled-up "Montag    ".
+/// The weekday counts as text: a mass of the week pattern with "Montag" does not count as a
+/// duplicate of an entry with the padded "Montag ".
 bool NeuMesseForm::DoppeltEingegeben() const
 {
     const Datum datum = Gelesen(Termin.datendaten, DatumLesen);

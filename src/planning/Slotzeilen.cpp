@@ -1,4 +1,4 @@
-// The rows of the servers of a mass: what each serves, first name, surname.
+// The rows of a mass's servers: service, first name, surname.
 #include "planning/Slotzeilen.h"
 
 #include "controls/Bausteine.h"
@@ -50,7 +50,7 @@ QLayout *Slotzeilen::Anordnen() const
 void Slotzeilen::Sichtbar(int diener) const
 {
     QLayout *ordnung = MDR[0]->parentWidget()->layout();
-    ordnung->setEnabled(false); // once for all rows
+    ordnung->setEnabled(false); // so that it lays out once for all rows
     for (std::size_t k = 0; k < MDR.size(); ++k)
         for (QWidget *control : std::initializer_list<QWidget *>{MDR[k], vor[k], nach[k]})
             control->setVisible(diener > static_cast<int>(k));

@@ -1,4 +1,4 @@
-// The rows of the servers of a mass: what each serves, first name, surname.
+// The rows of a mass's servers: service, first name, surname.
 #pragma once
 
 #include "planning/Messenbearbeitung.h"
@@ -11,7 +11,7 @@
 
 namespace altardienst {
 
-/// One row for each slot from 1 on.
+/// One row per slot, starting with slot 1.
 class Slotzeilen {
   public:
     Slotzeilen();
@@ -23,7 +23,7 @@ class Slotzeilen {
 
     QLayout *Anordnen() const;
 
-    /// The rows beyond this number of servers are hidden, so that they leave no hole.
+    /// Hides the rows beyond this number of servers, so that they leave no gap.
     void Sichtbar(int diener) const;
     void Beschriften(const Slottexte &texte) const;
 

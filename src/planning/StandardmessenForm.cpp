@@ -106,7 +106,7 @@ void StandardmessenForm::Verbinden()
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
 }
 
-/// Typing a number jumps to that record without storing what was on the screen.
+/// Typing a number jumps to that record without saving what is on the screen.
 void StandardmessenForm::NummerGeändert()
 {
     const int nummer = Begrenzen(Wahl->Nummer, 0, LetzterDatensatz);
@@ -114,8 +114,7 @@ void StandardmessenForm::NummerGeändert()
     Zeigen(nummer);
 }
 
-/// At the ends nothing is written; the number box is moved all the same and clipped by its own
-/// rule.
+/// At either end nothing is written; the number box still moves and is clipped by its own rule.
 void StandardmessenForm::Schritt(int richtung)
 {
     const int i = Standardmesse.Anzahl;
@@ -152,11 +151,11 @@ void StandardmessenForm::Löschen()
         ZahlSetzen(feld, 0);
 }
 
-/// A text of the file that is none of the seven stands in the box like a weekday, so that it is
-/// written as it was; it cannot be chosen.
+/// A text from the file that is none of the seven is shown in the box like a weekday, so that it is
+/// written back unchanged; it cannot be chosen.
 void StandardmessenForm::TagZeigen(const Text &tag)
 {
-    constexpr int keiner = Wochentagsnamen.size(); // the place behind them
+    constexpr int keiner = Wochentagsnamen.size(); // the place after them
     Tage->removeItem(keiner);
     if (!tag.empty() && Tage->findText(Anzeige(tag)) < 0) {
         Tage->addItem(Anzeige(tag));

@@ -12,7 +12,7 @@
 namespace altardienst {
 
 /// `tagelang`, `datendaten`, `Uhrwerk`, the button `Taga`, and a spin button for each step. `Taga`
-/// writes the weekday filled up with blanks to ten letters, which does not compare equal to the
+/// writes the weekday padded with blanks to ten characters, which does not compare equal to the
 /// plain name: wishes by weekday do not apply to such a mass.
 class Terminfelder {
   public:
@@ -30,7 +30,7 @@ class Terminfelder {
     SpinButton *Änderung5; // hour
     SpinButton *Änderung6; // five minutes
 
-    /// The buttons beside a step, where a form has them.
+    /// The buttons next to a step, where a form has them.
     struct Knopfpaar {
         QPushButton *Minus = nullptr;
         QPushButton *Plus = nullptr;

@@ -1,4 +1,4 @@
-// The files themselves: read, written, copied and found on whatever drive they lie.
+// The files themselves: read, written, copied and found, whatever drive they are on.
 #include "platform/Dateizugriff.h"
 
 #include "values/Laufzeitfehler.h"
@@ -51,13 +51,13 @@ Datei Öffnen(const fs::path &pfad, const char *art)
     }
 }
 
-/// Windows numbers its failures otherwise.
+/// Windows numbers its errors differently.
 [[noreturn]] void Gescheitert(std::error_code fehler, Laufzeitfehler::Art wennNichtDa)
 {
     Gescheitert(fehler.default_error_condition().value(), wennNichtDa);
 }
 
-/// Returns when the medium itself holds what was written.
+/// Returns only when the medium itself holds what was written.
 bool Durchschreiben(std::FILE *datei)
 {
 #ifdef _WIN32
@@ -128,7 +128,7 @@ void Kopieren(const fs::path &von, const fs::path &nach)
     fs::path ziel = nach;
     std::optional<fs::perms> rechte;
     if (fs::exists(nach, fehler)) {
-        ziel = fs::canonical(nach, fehler); // behind a link, so that the link stays one
+        ziel = fs::canonical(nach, fehler); // the target of a link, so that the link stays one
         rechte = fs::status(ziel, fehler).permissions();
         const bool schreibbar = (*rechte & fs::perms::owner_write) != fs::perms::none;
         if (fs::equivalent(von, ziel, fehler) || !schreibbar)
@@ -139,7 +139,7 @@ void Kopieren(const fs::path &von, const fs::path &nach)
     const std::string inhalt = Lesen(von);
     try {
         Ausgeben(daneben, "wb", inhalt, true);
-        if (rechte) // who may read the file stays; a medium that knows no rights keeps none
+        if (rechte) // keeps who may read the file; a medium without permissions keeps none
             fs::permissions(daneben, *rechte, fehler);
         fs::rename(daneben, ziel, fehler);
         if (fehler)
@@ -193,7 +193,7 @@ Verzeichnisinhalt Auflisten(const fs::path &verzeichnis)
 void AttributeLöschen(const fs::path &pfad)
 {
 #ifdef _WIN32
-    // A hidden or a system file refuses to be written as well as a read-only one.
+    // A hidden or a system file refuses to be written, just like a read-only one.
     if (SetFileAttributesW(pfad.c_str(), FILE_ATTRIBUTE_NORMAL) == 0)
         Gescheitert(std::error_code(static_cast<int>(GetLastError()), std::system_category()),
                     Laufzeitfehler::DateiNichtGefunden);

@@ -1,6 +1,6 @@
-// The files themselves: read, written, copied and found on whatever drive they lie. What each
-// routine does and how it fails stands beside its name in `LaufwerkeDienst`, through which all but
-// that service itself call it.
+// The files themselves: read, written, copied and found, whatever drive they are on. What each
+// routine does and how it fails is described in `LaufwerkeDienst`, through which everything except
+// that service calls it.
 #pragma once
 
 #include "platform/Laufwerke.h"

@@ -1,4 +1,4 @@
-// The printer: a text cursor on a page, and the dialog that stands before each report.
+// The printer: a text cursor on a page, and the dialog that comes before each report.
 #pragma once
 
 #include "values/Int16.h"
@@ -9,7 +9,7 @@
 
 namespace altardienst {
 
-/// What a report asks the print dialog for: the names of its two layouts, if it has two.
+/// What a report passes to the print dialog: the names of its two layouts, if it has two.
 struct Druckanfrage {
     Text ErsteForm;
     Text ZweiteForm;
@@ -17,7 +17,7 @@ struct Druckanfrage {
     bool HatZweiFormen() const { return !ZweiteForm.empty(); }
 };
 
-/// A picture that takes a page; how it is drawn is the affair of whoever makes and prints it.
+/// A picture that fills a page; how it is drawn concerns only the code that makes and prints it.
 struct Druckbild;
 
 /// All lengths in twips (1440 to the inch) from the upper left corner of the paper. A document
@@ -28,7 +28,7 @@ class DruckerDienst {
     static constexpr int Hochformat = 1;
     static constexpr int Querformat = 2;
 
-    /// The mode of a report that the dialog of a report with two layouts gives for the second one.
+    /// The mode that the dialog returns for the second of two layouts.
     static constexpr int ZweiteForm = 1;
 
     DruckerDienst() = default;
@@ -36,14 +36,14 @@ class DruckerDienst {
     DruckerDienst &operator=(const DruckerDienst &) = delete;
     virtual ~DruckerDienst() = default;
 
-    /// The print dialog; its numeric mode, or nothing if it was cancelled.
+    /// Shows the print dialog; returns its numeric mode, or nothing if it was cancelled.
     virtual std::optional<int> Dialog(const Druckanfrage &anfrage) = 0;
 
     /// Names of the fonts to print in, in the platform's order.
     virtual std::vector<Text> Schriften() const = 0;
 
-    // Attributes of the font in use. A size outside 1 to 2160 points is a printer error; a font
-    // that is not there is replaced by a similar one.
+    // Attributes of the current font. A size outside 1 to 2160 points is a printer error; a missing
+    // font is replaced by a similar one.
     virtual void FontName(const Text &name) = 0;
     virtual void FontSize(int punkte) = 0;
     virtual void FontBold(bool an) = 0;
@@ -56,7 +56,7 @@ class DruckerDienst {
     virtual void CurrentY(Single y) = 0;
     virtual Single CurrentY() const = 0;
 
-    /// The height of the page as it lies.
+    /// The height of the page in its current orientation.
     virtual Single Height() const = 0;
 
     /// 1 portrait, 2 landscape; anything else is a printer error. Kept from report to report.
@@ -66,19 +66,19 @@ class DruckerDienst {
     /// line and to the left edge of the paper.
     virtual void Print(const Text &text) = 0;
 
-    /// Puts the picture onto the page, as large as it goes with the same margin on all sides.
+    /// Puts the picture on the page, as large as it fits with the same margin on all sides.
     virtual void Picture(const Druckbild &bild) = 0;
 
-    /// A page on which nothing was written gives no empty sheet.
+    /// A page with nothing on it produces no empty sheet.
     virtual void NewPage() = 0;
     virtual void EndDoc() = 0;
 
-    /// Gives up a document that has not ended; nothing of it comes out. The page is upright again.
+    /// Discards a document that has not ended; none of it is printed. The page is portrait again.
     virtual void Verwerfen() = 0;
 };
 
-/// The printer in use. The program puts in a real one when it starts; without one every dialog is
-/// as if cancelled.
+/// The printer in use. The program installs a real one when it starts; without one every dialog
+/// acts as if cancelled.
 extern DruckerDienst *Drucker;
 
 } // namespace altardienst

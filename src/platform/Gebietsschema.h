@@ -4,7 +4,7 @@
 namespace altardienst {
 
 /// German by default, because the files on disk are German. A file written under another locale
-/// does not read back under this one.
+/// cannot be read back under this one.
 struct GebietsschemaDienst {
     enum Folge { TagMonatJahr, MonatTagJahr, JahrMonatTag };
 

@@ -1,4 +1,4 @@
-// The machine's own file system: where the program's directory, the diskette and the media lie.
+// The machine's own file system: where the program's directory, the diskette and the media are.
 #include "platform/Laufwerke.h"
 
 #include "platform/Dateizugriff.h"
@@ -33,7 +33,7 @@ fs::path Heimverzeichnis()
 
 #endif
 
-/// The directory in which the running program lies.
+/// The directory of the running program.
 fs::path OrtDesProgramms()
 {
 #ifdef _WIN32
@@ -66,7 +66,7 @@ fs::path Diskette()
 #endif
 }
 
-/// A blank and its like stand in a table of mounts as a backslash with three octal digits.
+/// A table of mounts writes blanks and the like as a backslash with three octal digits.
 Text OhneUmschreibung(std::string_view umschrieben)
 {
     constexpr std::size_t Ziffern = 3;

@@ -1,5 +1,5 @@
-// The file system: the program's directory, the diskette, the roots that pickers offer, and files
-// looked up without regard to case, as they come from a platform that ignores it.
+// The file system: the program's directory, the diskette, the roots that pickers offer, and file
+// lookup that ignores case, since the files come from a platform that does.
 #pragma once
 
 #include "values/Text.h"
@@ -18,7 +18,7 @@ struct Wurzel {
     std::filesystem::path Pfad;
 };
 
-/// What a picker lists of a directory, sorted by name, without hidden entries.
+/// What a picker lists from a directory, sorted by name, without hidden entries.
 struct Verzeichnisinhalt {
     std::vector<Text> Verzeichnisse;
     std::vector<Text> Dateien;
@@ -33,48 +33,48 @@ struct LaufwerkeDienst {
     std::function<path()> Diskette;
     std::function<std::vector<Wurzel>()> Wurzeln;
 
-    /// The name as stored of the file of that name, whatever the case asked for; the exact
-    /// spelling comes first where several differ in case alone. A directory is no file.
+    /// The stored name of the file with that name, ignoring case; the exact spelling wins if
+    /// several differ only in case. A directory does not count as a file.
     std::function<std::optional<Text>(const path &verzeichnis, const Text &name)> Suchen;
 
     std::function<Verzeichnisinhalt(const path &)> Auflisten;
     std::function<std::string(const path &)> Lesen;
-    std::function<void(const path &, std::string_view)> Schreiben; // empties it first
+    std::function<void(const path &, std::string_view)> Schreiben; // empties the file first
     std::function<void(const path &, std::string_view)> Anhängen;
 
-    /// Copies a file over another, or anew. What stood there before is replaced only when the copy
-    /// is whole: an interrupted one leaves the old file, and the beginning of the new one beside it
-    /// with ".neu" behind its name. A file is never copied onto itself, nor over a read-only one
-    /// (failure 75).
+    /// Copies a file, replacing the target if it exists. The old file is replaced only once the
+    /// copy is complete: an interrupted copy leaves the old file, and next to it the beginning of
+    /// the new one with ".neu" appended to its name. A file is never copied onto itself, nor over a
+    /// read-only one (failure 75).
     std::function<void(const path &von, const path &nach)> Kopieren;
 
-    /// A read-only file becomes writable; on Windows hidden and system marks go too.
+    /// A read-only file becomes writable; on Windows it also loses its hidden and system
+    /// attributes.
     std::function<void(const path &)> AttributeLöschen;
-    std::function<void(const path &)> VerzeichnisAnlegen; // with those above it; may exist
+    std::function<void(const path &)> VerzeichnisAnlegen; // with its parents; may exist
 };
 
-/// The media among the mounted file systems, from a table of mounts with one on each line: device,
-/// directory, type and more, divided by blanks; a blank in a name is written "\\040".
+/// The media among the mounted file systems, from a table of mounts with one per line: device,
+/// directory, type and more, separated by blanks; a blank in a name is written "\\040".
 std::vector<Wurzel> EingehängteDatenträger(std::string_view tabelle);
 
-/// The directory with the data that come with the program (`leer`, `beispiel`), for a program that
-/// lies in this directory: installed, unpacked with its data beside it, or built. Empty if there is
+/// The directory with the data that come with the program (`leer`, `beispiel`), for a program in
+/// directory `ort`: installed, unpacked with its data next to it, or just built. Empty if there is
 /// none.
 std::filesystem::path MitgelieferteDaten(const std::filesystem::path &ort);
 
-/// The machine's own file system. Elsewhere than on Windows the program's directory is
-/// $ALTARDIENST_DATEN or ~/.local/share/Altardienst, the diskette $ALTARDIENST_DISKETTE or
-/// /media/floppy.
+/// The machine's own file system. Except on Windows, the program's directory is $ALTARDIENST_DATEN
+/// or ~/.local/share/Altardienst, the diskette $ALTARDIENST_DISKETTE or /media/floppy.
 LaufwerkeDienst Systemlaufwerke();
 
 /// The file system in use.
 extern LaufwerkeDienst Laufwerke;
 
-/// UTF-8 text to and from a path of the platform.
+/// UTF-8 text to and from a platform path.
 std::filesystem::path PfadAus(std::string_view text);
 Text TextVon(const std::filesystem::path &pfad);
 
-/// The text of a directory with its closing separator, which a root has anyway.
+/// The text of a directory with a trailing separator, which a root has anyway.
 Text OrdnerText(const std::filesystem::path &verzeichnis);
 
 } // namespace altardienst

@@ -12,7 +12,7 @@ struct MeldungenDienst {
     std::function<bool(const Text &text, const Text &titel)> Fragen; // true: Ja
 };
 
-/// The message boxes in use. The program puts in real ones when it starts; without a screen a
+/// The message boxes in use. The program installs real ones when it starts; without a screen a
 /// message goes nowhere and a question is answered with Nein.
 extern MeldungenDienst Meldungen;
 

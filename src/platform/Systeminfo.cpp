@@ -1,4 +1,4 @@
-// The platform's tool that tells about the system.
+// The platform's system information tool.
 #include "platform/Systeminfo.h"
 
 #include "platform/Laufwerke.h"

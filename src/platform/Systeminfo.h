@@ -1,4 +1,4 @@
-// The platform's tool that tells about the system: where it is, and its start.
+// The platform's system information tool: finding and starting it.
 #pragma once
 
 #include "values/Text.h"
@@ -12,14 +12,14 @@
 namespace altardienst {
 
 struct SysteminfoDienst {
-    /// A value of the machine's registry as text; nothing if it is not there, or where there is no
+    /// A value of the machine's registry as text; nothing if it is not there, or if there is no
     /// registry.
     std::function<std::optional<Text>(const char *schlüssel, const char *wert)> Registrierung;
 
-    /// The program of that name on the search path; nothing if there is none.
+    /// The program with that name on the search path; nothing if there is none.
     std::function<std::optional<std::filesystem::path>(const char *name)> ImSuchpfad;
 
-    /// Starts a program in a window of its own. A start that fails is passed over.
+    /// Starts a program in a window of its own. A failed start is ignored.
     std::function<void(const std::filesystem::path &)> Starten;
 };
 
@@ -27,9 +27,9 @@ struct SysteminfoDienst {
 /// there are windows.
 extern SysteminfoDienst Systeminfo;
 
-/// The program to start: the one that the registry names, even by an empty text; else the one in
-/// the directory that the registry names, if it exists; else, where there is no registry, the first
-/// common tool that is installed.
+/// The program to start: the one that the registry names, even if the name is empty; otherwise the
+/// one in the directory that the registry names, if it exists; otherwise, if there is no registry,
+/// the first common tool that is installed.
 std::optional<std::filesystem::path> SysteminfoProgramm();
 
 /// A value of the registry as text: type 4, a double word, as "&h" and two hexadecimal digits for

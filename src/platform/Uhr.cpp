@@ -6,8 +6,8 @@
 namespace altardienst {
 namespace {
 
-/// Seconds since the epoch. A search asks at every draw, so the coarse clock is read where there is
-/// one: it lags a few milliseconds, which whole seconds don't show.
+/// Seconds since the epoch. A search reads it at every draw, so the coarse clock is used where
+/// there is one: it lags by a few milliseconds, which whole seconds don't show.
 std::time_t Jetzt()
 {
 #ifdef CLOCK_REALTIME_COARSE

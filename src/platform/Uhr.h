@@ -15,7 +15,7 @@ struct UhrDienst {
 /// The system's clock in local time.
 UhrDienst Systemuhr();
 
-/// The clock in use; tests put in one that they set and advance by hand.
+/// The clock in use; tests install one that they set and advance by hand.
 extern UhrDienst Uhr;
 
 } // namespace altardienst

@@ -9,7 +9,7 @@
 namespace altardienst {
 namespace {
 
-/// 24 bits are what a Single holds exactly, so rounding never reaches 1.
+/// A Single holds exactly 24 bits, so rounding never reaches 1.
 Single Gleichverteilt(std::mt19937 &generator)
 {
     return static_cast<Single>(generator() >> 8) * 0x1p-24F;

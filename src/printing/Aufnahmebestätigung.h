@@ -5,7 +5,7 @@
 
 namespace altardienst {
 
-/// What the page says of the server, as it stands on the screen, stored or not.
+/// What the page says about the server, as it is on the screen, stored or not.
 struct Aufnahme {
     Text Vorname;
     Text Nachname;

@@ -77,7 +77,8 @@ void DialogForm::Verbinden()
     connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
 }
 
-/// An existing file is by default appended to; a click on `Überschreib` stands.
+/// An existing file is appended to by default; a click on `Überschreib` overrides that until the
+/// target changes.
 void DialogForm::ZielBilden()
 {
     ziel = PfadBilden(Wahl.Pfad(), TextVon(Dateiname));

@@ -13,7 +13,7 @@
 
 namespace altardienst {
 
-/// Proposes to append to a file that exists, and to write one that doesn't.
+/// Proposes to append to a file that exists and to create one that doesn't.
 class DialogForm : public Dialogfenster {
   public:
     DialogForm();

@@ -60,7 +60,7 @@ DruckForm::DruckForm()
     Anordnen();
     Verbinden();
     Offen([this] { Öffnen(); })();
-    GrößeAnpassen(this); // with the names of the groups and formats
+    GrößeAnpassen(this); // now that the names of the groups and formats are filled in
 }
 
 void DruckForm::Anordnen()
@@ -123,7 +123,7 @@ QWidget *DruckForm::Adressetiketten()
 {
     auto *rahmen = Benannt(new QGroupBox("Etiketten"), "Adressetiketten");
     auto *leute = new QHBoxLayout;
-    // Without a group of their own they would take in the options of the frame below.
+    // Without a group of their own they would form one group with the options of the frame below.
     auto *wahl = new QButtonGroup(rahmen);
     for (QRadioButton *option : {Alles, GRP, Messhelfer}) {
         wahl->addButton(option);
@@ -185,7 +185,7 @@ void DruckForm::Öffnen()
     Etikettenrahmen->Füllen();
 }
 
-/// A day for giving back the form that lies in the past becomes today.
+/// A return date that lies in the past becomes today.
 void DruckForm::RückgabeFassen()
 {
     Datum datum = std::trunc(DatumLesen(TextVon(Rückgebend)));

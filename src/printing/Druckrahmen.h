@@ -18,24 +18,24 @@ Single UntereGrenze();
 /// a failure during the report stops it at once, without a message and without output.
 void BerichtDrucken(const Druckanfrage &anfrage, const std::function<void(int modus)> &bericht);
 
-/// Which font a report begins with: the one of the settings, or the one that the printer has.
+/// Which font a report begins with: the one from the settings, or the one set in the printer.
 enum class Titelschrift { AusKonfig, Vorige };
 
 /// The opening of a report: its title lines in the heading font, underlined and bold, an empty
-/// line, then the body font.
+/// line; then it sets the body font.
 void BerichtEröffnen(const std::vector<Text> &titel,
                      Titelschrift schrift = Titelschrift::AusKonfig);
 
 /// The body font without attributes, as labels are printed.
 void Grundschrift();
 
-/// One line at the left margin; without text the blank line between rows.
+/// Prints one line at the left margin; without text, the blank line between rows.
 void ZeileDrucken(const Text &text);
 void Leerzeile();
 
 /// The page break rule, run after each row: breaks the page if `k` more lines, of the average
-/// height that `Zeilen` lines have had on this page, would pass the lower limit. `Zeilen` is the
-/// report's own count of lines on the page and begins anew at 0. Failure 11 if no line was counted
+/// height of the `Zeilen` lines on this page, would pass the lower limit. `Zeilen` is the report's
+/// own count of lines on the page and starts again at 0. Failure 11 if no line has been counted
 /// yet.
 void SeitePrüfen(Int16 &Zeilen, double k);
 

@@ -19,7 +19,7 @@ Text Druckdatum(Datum datum)
 
 Text Druckmaß(Single mm)
 {
-    // The digits that the form shows are rounded, not those of the Single behind them, which is
+    // The digits that the form shows are rounded, not those of the underlying Single, which is
     // 15.1499996 for 15,15.
     constexpr double Genauigkeit = 1e4;
     return FesteStellen(std::round(mm * Genauigkeit) / Genauigkeit, 3, 1);

@@ -7,13 +7,13 @@
 
 namespace altardienst {
 
-/// A number, with a place for its sign before it and a blank behind it.
+/// A number, with room for its sign before it and a blank after it.
 Text Druckzahl(int zahl);
 
-/// A date in the short form with a blank behind it.
+/// A date in the short form with a blank after it.
 Text Druckdatum(Datum datum);
 
-/// A measure in millimetres with three digits before the comma and one behind it.
+/// A measure in millimetres with three digits before the comma and one after it.
 Text Druckmaß(Single mm);
 
 } // namespace altardienst

@@ -43,7 +43,7 @@ constexpr const char *Verbindung = "Telefon:(0_____)_________   EMail:__________
 void ErfassungsbogenMeßdienerDrucken(const Text &rückgabe, const Text &dauer)
 {
     BerichtDrucken({}, [&](int) {
-        // One of the two blank lines behind the title is the one of every opening.
+        // Of the two blank lines after the title, one belongs to the opening of every report.
         BerichtEröffnen({"Erfassungsbogen für den Altardienst (Meßdiener)"});
         ZeileDrucken("");
         NameUndAdresse();

@@ -5,8 +5,8 @@
 
 namespace altardienst {
 
-/// `rückgabe` and `dauer` are printed as they stand: the day by which the form is to be given back
-/// and the day up to which the next plan is expected to hold.
+/// `rückgabe` and `dauer` are printed as they are: the day by which the form is to be returned and
+/// the day until which the next plan is expected to run.
 void ErfassungsbogenMeßdienerDrucken(const Text &rückgabe, const Text &dauer);
 void ErfassungsbogenHelferDrucken(const Text &rückgabe, const Text &dauer);
 

@@ -109,7 +109,7 @@ void EtikettenForm::Verbinden()
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
 }
 
-/// Typing a number shows that format, without storing what was on the screen.
+/// Typing a number shows that format without saving what is on the screen.
 void EtikettenForm::IndGeändert()
 {
     Etikett.Anzahl = Begrenzen(Wahl->Nummer, 0, LetztesFormat);
@@ -139,8 +139,8 @@ void EtikettenForm::Zeigen()
 
 void EtikettenForm::Schreiben()
 {
-    // The window's close box and the page keys leave the focus where it is, but not a box beyond
-    // its bounds.
+    // The window's close box and the page keys do not move the focus, but the box that has it must
+    // not stay out of bounds.
     const QWidget *mitFokus = focusWidget();
     for (QLineEdit *feld : Längen())
         if (feld == mitFokus)
@@ -148,7 +148,7 @@ void EtikettenForm::Schreiben()
     for (QLineEdit *feld : Zahlen())
         if (feld == mitFokus)
             Abgefangen([=] { ZahlBegrenzen(feld); })();
-    const int i = Etikett.Anzahl; // the format shown, even where its number is half typed
+    const int i = Etikett.Anzahl; // the format shown, even if its number is only half typed
     Etikett.Name[i] = TextVon(N);
     Etikett.RandOU[i] = SingleLesen(TextVon(OU));
     Etikett.RandLR[i] = SingleLesen(TextVon(LR));
@@ -159,7 +159,7 @@ void EtikettenForm::Schreiben()
     Etikett.Spalten[i] = Int16Lesen(TextVon(S));
 }
 
-/// A box that is no number keeps the form open, with the failure shown.
+/// A box that does not hold a number keeps the form open, with the failure shown.
 void EtikettenForm::VorDemSchließen()
 {
     Schreiben();

@@ -27,8 +27,8 @@ void EtikettDrucken(const Anschrift &anschrift, int r, int c)
     }
 }
 
-/// Walks the sheets cell by cell until the people are used up, and leaves in `r` and `c` the cell
-/// at which it stopped.
+/// Walks the sheets cell by cell until no people are left, and leaves in `r` and `c` the cell at
+/// which it stopped.
 void BögenFüllen(const Etikettenleute &leute, Etikettenplatz anfang, int &r, int &c)
 {
     const int reihen = Etikett.Reihen[Etikett.Anzahl];
@@ -37,7 +37,7 @@ void BögenFüllen(const Etikettenleute &leute, Etikettenplatz anfang, int &r, i
     while (true) {
         for (r = 0; r < reihen; ++r) {
             for (c = 0; c < spalten; ++c) {
-                // The start position holds for the first label only.
+                // The start position only applies to the first label.
                 if (anfang.Reihe - 1 > 0) {
                     r = anfang.Reihe - 1;
                     anfang.Reihe = 1;

@@ -1,4 +1,4 @@
-// Address labels on a sheet of the chosen format, begun anywhere on a partly used sheet.
+// Address labels on a sheet of the chosen format, starting anywhere on a partly used sheet.
 #pragma once
 
 #include "values/Int16.h"
@@ -19,7 +19,7 @@ struct Etikettenplatz {
     Int16 Spalte;
 };
 
-/// Whom a run of labels is for.
+/// The people a run of labels is for.
 struct Etikettenleute {
     int Anzahl;                             // of the table
     std::function<bool(int person)> Gehört; // null: everybody
@@ -30,10 +30,10 @@ Etikettenleute EtikettenAllerMeßdiener();
 Etikettenleute EtikettenDerGruppe(const Text &gruppe);
 Etikettenleute EtikettenAllerHelfer();
 
-/// Prints a label for each of the people on sheets of the format `Etikett.Anzahl`. After the print
-/// dialog `anfang` is asked where the first one goes; a failure of it is one of the report. Gives
-/// the proposal where to go on, whose column may lie beyond the sheet, or nothing if nothing came
-/// out. A format without rows or columns is a printer error.
+/// Prints a label for each person on sheets of the format `Etikett.Anzahl`. After the print dialog
+/// `anfang` is asked where the first one goes; if it fails, the report fails. Returns the proposed
+/// place to continue, whose column may lie beyond the sheet, or nothing if nothing was printed. A
+/// format without rows or columns is a printer error.
 std::optional<Etikettenplatz> EtikettenDrucken(const Etikettenleute &leute,
                                                const std::function<Etikettenplatz()> &anfang);
 

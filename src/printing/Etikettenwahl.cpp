@@ -16,8 +16,8 @@
 namespace altardienst {
 namespace {
 
-/// The row or column in a box; a number beyond all sheets is as good as the largest behind which
-/// there is still a place to go on.
+/// The row or column in a box; a number beyond any sheet counts as the largest one that still
+/// leaves a place after it to continue.
 int Stelle(const QLineEdit *feld)
 {
     constexpr Single Größte = 32766;
@@ -80,7 +80,7 @@ void Etikettenwahl::Verbinden()
 void Etikettenwahl::Füllen()
 {
     for (int n = 0; n < static_cast<int>(O.size()); ++n) {
-        // An ampersand in a name is a letter, not a key.
+        // An ampersand in a name is a character, not a shortcut.
         O[static_cast<std::size_t>(n)]->setText(Anzeige(Etikett.Name[n]).replace("&", "&&"));
         if (n == Etikett.Anzahl)
             O[static_cast<std::size_t>(n)]->setChecked(true);
@@ -93,7 +93,7 @@ Etikettenplatz Etikettenwahl::Platz() const
     return {Stelle(Reih), Stelle(Spal)};
 }
 
-/// An empty box is the first row or column.
+/// An empty box means the first row or column.
 void Etikettenwahl::AufDenBogenHolen()
 {
     for (QLineEdit *feld : {Reih, Spal})

@@ -15,7 +15,7 @@
 
 namespace altardienst {
 
-/// Choosing a format sets `Etikett.Anzahl` and brings the place onto the sheet; until then it stays
+/// Choosing a format sets `Etikett.Anzahl` and moves the place onto the sheet; until then it stays
 /// as typed.
 class Etikettenwahl : public QWidget {
   public:
@@ -31,11 +31,11 @@ class Etikettenwahl : public QWidget {
     SpinButton *ÄSpal;
     QPushButton *Etiketten;
 
-    /// Shows the names of the formats and selects the one of `Etikett.Anzahl`.
+    /// Shows the names of the formats and selects number `Etikett.Anzahl`.
     void Füllen();
 
-    /// Prints from the place on, and then shows the place where to go on, brought onto the sheet.
-    /// Trapped, as every report: a place that is no number prints nothing.
+    /// Prints starting at the place shown, then shows the place to continue at, moved onto the
+    /// sheet. Trapped, like every report: a place that is not a number prints nothing.
     void Drucken(const Etikettenleute &leute);
 
   private:

@@ -13,7 +13,7 @@
 namespace altardienst {
 namespace {
 
-/// Makes a window ready for paper until it goes: black on white, without command buttons.
+/// While it lives, a window is ready for paper: black on white, without command buttons.
 class Druckansicht {
   public:
     explicit Druckansicht(QWidget *fenster) : fenster(fenster), fokus(fenster->focusWidget())
@@ -23,7 +23,7 @@ class Druckansicht {
                 knöpfe.append(knopf);
                 knopf->hide();
             }
-        // Parts with colours of their own don't take those of the window.
+        // Parts with colours of their own don't inherit those of the window.
         Umfärben(fenster);
         for (auto *teil : fenster->findChildren<QWidget *>())
             Umfärben(teil);
@@ -60,7 +60,8 @@ class Druckansicht {
     QList<std::pair<QWidget *, QPalette>> farben;
 };
 
-/// A printer as the target would give a blown-up screen picture; a QPicture keeps the strokes.
+/// Rendering straight to a printer would give an enlarged screen picture; a QPicture keeps the
+/// strokes.
 Druckbild Aufnahme(QWidget *fenster)
 {
     const Druckansicht ansicht(fenster);

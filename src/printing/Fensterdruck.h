@@ -5,9 +5,9 @@
 
 namespace altardienst {
 
-/// Shows the print dialog and prints the window as it stands on one page, sharp at the printer's
-/// resolution and without its command buttons, which are hidden meanwhile. A failure ends it
-/// without a word, as with all reports.
+/// Shows the print dialog and prints the window as it is on one page, sharp at the printer's
+/// resolution and without its command buttons, which are hidden in the meantime. A failure ends it
+/// silently, as in all reports.
 void FensterDrucken(QWidget *fenster);
 
 } // namespace altardienst

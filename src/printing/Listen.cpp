@@ -12,7 +12,7 @@
 namespace altardienst {
 namespace {
 
-/// What an address line says of a server or a helper.
+/// What an address line says about a server or a helper.
 template <class Tabelle> Text Adresszeile(Tabelle &t, int i)
 {
     return t.Vorname[i] + " " + t.Nachname[i] + " , " + t.Straße[i] + " , " + Druckzahl(t.PLZ[i]) +
@@ -63,7 +63,7 @@ Text HelferdiensteZeile(int i)
            " , Dienst 2:" + Helfer.Dienst2[i];
 }
 
-/// How many lines one person adds to `Zeilen`, and how many the next one is taken to need.
+/// How many lines one person adds to `Zeilen`, and how many the next one is assumed to need.
 struct Zählung {
     int Zeilen;
     int Nächster;
@@ -133,7 +133,8 @@ void AlleMeßdienerDrucken()
 void MeßdienergruppeDrucken(const Text &gruppe)
 {
     PersonenlisteDrucken({
-        // The second of the two blank lines behind the group is the one of every opening.
+        // Of the two blank lines after the group, the second belongs to the opening of every
+        // report.
         .Titel = {"Meßdiener der Pfarrei " + Konfig.Gemeinde, "", "der Gruppe " + gruppe, ""},
         .TitelZeilen = 5,
         .Anzahl = Meßdiener.Anzahl,
@@ -186,7 +187,7 @@ void WunschpartnerlisteDrucken()
 
 void StandardmessenDrucken()
 {
-    constexpr int LetzteZeile = 10; // the rows that their dialog shows
+    constexpr int LetzteZeile = 10; // the last row that their dialog shows
     BerichtDrucken({}, [](int) {
         BerichtEröffnen({"Standardmessen der Pfarrei " + Konfig.Gemeinde});
         ZeileDrucken("");

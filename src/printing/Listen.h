@@ -5,8 +5,8 @@
 
 namespace altardienst {
 
-// The people lists print in the orientation of `Konfig.DiffJahr`. In their second layout each
-// person takes one compact line, which `Konfig.Flags6` composes.
+// The people lists print in the orientation `Konfig.DiffJahr`. In their second layout each person
+// takes up one compact line, whose parts `Konfig.Flags6` selects.
 void AlleMeßdienerDrucken();
 void MeßdienergruppeDrucken(const Text &gruppe);
 void AlleHelferDrucken();

@@ -13,8 +13,8 @@ Text Person(int i, int n)
     return Messe.DienerVor[i][n] + " " + Messe.DienerNach[i][n];
 }
 
-/// Lines of two, as many as the service has places for. An empty slot is not passed over, it leaves
-/// a blank.
+/// Lines of two, as many as the service has places for. An empty slot is not skipped, it leaves a
+/// blank.
 std::vector<Text> DienstZeilen(int i, const Dienstart &art)
 {
     std::vector<Text> zeilen(static_cast<std::size_t>(art.Höchstens) / 2);
@@ -29,8 +29,8 @@ std::vector<Text> DienstZeilen(int i, const Dienstart &art)
     return zeilen;
 }
 
-/// Lines of two without a label. An empty slot is passed over but counted, so its partner may stand
-/// alone after a leading comma.
+/// Lines of two without a label. An empty slot is skipped but counted, so its partner may be alone
+/// after a leading comma.
 std::vector<Text> AllgemeinZeilen(int i)
 {
     std::vector<Text> zeilen(static_cast<std::size_t>(Allgemein.Höchstens) / 2);
@@ -45,7 +45,7 @@ std::vector<Text> AllgemeinZeilen(int i)
     return zeilen;
 }
 
-/// The helpers of a kind, as many as are wanted; without any, nothing.
+/// The helpers of a kind, as many as are wanted; empty if none are.
 Text HelferZeile(int i, const Helferart &art)
 {
     Text zeile;

@@ -14,7 +14,7 @@ struct PlanZeilen {
     std::vector<Text> Helfer; // in the order of `Helferarten`
 };
 
-/// The lines of mass `i`, from the services as they stand in `Messe.DienerDienst`.
+/// The lines of mass `i`, based on the services now in `Messe.DienerDienst`.
 PlanZeilen PlanZeilenDer(int i);
 
 /// "Messen der Pfarrei ..." and "vom ... bis ...", the titles of the plan.

@@ -10,13 +10,13 @@
 namespace altardienst {
 namespace {
 
-constexpr int TitelZeilen = 5;  // lines that the title counts for
-constexpr int MesseNachher = 6; // lines that a mass needs beside its servers
+constexpr int TitelZeilen = 5;  // lines that the title counts as
+constexpr int MesseNachher = 6; // lines that a mass needs besides its servers
 
 void VollerPlan(int i, const PlanZeilen &plan, Int16 &Zeilen)
 {
     Drucker->FontBold(false);
-    // Two persons to a line, an odd one on its own.
+    // Two people per line, an odd one alone.
     const int diener = Messe.Dienerzahl[i];
     Zeilen = GerundetInt16(diener / 2.0 + Zeilen + diener % 2 + 3);
     for (const Text &zeile : plan.Diener)
@@ -36,7 +36,7 @@ void Helferformular(int i, Int16 &Zeilen)
     Drucker->FontBold(false);
     Zeilen += 2;
     if (Messe.Messeart[i] != "Wochendienst" && IstJa(Konfig.Flags11, 2)) {
-        // Not in the order of the plan.
+        // This is not the order of the plan.
         for (const Helferart *art : {&Lektor, &Kommunionhelfer, &Kollektant, &Kantor})
             ZeileDrucken(art->Name.c_str() + Text(": __________________________________"));
         Leerzeile();

@@ -1,4 +1,4 @@
-// The printed plan: step (7), and the same button of the form `Druck`.
+// The printed plan: step (7), and the same button on the form `Druck`.
 #pragma once
 
 namespace altardienst {

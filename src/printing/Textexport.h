@@ -9,7 +9,7 @@ namespace altardienst {
 
 /// The parts of the target of an export.
 struct Exportziel {
-    Text Ordner;     // directory with its closing separator
+    Text Ordner;     // directory with its trailing separator
     Text NurName;    // name with extension
     Text VollerPfad; // both
 };
@@ -18,14 +18,14 @@ struct Exportziel {
 /// extension ".txt" is always added.
 Exportziel PfadBilden(const std::filesystem::path &verzeichnis, const Text &name);
 
-/// Whether the target exists, the case of its name aside.
+/// Whether the target exists, ignoring the case of its name.
 bool ZielVorhanden(const Exportziel &ziel);
 
-/// The file that is written: one that exists is found under its stored name, also where the machine
-/// tells capitals from small letters; a new one is named as typed.
+/// The file to write: an existing one is found under its stored name, even on a case-sensitive file
+/// system; a new one is named as typed.
 std::filesystem::path ZielDatei(const Exportziel &ziel);
 
-/// The whole plan in Windows-1252 with CR LF, from the services as they stand.
+/// The whole plan in Windows-1252 with CR LF, based on the services as they are.
 std::string PlanAlsText();
 
 } // namespace altardienst

@@ -25,20 +25,21 @@ constexpr std::array<Kopierdatei, 8> Kopierdateien = {{
     {"Meßdiener für bestimmte Messen", DateiMesseDienerFest},
 }};
 
-/// Whether a directory can be copied from: it holds all eight files, each stored under its own
-/// spelling. One that is stored with other capitals and small letters counts as missing.
+/// Whether a directory can be copied from: it holds all eight files, each stored in its own
+/// spelling. One whose stored name differs in case counts as missing.
 bool AlleDateienVorhanden(const std::filesystem::path &verzeichnis);
 
-/// The name of a file that the target does not have yet: a backup gets small letters, the program's
-/// directory the name under which the source stores the file.
+/// The name of a file that the target does not have yet: in a backup it is in small letters, in the
+/// program's directory it is the name under which the source stores the file.
 enum class NeueDatei { Klein, WieGespeichert };
 
-/// Copies one file from a directory to another, over the one that is there. A file that is there
-/// keeps its stored name. Failures 53, 61, 75, 76; the file that was there is then still whole.
+/// Copies one file from a directory to another, replacing the one there, which keeps its stored
+/// name. Failures 53, 61, 75, 76; the old file is then still intact.
 void DateiKopieren(const Kopierdatei &datei, const std::filesystem::path &von,
                    const std::filesystem::path &nach, NeueDatei neue);
 
-/// Copies all eight in their order; the first failure ends it with the files before it copied.
+/// Copies all eight in their order; the first failure ends it, with the files before it already
+/// copied.
 void AlleDateienKopieren(const std::filesystem::path &von, const std::filesystem::path &nach,
                          NeueDatei neue);
 

@@ -1,4 +1,4 @@
-// Rules of single settings that are more than two limits.
+// Rules of individual settings that take more than two limits.
 #include "settings/Einstellungen.h"
 
 #include "core/Umwandlung.h"
@@ -13,7 +13,7 @@ Single GrößendifferenzBegrenzt(Single band)
 {
     constexpr Single Kleinste = 2;
     constexpr Single Größte = 100;
-    constexpr Single StattGrößerer = 50; // not the largest one: it is meant
+    constexpr Single StattGrößerer = 50; // deliberately not the largest one
     if (band > Größte)
         return StattGrößerer;
     return std::max(band, Kleinste);

@@ -24,7 +24,7 @@ void KerzeZeichnen(QPainter &stift, int x, int fuß)
     stift.drawPath(flamme);
 }
 
-/// A village church on a hill between two candles, in black on white.
+/// A village church on a hill between two candles, black on white.
 QPixmap EingebautesBild()
 {
     QBitmap bild(EingebauteGröße);
@@ -67,7 +67,7 @@ QPixmap EingebautesBild()
     KerzeZeichnen(stift, 110, 400);
     KerzeZeichnen(stift, 620, 400);
     stift.end();
-    // A bitmap would be painted with its white see-through.
+    // A bitmap would be painted with its white transparent.
     return QPixmap::fromImage(bild.toImage().convertToFormat(QImage::Format_RGB32));
 }
 

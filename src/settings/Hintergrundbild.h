@@ -9,14 +9,14 @@
 
 namespace altardienst {
 
-/// Shows the built-in black-and-white picture of 720 x 520 dots, or the picture of a file, as large
-/// as the control allows without distorting it.
+/// Shows the built-in black-and-white picture of 720 x 520 dots, or one from a file, as large as
+/// the control allows without distortion.
 class Hintergrundbild : public QWidget {
   public:
     explicit Hintergrundbild(const char *name);
 
     /// Shows the file, or the built-in picture if the path is empty. Cheap enough for every tick of
-    /// a timer: it looks at the file each time but decodes it only when it changed. A missing or
+    /// a timer: it checks the file each time but decodes it only after a change. A missing or
     /// unreadable file changes nothing on the screen.
     void Zeigen(const Text &pfad);
 
@@ -29,7 +29,7 @@ class Hintergrundbild : public QWidget {
     void BildSetzen(const QPixmap &neu);
 
     QPixmap bild;
-    QPixmap passend; // the picture at the present size of the control, in dots of the screen
+    QPixmap passend; // the picture at the current size of the control, in screen pixels
     Text gezeigterPfad;
     QDateTime gezeigterStand;
     qint64 gezeigteGröße = -1;

@@ -53,12 +53,12 @@ void HintergrundsucheForm::Verbinden()
 void HintergrundsucheForm::DateiGewählt()
 {
     const auto gewählt = Wahl.Dateien->selectedItems();
-    if (gewählt.isEmpty()) // the list was filled anew
+    if (gewählt.isEmpty()) // the list was refilled
         return;
     const Text name = Verzeichniswahl::Name(gewählt.front());
-    if (name.find_first_of("\r\n") != Text::npos) // would move all lines of the file behind it
+    if (name.find_first_of("\r\n") != Text::npos) // would shift all lines after it in the file
         return;
-    // In a root two separators follow each other; no platform minds.
+    // For a root this gives two separators in a row; no platform minds.
     const Text trenner = TextVon(std::filesystem::path(
         std::filesystem::path::string_type(1, std::filesystem::path::preferred_separator)));
     Konfig.Hintergrund = TextVon(Wahl.Pfad()) + trenner + name;

@@ -9,8 +9,8 @@
 
 namespace altardienst {
 
-/// A choice in the file list is `Konfig.Hintergrund` at once, a picture or not; the main window
-/// takes it up by itself.
+/// A choice in the file list goes to `Konfig.Hintergrund` at once, whether it is a picture or not;
+/// the main window picks it up by itself.
 class HintergrundsucheForm : public Dialogfenster {
   public:
     HintergrundsucheForm();

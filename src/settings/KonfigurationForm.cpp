@@ -16,7 +16,7 @@
 namespace altardienst {
 namespace {
 
-/// A row of a grid: label, box, spin button and what is counted.
+/// A row of a grid: label, box, spin button and unit.
 void Zahlzeile(QGridLayout *raster, int zeile, const char *text, const Zahlbox &box,
                const char *einheit)
 {
@@ -215,7 +215,7 @@ void KonfigurationForm::Verbinden()
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
 }
 
-/// A number beyond its limits is clipped here too, since filling a box is a change.
+/// An out-of-range number is clipped here too, since filling a box is a change.
 void KonfigurationForm::Füllen()
 {
     Setzen(Bezeichnung, Konfig.Gemeinde);
@@ -229,7 +229,7 @@ void KonfigurationForm::Füllen()
     ZahlSetzen(Linker.Feld, Konfig.RandLinks);
     ZahlSetzen(Unt.Feld, Konfig.RandUnten);
     ZahlSetzen(OB.Feld, Konfig.RandOben);
-    // First the options: a page that lies in neither way shows none of them.
+    // First the options: if the orientation is neither of the two, none is selected.
     Hochformat->setChecked(Konfig.DiffJahr == DruckerDienst::Hochformat);
     Querformat->setChecked(Konfig.DiffJahr == DruckerDienst::Querformat);
     ZahlSetzen(DiffJahr, Konfig.DiffJahr);
@@ -265,23 +265,23 @@ void KonfigurationForm::SchriftenFüllen()
     ListeSetzen(Schriftartig, schriften);
     const auto stelle = schriften.indexOf(Anzeige(Konfig.Schriftart));
     if (stelle >= 0)
-        Schriftartig->setCurrentIndex(static_cast<int>(stelle)); // from here the arrow keys go on
+        Schriftartig->setCurrentIndex(static_cast<int>(stelle)); // where the arrow keys start
     else
         Setzen(Schriftartig, Konfig.Schriftart);
 }
 
-/// Fills the list of fonts when its box gets the focus, unless from its own list.
+/// Fills the list of fonts when its box gets the focus, unless it gets it back from its own list.
 bool KonfigurationForm::eventFilter(QObject *control, QEvent *ereignis)
 {
     if (control == Schriftartig && ereignis->type() == QEvent::FocusIn &&
         static_cast<QFocusEvent *>(ereignis)->reason() != Qt::PopupFocusReason)
-        Nebenbei([this] { SchriftenFüllen(); })(); // a message would bring the focus back
+        Nebenbei([this] { SchriftenFüllen(); })(); // a message would return the focus here
     return QWidget::eventFilter(control, ereignis);
 }
 
 void KonfigurationForm::VorDemSchließen()
 {
-    geschlossen = true; // boxes lose the focus behind this; nothing is checked any more
+    geschlossen = true; // boxes lose the focus after this; nothing is checked any more
 }
 
 } // namespace altardienst

@@ -16,7 +16,7 @@
 
 namespace altardienst {
 
-/// Every control writes its field at once; leaving the form checks nothing.
+/// Every control writes its field at once; closing the form checks nothing.
 class KonfigurationForm : public Dialogfenster {
   public:
     KonfigurationForm();

@@ -36,7 +36,7 @@ const Kopierdialog Datensicherung{"Datensicherung", "Daten sichern", true, [] {}
 const Kopierdialog Dateikopie{"Dateikopie", Holen, false, VonFestplatteLaden};
 const Kopierdialog DateienKopieren{"DateienKopieren", Holen, false, Neuladen};
 
-/// Keeps its place while it cannot be seen.
+/// Makes the control keep its space while it is hidden.
 void PlatzBehalten(QWidget *control)
 {
     QSizePolicy platz = control->sizePolicy();
@@ -126,7 +126,7 @@ void KopierForm::Verbinden()
     for (QRadioButton *option : {Alle, Einzel})
         connect(option, &QRadioButton::toggled, this, Abgefangen([this] { UmfangGewählt(); }));
     Wahl.BeiWechsel = [this] { VerzeichnisGewechselt(); };
-    // The present directory is looked at again: a stick may have been changed.
+    // The current directory is checked again: a stick may have been swapped.
     Wahl.BeiUnlesbaremLaufwerk =
         Schrittweise([this] { Wahl.Auffrischen(); }, [this] { VerzeichnisGewechselt(); });
     if (VZ) {
@@ -151,7 +151,7 @@ void KopierForm::VerzeichnisGewechselt()
     OKButton->setVisible(!Wahl.Pfad().empty() && AlleDateienVorhanden(Quelle()));
 }
 
-/// The new directory is shown but not entered; one that cannot be made is passed over.
+/// The new directory is shown but not entered; if it cannot be made, nothing happens.
 void KopierForm::VerzeichnisErstellen()
 {
     const Text name = TextVon(VZ);
@@ -183,7 +183,7 @@ void KopierForm::Kopieren()
 void KopierForm::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->accept();
-    hide(); // what comes next looks whether this dialog is still there
+    hide(); // what comes next checks whether this dialog is still there
     Offen([this] { danach(kopiert); })();
 }
 

@@ -1,4 +1,4 @@
-// The three dialogs that copy the eight data files, which are one but for a few words.
+// The three dialogs that copy the eight data files, which are the same except for a few words.
 #pragma once
 
 #include "controls/Verzeichniswahl.h"
@@ -20,19 +20,19 @@ namespace altardienst {
 struct Kopierdialog {
     const char *Name;
     const char *Titel;
-    bool Hinaus;         // from the program's directory to the one picked; else the other way
-    void (*NachKopie)(); // behind the copy, before the form goes
+    bool Hinaus;         // from the program's directory to the one picked; otherwise the other way round
+    void (*NachKopie)(); // after the copy, before the form goes
 };
 
-/// OK can only be seen while the directory that is copied from holds all eight files. A copy that
-/// fails is shown and leaves the dialog open.
+/// OK is visible only while the source directory holds all eight files. A copy that fails is shown
+/// and leaves the dialog open.
 class KopierForm : public QWidget {
   public:
-    /// `danach` runs when the form is gone, and learns whether it has copied.
+    /// `danach` runs once the form is gone and is passed whether it has copied.
     KopierForm(const Kopierdialog &dialog, std::function<void(bool kopiert)> danach);
 
     Verzeichniswahl Wahl;    // Drive1, Dir1, Dateien
-    QLineEdit *VZ = nullptr; // only where the way is out, like the button
+    QLineEdit *VZ = nullptr; // only in the dialog that copies out, like the button
     QPushButton *Verzeichnis = nullptr;
     QGroupBox *EoA;
     QRadioButton *Alle;
@@ -73,7 +73,7 @@ class DateikopieForm : public KopierForm {
     DateikopieForm();
 };
 
-/// "Datendateien kopieren" of the first start: the same, in place of the start dialog.
+/// "Datendateien kopieren" on the first start: the same, in place of the start dialog.
 class DateienKopierenForm : public KopierForm {
   public:
     explicit DateienKopierenForm(std::function<void(bool kopiert)> danach);

@@ -13,7 +13,7 @@
 namespace altardienst {
 namespace {
 
-constexpr int MeisteTageBeimVerlassen = 120; // fewer than on Enter, and both hold
+constexpr int MeisteTageBeimVerlassen = 120; // fewer than on Enter; both limits apply
 
 QLayout *Reihe(std::initializer_list<QWidget *> controls)
 {
@@ -73,7 +73,7 @@ void Planzeitraum::DatumGedreht(int tage)
                  [&] { Datumsen->setFocus(); })();
 }
 
-/// Not clipped: that is done when the box is left.
+/// Not clipped here: that happens when the box is left.
 void Planzeitraum::TageGedreht(int tage)
 {
     QLineEdit *feld = tagilein.Feld;

@@ -9,8 +9,8 @@
 
 namespace altardienst {
 
-/// Both boxes become settings on Enter and at each turn of their spin buttons, the number of days
-/// also on leaving it.
+/// Both boxes are stored on Enter and at each step of their spin buttons, the number of days also
+/// when its box is left.
 class Planzeitraum {
   public:
     Planzeitraum();
@@ -26,17 +26,18 @@ class Planzeitraum {
 
     QLayout *Anordnen() const;
 
-    /// All but leaving the number of days, which counts only while the form is open.
+    /// Connects everything except leaving the number of days, which counts only while the form is
+    /// open.
     void Verbinden();
 
-    /// Clips the number of days and takes it over, as is done on leaving it.
+    /// Clips and stores the number of days, as happens when its box is left.
     void TageVerlassen();
 
-    /// Shows the settings; the weekday and the end come with `Berechnen`.
+    /// Shows the settings; `Berechnen` adds the weekday and the end.
     void Zeigen() const;
 
-    /// Takes over the first day and shows what follows from it. Stepwise: a box without a date
-    /// stays as it is.
+    /// Stores the first day and shows what follows from it. Stepwise: a box without a date stays as
+    /// it is.
     void Berechnen();
 
   private:

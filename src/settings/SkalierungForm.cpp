@@ -14,7 +14,7 @@
 namespace altardienst {
 namespace {
 
-/// What a box may hold, and what stands there instead of a value outside: never the nearest end.
+/// What a box may hold, and what replaces a value outside that range: never the nearest limit.
 struct Bereich {
     Single Von;
     Single Bis;
@@ -22,7 +22,7 @@ struct Bereich {
     Single Schritt; // of its spin button
 };
 
-/// Any number, however large; failure 13 if it is none.
+/// Accepts any number, however large; failure 13 if the text is not one.
 bool IstAußerhalb(const Text &text, const Bereich &bereich)
 {
     try {

@@ -1,4 +1,4 @@
-// The settings of the proposed start, and of the services that are set by hand.
+// The settings for the proposed start date and for the services that are set by hand.
 #pragma once
 
 #include "application/Dialogfenster.h"
@@ -10,7 +10,7 @@
 
 namespace altardienst {
 
-/// Every control writes its field at once; leaving the form checks nothing.
+/// Every control writes its field at once; closing the form checks nothing.
 class ZusatzKonfigForm : public Dialogfenster {
   public:
     ZusatzKonfigForm();

@@ -1,4 +1,4 @@
-// What the program says of itself.
+// What the program says about itself.
 #pragma once
 
 #include "settings/Hintergrundbild.h"
@@ -9,8 +9,8 @@
 
 namespace altardienst {
 
-/// Name, version, licence and warning from the build, and the way to the platform's information on
-/// the system. The main window stays as it is.
+/// Name, version, licence and warning from the build, and a button for the platform's system
+/// information. The main window stays as it is.
 class frmAboutForm : public QWidget {
   public:
     frmAboutForm();

@@ -10,7 +10,7 @@ namespace altardienst {
 class Diagrammbild;
 class Statistik2Form;
 
-/// Takes its numbers from the window that opened it, and shows that again when it closes.
+/// Takes its numbers from the window that opened it, and shows that window again when it closes.
 class Diagramm2Form : public QWidget {
   public:
     explicit Diagramm2Form(Statistik2Form *statistik);

@@ -11,7 +11,8 @@
 namespace altardienst {
 namespace {
 
-// Shades of one blue: they differ in lightness, so they work without colour vision and on paper.
+// Shades of one blue: they differ in lightness, so they also work for the colour-blind and on
+// paper.
 const QColor Balkenfarbe(0x00, 0x72, 0xb2);
 const QColor Hellstes(0xde, 0xeb, 0xf7);
 const QColor Dunkelstes(0x08, 0x45, 0x94);
@@ -66,7 +67,7 @@ class Diagrammbild::Zeichnung : public QCustomPlot {
         achse->grid()->setVisible(false);
     }
 
-    /// The field around a point.
+    /// Fills the field around a point.
     void Füllen(int x, int y, const QColor &farbe)
     {
         auto *feld = new QCPItemRect(this);
@@ -87,12 +88,12 @@ class Diagrammbild::Zeichnung : public QCustomPlot {
     }
 
   protected:
-    /// Drawn straight from the figures: what the base keeps ready for the screen would come out
-    /// coarse on paper.
+    /// Drawn straight from the figures: what the base class caches for the screen would look coarse
+    /// on paper.
     void paintEvent(QPaintEvent *) override
     {
         QCPPainter stift(this);
-        stift.setMode(QCPPainter::pmNoCaching); // else the labels are pictures
+        stift.setMode(QCPPainter::pmNoCaching); // otherwise the labels are bitmaps
         stift.setRenderHint(QPainter::Antialiasing);
         stift.fillRect(viewport(), Qt::white);
         draw(&stift);
@@ -125,7 +126,7 @@ void Diagrammbild::BalkenZeigen(const Achse &klassen, const char *anzahltitel,
     yAxis->setSubTicks(false);
     yAxis->setNumberFormat("f");
     yAxis->setNumberPrecision(0);
-    yAxis->setRange(0, Höchste(anzahl) * 1.1 + 0.2); // room for the figure above the bar
+    yAxis->setRange(0, Höchste(anzahl) * 1.1 + 0.2); // room for the figure above each bar
     yAxis->setLabel(QString::fromUtf8(anzahltitel));
 
     auto *balken = new QCPBars(xAxis, yAxis);

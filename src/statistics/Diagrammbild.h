@@ -9,7 +9,7 @@
 
 namespace altardienst {
 
-/// How large a window with a chart opens; it fits the smallest screen.
+/// The initial size of a window with a chart; it fits the smallest screen.
 constexpr QSize Diagrammfenster(680, 484);
 
 class Diagrammbild : public QWidget {
@@ -21,8 +21,8 @@ class Diagrammbild : public QWidget {
         std::vector<Text> Klassen;
     };
 
-    /// A bar for each class with its count above it; the axis of the counts has whole numbers
-    /// alone.
+    /// A bar for each class with its count above it; the axis of the counts shows only whole
+    /// numbers.
     void BalkenZeigen(const Achse &klassen, const char *anzahltitel,
                       const std::vector<int> &anzahl);
 

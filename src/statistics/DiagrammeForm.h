@@ -13,8 +13,8 @@ namespace altardienst {
 class Diagrammbild;
 class StatistikForm;
 
-/// Takes its numbers from the window that opened it, and shows that again when it closes. Failure 9
-/// if a membership begins twelve months ahead or later.
+/// Takes its numbers from the window that opened it, and shows that window again when it closes.
+/// Failure 9 if a membership begins twelve or more months in the future.
 class DiagrammeForm : public QWidget {
   public:
     explicit DiagrammeForm(StatistikForm *statistik);

@@ -42,7 +42,8 @@ Dienstblatt::Dienstblatt(const Dienstblattnamen &namen, int anzahl,
 
 void Dienstblatt::NummerGeändert()
 {
-    // It may be too large for a record number, and one with a fraction rounds to its record.
+    // The number may be too large for a record number, and one with a fraction is rounded to a
+    // record.
     if (SingleLesen(TextVon(Wahl->Nummer)) >= static_cast<Single>(anzahl) ||
         ZahlIn(Wahl->Nummer) >= anzahl)
         ZahlSetzen(Wahl->Nummer, 0);

@@ -1,4 +1,4 @@
-// One person of a table of services on the screen, with the number box to choose the person.
+// One person of a table of services on the screen, with a number box to choose the person.
 #pragma once
 
 #include "controls/Datensatzwahl.h"
@@ -13,7 +13,7 @@
 
 namespace altardienst {
 
-/// What is shown of a person: names, counts, their sum.
+/// What is shown about a person: names, counts, their sum.
 template <std::size_t arten> std::vector<Text> TexteDer(const Dienstzeile<arten> &zeile)
 {
     std::vector<Text> texte = {zeile.Vorname, zeile.Nachname};
@@ -29,7 +29,7 @@ struct Dienstblattnamen {
         const char *Name;
         const char *Text;
     };
-    std::vector<Feld> Felder; // what is shown of a person
+    std::vector<Feld> Felder; // what is shown about a person
 };
 
 /// The fields of a person's services, with their names on the screen: both names, a count for each
@@ -45,7 +45,7 @@ std::vector<Dienstblattnamen::Feld> Dienstfelder(const std::array<Art, n> &arten
     return felder;
 }
 
-/// Shows the person of number 0 first; a number of `anzahl` or more falls back to 0.
+/// Starts with person number 0; a number of `anzahl` or more falls back to 0.
 class Dienstblatt : public QWidget {
   public:
     /// `zeile` gives the texts of the fields of a person.

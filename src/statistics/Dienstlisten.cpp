@@ -17,7 +17,7 @@ struct Dienstliste {
     std::vector<Text> Legende;
 };
 
-/// Plain, unlike the heads of the other lists, and without a left margin before its empty line.
+/// Plain, unlike the headings of the other lists, and without a left margin on its empty line.
 void KopfDrucken(const Text &titel)
 {
     Grundschrift();

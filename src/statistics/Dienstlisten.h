@@ -5,7 +5,7 @@
 
 namespace altardienst {
 
-// Records 0 to `Anzahl` - 1, one line each, in the orientation of `Konfig.DiffJahr`.
+// Records 0 to `Anzahl` - 1, one line each, in the orientation `Konfig.DiffJahr`.
 void MeßdienerdiensteDrucken(Meßdienerzählung &zählung);
 void HelferdiensteDrucken(Helferzählung &zählung);
 

@@ -11,8 +11,8 @@
 namespace altardienst {
 namespace {
 
-/// Tells names apart by their first and last eight bytes, which takes a fraction of the time of a
-/// hash of all.
+/// Tells names apart by their first and last eight bytes, which takes a fraction of the time needed
+/// to hash them whole.
 std::uint64_t Kennzahl(const Text &name)
 {
     std::array<std::uint64_t, 2> enden{};
@@ -27,10 +27,10 @@ std::uint64_t Kennzahl(const Text &name)
 }
 
 /// Finds the row of a name at once: a full plan has more than five million pairs of a server and a
-/// slot. Rows of one name share their counts, since each of them would find the same slots.
+/// slot. Rows with the same name share their counts, since each would find the same slots.
 template <class Zählung> class Namensverzeichnis {
   public:
-    /// Takes the names of records 0 to `Anzahl` into the rows.
+    /// Puts the names of records 0 to `Anzahl` into the rows.
     template <class Tabelle>
     Namensverzeichnis(Zählung &zählung, Tabelle &tabelle) : zählung(zählung)
     {
@@ -63,7 +63,7 @@ template <class Zählung> class Namensverzeichnis {
   private:
     static constexpr int Frei = -1;
 
-    /// The compartment with the row of the name, or the free one where it belongs.
+    /// The bucket with the row of the name, or the free one where it belongs.
     int &FachFür(const Text &vorname, const Text &nachname)
     {
         constexpr std::uint64_t Streuung = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
@@ -77,8 +77,8 @@ template <class Zählung> class Namensverzeichnis {
     }
 
     Zählung &zählung;
-    std::array<int, 2048> fächer; // so many more than people that most names find theirs at once
-    std::vector<std::pair<int, int>> weitere; // a row, and the first one of its name
+    std::array<int, 2048> fächer; // enough that most names hit their own at once
+    std::vector<std::pair<int, int>> weitere; // a row, and the first row with its name
 };
 
 } // namespace
@@ -88,7 +88,7 @@ Meßdienerzählung MeßdienerdiensteZählen()
     Meßdienerzählung zählung;
     Namensverzeichnis verzeichnis(zählung, Meßdiener);
     for (int i = 0; i <= Messe.Anzahl; ++i) {
-        // Slot 0 has no service and counts nowhere.
+        // Slot 0 has no service and is never counted.
         for (int slot = 1; slot <= MesseTabelle::HöchsterSlot; ++slot) {
             const Text &dienst = DienstDesSlots(i, slot);
             const auto art = std::ranges::find_if(

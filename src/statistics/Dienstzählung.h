@@ -11,7 +11,7 @@
 
 namespace altardienst {
 
-/// The services of one person, one count for each kind.
+/// The services of one person, one count per kind.
 template <std::size_t arten> struct Dienstzeile {
     Text Vorname;
     Text Nachname;
@@ -26,9 +26,9 @@ using Meßdienerzählung = Spalte<Dienstzeile<Dienstarten.size()>, MeßdienerTab
 /// With a count for each of `Helferarten`.
 using Helferzählung = Spalte<Dienstzeile<Helferarten.size()>, HelferTabelle::HöchsterIndex>;
 
-/// Who stands in a slot counts under his present name; a service with another name than theirs
-/// counts nowhere. The record behind the last server and the mass behind the last one take part, as
-/// they stand. Failure 9 if there is no room for them: 403 servers, 603 masses.
+/// Whoever is in a slot counts under his current name; a service with any other name is not
+/// counted. The record after the last server and the mass after the last one take part, as they
+/// are. Failure 9 if there is no room for them: 403 servers, 603 masses.
 Meßdienerzählung MeßdienerdiensteZählen();
 
 /// The same for the places of the helpers; 203 helpers are too many.

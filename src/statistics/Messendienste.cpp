@@ -1,4 +1,4 @@
-// How many services the masses of the plan call for, and which the helpers offer.
+// How many services the masses of the plan call for, and which ones the helpers offer.
 #include "statistics/Messendienste.h"
 
 #include "statistics/Teilen.h"

@@ -1,4 +1,4 @@
-// How many services the masses of the plan call for, and which the helpers offer.
+// How many services the masses of the plan call for, and which ones the helpers offer.
 #pragma once
 
 #include "core/Plätze.h"
@@ -29,7 +29,7 @@ struct Helferdienste {
     double DiensteJeHelfer = 0;
 };
 
-/// As above, of the helpers that the masses want.
+/// As above, for the helpers that the masses want.
 Helferdienste HelferdiensteAuswerten();
 
 struct Helferangebot {
@@ -39,8 +39,8 @@ struct Helferangebot {
     double AnteilInsgesamt = 0; // 1, or 0 without any
 };
 
-/// The services that the helpers do, each with both of theirs: one who names the same twice counts
-/// twice. The blank record behind the last one is looked at too.
+/// The services that the helpers do, counting both services of each: a helper who names the same
+/// one twice counts twice. The blank record after the last one is looked at too.
 Helferangebot HelferangebotAuswerten();
 
 } // namespace altardienst

@@ -55,7 +55,8 @@ Größenstatistik GrößenAuswerten()
     double quadrate = 0;
     for (int i = 0; i < Meßdiener.Anzahl; ++i)
         quadrate += std::pow(Meßdiener.Größe[i] - s.Mittel, 2);
-    // Divided behind the root, and by one more than the servers: the measure is the parish's own.
+    // Divided after taking the root, and by one more than the number of servers: the parish's own
+    // measure, not the usual deviation.
     s.Abweichung = static_cast<Single>(std::sqrt(quadrate) / (n + 1));
 
     s.Anzahl[0] = zähler[0];

@@ -1,5 +1,4 @@
-// The chart library. It is written with Qt's short keywords, which are switched off in this
-// program.
+// The chart library. It is written with Qt's short keywords, which are disabled in this program.
 #pragma once
 
 #include <QtGlobal>

@@ -7,7 +7,7 @@
 
 namespace altardienst {
 
-/// Failure 9 if the tables are fuller than there is room for: the window does not come to be.
+/// Failure 9 if the tables hold more than there is room for: the window is then not created.
 class StatDienstForm : public Dialogfenster {
   public:
     StatDienstForm();
@@ -20,7 +20,7 @@ class StatDienstForm : public Dialogfenster {
     void Anordnen();
     void Verbinden();
 
-    Meßdienerzählung zählung; // as of the opening
+    Meßdienerzählung zählung; // as of the time the window opened
 };
 
 } // namespace altardienst

@@ -9,7 +9,7 @@
 
 namespace altardienst {
 
-/// Failure 11 if services are wanted and there are no servers: the window does not come to be.
+/// Failure 11 if services are wanted and there are no servers: the window is then not created.
 class StatMeßdienstForm : public Dialogfenster {
   public:
     StatMeßdienstForm();

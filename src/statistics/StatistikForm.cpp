@@ -19,7 +19,7 @@
 namespace altardienst {
 namespace {
 
-/// Counts, and beside each its share of all servers.
+/// Counts, and next to each its share of all servers.
 template <std::size_t n>
 void AnzahlenZeigen(const std::array<QLabel *, n> &absolut, const std::array<QLabel *, n> &relativ,
                     const std::array<int, n> &anzahl)

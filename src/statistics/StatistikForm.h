@@ -10,7 +10,7 @@
 
 namespace altardienst {
 
-/// Failure 11 without servers: the window does not come to be.
+/// Failure 11 without servers: the window is then not created.
 class StatistikForm : public Dialogfenster {
   public:
     StatistikForm();

@@ -9,7 +9,7 @@
 
 namespace altardienst {
 
-/// Failure 11 if services are wanted and there are no helpers: the window does not come to be.
+/// Failure 11 if services are wanted and there are no helpers: the window is then not created.
 class StatistikHelferForm : public Dialogfenster {
   public:
     StatistikHelferForm();

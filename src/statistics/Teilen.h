@@ -1,4 +1,4 @@
-// The division of all figures.
+// The division that all figures use.
 #pragma once
 
 #include "values/Laufzeitfehler.h"
@@ -7,7 +7,7 @@
 
 namespace altardienst {
 
-/// Failure 11 if `nenner` is 0: figures of an empty table are not protected against it.
+/// Failure 11 if `nenner` is 0: figures about an empty table are not protected against it.
 template <std::floating_point F> F Geteilt(F zähler, F nenner)
 {
     if (nenner == 0)

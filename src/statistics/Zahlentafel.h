@@ -15,7 +15,7 @@
 
 namespace altardienst {
 
-/// A label for a figure, with its name.
+/// A label for a figure, named `name`.
 QLabel *Zahl(const char *name);
 
 /// Labels for figures with a number in their name, such as `a9` to `a20`.
@@ -37,24 +37,24 @@ template <std::size_t n> std::vector<int> ZahlenIn(const std::array<QLabel *, n>
     return zahlen;
 }
 
-/// Under its heads the rows of a label and its figures.
+/// Column headings, and below them rows of a label and its figures.
 class Zahlentafel : public QGridLayout {
   public:
     explicit Zahlentafel(std::initializer_list<const char *> köpfe);
 
-    /// Figures without one at a place leave it empty.
+    /// A null pointer among the figures leaves its place empty.
     void Zeile(QLabel *was, std::initializer_list<QLabel *> zahlen);
     void Zeile(const char *was, std::initializer_list<QLabel *> zahlen);
 };
 
-/// Text and figures one after the other, such as "Durchschnitt", a figure, "Jahre".
+/// Text and figures side by side, such as "Durchschnitt", a figure, "Jahre".
 QLayout *Satz(std::initializer_list<QWidget *> teile);
 
-/// The only table of a window: in a frame with this title, the buttons below it.
+/// Lays out a window with a single table: in a frame with this title, the buttons below it.
 void TafelAnordnen(QWidget *fenster, const char *titel, Zahlentafel *tafel, QPushButton *druck,
                    QPushButton *ende);
 
-/// One button prints what the window shows, the other one closes it.
+/// One button prints what the window shows, the other closes it.
 void DruckUndEndeVerbinden(QWidget *fenster, QPushButton *druck, QPushButton *ende);
 
 } // namespace altardienst
