@@ -1,4 +1,4 @@
-// Tables filled to the brim, as the measures need them.
+// Full tables, as the measurements need them.
 #include "Bestand.h"
 
 #include "assignment/Dienste.h"
@@ -63,7 +63,7 @@ Text VornameNr(int i)
 
 Text NachnameNr(int i)
 {
-    return Reihum(Nachnamen, i * 5); // with the first name no two of 437 people bear the same
+    return Reihum(Nachnamen, i * 5); // combined with the first name, unique among 437 people
 }
 
 /// What servers and helpers have in common.

@@ -25,7 +25,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Two directories that live as long as the process: what the routines use, and the yardstick's.
+/// Two directories that live as long as the process: the one the routines use, and the yardstick's.
 class Verzeichnisse {
   public:
     Verzeichnisse()
@@ -59,7 +59,7 @@ const Verzeichnisse &Orte()
     return orte;
 }
 
-/// A load that fails somewhere would be fast.
+/// A load that failed somewhere would look fast.
 void LadenGeprüft()
 {
     VonFestplatteLaden();
@@ -77,7 +77,7 @@ void ZeilenLesenUndVergessen()
     }
 }
 
-/// The lines of a file with their line ends.
+/// The lines of a file, including their line ends.
 using Zeilen = std::vector<std::string>;
 
 const std::vector<Zeilen> &AlleZeilen()

@@ -1,4 +1,4 @@
-// The plan printed to a PDF, against the same lines drawn straight onto one.
+// The plan printed to a PDF, against the same lines drawn straight into one.
 #include "Bestand.h"
 #include "Messung.h"
 

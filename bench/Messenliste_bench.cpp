@@ -1,5 +1,5 @@
-// A step through the mass list, until the next mass stands on the screen, against a full repaint of
-// the same window.
+// A step through the mass list, until the next mass is on the screen, against a full repaint of the
+// same window.
 #include "Bestand.h"
 #include "Messung.h"
 
@@ -30,7 +30,7 @@ void MessenBesetzen()
     Messe.Cursor = 0;
 }
 
-/// Every control once; `repaint` would leave out those with a background of their own.
+/// Draws every control once; `repaint` would leave out those with a background of their own.
 void AllesNeuZeichnen(QWidget &fenster)
 {
     static QImage bild(fenster.size(), QImage::Format_ARGB32_Premultiplied);
@@ -45,7 +45,7 @@ void MessungenAnmelden()
     static int argc = 1;
     static char name[] = "bench_messenliste";
     static char *argv[] = {name, nullptr};
-    // Both outlive the exit: by then Qt has taken down what a shown window still refers to.
+    // Never deleted: at exit Qt has already torn down things that a shown window still refers to.
     AnwendungEinrichten(*new QApplication(argc, argv));
     MessenBesetzen();
     static MessenlisteForm &form = *new MessenlisteForm;

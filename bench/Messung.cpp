@@ -1,4 +1,4 @@
-// Runs the measures and prints the ratios behind Google Benchmark's own report.
+// Runs the measurements and prints the ratios after Google Benchmark's own report.
 #include "Messung.h"
 
 #include <algorithm>
@@ -36,8 +36,8 @@ struct Ergebnis {
 
 std::vector<Ergebnis> Ergebnisse;
 
-/// The two works take turns, and the ratio is the median of those of neighbouring turns: a busy
-/// neighbour on the machine slows both sides of such a pair alike.
+/// The two pieces of work take turns, and the ratio is the median over pairs of consecutive turns:
+/// other load on the machine slows both sides of such a pair equally.
 void Messen(benchmark::State &lauf, const Messung &messung)
 {
     std::vector<double> zeiten;

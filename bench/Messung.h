@@ -1,4 +1,5 @@
-// A measure and its yardstick: both run in turns in one process, and their ratio is what counts.
+// A measurement and its yardstick: both run in turns in one process, and their ratio is what
+// counts.
 #pragma once
 
 #include <functional>
@@ -6,7 +7,7 @@
 
 namespace altardienst {
 
-/// A piece of work and what must stand ready before each time it is done; only the work is timed.
+/// A piece of work and its preparation before each time it is done; only the work is timed.
 struct Arbeit {
     std::function<void()> Vorbereiten;
     std::function<void()> Ausführen;
@@ -14,17 +15,17 @@ struct Arbeit {
 
 struct Messung {
     std::string Name;
-    std::string Maßstabname; // what the measure is held against
+    std::string Maßstabname; // what it is compared with
     Arbeit Gemessen;
     Arbeit Maßstab;
-    double Ziel;          // largest ratio of the two times that is good enough
+    double Ziel;          // largest acceptable ratio of the two times
     int Durchläufe;       // how often each of the two is done
-    double Einheiten = 1; // pieces of which either work consists, for the time of a single one
+    double Einheiten = 1; // how many pieces either work consists of, for the time per piece
 };
 
 void MessungAnmelden(const Messung &messung);
 
-/// Registers the measures of a program; each has its own.
+/// Registers the measurements of a program; each program defines its own.
 void MessungenAnmelden();
 
 } // namespace altardienst

@@ -1,5 +1,5 @@
-// Sorting the masses from the reverse order, against a stable sort of the same keys and one move of
-// each record.
+// Sorting the masses from reverse order, against a stable sort of the same keys with one move per
+// record.
 #include "Bestand.h"
 #include "Messung.h"
 #include "kern_bench.h"
@@ -17,7 +17,7 @@
 namespace altardienst {
 namespace {
 
-/// The most that sort into a full order: the top record is the scratch of the exchanges.
+/// The most that can be sorted completely: the top record is the scratch record of the swaps.
 constexpr int Messen = MesseTabelle::HöchsterIndex;
 
 void Umkehren()
@@ -35,7 +35,7 @@ void Vorbereiten()
     Umkehren();
 }
 
-/// A mass as one piece, with the same fields.
+/// A mass as one struct, with the same fields.
 struct Messesatz {
     Text Wochentag;
     Datum Tag = 0, Uhrzeit = 0;

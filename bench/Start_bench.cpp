@@ -1,5 +1,5 @@
 // From process start to the usable start dialog, against an empty Qt program with one window, and
-// the most memory that the program takes with its window open. Both run in turns.
+// the peak memory of the program with its window open. The two run in turns.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>

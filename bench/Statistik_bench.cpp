@@ -1,4 +1,4 @@
-// Counting the services of each server when their window opens, against the plain comparison of all
+// Counting the services of each server when their window opens, against a plain comparison of all
 // servers with all slots.
 #include "Messung.h"
 #include "VollerPlan.h"
@@ -14,7 +14,7 @@
 namespace altardienst {
 namespace {
 
-/// Both must come to the same figures, or there is nothing to compare.
+/// Both must arrive at the same figures, or there is nothing to compare.
 void Vergleichen()
 {
     Meßdienerzählung gezählt = MeßdienerdiensteZählen();

@@ -1,5 +1,5 @@
-// Opening the window of the services of each server until it stands on the screen, against the
-// plain comparison of all servers with all slots.
+// Opening the window of the services of each server until it is on the screen, against a plain
+// comparison of all servers with all slots.
 #include "Messung.h"
 #include "VollerPlan.h"
 
@@ -13,7 +13,7 @@
 namespace altardienst {
 namespace {
 
-QWidget *offen = nullptr; // the last one outlives the exit
+QWidget *offen = nullptr; // the last one is never deleted
 
 void Vorbereiten()
 {
@@ -46,7 +46,8 @@ void MessungenAnmelden()
     static int argc = 1;
     static char name[] = "bench_statistik";
     static char *argv[] = {name, nullptr};
-    // Outlives the exit too: by then Qt has taken down what a shown window still refers to.
+    // Never deleted either: at exit Qt has already torn down things that a shown window still
+    // refers to.
     AnwendungEinrichten(*new QApplication(argc, argv));
     Messen("Leeres Fenster öffnen", [] {
         offen = new QWidget;

@@ -1,4 +1,4 @@
-// A plan that is full to the brim, and the services in it counted the plain way.
+// A completely full plan, and its services counted the plain way.
 #include "VollerPlan.h"
 
 #include "Bestand.h"
@@ -11,7 +11,7 @@ namespace altardienst {
 void VollerPlan()
 {
     VollerBestand();
-    // The record and the mass behind the last ones take part.
+    // The record and the mass after the last ones take part.
     Meßdiener.Anzahl = 399;
     Messe.Anzahl = 602;
     int person = 0;

@@ -1,5 +1,5 @@
-// Opening the dialogs of the fixed entries until they stand on the screen, in a large parish
-// against an empty one.
+// Opening the dialogs of the fixed entries until they are on the screen, in a large parish against
+// an empty one.
 #include "Bestand.h"
 #include "Messung.h"
 
@@ -40,7 +40,7 @@ void GroßePfarrei()
     }
 }
 
-QWidget *offen = nullptr; // the last one outlives the exit
+QWidget *offen = nullptr; // the last one is never deleted
 
 void Öffnen(QWidget *dialog)
 {
@@ -74,7 +74,8 @@ void MessungenAnmelden()
     static int argc = 1;
     static char name[] = "bench_zuordnung";
     static char *argv[] = {name, nullptr};
-    // Outlives the exit too: by then Qt has taken down what a shown window still refers to.
+    // Never deleted either: at exit Qt has already torn down things that a shown window still
+    // refers to.
     AnwendungEinrichten(*new QApplication(argc, argv));
     ÖffnenMessen("Feste Einträge öffnen",
                  []() -> QWidget * { return MesseDienerFestForm::Offene(); });

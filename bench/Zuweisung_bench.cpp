@@ -1,4 +1,4 @@
-// The search for servers by the way with all rules, per draw, against the bare draw.
+// The assignment of servers with all rules, per draw, against the bare draw.
 #include "Bestand.h"
 #include "Messung.h"
 #include "kern_bench.h"
@@ -19,8 +19,8 @@ namespace {
 
 constexpr std::uint32_t Saat = 1964;
 
-/// The number of draws of the run that this seed gives. The timed runs are not burdened with
-/// counting; they make the same draws again.
+/// The number of draws in the run with this seed. The timed runs make the same draws again without
+/// counting them.
 int ZiehungenZählen()
 {
     BestandFürZuweisung();

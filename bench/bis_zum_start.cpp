@@ -1,4 +1,4 @@
-// The program up to its start dialog, loading included, which ends once the dialog is shown.
+// The program up to its start dialog, including loading; it ends once the dialog is shown.
 #include "application/Anwendung.h"
 #include "shell/Programm.h"
 

@@ -1,4 +1,4 @@
-// The measures of the part without windows.
+// The measurements of the part without windows.
 #include "kern_bench.h"
 
 #include "Messung.h"

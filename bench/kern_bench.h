@@ -1,4 +1,4 @@
-// The subjects of the part without windows, each of which registers its measures.
+// The subjects of the part without windows, each of which registers its measurements.
 #pragma once
 
 namespace altardienst {

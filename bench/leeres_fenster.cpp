@@ -1,4 +1,4 @@
-// The yardstick of the start: a Qt program with one empty window, which ends once it is shown.
+// The yardstick for the start: a Qt program with one empty window, which ends once it is shown.
 #include <QApplication>
 #include <QTimer>
 #include <QWidget>

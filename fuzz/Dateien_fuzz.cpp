@@ -1,5 +1,5 @@
-// Reads any bytes as one of the eight data files. Whatever came in must go out in the fixed shape,
-// and come in again as it went out.
+// Reads any bytes as one of the eight data files. Whatever was read must be written in the fixed
+// format and read back unchanged.
 #include "Prüfling.h"
 
 #include "core/tables.h"
@@ -16,8 +16,8 @@ std::string Schreiben()
     return inhalt;
 }
 
-/// Only a value in quotes brings the servers a text that does not survive the next write: one with
-/// a comma, a line end or a blank at its start.
+/// Only a quoted value can give the servers a text that does not survive the next write: one with a
+/// comma, a line end or a blank at its start.
 bool KommtZurück(std::string_view bytes)
 {
     return DATEINUMMER != DateiMeßdiener || bytes.find('"') == std::string_view::npos;

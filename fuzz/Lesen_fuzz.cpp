@@ -1,5 +1,5 @@
 // Reads any bytes as one of the eight data files and does no more with them: a table is large, and
-// in the time of one round trip thousands of inputs can be read. Nothing is emptied in between,
+// thousands of inputs can be read in the time of one round trip. Nothing is cleared in between,
 // since no reader looks at what a table holds.
 #include "Prüfling.h"
 

@@ -1,4 +1,4 @@
-// The data file that a fuzz target reads: the one of its number, in the order of a whole load.
+// The data file that a fuzz target reads: the one with its number, in the order of a full load.
 #pragma once
 
 #include "core/Dateien.h"
@@ -23,8 +23,8 @@ inline void Erwarte(bool bedingung, const char *was)
     std::abort();
 }
 
-/// False if the content fails, which a reader does in one of three ways; what came before the
-/// failure stays in the table.
+/// False if the content fails to load, in one of the three ways a reader may fail; what came before
+/// the failure stays in the table.
 inline bool Lesen(std::string_view inhalt)
 {
     Zeilenleser zeilen(inhalt);

@@ -1,4 +1,4 @@
-// Replays a corpus without a fuzzer: each file of the directories named on the command line.
+// Replays a corpus without a fuzzer: each file in the directories named on the command line.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
