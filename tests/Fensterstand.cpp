@@ -18,7 +18,7 @@ namespace {
 
 constexpr int Geduld = 5000; // ms
 
-MeldungenDienst Meldungsfenster; // the message boxes that the program puts in
+MeldungenDienst Meldungsfenster; // the message boxes that the program installs
 
 QWidget *OffenesFenster(const char *name)
 {
@@ -36,7 +36,7 @@ void AlleLöschen()
     std::vector<QPointer<QWidget>> eigene(fenster.begin(), fenster.end());
     for (const auto &eines : eigene)
         if (eines && !eines->parent()) {
-            eines->hide(); // as the program does: handlers of a lost focus run on a whole window
+            eines->hide(); // as the program does: focus-out handlers run on an intact window
             delete eines;
         }
 }
@@ -205,7 +205,8 @@ void Fensterstand::Beantworten(const std::function<void(QMessageBox *)> &antwort
 
 namespace {
 
-/// The program's application object, but what the fixtures throw within an event fails the test.
+/// The program's application object, except that whatever a fixture throws within an event fails
+/// the test.
 class Prüfanwendung : public Fangnetz {
   public:
     using Fangnetz::Fangnetz;

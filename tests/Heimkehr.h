@@ -1,4 +1,4 @@
-// What every form is held to that opens from the main window: it gives it back.
+// What every form opened from the main window must do: give the main window back.
 #pragma once
 
 #include "Fensterstand.h"
@@ -10,8 +10,8 @@
 
 namespace altardienst {
 
-/// The main window comes back after the button `Ende` and after the window's own close, and the
-/// form is gone. `öffnen` opens the form and returns it.
+/// The main window comes back and the form is gone, both after the button `Ende` and after closing
+/// the form by its close box. `öffnen` opens the form and returns it.
 inline void GibtDasHauptfensterZurück(const std::function<QWidget *()> &öffnen)
 {
     QWidget haupt;

@@ -1,5 +1,5 @@
-// The fixture of all tests: empty tables, and the outside replaced by stand-ins that a test sets
-// and reads.
+// The fixture of all tests: empty tables, and the outside world replaced by stand-ins that a test
+// sets and reads.
 #pragma once
 
 #include "core/tables.h"
@@ -18,7 +18,7 @@
 
 namespace altardienst {
 
-/// The number of the run-time failure that `f` ends with, 0 if it goes through.
+/// The number of the run-time failure that `f` ends with, 0 if it succeeds.
 int NummerDesFehlers(auto f)
 {
     try {
@@ -34,9 +34,9 @@ struct Frage {
     Text Titel;
 };
 
-/// Before each test: tables as at the program's start; today is Saturday, 21.11.2026, 12:00; the
-/// random numbers have seed 1; messages are recorded; the program's directory and the diskette are
-/// empty temporary directories.
+/// Before each test: tables as when the program starts; today is Saturday, 21.11.2026, 12:00; the
+/// random numbers are seeded with 1; messages are recorded; the program's directory and the
+/// diskette are empty temporary directories.
 class Prüfstand : public ::testing::Test {
   protected:
     Prüfstand();
@@ -65,8 +65,8 @@ class Prüfstand : public ::testing::Test {
     LaufwerkeDienst laufwerkeZuvor;
 };
 
-/// A record of `Meßdiener` who may serve everywhere: all qualifications, no wishes to be left out.
-/// Writes at `Meßdiener.Anzahl` and raises it; returns the record's number.
+/// Makes a record of `Meßdiener` that may serve everywhere: all qualifications, no wishes to be
+/// left out. Writes at `Meßdiener.Anzahl` and raises it; returns the record's number.
 int MeßdienerAnlegen(const Text &vorname, const Text &nachname, int größe = 160,
                      const Text &geschlecht = "männlich");
 

@@ -35,7 +35,7 @@ class JubiGebuDruckTest : public Druckstand {
         return ablauf.Tut("NewPage").Tut("EndDoc").Zeilen;
     }
 
-    /// The first line that is printed.
+    /// The first line printed.
     Text Titel() const
     {
         for (const Text &zeile : Papier.Zeilen)
@@ -123,8 +123,8 @@ TEST_F(JubiGebuDruckTest, EinJubiläumOhneLeuteDrucktEineLeereZeile)
 }
 
 // The opening ends at y = 600 + 2 * 240 = 1080 with `Zeilen` = 2; a row takes 480 and counts 2.
-// Behind row 1 the estimate is 1560 * 6 / 4 = 2340, behind row 2 it is 2040 * 8 / 6 = 2720. The
-// next page begins at 600 with `Zeilen` = 0: 1080 * 4 / 2 = 2160, 2340, 2720.
+// After row 1 the estimate is 1560 * 6 / 4 = 2340, after row 2 it is 2040 * 8 / 6 = 2720. The next
+// page begins at 600 with `Zeilen` = 0: 1080 * 4 / 2 = 2160, 2340, 2720.
 TEST_F(JubiGebuDruckTest, DieSeiteWendetNachDerSchätzungMitZweiZeilen)
 {
     for (int i = 0; i < 5; ++i)

@@ -1,4 +1,4 @@
-// Birthdays and jubilees: what is chosen, listed, printed and put onto labels.
+// Birthdays and jubilees: what is chosen, listed, printed and put on labels.
 #include "anniversaries/JubiGebustand.h"
 
 #include "Heimkehr.h"
@@ -125,7 +125,7 @@ TEST_F(JubiGebuFormTest, EineWahlFülltNurIhreEigeneListe)
     Geburtstagsliste.Vorname[0] = "unberührt";
     Wählen("Viere");
     EXPECT_EQ(Geburtstagsliste.Vorname[0], "unberührt");
-    Wählen("Viere"); // chosen already: no change
+    Wählen("Viere"); // already chosen: no change
     Jubiläumsliste.Vorname[0] = "unberührt";
     Wählen("Viere");
     EXPECT_EQ(Jubiläumsliste.Vorname[0], "unberührt");

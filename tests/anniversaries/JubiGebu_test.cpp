@@ -108,7 +108,7 @@ TEST_F(JubiGebuTest, SortiertWirdNachDemTagDesMonatsAllein)
     NeuerHelfer("Zweite", {1950, 5, 20});
     Diener("Letzte", {2011, 5, 31});
     NeuerHelfer("Früh", {1988, 5, 1});
-    // People of one day stand as in their tables.
+    // People born on the same day keep the order of their tables.
     EXPECT_EQ(Geburtstage(Gruppende::Alle, 5), "Früh Jung Alt Erste Zweite Letzte");
 }
 
@@ -181,7 +181,7 @@ TEST_F(JubiGebuTest, EinVollesHausPaßtInDieListe)
     for (int i = 1; i < 600; ++i)
         ASSERT_LE(KalendertagVon(Geburtstagsliste.Geburtstag[i - 1]).Tag,
                   KalendertagVon(Geburtstagsliste.Geburtstag[i]).Tag);
-    Meßdiener.Anzahl = 402; // the two places behind the last record
+    Meßdiener.Anzahl = 402; // the two places after the last record
     Meßdiener.Geburtstag[400] = Meßdiener.Geburtstag[401] = DatumAus({2010, 3, 1});
     EXPECT_EQ(NummerDesFehlers([] { Geburtstage(Gruppende::Alle, 3); }), 9);
 }

@@ -36,7 +36,7 @@ class JubiGebustand : public Papierfenster<JubiGebuForm> {
         Helfer.Geburtstag[HelferAnlegen(vorname, "Lang", "Lektor")] = DatumAus(geboren);
     }
 
-    /// Clicks on the circle of an option.
+    /// Clicks on the circle of an option button.
     void Wählen(const char *name) const
     {
         QWidget *option = Control(name);

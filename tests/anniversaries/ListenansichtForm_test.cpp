@@ -13,7 +13,7 @@ using Liste = std::vector<Text>;
 
 class ListenansichtFormTest : public JubiGebustand {
   protected:
-    /// Opens the form and from it a view by its button.
+    /// Opens the form and, with its button, a view.
     void AnsichtÖffnen(const char *knopf, const char *fenster)
     {
         Öffnen();
@@ -111,7 +111,7 @@ TEST_F(ListenansichtFormTest, AlleWegeZurNächstenUndVorigenZeile)
     EXPECT_EQ(Steht("Nu"), "0");
 }
 
-// The number goes up to the count itself, where the blank row behind the last one stands.
+// The number goes up to the count itself, where the blank row after the last one is.
 TEST_F(ListenansichtFormTest, DieNummerBleibtZwischenNullUndDerAnzahl)
 {
     GeburtstageÖffnen();
@@ -183,7 +183,7 @@ TEST_F(ListenansichtFormTest, DieFormWartetBisEndeDieAnsichtSchließt)
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_TRUE(form->isVisible());
     EXPECT_TRUE(Warten([&] { return form->isActiveWindow(); }));
-    EXPECT_FALSE(haupt.isEnabled()); // comes back with the form behind
+    EXPECT_FALSE(haupt.isEnabled()); // comes back with the form that opened the view
 }
 
 TEST_F(ListenansichtFormTest, TabFolgtDemAugeUndKeinControlIstStumm)

@@ -19,7 +19,7 @@
 namespace altardienst {
 namespace {
 
-/// Collects what was asked of a translation and not found. The translator installed last is asked
+/// Collects the texts that were looked up and not found. The translator installed last is asked
 /// first.
 class Lücken : public QTranslator {
   public:
@@ -31,7 +31,7 @@ class Lücken : public QTranslator {
                       int n) const override
     {
         QString text = deutsch.translate(kontext, quelle, unterscheidung, n);
-        // To read one key Qt asks for the names of all, down to those of remote controls.
+        // To parse one key Qt asks for the names of all, even those on remote controls.
         if (text.isEmpty() && *quelle && Text(kontext) != "QShortcut")
             namen.insert(Text(kontext) + ": " + quelle);
         return text;

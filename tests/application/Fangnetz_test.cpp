@@ -1,4 +1,5 @@
-// What no handler has caught: it ends neither the program nor the window, and is told in German.
+// What no handler has caught: it ends neither the program nor the window, and is reported in
+// German.
 #include "application/Fangnetz.h"
 
 #include "Fensterstand.h"
@@ -43,7 +44,7 @@ class FangnetzTest : public Fensterstand {
   protected:
     FangnetzTest() { Zeigen(&fenster); }
 
-    /// The messages so far and those that come soon; they are forgotten then.
+    /// The messages so far and those still pending; clears them.
     Liste Gemeldet()
     {
         QTest::qWait(100);
@@ -122,7 +123,7 @@ TEST_F(FangnetzTest, EinFensterDessenSchließenScheitertBleibtOffen)
     EXPECT_FALSE(fenster.isVisible());
 }
 
-// Told by real message boxes.
+// Reported in real message boxes.
 TEST_F(FangnetzTest, EsStehtNieMehrAlsEineMeldungOffen)
 {
     EchteMeldungen();

@@ -1,6 +1,6 @@
-# The rooms of src/, each of which may include itself and those before it in src/Räume.cmake. Fails where a room
-# includes one that stands above it, where a folder is no room, and where the table of rooms in
-# docs/architecture.md names others or another order.
+# The rooms of src/, each of which may include itself and those before it in src/Räume.cmake. Fails
+# if a room includes one above it, if a folder is not a room, or if the table of rooms in
+# docs/architecture.md names other rooms or another order.
 #   cmake -D QUELLEN=src -D TAFEL=docs/architecture.md -P Räume_test.cmake
 include(${QUELLEN}/Räume.cmake)
 

@@ -12,7 +12,7 @@
 namespace altardienst {
 namespace {
 
-/// A window with a text box, a label for it and two buttons; every event is written down.
+/// A window with a text box, a label for it and two buttons; every event is recorded.
 class BausteineTest : public Fensterstand {
   protected:
     BausteineTest()
@@ -37,7 +37,7 @@ class BausteineTest : public Fensterstand {
 
 using Liste = std::vector<Text>;
 
-/// One notch of the wheel over a control; whether it keeps that for itself.
+/// Turns the wheel by one notch over a control; true if the control keeps the event to itself.
 bool Raddrehung(QWidget *control)
 {
     const QPointF mitte = control->rect().center();
@@ -50,7 +50,7 @@ bool Raddrehung(QWidget *control)
 TEST_F(BausteineTest, ImRollbarenTeilGehtDasRadAnEinerAuswahlVorbei)
 {
     auto *inhalt = new QVBoxLayout;
-    auto *innen = new QHBoxLayout; // as deep as a form has it
+    auto *innen = new QHBoxLayout; // nested as deep as in a form
     auto *wahl = new QComboBox;
     auto *woanders = new QComboBox;
     for (QComboBox *eine : {wahl, woanders})

@@ -27,7 +27,7 @@ class HandlerTest : public Fensterstand {
         return [this, nummer] { gelaufen.push_back(nummer); };
     }
 
-    /// The messages so far and those that wait for the end of the event; they are forgotten then.
+    /// The messages so far and those that wait for the end of the event; clears them.
     std::vector<Text> Gemeldet()
     {
         QCoreApplication::processEvents();

@@ -1,4 +1,4 @@
-// Key by key into boxes that rewrite their text at every change.
+// Typing key by key into boxes that rewrite their text on every change.
 #include "Fensterstand.h"
 #include "controls/Handler.h"
 #include "controls/Terminbox.h"
@@ -11,14 +11,14 @@ class TippgedächtnisTest : public Fensterstand {
   protected:
     TippgedächtnisTest() { Zeigen(feld); }
 
-    /// Makes the box one that rewrites its text so.
+    /// Makes the box rewrite its text in this way.
     void Umschreibend(const std::function<void(QLineEdit *)> &umschreiben)
     {
         QObject::connect(feld, &QLineEdit::textChanged, feld,
                          Abgefangen([this, umschreiben] { umschreiben(feld); }));
     }
 
-    /// Over the whole content, as behind a Tab.
+    /// Typed over the whole content, as after a Tab.
     Text Getippt(const char *tasten)
     {
         feld->selectAll();

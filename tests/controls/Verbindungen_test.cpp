@@ -43,11 +43,11 @@ bool Enthält(const std::string &text, const char *muster)
 constexpr auto Arten =
     R"(\b(Abgefangen|Schrittweise|Offen|Nebenbei|HauptfensterHandelt|beimVerlassen)\()";
 
-/// Closing a window runs its `closeEvent`; Qt's own routines and a plain assignment do not fail.
+/// Closing a window runs its `closeEvent`; Qt's own routines and plain assignments cannot fail.
 constexpr auto Harmlos = R"(\{ (close|reject|fenster->close)\(\); \}|&Q\w+::\w+\)$|)"
                          R"(\{ (gewählt = (-1|zeile)|getippt = text); \})";
 
-/// The pieces that hand on a handler that comes to them wrapped.
+/// The pieces that pass on a handler that is already wrapped.
 constexpr auto Weitergereicht = R"((std::move\(handler\)|\{ handler\(\); \}|auslösen)\)$|)"
                                 R"(\[(handler|schritt)\] \{ \w+\([+-]1\); \})";
 

@@ -1,4 +1,4 @@
-// Leaving a box: what the user does counts, what a message or a failed save does to the focus does
+// Leaving a box: what the user does counts; what a message or a failed save does to the focus does
 // not.
 #include "controls/Verlassen.h"
 
@@ -12,7 +12,7 @@
 namespace altardienst {
 namespace {
 
-/// A window with a text box, a combo and a button; each leaving is written down.
+/// A window with a text box, a combo and a button; each time one is left is recorded.
 class VerlassenTest : public Fensterstand {
   protected:
     VerlassenTest()

@@ -53,7 +53,7 @@ class VerzeichniswahlTest : public Fensterstand {
         QTest::keyClick(liste, Qt::Key_Return);
     }
 
-    /// The next entry of the drive list, by key as a user would.
+    /// Moves to the next entry of the drive list by key, as a user would.
     void NächstesLaufwerk() const
     {
         FokusAuf(wahl->Laufwerk);
@@ -213,7 +213,7 @@ TEST_F(VerzeichniswahlTest, AuffrischenLiestNeuUndMeldetKeinenWechsel)
     EXPECT_EQ(wechsel, 0);
 }
 
-/// Forty files, of which the marked one lies far down.
+/// Forty files, of which the selected one is far down.
 TEST_F(VerzeichniswahlTest, AuffrischenLässtDieMarkeUndDenAusschnittStehen)
 {
     for (int i = 10; i < 50; ++i)

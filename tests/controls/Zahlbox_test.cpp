@@ -1,4 +1,4 @@
-// The number box: reading, clipping, turning.
+// The number box: reading, clipping, spinning.
 #include "controls/Zahlbox.h"
 
 #include "Fensterstand.h"
@@ -101,7 +101,7 @@ TEST_F(ZahlboxTest, DrehenGehtUmEins)
     EXPECT_EQ(Aufschrift(box.Feld), "1");
     Klick(Finden(box.Spin, "ab"));
     Klick(Finden(box.Spin, "ab"));
-    EXPECT_EQ(Aufschrift(box.Feld), "-1"); // limits are the change rule's affair
+    EXPECT_EQ(Aufschrift(box.Feld), "-1"); // limits are up to the change rule
     FokusAuf(box.Spin);
     QTest::keyClick(box.Spin, Qt::Key_Up);
     EXPECT_EQ(Aufschrift(box.Feld), "0");

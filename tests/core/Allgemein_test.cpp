@@ -1,4 +1,4 @@
-// Load and save of all tables on the hard disk.
+// Loading and saving all tables on the hard disk.
 #include "core/Allgemein.h"
 
 #include "Prüfstand.h"
@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 const char *const Namen[] = {"Konfig.cfg",  "Standard.dat", "Meßdiener.dat", "Messen.dat",
                              "Gruppen.dat", "Helfer.dat",   "Etiketten.dat", "MeßdienerMesse.dat"};
 
-/// The order in which the error path asks for the files.
+/// The order in which the error path checks for the files.
 const char *const Suchfolge[] = {"etiketten.dat", "gruppen.dat",       "helfer.dat",
                                  "meßdiener.dat", "messen.dat",        "standard.dat",
                                  "konfig.cfg",    "meßdienermesse.dat"};
@@ -29,7 +29,7 @@ using Liste = std::vector<Text>;
 
 class Allgemein : public Prüfstand {
   protected:
-    /// A few values by which one sees which files a load brought.
+    /// A few values that show which files a load has read.
     static void Kennzeichnen(const Text &wert)
     {
         Konfig.Gemeinde = wert;

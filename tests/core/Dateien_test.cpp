@@ -13,8 +13,8 @@ namespace {
 
 class DateienTest : public Prüfstand {};
 
-/// The value of field number `nr` (from 1) of a record, and how it stands on its line. No two
-/// fields of a record have the same.
+/// The value of field number `nr` (from 1) of a record, and how it looks on its line. No two fields
+/// of a record have the same value.
 struct Feldwert {
     int Nr = 0;
     int Satz = 0;
@@ -76,7 +76,7 @@ template <class Besuch> Besuch Für(int satz)
     return besuch;
 }
 
-/// What stands on a line of a record that was never used.
+/// What is on a line of a record that was never used.
 std::string LeereZeile(char art)
 {
     switch (art) {
@@ -136,8 +136,8 @@ TEST_F(DateienTest, NieBenutzteSätzeStehenAlsLeereZeilenNullenUndUhrNull)
     }
 }
 
-/// Sets one record of a table, expects each of its fields on its own line and nothing of it
-/// elsewhere, and expects the record back from there.
+/// Sets one record of a table, expects each of its fields on its own line and none of it elsewhere,
+/// and expects to read the record back from there.
 void PrüfeSatz(int datei, int satz)
 {
     const Dateiform &form = Dateiformen()[static_cast<std::size_t>(datei)];

@@ -1,4 +1,4 @@
-// Load and save of all tables on the diskette.
+// Loading and saving all tables on the diskette.
 #include "core/Allgemein.h"
 
 #include "Prüfstand.h"
@@ -25,7 +25,7 @@ const std::vector<Text> AlleFehlen = {
 
 class DisketteTest : public Prüfstand {
   protected:
-    /// A diskette with eight complete files; afterwards the tables are as at the start.
+    /// A diskette with eight complete files; afterwards the tables are as when the program starts.
     void DisketteBereitstellen()
     {
         Konfig.Gemeinde = "St. Martin";

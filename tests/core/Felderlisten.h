@@ -1,5 +1,5 @@
-// The fields of each table and the kinds of the lines of each file, written out once more by hand:
-// the tests hold the program's own lists against these.
+// The fields of each table and the kinds of the lines of each file, written out a second time by
+// hand: the tests compare the program's own lists with these.
 #pragma once
 
 #include "core/Dateien.h"
@@ -12,7 +12,7 @@
 
 namespace altardienst {
 
-/// What stands on a line: T text, N Int16, L Int32, S Single, D date, Z time of day; 6, 8 and A are
+/// What is on a line: T text, N Int16, L Int32, S Single, D date, Z time of day; 6, 8 and A are
 /// flag strings of 6, 8 and 11 positions.
 struct Dateiform {
     const char *Name;
@@ -54,8 +54,8 @@ inline const std::array<Dateiform, 8> &Dateiformen()
     return formen;
 }
 
-// One visit per field of a record, in the order of the file. A time field is named apart from a
-// date (`f.Zeit`), as the type is the same.
+// One visit per field of a record, in the order of the file. A time field is distinguished from a
+// date by name (`f.Zeit`), since the type is the same.
 
 template <class F> void KonfigFelder(F &&f)
 {
@@ -228,7 +228,7 @@ template <class F> void MesseDienerFestFelder(int i, F &&f)
     }
 }
 
-/// Header fields and then record `i` of the table of a file.
+/// The header fields, then record `i` of the table of a file.
 template <class F> void KopfFelder(int datei, F &&f)
 {
     switch (datei) {
@@ -289,7 +289,7 @@ inline std::vector<std::string> ZeilenVon(const std::string &inhalt)
     return zeilen;
 }
 
-/// The content of a file as the tables would be written now.
+/// The content of a file if the tables were written now.
 inline std::string InhaltVon(int datei)
 {
     std::string inhalt;

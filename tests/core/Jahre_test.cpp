@@ -1,4 +1,4 @@
-// Whole years of age and membership at the edges of months.
+// Whole years of age and membership around the ends of months.
 #include "core/Jahre.h"
 
 #include "Prüfstand.h"

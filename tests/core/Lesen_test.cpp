@@ -1,5 +1,5 @@
-// What the readers do beyond taking line after line: where each asks for the end of its file, what
-// they put in the place of empty flags, and the bounds of the scales.
+// What the readers do beyond taking line after line: where each checks for the end of its file,
+// what they substitute for empty flags, and the bounds of the scales.
 #include "core/Dateien.h"
 
 #include "Prüfstand.h"
@@ -21,7 +21,7 @@ std::string ErsteZeilen(const std::string &inhalt, int anzahl)
     return inhalt.substr(0, bis);
 }
 
-/// The content with another line in place of line `nr` (from 1).
+/// The content with line `nr` (from 1) replaced.
 std::string MitZeile(const std::string &inhalt, int nr, const std::string &zeile)
 {
     std::string vorn = ErsteZeilen(inhalt, nr - 1);
@@ -57,7 +57,7 @@ TEST_F(Lesen, KonfigDarfVorEinerGruppeVonZeilenEnden)
         bool erlaubt = zeilen == 15 || zeilen == 16 || zeilen == 18 || zeilen == 19 ||
                        zeilen == 20 || zeilen == 28 || zeilen == 29;
         EXPECT_EQ(Einlesen(DateiKonfig, ErsteZeilen(KonfigInhalt(), zeilen)), erlaubt ? 0 : 62);
-        // Read up to there, the rest as it was.
+        // Read up to that line, the rest as it was.
         EXPECT_EQ(InhaltVon(DateiKonfig), ErsteZeilen(KonfigInhalt(), zeilen) +
                                               zuvor.substr(ErsteZeilen(zuvor, zeilen).size()));
     }

@@ -1,4 +1,4 @@
-// How a person stands in a list box.
+// How a person is shown in a list box.
 #include "core/Namen.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ struct Teilung {
     bool operator==(const Teilung &) const = default;
 };
 
-/// What stands in the two boxes after a split, when "N" and "V" stood there before.
+/// What the two boxes hold after a split, when they held "N" and "V" before.
 Teilung Geteilt(const Text &listenname)
 {
     Teilung teile{"N", "V"};

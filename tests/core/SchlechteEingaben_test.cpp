@@ -1,4 +1,4 @@
-// Files that are cut short, hold other things than they should, or cannot be written.
+// Files that are cut short, hold something other than they should, or cannot be written.
 #include "core/Allgemein.h"
 #include "core/Umwandlung.h"
 
@@ -35,7 +35,7 @@ void Fülle(int datei, bool neu)
         SatzFelder(datei, i, füllen);
 }
 
-/// One file in both fillings, and what must be in the table after a load that ends early.
+/// One file with both fillings, and what the table must hold after a load that ends early.
 class Schnitt {
   public:
     explicit Schnitt(int datei) : datei(datei), form(Dateiformen()[static_cast<std::size_t>(datei)])
@@ -51,14 +51,14 @@ class Schnitt {
     /// The first `zeilen` lines of the new filling.
     std::string Erste(int zeilen) const { return Neu.substr(0, Von(AnfängeNeu, zeilen)); }
 
-    /// The table's file when lines up to `zeilen` came and the rest stayed.
+    /// The table's file when the first `zeilen` lines were read and the rest stayed.
     std::string Gemischt(int zeilen, const std::string &dazwischen = {}) const
     {
         int weiter = zeilen + !dazwischen.empty();
         return Erste(zeilen) + dazwischen + Alt.substr(Von(AnfängeAlt, weiter));
     }
 
-    /// Whether a file may end behind so many lines.
+    /// Whether a file may end after this many lines.
     bool DarfEnden(int zeilen) const
     {
         if (datei == DateiKonfig)
@@ -68,7 +68,7 @@ class Schnitt {
         return zeilen >= form.Kopfzeilen() && (zeilen - form.Kopfzeilen()) % form.Satzzeilen() == 0;
     }
 
-    /// Loads `inhalt` over the old filling and expects the failure and the lines that came.
+    /// Loads `inhalt` over the old filling and expects the failure and the lines that were read.
     void Prüfe(const std::string &inhalt, int fehler, int zeilen,
                const std::string &dazwischen = {}) const
     {
@@ -80,8 +80,8 @@ class Schnitt {
             << form.Name << " behind line " << zeilen;
     }
 
-    /// Lines worth a try: all of a small file; of a large one those of the first two records, of
-    /// the last, and some between.
+    /// Lines worth trying: all of a small file; in a large one those of the first two records, of
+    /// the last, and some in between.
     std::vector<int> Zeilen() const
     {
         std::vector<int> zeilen;
@@ -93,7 +93,7 @@ class Schnitt {
         return zeilen;
     }
 
-    /// What a part of line `zeile` (from 0) is taken for: the failure, or the line as written anew.
+    /// How a part of line `zeile` (from 0) is read: the failure, or the line as written again.
     int Teil(int zeile, std::string teil, std::string &zeileNeu) const
     {
         if (teil.ends_with('\r'))
@@ -155,7 +155,7 @@ TEST_P(SchlechteEingaben, AnIrgendeinemByteAbgeschnitten)
 {
     std::mt19937 zufall(12);
     for (int runde = 0; runde < 500; ++runde) {
-        // Half of the cuts among the first lines, where the kinds of fields change.
+        // Half of the cuts are in the first lines, where the kinds of fields change.
         std::size_t bereich =
             runde % 2 == 0 ? schnitt.Neu.size() : std::min<std::size_t>(schnitt.Neu.size(), 3000);
         std::size_t stelle = zufall() % bereich;
@@ -179,7 +179,7 @@ TEST_P(SchlechteEingaben, AnIrgendeinemByteAbgeschnitten)
     }
 }
 
-/// What stands in the place of a value, and the failure it gives for each kind of field.
+/// What replaces a value, and the failure it causes for each kind of field.
 struct Ersatz {
     std::string Text;
     int FürInt16, FürInt32, FürSingle, FürDatum;

@@ -1,4 +1,4 @@
-// The loop counter of the shared routines: what each leaves in it.
+// The loop counter of the shared routines: the value each leaves in it.
 #include "core/SchleifenZähler.h"
 
 #include "Prüfstand.h"

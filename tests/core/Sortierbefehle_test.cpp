@@ -1,5 +1,5 @@
-// Each sort command against the adjacent exchange written out: its table, key, range, scratch
-// record and the fields that move.
+// Each sort command against a written-out adjacent exchange: its table, key, range, scratch record
+// and the fields that move.
 #include "core/SchleifenZähler.h"
 #include "core/Sortierbefehle.h"
 
@@ -28,7 +28,7 @@ struct Abbild {
     bool operator==(const Abbild &) const = default;
 };
 
-/// Gives every field a random value of few, so that keys are often equal.
+/// Gives every field one of a few random values, so that keys are often equal.
 struct Würfeln {
     std::mt19937 &Zufall;
 

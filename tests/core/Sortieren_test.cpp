@@ -8,8 +8,8 @@
 namespace altardienst {
 namespace {
 
-/// A small table: a key of few values, so that many are equal, and a number that tells records
-/// apart; one column stays where it is.
+/// A small table: a key with few values, so that many are equal, and a number that tells records
+/// apart; one column does not move.
 struct Probetabelle {
     static constexpr int HöchsterIndex = 12;
     Spalte<Text, HöchsterIndex> Name;
@@ -31,7 +31,7 @@ Probetabelle Zufallstabelle(std::mt19937 &zufall)
     return tabelle;
 }
 
-/// The sort as it is described: each swap goes through the scratch record.
+/// The sort spelled out: each swap goes through the scratch record.
 void SatzweiseSortieren(Probetabelle &tabelle, const Sortierbereich &bereich)
 {
     auto übernehmen = [&](int ziel, int quelle) {
@@ -66,7 +66,7 @@ TEST(Sortieren, WieSatzFürSatzGetauscht)
     for (int runde = 0; runde < 20000; ++runde) {
         Probetabelle ist = Zufallstabelle(zufall);
         Probetabelle soll = ist;
-        // Any scratch record, also in the middle of the records, and any refill.
+        // Any scratch record, even in the middle of the records, and any refill.
         Sortierbereich bereich = Sortierbereich::Bis(bis(13) - 2, bis(12), bis(13) - 1);
         if (bis(3) == 0)
             bereich = {bis(9), bis(12), false, bis(12), bis(13) - 1};

@@ -1,4 +1,4 @@
-// The sort commands as one sees them: orders, what stays together, what is left behind.
+// The sort commands as the user sees them: orders, what stays together, what is left over.
 #include "core/Sortierbefehle.h"
 
 #include "Prüfstand.h"
@@ -153,7 +153,7 @@ TEST_F(Sortierfolge, VorbesetzteMessenÜberschreibenEintrag202)
     std::swap(MesseDienerFest.Datum[202], MesseDienerFest.Datum[203]);
     MesseDienerFest.Anzahl = 204;
     VorbesetzteMessenSortieren();
-    // The entry that stood first is written over by its neighbour, and then by entry 201.
+    // The entry that came first is overwritten by its neighbour, then by entry 201.
     EXPECT_EQ(MesseDienerFest.Index[201], 201);
     EXPECT_EQ(MesseDienerFest.Index[202], 201);
     EXPECT_EQ(MesseDienerFest.Index[203], 203);

@@ -1,5 +1,5 @@
-// A save that the file system refuses. The right of a file counts for nobody in charge of the
-// machine, so each case runs in a child that has given that up.
+// A save that the file system refuses. File permissions do not bind the superuser, so each case
+// runs in a child process that has given up its privileges.
 #include "core/Allgemein.h"
 
 #include "Prüfstand.h"
@@ -24,7 +24,7 @@ class SpeichernScheitert : public Prüfstand {
     SpeichernScheitert()
     {
         AufFestplatteSpeichern();
-        // The child is somebody else: everything belongs to all.
+        // The child runs as another user, so everyone may write.
         for (fs::path pfad : {Festplatte.parent_path(), Festplatte})
             fs::permissions(pfad, fs::perms::all);
         for (const auto &eintrag : fs::directory_iterator(Festplatte)) {
@@ -37,7 +37,7 @@ class SpeichernScheitert : public Prüfstand {
 
     ~SpeichernScheitert() override { fs::permissions(Festplatte, fs::perms::all); }
 
-    /// The number of the failure of a save, which runs in a child after `vorher`.
+    /// The failure number of a save that runs in a child after `vorher`.
     static int Speichern(const std::function<void()> &vorher)
     {
         pid_t kind = fork();

@@ -1,4 +1,4 @@
-// The tables as they are at the program's start, and their bounds.
+// The tables as they are when the program starts, and their bounds.
 #include "core/Felderlisten.h"
 
 #include "Prüfstand.h"
@@ -10,7 +10,7 @@ namespace {
 
 class Tabellen : public Prüfstand {};
 
-/// A column takes its highest index and no other beyond, nor one below 0.
+/// A column accepts its highest index but none above it, and none below 0.
 template <class Spalte> void PrüfeGrenzen(Spalte &spalte, int höchster, const char *name)
 {
     EXPECT_EQ(NummerDesFehlers([&] { spalte[0]; }), 0) << name;

@@ -1,4 +1,4 @@
-// The line format of the files: how a value looks on its line, and the two ways of taking a line.
+// The line format of the files: how a value looks on its line, and the two ways to take a line.
 #include "core/Zeilen.h"
 
 #include "Prüfstand.h"
@@ -65,7 +65,7 @@ TEST(Zeilen, DieLeereDateiIstAmEnde)
     EXPECT_EQ(NummerDesFehlers([&] { zeilen.Zeile(); }), 62);
 }
 
-/// All values of a content, taken one after the other by delimiters.
+/// All values in a content, taken one by one by delimiters.
 std::vector<std::string> Abgegrenzt(std::string_view inhalt)
 {
     Zeilenleser zeilen(inhalt);

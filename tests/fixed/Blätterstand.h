@@ -17,7 +17,7 @@ class Blätterstand : public Zuordnungsstand {
         ListeÖffnen();
     }
 
-    /// That many entries with no mass; the date tells them apart.
+    /// Makes that many entries without a mass; the date tells them apart.
     void Viele(int anzahl)
     {
         for (int k = 0; k < anzahl; ++k) {
@@ -29,7 +29,7 @@ class Blätterstand : public Zuordnungsstand {
 
     void Taste(Qt::Key taste) const { QTest::keyClick(QApplication::focusWidget(), taste); }
 
-    /// Number, entry of the screen, and whether the table's cursor is there.
+    /// The number, the entry on the screen, and whether the table's cursor is there.
     Text Wo() const
     {
         EXPECT_EQ(ZahlText(MesseDienerFest.Cursor), Zeigt("Index"));
@@ -39,7 +39,7 @@ class Blätterstand : public Zuordnungsstand {
     const Text Null = "0: 22.11.2026,10:00:00 Abel,Kim 4";
     const Text Eins = "1: 22.11.2026,18:00:00 Bauer,Kim 2";
     const Text Zwei = "2: 24.11.2026,08:00:00 Conrad,Kim 3";
-    const Text Leer = "3: 21.11.2026,00:00:00  0"; // the blank entry behind the last one
+    const Text Leer = "3: 21.11.2026,00:00:00  0"; // the blank entry after the last one
 };
 
 } // namespace altardienst

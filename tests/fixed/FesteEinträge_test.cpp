@@ -1,4 +1,4 @@
-// The table of the fixed entries and what it has to do with the masses.
+// The table of the fixed entries and how it relates to the masses.
 #include "fixed/FesteEinträge.h"
 
 #include "Prüfstand.h"
@@ -19,7 +19,7 @@ class FesteEinträgeTest : public Prüfstand {
         MesseDienerFest.Uhrzeit[k] = uhrzeit;
     }
 
-    /// Entry `wer`, with texts of its own in every field, slot 0 too, in record `k`.
+    /// Puts entry `wer`, with texts of its own in every field, slot 0 included, into record `k`.
     static void Füllen(int k, int wer)
     {
         Fest(k, 46000 + wer, ZeitAus(60 * wer));
@@ -32,7 +32,7 @@ class FesteEinträgeTest : public Prüfstand {
         }
     }
 
-    /// Which filled entry stands at `k`, by its first field; all its fields must be of that one.
+    /// Which filled entry is at `k`, by its first field; all its fields must belong to it.
     static int Wer(int k)
     {
         const int wer = MesseDienerFest.Index[k];
@@ -125,7 +125,7 @@ TEST_F(FesteEinträgeTest, LöschenZiehtAlleSpäterenMitJedemSlotVor)
 {
     for (int k = 0; k <= 5; ++k)
         Füllen(k, k + 1);
-    MesseDienerFest.Anzahl = 4; // two filled records lie behind them
+    MesseDienerFest.Anzahl = 4; // two filled records follow
     FestenEintragLöschen(1);
     EXPECT_EQ(MesseDienerFest.Anzahl, 3);
     std::vector<int> folge;
@@ -167,7 +167,7 @@ TEST_F(FesteEinträgeTest, EineZuordnungIstEinMeßdienerOderEineGruppe)
     Gruppe.Anzahl = 1;
     for (const char *text : {"Groß,Anna", "Klein,Karl, jun.", "Tarzisius,Gruppe"})
         EXPECT_TRUE(IstZuordnung(text)) << text;
-    // The records behind the last ones count.
+    // The records after the last ones count.
     EXPECT_TRUE(IstZuordnung(","));
     EXPECT_TRUE(IstZuordnung("Agnes,Gruppe"));
     EXPECT_FALSE(IstZuordnung(",Gruppe"));

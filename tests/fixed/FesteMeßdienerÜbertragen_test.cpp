@@ -1,4 +1,4 @@
-// The carry of the fixed entries into the masses.
+// Carrying the fixed entries over into the masses.
 #include "fixed/FesteMeßdienerÜbertragen.h"
 
 #include "Prüfstand.h"
@@ -45,7 +45,7 @@ TEST_F(FesteMeßdienerÜbertragenTest, ÜberschreibtDenSlotUndLässtLeereSlotsUn
     EXPECT_EQ(Slot(m, 2), "Alt 2");
     EXPECT_EQ(Slot(m, 3), "Alt 3");
     EXPECT_EQ(Slot(m, 19), "Alt 19");
-    EXPECT_EQ(Slot(m, 20), "Zita Zahn"); // far behind the count of the mass
+    EXPECT_EQ(Slot(m, 20), "Zita Zahn"); // far beyond the count of the mass
     for (int k = 0; k <= 20; ++k)
         EXPECT_EQ(Messe.DienerDienst[m][k], "Allgemein");
     EXPECT_EQ(MesseDienerFest.Vorname[0][1], "Anna");

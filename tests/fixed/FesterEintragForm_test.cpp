@@ -1,4 +1,4 @@
-// The road of a fixed entry, from the main window into the plan, and what becomes of it.
+// The path of a fixed entry from the main window into the plan, and what becomes of it.
 #include "fixed/Zuordnungsstand.h"
 
 #include "planning/MessenlisteForm.h"
@@ -40,7 +40,7 @@ class FesterEintragFormTest : public Zuordnungsstand {
         Standardmesse.Dienerzahl[i] = diener;
     }
 
-    /// Step 1 to 7 of the main window; a dialog that opens is `form`.
+    /// Runs step 1 to 7 of the main window; a dialog that opens becomes `form`.
     void Schritt(int nummer, const char *dialog = nullptr)
     {
         const std::array knöpfe = {haupt->Messenorgani,    haupt->Meßdienernern, haupt->Dienstus,
@@ -76,7 +76,7 @@ class FesterEintragFormTest : public Zuordnungsstand {
         ASSERT_EQ(Messe.Anzahl, 3);
     }
 
-    /// Abel into the first slot and a group into the third of the first mass.
+    /// Puts Abel into the first slot of the first mass and a group into the third.
     void Festlegen()
     {
         Schritt(2, "NeuMesseDienerFest");
@@ -94,7 +94,7 @@ class FesterEintragFormTest : public Zuordnungsstand {
         return Messe.DienerVor[m][slot] + " " + Messe.DienerNach[m][slot];
     }
 
-    /// The first mass has its fixed names and in its other slots somebody else.
+    /// The first mass has its fixed names, and other people in its other slots.
     static void ErwarteFesteNamen(const Text &erster, const char *schritt)
     {
         EXPECT_EQ(Slot(0, 1), erster) << schritt;
@@ -198,7 +198,7 @@ TEST_F(FesterEintragFormTest, FolgtDemNeuenNamenSeinesMeßdieners)
     EXPECT_EQ(Gewählt(1), "Abel,Ada");
     knopf = "OKbutton";
     Wählen(2, "Bauer,Kim");
-    EXPECT_EQ(GezeigteMeldungen.size(), 1U); // that the masses are determined, and none since
+    EXPECT_EQ(GezeigteMeldungen.size(), 1U); // the one that the masses are determined, and none since
     Schließen();
     Antworten = {true};
     Schritt(3);

@@ -144,14 +144,15 @@ TEST_F(MesseDienerFestFormBlätternTest, NachDemDrehenStehtDieMesseDesVerlassene
     Drehen("DatensatzWechsel", "ab");
     EXPECT_EQ(Termin(1), "22.11.2026,10:00:00");
     EXPECT_EQ(Wo(), Null);
-    Drehen("DatensatzWechsel", "ab"); // the change of the number holds it
+    Drehen("DatensatzWechsel", "ab"); // the change of the number stores it
     EXPECT_EQ(Wo(), Null);
     Eingeben("Index", "3");
     Drehen("DatensatzWechsel", "auf");
     EXPECT_EQ(Wo().substr(0, 2), "3:");
 }
 
-/// Its change runs while the entry is filled in, with the mass of the one before.
+/// Its change handler runs while the entry is being filled in, still with the mass of the previous
+/// one.
 TEST_F(MesseDienerFestFormBlätternTest, DerZwanzigsteSlotHoltBeimDrehenDenAltenTermin)
 {
     Fest(0, 2);

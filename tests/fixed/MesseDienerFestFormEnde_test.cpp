@@ -9,7 +9,7 @@
 namespace altardienst {
 namespace {
 
-/// With the real main window; messages and questions stand in one list, in their order.
+/// With the real main window; messages and questions go into one list, in order.
 class MesseDienerFestFormEndeTest : public Zuordnungsstand {
   protected:
     MesseDienerFestFormEndeTest()
@@ -218,7 +218,7 @@ TEST_F(MesseDienerFestFormEndeTest, OhneDieListeGehtEsNurZumHauptfensterZurück)
 TEST_F(MesseDienerFestFormEndeTest, EsGibtDieListeNurEinmal)
 {
     Öffnen();
-    HinzuUndZurück(); // after which the main window is enabled too
+    HinzuUndZurück(); // which also enables the main window
     Wählen("MnuMESSDIENZUMESS");
     EXPECT_EQ(Fenster("MesseDienerFest"), form);
     EXPECT_EQ(haupt->isEnabled(), false);
@@ -253,7 +253,7 @@ TEST_F(MesseDienerFestFormEndeTest, ZurückAusEinerAnderenFormZeigtSieDenEintrag
     Zeigen(form);
     EXPECT_EQ(Zeigt("Index"), "0");
     EXPECT_TRUE(FesteZuordnungOffen);
-    Messe.DienerDienst[0][0] = "bleibt"; // the services are distributed on opening only
+    Messe.DienerDienst[0][0] = "bleibt"; // services are only distributed on opening
     Zeigen(andere);
     Zeigen(form);
     EXPECT_EQ(Messe.DienerDienst[0][0], "bleibt");
@@ -270,7 +270,7 @@ TEST_F(MesseDienerFestFormEndeTest, ZurückAusEinerAnderenFormBleibenDieListenWi
     Anlegen(Sonntag + 3, 9, 2, "Andacht");
     Messe.Dienerzahl[0] = 7;
     Zeigen(form);
-    EXPECT_EQ(Zeilen(), 7); // it has noticed its return
+    EXPECT_EQ(Zeilen(), 7); // the form has noticed that it came back
     EXPECT_EQ(MDiener(1)->count(), namen);
     EXPECT_EQ(Kombo("Messen")->count(), messen);
 }

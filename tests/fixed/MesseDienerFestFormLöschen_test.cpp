@@ -35,10 +35,10 @@ TEST_F(MesseDienerFestFormLöschenTest, LöschenAufDemLeerenEintragGehtZurückAu
     Antworten = {true};
     Drücken("Löschen");
     EXPECT_EQ(MesseDienerFest.Anzahl, 2);
-    EXPECT_EQ(Wo(), Zwei); // behind the last one now, but still there
+    EXPECT_EQ(Wo(), Zwei); // after the last one now, but still there
 }
 
-/// The number may stand apart from the entry on the screen while a bad date holds up its change.
+/// The number may differ from the entry on the screen while a bad date holds up its change.
 TEST_F(MesseDienerFestFormLöschenTest, GelöschtWirdDerEintragDerNummer)
 {
     Öffnen(1);

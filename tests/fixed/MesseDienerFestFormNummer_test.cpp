@@ -77,7 +77,7 @@ TEST_F(MesseDienerFestFormNummerTest, WasKeineNummerIstBleibtStehen)
     Drehen("DatensatzWechsel", "auf");
     EXPECT_EQ(Zeigt("Index"), "abc");
     EXPECT_EQ(MesseDienerFest.Cursor, 1);
-    MesseWählen("22.11.2026,10:00:00"); // has no entry for its count
+    MesseWählen("22.11.2026,10:00:00"); // no entry that could take its count
     EXPECT_EQ(MesseDienerFest.Index[1], 2);
     EXPECT_EQ(Zeilen(), 2);
     EXPECT_EQ(GezeigteMeldungen, Liste{});
@@ -93,7 +93,7 @@ TEST_F(MesseDienerFestFormNummerTest, EineLeereNummerGiltAlsNull)
     Drücken("Minus");
     EXPECT_EQ(Wo(), Null);
     Eingeben("Index", "");
-    Drücken("Minus"); // nothing is above the first one
+    Drücken("Minus"); // there is nothing before the first one
     EXPECT_EQ(Wo(), Null);
     Eingeben("Index", "2");
     Eingeben("Index", "");
@@ -102,7 +102,7 @@ TEST_F(MesseDienerFestFormNummerTest, EineLeereNummerGiltAlsNull)
     EXPECT_EQ(MesseDienerFest.Cursor, 2);
 }
 
-/// A number above the limit stands only while a bad date holds up its change.
+/// A number above the limit stays only while a bad date holds up its change.
 TEST_F(MesseDienerFestFormNummerTest, AbNummer600ZeigtPlusKeinenNächstenEintrag)
 {
     for (const auto &[nummer, zeigt] : {std::pair("599", true), {"600", false}, {"601", false}}) {

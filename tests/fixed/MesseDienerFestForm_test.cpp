@@ -104,7 +104,7 @@ TEST_F(MesseDienerFestFormTest, ÖffnenVerteiltDieDiensteAberZeigtDieDesEintrags
     EXPECT_EQ(Messe.DienerDienst[0][0], "Gabenbereitung");
     EXPECT_EQ(Dienst(1), "von früher");
     EXPECT_EQ(Dienst(2), "");
-    Wählen(2, "Abel,Kim"); // any leaving takes them from the mass
+    Wählen(2, "Abel,Kim"); // leaving any box takes them from the mass
     EXPECT_EQ(Dienst(1), "Gabenbereitung");
     EXPECT_EQ(Dienst(2), "Leuchter");
     EXPECT_EQ(MesseDienerFest.Dienst[0][2], "Leuchter");

@@ -87,7 +87,7 @@ TEST_F(NeuMesseDienerFestFormTest, AnfügenSchreibtDenEintragUndGehtAufDieErsteM
     EXPECT_EQ(MesseDienerFest.Anzahl, 2);
     EXPECT_EQ(Termin(1), "23.11.2026,08:00:00");
     EXPECT_EQ(Gespeichert(1, 1), "Kim|Abel");
-    EXPECT_EQ(Gespeichert(1, 2), "|"); // what stood there before is gone
+    EXPECT_EQ(Gespeichert(1, 2), "|"); // what was there before is gone
     EXPECT_EQ(Gespeichert(1, 3), "Gruppe|Agnes");
     EXPECT_EQ(Gespeichert(1, 20), "Kim|Zoller");
     EXPECT_EQ(Gespeichert(1, 0), "alt|alt");
@@ -132,7 +132,7 @@ TEST_F(NeuMesseDienerFestFormTest, EinTerminHatNurEinenEintrag)
     EXPECT_EQ(MesseDienerFest.Anzahl, 2);
 }
 
-/// Leaving the mass takes the count of the last one of its time.
+/// Leaving the mass takes the count of the last mass at its time.
 TEST_F(NeuMesseDienerFestFormTest, DerVorschlagZähltDieDienerDerErstenMesse)
 {
     Anlegen(Sonntag, 10, 7, "Kindermesse");
@@ -177,12 +177,12 @@ TEST_F(NeuMesseDienerFestFormTest, BeiZweihundertIstOhneWortSchluß)
     EXPECT_EQ(GezeigteMeldungen, Liste{});
     MesseWählen("22.11.2026,10:00:00");
     Drücken("Anfügen");
-    EXPECT_EQ(GezeigteMeldungen, Liste{Doppelt}); // which is looked for before the limit
+    EXPECT_EQ(GezeigteMeldungen, Liste{Doppelt}); // which is checked before the limit
 }
 
 TEST_F(NeuMesseDienerFestFormTest, OhneMesseIstEsKeinKorrekterDatensatz)
 {
-    Fest(0, 0); // the empty text is told before the double
+    Fest(0, 0); // the empty text is reported before the duplicate
     Öffnen();
     Verlassen();
     MesseSetzen("");

@@ -1,4 +1,4 @@
-// What both dialogs of the fixed entries do alike: the mass, its date and its time.
+// What both dialogs of the fixed entries have in common: the mass, its date and its time.
 #include "fixed/Zuordnungsstand.h"
 
 #include "core/SchleifenZähler.h"
@@ -157,7 +157,7 @@ TEST_P(ZuordnungenFormMesseTest, GesuchtWirdNurBisZumSchleifenZähler)
     MesseWählen("24.11.2026,08:00:00,Taufe, klein");
     EXPECT_EQ(GezeigteMeldungen, Liste{Unbekannt});
     EXPECT_EQ(Messentext(), "23.11.2026,08:00:00");
-    SchleifenZähler = 603; // beyond the table the search ends without a word
+    SchleifenZähler = 603; // beyond the table the search ends silently
     MesseWählen("gibt es nicht");
     EXPECT_EQ(GezeigteMeldungen, Liste{Unbekannt});
     EXPECT_EQ(Messentext(), "gibt es nicht");
@@ -226,7 +226,7 @@ TEST_P(ZuordnungenFormMesseTest, KeinDatumWirdHeute)
     Eingeben("Zeitd", "00:00:00");
     QTest::keyClick(Feld("DatumD"), Qt::Key_Return);
     EXPECT_EQ(Messentext(), "21.11.2026,00:00:00");
-    Eingeben("DatumD", "0:00:00"); // only the very text
+    Eingeben("DatumD", "0:00:00"); // only exactly this text
     QTest::keyClick(Feld("DatumD"), Qt::Key_Return);
     EXPECT_EQ(Zeigt("DatumD"), "30.12.1899");
 }
@@ -235,7 +235,7 @@ TEST_P(ZuordnungenFormMesseTest, EinKlickAufKeinDatumZeigtDenErstenTag)
 {
     Öffnen();
     Eingeben("DatumD", "00:00:00");
-    Klick(Feld("DatumD")); // writes it as a date before it could become today
+    Klick(Feld("DatumD")); // rewrites it as a date before it can become today
     EXPECT_EQ(AmUm(), "30.12.1899,10:00:00");
     EXPECT_EQ(Messentext(), "30.12.1899,10:00:00");
 }

@@ -1,4 +1,4 @@
-// What both dialogs of the fixed entries do alike: their lists and the checks of a slot.
+// What both dialogs of the fixed entries have in common: their lists and the checks of a slot.
 #include "fixed/Zuordnungsstand.h"
 
 namespace altardienst {
@@ -18,7 +18,7 @@ Liste Einträge(const QComboBox *wahl)
 
 TEST_P(ZuordnungenFormTest, DieListenFolgenDenTabellen)
 {
-    MeßdienerAnlegen("Ada", "Abel"); // behind Zoller: nothing is sorted
+    MeßdienerAnlegen("Ada", "Abel"); // after Zoller: nothing is sorted
     Öffnen();
     EXPECT_EQ(Einträge(Kombo("Messen")),
               (Liste{"22.11.2026,10:00:00,Hochamt", "22.11.2026,18:00:00,Abendmesse",
@@ -45,7 +45,7 @@ TEST_P(ZuordnungenFormTest, EinNameKommtBeimVerlassenInDieFelder)
         const Text name = Meßdiener.Nachname[i];
         FokusAuf(MDiener(i));
         Setzen(i, (name + ",Kim").c_str());
-        // The last slot reacts to each change.
+        // The last slot reacts to every change.
         EXPECT_EQ(Name(i), i == 20 ? "Kim|" + name : "|") << i;
         Verlassen();
         EXPECT_EQ(Name(i), "Kim|" + name) << i;
@@ -96,7 +96,7 @@ TEST_P(ZuordnungenFormTest, DieTastenGehenÜberEinenSchonVergebenenNamenHinweg)
     Öffnen();
     MesseWählen("23.11.2026,08:00:00,");
     Wählen(1, "Lenz,Kim");
-    Setzen(20, "Klein,Kim"); // the slot that reacts to each change
+    Setzen(20, "Klein,Kim"); // the slot that reacts to every change
     FokusAuf(MDiener(20));
     for (const char *name : {"", "Maurer,Kim"}) {
         QTest::keyClick(MDiener(20), Qt::Key_Down);
@@ -106,7 +106,7 @@ TEST_P(ZuordnungenFormTest, DieTastenGehenÜberEinenSchonVergebenenNamenHinweg)
 
 TEST_P(ZuordnungenFormTest, VonZweiGleichenGehenDieTastenWeiter)
 {
-    MeßdienerAnlegen("Kim", "Zoller"); // behind the other one
+    MeßdienerAnlegen("Kim", "Zoller"); // after the other one
     MeßdienerAnlegen("Kim", "Zimmer");
     Öffnen();
     FokusAuf(MDiener(1));
@@ -196,11 +196,11 @@ TEST_P(ZuordnungenFormTest, DerErsteFehlerHältDiePrüfungAn)
     Öffnen();
     Setzen(3, "Niemand,Nina");
     Setzen(4, "Keiner,Karl");
-    Wählen(1, "Abel,Kim"); // any slot that is left checks all of them
+    Wählen(1, "Abel,Kim"); // leaving any slot checks all of them
     EXPECT_EQ(GezeigteMeldungen, Liste{Fehleingabe});
     EXPECT_EQ(Gewählt(3), "");
     EXPECT_EQ(Gewählt(4), "Keiner,Karl");
-    EXPECT_EQ(Name(1), "Kim|Abel"); // the rest goes on
+    EXPECT_EQ(Name(1), "Kim|Abel"); // the rest continues
     EXPECT_EQ(Name(4), "Karl|Keiner");
     Wählen(1, "Abel,Kim");
     EXPECT_EQ(GezeigteMeldungen, (Liste{Fehleingabe, Fehleingabe}));
@@ -279,7 +279,7 @@ TEST_P(ZuordnungenFormTest, OhneEtwasVorDemKommaBleibtDerNachnameStehen)
     Wählen(1, "Abel,Kim");
     Wählen(1, ",Konrad");
     EXPECT_EQ(Name(1), "Konrad|Abel");
-    Wählen(2, ","); // the blank record behind the last server
+    Wählen(2, ","); // the blank record after the last server
     EXPECT_EQ(Name(2), "|");
     EXPECT_EQ(Gewählt(2), ",");
     EXPECT_EQ(GezeigteMeldungen, Liste{});
@@ -292,14 +292,14 @@ TEST_P(ZuordnungenFormTest, VerlassenNimmtTerminUndDiensteAusDemMessentext)
     Wählen(1, "Abel,Kim");
     EXPECT_EQ(AmUm(), "22.11.2026,18:00:00");
     EXPECT_EQ(Dienst(1), "Flambeau");
-    EXPECT_EQ(Zeilen(), 4); // the count comes with leaving `Messen` only
+    EXPECT_EQ(Zeilen(), 4); // the count changes only when `Messen` is left
     MesseSetzen("23.11.2026,18:00:00,gibt es nicht");
     Wählen(1, "Bauer,Kim");
     EXPECT_EQ(AmUm(), "23.11.2026,18:00:00");
     EXPECT_EQ(Dienst(1), "Flambeau"); // without such a mass
     MesseSetzen("am 22.11.2026 um zehn");
     Wählen(1, "Conrad,Kim");
-    EXPECT_EQ(AmUm(), "am 22.11.2,26 um ze"); // whatever stands at these positions
+    EXPECT_EQ(AmUm(), "am 22.11.2,26 um ze"); // whatever is at these positions
     EXPECT_EQ(Name(1), "Kim|Conrad");
     EXPECT_EQ(GezeigteMeldungen, Liste{});
 }

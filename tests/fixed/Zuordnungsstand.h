@@ -47,7 +47,7 @@ class Zuordnungsstand : public Formstand {
         return m;
     }
 
-    /// Entry `k` for mass `m`: these surnames from slot 1 on.
+    /// Makes entry `k` for mass `m`: these surnames from slot 1 on.
     static void Fest(int k, int m, const Liste &namen = {})
     {
         MesseDienerFest.Datum[k] = Messe.Datum[m];
@@ -83,7 +83,7 @@ class Zuordnungsstand : public Formstand {
     void Setzen(int i, const char *text) const { altardienst::Setzen(MDiener(i), text); }
     void MesseSetzen(const char *text) const { altardienst::Setzen(Kombo("Messen"), text); }
 
-    /// Somewhere without a handler for being left.
+    /// Moves the focus to a control without a handler for being left.
     void Verlassen() const { FokusAuf(Finden(form, knopf)); }
 
     void Wählen(int i, const char *text) const
@@ -99,7 +99,7 @@ class Zuordnungsstand : public Formstand {
         Verlassen();
     }
 
-    /// "Vorname|Nachname" beside a slot, and in the table.
+    /// "Vorname|Nachname" next to a slot, and in the table.
     Text Name(int i) const
     {
         return Zeigt(Nr("MDV", i).c_str()) + "|" + Zeigt(Nr("MDN", i).c_str());
@@ -116,7 +116,7 @@ class Zuordnungsstand : public Formstand {
     Text Dienst(int i) const { return Zeigt(Nr("ME", i).c_str()); }
     Text AmUm() const { return Zeigt("DatumD") + "," + Zeigt("Zeitd"); }
 
-    /// How many rows of slots show; they stand together from the first one on.
+    /// How many rows of slots are visible; they are contiguous from the first one on.
     int Zeilen() const
     {
         int zahl = 0;
@@ -133,12 +133,12 @@ class Zuordnungsstand : public Formstand {
     const Text Unbekannt = "Messe ist unbekannt!! Auswählen oder neu eingeben!!";
 };
 
-/// Both dialogs, which have their fields in common: `Name` as on the screen.
+/// The two dialogs, which share their fields: `Name` is the one on the screen.
 enum class Dialog { MesseDienerFest, NeuMesseDienerFest };
 
 class BeideZuordnungen : public Zuordnungsstand, public ::testing::WithParamInterface<Dialog> {
   protected:
-    /// On mass 0: an entry without names, or the proposal.
+    /// Opens on mass 0: an entry without names, or the proposal.
     void Öffnen()
     {
         if (IstListe()) {

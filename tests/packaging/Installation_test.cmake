@@ -1,5 +1,5 @@
 # Installs a build into an empty directory: everything is there, and the desktop entry names a
-# program and a symbol that exist.  cmake -D BAU=<build directory> -D ZIEL=<directory> -P ...
+# program and an icon that exist. cmake -D BAU=<build directory> -D ZIEL=<directory> -P ...
 file(REMOVE_RECURSE ${ZIEL})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BAU} --prefix ${ZIEL}
     OUTPUT_QUIET RESULT_VARIABLE ergebnis)

@@ -1,4 +1,4 @@
-// Where the print dialog lets a report go: a printer of the system, or a PDF file.
+// Where the print dialog can send a report: a printer of the system, or a PDF file.
 #include "paper/Druckdialog.h"
 
 #include "Fensterstand.h"
@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The disk is the home of the user; there is the directory Berichte.
+/// The disk is the user's home; it has the directory Berichte.
 class DruckdialogZielTest : public Fensterstand {
   protected:
     DruckdialogZielTest() : heim(qgetenv("HOME"))
@@ -35,14 +35,14 @@ class DruckdialogZielTest : public Fensterstand {
     bool IstAn(const char *name) const { return Finden(dialog.get(), name)->isEnabled(); }
     Text Zeigt(const char *name) const { return Aufschrift(Finden(dialog.get(), name)); }
 
-    /// Types the name of a PDF file; whether it may be chosen.
+    /// Types the name of a PDF file; true if it may be chosen.
     bool Geht(const Text &name) const
     {
         Tippen(dialog->PdfDatei, name.c_str());
         return dialog->OKButton->isEnabled();
     }
 
-    /// Presses Enter in the box; whether the dialog ends with it.
+    /// Presses Enter in the box; true if that accepts the dialog.
     bool Genommen() const
     {
         QTest::keyClick(dialog->PdfDatei, Qt::Key_Return);
@@ -122,7 +122,7 @@ TEST_F(DruckdialogZielTest, EineVorhandeneDateiWirdNurNachEinerFrageErsetzt)
     EXPECT_EQ(GestellteFragen.size(), 2U);
 }
 
-// The same file is asked for when it is named without its ending.
+// The same file is asked about when it is named without its extension.
 TEST_F(DruckdialogZielTest, GefragtWirdNachDerDateiDieGeschriebenWird)
 {
     DateiSchreiben(Festplatte / "Plan.pdf", "alt");

@@ -29,7 +29,7 @@ class DruckdialogTest : public Fensterstand {
         return Finden<QRadioButton>(dialog.get(), name);
     }
 
-    /// Shows the dialog as a report does, and does this with it.
+    /// Shows the dialog as a report does and runs the action on it.
     static std::optional<Druckauswahl> Ablauf(const std::function<void(QDialog *)> &eingabe)
     {
         QTimer::singleShot(1, [eingabe] {
@@ -157,7 +157,7 @@ TEST_F(DruckdialogTest, AlleTexteSindDeutschUndTabFolgtDemAuge)
     FokusAuf(Control("Pdf"));
     EXPECT_EQ(Tabfolge(dialog.get()), (std::vector<Text>{"Pdf", "PdfDatei", "Durchsuchen",
                                                          "ErsteForm", "OKButton", "CancelButton"}));
-    // The inner box of `Kopien`, which has the name of the whole.
+    // The inner box of `Kopien`, which carries the name of the whole control.
     EXPECT_EQ(Stumme(dialog.get()), std::vector<Text>{"qt_spinbox_lineedit"});
     EXPECT_EQ(Control("Kopien")->accessibleName(), "Kopien");
 }

@@ -1,4 +1,4 @@
-// The printer on Qt: what stands in the PDF that it makes, read back.
+// The printer on Qt: the PDF that it makes, read back.
 #include "paper/DruckerQt.h"
 
 #include "Fensterstand.h"
@@ -156,7 +156,7 @@ TEST_F(DruckerQtTest, AlleSchriftenSindEingebettetUndFettUndKursivEcht)
         EXPECT_NE(schriften.find(name), Text::npos) << schriften;
 }
 
-/// The longest run of dark dots in any row of the picture.
+/// The longest run of dark pixels in any row of the picture.
 int LängsterStrich(const QImage &bild)
 {
     int längster = 0;
@@ -209,7 +209,7 @@ TEST_F(DruckerQtTest, EineNeueSeiteBeginntOben)
     EXPECT_NEAR(Fertig().Wort("b").Oben, 0, 1);
 }
 
-/// The fonts in the document, one to a line.
+/// The fonts in the document, one per line.
 QStringList Schriften(const QString &datei)
 {
     return Anzeige(Aufruf("pdffonts", {datei})).trimmed().split('\n').mid(2);
@@ -234,7 +234,7 @@ TEST_F(DruckerQtTest, AufDerNeuenSeiteGehtDieSchriftWeiter)
     EXPECT_EQ(schriften.size(), 2) << schriften.join('\n').toStdString();
 }
 
-// As in the list of birthdays, which leaves the font as the report before it set it.
+// As in the list of birthdays, which keeps the font that the previous report set.
 TEST_F(DruckerQtTest, DieSchriftBleibtInDasNächsteDokument)
 {
     drucker.FontName("Liberation Serif");

@@ -1,4 +1,4 @@
-// The fixtures of the tests of what a report leaves behind: PDF files, or paper.
+// The fixtures of the tests of what a report produces: PDF files, or paper.
 #pragma once
 
 #include "Prüfstand.h"

@@ -1,5 +1,5 @@
-// Where a report goes on the printer on Qt: files that are whole or not there at all, printers that
-// vanish, bad settings.
+// Where a report goes on the printer on Qt: files that are complete or not there at all, printers
+// that disappear, bad settings.
 #include "paper/Druckziel.h"
 
 #include "printing/Listen.h"
@@ -83,7 +83,7 @@ TEST_F(DruckzielTest, WoNichtGeschriebenWerdenKannEndetDerBerichtStill)
         WunschpartnerlisteDrucken();
         EtikettengrößenDrucken();
     }
-    datei.clear(); // an empty name is no way to the system's printer
+    datei.clear(); // an empty name does not lead to the system's printer
     WunschpartnerlisteDrucken();
     EXPECT_EQ(Dateien(), QStringList{});
     EXPECT_TRUE(fs::is_directory(Festplatte / "Verzeichnis.pdf"));
@@ -102,7 +102,7 @@ TEST_F(DruckzielTest, EinDruckerDerVerschwindetEndetDenBerichtStill)
     WunschpartnerlisteDrucken();
     EXPECT_TRUE(GezeigteMeldungen.empty());
 
-    // One that another painter still holds cannot begin either.
+    // A printer that another painter still uses cannot begin either.
     ziel = PdfDrucker(datei);
     QPainter anderer(ziel.get());
     WunschpartnerlisteDrucken();

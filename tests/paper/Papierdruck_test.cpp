@@ -1,4 +1,4 @@
-// A report that fails: nothing of it comes out of the printer, and the next one is as ever.
+// A report that fails: none of it comes out of the printer, and the next one prints as usual.
 #include "paper/Druckziel.h"
 
 #include "paper/Papierdrucker.h"
@@ -19,7 +19,7 @@ class PapierdruckTest : public DruckzielTest {
         MesseMitDienern(Heute, 1);
     }
 
-    /// A failure behind the title, which the report writes in a font of its own.
+    /// A failure after the title, which the report writes in a font of its own.
     static void Scheitern(void (*bericht)())
     {
         const Int16 größe = std::exchange(Konfig.Schriftgröße, 0);
@@ -48,7 +48,7 @@ TEST_F(PapierdruckTest, EinFehlerHinterDemTitelLässtNichtsHeraus)
     EXPECT_EQ(Werk.Aufträge, 1);
     EXPECT_EQ(Werk.Seiten, 1);
     ASSERT_FALSE(Werk.Zeilen.empty());
-    EXPECT_EQ(Werk.Zeilen.front(), "Messen der Pfarrei St. Ägid"); // of the second one alone
+    EXPECT_EQ(Werk.Zeilen.front(), "Messen der Pfarrei St. Ägid"); // of the second one only
     EXPECT_EQ(std::ranges::count(Werk.Zeilen, Werk.Zeilen.front()), 1);
 }
 
@@ -96,7 +96,7 @@ TEST_F(PapierdruckTest, NachEinerGescheitertenQuerenListeStehtDieSeiteWiederHoch
     }
     ziel = nullptr;
     const QString gut = std::exchange(datei, "/gibt/es/nicht.pdf");
-    AlleMeßdienerDrucken(); // fails only when it is given out
+    AlleMeßdienerDrucken(); // fails only when it is sent to the printer
     datei = gut;
     EXPECT_NEAR(Planbreite(), 595, 1);
 }

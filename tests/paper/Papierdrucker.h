@@ -1,4 +1,4 @@
-// A printer of paper that takes every job at once and gives nothing back, as a queue does.
+// A paper printer that takes every job at once and gives nothing back, as a queue does.
 #pragma once
 
 #include "values/Text.h"
@@ -12,7 +12,7 @@
 
 namespace altardienst {
 
-/// Counts what arrives. A job that was begun comes out, whether it is given up or not.
+/// Counts what arrives. A job once begun is printed, whether it is aborted or not.
 class Papierwerk : public QPaintEngine, public QPrintEngine {
   public:
     Papierwerk() : QPaintEngine(QPaintEngine::AllFeatures) {}
@@ -22,7 +22,7 @@ class Papierwerk : public QPaintEngine, public QPrintEngine {
     std::vector<Text> Zeilen;
     bool Gestört = false;
 
-    // The page that is drawn.
+    // Drawing the page.
     bool begin(QPaintDevice *) override
     {
         ++Aufträge;
@@ -45,7 +45,7 @@ class Papierwerk : public QPaintEngine, public QPrintEngine {
     }
     Type type() const override { return User; }
 
-    // The printer.
+    // The printer side.
     void setProperty(PrintEnginePropertyKey welche, const QVariant &wert) override
     {
         eigenschaften[welche] = wert;
