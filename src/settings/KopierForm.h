@@ -20,7 +20,7 @@ namespace altardienst {
 struct Kopierdialog {
     const char *Name;
     const char *Titel;
-    bool Hinaus;         // from the program's directory to the one picked; otherwise the other way round
+    bool Hinaus;         // from the program's directory to the one picked, or the reverse
     void (*NachKopie)(); // after the copy, before the form goes
 };
 
