@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
-# Fails where a source differs from its format or clang-tidy finds something. Both are pinned to
-# version 14: another one formats differently.
+# Fails if a source file is not formatted or clang-tidy finds something. Both are pinned to version
+# 14, since other versions format differently.
 #   tools/lint.sh          everything
-#   tools/lint.sh FILE...  clang-tidy over these files alone
+# tools/lint.sh FILE... clang-tidy over these files only
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 mapfile -d '' sources < <(find src tests tools bench fuzz \( -name '*.cpp' -o -name '*.h' \) -print0)
 clang-format-14 --dry-run --Werror "${sources[@]}"
 
-# A compile database of its own: clang cannot read what another compiler has precompiled.
+# A separate compile database: clang cannot read headers that another compiler has precompiled.
 cmake --preset dev -B build/lint -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
 if [ $# -eq 0 ]; then
     mapfile -d '' files < <(find src tools -name '*.cpp' -print0)

@@ -152,7 +152,7 @@ TEST_F(FesteEinträgeTest, EinEintragIstDoppeltWennDatumUndUhrzeitStimmen)
     MesseDienerFest.Anzahl = 2;
     EXPECT_TRUE(HatFestenEintrag(Sonntag, Zehn));
     EXPECT_TRUE(HatFestenEintrag(Sonntag + 1, Zehn));
-    EXPECT_FALSE(HatFestenEintrag(Sonntag + 2, Zehn)); // behind the last one
+    EXPECT_FALSE(HatFestenEintrag(Sonntag + 2, Zehn)); // after the last one
     EXPECT_FALSE(HatFestenEintrag(Sonntag, ZeitAus(35999)));
     MesseDienerFest.Anzahl = 0;
     EXPECT_FALSE(HatFestenEintrag(Sonntag, Zehn));

@@ -198,7 +198,7 @@ TEST_F(FesterEintragFormTest, FolgtDemNeuenNamenSeinesMeßdieners)
     EXPECT_EQ(Gewählt(1), "Abel,Ada");
     knopf = "OKbutton";
     Wählen(2, "Bauer,Kim");
-    EXPECT_EQ(GezeigteMeldungen.size(), 1U); // the one that the masses are determined, and none since
+    EXPECT_EQ(GezeigteMeldungen.size(), 1U); // about the masses, and none since
     Schließen();
     Antworten = {true};
     Schritt(3);

@@ -1,5 +1,5 @@
-// The editors of the people when the dialog that adds a record cannot be made: the failure is told,
-// and the editor stays in front and in use.
+// The editors of the people when the dialog that adds a record cannot be created: the failure is
+// shown, and the editor stays in front and usable.
 #include "people/Personenfenster.h"
 #include "platform/Uhr.h"
 
@@ -38,7 +38,7 @@ TEST_F(AnlegenScheitertForm, WasNiemandErwartetLäßtDenEditorStehen)
           {"Helfer", "NeuHelfer", "NeuerHelfer"}}) {
         SCOPED_TRACE(fenster);
         Öffnen(fenster);
-        Uhr.Heute = []() -> Datum { throw std::bad_alloc(); }; // wanted for the proposals
+        Uhr.Heute = []() -> Datum { throw std::bad_alloc(); }; // needed for the proposals
         Drücken(knopf);
         Uhr.Heute = heute;
         EXPECT_TRUE(Warten([&] { return GezeigteMeldungen.size() == 1; }));

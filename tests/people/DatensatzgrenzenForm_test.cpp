@@ -41,7 +41,7 @@ TEST_F(DatensatzgrenzenForm, DieNummerEndetBeimLetztenDatensatz)
     for (const Editorfall &fall : Fälle()) {
         SCOPED_TRACE(fall.Fenster);
         fall.Bezeichnung(fall.Letzter) = "Letzter";
-        ÖffnenBei(fall, fall.Letzter, 0); // one more would be the place behind the blank slot
+        ÖffnenBei(fall, fall.Letzter, 0); // one more would be the place after the blank slot
         for (const Text &getippt : {ZahlText(fall.Letzter + 1), Text("40000"), Text("3000000000"),
                                     Text("999999999999999")}) {
             Schreiben(fall.Nummer, "0");

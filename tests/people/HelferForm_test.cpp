@@ -118,7 +118,7 @@ TEST_F(HelferFormTest, OhneBeideNamenSpeichertNurDasSchließfeld)
         EXPECT_EQ(Helfer.Straße[1], "Gasse 1");
     }
     leeren();
-    Drücken("PLUS"); // shows the next helper, whom closing then writes where he belongs
+    Drücken("PLUS"); // shows the next helper, whom closing then writes to his own record
     form->close();
     EXPECT_EQ(Helfer.Straße[1] + "," + Helfer.Straße[2], "Gasse 1,Weg 2");
     leeren();
@@ -150,7 +150,7 @@ TEST_F(HelferFormTest, GespeichertWirdBeimCursorNichtBeiDerNummer)
     Öffnen(1);
     Schreiben("Indexen", "x");
     Schreiben("Weg", "Gasse 1");
-    form->close(); // without the guard, which would want the number
+    form->close(); // without the check, which would need the number
     EXPECT_EQ(Helfer.Straße[1], "Gasse 1");
     Öffnen(1);
     Schreiben("Indexen", "x");

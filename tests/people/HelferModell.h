@@ -6,7 +6,7 @@
 namespace altardienst {
 
 struct HelferModell : Modellschirm {
-    static constexpr int Sätze = 30; // of the table that the walk reaches
+    static constexpr int Sätze = 30; // of the table, as far as the walk reaches
     static constexpr int Felder = 16;
     static constexpr const char *Arten = "TTTLTTTDTTDDDDDD";
     static constexpr std::array<const char *, Felder> Boxen = {
@@ -16,7 +16,7 @@ struct HelferModell : Modellschirm {
     std::vector<std::vector<Text>> Satz;
     int Anzahl = 0;
     int Cursor = 0;
-    std::vector<Text> Plätze; // first name and surname in turn
+    std::vector<Text> Plätze; // first name and surname alternating
 
     static std::vector<Text> AllePlätze()
     {

@@ -17,12 +17,12 @@ template <class Form, class Modell> class Lauf : public Fensterstand {
   protected:
     explicit Lauf(unsigned saat) : wanderer(saat) {}
 
-    /// Does one thing to the window and the same to the model, and says so in `zuletzt`.
+    /// Does one thing to the window and the same to the model, and notes it in `zuletzt`.
     virtual void Handlung() = 0;
-    /// Tables and window are as the model has them.
+    /// Expects tables and window to match the model.
     virtual void Vergleichen() = 0;
 
-    /// Opens the window over the tables as they stand.
+    /// Opens the window on the tables as they are.
     void Beginnen()
     {
         Öffnen();
@@ -67,7 +67,7 @@ template <class Form, class Modell> class Lauf : public Fensterstand {
 
     int Richtung() { return wanderer.Wurf(2) * 2 - 1; }
 
-    /// One record on or back; whether with the spin button.
+    /// Moves one record forward or back; true if by the spin button.
     bool Geblättert(int richtung)
     {
         const bool drehen = wanderer.Wurf(2) == 0;
@@ -88,7 +88,8 @@ template <class Form, class Modell> class Lauf : public Fensterstand {
         zuletzt += "löschen";
     }
 
-    /// Fills the dialog that this button opens, and mostly presses OK; then the model runs `neu`.
+    /// Fills in the dialog that this button opens and usually presses OK; then the model runs
+    /// `neu`.
     void Anlegen(const char *knopf, const char *dialog,
                  const std::vector<std::pair<const char *, Text>> &boxen,
                  const std::function<void()> &neu)
@@ -109,7 +110,7 @@ template <class Form, class Modell> class Lauf : public Fensterstand {
         Wanderer::Aufräumen();
     }
 
-    /// By the button or by the window's own close; opens it again if it went.
+    /// Closes the window by the button or its close box; reopens it if it closed.
     void Schließen()
     {
         const bool ende = wanderer.Wurf(2) == 0;
@@ -127,7 +128,7 @@ template <class Form, class Modell> class Lauf : public Fensterstand {
         modell.Öffnen();
     }
 
-    /// All boxes, and what was told.
+    /// Compares all boxes, and the messages shown.
     void SchirmVergleichen()
     {
         for (const auto &[box, text] : modell.Texte)

@@ -8,7 +8,7 @@ namespace {
 
 struct Modell : Modellschirm {
     std::vector<Text> Namen;
-    std::vector<Text> Diener; // the groups of the servers, the blank slot's too
+    std::vector<Text> Diener; // the groups of the servers, including the blank slot's
     int Anzahl = 0;
     int Cursor = 0;
 
@@ -103,7 +103,7 @@ struct Modell : Modellschirm {
             if (Anzahl > 2) {
                 Namen.erase(Namen.begin() + i);
                 Namen.insert(Namen.begin() + Anzahl + 1,
-                             N(Anzahl)); // the last one stays behind too
+                             N(Anzahl)); // the last one also stays in its place
                 --Anzahl;
                 Texte["GBezeichnung"] = N(Cursor);
             }

@@ -1,4 +1,5 @@
-// The editor of the servers through its window: records, renames, deletes, adoption.
+// The editor of the servers through its window: records, renaming, deleting, adding by the blank
+// slot.
 #include "people/MeßdienerForm.h"
 
 #include "people/Personenstand.h"
@@ -34,7 +35,7 @@ TEST_F(MeßdienerFormTest, ÖffnetAufDemCursorUndBegrenztIhn)
     EXPECT_EQ(Gezeigt("MaxIndex"), "3");
     EXPECT_EQ(Konfig.PlzOrt, "48999 Beispielort");
     delete form;
-    Öffnen(9); // beyond the place behind the blank slot
+    Öffnen(9); // beyond the place after the blank slot
     EXPECT_EQ(Gezeigt("Datensätze"), "3");
     EXPECT_EQ(Meßdiener.Cursor, 3);
     EXPECT_EQ(Meßdiener.Anzahl, 3);
@@ -116,7 +117,7 @@ TEST_F(MeßdienerFormTest, DerLeerePlatzSelbstDarfOhneNamenBleiben)
     Drücken("MINUS");
     EXPECT_EQ(Gezeigt("Vornamen"), "Cem");
     EXPECT_EQ(Meßdiener.Anzahl, 3);
-    Meßdiener.Vorname[3] = "Dora"; // stored, but never adopted
+    Meßdiener.Vorname[3] = "Dora"; // stored, but never added
     Meßdiener.Nachname[3] = "Dorn";
     Schreiben("Datensätze", "3");
     Schreiben("Vornamen", "");
@@ -348,7 +349,7 @@ TEST_F(MeßdienerFormTest, DieBestätigungDrucktWasAufDemSchirmSteht)
     Gruppe.Bezeichnung[0] = "Rot";
     Gruppe.Anzahl = 1;
     Öffnen();
-    Schreiben("Gebutag", "03.04.2015"); // not the day that is printed
+    Schreiben("Gebutag", "03.04.2015"); // not the day printed
     for (const auto &[box, text] : std::initializer_list<std::pair<const char *, const char *>>{
              {"Vornamen", "Änne"},
              {"Nachnamen", "Öhler"},
@@ -364,7 +365,7 @@ TEST_F(MeßdienerFormTest, DieBestätigungDrucktWasAufDemSchirmSteht)
     for (const Text &zeile : Papier.Zeilen)
         if (zeile.starts_with("Print \"") && zeile.size() > 8)
             gedruckt.push_back(zeile.substr(7, zeile.size() - 8));
-    ASSERT_GE(gedruckt.size(), 6U); // the town of the parish stands above
+    ASSERT_GE(gedruckt.size(), 6U); // the town of the parish is above it
     EXPECT_EQ(std::vector<Text>(gedruckt.begin() + 1, gedruckt.begin() + 6),
               (std::vector<Text>{"Änne Öhler", "Ufer 7", "12345 Neustadt",
                                  "Aufgenommen am: 05.06.2026", "In Gruppe: Rot"}));

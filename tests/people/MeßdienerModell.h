@@ -5,7 +5,7 @@
 
 namespace altardienst {
 
-inline constexpr int Sätze = 30; // of the table that the walk reaches
+inline constexpr int Sätze = 30; // of the table, as far as the walk reaches
 inline constexpr int Felder = 27;
 inline constexpr const char *Arten = "TTTLTTTDTNDTTTDDDDDDDDDDTTN";
 inline const std::array<const char *, Felder> Boxen = {

@@ -31,7 +31,7 @@ class MeßdienerRegelnTest : public Personenstand {
     Text Wunsch() { return Gezeigt("VName") + "/" + Gezeigt("NName") + "/" + Gezeigt("Partner"); }
 };
 
-// On a small screen it may lie outside of what is in view.
+// On a small screen it may be outside the visible part.
 TEST_F(MeßdienerRegelnTest, DasFeldDasEinSpeichernAnhältRolltInsBild)
 {
     form->resize(400, 300);
@@ -296,7 +296,7 @@ TEST_F(MeßdienerRegelnTest, AuchDerLeerePlatzVergibtSeinenPartner)
 TEST_F(MeßdienerRegelnTest, EinKommaAmAnfangTrenntNichts)
 {
     Auswählen("Berg,Bea");
-    Schreiben("Partner", ","); // how the blank slot reads
+    Schreiben("Partner", ","); // what the blank slot looks like
     Verlassen("Partner");
     EXPECT_EQ(Wunsch(), "Bea/Berg/,");
     EXPECT_TRUE(GezeigteMeldungen.empty());

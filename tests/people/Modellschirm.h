@@ -1,5 +1,5 @@
 // A small model of a form's boxes for the random walks: texts by control name and the rules that
-// run when a text changes, written anew from what the boxes promise.
+// run when a text changes, written independently from what the boxes promise.
 #pragma once
 
 #include "Fensterstand.h"
@@ -32,7 +32,7 @@ class Modellschirm {
   public:
     std::map<Text, Text> Texte;
     std::map<Text, std::function<void()>> Regeln;
-    std::vector<Text> Meldungen; // that must have been shown
+    std::vector<Text> Meldungen; // that should have been shown
 
     void Setzen(const Text &box, const Text &text)
     {
@@ -101,7 +101,7 @@ class Modellschirm {
         };
     }
 
-    /// One step of a date box; `einheit` 0 day, 1 month, 2 year.
+    /// Steps a date box once; `einheit` 0 day, 1 month, 2 year.
     void Schritt(const Text &box, int einheit, int richtung)
     {
         Versuch([&] {
@@ -146,7 +146,8 @@ class Modellschirm {
         });
     }
 
-    /// What a save makes of a text: T text, L and N whole numbers, D date. Fails as the save does.
+    /// What a save makes from a text: T text, L and N whole numbers, D date. Fails as the save
+    /// does.
     static Text Gespeichert(char art, const Text &text)
     {
         switch (art) {
@@ -162,7 +163,7 @@ class Modellschirm {
     }
 };
 
-/// A field of a record as the boxes show it.
+/// A field of a record as its box shows it.
 inline Text Feldtext(const Text &feld)
 {
     return feld;
@@ -192,7 +193,7 @@ template <class Tabelle> std::vector<Text> Datensatz(Tabelle &t, int i)
     return felder;
 }
 
-/// All records of a table, the scratch record too.
+/// All records of a table, including the scratch record.
 template <class Tabelle> std::vector<std::vector<Text>> AlleDatensätze(Tabelle &t)
 {
     std::vector<std::vector<Text>> alle;

@@ -19,7 +19,7 @@ class NeuGruppeFormTest : public Personenstand {
         Zeigen(editor);
     }
 
-    /// From here on `form` is the dialog.
+    /// From now on `form` is the dialog.
     void Öffnen()
     {
         Klick(Finden(editor, "NEWGroup"));

@@ -12,7 +12,7 @@ class PartnerlisteForm : public Personenstand {
   protected:
     PartnerlisteForm()
     {
-        MeßdienerAnlegen("Cem", "Cohn"); // not in the order of the alphabet
+        MeßdienerAnlegen("Cem", "Cohn"); // not in alphabetical order
         MeßdienerAnlegen("Anna", "Adler");
         MeßdienerAnlegen("", "Namenlos");
         MeßdienerAnlegen("Bea", "Berg");
@@ -109,7 +109,7 @@ TEST_F(PartnerlisteForm, DieTastenGehenÜberAbgelehnteHinweg)
     EXPECT_EQ(Gezeigt("Partner"), "Berg,Bea");
     for (const Namen &erwartet : {Namen{schon}, Namen{selbst}, Namen{}}) {
         QTest::keyClick(C("Partner"),
-                        Qt::Key_Up); // the third time it is at the first entry already
+                        Qt::Key_Up); // the third time it is already at the first entry
         EXPECT_EQ(GezeigteMeldungen, erwartet);
         EXPECT_EQ(Gezeigt("Partner"), "");
         GezeigteMeldungen.clear();
@@ -150,7 +150,7 @@ TEST_F(PartnerlisteForm, InEinerNeuenListeOderNachDemTippenBeginnenDieTastenVorn
     QTest::keyClick(C("Partner"), 'x');
     QTest::keyClick(C("Partner"), Qt::Key_Backspace);
     bisAnna();
-    QTest::keyClick(form, Qt::Key_PageUp); // to the next record, with the names as they are then
+    QTest::keyClick(form, Qt::Key_PageUp); // to the next record, with its names as they are by then
     QTest::keyClick(form, Qt::Key_PageDown);
     EXPECT_EQ(Gezeigt("Datensätze"), "1");
     bisAnna();

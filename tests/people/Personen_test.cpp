@@ -1,4 +1,4 @@
-// Renames that reach every place which names the person or group, and deletes that take exactly one
+// Renaming reaches every place that names the person or group, and deleting removes exactly one
 // record: every column of every record against a model.
 #include "people/Personen.h"
 
@@ -79,7 +79,7 @@ TEST_F(PersonenTest, LöschenEinesMeßdienersLeertDieWünscheNachIhm)
     Meßdiener.WunschVorname[0] = Meßdiener.WunschVorname[3] = "Bea";
     Meßdiener.WunschNachname[0] = Meßdiener.WunschNachname[3] = "Adler";
     Meßdiener.WunschVorname[2] = "Bea";
-    Meßdiener.WunschNachname[2] = "adler"; // someone else: capitals count
+    Meßdiener.WunschNachname[2] = "adler"; // someone else: case matters
     MesseMitDienern(Heute, 2);
     Messe.DienerVor[0][1] = "Bea";
     Messe.DienerNach[0][1] = "Adler";
@@ -142,7 +142,7 @@ TEST_F(PersonenTest, UmbenennenEinesMeßdienersErreichtWünscheMessenUndFesteEin
             Messe.DienerVor[m][s] = MesseDienerFest.Vorname[m][s] = "Anna";
             Messe.DienerNach[m][s] = MesseDienerFest.Nachname[m][s] = s == 7 ? "adler" : "Adler";
         }
-    Messe.DienerVor[4][1] = "Anna"; // behind the blank slot
+    Messe.DienerVor[4][1] = "Anna"; // after the blank slot
     Messe.DienerNach[4][1] = "Adler";
     MeßdienerUmbenennen(0, {"Änne", "Öhler"});
     EXPECT_EQ(Meßdiener.Vorname[0], "Anna") << "the record itself is written by the save";

@@ -1,4 +1,4 @@
-// The six windows of the people over one small parish, for what holds in all of them.
+// The six windows of the people on one small parish, for what all of them have in common.
 #pragma once
 
 #include "people/GruppeForm.h"
@@ -37,7 +37,7 @@ class Personenfenster : public Personenstand {
                 (*spalte)[i] = Heute;
     }
 
-    /// Opens the window of that name, a dialog from its editor.
+    /// Opens the window with that name; a dialog is opened from its editor.
     void Öffnen(const Text &name)
     {
         delete form;

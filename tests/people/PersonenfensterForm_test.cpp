@@ -8,8 +8,8 @@ namespace {
 
 using Menge = std::multiset<Text>;
 
-/// "control: caption" for each button and for each label that belongs to a control, the caption
-/// alone for the others.
+/// "control: caption" for each button and for each label that belongs to a control, just the
+/// caption for the others.
 Menge Aufschriften(const QWidget *fenster)
 {
     Menge alle;
@@ -231,7 +231,7 @@ TEST_F(PersonenfensterForm, GeschlechtUndDiensteHabenIhreListen)
 {
     const std::vector<Text> geschlechter = {"männlich", "weiblich"};
     const std::vector<Text> dienste = {"Lektor", "Kommunionhelfer", "Kantor", "Kollektant"};
-    const std::vector<Text> gruppen = {"Rot", "Blau", "Grün", ""}; // the blank slot too
+    const std::vector<Text> gruppen = {"Rot", "Blau", "Grün", ""}; // including the blank slot
     for (const char *fenster : {"Meßdiener", "NeuMeßdiener"}) {
         SCOPED_TRACE(fenster);
         Öffnen(fenster);

@@ -14,7 +14,7 @@
 
 namespace altardienst {
 
-/// Boxes are set at once; what typing and focus do to them is the affair of the tests that say so.
+/// Boxes are set directly; what typing and focus do to them is left to the tests about that.
 class Personenstand : public Fensterstand {
   protected:
     Personenstand() : zuvor(std::exchange(Drucker, &Papier)) {}

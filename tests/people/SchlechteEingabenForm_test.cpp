@@ -1,5 +1,5 @@
-// What people paste into boxes, in every box of the six windows: what the box shows, what is
-// stored, and which saves it stops.
+// Odd input pasted into every box of the six windows: what the box shows, what is stored, and which
+// saves it stops.
 #include "people/Personenfenster.h"
 
 #include "core/Allgemein.h"
@@ -34,9 +34,9 @@ const std::vector<Eingabe> Eingaben = {
     {"31.02.2027", "31.02.2027"},
 };
 
-/// What a box of a kind holds once it has been left, nothing if it stops the save. Kinds: T text,
-/// B name of a group, G group of a server, L postal code, N height, D date, d date that may not be
-/// empty, K record number.
+/// What a box of this kind holds once it has been left; nothing if it stops the save. Kinds: T
+/// text, B name of a group, G group of a server, L postal code, N height, D date, d date that may
+/// not be empty, K record number.
 std::optional<Text> Danach(char art, const Eingabe &eingabe)
 {
     static const std::map<char, std::map<Text, Text>> Zahlen = {
@@ -55,7 +55,7 @@ std::optional<Text> Danach(char art, const Eingabe &eingabe)
 }
 
 /// A window, the button that saves, the kinds of its boxes in the order of the record's fields
-/// ("-": none to type into), and the record that it writes.
+/// ("-": no box to type into), and the record that it writes.
 struct Fensterfall {
     const char *Fenster;
     const char *Knopf;
@@ -85,7 +85,7 @@ const std::vector<Fensterfall> Fensterfälle = {
     {"NeuerHelfer", "OKButton", "TTTLTTTDTT", HelferBoxen(), [] { return Datensatz(Helfer, 3); }},
 };
 
-// For the names of the tests, which are plain letters.
+// For the test names, which are plain letters.
 constexpr std::array<const char *, 6> Fensternamen = {"Diener",    "NeuDiener", "Gruppe",
                                                       "NeuGruppe", "Helfer",    "NeuHelfer"};
 
@@ -118,7 +118,7 @@ void SchlechteEingabenForm::Prüfen(const Fensterfall &fall, std::size_t k, cons
     EXPECT_EQ(GezeigteMeldungen, meldungen);
     EXPECT_EQ(!form.isNull() && form->isVisible(), !danach);
     if (danach) {
-        // The blank slot bears no name either, so an emptied name of a group is undone by the save.
+        // The blank slot has no name either, so the save undoes an emptied group name.
         if (fall.Arten[k] != 'B' || !danach->empty())
             soll[k] = *danach;
         EXPECT_EQ(fall.Satz(), soll);
@@ -189,7 +189,7 @@ TEST_F(SchlechteNummernForm, AlsWunschpartner)
     }
 }
 
-/// The file of the servers takes a comma for the end of a value.
+/// When the servers' file is read, a comma ends a value.
 TEST_F(SchlechteNummernForm, EinKommaInDerStraßeHältDasNächsteLadenAn)
 {
     Meßdiener.Cursor = 1;

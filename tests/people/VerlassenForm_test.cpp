@@ -1,5 +1,5 @@
-// Messages and failed saves in the editors of the people: neither leaves a box that the user has
-// not left.
+// Messages and failed saves in the editors of the people: neither counts as leaving a box that the
+// user has not left.
 #include "people/Personenfenster.h"
 
 namespace altardienst {
@@ -101,7 +101,7 @@ TEST_F(VerlassenForm, DiePostleitzahlEinesHelfersBleibtBeimGescheitertenSpeicher
     }
 }
 
-// What the boxes show while the user reads the message.
+// This is what the boxes show while the user reads the message.
 TEST_F(VerlassenForm, ErstDieMeldungDannGehtDerPartnerZurück)
 {
     Meßdiener.WunschVorname[1] = "Cem";
@@ -118,7 +118,7 @@ TEST_F(VerlassenForm, ErstDieMeldungDannGehtDerPartnerZurück)
     Schreiben("Partner", "Niemand");
     Verlassen("Partner");
     EXPECT_EQ(Gezeigt("Partner"), "Berg,Bea");
-    auswählen("Cohn,Cem");   // whom someone else has
+    auswählen("Cohn,Cem");   // who is already someone else's partner
     auswählen("Adler,Anna"); // herself
     EXPECT_EQ(dabei, (std::vector<Text>{"Niemand", "Cohn,Cem", ""}));
 }

@@ -18,7 +18,7 @@ using Liste = std::vector<Text>;
 struct Ergebnis {
     int Wert;
     Text Ausgabe; // standard output
-    Text Fehler;  // what the tool itself says on standard error
+    Text Fehler;  // what the tool itself writes to standard error
 };
 
 /// The program's directory holds the sample parish; its plan begins on Saturday, 28.11.2026.
@@ -259,7 +259,7 @@ TEST_F(PlanlaufTest, WasNichtGeschriebenWerdenKannIstEinFehler)
 
 TEST_F(PlanlaufTest, GesperrteSchritteSindEinFehler)
 {
-    // A step whose dialog is there opens it, and the run closes it again.
+    // A step that has a dialog opens it, and the run closes it again.
     for (const char *schritt : {"2", "6"}) {
         const Ergebnis ergebnis = Lauf({schritt});
         if (ergebnis.Wert != 0) {

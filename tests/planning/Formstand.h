@@ -17,7 +17,7 @@ class Formstand : public Fensterstand {
     QLineEdit *Feld(const char *name) const { return Finden<QLineEdit>(form, name); }
     Text Zeigt(const char *name) const { return Aufschrift(Finden(form, name)); }
 
-    /// Puts a text into a box at once, as pasting over its content does.
+    /// Puts a text into a box in one change, as pasting over its content does.
     void Eingeben(const char *name, const char *text) const
     {
         Feld(name)->setText(QString::fromUtf8(text));
@@ -34,7 +34,7 @@ class Formstand : public Fensterstand {
         QTest::keyClick(Finden(form, control), taste);
     }
 
-    /// What the label beside each control says, by the control it belongs to.
+    /// What the label of each control says, by the name of the control.
     std::map<Text, Text> Beschriftungen() const
     {
         std::map<Text, Text> texte;
@@ -44,7 +44,7 @@ class Formstand : public Fensterstand {
         return texte;
     }
 
-    /// Names of text boxes, in pairs with what they show.
+    /// What text boxes show, by their names.
     std::map<Text, Text> Gezeigt(const std::vector<const char *> &namen) const
     {
         std::map<Text, Text> texte;

@@ -25,8 +25,8 @@ inline constexpr std::array<Lektorenplatz, 8> Plätze = {{
 }};
 inline constexpr std::array Zahlboxen = {"Lecki", "Kommi", "Kanto", "Kolt"};
 
-/// Mass 2 of four is on the screen. The helpers are Abel, Bauer, ... Zoller; the first eight are
-/// set in the eight places, in the order of the screen, and every count is 2.
+/// Mass 2 of four is on the screen. The helpers are Abel, Bauer, ... Zoller; the first eight are in
+/// the eight places, in the order of the screen, and every count is 2.
 class Lektorenstand : public Formstand {
   protected:
     Lektorenstand()

@@ -77,7 +77,7 @@ TEST_F(LektorrenuswFormWahlTest, EinUnbekannterNameGehtZurück)
     }
 }
 
-// Told by a real message box, which takes the focus from the place that was entered next.
+// Reported in a real message box, which takes the focus from the place entered next.
 TEST_F(LektorrenuswFormWahlTest, EinUnbekannterGehtAuchAufDemWegZumNächstenPlatzZurück)
 {
     for (const char *text : {"Niemand,Nina", "Bauer,Bernd"}) {
@@ -164,7 +164,7 @@ TEST_F(LektorrenuswFormWahlTest, OhneHelferIstJederNameUnbekannt)
     Öffnen();
     EXPECT_EQ(LH(0)->count(), 0);
     EXPECT_EQ(Gewählt(0), "Abel,Anna");
-    FokusAuf(LH(0)); // even the one that stands there, once it is left
+    FokusAuf(LH(0)); // even the one already there, once it is left
     FokusAuf(Finden(form, "Ende"));
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{Unbekannt});
     EXPECT_EQ(Gewählt(0), "Abel,Anna");

@@ -46,7 +46,7 @@ TEST_F(LektorrenuswFormTest, ZeigtDieHelferDerMesseBeimCursor)
 {
     Messe.KommZahl[2] = 1;
     Messe.KantorZahl[2] = 0;
-    Messe.Komm2Vor[2] = ""; // a name alone shows in its box, not in the combo
+    Messe.Komm2Vor[2] = ""; // a single name shows in its box, not in the combo
     Messe.Kollekt1Nach[2] = "";
     Öffnen();
     EXPECT_EQ(Zeigt("Lecki"), "2");
@@ -146,7 +146,7 @@ TEST_F(LektorrenuswFormTest, EineZahlDieKeineIstHältDasSchließenAn)
             EXPECT_TRUE(form->isVisible());
             EXPECT_TRUE(Feld(Zahlboxen[art])->hasFocus()) << "where the mistake is";
             EXPECT_EQ(geschlossen, 0);
-            EXPECT_EQ(Gespeichert(0), art > 0 ? "Zita|Zoller" : "Anna|Abel"); // what came before
+            EXPECT_EQ(Gespeichert(0), art > 0 ? "Zita|Zoller" : "Anna|Abel"); // as before
             EXPECT_EQ(Gespeichert(7), "Hanna|Höß");
             GezeigteMeldungen.clear();
             delete form;

@@ -27,7 +27,7 @@ class MessenBestimmenTest : public Prüfstand {
         return tage;
     }
 
-    /// The days of the month of all masses after a run from the given day on.
+    /// The days of the month of all masses after a run that starts on the given day.
     static std::vector<int> Monatstage(Kalendertag ab, int tage)
     {
         Konfig.StartDatum = DatumAus(ab);
@@ -138,7 +138,7 @@ TEST_F(MessenBestimmenTest, GrenzenDerTaufwochenTagFürTag)
         for (int tag = grenzen.first; tag <= grenzen.second; ++tag)
             erwartet.push_back(tag);
         EXPECT_EQ(Monatstage({2026, 10, 1}, 30), erwartet) << flags;
-        // The same as first days of a period.
+        // The same for the first days of a period.
         for (int tag = 1; tag <= 31; ++tag) {
             bool erlaubt = tag >= grenzen.first && tag <= grenzen.second;
             EXPECT_EQ(Monatstage({2026, 10, tag}, 0).size(), erlaubt ? 1U : 0U) << flags << tag;
@@ -208,7 +208,7 @@ TEST_F(MessenBestimmenTest, NeueMesseÜbernimmtAlleFelder)
     EXPECT_EQ(Messe.KantorZahl[0], 10);
     EXPECT_EQ(Messe.KollektZahl[0], 11);
     EXPECT_EQ(Messe.Kennung[0], "s");
-    for (int k = 0; k <= 20; ++k) // the services come only with the assignment
+    for (int k = 0; k <= 20; ++k) // the services are only set by the assignment
         EXPECT_EQ(Messe.DienerDienst[0][k], "Allgemein");
 }
 
@@ -217,7 +217,7 @@ TEST_F(MessenBestimmenTest, KeineBrauchbareZeileErgibtLeerenPlan)
     MesseMitDienern(DatumAus({2026, 11, 1}), 3);
     MessenNeuBestimmen();
     EXPECT_EQ(Messe.Anzahl, 0);
-    EXPECT_EQ(Messe.Cursor, 0); // set behind the run, which leaves it at 1
+    EXPECT_EQ(Messe.Cursor, 0); // set after the run, which leaves it at 1
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Fertig mit Messen bestimmen"});
 }
 
@@ -228,7 +228,7 @@ TEST_F(MessenBestimmenTest, MehrMessenAlsPlätzeSindEinIndexfehlerUndStartDatumB
     Standard(0, "Montag"); // 10 on a Sunday, 11 on a Monday
     Konfig.Tage = 180;
     const Datum start = Konfig.StartDatum;
-    MessenBestimmen(); // 26 weeks with 21 each and one more day of 10 masses
+    MessenBestimmen(); // 26 weeks of 21 masses each and one more day with 10
     EXPECT_EQ(Messe.Anzahl, 546);
 
     Konfig.Tage = 203; // 29 weeks: 609
@@ -243,7 +243,7 @@ TEST_F(MessenBestimmenTest, MehrMessenAlsPlätzeSindEinIndexfehlerUndStartDatumB
     EXPECT_EQ(Messe.Anzahl, 546);
 }
 
-// The fixed entries go first, the message and the cursor come behind.
+// The fixed entries go first, the message and the cursor come afterwards.
 TEST_F(MessenBestimmenTest, WennDiePlätzeNichtReichenSindNurDieFestenEinträgeSchonGeleert)
 {
     for (int z = 0; z <= 20; ++z)

@@ -71,7 +71,7 @@ TEST_F(MessenbearbeitungTest, MesseVorziehenSchiebtJedesFeldAußerDenDiensten)
 {
     for (int von : {0, 3, 6}) {
         TabellenLeeren();
-        MessenFüllen(9); // two more records behind the seven of the table
+        MessenFüllen(9); // two more records after the seven of the table
         Messe.Anzahl = 7;
         Messenbild modell = MessenJetzt();
         const Messenbild vorher = modell;

@@ -1,4 +1,4 @@
-// The table of masses as texts, record by record, for holding it against a model.
+// The table of masses as texts, record by record, for comparing it with a model.
 #pragma once
 
 #include "core/Felderlisten.h"
@@ -11,7 +11,7 @@ namespace altardienst {
 using Satz = std::vector<Text>; // every field of a record, in file order
 using Messenbild = std::vector<Satz>;
 
-/// The service of slot 1 stands at this place of a `Satz`; that of each further slot three behind.
+/// The index in a `Satz` of the service of slot 1; that of each further slot is three higher.
 constexpr std::size_t ErsterDienst = 13;
 
 /// Visits the fields of a record.
@@ -38,7 +38,7 @@ inline Satz StandardmesseSatz(int i)
     return satz;
 }
 
-/// All records that the table has, the unused ones too.
+/// All records of the table, including unused ones.
 inline Messenbild MessenJetzt()
 {
     Messenbild bild;

@@ -8,7 +8,7 @@
 namespace altardienst {
 namespace {
 
-/// Mass 0 lies behind the others, so that a sort by date puts mass 1 in its place.
+/// Mass 0 is later than the others, so a sort by date puts mass 1 in its place.
 class MessenlisteDaneben : public MessenlisteImProgramm {
   protected:
     MessenlisteDaneben()
@@ -18,7 +18,7 @@ class MessenlisteDaneben : public MessenlisteImProgramm {
     }
 };
 
-/// What opens the dialogs for which the list is hidden, and what closes them.
+/// Opens and closes the dialogs for which the list is hidden.
 struct Listendialog {
     const char *Knopf;
     const char *Name;
@@ -44,7 +44,7 @@ TEST_F(MessenlisteDaneben, EinDialogDerListeKommtNachVornUndDieListeBleibtVerbor
             EXPECT_TRUE(Warten([&] { return dialog->isActiveWindow(); }));
             Klick(Finden<QPushButton>(dialog, ende));
             EXPECT_TRUE(form->isVisible()) << name;
-            Klick(haupt->AnzMesse); // the dialog is over, though not yet deleted
+            Klick(haupt->AnzMesse); // the dialog is closed, though not yet deleted
             EXPECT_TRUE(form->isVisible());
             EXPECT_EQ(Fenster("Messenliste"), form);
             EXPECT_TRUE(Warten([&] { return !dialog; }));
@@ -70,15 +70,15 @@ TEST_F(MessenlisteDaneben, HinterDemDialogStehtWasDasHauptfensterGetanHat)
     Drücken("NeuMeß");
     QWidget *dialog = Fenster("NeuMesse");
     Eingeben("Messewesen", "was die Liste nicht zeigt");
-    Klick(haupt->Messenorgani); // no standard masses: none is left
+    Klick(haupt->Messenorgani); // no standard masses, so no masses are left
     Klick(Finden<QPushButton>(dialog, "CancelButton"));
     EXPECT_EQ(Zeigt("Datensatzus"), "0");
     EXPECT_EQ(Zeigt("maxi"), "0");
     EXPECT_EQ(Zeigt("Messewesen"), "");
 }
 
-// The change of the date rewrites the weekday, the services the count; the second filling puts
-// both back.
+// The change of the date rewrites the weekday, that of the services the count; filling in a second
+// time restores both.
 TEST_F(MessenlisteDaneben, WiederGeöffnetFülltSieSichWieBeimErstenMal)
 {
     ListeDaneben(1);
@@ -188,8 +188,8 @@ TEST_F(MessenlisteDaneben, WerZurückkommtSiehtDieMesseWieSieIst)
     EXPECT_EQ(Zeigt("vor1"), "getippt");
 }
 
-// The screen of a number that was typed differs from its mass: the weekday is filled up with
-// blanks, the number of servers is the sum of the services.
+// After typing a number the screen differs from the mass: the weekday is padded with blanks, the
+// number of servers is the sum of the services.
 TEST_F(MessenlisteDaneben, EineMesseDieNurAngesehenWurdeBleibtWieSieIst)
 {
     ListeDaneben();
@@ -382,7 +382,7 @@ TEST_F(MessenlisteDaneben, DerGewählteHelferWirdMitgeschrieben)
     Zeigen(helfer);
     auto *wahl = Finden<QComboBox>(helfer, "LH1");
     FokusAuf(wahl);
-    wahl->setEditText("Lang,Lea"); // the box is not left
+    wahl->setEditText("Lang,Lea"); // without leaving the box
     Wählen("mnuGruppensort");
     EXPECT_EQ(Messe.Lektor1Vor[0], "Lea");
     EXPECT_EQ(Messe.Lektor1Nach[0], "Lang");

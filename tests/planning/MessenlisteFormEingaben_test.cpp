@@ -17,7 +17,7 @@ class MessenlisteFormEingabenTest : public Messenlistenstand {
                      ZahlText(zahlen[k]).c_str());
     }
 
-    /// What the box shows after a step from a text that was put in.
+    /// What the box shows after a step from the given text.
     Text Nach(const char *feld, const char *anfang, const std::function<void()> &schritt) const
     {
         Eingeben(feld, anfang);
@@ -101,7 +101,7 @@ TEST_F(MessenlisteFormEingabenTest, VerborgeneZeilenBehaltenIhrenTextUndWerdenGe
     form->close();
     EXPECT_EQ(Messe.DienerVor[4][20], "Anna");
     EXPECT_EQ(Messe.DienerNach[4][20], "Nach20/4");
-    EXPECT_EQ(Messe.DienerVor[4][0], "Vor0/4"); // belongs to no slot
+    EXPECT_EQ(Messe.DienerVor[4][0], "Vor0/4"); // index 0 belongs to no slot
     EXPECT_EQ(Messe.Dienerzahl[4], 2);
 }
 
@@ -116,7 +116,7 @@ TEST_F(MessenlisteFormEingabenTest, SlotsNennenDieDiensteDieSieBekommen)
     };
     EXPECT_EQ(slots(1, 4),
               (std::vector<Text>{"Leuchter :", "Leuchter :", "Weihrauch :", "Meßdiener 4 :"}));
-    Eingeben("Dienerzahlen", "8"); // any change writes them anew
+    Eingeben("Dienerzahlen", "8"); // any change rewrites them
     Dienste({1, 1, 2, 0, 2, 0});
     Drehen("Ä1", "auf");
     EXPECT_EQ(slots(1, 7),
@@ -249,8 +249,8 @@ TEST_F(MessenlisteFormEingabenTest, DerKalenderEndetOhneWort)
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
 }
 
-/// A box that cannot be converted ends the handler without a word: what stands before it is
-/// written. Date and time are needed for the fixed entries before anything is written.
+/// A box that cannot be converted silently ends the handler: the boxes before it are written. Date
+/// and time are needed for the fixed entries before anything is written.
 TEST_F(MessenlisteFormEingabenTest, WasSichNichtUmwandelnLässtHältDasSpeichernStillAn)
 {
     const std::vector<Text> boxen = Boxen();
@@ -278,7 +278,7 @@ TEST_F(MessenlisteFormEingabenTest, WasSichNichtUmwandelnLässtHältDasSpeichern
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
 }
 
-// Without a word, but the user is left where the mistake is.
+// Silently, but the user ends up where the mistake is.
 TEST_F(MessenlisteFormEingabenTest, WasSichNichtUmwandelnLässtBekommtDenFokus)
 {
     for (const bool mitFestemEintrag : {false, true}) {
@@ -303,7 +303,7 @@ TEST_F(MessenlisteFormEingabenTest, WasSichNichtUmwandelnLässtBekommtDenFokus)
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
 }
 
-// Date and time are converted in their turn where no entry needs them.
+// Date and time are converted when their turn comes if no entry needs them.
 TEST_F(MessenlisteFormEingabenTest, OhneFestenEintragStehtWasVorDemSchlechtenTerminLiegt)
 {
     for (const std::size_t k : {1U, 2U}) {
@@ -339,7 +339,7 @@ TEST_F(MessenlisteFormEingabenTest, BuchstabenInEinemDienstLassenDieSlotsStehen)
         }
         Tippen(Feld(felder[f]), "abc");
         EXPECT_EQ(slots(), zuvor) << felder[f];
-        // Nor does another service go on while the sum cannot be formed.
+        // Nor does another service have an effect while the sum cannot be formed.
         Eingeben(felder[(f + 1) % felder.size()], "0");
         EXPECT_EQ(slots(), zuvor) << felder[f];
         EXPECT_EQ(Zeigt("Dienerzahlen"), "8");

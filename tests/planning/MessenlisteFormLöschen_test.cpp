@@ -24,7 +24,7 @@ TEST_F(MessenlisteFormLöschenTest, LöschenFragtUndTutBeiNeinNichts)
 
 TEST_F(MessenlisteFormLöschenTest, LöschenSchließtDieLückeInJederSpalte)
 {
-    for (const int i : {0, 1, 11, 28, 29, 30}) { // 30: behind the end, takes the last one
+    for (const int i : {0, 1, 11, 28, 29, 30}) { // 30: past the end, deletes the last one
         Öffnen(i);
         const auto gelöscht = static_cast<std::size_t>(std::min(i, 29));
         Messenbild modell = vorher;
@@ -46,7 +46,7 @@ TEST_F(MessenlisteFormLöschenTest, LöschenSchließtDieLückeInJederSpalte)
     }
 }
 
-// Filled in once: the change of the date rewrites the weekday, the services the count.
+// Filled in once: the change of the date rewrites the weekday, that of the services the count.
 TEST_F(MessenlisteFormLöschenTest, NachDemLöschenFülltSichDerSchirmEinmalUndDieSlotsSindDieDerMesse)
 {
     Öffnen(5);
@@ -68,7 +68,7 @@ TEST_F(MessenlisteFormLöschenTest, NachDemLöschenFülltSichDerSchirmEinmalUndD
     EXPECT_EQ(Länge(Messe.Wochentag[5]), 10);
 }
 
-// Masses that differ in one service alone, which the number of servers follows.
+// Masses that differ in just one service, which the number of servers follows.
 TEST_F(MessenlisteFormLöschenTest, NachDemLöschenStehenDieSlotsDerNächstenMesse)
 {
     MessenFüllen(5);
@@ -109,7 +109,7 @@ TEST_F(MessenlisteFormLöschenTest, LöschenVergißtWasAufDemSchirmStand)
 TEST_F(MessenlisteFormLöschenTest, LöschenLeertDenWochentagDesFreienDatensatzes)
 {
     Öffnen(5);
-    MesseFüllen(31); // left behind the end
+    MesseFüllen(31); // left over past the end
     Antworten = {true};
     Drücken("Löscher");
     EXPECT_EQ(Messe.Messeart[30], "Art31");
@@ -199,7 +199,7 @@ TEST_F(MessenlisteImProgramm, Knopf1ZeigtDieNeuenMessenVonDerErstenAn)
     EXPECT_EQ(Messe.Wochentag[0], "Sonntag");
 }
 
-// The main window stays in use beside the list, so (1) and (6) may be pressed again.
+// The main window stays in use next to the list, so (1) and (6) may be pressed again.
 TEST_F(MessenlisteImProgramm, EsGibtEineListeUndSieZeigtDieMessenNeu)
 {
     MessenFüllen(5);

@@ -1,4 +1,4 @@
-// The mass list: what shows when a mass comes onto the screen.
+// The mass list: what shows when a mass appears on the screen.
 #include "planning/Messenlistenstand.h"
 
 namespace altardienst {
@@ -6,7 +6,7 @@ namespace {
 
 class MessenlisteFormZeigenTest : public Messenlistenstand {
   protected:
-    /// As many rows as the box of the servers says, each whole.
+    /// Expects as many rows as the box of the servers says, each complete.
     void ZeilenPrüfen(const char *wann) const
     {
         const int diener = std::stoi(Zeigt("Dienerzahlen"));
@@ -55,11 +55,11 @@ TEST_F(MessenlisteFormZeigenTest, EinCursorEinsHinterDemFreienDatensatzLegtEineM
     Öffnen(31, 30);
     EXPECT_EQ(Messe.Anzahl, 31);
     EXPECT_EQ(Zeigt("Datensatzus"), "31");
-    EXPECT_EQ(Zeigt("maxi"), "31"); // shown behind the number, which added one
+    EXPECT_EQ(Zeigt("maxi"), "31"); // shown after the number, which has added one
 }
 
-// Masses that differ in one service alone, which the number of servers follows: the labels are
-// those of the mass, and not of the services that stood there before.
+// Masses that differ in just one service, which the number of servers follows: the labels are those
+// of the mass, not of the services shown before.
 TEST_F(MessenlisteFormZeigenTest, DieSlotsNennenDieDiensteDerMesse)
 {
     MessenFüllen(5);
@@ -80,7 +80,7 @@ TEST_F(MessenlisteFormZeigenTest, DieSlotsNennenDieDiensteDerMesse)
     EXPECT_EQ(Slot(2), "Meßdiener 2 :");
 }
 
-// The sum stays what it was.
+// The sum stays the same.
 TEST_F(MessenlisteFormZeigenTest, DieSlotsFolgenEinemDienstAuchWennDieDienerzahlBleibt)
 {
     MessenFüllen(5);

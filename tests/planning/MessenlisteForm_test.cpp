@@ -167,7 +167,7 @@ TEST_F(MessenlisteFormTest, PlusHinterDemEndeLegtEineLeereMesseAn)
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
     Drücken("Minus");
     EXPECT_EQ(Zeigt("maxi"), "31");
-    EXPECT_EQ(MessenJetzt(), vorher); // what was shown is empty as it was
+    EXPECT_EQ(MessenJetzt(), vorher); // what was shown was empty and still is
 }
 
 TEST_F(MessenlisteFormTest, BeiNummer600IstSchluss)

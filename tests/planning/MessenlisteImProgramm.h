@@ -1,4 +1,4 @@
-// The fixture of the tests of the mass list beside or above the main window.
+// The fixture of the tests of the mass list next to the main window or in place of it.
 #pragma once
 
 #include "application/Anwendung.h"
@@ -25,7 +25,7 @@ class MessenlisteImProgramm : public Messenlistenstand {
         EXPECT_TRUE(haupt->isMaximized());
     }
 
-    /// The list beside the main window in use, as behind (1).
+    /// Opens the list next to the main window, which stays in use, as after (1).
     void ListeDaneben(int cursor = 0)
     {
         Messe.Cursor = cursor;

@@ -8,7 +8,7 @@ namespace altardienst {
 
 class Messenlistenstand : public Formstand {
   protected:
-    /// The list of that many masses.
+    /// Opens the list on that many masses.
     void Öffnen(int cursor = 0, int anzahl = 30)
     {
         MessenFüllen(anzahl);
@@ -16,7 +16,7 @@ class Messenlistenstand : public Formstand {
         ListeZeigen(cursor);
     }
 
-    /// The list of the masses as they are.
+    /// Opens the list on the masses as they are.
     void ListeZeigen(int cursor)
     {
         Messe.Cursor = cursor;
@@ -24,8 +24,8 @@ class Messenlistenstand : public Formstand {
         Zeigen(form);
     }
 
-    /// What stands on the screen: weekday, date, time, kind, the seven numbers, then the names of
-    /// the slots, in the order of writing.
+    /// What is on the screen: weekday, date, time, kind, the seven numbers, then the names of the
+    /// slots, in the order of writing.
     Satz Schirm() const
     {
         Satz satz;
@@ -47,7 +47,7 @@ class Messenlistenstand : public Formstand {
         return namen;
     }
 
-    /// The part of a record that the screen shows, and the record with another such part.
+    /// The part of a record that the screen shows, and the record with that part replaced.
     static Satz Sichtbar(const Satz &satz)
     {
         Satz teil;
@@ -85,7 +85,7 @@ class Messenlistenstand : public Formstand {
 
     Text Slot(int k) const { return Zeigt(("MDR[" + ZahlText(k - 1) + "]").c_str()); }
 
-    /// A mass with this service and no other, and as many servers.
+    /// Makes a mass with this service and no other, and as many servers.
     static void NurLeuchter(int i, int zahl)
     {
         for (auto *spalte : {&Messe.Gabenbereitung, &Messe.Flambeau, &Messe.Weihrauch,
@@ -109,7 +109,7 @@ class Messenlistenstand : public Formstand {
     Messenbild vorher;
 
   private:
-    /// Where a box stands in a record: the names of slot k at index k, a service between them.
+    /// Where a box is in a record: the names of slot k at index k, with a service in between.
     static std::size_t Stelle(std::size_t box)
     {
         if (box < 11)

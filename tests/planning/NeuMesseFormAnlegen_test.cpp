@@ -11,7 +11,7 @@ class NeuMesseFormAnlegenTest : public Neumessenstand {};
 TEST_F(NeuMesseFormAnlegenTest, OKSchreibtDenFreienDatensatzUndOrdnetIhnEin)
 {
     Öffnen(2);
-    MesseFüllen(5); // what was left behind the end stays, but for the fields of the dialog
+    MesseFüllen(5); // what was left past the end stays, except the fields of the dialog
     const Satz rest = MesseSatz(5);
     Termin("24.11.2026", "8:2:30", "Dienstag  ");
     Eingeben("Messewesen", "Requiem");
@@ -40,7 +40,7 @@ TEST_F(NeuMesseFormAnlegenTest, OKSchreibtDenFreienDatensatzUndOrdnetIhnEin)
     modell.push_back(neu);
     modell.insert(modell.end(), vorher.begin() + 3, vorher.begin() + 5);
     Messenbild jetzt = MessenJetzt();
-    jetzt.resize(6); // behind the end lies the scratch of the sort
+    jetzt.resize(6); // past the end is the scratch record of the sort
     EXPECT_EQ(jetzt, modell);
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
 }
@@ -61,7 +61,7 @@ TEST_F(NeuMesseFormAnlegenTest, NachOKZeigtDieListeIhreNummerNeu)
     EXPECT_EQ(Messe.DienerVor[0][1], "");
 }
 
-// Filled in once: the change of the date rewrites the weekday, the services the count.
+// Filled in once: the change of the date rewrites the weekday, that of the services the count.
 TEST_F(NeuMesseFormAnlegenTest, DieListeFülltSichNachOKNurEinmal)
 {
     Öffnen(2);
@@ -114,7 +114,7 @@ TEST_F(NeuMesseFormAnlegenTest, Die300MesseGehtNochDie301Nicht)
     EXPECT_TRUE(IstZurück());
     EXPECT_EQ(Messe.Anzahl, 300);
     ÜberDieListe();
-    Termin("21.11.2026", "7:00", "Samstag   "); // full comes before double
+    Termin("21.11.2026", "7:00", "Samstag   "); // the full table is checked before duplicates
     const Messenbild voll = MessenJetzt();
     Drücken("OKButton");
     EXPECT_EQ(GezeigteMeldungen,
@@ -139,7 +139,7 @@ TEST_F(NeuMesseFormAnlegenTest, DoppeltIstNurGleicherTagGleicheZeitUndGleicherWo
         EXPECT_EQ(Messe.Anzahl, 5);
     }
     GezeigteMeldungen.clear();
-    Termin("24.11.2026", "08:02:00", "Dienstag  "); // filled up, as the dialog writes it
+    Termin("24.11.2026", "08:02:00", "Dienstag  "); // padded, as the dialog writes it
     Drücken("OKButton");
     EXPECT_TRUE(IstZurück());
     EXPECT_EQ(Messe.Anzahl, 6);
@@ -159,7 +159,7 @@ TEST_F(NeuMesseFormAnlegenTest, DoppeltIstNurGleicherTagGleicheZeitUndGleicherWo
 TEST_F(NeuMesseFormAnlegenTest, GleicheZeitUndGleicherWochentagAnEinemAnderenTagIstNichtDoppelt)
 {
     Öffnen();
-    Termin("01.12.2026", "08:02:00", "Dienstag"); // a week behind mass 2
+    Termin("01.12.2026", "08:02:00", "Dienstag"); // a week after mass 2
     Drücken("OKButton");
     EXPECT_TRUE(IstZurück());
     EXPECT_EQ(Messe.Anzahl, 6);
@@ -232,7 +232,7 @@ TEST_F(NeuMesseFormAnlegenTest, WasSichNichtUmwandelnLässtBekommtDenFokus)
         Eingeben(box, zuvor.c_str());
     }
     Eingeben("datendaten", "abc");
-    Taste("Uhrwerk", Qt::Key_Return); // without a word
+    Taste("Uhrwerk", Qt::Key_Return); // silently
     EXPECT_TRUE(Feld("datendaten")->hasFocus());
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
 }
@@ -248,7 +248,7 @@ TEST_F(NeuMesseFormAnlegenTest, OhneDieListeSchließtErSichStill)
 TEST_F(NeuMesseFormAnlegenTest, DoppeltGiltVorDemNeurechnenUndNichtHinterDemEnde)
 {
     Öffnen();
-    MesseFüllen(5); // behind the end
+    MesseFüllen(5); // past the end
     Messe.Datum[1] = DatumAus({2020, 1, 6});
     Messe.Wochentag[1] = "Montag";
     Termin("06.01.2020", "08:01:00", "Montag");

@@ -135,7 +135,7 @@ TEST_F(NeuMesseFormTest, EingabetasteRechnetNeuGetipptesAlleinNicht)
         Taste(feld, Qt::Key_Enter);
         EXPECT_EQ(Zeigt("datendaten"), "21.11.2026") << feld;
         EXPECT_EQ(Zeigt("tagelang"), "Samstag   ");
-        Taste(feld, Qt::Key_Return); // today is not past
+        Taste(feld, Qt::Key_Return); // today is not in the past
         EXPECT_EQ(Zeigt("datendaten"), "21.11.2026");
     }
     EXPECT_TRUE(form->isVisible());

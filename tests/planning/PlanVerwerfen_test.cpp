@@ -1,4 +1,4 @@
-// What determining the masses does to the plan before it: clearing, shortening, cursor, and the
+// What determining the masses does to the previous plan: clearing, shortening, cursor, and the
 // fixed entries.
 #include "planning/MessenBestimmen.h"
 
@@ -36,7 +36,7 @@ class PlanVerwerfenTest : public Prüfstand {
                 &Messe.KommZahl,   &Messe.KantorZahl,     &Messe.KollektZahl};
     }
 
-    /// A mass in which every field holds something that tells its record.
+    /// Fills a mass so that every field identifies its record.
     static void Beschreiben(int i)
     {
         const Text nr = std::to_string(i);
@@ -116,8 +116,8 @@ TEST_F(PlanVerwerfenTest, KürzenSchiebtDieAltenMessenHinausAberNurIhreBewegtenF
     EXPECT_EQ(Messe.Wochentag[0], "Sonntag");
     EXPECT_EQ(Messe.Wochentag[1], "Sonntag");
     EXPECT_EQ(Messe.Datum[1], Konfig.StartDatum);
-    // Four times one place down, records 2 to 7: the dates, which were not cleared, show it.
-    // Record 8 lies behind and comes down again with each pass.
+    // Records 2 to 7 move down one place four times, as the dates show, which were not cleared.
+    // Record 8 lies beyond and moves down again with each pass.
     EXPECT_EQ(Messe.Datum[2], 40006);
     EXPECT_EQ(Messe.Datum[3], 40007);
     for (int i = 4; i <= 8; ++i) {
@@ -246,7 +246,7 @@ TEST_F(PlanVerwerfenTest, FesteEinträgeWerdenGeleert)
             EXPECT_EQ(MesseDienerFest.Dienst[r][s], "");
         }
     }
-    // Each of the Anzahl + 1 passes moves records 0 to Anzahl: what lies behind comes down.
+    // Each of the Anzahl + 1 passes moves records 0 to Anzahl: what lies beyond moves down.
     for (int r = 0; r < 6; ++r)
         beschreiben(r);
     MesseDienerFest.Anzahl = 2;

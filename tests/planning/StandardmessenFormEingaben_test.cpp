@@ -72,7 +72,7 @@ TEST_F(StandardmessenFormEingabenTest, AllgemeinBekommtDenRestBis20)
 {
     Öffnen();
     Dienste({0, 2, 2, 8, 2, 2, 0});
-    EXPECT_EQ(Zeigt("ZahlMeßdiener"), "0"); // typed last by hand
+    EXPECT_EQ(Zeigt("ZahlMeßdiener"), "0"); // the last value typed by hand
     for (int zahl = -2; zahl <= 22; ++zahl) {
         Eingeben("DienstF", "1");
         Eingeben("DienstF", ZahlText(zahl).c_str());
@@ -305,8 +305,8 @@ TEST_F(StandardmessenFormEingabenTest, EineUngültigeUhrzeitBleibtStehenUndGehtN
     EXPECT_EQ(StandardmessenJetzt(), vorher);
 }
 
-/// Every box in turn holds what is no number: the change leaves it alone, moving and leaving show
-/// the failure, and the boxes before it are written.
+/// Every box in turn holds something that is not a number: the change leaves it alone, moving and
+/// leaving show the failure, and the boxes before it are written.
 TEST_F(StandardmessenFormEingabenTest, WasSichNichtUmwandelnLässtHältDasSpeichernAn)
 {
     const std::vector<Text> fehler{"Laufzeitfehler '13': Typen unverträglich"};

@@ -180,7 +180,7 @@ TEST_F(StandardmessenFormTest, EineZeileOhneMesseHatKeinenWochentag)
     EXPECT_EQ(StandardmessenJetzt(), vorher);
 }
 
-/// Texts that a file may hold in the place of a weekday.
+/// Texts that a file may hold in place of a weekday.
 const std::array FremdeTage = {"Feiertag",        "Montag    ", "montag", " Sonntag",
                                "Montag, Freitag", "Größentag",  " "};
 
@@ -310,7 +310,7 @@ TEST_F(StandardmessenFormTest, EineNummerDieKeineIstBleibtStehen)
         EXPECT_EQ(Zeigt("Messearten"), "Art3");
     }
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
-    Drücken("Plus"); // writes the record, shows the next one and ends at the number
+    Drücken("Plus"); // writes the record, shows the next one and stops at the number
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Laufzeitfehler '13': Typen unverträglich"});
     EXPECT_EQ(StandardmessenJetzt(), vorher);
 }

@@ -44,7 +44,7 @@ class Standardmessenstand : public Formstand {
 
     QComboBox *Tage() const { return Finden<QComboBox>(form, "Tage"); }
 
-    /// What stands on the screen, in the order of the table's fields.
+    /// What is on the screen, in the order of the table's fields.
     Satz Schirm() const
     {
         Satz satz{Tage()->currentText().toStdString()};
@@ -56,7 +56,7 @@ class Standardmessenstand : public Formstand {
         return satz;
     }
 
-    /// Changes every field of the screen to something that no row holds.
+    /// Changes every field on the screen to something that no row holds.
     void AllesÄndern() const
     {
         Tage()->setCurrentText("Donnerstag");

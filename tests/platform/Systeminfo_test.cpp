@@ -1,4 +1,4 @@
-// Where the platform's tool for information on the system is sought.
+// Where the platform's system information tool is looked for.
 #include "platform/Systeminfo.h"
 
 #include "Prüfstand.h"

@@ -18,7 +18,7 @@ TEST_F(UhrTest, DieSystemuhrGehtNachOrtszeit)
         std::tm ort = *std::localtime(&jetzt);
         Datum heute = uhr.Heute();
         int sekunden = uhr.Sekunden();
-        // Midnight may fall between the readings; then once more.
+        // Midnight may fall between the readings; then they are repeated.
         int erwartet = ort.tm_hour * 3600 + ort.tm_min * 60 + ort.tm_sec;
         if (sekunden < erwartet - 1)
             continue;

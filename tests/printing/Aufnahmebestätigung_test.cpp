@@ -16,7 +16,7 @@ TEST_F(AufnahmebestätigungTest, EineSeiteInWahrenMillimetern)
     Konfig.Straße = "Domplatz 1";
     Konfig.PlzOrt = "48999 Beispielort";
     AufnahmebestätigungDrucken(aufnahme);
-    // 15 mm down and 20 mm in at 56.6857 twips, whatever the scales of the settings say.
+    // 15 mm down and 20 mm in at 56.6857 twips per mm, whatever scales are set.
     Ablauf ablauf;
     for (const char *operation :
          {"Dialog", "FontSize 10", "FontName Liberation Sans", "FontBold aus", "FontItalic aus",

@@ -1,4 +1,5 @@
-// The sample parish on paper: every report whole, within the edges, labels inside their labels.
+// The sample parish on paper: every report is complete and within the margins, and the text of
+// every label within its label.
 #include "paper/Druckziel.h"
 
 #include "anniversaries/JubiGebuDruck.h"
@@ -29,7 +30,7 @@ class BeispielAufPapierTest : public DruckzielTest {
         MessenMitMessehelferBesetzen();
     }
 
-    /// Names of reports on which a word stands over the edge of the paper or the lower margin.
+    /// The words that stick out over the edge of the paper or the lower margin.
     Text Überstehendes(const PdfInhalt &pdf) const
     {
         Text worte;
@@ -68,7 +69,7 @@ TEST_F(BeispielAufPapierTest, GeburtstageUndJubiläenZurückgelesen)
                 ", Geburtstag: ");
     const PdfInhalt pdf = PdfLesen(datei);
     ASSERT_GT(Geburtstagsliste.Anzahl, 1);
-    EXPECT_EQ(pdf.Seiten.size(), 1U); // none behind the last row
+    EXPECT_EQ(pdf.Seiten.size(), 1U); // none after the last row
     EXPECT_NEAR(pdf.Wort("Geburtstage").Links, Konfig.RandLinks * 72 / 25.4, 1.5);
     JubiläenSuchen(0);
     JubiläenDrucken(0);
@@ -155,7 +156,7 @@ struct Zelle {
     Zelle(int reihe, int spalte) // from 0
     {
         constexpr double Mm = 72 / 25.4;
-        constexpr double Abstand = 4; // mm, of the text from the edge, in the shipped formats
+        constexpr double Abstand = 4; // mm, from the edge to the text, in the shipped formats
         const int f = Etikett.Anzahl;
         Links = Etikett.RandLR[f] - Abstand + spalte * (Etikett.Breite[f] + Etikett.Steg[f]);
         Oben = Etikett.RandOU[f] - Abstand + reihe * Etikett.Höhe[f];
@@ -172,7 +173,7 @@ struct Zelle {
     }
 };
 
-// In formats of two, three and four columns, wide and narrow, from 2/2 on over several sheets.
+// In formats of two, three and four columns, wide and narrow, starting at 2/2, over several sheets.
 TEST_F(BeispielAufPapierTest, JedesEtikettLiegtInSeinemFeld)
 {
     for (const int format : {0, 1, 2, 3, 4, 6}) {
@@ -199,7 +200,7 @@ TEST_F(BeispielAufPapierTest, JedesEtikettLiegtInSeinemFeld)
                 }
             EXPECT_EQ(darin, erwartet) << format << ", " << person;
         }
-        EXPECT_EQ(worte, pdf.Wörter.size()) << format; // none stands between the labels
+        EXPECT_EQ(worte, pdf.Wörter.size()) << format; // there is none between the labels
     }
 }
 

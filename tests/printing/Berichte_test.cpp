@@ -108,7 +108,7 @@ TEST_P(BerichteTest, EinFehlerBeiIrgendeinerOperationHältIhnSofortUndStillAn)
         ASSERT_EQ(Drucken(static_cast<int>(n)), erwartet);
     }
     EXPECT_TRUE(GezeigteMeldungen.empty());
-    EXPECT_EQ(Drucken(), ganz); // and the next one is whole again
+    EXPECT_EQ(Drucken(), ganz); // and the next one is complete again
 }
 
 INSTANTIATE_TEST_SUITE_P(Alle, BerichteTest, ::testing::ValuesIn(Berichte),

@@ -100,7 +100,7 @@ TEST_F(DialogFormZielTest, EinClickInDieDateilistePrüftNeu)
     EXPECT_TRUE(WählerStehtAuf("Anhang"));
     EXPECT_EQ(Ziel(), Pfad(Festplatte / "Datei.txt")); // the list does not name the file
     ASSERT_NE(dateien->currentItem(), nullptr);
-    EXPECT_EQ(dateien->currentItem()->text(), "plan.txt"); // but it stays marked
+    EXPECT_EQ(dateien->currentItem()->text(), "plan.txt"); // but it stays selected
 }
 
 TEST_F(DialogFormZielTest, AnhängenOhneDateiFälltSofortZurück)
@@ -130,7 +130,7 @@ TEST_F(DialogFormZielTest, DiePfeiltastenWählenWieEinClick)
 TEST_F(DialogFormZielTest, VerzeichnisErstellenLegtEsAnUndZeigtEs)
 {
     Öffnen();
-    Klick(form->Verzeichnis); // an empty box makes nothing
+    Klick(form->Verzeichnis); // an empty box creates nothing
     EXPECT_EQ(Zeilen(form->Wahl.Verzeichnis), (Liste{"..", "texte"}));
     Tippen(form->VZ, "Größen");
     Klick(form->Verzeichnis);

@@ -13,7 +13,7 @@ using Liste = std::vector<Text>;
 
 class DruckFormEtikettenTest : public Druckfenster {
   protected:
-    /// Clicks on the circle of an option.
+    /// Clicks on the circle of an option button.
     void Wählen(const char *name) const
     {
         QWidget *option = Control(name);
@@ -279,7 +279,7 @@ TEST_F(DruckFormEtikettenTest, EinLeeresFormatDrucktNichts)
     EXPECT_EQ(Namen().size(), 3U);
 }
 
-// The number of the format stays, and so the option now carries the name that was moved there.
+// The number of the format stays, so the option now shows the name that was moved there.
 TEST_F(DruckFormEtikettenTest, NachDemSortierenIstDieselbeNummerGewählt)
 {
     Etikett.Anzahl = 1;

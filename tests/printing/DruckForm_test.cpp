@@ -74,7 +74,7 @@ TEST_F(DruckFormTest, EinFrühererStartwochentagLiegtWenigerWeitVoraus)
     EXPECT_EQ(Zeigt("Dauernde"), "06.12.2026");
 }
 
-// Only the dialog at the program's start corrects them.
+// Only the start dialog corrects them.
 TEST_F(DruckFormTest, DieEinstellungenBleibenWieSieSind)
 {
     Konfig.StartWochentag = 9;
@@ -176,7 +176,7 @@ TEST_F(DruckFormTest, EineDauerInDerVergangenheitZähltAbDerRückgabe)
     Verlassen("Rückgebend", "1.12.2026");
     EXPECT_EQ(Verlassen("Dauernde", "20.11.2026"), "29.12.2026");
     EXPECT_EQ(Zeigt("DauerTag"), "Dienstag  ");
-    EXPECT_EQ(Verlassen("Dauernde", "21.11.2026"), "21.11.2026"); // before the return, not today
+    EXPECT_EQ(Verlassen("Dauernde", "21.11.2026"), "21.11.2026"); // before the return, but not set to today
     Drücken("Minus2");
     EXPECT_EQ(Zeigt("Dauernde"), "29.12.2026");
 }
@@ -195,12 +195,12 @@ TEST_F(DruckFormTest, WasKeinTagIstBleibtStehen)
         EXPECT_EQ(Zeigt(feld), "31.12.9999");
     }
     Verlassen("Rückgebend", "am Fest");
-    EXPECT_EQ(Verlassen("Dauernde", "1.1.2001"), "1.1.2001"); // has no return to count from
+    EXPECT_EQ(Verlassen("Dauernde", "1.1.2001"), "1.1.2001"); // has no return date to count from
     EXPECT_EQ(Zeigt("RückTag"), "Freitag   ");
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
-// There is no return to count from, but the weekday follows the day.
+// There is no return date to count from, but the weekday follows the day.
 TEST_F(DruckFormTest, OhneRückgabeZeigtEinSchrittInDieVergangenheitSeinenWochentag)
 {
     Öffnen();
@@ -263,7 +263,7 @@ TEST_F(DruckFormTest, DieGruppenlisteNimmtDieGewählteGruppe)
     EXPECT_EQ(zeilen.size(), 2U + 2 * 2);
 }
 
-// The list of groups stands in another frame.
+// The list of groups is in another frame.
 TEST_F(DruckFormTest, DieGruppeDerEtikettenSagtWoSieGewähltWird)
 {
     Öffnen();

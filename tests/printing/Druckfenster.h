@@ -25,7 +25,7 @@ class Druckfenster : public Papierfenster<DruckForm> {
         BögenAnlegen();
     }
 
-    /// Types into a box and leaves it.
+    /// Types into a box, leaves it and returns what it then shows.
     Text Verlassen(const char *name, const char *text) const
     {
         Tippen(Control(name), text);

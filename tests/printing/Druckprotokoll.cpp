@@ -1,4 +1,4 @@
-// A printer that writes down what it is told.
+// A printer that records what it is told.
 #include "printing/Druckprotokoll.h"
 
 #include "values/Laufzeitfehler.h"

@@ -1,4 +1,4 @@
-// A printer that writes down what it is told, and what a report is expected to tell it.
+// A printer that records what it is told, and the record expected from a report.
 #pragma once
 
 #include "platform/Drucker.h"
@@ -10,8 +10,8 @@ namespace altardienst {
 /// Every line of a page has the same height; nothing is laid out.
 class Druckprotokoll : public DruckerDienst {
   public:
-    /// One operation to a line, in the order in which they came: `CurrentX 1000`, `Print "Text"`.
-    /// Reading the cursor and the page height leaves no line.
+    /// One operation per line, in the order received: `CurrentX 1000`, `Print "Text"`. Reading the
+    /// cursor and the page height leaves no line.
     std::vector<Text> Zeilen;
 
     std::optional<int> Antwort = 0; // of the print dialog; none: cancelled
@@ -25,7 +25,7 @@ class Druckprotokoll : public DruckerDienst {
 
     int WieOft(const Text &zeile) const;
 
-    /// A new log from the top of a page on; what is set stays.
+    /// Starts a new log at the top of a page; the settings above stay.
     void Leeren();
 
     std::optional<int> Dialog(const Druckanfrage &anfrage) override;
@@ -53,7 +53,7 @@ class Druckprotokoll : public DruckerDienst {
     Single y = 0;
 };
 
-/// The log that is expected of a report, piece by piece, with the settings of `Druckstand`.
+/// Builds the log expected from a report, piece by piece, with the settings of `Druckstand`.
 class Ablauf {
   public:
     std::vector<Text> Zeilen;

@@ -59,7 +59,7 @@ TEST_F(DruckrahmenTest, LeerzeileSetztDenLinkenRandNicht)
     EXPECT_EQ(Papier.Zeilen, Zeilenliste{"Print \"\""});
 }
 
-// The cursor stands at 4000 after 4 lines: 1000 to a line, and 6 lines in all reach to 6000.
+// The cursor is at 4000 after 4 lines: 1000 per line, so 6 lines in all reach 6000.
 TEST_F(DruckrahmenTest, SeiteBleibtWennDieSchätzungDieGrenzeGenauTrifft)
 {
     Drucker->CurrentY(4000);
@@ -94,7 +94,7 @@ TEST_F(DruckrahmenTest, HalbeZeilenZählenMit)
 
 TEST_F(DruckrahmenTest, DieSchätzungFolgtDerSchriftUndNichtDenMillimetern)
 {
-    for (const Single höhe : {240.0F, 480.0F}) { // twice the font gives half the lines
+    for (const Single höhe : {240.0F, 480.0F}) { // twice the font size, half the lines
         Papier.Leeren();
         Papier.Zeilenhöhe = höhe;
         Int16 Zeilen;
@@ -180,7 +180,7 @@ TEST(Druckwerte, MaßeMitDreiStellenVorUndEinerHinterDemKomma)
     EXPECT_EQ(Druckmaß(-2.5F), "-002,5");
 }
 
-// The box of the form shows 15,15, which as a Single lies a little below it.
+// The box of the form shows 15,15, which as a Single is slightly less.
 TEST(Druckwerte, MaßeRundenWasDasFeldZeigt)
 {
     EXPECT_EQ(Druckmaß(15.15F), "015,2");

@@ -1,4 +1,5 @@
-// The numbers in the editor of the label formats: their bounds, and boxes that hold none.
+// The numbers in the editor of the label formats: their bounds, and boxes that do not hold a
+// number.
 #include "printing/Etikettenfenster.h"
 
 #include "application/Anwendung.h"
@@ -48,7 +49,7 @@ TEST_F(EtikettenFormZahlenTest, LängenLiegenBeimVerlassenInIhrenGrenzen)
         EXPECT_EQ(Verlassen(feld, "330,1"), "330,1") << feld;
         EXPECT_EQ(Verlassen(feld, "330,2"), "330,1") << feld;
         EXPECT_EQ(Verlassen(feld, "63,55"), "63,55") << feld;
-        EXPECT_EQ(Verlassen(feld, "breit"), "breit") << feld; // no number stays as it is
+        EXPECT_EQ(Verlassen(feld, "breit"), "breit") << feld; // what is not a number stays as it is
         Eingeben(feld, "1");
     }
     EXPECT_TRUE(GezeigteMeldungen.empty());

@@ -135,7 +135,7 @@ TEST_F(EtikettenFormTest, EndeSchreibtUndGibtDasHauptfensterZurück)
     EXPECT_TRUE(Warten([&] { return form.isNull(); }));
 }
 
-// The selected number stays, and so stands for whatever the sort has moved there.
+// The selected number stays, so it stands for whatever the sort has moved there.
 TEST_F(EtikettenFormTest, SortierenÄndertDieGewählteNummerNicht)
 {
     auto *haupt = new HauptForm;

@@ -1,4 +1,4 @@
-// Address labels: the places on the sheet, whom they are for, and where to go on.
+// Address labels: the places on the sheet, whom they are for, and where to continue.
 #include "printing/Etikettendruck.h"
 
 #include "printing/Druckstand.h"
@@ -33,7 +33,7 @@ class EtikettendruckTest : public Druckstand {
             Meßdiener.Gruppe[i] = gruppe;
     }
 
-    /// From `platz` on, which then is the proposal where to go on.
+    /// Prints from `platz` on, which is then set to the proposed place to continue.
     void Drucken(const Etikettenleute &leute)
     {
         if (const auto weiter = EtikettenDrucken(leute, [this] { return platz; }))
@@ -188,7 +188,7 @@ TEST_F(EtikettendruckTest, EineGruppeÜberspringtDieAnderen)
     EXPECT_EQ(platz.Spalte, 2);
 }
 
-// The table ends while the next place is looked at, so the proposal lies one place further on.
+// The table ends while the next place is being looked at, so the proposal is one place further on.
 TEST_F(EtikettendruckTest, StehtHinterDerGruppeNochJemandEndetDerLaufAmNächstenPlatz)
 {
     MeßdienerAnzahl(6);
@@ -200,7 +200,7 @@ TEST_F(EtikettendruckTest, StehtHinterDerGruppeNochJemandEndetDerLaufAmNächsten
     EXPECT_EQ(Papier.Zeilen.back(), "EndDoc");
 }
 
-// Whether anybody of the group is left shows only on the sheet that was turned to for him.
+// Whether anybody in the group is left shows only on the sheet started for him.
 TEST_F(EtikettendruckTest, FülltDieGruppeDenBogenUndStehtNochJemandDahinterWirdGewendet)
 {
     MeßdienerAnzahl(7);
@@ -255,7 +255,7 @@ TEST_F(EtikettendruckTest, OhneLeuteKeinEtikettUndDerBogenIstNochLeer)
     EXPECT_EQ(platz.Spalte, 2);
 }
 
-// The cell where the run begins is taken before it shows that nobody is there for it.
+// The cell where the run begins is used before it turns out that there is nobody for it.
 TEST_F(EtikettendruckTest, OhneLeuteEndetDerLaufAmGewähltenPlatz)
 {
     platz = {3, 2};
@@ -309,7 +309,7 @@ TEST_F(EtikettendruckTest, EinBogenOhneReihenOderSpaltenIstEinDruckerfehler)
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
-// The dialog comes before the place is looked at.
+// The dialog comes before the place is read.
 TEST_F(EtikettendruckTest, EinPlatzDerKeinerIstEndetHinterDemDialog)
 {
     MeßdienerAnzahl(2);

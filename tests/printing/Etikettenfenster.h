@@ -8,8 +8,8 @@
 
 namespace altardienst {
 
-/// Ten formats; the one of record k is called "Format k" and has the measures k + 1 to k + 5 mm
-/// with k + 1 rows and k + 2 columns.
+/// Ten formats; record k is called "Format k" and has the measures k + 1 to k + 5 mm with k + 1
+/// rows and k + 2 columns.
 class Etikettenfenster : public Fensterstand {
   protected:
     Etikettenfenster()
@@ -40,7 +40,7 @@ class Etikettenfenster : public Fensterstand {
     {
         Klick(Finden(Control(spin), richtung));
     }
-    /// Types into a box and leaves it.
+    /// Types into a box, leaves it and returns what it then shows.
     Text Verlassen(const char *name, const char *text) const
     {
         Eingeben(name, text);

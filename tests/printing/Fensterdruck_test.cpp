@@ -63,7 +63,7 @@ TEST_F(FensterdruckTest, DerInhaltOhneBefehlsknöpfeAufEinerSeite)
 
 TEST_F(FensterdruckTest, SoBreitWieDieSeiteOhneRänder)
 {
-    // 400 x 300 dots onto 180 mm, so 300 dots are 135 mm
+    // 400 x 300 dots fill 180 mm, so 300 dots are 135 mm
     oben->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     mitte->setAlignment(Qt::AlignRight | Qt::AlignBottom);
     const PdfInhalt pdf = Gedruckt();
@@ -80,7 +80,7 @@ TEST_F(FensterdruckTest, EinHohesFensterBleibtAufDerSeite)
     const PdfInhalt pdf = Gedruckt();
     ASSERT_EQ(pdf.Seiten.size(), 1U);
     EXPECT_NEAR(pdf.Wort("Größter").Unten, pdf.Seiten[0].Höhe - Rand, 4);
-    // 900 dots onto 267 mm, so 100 dots are 29.7 mm
+    // 900 dots fill 267 mm, so 100 dots are 29.7 mm
     EXPECT_NEAR(pdf.Wort("Größter").Rechts, Rand + 29.67 / 25.4 * 72, 2);
 }
 
@@ -108,7 +108,7 @@ TEST_F(FensterdruckTest, SchwarzAufWeißAuchVonEinemDunklenBildschirm)
             schwarzes = schwarzes || punkt.lightness() < 50;
         }
     EXPECT_TRUE(schwarzes);
-    EXPECT_GT(bild.pixelColor(bild.width() / 2, 62).lightness(), 250); // beside the text
+    EXPECT_GT(bild.pixelColor(bild.width() / 2, 62).lightness(), 250); // next to the text
     EXPECT_EQ(fenster.palette().color(QPalette::Window), QColor(Qt::black));
     EXPECT_EQ(oben->palette().color(QPalette::WindowText), QColor(Qt::yellow));
 }
@@ -164,7 +164,7 @@ TEST_F(FensterdruckTest, QuerIstDieSeiteBreiter)
     mitte->setAlignment(Qt::AlignRight | Qt::AlignBottom);
     const PdfInhalt pdf = Gedruckt();
     EXPECT_GT(pdf.Seiten[0].Breite, pdf.Seiten[0].Höhe);
-    // 300 dots onto 180 mm, so 400 dots are 240 mm
+    // 300 dots fill 180 mm, so 400 dots are 240 mm
     EXPECT_NEAR(pdf.Wort("Größter").Unten, pdf.Seiten[0].Höhe - Rand, 4);
     EXPECT_NEAR(pdf.Wort("Größter").Rechts, Rand + 240 / 25.4 * 72, 2);
 }

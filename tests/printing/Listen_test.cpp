@@ -29,7 +29,7 @@ TEST_F(ListenTest, Wunschpartner)
 
 TEST_F(ListenTest, StandardmessenSindImmerElfZuDreiZeilen)
 {
-    Standardmesse.Anzahl = 2; // the record shown last, no count
+    Standardmesse.Anzahl = 2; // the record shown last, not a count
     Standardmesse.Wochentag[0] = "Sonntag";
     Standardmesse.Uhrzeit[0] = ZeitAus(9 * 3600 + 30 * 60);
     Standardmesse.Messeart[0] = "Hochamt";

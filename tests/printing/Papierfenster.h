@@ -1,4 +1,4 @@
-// The fixture of the tests of a window that has to do with the printer: one that keeps a log.
+// The fixture of the tests of windows that print: their printer keeps a log.
 #pragma once
 
 #include "Fensterstand.h"
@@ -25,7 +25,7 @@ template <class Form> class Papierfenster : public Fensterstand {
         }
     }
 
-    /// In place of the one that may be open.
+    /// Replaces a window that may be open.
     void Öffnen()
     {
         delete form;
@@ -42,7 +42,7 @@ template <class Form> class Papierfenster : public Fensterstand {
         Klick(Finden(Control(spin), richtung));
     }
 
-    /// Presses a button that prints and returns the lines that come onto the paper.
+    /// Presses a button that prints and returns the printed lines.
     std::vector<Text> Gedruckt(const char *knopf)
     {
         Papier.Leeren();

@@ -1,4 +1,4 @@
-// Reads a PDF back with the poppler tools: its text, where the words stand, fonts, pictures.
+// Reads a PDF back with the poppler tools: its text, the positions of the words, fonts, pictures.
 #pragma once
 
 #include "values/Text.h"
@@ -35,7 +35,7 @@ struct PdfSeite {
 
 struct PdfInhalt {
     std::vector<PdfSeite> Seiten;
-    std::vector<PdfWort> Wörter; // as they are read, not as they were printed
+    std::vector<PdfWort> Wörter; // in reading order, not in the order printed
 
     const PdfWort &Wort(const Text &inhalt) const
     {
@@ -65,13 +65,13 @@ inline PdfInhalt PdfLesen(const QString &datei)
     return inhalt;
 }
 
-/// The text as it lies on the page.
+/// The text as it is laid out on the page.
 inline Text PdfText(const QString &datei)
 {
     return Aufruf("pdftotext", {"-layout", datei, "-"});
 }
 
-/// The first page, 4 dots to the millimetre.
+/// The first page, at 4 pixels per millimetre.
 inline QImage PdfBild(const QString &datei)
 {
     Aufruf("pdftoppm", {"-png", "-r", "101.6", "-singlefile", datei, datei});

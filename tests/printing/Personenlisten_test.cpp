@@ -20,7 +20,7 @@ class PersonenlistenTest : public Druckstand {
         Meßdiener.Eintrittsdatum[anna] = DatumAus({2021, 5, 30});
         Meßdiener.Gruppe[anna] = "Die Großen";
         Meßdiener.Qualifikation[anna] = "jnjnjj";
-        MeßdienerAnlegen("Jörg", "Groß"); // all else empty
+        MeßdienerAnlegen("Jörg", "Groß"); // everything else empty
         Meßdiener.Größe[1] = 0;
         Meßdiener.Qualifikation[1] = "nnnnnj";
 
@@ -130,7 +130,7 @@ TEST_F(PersonenlistenTest, EineGruppeAusführlich)
     EXPECT_EQ(Papier.Zeilen, MitSchluss(ablauf));
 }
 
-// The number is the server's own, not a count of the group.
+// The number is the server's record number, not a count within the group.
 TEST_F(PersonenlistenTest, EineGruppeKompakt)
 {
     Meßdiener.Gruppe[0] = "Die Kleinen";
@@ -151,7 +151,7 @@ TEST_F(PersonenlistenTest, WerKeineGruppeHatStehtInKeiner)
     EXPECT_EQ(Papier.Zeilen, MitSchluss(ablauf));
 }
 
-// A row that is passed over is not counted, and no page is turned for it.
+// A row that is skipped is not counted, and no page is turned for it.
 TEST_F(PersonenlistenTest, AndereGruppenZählenNicht)
 {
     for (int i = 0; i < 200; ++i)
@@ -160,7 +160,7 @@ TEST_F(PersonenlistenTest, AndereGruppenZählenNicht)
     EXPECT_EQ(Papier.WieOft("NewPage"), 1);
 }
 
-// A page that was turned has no line counted on it when the next one is passed over.
+// A page just turned has no lines counted when the next row is skipped.
 TEST_F(PersonenlistenTest, AndereGruppenPrüfenDieSeiteNicht)
 {
     const int mia = MeßdienerAnlegen("Mia", "Moos");

@@ -108,7 +108,7 @@ TEST_F(PlanZeilenTest, AllgemeinÜbergehtLeereZähltSieAberMit)
     for (int s = 1; s <= 20; ++s)
         if (s != 2 && s != 3 && s != 6)
             Messe.DienerVor[0][s] = "";
-    // Slot 1 is empty, so slot 2 stands alone behind a comma; slots 3 and 6 are halves.
+    // Slot 1 is empty, so slot 2 is alone after a comma; slots 3 and 6 are half-filled lines.
     EXPECT_EQ(Diener(), (Zeilen{", V2 N2", "V3 N3", ", V6 N6"}));
     Messe.DienerVor[0][5] = "Ohne"; // only the first name decides
     Messe.DienerNach[0][5] = "";

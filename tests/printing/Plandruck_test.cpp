@@ -21,7 +21,7 @@ class PlandruckTest : public Druckstand {
         return i;
     }
 
-    /// The parts that any plan of one mass on the 22nd has before and after what is looked at.
+    /// The parts that any plan with one mass on the 22nd has before and after the part under test.
     static Ablauf Titel(const Text &bis)
     {
         Ablauf ablauf;
@@ -203,7 +203,7 @@ TEST_F(PlandruckTest, DieDiensteSindVerteiltBevorDerDialogErscheint)
 {
     const int i = MesseAnlegen(2);
     Messe.Leuchter[i] = 1;
-    Messe.DienerDienst[i][0] = "Flambeau"; // what was set by hand goes
+    Messe.DienerDienst[i][0] = "Flambeau"; // what was set by hand is overwritten
     Papier.Antwort = std::nullopt;
     PlanDrucken();
     EXPECT_EQ(Papier.Zeilen, std::vector<Text>{"Dialog"});

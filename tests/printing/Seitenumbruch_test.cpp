@@ -1,5 +1,5 @@
-// Where each report breaks its pages: the lines it counts, and the lines it takes the next row to
-// need.
+// Where each report breaks its pages: the lines it counts, and the lines it assumes the next row
+// needs.
 #include "printing/Druckstand.h"
 #include "printing/Listen.h"
 #include "printing/Plandruck.h"
@@ -14,7 +14,7 @@ namespace {
 /// A multiple of most counts that occur, so that a page may end exactly at the estimate.
 constexpr Single Höhe = 27720;
 
-/// One row more in the table of the report.
+/// Adds a row to the table of the report.
 using Anlegen = std::function<void()>;
 
 void Diener()
@@ -39,7 +39,7 @@ Anlegen MesseMit(int dienerzahl, const Text &art = "Messe")
     };
 }
 
-/// Under these settings of what the forms offer.
+/// The same row, with these settings for what the forms offer.
 Anlegen MitFlags11(const Text &flags, const Anlegen &reihe)
 {
     return [=] {
@@ -61,20 +61,20 @@ Anlegen MesseMitHelfern(int lektor, int komm, int kantor, int kollekt)
     };
 }
 
-/// Two rows on paper: how far down the page each ends in lines (the upper margin is one line), how
-/// many lines the report has then counted, and the k of its test.
+/// Two rows on paper: how many lines down the page each ends (the upper margin is one line), how
+/// many lines the report has counted by then, and the k of its check.
 struct Fall {
     const char *Name;
     int Modus;
     Anlegen Reihe;
     std::function<void()> Bericht;
     int Titel;  // lines of the opening
-    int Anfang; // Zeilen behind the title
+    int Anfang; // `Zeilen` after the title
     int Zeilen; // lines printed for a row
     int Zuwachs;
-    double K; // behind a row that another one follows
+    double K; // after a row that another one follows
     double KLetzte;
-    int Schluss = 1; // page turns behind the last row
+    int Schluss = 1; // page turns after the last row
 
     /// The lowest limit, in whole twips, at which the page is not turned.
     Single Schätzung(int reihen, double k) const
@@ -101,7 +101,7 @@ const Fall Fälle[] = {
     {"HelferBreit", 0, HelferReihe, AlleHelferDrucken, 2, 3, 3, 3, 2, 2},
     {"HelferKompakt", 1, HelferReihe, AlleHelferDrucken, 2, 3, 2, 2, 2, 2},
     {"Wunschpartner", 0, Diener, WunschpartnerlisteDrucken, 3, 8, 2, 2, 2, 2},
-    // Heading, servers two to a line, blank line; k is half the next mass's servers and 6.
+    // Heading, servers two per line, blank line; k is half the next mass's servers plus 6.
     {"PlanOhneDiener", 0, MesseMit(0), PlanDrucken, 4, 5, 2, 3, 6, 6},
     {"PlanMitVierDienern", 0, MesseMit(4), PlanDrucken, 4, 5, 4, 5, 8, 6},
     {"PlanMitZweiHelferdiensten", 0, MesseMitHelfern(1, 0, 2, 0), PlanDrucken, 4, 5, 5, 6, 7, 6},
@@ -127,7 +127,7 @@ class SeitenumbruchStand : public Druckstand {
         Papier.Zeilenhöhe = Höhe;
     }
 
-    /// The page turns of a report whose lower limit is `grenze`, less those of its end.
+    /// The page turns of a report whose lower limit is `grenze`, not counting those at its end.
     int Umbrüche(const std::function<void()> &bericht, Single grenze, int schluss)
     {
         Papier.Leeren();
@@ -142,7 +142,7 @@ class SeitenumbruchTest : public SeitenumbruchStand, public ::testing::WithParam
   protected:
     SeitenumbruchTest() { Papier.Antwort = fall.Modus; }
 
-    /// Over this many rows.
+    /// The page turns over this many rows.
     int Umbrüche(int reihen, Single grenze)
     {
         Messe.Anzahl = 0;
@@ -215,7 +215,7 @@ TEST_F(SeitenumbruchStand, UngeradeDienerzahlRundetZurGeradenZeilenzahl)
     }
 }
 
-// The record behind the last mass is blank when the table was made anew, but its count is read.
+// The record after the last mass is blank in a new table, but its count is read.
 TEST_F(SeitenumbruchStand, HinterDerLetztenMesseZähltDieReiheDieDortSteht)
 {
     MesseMit(0)();

@@ -8,7 +8,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// In the order in which the program asks for them.
+/// In the order in which the program checks for them.
 constexpr std::array<std::pair<const char *, const char *>, 8> Dateien = {{
     {"Etiketten.dat", "etiketten.dat"},
     {"Gruppen.dat", "gruppen.dat"},
@@ -26,7 +26,7 @@ Text Fehlt(const Text &datei)
            " - im Verzeichnis - C:\\programm\\Altardienst\\ - fehlt!";
 }
 
-/// The home of the user holds the program's directory, a backup and what a test puts there.
+/// The user's home holds the program's directory, a backup and whatever a test puts there.
 class ErsterStartTest : public Prüfstand {
   protected:
     ErsterStartTest()
@@ -43,8 +43,8 @@ class ErsterStartTest : public Prüfstand {
             fs::copy_file(datei, verzeichnis / datei.path().filename());
     }
 
-    /// The copy dialog stands in place of the start dialog, below the one message; it is read and
-    /// closed. The next message may follow at once.
+    /// The copy dialog is open in place of the start dialog, with one message in front; this is
+    /// checked and closed. The next message may follow at once.
     static void MeldungBestätigen(Programmlauf &lauf, const Text &datei, const char *wievielte)
     {
         EXPECT_EQ(lauf.Warten("meldungen", wievielte), wievielte);
@@ -60,7 +60,7 @@ class ErsterStartTest : public Prüfstand {
         EXPECT_EQ(lauf.Fenster("DateienKopieren"), "DateienKopieren");
     }
 
-    /// Closing the copy dialog brings the start dialog, which is closed then.
+    /// Closes the copy dialog, which brings up the start dialog, and closes that.
     static void Beenden(Programmlauf &lauf, const Text &fenster)
     {
         if (fenster == "DateienKopieren") {
@@ -91,7 +91,7 @@ TEST_F(ErsterStartTest, OhneVerzeichnisEntstehtEsUndEineMeldungKommt)
     MeldungBestätigen(lauf, "etiketten.dat");
     EXPECT_TRUE(fs::is_directory(daten));
     EXPECT_TRUE(fs::is_empty(daten));
-    EXPECT_EQ(lauf.Befehl("text OKButton"), "-"); // the home is no source
+    EXPECT_EQ(lauf.Befehl("text OKButton"), "-"); // the home has no files to copy
     EXPECT_EQ(lauf.Befehl("klick CancelButton"), "ok");
     EXPECT_EQ(lauf.Fenster("Start"), "Start");
     EXPECT_EQ(lauf.Befehl("text Tagilein"), "7");
@@ -146,8 +146,8 @@ TEST_F(ErsterStartTest, EinVerzeichnisAnStelleDerDateiFehltWieSie)
     }
 }
 
-/// Memory of a process cannot be read as a file: opening it works, reading fails as on a broken
-/// disk, whoever asks.
+/// The memory of a process cannot be read as a file: opening it works, reading fails as on a broken
+/// disk, even for the superuser.
 TEST_F(ErsterStartTest, EineUnlesbareDateiBeendetDasLadenOhneEinWort)
 {
     for (const auto &[name, klein] : Dateien) {
@@ -172,7 +172,7 @@ TEST_F(ErsterStartTest, EineEinzelneDateiLäßtDenDialogWiederkommen)
     EXPECT_EQ(lauf.Warten("text O2", "Etiketten"), "Etiketten");
     EXPECT_EQ(lauf.Befehl("klick O2"), "ok");
     EXPECT_EQ(lauf.Befehl("klick OKButton"), "ok");
-    // Once from the load behind the copy, once from the start dialog that is shown anew.
+    // Once from the load after the copy, once from the start dialog that is shown again.
     MeldungBestätigen(lauf, "gruppen.dat", "2");
     MeldungBestätigen(lauf, "gruppen.dat", "3");
     EXPECT_EQ(lauf.Fenster("DateienKopieren"), "DateienKopieren");

@@ -1,5 +1,5 @@
-// Loaded into the real program by a test: takes one command on each line of standard input and
-// answers each with one line of standard output.
+// Loaded into the real program by a test: takes one command per line from standard input and
+// answers each with one line on standard output.
 //
 //   fenster              the names of the visible windows, the message box as "Meldung"
 //   meldungen            how many message boxes there have been
@@ -8,7 +8,7 @@
 //   laufwerk NAME TEXT   chooses an entry of a drop-down list
 //   öffne NAME TEXT      opens an entry of a list, as a double click does
 //   schließe FENSTER     closes a window
-//   scheitere            lets an event fail in a way that nobody reckoned with
+// scheitere makes an event fail unexpectedly
 //   bild FENSTER DATEI   saves a picture of a window
 //
 // The answer to a command that cannot be carried out begins with "Fehler".
@@ -30,7 +30,7 @@
 
 namespace {
 
-/// Two messages in a row may say the same; only their number tells them apart.
+/// Two messages in a row may have the same text; only their number tells them apart.
 class Meldungszähler : public QObject {
   public:
     using QObject::QObject;
@@ -122,7 +122,7 @@ QString Ausführen(const QString &zeile)
     if (!control->isVisible() || !control->isEnabled())
         return "Fehler: gesperrt " + name;
     if (auto *knopf = qobject_cast<QAbstractButton *>(control); knopf && befehl == "klick") {
-        // The answer first: the click may open a message that waits for the next command.
+        // Answers first: the click may open a message that waits for the next command.
         QTimer::singleShot(0, knopf, &QAbstractButton::click);
         return "ok";
     }

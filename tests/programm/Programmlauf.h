@@ -1,5 +1,4 @@
-// The program itself, run as a process of its own on the offscreen platform and driven from
-// outside.
+// The program itself, run as a separate process on the offscreen platform and driven from outside.
 #pragma once
 
 #include "controls/Bausteine.h"
@@ -16,7 +15,7 @@ namespace altardienst {
 
 class Programmlauf {
   public:
-    /// Starts the program on a directory; `programm` may be another place than that of the build.
+    /// Starts the program on a directory; `programm` may be elsewhere than in the build directory.
     explicit Programmlauf(const std::filesystem::path &daten,
                           const std::filesystem::path &programm = PROGRAMM)
     {
@@ -51,7 +50,7 @@ class Programmlauf {
         return prozess.readLine().trimmed().toStdString();
     }
 
-    /// Repeats a question until it has this answer; the last answer.
+    /// Repeats a query until it has this answer; returns the last answer.
     Text Warten(const Text &zeile, const Text &antwort)
     {
         QElapsedTimer uhr;
@@ -64,10 +63,10 @@ class Programmlauf {
         return letzte;
     }
 
-    /// The windows that are open, once these are.
+    /// Waits until these windows are open; returns the open ones.
     Text Fenster(const Text &erwartet) { return Warten("fenster", erwartet); }
 
-    /// The result of a program that ends; -1 if it doesn't.
+    /// The exit code of the program; -1 if it doesn't end.
     int Ende()
     {
         return prozess.waitForFinished(Geduld) && prozess.exitStatus() == QProcess::NormalExit

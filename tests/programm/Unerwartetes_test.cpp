@@ -1,4 +1,4 @@
-// A failure within an event of the program itself that nobody reckoned with.
+// An unexpected failure within an event of the program itself.
 #include "Prüfstand.h"
 #include "programm/Programmlauf.h"
 
@@ -22,7 +22,7 @@ TEST_F(UnerwartetesTest, DasProgrammMeldetEsUndGehtWeiter)
     EXPECT_EQ(lauf.Fenster("Start"), "Start");
     EXPECT_EQ(lauf.Befehl("klick Starten"), "ok");
     EXPECT_EQ(lauf.Fenster("Haupt"), "Haupt");
-    EXPECT_EQ(lauf.Befehl("scheitere"), "ok"); // by itself again, so it is not told again
+    EXPECT_EQ(lauf.Befehl("scheitere"), "ok"); // by itself again, so not reported again
     EXPECT_EQ(lauf.Befehl("schließe Haupt"), "ok");
     EXPECT_EQ(lauf.Ende(), 0);
 }

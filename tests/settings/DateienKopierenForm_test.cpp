@@ -139,7 +139,7 @@ TEST_F(DateienKopierenFormTest, EineEinzelneDateiGibtDenDialogNochEinmal)
     EinzelneWählen(1);
     GezeigteMeldungen.clear();
     Klick(form->OKButton);
-    // The load behind the copy, and that of the start dialog shown anew.
+    // The load after the copy, and that of the start dialog shown again.
     EXPECT_EQ(GezeigteMeldungen, (Liste{Fehlt("gruppen.dat"), Fehlt("gruppen.dat")}));
     EXPECT_EQ(NachKopie, 0);
     EXPECT_FALSE(IstOffen("Start"));

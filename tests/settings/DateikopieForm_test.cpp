@@ -1,4 +1,4 @@
-// The dialog of the menu that copies the eight files into the program's directory.
+// The menu's dialog that copies the eight files into the program's directory.
 #include "settings/Kopierstand.h"
 
 #include "core/Allgemein.h"
@@ -17,7 +17,7 @@ class DateikopieFormTest : public Kopierstand {
         Speichern(Festplatte, "alt");
     }
 
-    /// Eight files whose settings and groups bear a mark; it stands in memory too.
+    /// Writes eight files whose settings and groups carry a mark, which is in memory too.
     void Speichern(const path &verzeichnis, const Text &zeichen)
     {
         const path zuvor = Festplatte;
@@ -145,7 +145,7 @@ TEST_F(DateikopieFormTest, EinUnlesbaresLaufwerkPrüftDasBisherigeVerzeichnisNeu
     EXPECT_TRUE(form->Wahl.Dateien->findItems("Helfer.dat", Qt::MatchExactly).isEmpty());
     EXPECT_EQ(Datei(), TextVon(Diskette) + "/");
     EXPECT_EQ(form->Wahl.Laufwerk->currentText(), "Diskette");
-    fs::remove_all(Diskette); // now the present directory cannot be read either
+    fs::remove_all(Diskette); // now the current directory cannot be read either
     NächstesLaufwerk();
     EXPECT_FALSE(ZeigtOK());
     EXPECT_EQ(form->Wahl.Dateien->count(), 7);

@@ -295,8 +295,9 @@ TEST_F(DateikopieTest, EinVerweisBleibtEiner)
 
 #ifndef _WIN32
 
-/// Copies in a child that may not write files beyond `grenze` bytes: with the signal ignored it
-/// meets a full disk, else it is killed in the middle of the file. Its wait status.
+/// Copies in a child process that may not write more than `grenze` bytes per file: with the signal
+/// ignored this looks like a full disk, otherwise it is killed in the middle of the file. Returns
+/// its wait status.
 int KopieImKind(const fs::path &von, const fs::path &nach, rlim_t grenze, bool ignorieren,
                 int nutzer = 0)
 {

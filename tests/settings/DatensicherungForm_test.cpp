@@ -96,7 +96,8 @@ TEST_F(DatensicherungFormTest, DerRundwegBringtDieAchtDateienByteFürByteZurück
     VerzeichnisÖffnen("Sicherung");
     Klick(form->OKButton);
 
-    // What the program offers for restoring it: nothing, until the files bear their own names.
+    // What the program offers for restoring it: nothing, until the files have their own names
+    // again.
     Kopierstand::Öffnen<DateikopieForm>();
     NächstesLaufwerk();
     VerzeichnisÖffnen("Sicherung");

@@ -1,4 +1,4 @@
-// The rules of single settings.
+// The rules of individual settings.
 #include "settings/Einstellungen.h"
 
 #include "Prüfstand.h"
@@ -13,7 +13,7 @@ constexpr auto KeineLeerstelle = "Es ist die PLZ, Leerstelle und dann der Ort an
 
 class EinstellungenTest : public Prüfstand {
   protected:
-    /// What is stored after a text was left in the box, and the messages on the way.
+    /// What is stored once the box with this text has been left, and the messages shown.
     Text Gespeichert(const Text &eingabe)
     {
         GezeigteMeldungen.clear();

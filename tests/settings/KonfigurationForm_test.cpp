@@ -1,4 +1,4 @@
-// The settings: words, filling, texts, orientation, flag boxes, fonts, and leaving.
+// The settings: captions, filling in, texts, orientation, flag boxes, fonts, and leaving.
 #include "settings/Konfigurationsstand.h"
 
 #include "Heimkehr.h"
@@ -84,7 +84,7 @@ TEST_F(KonfigurationFormTest, JedesControlHatSeineBeschriftung)
                                    {"Rand oben ca.:", "OB"}};
     for (const Flagbox &flag : Flagboxen) {
         felder[flag.Wort] = flag.Box;
-        EXPECT_EQ(Zeigt(flag.Box), "") << flag.Box; // the words stand beside it
+        EXPECT_EQ(Zeigt(flag.Box), "") << flag.Box; // its label is next to it
     }
     std::map<Text, Text> gesehen;
     std::multiset<Text> ohneFeld;
@@ -214,7 +214,7 @@ TEST_F(KonfigurationFormTest, DieAusrichtung)
     EXPECT_EQ(Konfig.DiffJahr, 2);
     EXPECT_EQ(Zeigt("DiffJahr"), "2");
     EXPECT_FALSE(Gewählt("Hochformat"));
-    OptionWählen("Querformat"); // stays on
+    OptionWählen("Querformat"); // stays selected
     EXPECT_EQ(Konfig.DiffJahr, 2);
     Öffnen();
     EXPECT_TRUE(Gewählt("Querformat"));
@@ -270,7 +270,7 @@ TEST_F(KonfigurationFormTest, EineSchriftWirdGewähltOderGetippt)
     Öffnen();
     FokusAuf(Schriften());
     QTest::keyClick(Schriften(), Qt::Key_Down);
-    EXPECT_EQ(Konfig.Schriftart, "Alpha"); // the one behind
+    EXPECT_EQ(Konfig.Schriftart, "Alpha"); // the next one
     Tippen(Schriften()->lineEdit(), "Alp");
     EXPECT_EQ(Konfig.Schriftart, "Alp"); // nothing is completed
     Verlassen();

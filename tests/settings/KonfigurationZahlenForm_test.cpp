@@ -94,7 +94,7 @@ TEST_F(KonfigurationZahlenFormTest, JederDrehknopfBewegtSeineBoxUndGibtIhrDenFok
     }
 }
 
-// The field is rounded, a half to the even neighbour, but the box is not.
+// The setting is rounded, a half to the even neighbour, but the box is not.
 TEST_F(KonfigurationZahlenFormTest, EinBruchBleibtBeimDrehenEinBruch)
 {
     Öffnen();
@@ -217,7 +217,7 @@ TEST_F(KonfigurationOrtFormTest, DieRegelnMitIhrenMeldungen)
         {"40000", "abcde f", {KeineLeerstelle}},
         {"-1", "abcde f", {ZuKurz}},
         {"😀", "abcde f", {ZuKurz}},
-        {"48653\nCoesfeld", "48653 Coesfeld", {}}, // a line break is a blank
+        {"48653\nCoesfeld", "48653 Coesfeld", {}}, // a line break becomes a blank
         {"", "49999 Musterstadt", {ZuKurz}}};
     for (const auto &[eingabe, zeigt, meldungen] : fälle) {
         EXPECT_EQ(NachVerlassen(eingabe), zeigt) << eingabe;

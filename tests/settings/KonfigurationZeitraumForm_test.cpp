@@ -199,7 +199,7 @@ TEST_F(KonfigurationZeitraumFormTest, DerDrehknopfDerTageBegrenztNicht)
     EXPECT_EQ(Konfig.Tage, 120);
 }
 
-// It also computes the period, so that a date that was only typed counts.
+// It also computes the period, so a date that was only typed counts.
 TEST_F(KonfigurationZeitraumFormTest, DerDrehknopfDerTageNimmtDasGetippteDatum)
 {
     Öffnen();
@@ -209,7 +209,7 @@ TEST_F(KonfigurationZeitraumFormTest, DerDrehknopfDerTageNimmtDasGetippteDatum)
     EXPECT_EQ(Konfig.StartDatum, DatumAus({2027, 12, 1}));
 }
 
-// Entering the days shows the end by the date in its box, but does not take that date over.
+// Entering the days shows the end based on the date in its box, but does not store that date.
 TEST_F(KonfigurationZeitraumFormTest, DieTageNehmenDasGetippteDatumNichtAn)
 {
     Öffnen();
@@ -254,7 +254,7 @@ TEST_F(KonfigurationZeitraumFormTest, VorDemDrehenDerTageWirdDieBoxVerlassenUndB
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
-// The box goes on, the setting has no room for it.
+// The box goes on counting; the setting has no room for the number.
 TEST_F(KonfigurationZeitraumFormTest, ÜberDieGrößteZahlDrehtNurDieBox)
 {
     Konfig.Tage = 32767;

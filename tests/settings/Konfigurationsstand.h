@@ -1,4 +1,4 @@
-// The fixture of the tests of the settings: a parish whose settings all lie within their limits.
+// The fixture of the tests of the settings: a parish whose settings are all within their limits.
 #pragma once
 
 #include "printing/Papierfenster.h"

@@ -127,7 +127,7 @@ TEST_F(KopierFormTest, VerzeichnisErstellenLegtAnUndBetrittNicht)
 {
     Öffnen();
     NächstesLaufwerk();
-    Klick(form->Verzeichnis); // an empty box makes nothing
+    Klick(form->Verzeichnis); // an empty box creates nothing
     EXPECT_EQ(form->Wahl.Verzeichnis->count(), 1);
     Tippen(form->VZ, "Größen");
     DateiSchreiben(Diskette / "später", "");

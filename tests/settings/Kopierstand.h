@@ -13,8 +13,8 @@
 
 namespace altardienst {
 
-/// A backup as the user has it who renamed the files: in the order of the options, the file's own
-/// name and its name in small letters.
+/// A backup as it looks to a user who has renamed the files: in the order of the options, the
+/// file's own name and its name in small letters.
 constexpr std::array<std::pair<const char *, const char *>, 8> AchtNamen = {{
     {"Konfig.cfg", "konfig.cfg"},
     {"Etiketten.dat", "etiketten.dat"},
@@ -26,8 +26,8 @@ constexpr std::array<std::pair<const char *, const char *>, 8> AchtNamen = {{
     {"MeßdienerMesse.dat", "meßdienermesse.dat"},
 }};
 
-/// The program's directory is a subdirectory of the first drive, the diskette is the second; a main
-/// window stands behind the dialog.
+/// The program's directory is a subdirectory of the first drive, the diskette is the second; the
+/// main window is behind the dialog.
 class Kopierstand : public Fensterstand {
   protected:
     using path = std::filesystem::path;
@@ -55,7 +55,7 @@ class Kopierstand : public Fensterstand {
         return *form;
     }
 
-    /// Eight files that hold their own name behind this mark.
+    /// Writes eight files that contain this mark followed by their own name.
     static void AchtSchreiben(const path &verzeichnis, const Text &zeichen)
     {
         std::filesystem::create_directories(verzeichnis);
@@ -71,7 +71,7 @@ class Kopierstand : public Fensterstand {
     bool ZeigtOK() const { return form->OKButton->isVisible(); }
     Text Datei() const { return Aufschrift(form->Datei); }
 
-    /// A double click on a directory of the list.
+    /// Double-clicks a directory in the list.
     void VerzeichnisÖffnen(const char *name) const
     {
         QListWidget *liste = form->Wahl.Verzeichnis;
@@ -89,7 +89,7 @@ class Kopierstand : public Fensterstand {
         QTest::keyClick(form->Wahl.Laufwerk, schritte > 0 ? Qt::Key_Down : Qt::Key_Up);
     }
 
-    /// One file alone, by the number of its option.
+    /// Chooses a single file, by the number of its option.
     void EinzelneWählen(std::size_t option) const
     {
         Klick(form->Einzel);

@@ -41,7 +41,7 @@ class SkalierungFormTest : public Statistikstand {
     QLineEdit *Box(const char *name) const { return Finden<QLineEdit>(form, name); }
     Text Steht(const char *name) const { return Aufschrift(Box(name)); }
 
-    /// At once, as pasted: one change.
+    /// Sets the text in one change, as pasting does.
     Text Setze(const char *name, const char *text) const
     {
         Box(name)->setText(text);

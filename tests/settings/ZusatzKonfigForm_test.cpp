@@ -1,4 +1,4 @@
-// The settings of the proposed start, and of the services that are set by hand.
+// The settings for the proposed start date and for the services that are set by hand.
 #include "settings/ZusatzKonfigForm.h"
 
 #include "Heimkehr.h"

@@ -1,4 +1,4 @@
-// What the program says of itself.
+// What the program says about itself.
 #include "settings/frmAboutForm.h"
 
 #include "Fensterstand.h"

@@ -87,7 +87,7 @@ class DiagrammeFormTest : public Statistikstand {
         return zahlen;
     }
 
-    /// Bars from 1 on whose height is written at their upper end.
+    /// The bars, counted from 1, whose height is written at their upper end.
     static std::map<std::pair<int, int>, int> ÜberDenBalken(const std::vector<int> &werte)
     {
         std::map<std::pair<int, int>, int> zahlen;
@@ -135,7 +135,8 @@ TEST_F(DiagrammeFormTest, Gegenüberstellung)
     EXPECT_EQ(Klassen(bild->yAxis), Reihe(0, 15, " Jahre (Zugehörigkeit)"));
     auto zahlen = Geschrieben(bild);
     EXPECT_EQ(zahlen.size(), 256U);
-    // Fields counted from 1: age 9 is 1, no years are 1. Under 9 stands at 9, over 24 at 24.
+    // Fields are counted from 1: age 9 is 1, zero years are 1. Under 9 is shown at 9, over 24 at
+    // 24.
     const std::map<std::pair<int, int>, int> erwartet = {
         {{1, 1}, 2}, {{4, 4}, 2}, {{4, 5}, 1}, {{12, 12}, 1}, {{16, 16}, 2}};
     for (const auto &[ort, zahl] : zahlen)
@@ -205,7 +206,7 @@ TEST_F(DiagrammeFormTest, DieAchseDerAnzahlHatNurGanzeZahlen)
     }
 }
 
-/// Told by lightness alone: the more, the darker, and each figure with enough contrast to its
+/// Only lightness tells them apart: the more, the darker, and each figure contrasts enough with its
 /// field.
 TEST_F(DiagrammeFormTest, DieFelderUnterscheidetIhreHelligkeit)
 {
@@ -259,7 +260,7 @@ TEST_F(DiagrammeFormTest, DruckenGibtDasGewählteScharfUndOhneKnöpfe)
         EXPECT_NE(Gedruckt().find(klasse), Text::npos) << Gedruckt(); // the last one too
         for (const char *knopf : {"Drucken", "OK", "Abbrechen"})
             EXPECT_EQ(papier.find(knopf), Text::npos) << knopf;
-        // Letters and strokes, no picture of them.
+        // Letters and strokes, not a bitmap of them.
         EXPECT_EQ(Aufruf("pdfimages", {"-list", datei}).find("image"), Text::npos);
         EXPECT_EQ(PdfLesen(datei).Seiten.size(), 1U);
     }

@@ -23,7 +23,7 @@ class DienstblattFormTest : public Statistikstand {
             MeßdienerAnlegen(vorname, "Berg");
         HelferAnlegen("Lea", "Lang", "Lektor");
         HelferAnlegen("Max", "Moos", "Kantor");
-        // Anna once at the first kind, twice at the second, up to six times.
+        // Anna serves once in the first kind, twice in the second, up to six times.
         int wieOft = 0;
         for (const char *dienst :
              {"Gabenbereitung", "Leuchter", "Flambeau", "Weihrauch", "Kreuzträger", "Allgemein"}) {
@@ -33,7 +33,7 @@ class DienstblattFormTest : public Statistikstand {
                 Einteilen(i, slot, "Anna", dienst);
         }
         Einteilen(0, 7, "Ben", "Leuchter");
-        // Lea once, twice, three and four times.
+        // Lea serves once, twice, three and four times.
         wieOft = 0;
         for (const auto &[vor, nach] : {std::pair(&Messe.Lektor1Vor, &Messe.Lektor1Nach),
                                         {&Messe.Komm1Vor, &Messe.Komm1Nach},
@@ -137,7 +137,7 @@ TEST_F(DienstblattFormTest, EineNummerAußerhalbFälltAufNull)
     delete form;
     Meßdiener.Anzahl = 2;
     Öffnen<StatDienstForm>();
-    Finden<QLineEdit>(form, "INDEXLEIN")->setText("1,6"); // rounded to the one behind the last
+    Finden<QLineEdit>(form, "INDEXLEIN")->setText("1,6"); // rounded to the one after the last
     EXPECT_EQ(Nummer(), "0");
     EXPECT_EQ(Zeigt("V"), "Anna");
 }
@@ -163,7 +163,7 @@ TEST_F(DienstblattFormTest, OhneMeßdienerBleibtDieZeileNull)
     Meßdiener.Anzahl = 0;
     Öffnen<StatDienstForm>();
     EXPECT_EQ(Nummer(), "0");
-    EXPECT_EQ(Zeigt("V"), "Anna"); // the record behind the last one, as it stands
+    EXPECT_EQ(Zeigt("V"), "Anna"); // the record after the last one, as it is
     Drücken("PLUS");
     EXPECT_EQ(Nummer(), "0");
     Tippe("1");
@@ -188,7 +188,7 @@ TEST_F(DienstblattFormTest, MeßdienerlisteAufPapier)
 {
     Öffnen<StatDienstForm>();
     EXPECT_EQ(Aufschrift(Finden(form, "Druckern")), "Drucken");
-    Messe.DienerVor[0][1] = "Cara"; // later than the opening
+    Messe.DienerVor[0][1] = "Cara"; // after the window opened
     Drücken("Druckern");
     const Text papier = PdfText(datei);
     for (const char *zeile : {"Statistik Meßdiener mit Anzahl Dienste",
@@ -207,7 +207,7 @@ TEST_F(DienstblattFormTest, HelferlisteAufPapier)
 {
     Öffnen<StatHelferForm>();
     EXPECT_EQ(Aufschrift(Finden(form, "Dluckeln")), "Drucken");
-    Messe.Lektor1Vor[0] = "Max"; // later than the opening
+    Messe.Lektor1Vor[0] = "Max"; // after the window opened
     Drücken("Dluckeln");
     const Text papier = PdfText(datei);
     for (const char *zeile : {"Statistik Helfer mit Anzahl Dienste",

@@ -11,7 +11,7 @@ namespace {
 
 class DienstlistenTest : public Druckstand {
   protected:
-    /// The head of a page: plain, and its empty line wherever the cursor stands.
+    /// The heading of a page: plain, with its empty line wherever the cursor is.
     static void Kopf(Ablauf &ablauf, const Text &titel)
     {
         for (const char *operation :
@@ -86,8 +86,8 @@ TEST_F(DienstlistenTest, NachDemSeitenwechselKommtDerKopfWieder)
     Meßdienerzählung zählung;
     for (int k = 0; k < 7; ++k)
         zählung[k] = {"Anna", "Berg", {}};
-    // Lines of 240 below 600. Behind line 1 the page says 1320 * (2 + 4) / 2 = 3960, behind line 2
-    // 1560 * 7 / 3 = 3640, behind line 3 1800 * 8 / 4 = 3600, behind line 4 2040 * 9 / 5 = 3672.
+    // Lines of 240 below 600. After line 1 the estimate is 1320 * (2 + 4) / 2 = 3960, after line 2
+    // 1560 * 7 / 3 = 3640, after line 3 1800 * 8 / 4 = 3600, after line 4 2040 * 9 / 5 = 3672.
     Papier.Seitenhöhe = 3600 + 600; // the lower limit at 3600
     MeßdienerdiensteDrucken(zählung);
     EXPECT_EQ(Papier.WieOft("NewPage"), 8); // each first line already breaks
@@ -95,9 +95,9 @@ TEST_F(DienstlistenTest, NachDemSeitenwechselKommtDerKopfWieder)
 
     Papier.Leeren();
     Papier.Seitenhöhe =
-        3960 + 600; // behind line 5 2280 * 10 / 6 = 3800, line 6 2520 * 11 / 7 = 3960
+        3960 + 600; // after line 5 2280 * 10 / 6 = 3800, line 6 2520 * 11 / 7 = 3960
     MeßdienerdiensteDrucken(zählung);
-    EXPECT_EQ(Papier.WieOft("Print \"" + Diener + "\""), 1); // behind line 7 2760 * 12 / 8 = 4140
+    EXPECT_EQ(Papier.WieOft("Print \"" + Diener + "\""), 1); // after line 7 2760 * 12 / 8 = 4140
     Ablauf ende;
     ende.Zeile("Anna Berg" + NullenA).Tut("NewPage").Tut("CurrentY 600");
     Schluß(ende, Legende);
@@ -113,7 +113,7 @@ TEST_F(DienstlistenTest, DerKopfStehtAufJederSeiteInSeinenBeidenGrößen)
         MeßdienerAnlegen("Anna", "Berg");
         zählung[k] = {"Anna", "Berg", {}};
     }
-    Papier.Seitenhöhe = 3600 + 600; // a page to each line
+    Papier.Seitenhöhe = 3600 + 600; // a page for each line
     MeßdienerdiensteDrucken(zählung);
     const auto erste = std::find(Papier.Zeilen.begin(), Papier.Zeilen.end(), "NewPage");
     const auto zweite = std::find(erste + 1, Papier.Zeilen.end(), "NewPage");
@@ -133,7 +133,7 @@ TEST_F(DienstlistenTest, EineZeileWenigerUndDieSeiteReicht)
     MeßdienerdiensteDrucken(zählung);
     EXPECT_EQ(Papier.WieOft("NewPage"), 1);
     Papier.Leeren();
-    Papier.Seitenhöhe = 3959 + 600; // less than the estimate behind line 1
+    Papier.Seitenhöhe = 3959 + 600; // less than the estimate after line 1
     MeßdienerdiensteDrucken(zählung);
     EXPECT_GT(Papier.WieOft("NewPage"), 1);
 }

@@ -13,7 +13,7 @@ using Dienste4 = std::array<int, 4>;
 
 class DienstzählungTest : public Prüfstand {
   protected:
-    /// The services of the slots follow each other from entry 0 on, those of slot n at entry n - 1.
+    /// The services of the slots are stored from entry 0 on, that of slot n at entry n - 1.
     static void Besetzen(int messe, int slot, const Text &vorname, const Text &nachname,
                          const Text &dienst)
     {
@@ -64,7 +64,7 @@ TEST_F(DienstzählungTest, Slot1Bis20ZählenUndSlot0Nirgends)
 {
     MeßdienerAnlegen("Anna", "Berg");
     const int messe = NeueMesse();
-    Messe.Dienerzahl[messe] = 1; // whatever the mass may have
+    Messe.Dienerzahl[messe] = 1; // whatever count the mass has
     Messe.DienerDienst[messe][20] = "Allgemein";
     Besetzen(messe, 0, "Anna", "Berg", "");
     EXPECT_EQ(MeßdienerdiensteZählen()[0].Insgesamt(), 0);
@@ -156,14 +156,14 @@ TEST_F(DienstzählungTest, HelferZählenAnBeidenPlätzenJederArt)
     setzen(Messe.Kantor1Vor, Messe.Kantor1Nach, "Lea", "Moos"); // nobody
     setzen(Messe.Kollekt1Vor, Messe.Kollekt1Nach, "Lea", "Lang");
     setzen(Messe.Kollekt2Vor, Messe.Kollekt2Nach, "Max", "Moos");
-    --Messe.Anzahl; // the mass behind the last one
+    --Messe.Anzahl; // the mass after the last one
     Helferzählung zählung = HelferdiensteZählen();
     EXPECT_EQ(zählung[0].Dienste, (Dienste4{2, 1, 0, 1}));
     EXPECT_EQ(zählung[1].Dienste, (Dienste4{0, 1, 2, 1}));
     EXPECT_EQ(zählung[0].Insgesamt(), 4);
 }
 
-// Nothing keeps two helpers from having one name.
+// Nothing keeps two helpers from having the same name.
 TEST_F(DienstzählungTest, HelferEinesNamensZählenBeide)
 {
     HelferAnlegen("Lea", "Lang", "Lektor");
@@ -176,7 +176,7 @@ TEST_F(DienstzählungTest, HelferEinesNamensZählenBeide)
     EXPECT_EQ(zählung[1].Dienste, (Dienste4{1, 0, 0, 0}));
 }
 
-// The index goes by both ends of a name.
+// The index uses both ends of a name.
 TEST_F(DienstzählungTest, NamenMitGleichenEndenSindVerschiedeneLeute)
 {
     const Text müller = "Müller-Ost-Lüdenscheid";
@@ -196,7 +196,7 @@ TEST_F(DienstzählungTest, NamenMitGleichenEndenSindVerschiedeneLeute)
         EXPECT_EQ(zählung[d].Dienste[1], d + 1) << d;
 }
 
-/// The comparison of everyone with every slot, as it is told.
+/// The plain comparison of everyone with every slot.
 Meßdienerzählung AlleMitAllen()
 {
     const std::array<const char *, 6> arten = {"Gabenbereitung", "Leuchter",    "Flambeau",
@@ -246,7 +246,7 @@ Helferzählung AlleHelferMitAllen()
     return zählung;
 }
 
-/// Few names for many people and slots, so that names meet and repeat; blank ones among them.
+/// Few names for many people and slots, so that names coincide and repeat; some are blank.
 void Erwürfeln(std::mt19937 &zufall, int meßdiener, int messen)
 {
     TabellenLeeren();

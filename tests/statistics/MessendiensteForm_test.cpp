@@ -11,7 +11,7 @@ class MessendiensteFormTest : public Statistikstand {
   protected:
     static int NeueMesse() { return MesseMitDienern(DatumAus({2026, 11, 22}), 5); }
 
-    /// Two masses with 7 + 14 services, no two kinds alike, four servers.
+    /// Two masses with 7 + 14 services, a different count for each kind, four servers.
     static void Meßdienerplan()
     {
         int i = NeueMesse();
@@ -56,7 +56,7 @@ TEST_F(MessendiensteFormTest, Meßdiener)
     EXPECT_EQ(ZeileBis("MWMes"), "Weihrauch|2|1,000");
     EXPECT_EQ(ZeileBis("MKMes"), "Kreuzträger|1|0,500");
     EXPECT_EQ(ZeileBis("MAMes"), "Allgemein|5|2,500");
-    EXPECT_EQ(ZeileBis("DMges"), "Dienste Meßdiener gesamt|021,0"); // three places at least
+    EXPECT_EQ(ZeileBis("DMges"), "Dienste Meßdiener gesamt|021,0"); // at least three digits
     EXPECT_EQ(ZeileBis("DMm"), "Dienste je Messe|10,500");          // 21 / 2
     EXPECT_EQ(ZeileBis("DjM"), "Dienste je Meßdiener|5,250");       // 21 / 4
     EXPECT_EQ(form->findChild<QGroupBox *>()->title(), "Meßdienerdienste");

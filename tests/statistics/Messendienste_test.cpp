@@ -50,7 +50,7 @@ TEST_F(MessendiensteTest, EsZähltDerBedarfUndNichtDieBesetzung)
     MeßdienerAnlegen("Anna", "Berg");
     Messe.DienerVor[0][1] = Messe.DienerVor[0][2] = "Anna";
     Messe.DienerNach[0][1] = Messe.DienerNach[0][2] = "Berg";
-    Messe.Dienerzahl[0] = 7; // other than its services
+    Messe.Dienerzahl[0] = 7; // different from its services
     EXPECT_EQ(MessendiensteAuswerten().Dienste, 1);
 }
 
@@ -110,7 +110,7 @@ TEST_F(MessendiensteTest, HelferangebotZähltBeideDienste)
     HelferAnlegen("Max", "Moos", "Kommunionhelfer", "Lektor");
     HelferAnlegen("Eva", "Eich", "Kollektant", "Kollektant"); // twice
     HelferAnlegen("Udo", "Ulm", "Lektor", "");
-    HelferAnlegen("Ida", "Igel", "Küster", "lektor"); // neither of the four
+    HelferAnlegen("Ida", "Igel", "Küster", "lektor"); // none of the four
     const Helferangebot a = HelferangebotAuswerten();
     EXPECT_EQ(a.Anzahl, (std::array{3, 1, 1, 2}));
     EXPECT_EQ(a.Insgesamt, 7);

@@ -10,7 +10,7 @@ namespace {
 
 class MeßdienerstatistikTest : public Prüfstand {
   protected:
-    /// A server by the months of age and of membership that have passed until today.
+    /// Makes a server who is that many months old and has been a member for that many months.
     static int Anlegen(int altersmonate, int zugehörigkeitsmonate)
     {
         const int i = MeßdienerAnlegen("Anna", "Berg");
@@ -185,10 +185,10 @@ TEST_F(MeßdienerstatistikTest, KreuztabelleStelltAlterUndZugehörigkeitGegenüb
 {
     Anlegen(10 * 12, 0);       // column 10 - 8
     Anlegen(10 * 12 + 11, 11); // the same
-    Anlegen(9 * 12, 12);       // the first column of its own
+    Anlegen(9 * 12, 12);       // the first column for a single age
     Anlegen(8 * 12, 12);       // under 9 counts as 9
     Anlegen(-30, 12);          // unborn too
-    Anlegen(24 * 12, 14 * 12); // the last column of its own
+    Anlegen(24 * 12, 14 * 12); // the last column for a single age
     Anlegen(25 * 12, 15 * 12); // over 24 counts as 24
     Anlegen(60 * 12, 40 * 12); // as 24, and over 15 as 15
     Anlegen(15 * 12, -11);     // 0 years

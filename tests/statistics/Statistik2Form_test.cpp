@@ -16,7 +16,7 @@ class Statistik2FormTest : public Statistikstand {
             MeßdienerAnlegen("Anna", "Berg", größe);
     }
 
-    /// The chart of a window of charts.
+    /// The chart in a chart window.
     static QCustomPlot *Bild(const QWidget *diagramm)
     {
         return dynamic_cast<QCustomPlot *>(Finden(diagramm, "MSChart1")->children().back());

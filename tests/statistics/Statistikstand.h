@@ -1,5 +1,5 @@
-// The fixture of the tests of statistics windows: they print into a PDF file, and their tables are
-// read by the place of the labels.
+// The fixture of the tests of statistics windows: they print to a PDF file, and their tables are
+// read by the position of the labels.
 #pragma once
 
 #include "Fensterstand.h"
@@ -45,7 +45,7 @@ class Statistikstand : public Fensterstand {
     Text Zeigt(const Text &name) const { return Aufschrift(Label(name.c_str())); }
     void Drücken(const char *name) const { Klick(Finden(form, name)); }
 
-    /// What stands in a row up to this label, such as "Leuchter|3|1,500".
+    /// What is in a row up to this label, such as "Leuchter|3|1,500".
     Text ZeileBis(const char *name) const
     {
         const QRect ort = Ort(Label(name));
@@ -59,7 +59,7 @@ class Statistikstand : public Fensterstand {
         return zeile;
     }
 
-    /// What stands next to the right of this label.
+    /// What is immediately to the right of this label.
     Text Danach(const char *name) const
     {
         const QRect ort = Ort(Label(name));
@@ -70,7 +70,7 @@ class Statistikstand : public Fensterstand {
         return "nothing behind " + Text(name);
     }
 
-    /// What stands over this label at the head of its column.
+    /// The heading of this label's column.
     Text Kopf(const char *name) const
     {
         const QRect ort = Ort(Label(name));
@@ -82,7 +82,7 @@ class Statistikstand : public Fensterstand {
         return kopf ? Aufschrift(kopf) : "nothing above " + Text(name);
     }
 
-    /// The heads of the tables, from left to right.
+    /// The headings of the tables, from left to right.
     std::vector<Text> Köpfe() const
     {
         std::vector<Text> köpfe;
@@ -92,8 +92,7 @@ class Statistikstand : public Fensterstand {
         return köpfe;
     }
 
-    /// The printed letters without what lies between them: text that stands aslant is read by the
-    /// letter.
+    /// The printed letters without the space between them: slanted text is read letter by letter.
     Text Gedruckt() const
     {
         Text text = Aufruf("pdftotext", {"-raw", datei, "-"});
@@ -101,7 +100,7 @@ class Statistikstand : public Fensterstand {
         return text;
     }
 
-    /// A window that does not come to be: what was told, with the main window left as it was.
+    /// A window that is not created: returns the message shown; the main window must be unchanged.
     template <class Form> Text Scheitert()
     {
         Offen([] { DialogÖffnen(new Form); })();
@@ -111,7 +110,7 @@ class Statistikstand : public Fensterstand {
         return GezeigteMeldungen.empty() ? "nothing told" : GezeigteMeldungen.back();
     }
 
-    /// The window closes in this way and the main window is back.
+    /// Expects `weg` to close the window and bring back the main window.
     void SchließtMit(const std::function<void()> &weg)
     {
         EXPECT_FALSE(haupt.isEnabled());
@@ -122,7 +121,7 @@ class Statistikstand : public Fensterstand {
         EXPECT_TRUE(haupt.isMaximized());
     }
 
-    /// What the window is held to in its make-up.
+    /// What the layout of every window must fulfil.
     void IstOrdentlich(const std::vector<Text> &tabfolge)
     {
         EXPECT_EQ(Stumme(form), std::vector<Text>());
@@ -131,7 +130,7 @@ class Statistikstand : public Fensterstand {
         EXPECT_EQ(Tabfolge(form), tabfolge);
     }
 
-    int linkeGrenze = 0; // of the table that is read, in the window
+    int linkeGrenze = 0; // of the table being read, in the window
     QWidget haupt;
     QPointer<QWidget> form;
     const QString datei = Anzeige(Festplatte.string()) + "/Bild.pdf";

@@ -1,4 +1,4 @@
-// Text counts characters, not bytes, and compares in binary order.
+// Text counts characters, not bytes, and is compared in binary order.
 #include "values/Text.h"
 
 #include "Prüfstand.h"

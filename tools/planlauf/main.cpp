@@ -1,5 +1,5 @@
 // Drives the real windows without a screen: loads a directory, presses the buttons of the main
-// window, writes the plan and pictures, and leaves by the exit routine.
+// window, writes the plan and pictures, and exits by the exit routine.
 #include "application/Anwendung.h"
 #include "application/Fangnetz.h"
 #include "controls/Bausteine.h"
@@ -126,7 +126,7 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     return auftrag;
 }
 
-/// The visible window of that kind, null if there is none.
+/// The visible window of that type, null if there is none.
 template <class Form> Form *OffenesFenster()
 {
     QCoreApplication::processEvents();
@@ -150,7 +150,7 @@ class Lauf {
     void Starten()
     {
         ProgrammStarten();
-        if (auto *kopie = OffenesFenster<DateienKopierenForm>()) { // where files are missing
+        if (auto *kopie = OffenesFenster<DateienKopierenForm>()) { // if files are missing
             Bild(kopie);
             kopie->close();
         }
@@ -289,8 +289,8 @@ class Lauf {
     }};
 };
 
-/// The platform without a screen, as large as the smallest one in use; its description goes to the
-/// file.
+/// The offscreen platform, with a screen as large as the smallest in use; its description goes to
+/// the file.
 QByteArray OhneBildschirm(QTemporaryFile &beschreibung)
 {
     if (!beschreibung.open())
