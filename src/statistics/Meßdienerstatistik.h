@@ -1,9 +1,9 @@
 // The figures about the servers: age, membership, composition, height.
 #pragma once
 
+#include "core/Plätze.h"
 #include "values/Datum.h"
 #include "values/Int16.h"
-#include "core/Plätze.h"
 #include "values/Spalte.h"
 #include "values/Text.h"
 
