@@ -77,6 +77,7 @@ bool ErststartPfad(const path &verzeichnis)
 
 int NachKopie = 0;
 std::function<void()> DateienKopierenZeigen = [] {};
+std::function<void()> TabellenGeladen = [] {};
 
 void VonFestplatteLaden()
 {
@@ -86,6 +87,7 @@ void VonFestplatteLaden()
             schritt();
             return true;
         } catch (const Laufzeitfehler &) {
+            TabellenGeladen();
             return ErststartPfad(verzeichnis);
         }
     };
@@ -95,6 +97,7 @@ void VonFestplatteLaden()
         if (&datei == &DateiMit(DateiKonfig))
             SkalenBegrenzen();
     }
+    TabellenGeladen();
 }
 
 void AufFestplatteSpeichern()
@@ -127,6 +130,7 @@ void VonDisketteLaden()
     } catch (const Laufzeitfehler &) {
         // Missing files are reported below, any other failure is not.
     }
+    TabellenGeladen();
     for (Dateinummer nummer : Suchfolge) {
         const Datei &datei = DateiMit(nummer);
         if (!Vorhanden(verzeichnis, datei))

@@ -13,6 +13,10 @@ extern int NachKopie;
 /// nothing.
 extern std::function<void()> DateienKopierenZeigen;
 
+/// Runs as soon as a load has put into the tables what it could read; without windows it does
+/// nothing.
+extern std::function<void()> TabellenGeladen;
+
 /// Reads the eight files of the program's directory into the tables. Never fails because of a bad
 /// or missing file: a value that doesn't convert silently ends the load, with the tables filled up
 /// to it. If a file is missing, the directory is created, the copy dialog opens and one message

@@ -272,6 +272,34 @@ TEST_F(Allgemein, FehltEineDateiKommtDerKopierdialogVorDerMeldung)
     EXPECT_EQ(ablauf, Liste{}) << "a bad value alone";
 }
 
+/// What follows a load in the windows comes ahead of its dialog and its messages.
+TEST_F(Allgemein, WasGeladenIstWirdGesagt)
+{
+    Liste ablauf;
+    const auto zuvor =
+        std::exchange(TabellenGeladen, [&] { ablauf.push_back("geladen " + Kennzeichen()[4]); });
+    DateienKopierenZeigen = [&] { ablauf.emplace_back("Dialog"); };
+    Meldungen.Zeigen = [&](const Text &text) { ablauf.push_back(text); };
+    DateienBereitstellen();
+    VonFestplatteLaden();
+    EXPECT_EQ(ablauf, Liste{"geladen neu"});
+
+    ablauf.clear();
+    DateienBereitstellen();
+    fs::remove(Festplatte / "Gruppen.dat");
+    VonFestplatteLaden();
+    EXPECT_EQ(ablauf, (Liste{"geladen alt", "Dialog", Fehlt("gruppen.dat")}));
+
+    ablauf.clear();
+    Antworten = {false, true};
+    VonDisketteLaden();
+    EXPECT_EQ(ablauf, Liste{}) << "answered with No";
+    VonDisketteLaden();
+    ASSERT_EQ(ablauf.size(), 9U) << "none of the eight files is there";
+    EXPECT_EQ(ablauf.front(), "geladen alt");
+    TabellenGeladen = zuvor;
+}
+
 TEST_F(Allgemein, EinGescheitertesLadenLöschtNachKopieEinGelungenesNicht)
 {
     AufFestplatteSpeichern();
