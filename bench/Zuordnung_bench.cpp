@@ -77,8 +77,7 @@ void MessungenAnmelden()
     // Never deleted either: at exit Qt has already torn down things that a shown window still
     // refers to.
     AnwendungEinrichten(*new QApplication(argc, argv));
-    ÖffnenMessen("Feste Einträge öffnen",
-                 []() -> QWidget * { return MesseDienerFestForm::Offene(); });
+    ÖffnenMessen("Feste Einträge öffnen", []() -> QWidget * { return new MesseDienerFestForm; });
     ÖffnenMessen("Neuen festen Eintrag öffnen",
                  []() -> QWidget * { return new NeuMesseDienerFestForm; });
 }

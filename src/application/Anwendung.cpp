@@ -2,10 +2,12 @@
 #include "application/Anwendung.h"
 
 #include "application/Deutsch.h"
+#include "application/Nebenfenster.h"
 #include "application/Wartezeiger.h"
 #include "controls/Bausteine.h"
 #include "controls/Stil.h"
 #include "controls/Verlassen.h"
+#include "core/Allgemein.h"
 #include "paper/Druckdialog.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
@@ -17,11 +19,22 @@
 #include <QProcess>
 #include <QTimer>
 
+#include <ranges>
+#include <vector>
+
 namespace altardienst {
 namespace {
 
 QPointer<QWidget> Hauptfenster;
 QPointer<QWidget> FokusZuvor; // in the main window, before a dialog disabled it
+
+/// A form that is hidden, and the dialog in its place.
+struct Vertretung {
+    QPointer<QWidget> Form;
+    QPointer<QWidget> Dialog;
+};
+
+std::vector<Vertretung> vertretungen; // the last one of a form counts
 
 class Mausschlucker : public QObject {
   public:
@@ -76,6 +89,7 @@ void AnwendungEinrichten(QApplication &anwendung)
     QApplication::installTranslator(new Deutsch(&anwendung));
     QApplication::setStyle(new Stil);
 
+    TabellenGeladen = OffeneFormenBelassen;
     Systeminfo.Starten = [](const std::filesystem::path &programm) {
         QProcess::startDetached(Anzeige(TextVon(programm)), {});
     };
@@ -97,9 +111,33 @@ void HauptfensterSetzen(QWidget *haupt)
 
 void DialogDanebenÖffnen(QWidget *dialog)
 {
+    std::erase_if(vertretungen, [dialog](const Vertretung &v) {
+        return !v.Form || !v.Dialog || v.Form == dialog;
+    });
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setEnabled(true);
+    dialog->setWindowState(dialog->windowState() & ~Qt::WindowMinimized);
     dialog->show();
+    dialog->raise();
     dialog->activateWindow();
+}
+
+void DialogAnStelleÖffnen(QWidget *form, QWidget *dialog)
+{
+    form->hide();
+    vertretungen.push_back({form, dialog});
+    DialogDanebenÖffnen(dialog);
+}
+
+QWidget *AufDemSchirm(QWidget *form)
+{
+    if (form->isVisible())
+        return form;
+    for (const Vertretung &v : vertretungen | std::views::reverse)
+        if (v.Form == form && v.Dialog)
+            if (QWidget *vorn = AufDemSchirm(v.Dialog))
+                return vorn;
+    return nullptr;
 }
 
 void DialogÖffnen(QWidget *dialog)

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QWidget>
 
+#include <utility>
+
 namespace altardienst {
 
 /// German texts in Qt's own dialogs, the style of all windows, and real message boxes.
@@ -13,11 +15,53 @@ void AnwendungEinrichten(QApplication &anwendung);
 /// The main window, for the dialogs; null when there is none.
 void HauptfensterSetzen(QWidget *haupt);
 
-/// Disables and minimises the main window and shows the dialog, which deletes itself when closed.
+/// Disables and minimises the main window and brings the dialog to the front, ready for use however
+/// it was left; it deletes itself when closed.
 void DialogÖffnen(QWidget *dialog);
 
-/// Shows the dialog beside the main window, which stays as it is.
+/// The same beside the main window, which stays as it is.
 void DialogDanebenÖffnen(QWidget *dialog);
+
+/// The same in the place of a form, which is hidden until the dialog shows it again.
+void DialogAnStelleÖffnen(QWidget *form, QWidget *dialog);
+
+/// What stands on the screen for a form that is open: itself, or the dialog in its place. Null for
+/// one that is closed, though it may not be deleted yet.
+QWidget *AufDemSchirm(QWidget *form);
+
+/// The form of this kind that is open, which may be hidden for a dialog in its place.
+template <class Form> Form *OffeneForm()
+{
+    const QWidgetList fenster = QApplication::topLevelWidgets();
+    for (QWidget *eines : fenster)
+        if (auto *form = dynamic_cast<Form *>(eines); form && AufDemSchirm(form))
+            return form;
+    return nullptr;
+}
+
+template <class Form, class... Angaben> QWidget *OffenerOderNeuer(Angaben &&...angaben)
+{
+    if (Form *offen = OffeneForm<Form>())
+        return AufDemSchirm(offen);
+    return new Form(std::forward<Angaben>(angaben)...);
+}
+
+// A dialog stands open once: of two, the one closed last would write its old screen over what was
+// entered in the other. So whoever opens one by its kind gets the one that is open, or else a new
+// one.
+template <class Form> void DialogÖffnen()
+{
+    DialogÖffnen(OffenerOderNeuer<Form>());
+}
+template <class Form, class... Angaben> void DialogDanebenÖffnen(Angaben &&...angaben)
+{
+    DialogDanebenÖffnen(OffenerOderNeuer<Form>(std::forward<Angaben>(angaben)...));
+}
+template <class Form, class... Angaben>
+void DialogAnStelleÖffnen(QWidget *form, Angaben &&...angaben)
+{
+    DialogAnStelleÖffnen(form, OffenerOderNeuer<Form>(std::forward<Angaben>(angaben)...));
+}
 
 /// What a dialog does last: enables the main window, sets it to maximised and gives the focus back
 /// to the control that had it.

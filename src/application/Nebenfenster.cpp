@@ -1,6 +1,7 @@
 // Forms that stand open beside the main window, whose actions may change what they show.
 #include "application/Nebenfenster.h"
 
+#include "application/Anwendung.h"
 #include "controls/Handler.h"
 #include "controls/Vordergrund.h"
 
@@ -8,6 +9,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <utility>
 #include <vector>
 
 namespace altardienst {
@@ -17,6 +19,7 @@ struct Nebenfenster {
     QPointer<QWidget> Form;
     std::function<void()> Ablegen;
     std::function<void()> Erneuern;
+    std::function<void()> Belassen;
 };
 
 std::vector<Nebenfenster> alle;
@@ -25,18 +28,30 @@ void Alle(std::function<void()> Nebenfenster::*tun)
 {
     std::erase_if(alle, [](const Nebenfenster &fenster) { return !fenster.Form; });
     for (const Nebenfenster &fenster : alle)
-        Abgefangen(fenster.*tun)();
+        (fenster.*tun)();
+}
+
+/// A form that is closed lives on for a moment.
+std::function<void()> SolangeOffen(QWidget *form, std::function<void()> tun)
+{
+    return Abgefangen([form, tun = std::move(tun)] {
+        if (AufDemSchirm(form))
+            tun();
+    });
 }
 
 } // namespace
 
 void NebenDemHauptfenster(QWidget *form, std::function<void()> ablegen,
-                          std::function<void()> erneuern)
+                          std::function<void()> erneuern, std::function<void()> belassen)
 {
-    BeiRückkehr(form, Abgefangen(erneuern), Abgefangen([form, ablegen] {
-                    QTimer::singleShot(0, form, Abgefangen(ablegen)); // behind the box that is left
+    const Nebenfenster neues{form, SolangeOffen(form, std::move(ablegen)),
+                             SolangeOffen(form, std::move(erneuern)),
+                             SolangeOffen(form, std::move(belassen))};
+    BeiRückkehr(form, neues.Erneuern, Abgefangen([form, ablegen = neues.Ablegen] {
+                    QTimer::singleShot(0, form, ablegen); // once the box is left
                 }));
-    alle.push_back({form, std::move(ablegen), std::move(erneuern)});
+    alle.push_back(neues);
 }
 
 QStringList Gezeigt::Texte(const QWidget *form)
@@ -52,6 +67,11 @@ void HauptfensterHandelt(const std::function<void()> &aktion)
     Alle(&Nebenfenster::Ablegen);
     Offen(aktion)();
     Alle(&Nebenfenster::Erneuern);
+}
+
+void OffeneFormenBelassen()
+{
+    Alle(&Nebenfenster::Belassen);
 }
 
 } // namespace altardienst

@@ -13,12 +13,16 @@ namespace altardienst {
 /// So neither does what was typed get lost, nor does an old screen overwrite a new plan. They run
 /// too when the user goes to another form and when he comes back. A record that was only looked at
 /// stays as it is; where it has changed meanwhile the table counts: `ablegen` is to leave it alone
-/// then, and only then is `erneuern` to fill the screen. Both are trapped.
+/// then, and only then is `erneuern` to fill the screen. A load touches no form that is open:
+/// `belassen` runs after it instead, and takes what it has changed for known. All are trapped.
 void NebenDemHauptfenster(QWidget *form, std::function<void()> ablegen,
-                          std::function<void()> erneuern);
+                          std::function<void()> erneuern, std::function<void()> belassen);
 
 /// Runs an action of the main window. Open.
 void HauptfensterHandelt(const std::function<void()> &aktion);
+
+/// After a load: the screens stay as they are, and are written by what is done on them.
+void OffeneFormenBelassen();
 
 /// What a form has last shown or written of its record.
 class Gezeigt {
@@ -26,9 +30,13 @@ class Gezeigt {
     /// From now on: what `lesen` returns of the tables, and the texts of all boxes of the form.
     template <class F> void Merken(const QWidget *form, F lesen)
     {
-        überholt = [lesen, zuvor = lesen()] { return lesen() != zuvor; };
+        vergleich = [lesen] { return [lesen, zuvor = lesen()] { return lesen() != zuvor; }; };
+        überholt = vergleich();
         getippt = [form, zuvor = Texte(form)] { return Texte(form) != zuvor; };
     }
+
+    /// What the tables hold by now counts as seen, though the screen shows something else.
+    void Belassen() { überholt = vergleich(); }
 
     bool Überholt() const { return überholt(); } // the record is another by now
     bool Getippt() const { return getippt(); }   // the screen is
@@ -36,6 +44,7 @@ class Gezeigt {
   private:
     static QStringList Texte(const QWidget *form);
 
+    std::function<std::function<bool()>()> vergleich = [] { return [] { return false; }; };
     std::function<bool()> überholt = [] { return false; };
     std::function<bool()> getippt = [] { return false; };
 };

@@ -15,7 +15,6 @@
 #include "platform/Meldungen.h"
 
 #include <QHBoxLayout>
-#include <QPointer>
 
 #include <algorithm>
 
@@ -24,8 +23,6 @@ namespace {
 
 constexpr int HöchsteNummer = 200; // as many entries as the dialog for new ones lets in
 constexpr int PlusBis = 600;       // above it `Plus` shows no next entry
-
-QPointer<MesseDienerFestForm> offene;
 
 /// The blank entry behind the last one can be reached too.
 int HöchsterEintrag()
@@ -43,7 +40,6 @@ MesseDienerFestForm::MesseDienerFestForm()
 {
     Benannt(this, "MesseDienerFest");
     setWindowTitle("Meßdiener fest zu einer Messe zuordnen");
-    offene = this;
     FesteZuordnungOffen = true;
     Anordnen();
     Verbinden();
@@ -69,22 +65,13 @@ Zuordnungsfelder::Unterschiede MesseDienerFestForm::Unterschiede()
     return unterschiede;
 }
 
-MesseDienerFestForm *MesseDienerFestForm::Offene()
-{
-    if (!FesteZuordnungOffen || !offene)
-        return new MesseDienerFestForm;
-    offene->setEnabled(true);
-    offene->setWindowState(offene->windowState() & ~Qt::WindowMinimized);
-    return offene;
-}
-
 void MesseDienerFestForm::Zurück()
 {
-    if (!FesteZuordnungOffen || !offene)
+    auto *liste = OffeneForm<MesseDienerFestForm>();
+    if (!FesteZuordnungOffen || !liste)
         return;
-    offene->setEnabled(true);
-    offene->showMaximized();
-    offene->activateWindow();
+    liste->showMaximized();
+    DialogDanebenÖffnen(liste);
 }
 
 void MesseDienerFestForm::Anordnen()
@@ -169,7 +156,7 @@ void MesseDienerFestForm::Wechseln(int richtung)
 
 void MesseDienerFestForm::Hinzufügen()
 {
-    auto *dialog = new NeuMesseDienerFestForm;
+    QWidget *dialog = OffenerOderNeuer<NeuMesseDienerFestForm>();
     setEnabled(false); // not before: where the dialog fails, this one stays in use
     showMinimized();
     DialogDanebenÖffnen(dialog);

@@ -7,11 +7,10 @@
 
 namespace altardienst {
 
-/// There is one at most, which the dialog for a new entry comes back to. All handlers are trapped.
+/// The dialog for a new entry comes back to it. All handlers are trapped.
 class MesseDienerFestForm : public Dialogfenster {
   public:
-    /// The one that is open, enabled again, or a new one.
-    static MesseDienerFestForm *Offene();
+    MesseDienerFestForm();
 
     /// Brings back the one that is open, if there is one.
     static void Zurück();
@@ -24,7 +23,6 @@ class MesseDienerFestForm : public Dialogfenster {
     QPushButton *OKbutton;
 
   private:
-    MesseDienerFestForm();
     Zuordnungsfelder::Unterschiede Unterschiede();
     void Anordnen();
     void Verbinden();

@@ -33,14 +33,11 @@ class Editorfenster : public Dialogfenster {
     /// `angelegt` if a record was added.
     template <class Dialog> void NeuAnlegen(const std::function<void()> &angelegt)
     {
-        auto *dialog = new Dialog([this, angelegt](bool neu) {
+        DialogAnStelleÖffnen<Dialog>(this, [this, angelegt](bool neu) {
             if (neu)
                 angelegt();
-            show();
-            activateWindow();
+            DialogDanebenÖffnen(this);
         });
-        hide(); // not earlier: if the dialog fails, this window stays
-        DialogDanebenÖffnen(dialog);
     }
 
     /// Failure 13 if the number box does not hold a number.

@@ -160,8 +160,6 @@ void LektorrenuswForm::Verbinden()
     NebenDemHauptfenster(
         this,
         [this] {
-            if (!isVisible())
-                return;
             for (std::size_t p = 0; p < Plätze.size(); ++p)
                 if (Plätze[p].LH == focusWidget() && !OhneVerlassen::Gilt())
                     KomboVerlassen(p); // not while the message about it is open
@@ -169,9 +167,10 @@ void LektorrenuswForm::Verbinden()
                 Schreiben();
         },
         [this] {
-            if (isVisible() && gezeigt.Überholt())
+            if (gezeigt.Überholt())
                 Füllen();
-        });
+        },
+        [this] { gezeigt.Belassen(); });
 }
 
 void LektorrenuswForm::Füllen()

@@ -24,8 +24,6 @@ namespace {
 
 constexpr int LetzterDatensatz = 600;
 
-QPointer<MessenlisteForm> offene;
-
 /// Who helps, the services of the slots and where the mass comes from are not shown.
 Auslassung NichtGezeigt()
 {
@@ -83,17 +81,13 @@ MessenlisteForm::MessenlisteForm()
     Anordnen();
     Verbinden();
     Laden();
-    offene = this;
 }
 
-QWidget *MessenlisteForm::Offene()
+void MessenlisteForm::NeuenPlanZeigen()
 {
-    if (!offene)
-        return new MessenlisteForm;
-    offene->Erneuern();
-    QWidget *vorn = offene->dialog ? offene->dialog.data() : offene.data();
-    vorn->setWindowState(vorn->windowState() & ~Qt::WindowMinimized);
-    return vorn;
+    if (auto *liste = OffeneForm<MessenlisteForm>())
+        liste->Laden();
+    Wiederkommen();
 }
 
 /// The number counts as changed, also where it is the one that stood there.
@@ -109,6 +103,7 @@ void MessenlisteForm::Laden()
         Zeigen(Messe.Cursor);
         Beschriften();
     })();
+    cursor = Messe.Cursor;
 }
 
 void MessenlisteForm::Anordnen()
@@ -166,12 +161,16 @@ void MessenlisteForm::Verbinden()
     NebenDemHauptfenster(
         this,
         [this] {
-            if (offene == this && gezeigt.Getippt() && !gezeigt.Überholt())
+            if (gezeigt.Getippt() && !gezeigt.Überholt())
                 Ablegen();
         },
         [this] {
-            if (offene == this)
-                Erneuern();
+            if (gezeigt.Überholt() || cursor != Messe.Cursor)
+                Laden();
+        },
+        [this] {
+            cursor = Messe.Cursor;
+            gezeigt.Belassen();
         });
 }
 
@@ -187,7 +186,7 @@ void MessenlisteForm::NummerGeändert()
     if (nummer > Messe.Anzahl)
         Messe.Anzahl = nummer;
     Zeigen(nummer);
-    Messe.Cursor = nummer;
+    Messe.Cursor = cursor = nummer;
     Beschriften();
 }
 
@@ -261,55 +260,42 @@ void MessenlisteForm::Löschen()
 
 void MessenlisteForm::NeueMesse()
 {
-    DialogZeigen(new NeuMesseForm(*this));
-    Zeigen(Messe.Cursor);
+    DialogAnStelleÖffnen<NeuMesseForm>(this, *this);
+    Zeigen(gezeigteMesse); // what was typed is dropped
     Beschriften();
 }
 
 void MessenlisteForm::NachNeuerMesse(bool angelegt)
 {
-    Wiederkommen();
+    MessenlisteForm *liste = Wiederkommen();
     if (!angelegt)
         return;
-    Abgefangen([this] {
-        AnzahlZeigen();
-        Zeigen(Nummer());
-        Beschriften();
+    Abgefangen([liste] {
+        liste->AnzahlZeigen();
+        liste->Zeigen(liste->Nummer());
+        liste->Beschriften();
     })();
-}
-
-void MessenlisteForm::DialogZeigen(QWidget *neuer)
-{
-    hide();
-    dialog = neuer;
-    DialogDanebenÖffnen(dialog);
-}
-
-void MessenlisteForm::Wiederkommen()
-{
-    dialog.clear();
-    show();
-    activateWindow();
 }
 
 void MessenlisteForm::HelferDerMesse()
 {
-    DialogZeigen(new LektorrenuswForm([liste = QPointer(this)] {
-        if (liste)
-            liste->Wiederkommen();
-    }));
+    DialogAnStelleÖffnen<LektorrenuswForm>(this, Wiederkommen);
+}
+
+/// Not the dialog for which it is hidden, but the list itself; a new one if it has been closed
+/// beside that dialog.
+MessenlisteForm *MessenlisteForm::Wiederkommen()
+{
+    auto *liste = OffeneForm<MessenlisteForm>();
+    if (!liste)
+        liste = new MessenlisteForm;
+    DialogDanebenÖffnen(liste);
+    return liste;
 }
 
 int MessenlisteForm::Nummer() const
 {
     return Gelesen(Wahl->Nummer, Int16Lesen);
-}
-
-/// The list shows the mass of the cursor, as it is now.
-void MessenlisteForm::Erneuern()
-{
-    if (gezeigt.Überholt() || gezeigteMesse != Messe.Cursor)
-        Laden();
 }
 
 void MessenlisteForm::Ablegen()
@@ -373,7 +359,6 @@ void MessenlisteForm::closeEvent(QCloseEvent *ereignis)
     Abgefangen([&] {
         Ablegen();
         ereignis->accept();
-        offene.clear();
         HauptfensterZurück();
     })();
 }

@@ -7,19 +7,12 @@
 #include "planning/Slotzeilen.h"
 #include "planning/Terminfelder.h"
 
-#include <QPointer>
-
 namespace altardienst {
 
 /// All handlers are trapped: a box that cannot be converted ends them without a word.
 class MessenlisteForm : public QWidget {
   public:
     MessenlisteForm();
-
-    /// The list that is open already, with its mass read anew, as the main window stays in use
-    /// beside it; otherwise a new one. While a dialog of the list is open the list is hidden behind
-    /// it, and this is the dialog.
-    static QWidget *Offene();
 
     Datensatzwahl *Wahl; // Datensatzus, Plus, Minus, DPM
     QLabel *maxi;
@@ -37,8 +30,12 @@ class MessenlisteForm : public QWidget {
     QPushButton *Lektoren;
     QPushButton *Ende;
 
+    /// Shows a new plan from its first mass on: in the list that is open, also where it is hidden
+    /// for one of its dialogs.
+    static void NeuenPlanZeigen();
+
     /// Shows the list again when the dialog for a new mass ends, with the record of its number.
-    void NachNeuerMesse(bool angelegt);
+    static void NachNeuerMesse(bool angelegt);
 
   protected:
     void closeEvent(QCloseEvent *ereignis) override;
@@ -58,11 +55,9 @@ class MessenlisteForm : public QWidget {
     void Löschen();
     void NeueMesse();
     void HelferDerMesse();
-    void DialogZeigen(QWidget *dialog);
-    void Wiederkommen();
+    static MessenlisteForm *Wiederkommen();
 
     int Nummer() const;
-    void Erneuern();
     void Ablegen();
     void Mitziehen();
     void Zeigen(int i);
@@ -72,8 +67,8 @@ class MessenlisteForm : public QWidget {
 
     bool füllt = false;
     int gezeigteMesse = 0;
+    int cursor = 0; // of the masses, when the list last looked
     Gezeigt gezeigt;
-    QPointer<QWidget> dialog; // for which the list is hidden
 };
 
 } // namespace altardienst

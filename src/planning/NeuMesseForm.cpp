@@ -31,8 +31,7 @@ NeuMesseForm::NeuMesseForm(MessenlisteForm &liste)
                "Meßdienerzahl",
                ":"}),
       Helferzahlen({{"Lecki", "Kommi", "Kanto", "Kolt"}, {"Ä8", "Ä9", "Ä10", "Ä11"}, ":"}),
-      OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen")),
-      liste(&liste)
+      OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen"))
 {
     Benannt(this, "NeuMesse");
     setWindowTitle("Neue Messe");
@@ -131,10 +130,7 @@ void NeuMesseForm::Schreiben(int i)
 void NeuMesseForm::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->accept();
-    Offen([this] {
-        if (liste)
-            liste->NachNeuerMesse(angelegt);
-    })();
+    Offen([this] { MessenlisteForm::NachNeuerMesse(angelegt); })();
 }
 
 } // namespace altardienst

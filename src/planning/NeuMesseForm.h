@@ -4,7 +4,6 @@
 #include "planning/Dienstboxen.h"
 #include "planning/Terminfelder.h"
 
-#include <QPointer>
 #include <QWidget>
 
 namespace altardienst {
@@ -36,7 +35,6 @@ class NeuMesseForm : public QWidget {
     bool DoppeltEingegeben() const;
     void Schreiben(int i);
 
-    QPointer<MessenlisteForm> liste;
     bool angelegt = false;
 };
 

@@ -48,7 +48,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenuBar>
-#include <QPointer>
 #include <QVBoxLayout>
 
 namespace altardienst {
@@ -76,8 +75,8 @@ void Eintrag(QMenu *menü, const char *name, const char *beschriftung,
                      [aktion] { HauptfensterHandelt(aktion); });
 }
 
-/// A load replaces the tables and does not touch the windows that are open: what was typed there
-/// belongs to the data before it, and is not written over those that were loaded.
+/// A load replaces the tables and does not touch the windows that are open: what was typed there is
+/// not written before it, and stays on the screen.
 void Ladeeintrag(QMenu *menü, const char *name, const char *beschriftung,
                  const std::function<void()> &aktion)
 {
@@ -129,15 +128,6 @@ int NummerDerTaste(const QKeyEvent &taste)
 #else
     return static_cast<int>(taste.nativeScanCode()) - 9; // the key 1 has 10
 #endif
-}
-
-/// The main window stays as it is, so the entry can be chosen again while the window is open.
-void InfoZeigen()
-{
-    static QPointer<frmAboutForm> info;
-    if (!info)
-        info = new frmAboutForm;
-    DialogDanebenÖffnen(info);
 }
 
 } // namespace
@@ -207,7 +197,7 @@ void HauptForm::Anordnen()
 void HauptForm::MenüDatei()
 {
     QMenu *datei = Menü(menuBar(), "mnufile", "&Datei");
-    Eintrag(datei, "mnuFilePrint", "&Drucken...", [] { DialogÖffnen(new DruckForm); });
+    Eintrag(datei, "mnuFilePrint", "&Drucken...", DialogÖffnen<DruckForm>);
     Trennstrich(datei, "mnuFileBar5");
     Eintrag(datei, "mnuFileExit", "&Beenden", Beenden);
 }
@@ -215,41 +205,32 @@ void HauptForm::MenüDatei()
 void HauptForm::MenüDaten()
 {
     QMenu *daten = Menü(menuBar(), "mnuDaten", "D&aten");
-    Eintrag(daten, "mnuKonfiguration", "&Konfiguration",
-            [] { DialogÖffnen(new KonfigurationForm); });
-    Eintrag(daten, "mnuHintergrund", "Hi&ntergrund",
-            [] { DialogÖffnen(new HintergrundsucheForm); });
-    Eintrag(daten, "mnuEtiketten", "Et&ikettengröße", [] { DialogÖffnen(new EtikettenForm); });
+    Eintrag(daten, "mnuKonfiguration", "&Konfiguration", DialogÖffnen<KonfigurationForm>);
+    Eintrag(daten, "mnuHintergrund", "Hi&ntergrund", DialogÖffnen<HintergrundsucheForm>);
+    Eintrag(daten, "mnuEtiketten", "Et&ikettengröße", DialogÖffnen<EtikettenForm>);
     Trennstrich(daten, "mnufilebar7");
-    Eintrag(daten, "mnuGruppe", "&Gruppe", [] { DialogÖffnen(new GruppeForm); });
-    Eintrag(daten, "mnuStandardmessen", "&Standardmessen",
-            [] { DialogÖffnen(new StandardmessenForm); });
-    Eintrag(daten, "mnuHelfer", "&Helfer", [] { DialogÖffnen(new HelferForm); });
-    Eintrag(daten, "mnuMeßdiener", "&Meßdiener", [] { DialogÖffnen(new MeßdienerForm); });
-    Eintrag(daten, "MnuMESSDIENZUMESS", "Meßdiener &zu Messen",
-            [] { DialogÖffnen(MesseDienerFestForm::Offene()); });
-    Eintrag(daten, "mnuMessen", "M&essen", [] { DialogÖffnen(MessenlisteForm::Offene()); });
+    Eintrag(daten, "mnuGruppe", "&Gruppe", DialogÖffnen<GruppeForm>);
+    Eintrag(daten, "mnuStandardmessen", "&Standardmessen", DialogÖffnen<StandardmessenForm>);
+    Eintrag(daten, "mnuHelfer", "&Helfer", DialogÖffnen<HelferForm>);
+    Eintrag(daten, "mnuMeßdiener", "&Meßdiener", DialogÖffnen<MeßdienerForm>);
+    Eintrag(daten, "MnuMESSDIENZUMESS", "Meßdiener &zu Messen", DialogÖffnen<MesseDienerFestForm>);
+    Eintrag(daten, "mnuMessen", "M&essen", DialogÖffnen<MessenlisteForm>);
     Trennstrich(daten, "mnuFileBar6");
-    Eintrag(daten, "mnuJubGeb", "&Jubiläen und Geburtstage",
-            [] { DialogÖffnen(new JubiGebuForm); });
+    Eintrag(daten, "mnuJubGeb", "&Jubiläen und Geburtstage", DialogÖffnen<JubiGebuForm>);
 
     QMenu *diener = Menü(daten, "mnuStatistiken", "S&tatistik Meßdiener");
-    Eintrag(diener, "mnuStatistik", "Meßdiener &allgemein",
-            [] { DialogÖffnen(new StatistikForm); });
-    Eintrag(diener, "mnuStatistikGröße", "Meßdiener &Größe",
-            [] { DialogÖffnen(new Statistik2Form); });
-    Eintrag(diener, "mnuMessendienst", "Messendiens&t",
-            [] { DialogÖffnen(new StatMeßdienstForm); });
+    Eintrag(diener, "mnuStatistik", "Meßdiener &allgemein", DialogÖffnen<StatistikForm>);
+    Eintrag(diener, "mnuStatistikGröße", "Meßdiener &Größe", DialogÖffnen<Statistik2Form>);
+    Eintrag(diener, "mnuMessendienst", "Messendiens&t", DialogÖffnen<StatMeßdienstForm>);
     Eintrag(diener, "mnuStatDienst", "Anzahl Die&nste Meßdiener im Plan",
-            [] { DialogÖffnen(new StatDienstForm); });
+            DialogÖffnen<StatDienstForm>);
 
     QMenu *helfer = Menü(daten, "mnuStatistikHilf", "Statistik He&lfer");
-    Eintrag(helfer, "mnuStatistikHilfA", "Helfer &allgemein",
-            [] { DialogÖffnen(new StatistikAllgForm); });
+    Eintrag(helfer, "mnuStatistikHilfA", "Helfer &allgemein", DialogÖffnen<StatistikAllgForm>);
     Eintrag(helfer, "mnuHelferMessendienst", "Messendiens&t Helfer",
-            [] { DialogÖffnen(new StatistikHelferForm); });
+            DialogÖffnen<StatistikHelferForm>);
     Eintrag(helfer, "mnuStatHDienst", "Anzahl Die&nste Helfer im Plan",
-            [] { DialogÖffnen(new StatHelferForm); });
+            DialogÖffnen<StatHelferForm>);
 }
 
 void HauptForm::MenüSortieren()
@@ -292,7 +273,7 @@ void HauptForm::MenüZusatz()
 {
     QMenu *zusatz = Menü(menuBar(), "mnuZusatz", "&Zusatz");
     Eintrag(zusatz, "mnuMessenlisteText", "Messenliste als &Textdatei speichern",
-            [] { DialogÖffnen(new DialogForm); });
+            DialogÖffnen<DialogForm>);
 
     QMenu *festplatte = Menü(zusatz, "mnuDatend", "Date&n auf Festplatte");
     Eintrag(festplatte, "mnuDatenspeichern", "&speichern", [] { SpeichernOderEnden(); });
@@ -305,11 +286,11 @@ void HauptForm::MenüZusatz()
     QMenu *daten = Menü(zusatz, "mnuDatamenu", "Dat&en");
     Eintrag(daten, "mnuDatenHolen", "Daten &holen", [] {
         if (SpeichernOderEnden())
-            DialogÖffnen(new DateikopieForm);
+            DialogÖffnen<DateikopieForm>();
     });
     Eintrag(daten, "mnuDatenSichern", "Daten &sichern", [] {
         if (SpeichernOderEnden())
-            DialogÖffnen(new DatensicherungForm);
+            DialogÖffnen<DatensicherungForm>();
     });
     Eintrag(zusatz, "DruckML", "Dienste &richtig setzen für Messenlistausdruck", DiensteVerteilen);
 }
@@ -317,7 +298,8 @@ void HauptForm::MenüZusatz()
 void HauptForm::MenüHilfe()
 {
     QMenu *hilfe = Menü(menuBar(), "mnuHelp", "&?");
-    Eintrag(hilfe, "mnuHelpAbout", "&Info zur Anwendung", InfoZeigen);
+    Eintrag(hilfe, "mnuHelpAbout", "&Info zur Anwendung",
+            [] { DialogDanebenÖffnen<frmAboutForm>(); });
 }
 
 void HauptForm::Verbinden()
@@ -327,17 +309,17 @@ void HauptForm::Verbinden()
     };
     schritt(Messenorgani, [] {
         UnterWartezeiger(MessenNeuBestimmen);
-        // The one case in which the main window stays enabled behind a dialog.
-        DialogDanebenÖffnen(MessenlisteForm::Offene());
+        // The one case in which the main window stays enabled beside a dialog.
+        MessenlisteForm::NeuenPlanZeigen();
     });
-    schritt(Meßdienernern, [] { DialogÖffnen(new NeuMesseDienerFestForm); });
+    schritt(Meßdienernern, DialogÖffnen<NeuMesseDienerFestForm>);
     schritt(Dienstus,
             [] { UnterWartezeiger([] { MessenMitMeßdienerBesetzen(FesteMeßdienerÜbertragen); }); });
     schritt(MeßdienerMessen, [] {
         UnterWartezeiger([] { WunschpartnerBerücksichtigen(FesteMeßdienerÜbertragen); });
     });
     schritt(Helfend, [] { UnterWartezeiger(MessenMitMessehelferBesetzen); });
-    schritt(AnzMesse, [] { DialogÖffnen(MessenlisteForm::Offene()); });
+    schritt(AnzMesse, DialogÖffnen<MessenlisteForm>);
     schritt(Messendruck, PlanDrucken);
 
     connect(Timer1, &QTimer::timeout, this, Nebenbei([this] { Takt(); }));
@@ -368,9 +350,9 @@ void HauptForm::keyPressEvent(QKeyEvent *taste)
     if (nummer >= 1 && nummer <= static_cast<int>(schritte.size()))
         schritte[static_cast<std::size_t>(nummer - 1)]->click();
     else if (taste->key() == Qt::Key_F11)
-        DialogÖffnen(new ZusatzKonfigForm);
+        HauptfensterHandelt(DialogÖffnen<ZusatzKonfigForm>);
     else if (taste->key() == Qt::Key_F12)
-        DialogÖffnen(new SkalierungForm);
+        HauptfensterHandelt(DialogÖffnen<SkalierungForm>);
     else
         QMainWindow::keyPressEvent(taste);
 }

@@ -14,11 +14,10 @@ namespace {
 
 QPointer<StartForm> Start;
 QPointer<HauptForm> Haupt;
-QPointer<DateienKopierenForm> Erstkopie;
 
 bool WirdKopiert()
 {
-    return Erstkopie && Erstkopie->isVisible();
+    return OffeneForm<DateienKopierenForm>() != nullptr;
 }
 
 /// A start dialog that was shown anew behind a load from the menu leads back to the main window
@@ -44,10 +43,7 @@ void NachErstkopie(bool kopiert)
 
 void KopierdialogZeigen()
 {
-    if (!WirdKopiert()) {
-        Erstkopie = new DateienKopierenForm(NachErstkopie);
-        DialogDanebenÖffnen(Erstkopie);
-    }
+    DialogDanebenÖffnen<DateienKopierenForm>(NachErstkopie);
     if (Start)
         Start->hide();
 }

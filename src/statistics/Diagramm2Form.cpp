@@ -1,6 +1,7 @@
 // Heights of the servers as a chart.
 #include "statistics/Diagramm2Form.h"
 
+#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "statistics/Diagrammbild.h"
 #include "statistics/Statistik2Form.h"
@@ -48,10 +49,8 @@ void Diagramm2Form::Füllen()
 void Diagramm2Form::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->accept();
-    if (!statistik)
-        return;
-    statistik->show();
-    statistik->activateWindow();
+    if (statistik)
+        DialogDanebenÖffnen(statistik);
 }
 
 } // namespace altardienst

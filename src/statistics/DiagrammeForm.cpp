@@ -1,6 +1,7 @@
 // Age and membership of the servers as charts.
 #include "statistics/DiagrammeForm.h"
 
+#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "core/Umwandlung.h"
 #include "platform/Uhr.h"
@@ -92,10 +93,8 @@ void DiagrammeForm::Füllen()
 void DiagrammeForm::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->accept();
-    if (!statistik)
-        return;
-    statistik->show();
-    statistik->activateWindow();
+    if (statistik)
+        DialogDanebenÖffnen(statistik);
 }
 
 } // namespace altardienst

@@ -47,11 +47,8 @@ void Statistik2Form::Anordnen()
 
 void Statistik2Form::Verbinden()
 {
-    connect(Diagramm, &QPushButton::clicked, this, Offen([this] {
-                auto *diagramm = new Diagramm2Form(this);
-                hide();
-                DialogDanebenÖffnen(diagramm);
-            }));
+    connect(Diagramm, &QPushButton::clicked, this,
+            Offen([this] { DialogAnStelleÖffnen<Diagramm2Form>(this, this); }));
     DruckUndEndeVerbinden(this, Druck, Ende);
 }
 

@@ -115,11 +115,8 @@ void StatistikForm::Anordnen()
 
 void StatistikForm::Verbinden()
 {
-    connect(Diagramm, &QPushButton::clicked, this, Offen([this] {
-                auto *diagramme = new DiagrammeForm(this);
-                hide();
-                DialogDanebenÖffnen(diagramme);
-            }));
+    connect(Diagramm, &QPushButton::clicked, this,
+            Offen([this] { DialogAnStelleÖffnen<DiagrammeForm>(this, this); }));
     DruckUndEndeVerbinden(this, Druck, Ende);
 }
 

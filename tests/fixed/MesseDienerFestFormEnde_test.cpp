@@ -2,6 +2,7 @@
 #include "fixed/FesteEinträge.h"
 #include "fixed/Zuordnungsstand.h"
 
+#include "core/Allgemein.h"
 #include "shell/HauptForm.h"
 
 #include <QAction>
@@ -231,6 +232,67 @@ TEST_F(MesseDienerFestFormEndeTest, EsGibtDieListeNurEinmal)
     for (const QWidget *fenster : QApplication::topLevelWidgets())
         zahl += fenster->objectName() == "MesseDienerFest";
     EXPECT_EQ(zahl, 1);
+}
+
+/// The mass list enables the main window when it closes, so (2) and the entry can both be chosen.
+TEST_F(MesseDienerFestFormEndeTest, HinzuHoltDenDialogDerSchonOffenIst)
+{
+    Klick(haupt->Messenorgani);
+    Klick(haupt->Meßdienernern);
+    const QPointer<QWidget> neu = Fenster("NeuMesseDienerFest");
+    Fenster("Messenliste")->close();
+    EXPECT_TRUE(HauptfensterIstZurück());
+    Öffnen();
+    neu->showMinimized();
+    Drücken("Hinzu");
+    EXPECT_FALSE(form->isEnabled());
+    EXPECT_TRUE(form->isMinimized());
+    int zahl = 0;
+    for (const QWidget *fenster : QApplication::topLevelWidgets())
+        zahl += fenster->objectName() == "NeuMesseDienerFest";
+    EXPECT_EQ(zahl, 1);
+    EXPECT_FALSE(neu->isMinimized());
+    EXPECT_TRUE(Warten([&] { return neu->isActiveWindow(); }));
+    neu->close();
+    EXPECT_TRUE(form->isEnabled());
+    EXPECT_TRUE(form->isMaximized());
+    EXPECT_TRUE(HauptfensterIstZurück());
+}
+
+// A start dialog that is loaded anew clears the flag.
+TEST_F(MesseDienerFestFormEndeTest, EsGibtSieNurEinmalAuchWennDerStartNeuGeladenWurde)
+{
+    Öffnen();
+    Drücken("Hinzu");
+    QWidget *neu = Fenster("NeuMesseDienerFest");
+    Zeigen(neu);
+    FesteZuordnungOffen = false;
+    neu->close();
+    EXPECT_FALSE(form->isEnabled());
+    Wählen("MnuMESSDIENZUMESS");
+    EXPECT_EQ(Fenster("MesseDienerFest"), form);
+    EXPECT_TRUE(form->isEnabled());
+    EXPECT_FALSE(form->isMinimized());
+    EXPECT_TRUE(Warten([&] { return form->isActiveWindow(); }));
+    EXPECT_TRUE(FesteZuordnungOffen);
+}
+
+TEST_F(MesseDienerFestFormEndeTest, EinLadenRührtSieNichtAn)
+{
+    Öffnen();
+    AufFestplatteSpeichern();
+    HinzuUndZurück();
+    Wählen(1, "Dahl,Kim");
+    MesseDienerFest.Nachname[0][1] = "Zoller";
+    MesseDienerFest.Cursor = 1;
+    Zeigen(haupt);
+    Wählen("mnuDatenladen");
+    EXPECT_EQ(Gespeichert(0, 1), "Kim|Abel");
+    EXPECT_EQ(MesseDienerFest.Cursor, 0);
+    EXPECT_EQ(Gewählt(1), "Dahl,Kim");
+    EXPECT_EQ(Zeigt("Index"), "0");
+    form->close();
+    EXPECT_EQ(Gespeichert(0, 1), "Kim|Dahl");
 }
 
 TEST_F(MesseDienerFestFormEndeTest, ZurückAusEinerAnderenFormZeigtSieDenEintragNeu)

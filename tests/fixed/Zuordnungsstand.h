@@ -61,8 +61,8 @@ class Zuordnungsstand : public Formstand {
 
     void ListeÖffnen()
     {
-        form = MesseDienerFestForm::Offene();
-        DialogÖffnen(form);
+        DialogÖffnen<MesseDienerFestForm>();
+        form = Fenster("MesseDienerFest");
         Zeigen(form);
     }
     void NeuÖffnen()

@@ -29,7 +29,7 @@ class MessenlisteImProgramm : public Messenlistenstand {
     void ListeDaneben(int cursor = 0)
     {
         Messe.Cursor = cursor;
-        DialogDanebenÖffnen(MessenlisteForm::Offene());
+        DialogDanebenÖffnen<MessenlisteForm>();
         form = Fenster("Messenliste");
     }
 

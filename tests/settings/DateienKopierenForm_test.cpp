@@ -214,6 +214,12 @@ TEST_F(DateienKopierenFormTest, EinWeiteresLadenVerstecktDenWiedergekehrtenStart
     laden->trigger();
     EXPECT_EQ(Anzahl("DateienKopieren"), 1) << "the one that is open";
     EXPECT_FALSE(IstOffen("Start"));
+    QWidget *offener = Fenster("DateienKopieren");
+    offener->showMinimized();
+    laden->trigger();
+    EXPECT_EQ(Fenster("DateienKopieren"), offener);
+    EXPECT_FALSE(offener->isMinimized());
+    EXPECT_TRUE(Warten([&] { return offener->isActiveWindow(); }));
 }
 
 TEST_F(DateienKopierenFormTest, EinzelErgänztDieFehlendeUndLässtSiebenGuteStehen)
