@@ -9,7 +9,7 @@
 namespace altardienst {
 namespace {
 
-/// Writes the services of a mass into its slots, as often as `wieOft` says of each.
+/// Writes the services of a mass into its slots, each as often as `wieOft` says.
 template <class F> void Abzählen(int messe, F wieOft)
 {
     int slot = 0;
@@ -34,8 +34,8 @@ void LaufDiensteVerteilen()
 {
     for (int i = 0; i <= Messe.Anzahl; ++i)
         Abzählen(i, [](const Dienstart &art, int zahl) {
-            // Both thresholds of these two services are 1 here; the plan draws by it and is kept
-            // so.
+            // Both thresholds of these two services are 1 here; the draw depends on that, so it is
+            // kept.
             if ((&art == &Weihrauch || &art == &Kreuzträger) && zahl >= 1)
                 return art.Höchstens;
             return std::min(zahl, art.Höchstens);

@@ -3,12 +3,12 @@
 
 namespace altardienst {
 
-/// Rewrites `Messe.DienerDienst` of all masses, the blank one behind the last included: each wanted
-/// service in its fixed order from index 0 on, everything else "Allgemein".
+/// Rewrites `Messe.DienerDienst` of all masses, including the blank one after the last: the wanted
+/// services in their fixed order from index 0 on, everything else "Allgemein".
 void DiensteVerteilen();
 
-/// The expansion of the plain way. It leaves what it does not reach, and writes "Weihrauch" and
-/// "Kreuzträger" twice as soon as one is wanted.
+/// The same for the plain way, except that slots it does not reach stay as they are, and
+/// "Weihrauch" and "Kreuzträger" are written twice as soon as one is wanted.
 void LaufDiensteVerteilen();
 
 } // namespace altardienst

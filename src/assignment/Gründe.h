@@ -1,6 +1,6 @@
-// Why somebody is refused for a place. Each rule of the draw stands here once, as a function of the
-// person and the place that answers with its reason. The ways of assignment go by the first reason
-// of their list; whoever wants to know why somebody cannot stand somewhere asks for all of them.
+// Why somebody is refused for a place. Each rule of the draw is here once, as a function of the
+// person and the place that returns its reason. The ways of assignment use the first reason in
+// their list; whoever wants to know why somebody cannot serve somewhere asks for all of them.
 #pragma once
 
 #include "core/Plätze.h"
@@ -19,17 +19,17 @@ enum class Grund {
     ZuVielePaare,         // has stood in as many pairs as his frequency allows
     FalscheGröße,         // too far from the height reference of the mass
     OhneQualifikation,    // may not do the service
-    VonHand,              // not the person's: the service of the place is set by hand
+    VonHand,              // no fault of the person: the service of the place is set by hand
     Abwesend,             // on the date of the mass
-    AnderesGeschlecht,    // than the server placed before, with whom he would stand as a pair
-    GegenWochendienst,    // wishes no masses of the kind "Wochendienst"
-    GegenWochentag,       // wishes not to serve on this weekday
-    PartnerOhnePlatz,     // has a wish partner, for whom the last place leaves none
-    OhneDienst,           // the service is none of the helper's
+    AnderesGeschlecht,    // than the server placed before, with whom he would form a pair
+    GegenWochendienst,    // does not want masses of the kind "Wochendienst"
+    GegenWochentag,       // does not want to serve on this weekday
+    PartnerOhnePlatz,     // has a wish partner, for whom there is no place after the last one
+    OhneDienst,           // the helper does not do the service
     DienstInBeidenFeldern // the helper has named the service twice
 };
 
-// The tables are arguments: the shared ones, or copies to work on aside.
+// The tables are arguments: the shared ones, or copies to work on separately.
 
 template <class Tabelle> struct Person {
     const Tabelle &Personen;
@@ -54,16 +54,16 @@ struct Helferstelle {
     const Helferplatz &Platz;
 };
 
-/// What the tests have to know of the run beside the tables.
+/// What the tests have to know about the run besides the tables.
 struct Laufstand {
     bool Vergeben = false;                   // the person counts as taken
     Int16 MittelGröße = 0;                   // height reference of the mass, cm
     std::string_view LetztesGeschlecht = {}; // of the server placed last
-    Int16 Paare = 0;                         // in which the server has stood
-    Int16 DienstProDiener = 0;               // pairs for a server whose frequency is normal
+    Int16 Paare = 0;                         // that the server has been part of
+    Int16 DienstProDiener = 0;               // pairs for a server with normal frequency
 };
 
-// Pieces of the rules.
+// Building blocks of the rules.
 
 /// Whether the run counts the person as taken.
 template <class Tabelle> bool IstVergeben(const Tabelle &personen, int j)
@@ -71,13 +71,13 @@ template <class Tabelle> bool IstVergeben(const Tabelle &personen, int j)
     return personen.Belegt[j] == 1;
 }
 
-/// Whether `tag` lies in a period of absence; both its end dates belong to it.
+/// Whether `tag` is in a period of absence, which includes its first and last day.
 constexpr bool LiegtIn(Datum tag, Datum von, Datum bis)
 {
     return !(tag < von || tag > bis);
 }
 
-/// Whether somebody placed on the date `zuletzt` is held back on `tag`: on the same date and on the
+/// Whether somebody placed on the date `zuletzt` is blocked on `tag`: on the same date and on the
 /// next one.
 constexpr bool IstGesperrt(Datum zuletzt, Datum tag)
 {
@@ -97,7 +97,7 @@ inline bool IstAbwesend(const HelferTabelle &t, int j, Datum tag)
            LiegtIn(tag, t.Von3[j], t.Bis3[j]);
 }
 
-/// A wish with one of the two names alone is none.
+/// A wish with only one of the two names is no wish.
 inline bool HatWunschpartner(const MeßdienerTabelle &t, int j)
 {
     return !t.WunschVorname[j].empty() && !t.WunschNachname[j].empty();
@@ -114,7 +114,7 @@ constexpr Grund Falls(bool trifftZu, Grund grund)
     return trifftZu ? grund : Grund::Keiner;
 }
 
-// The tests of servers and helpers alike.
+// The tests that servers and helpers share.
 
 template <class P, class Platz> Grund NamenPrüfen(const P &person, const Platz &, const Laufstand &)
 {
@@ -135,7 +135,7 @@ Grund AnwesenheitPrüfen(const P &person, const Platz &platz, const Laufstand &)
     return Falls(IstAbwesend(person.Personen, person.Nr, tag), Grund::Abwesend);
 }
 
-// The tests of servers.
+// The tests for servers.
 
 /// The first slot sets the reference. Failure 6 if the tolerance goes beyond an Int16.
 inline Grund GrößePrüfen(const Dienerperson &person, const Dienerplatz &platz,
@@ -150,7 +150,7 @@ inline Grund GrößePrüfen(const Dienerperson &person, const Dienerplatz &platz
     return Falls(!passt, Grund::FalscheGröße);
 }
 
-/// A service without a position among the qualifications is open to everybody.
+/// A service that has no position among the qualifications is open to everybody.
 inline Grund QualifikationPrüfen(const Dienerperson &person, const Dienerplatz &platz,
                                  const Laufstand &)
 {
@@ -162,7 +162,7 @@ inline Grund QualifikationPrüfen(const Dienerperson &person, const Dienerplatz 
     return Grund::Keiner;
 }
 
-/// The same, whatever a file has left in the slots that never have a service of their own.
+/// The same, ignoring whatever a file has left in the slots that never have a service of their own.
 inline Grund QualifikationDerDienstslotsPrüfen(const Dienerperson &person, const Dienerplatz &platz,
                                                const Laufstand &stand)
 {
@@ -177,7 +177,7 @@ inline Grund VonHandPrüfen(const Dienerperson &, const Dienerplatz &platz, cons
         Grund::VonHand);
 }
 
-/// Servers stand in pairs of one sex: slots 1 and 2, 3 and 4, and so on.
+/// Servers form pairs of the same sex: slots 1 and 2, 3 and 4, and so on.
 inline Grund GeschlechtPrüfen(const Dienerperson &person, const Dienerplatz &platz,
                               const Laufstand &stand)
 {
@@ -186,7 +186,7 @@ inline Grund GeschlechtPrüfen(const Dienerperson &person, const Dienerplatz &pl
                  Grund::AnderesGeschlecht);
 }
 
-// In the week wishes a "j" is the wish to be left out.
+// In the weekly wishes a "j" is the wish to be left out.
 
 inline Grund WochendienstPrüfen(const Dienerperson &person, const Dienerplatz &platz,
                                 const Laufstand &)
@@ -196,8 +196,8 @@ inline Grund WochendienstPrüfen(const Dienerperson &person, const Dienerplatz &
                  Grund::GegenWochendienst);
 }
 
-/// The wishes by weekday hold only for masses that come from the week pattern, and not on Saturday
-/// and Sunday. A filled-up name is none of them.
+/// The wishes by weekday apply only to masses that come from the week pattern, and not on Saturday
+/// and Sunday. A padded weekday name matches none of them.
 inline Grund WochentagPrüfen(const Dienerperson &person, const Dienerplatz &platz,
                              const Laufstand &)
 {
@@ -213,7 +213,7 @@ inline Grund WochentagPrüfen(const Dienerperson &person, const Dienerplatz &pla
     return Grund::Keiner;
 }
 
-/// Failure 6 if frequency and share go beyond an Int16 together.
+/// Failure 6 if the sum of frequency and share does not fit into an Int16.
 inline Grund PaarePrüfen(const Dienerperson &person, const Dienerplatz &, const Laufstand &stand)
 {
     return Falls(stand.Paare >= person.Personen.Häufigkeit[person.Nr] + stand.DienstProDiener,
@@ -228,10 +228,10 @@ inline Grund LetztenPlatzPrüfen(const Dienerperson &person, const Dienerplatz &
                  Grund::PartnerOhnePlatz);
 }
 
-// The test of helpers.
+// The test for helpers.
 
-/// A Lektor needs the service in one of the two fields. For all other places the sense is turned
-/// round: only who has the service in both fields is refused.
+/// A Lektor needs the service in one of the two fields. For all other places it is the other way
+/// round: only helpers who have the service in both fields are refused.
 inline Grund HelferdienstPrüfen(const Helferperson &person, const Helferstelle &stelle,
                                 const Laufstand &)
 {
@@ -248,9 +248,9 @@ inline Grund HelferdienstPrüfen(const Helferperson &person, const Helferstelle 
 template <class P, class Platz>
 using Prüfung = Grund (*)(const P &, const Platz &, const Laufstand &);
 
-/// Tests in the order in which a way makes them.
+/// Tests in the order in which a way runs them.
 template <class P, class Platz, Prüfung<P, Platz>... prüfungen> struct Prüfliste {
-    /// The first reason; the tests after it are not made.
+    /// The first reason; the tests after it are not run.
     static Grund Erster(const P &person, const Platz &platz, const Laufstand &stand)
     {
         Grund grund = Grund::Keiner;
@@ -268,26 +268,26 @@ template <class P, class Platz, Prüfung<P, Platz>... prüfungen> struct Prüfli
     }
 };
 
-/// The two simple ways of servers.
+/// The two simple ways for servers.
 using EinfachePrüfungen = Prüfliste<Dienerperson, Dienerplatz, NamenPrüfen, FreiseinPrüfen>;
 
-/// The full way of servers.
+/// The full way for servers.
 using VollePrüfungen = Prüfliste<Dienerperson, Dienerplatz, NamenPrüfen, FreiseinPrüfen,
                                  GrößePrüfen, QualifikationDerDienstslotsPrüfen, AnwesenheitPrüfen,
                                  GeschlechtPrüfen, WochendienstPrüfen, WochentagPrüfen>;
 
-/// The partner way of servers. A service set by hand comes to light only after the tests before it:
-/// some server must hold the qualification, though nobody is placed.
+/// The partner way for servers. A service set by hand is only noticed after the tests before it:
+/// some server must have the qualification, although nobody is placed.
 using Partnerprüfungen =
     Prüfliste<Dienerperson, Dienerplatz, NamenPrüfen, FreiseinPrüfen, PaarePrüfen,
               QualifikationPrüfen, VonHandPrüfen, AnwesenheitPrüfen, WochendienstPrüfen,
               WochentagPrüfen, GeschlechtPrüfen, LetztenPlatzPrüfen>;
 
-/// Helpers, where there are enough.
+/// Helpers, if there are enough.
 using Helferprüfungen = Prüfliste<Helferperson, Helferstelle, NamenPrüfen, FreiseinPrüfen,
                                   AnwesenheitPrüfen, HelferdienstPrüfen>;
 
-/// Helpers, where one service has too few.
+/// Helpers, if one service has too few.
 using FreieHelferprüfungen = Prüfliste<Helferperson, Helferstelle, NamenPrüfen>;
 
 } // namespace altardienst

@@ -1,4 +1,4 @@
-// The assignment of helpers, behind button (5).
+// The assignment of helpers, which button (5) starts.
 #include "assignment/Helferzuweisung.h"
 
 #include "assignment/Ziehung.h"
@@ -38,15 +38,15 @@ bool IstPlatz(const Helferplatz &platz, const Helferart &art, int nummer)
     return &platz.Art == &art && platz.Nummer == nummer;
 }
 
-/// False if the search was given up.
+/// Returns false if the search was given up.
 bool PlätzeFüllen()
 {
     bool zweiterKommunionhelfer = false;
     for (const Helferplatz &platz : Helferplätze) {
         if (!platz.Nötig(Messe, MesseNr))
             continue;
-        // The search for the first Kantor goes on with the clock of the search before it, unless a
-        // second Kommunionhelfer was filled in this mass.
+        // The search for the first Kantor continues with the clock of the previous search, unless a
+        // second Kommunionhelfer was placed in this mass.
         if (!IstPlatz(platz, Kantor, 1) || zweiterKommunionhelfer)
             SucheStart = Uhr.Sekunden();
         do {
@@ -88,7 +88,7 @@ void HelferFreiZuweisen()
     }
 }
 
-/// Whether the helpers whose first service it is are fewer than two of its busiest days need.
+/// Whether there are fewer helpers with this first service than two of its busiest days need.
 bool Knapp(const Helferart &art)
 {
     const Int16 tag = GrößteTagessumme(art.Zahl.In(Messe));
@@ -109,7 +109,7 @@ void HelferZuweisen()
     SucheStart = Uhr.Sekunden();
     bool knapp = false;
     for (const Helferart &art : Helferarten)
-        knapp = Knapp(art) || knapp; // all sums are made, so that no overflow in one is missed
+        knapp = Knapp(art) || knapp; // every sum is computed, so that no overflow is missed
     if (knapp)
         HelferFreiZuweisen();
     else

@@ -1,4 +1,4 @@
-// The plain ways of assigning servers, behind button (3).
+// The plain ways of assigning servers, which button (3) starts.
 #include "assignment/MEßdienerzuweiseung.h"
 
 #include "assignment/Ziehung.h"
@@ -12,9 +12,9 @@
 namespace altardienst {
 namespace {
 
-constexpr int Neustartgrenze = 2;  // whole seconds of search, then the mass starts again
+constexpr int Neustartgrenze = 2;  // whole seconds of search before the mass starts again
 constexpr int MeisteNeustarts = 5; // of one mass
-constexpr int Aufgabegrenze = 80;  // whole seconds of search, then the run ends
+constexpr int Aufgabegrenze = 80;  // whole seconds of search before the run ends
 
 int Slots(int messe)
 {
@@ -49,7 +49,7 @@ void AlleFreigeben()
         Meßdiener.Belegt[s] = 0;
 }
 
-/// False if the search was given up.
+/// Returns false if the search was given up.
 bool MesseFüllen()
 {
     const int slots = Slots(MesseNr);

@@ -1,4 +1,4 @@
-// What stands around the ways of assignment: buttons (3), (4) and (5) of the main window.
+// What surrounds the ways of assignment: buttons (3), (4) and (5) of the main window.
 #include "assignment/Zuweisungsrahmen.h"
 
 #include "assignment/Dienste.h"
@@ -18,14 +18,14 @@ Int16 DienstProDiener;
 
 namespace {
 
-/// The rules by number hold back until two full days can be served: the block by date keeps the
-/// same day and the day before apart.
+/// The ways by number with more rules are used only if there are enough servers for two full days:
+/// the block by date keeps the same day and the day before apart.
 void WegNachAnzahl()
 {
     const Int16 anzahl = Meßdiener.Anzahl;
     if (anzahl <= GrößteMesse)
         Meldungen.Zeigen("Zuwenig Meßdiener !!!!");
-    else if (anzahl <= 2 * GrößterTag) // may overflow, so not formed before
+    else if (anzahl <= 2 * GrößterTag) // may overflow, so it is not computed earlier
         MeßdienerKnappZuweisen();
     else if (anzahl <= 2 * GrößterTag + 10)
         MeßdienerFreiZuweisen();

@@ -1,4 +1,4 @@
-// The partner way of assigning servers, behind button (4).
+// The partner way of assigning servers, which button (4) starts.
 #include "assignment/ZweiMeßdienerzuweisen.h"
 
 #include "assignment/Ziehung.h"
@@ -11,9 +11,9 @@
 namespace altardienst {
 namespace {
 
-constexpr int Neustartgrenze = 2;  // whole seconds of search, then the mass starts again
+constexpr int Neustartgrenze = 2;  // whole seconds of search before the mass starts again
 constexpr int MeisteNeustarts = 5; // of one mass
-constexpr int Aufgabegrenze = 100; // whole seconds of search, then the run ends
+constexpr int Aufgabegrenze = 100; // whole seconds of search before the run ends
 
 Int16 Slot; // the slot being filled, from 1
 
@@ -25,8 +25,8 @@ template <class F> void FürJedenNamens(const Text &vorname, const Text &nachnam
             f(p);
 }
 
-/// Takes the servers out of the draw who are fixed to a mass of this day or of the day before. An
-/// entry that stands for a group matches no server.
+/// Takes servers who are fixed to a mass on this day or the day before out of the draw. An entry
+/// for a group matches no server.
 void FesteSperren()
 {
     constexpr int HöchsterGesehener = 100; // entries above it block nobody
@@ -46,9 +46,9 @@ void FesteSperren()
     }
 }
 
-/// Places `Kandidat` at `Slot`, and the wish partner in the next one unless somebody of that name
-/// is taken. The partner is tested for nothing else, and the wish is written as it stands, also if
-/// no server bears the name.
+/// Places `Kandidat` in `Slot`, and the wish partner in the next one unless somebody with that name
+/// is taken. The partner is tested for nothing else, and the wish is written as it is, even if no
+/// server has that name.
 void WunschpartnerEintragen()
 {
     MeßdienerEintragen(Slot);
@@ -75,15 +75,15 @@ void WunschpartnerEintragen()
 
 enum class Urteil { Passt, Abgelehnt, MesseFertig };
 
-/// Passes over a slot whose service is set by hand.
+/// Skips a slot whose service is set by hand.
 Urteil SlotÜbergehen()
 {
     const bool kreuz = DienstDesSlots(MesseNr, Slot) == Kreuzträger.Name;
-    ++Slot; // at the last slot too, so a server can come to stand beyond the count
+    ++Slot; // at the last slot too, so a server can end up beyond the count
     return kreuz && Slot == Messe.Dienerzahl[MesseNr] ? Urteil::MesseFertig : Urteil::Abgelehnt;
 }
 
-/// The tests of the drawn server for `Slot`.
+/// Tests the drawn server for `Slot`.
 Urteil Prüfen()
 {
     const Laufstand stand = {.Vergeben = IstVergeben(Meßdiener, Kandidat),
@@ -101,7 +101,7 @@ Urteil Prüfen()
     }
 }
 
-/// False if the search was given up.
+/// Returns false if the search was given up.
 bool MesseFüllen()
 {
     for (Slot = 1; Slot <= Messe.Dienerzahl[MesseNr]; ++Slot) {

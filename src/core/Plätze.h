@@ -1,6 +1,6 @@
 // The services and places of a mass, and the bounds of a plan, each in one place. Whatever lists
-// them walks these tables; what a list has to itself stands with that list. The names of the
-// weekdays stand with the dates (values/Datum.h).
+// them walks these tables; what only one list needs is kept with that list. The weekday names are
+// with the dates (values/Datum.h).
 #pragma once
 
 #include "core/tables.h"
@@ -12,11 +12,11 @@
 
 namespace altardienst {
 
-// Days of the plan period after its first.
+// Days of the plan period after the first.
 constexpr int WenigsteTage = 7;
 constexpr int MeisteTage = 180;
 
-/// A count that stands in a mass and in the week pattern.
+/// A count that both a mass and the week pattern have.
 struct Zahlspalte {
     MesseTabelle::Spalte<Int16> MesseTabelle::*InMesse;
     StandardmesseTabelle::Spalte<Int16> StandardmesseTabelle::*InStandardmesse;
@@ -36,12 +36,12 @@ struct Dienstart {
     Festtext Name; // in `Messe.DienerDienst` and on paper
     Festtext Kurz; // where there is little room
     Zahlspalte Zahl;
-    int Höchstens; // places in a mass; a larger count gives no more
+    int Höchstens; // most places in a mass; a larger count gives no more
     int Stelle;    // in `Meßdiener.Qualifikation`; 0: everybody may do it
 };
 
-/// In the order in which the slots of a mass are counted off. What no other service takes is
-/// "Allgemein".
+/// In the order in which the slots of a mass are assigned to them. A slot that no other service
+/// takes is "Allgemein".
 inline constexpr std::array<Dienstart, 6> Dienstarten = [] {
     using M = MesseTabelle;
     using S = StandardmesseTabelle;
@@ -63,7 +63,7 @@ inline constexpr const Dienstart &Allgemein = Dienstarten[5];
 /// The services that have slots of their own.
 inline constexpr std::span<const Dienstart, 5> BesondereDienste = std::span(Dienstarten).first<5>();
 
-/// The slots above it are always "Allgemein".
+/// Slots above this one are always "Allgemein".
 inline constexpr int HöchsterDienstSlot = [] {
     int slots = 0;
     for (const Dienstart &art : BesondereDienste)
@@ -71,7 +71,7 @@ inline constexpr int HöchsterDienstSlot = [] {
     return slots;
 }();
 
-/// The service of slot `n` (1 to 20), which stands one place lower than the names of the slot.
+/// The service of slot `n` (1 to 20), which is stored one index lower than the names of the slot.
 inline Text &DienstDesSlots(int messe, int n)
 {
     return Messe.DienerDienst[messe][n - 1];
@@ -107,7 +107,7 @@ inline constexpr const Helferart &Kollektant = Helferarten[3];
 /// A place of a helper in a mass.
 struct Helferplatz {
     const Helferart &Art;
-    int Nummer; // among those of its kind, from 1; wanted if their count reaches it
+    int Nummer; // among the places of its kind, from 1; wanted if their count reaches it
     MesseTabelle::Spalte<Text> MesseTabelle::*Vor;
     MesseTabelle::Spalte<Text> MesseTabelle::*Nach;
 
@@ -132,13 +132,13 @@ inline constexpr std::array<Helferplatz, 8> Helferplätze = {{
     {Kollektant, 2, &MesseTabelle::Kollekt2Vor, &MesseTabelle::Kollekt2Nach},
 }};
 
-/// The number of a kind in the order of `Helferarten`, from 0.
+/// The index of a kind in `Helferarten`.
 constexpr std::size_t NummerDer(const Helferart &art)
 {
     return static_cast<std::size_t>(&art - Helferarten.data());
 }
 
-/// The columns with the counts of all these kinds, in their order.
+/// The count columns of all these kinds, in their order.
 template <class Art, std::size_t n, class Tabelle>
 auto Zahlspalten(const std::array<Art, n> &arten, Tabelle &tabelle)
 {

@@ -3,8 +3,8 @@
 // use. Each table lists its fields once, in file order (`Felder()`); whatever reads, writes, moves
 // or swaps records walks that list.
 //
-// Three limits stand side by side and are not to be merged: the array bound (the top index here),
-// the range in the file (`HöchsterInDatei`), and the limit of the dialog that adds records.
+// Three limits exist side by side and must not be merged: the array bound (the top index here), the
+// range in the file (`HöchsterInDatei`), and the limit of the dialog that adds records.
 #pragma once
 
 #include "values/Datum.h"
@@ -68,13 +68,13 @@ struct KonfigDatensatz {
     }
 };
 
-/// A mass that recurs each week. An empty `Wochentag` marks a row that holds no mass.
+/// A mass that recurs every week. An empty `Wochentag` marks a row that holds no mass.
 struct StandardmesseTabelle {
     static constexpr int HöchsterIndex = 22;
     static constexpr int HöchsterInDatei = 20;
     template <class T> using Spalte = altardienst::Spalte<T, HöchsterIndex>;
 
-    Int16 Anzahl; // no count: the record shown last in its dialog
+    Int16 Anzahl; // not a count: the record shown last in its dialog
 
     Spalte<Text> Wochentag;
     Spalte<Datum> Uhrzeit;
@@ -116,7 +116,7 @@ struct MeßdienerTabelle {
     Spalte<Text> WunschVorname, WunschNachname;
     Spalte<Int16> Häufigkeit; // 0 normal, 2 often
 
-    // Of an assignment: never saved, kept from run to run while the program is open.
+    // Used by assignments: never saved, kept from run to run while the program is open.
     Spalte<Int16> Belegt;        // 1 while the server counts as taken
     Spalte<Datum> LetzterDienst; // date of the mass of the last placement
     Spalte<Int16> DienstZähler;  // placements as part of a pair
@@ -133,8 +133,8 @@ struct MeßdienerTabelle {
     }
 };
 
-/// A concrete mass of the plan. The names of slot n (1 to 20) stand at index n of `DienerVor` and
-/// `DienerNach`, but its service at index n - 1 of `DienerDienst`.
+/// A concrete mass of the plan. The names of slot n (1 to 20) are at index n of `DienerVor` and
+/// `DienerNach`, but its service is at index n - 1 of `DienerDienst`.
 struct MesseTabelle {
     static constexpr int HöchsterIndex = 602;
     static constexpr int HöchsterInDatei = 602;
@@ -192,7 +192,7 @@ struct GruppeTabelle {
 struct HelferTabelle {
     static constexpr int HöchsterIndex = 202;
     static constexpr int HöchsterInDatei = 200;
-    static constexpr int HöchsterLauf = 300; // the columns of a run reach further than the records
+    static constexpr int HöchsterLauf = 300; // the columns of a run are longer
     template <class T> using Spalte = altardienst::Spalte<T, HöchsterIndex>;
 
     Int16 Cursor;
@@ -205,7 +205,7 @@ struct HelferTabelle {
     Spalte<Text> Dienst1, Dienst2;
     Spalte<Datum> Von1, Bis1, Von2, Bis2, Von3, Bis3; // absences
 
-    // Of an assignment, never saved.
+    // Used by assignments, never saved.
     altardienst::Spalte<Int16, HöchsterLauf> Belegt;
     altardienst::Spalte<Datum, HöchsterLauf> LetzterDienst;
 
@@ -222,7 +222,7 @@ struct EtikettTabelle {
     static constexpr int HöchsterInDatei = 20;
     template <class T> using Spalte = altardienst::Spalte<T, HöchsterIndex>;
 
-    Int16 Anzahl; // no count: the format selected for printing
+    Int16 Anzahl; // not a count: the format selected for printing
 
     Spalte<Text> Name;
     Spalte<Single> RandOU, RandLR; // margins top/bottom and left/right
@@ -267,7 +267,7 @@ extern HelferTabelle Helfer;
 extern EtikettTabelle Etikett;
 extern MesseDienerFestTabelle MesseDienerFest;
 
-/// Puts all tables into the state of the program's start.
+/// Puts all tables into the state they have when the program starts.
 void TabellenLeeren();
 
 } // namespace altardienst

@@ -77,7 +77,7 @@ template <class Zählung> class Namensverzeichnis {
     }
 
     Zählung &zählung;
-    std::array<int, 2048> fächer;             // enough that most names hit their own at once
+    std::array<int, 2048> fächer;             // enough for most names to hit
     std::vector<std::pair<int, int>> weitere; // a row, and the first row with its name
 };
 

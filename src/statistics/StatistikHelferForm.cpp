@@ -36,7 +36,7 @@ void StatistikHelferForm::Anordnen()
 {
     auto *tafel = new Zahlentafel({"Messendienst", "Insgesamt", "pro Messe"});
     for (std::size_t k = 0; k < Helferarten.size(); ++k) {
-        const bool kollektant = &Helferarten[k] == &Kollektant; // has another name here
+        const bool kollektant = &Helferarten[k] == &Kollektant; // is called something else here
         tafel->Zeile(kollektant ? "Kollektor" : Helferarten[k].Name.c_str(),
                      {Gesamt()[k], Anteil()[k]});
     }

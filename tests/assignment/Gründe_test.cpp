@@ -49,7 +49,7 @@ class GründeTest : public Zuweisungsstand {
         return Liste::Erster({Meßdiener, 0}, {Messe, Konfig, 0, slot}, Stand);
     }
 
-    /// A helper for one of the eight places, from 1.
+    /// Tests a helper for one of the eight places, counted from 1.
     Grund HelferFrage(Prüfung<Helferperson, Helferstelle> prüfung, std::size_t platz) const
     {
         return prüfung({Helfer, 0}, {Messe, 0, Helferplätze.at(platz - 1)}, Stand);
@@ -92,7 +92,7 @@ TEST_F(GründeTest, GrößeImSpielraumBeideEndenGehörenDazu)
     Konfig.DiffGröße = 32700;
     EXPECT_EQ(Frage(GrößePrüfen, 1), Grund::Keiner);
     EXPECT_EQ(NummerDesFehlers([this] { Frage(GrößePrüfen, 2); }), 6);
-    Meßdiener.Größe[0] = -32600; // below the band: its upper end is not formed
+    Meßdiener.Größe[0] = -32600; // below the band: its upper end is not computed
     EXPECT_EQ(Frage(GrößePrüfen, 2), Grund::FalscheGröße);
 }
 
@@ -111,7 +111,7 @@ TEST_F(GründeTest, JederDienstHatSeineStelleDerQualifikation)
         for (int d = 0; d < 5; ++d)
             EXPECT_EQ(qualifiziert(dienste[d]), d + 1 == stelle) << dienste[d] << stelle;
     }
-    Meßdiener.Qualifikation[0] = "JJJJJJ"; // only the small letter is a yes
+    Meßdiener.Qualifikation[0] = "JJJJJJ"; // only the small letter means yes
     for (const char *dienst : dienste)
         EXPECT_FALSE(qualifiziert(dienst));
     for (const char *dienst : {"Allgemein", "", "leuchter", "Anführer"})
@@ -168,7 +168,7 @@ TEST_F(GründeTest, JederDerFünfZeiträumeSchließtBeideEndtageEin)
         EXPECT_EQ(grund(Samstag, Montag), Grund::Abwesend);
         EXPECT_EQ(grund(Samstag, Samstag), Grund::Keiner);
         EXPECT_EQ(grund(Montag, Montag), Grund::Keiner);
-        EXPECT_EQ(grund(Montag, Samstag), Grund::Keiner); // turned round
+        EXPECT_EQ(grund(Montag, Samstag), Grund::Keiner); // reversed
         EXPECT_EQ(grund(0, Sonntag), Grund::Abwesend);    // only an end: every date up to it
         EXPECT_EQ(grund(0, Samstag), Grund::Keiner);
         EXPECT_EQ(grund(Samstag, 0), Grund::Keiner); // only a beginning
@@ -294,7 +294,7 @@ TEST_F(GründeTest, DienstDerHelferLektorBrauchtIhnDieAnderenDürfenIhnNichtZwei
 
 TEST_F(GründeTest, JederWegFragtInSeinerFolge)
 {
-    // One reason after the other is taken away: the next one is the first.
+    // As each reason is removed, the next one becomes the first.
     const std::pair<Grund, std::function<void()>> voll[] = {
         {Grund::OhneNamen, [] { Meßdiener.Vorname[0] = "V"; }},
         {Grund::Vergeben, [this] { Stand.Vergeben = false; }},
@@ -379,7 +379,7 @@ TEST_F(GründeTest, HelferFragenInIhrerFolge)
 
 TEST_F(GründeTest, SieLesenNurWasIhnenGegebenWird)
 {
-    // The same questions about copies, while the shared tables and the run say something else.
+    // The same questions about copies, while the shared tables and the run hold something else.
     const auto diener = std::make_unique<MeßdienerTabelle>(Meßdiener);
     const auto messen = std::make_unique<MesseTabelle>(Messe);
     const KonfigDatensatz einstellungen = Konfig;

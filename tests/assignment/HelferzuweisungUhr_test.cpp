@@ -1,4 +1,4 @@
-// The clock limit of the helpers, and the one search that runs on the clock of another.
+// The clock limit of the helpers, and the one search that continues on the clock of another.
 #include "assignment/Helferzuweisung.h"
 
 #include "assignment/Wurf.h"
@@ -84,7 +84,7 @@ TEST_F(HelferzuweisungUhrTest, ErsterKantorSuchtMitDerUhrDesPlatzesDavor)
     MesseMitHelfern(Sonntag, 0, 1, 1, 0);
     EXPECT_TRUE(Durch({{Niemand, 2}, 0, {Niemand, 3}, 1}));  // 5 together
     EXPECT_FALSE(Durch({{Niemand, 2}, 0, {Niemand, 4}, 1})); // 6 together
-    Messe.KommZahl[0] = 2; // a fourth place filled right before starts the clock anew
+    Messe.KommZahl[0] = 2; // a fourth place filled just before restarts the clock
     EXPECT_TRUE(Durch({0, {Niemand, 2}, 1, {Niemand, 5}, 2}));
     EXPECT_FALSE(Durch({0, {Niemand, 2}, 1, {Niemand, 6}, 2}));
     Messe.KommZahl[0] = 0;
@@ -97,7 +97,7 @@ TEST_F(HelferzuweisungUhrTest, ErsterKantorSuchtMitDerUhrEinerFrüherenMesse)
     MesseMitHelfern(Sonntag, 0, 2, 0, 0);
     MesseMitHelfern(Sonntag + 7, 0, 0, 1, 0);
     EXPECT_TRUE(Durch({0, {Niemand, 2}, 1, {Niemand, 3}, 2}));
-    // A second Kommunionhelfer of an earlier mass does not start it anew.
+    // A second Kommunionhelfer in an earlier mass does not restart it.
     EXPECT_FALSE(Durch({0, {Niemand, 2}, 1, {Niemand, 4}, 2}));
     EXPECT_EQ(Messe.Komm2Nach[0], "N1");
 }
@@ -111,7 +111,7 @@ TEST_F(HelferzuweisungUhrTest, ZweiterKantorHatWiederSeineEigene)
 TEST_F(HelferzuweisungUhrTest, OhneFrühereSucheZähltDerBeginnDesLaufs)
 {
     MesseMitHelfern(Sonntag, 0, 0, 1, 0);
-    SucheStart = Sekunden - 1000; // of an earlier run
+    SucheStart = Sekunden - 1000; // from an earlier run
     EXPECT_TRUE(Durch({{Niemand, 5}, 0}));
     EXPECT_FALSE(Durch({{Niemand, 6}, 0}));
 }

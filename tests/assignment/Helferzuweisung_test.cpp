@@ -20,7 +20,7 @@ class HelferzuweisungTest : public Zuweisungsstand {
         return i;
     }
 
-    /// Surnames of the eight places in their order, "-" for an empty one.
+    /// Surnames in the eight places in order, "-" for an empty one.
     static Text Plätze(int i)
     {
         Text plätze;
@@ -31,7 +31,8 @@ class HelferzuweisungTest : public Zuweisungsstand {
         return plätze;
     }
 
-    /// Records 0 to 15: enough of each first service that all tests apply to two of each a day.
+    /// Records 0 to 15: enough for each first service that all tests apply with two places of each
+    /// a day.
     static void GenugHelfer()
     {
         HelferDienste(4, "Lektor");
@@ -95,7 +96,7 @@ TEST_F(HelferzuweisungTest, OhneBedarfWirdNichtGezogen)
 
 TEST_F(HelferzuweisungTest, WenigerAlsZweiTageEinesDienstesHebtAlleTestsAuf)
 {
-    // Services in the order of the places; one short in each in turn.
+    // Services in the order of the places; each in turn is one helper short.
     const char *dienste[] = {"Lektor", "Kommunionhelfer", "Kantor", "Kollektant"};
     for (int knapp = 0; knapp <= 4; ++knapp) {
         TabellenLeeren();
@@ -133,7 +134,7 @@ TEST_F(HelferzuweisungTest, TagessummeNurÜberBenachbarteMessen)
     MesseMitHelfern(Sonntag, 1);
     Lauf({2, 0, 0, 1}); // tests apply, though Sunday needs two; the table is not sorted
     EXPECT_EQ(Plätze(0), "N0 - - - - - - -");
-    EXPECT_EQ(Plätze(2), "N1 - - - - - - -"); // Monday's closing held Sunday's
+    EXPECT_EQ(Plätze(2), "N1 - - - - - - -"); // closing Monday's mass kept Sunday's blocked
     EXPECT_EQ(Messe.Datum[1], Montag);
 
     Messe.Datum[1] = Sonntag;
@@ -221,7 +222,7 @@ TEST_F(HelferzuweisungTest, DieÜbrigenPlätzeLehnenNurAbWerDenDienstZweimalHat)
         HelferAnlegen(dienst, dienst, dienst, dienst); // records 16 to 18
     HelferAnlegen("Ohne", "Ohne", "");
     MesseMitHelfern(Sonntag, 0, 2, 2, 2);
-    // Each place first refuses the one who has its service twice.
+    // Each place first refuses the helper who has its service twice.
     Lauf({16, 0, 16, 19, 17, 16, 17, 1, 18, 17, 18, 5});
     EXPECT_EQ(Plätze(0), "- - N0 Ohne Kommunionhelfer N1 Kantor N5");
 }
@@ -232,7 +233,7 @@ TEST_F(HelferzuweisungTest, NiemandZweimalAmTagUndAmFolgetag)
     MesseMitHelfern(Samstag, 2);
     MesseMitHelfern(Samstag, 1);
     MesseMitHelfern(Sonntag, 1);
-    MesseMitHelfern(Montag, 0); // its closing frees Saturday's
+    MesseMitHelfern(Montag, 0); // closing it frees Saturday's
     MesseMitHelfern(Montag, 2);
     Lauf({0, 0, 1, 0, 1, 2, 0, 1, 2, 3, 3, 0, 1});
     EXPECT_EQ(Plätze(0), "N0 N1 - - - - - -");
@@ -310,7 +311,7 @@ TEST_F(HelferzuweisungTest, AuchDieLeereZeileWirdWiederFrei)
     Helfer.Dienst1[leer] = "Lektor";
     MesseMitHelfern(Sonntag, 1);
     MesseMitHelfern(Montag, 1);
-    MesseMitHelfern(Sonntag + 2, 0); // its closing frees Sunday's
+    MesseMitHelfern(Sonntag + 2, 0); // closing it frees Sunday's
     MesseMitHelfern(Sonntag + 2, 1);
     Lauf({leer, leer, 0, leer, 1});
     EXPECT_EQ(Plätze(0), "Leer - - - - - - -");

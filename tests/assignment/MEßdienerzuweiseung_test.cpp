@@ -121,7 +121,7 @@ TEST_F(EinfacheWegeTest, FreiSperrtAmTagUndAmFolgetag)
     EXPECT_EQ(Namen(0), "N0");
     EXPECT_EQ(Namen(1), "N1");
     EXPECT_EQ(Namen(2), "N2");
-    EXPECT_EQ(Namen(3), "N1 N0"); // free again on Monday; Sunday's is not
+    EXPECT_EQ(Namen(3), "N1 N0"); // free again on Monday; Sunday's server is not
     EXPECT_EQ(Gestreut, 1);
 }
 
@@ -171,7 +171,7 @@ TEST_F(EinfacheWegeTest, FreiVeralteteSperreHältBisZuEinemFremdenDatum)
     for (int j : {0, 1})
         Meßdiener.Belegt[j] = 1;
     Meßdiener.LetzterDienst[0] = Samstag;     // taken on Saturday and on Sunday
-    Meßdiener.LetzterDienst[1] = Samstag + 7; // free at once: the dates alone decide
+    Meßdiener.LetzterDienst[1] = Samstag + 7; // free at once: only the dates decide
     Würfeln({0, 1, 0, 2, 0});
     MeßdienerFreiZuweisen();
     EXPECT_EQ(Namen(0), "N1");
@@ -184,13 +184,13 @@ TEST_F(EinfacheWegeTest, FreiLöstSperrenVorUndNachJederMesse)
     DienerAnlegen(2);
     MesseMitDienern(Sonntag, 1);
     Meßdiener.Belegt[0] = 1;
-    Meßdiener.LetzterDienst[0] = 0; // the blank mass behind the last has this date
+    Meßdiener.LetzterDienst[0] = 0; // the blank mass after the last has this date
     Würfeln({0});
     MeßdienerFreiZuweisen();
     EXPECT_EQ(Namen(0), "N0");
     EXPECT_EQ(Meßdiener.Belegt[0], 0); // freed by the blank mass
 
-    // Without the blank mass's other date the flag stays after the last mass.
+    // If the blank mass does not have another date, the flag stays after the last mass.
     Messe.Datum[1] = Montag;
     Würfeln({1});
     MeßdienerFreiZuweisen();

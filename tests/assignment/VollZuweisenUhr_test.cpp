@@ -45,7 +45,7 @@ TEST_F(VollZuweisenUhrTest, ZweiSekundenSuchenStartenNichtNeu)
 TEST_F(VollZuweisenUhrTest, DreiSekundenStartenDieMesseNeuUndNichtsWirdFrei)
 {
     Lauf({0, {Niemand, 3}, 0, 1, 0, 1, 2});
-    EXPECT_EQ(Namen(0), "N1 N2"); // 0 of the abandoned attempt stays out
+    EXPECT_EQ(Namen(0), "N1 N2"); // server 0 from the abandoned attempt stays out
     EXPECT_EQ(Meßdiener.Belegt[0], 1);
     EXPECT_EQ(Meßdiener.LetzterDienst[0], Sonntag);
 }
@@ -97,7 +97,7 @@ TEST_F(VollZuweisenUhrTest, HöchstensFünfNeustarts)
     EXPECT_EQ(Namen(0), "N1 N2"); // the sixth would have gone back to slot 1
     EXPECT_TRUE(GezeigteMeldungen.empty());
 
-    // Four leave one more.
+    // Four restarts leave one more.
     Lauf({0, {Niemand, 3}, {Niemand, 3}, {Niemand, 3}, {Niemand, 3}, 1, {Niemand, 3}, 2, 3});
     EXPECT_EQ(Namen(0), "N2 N3");
 }
@@ -147,8 +147,9 @@ TEST_F(VollZuweisenUhrTest, SolangeNeustartsBleibenWirdNichtAufgegeben)
 
 TEST_F(VollZuweisenUhrTest, DieUhrWirdFürJedeGrenzeNeuGelesen)
 {
-    // Each reading moves the clock on by one second: start 0; 1 and 2 for the first draw; 3 is
-    // beyond the limit and a further reading sets the new start; so each attempt has one full test.
+    // Each reading advances the clock by one second: start 0; 1 and 2 for the first draw; 3 is
+    // beyond the limit, and a further reading sets the new start; so each attempt has one full
+    // test.
     Messe.Dienerzahl[0] = 1;
     SekundenProAblesung = 1;
     Lauf({Niemand, Niemand, Niemand, Niemand, 0});
@@ -167,7 +168,7 @@ TEST_F(VollZuweisenUhrTest, AufgabegrenzeHatIhreEigeneAblesung)
     Zufall.Nächste = [this, ziehen] {
         Single r = ziehen();
         if (Gezogen == 6)
-            SekundenProAblesung = 81; // from the reading that checks for a restart on
+            SekundenProAblesung = 81; // starting with the reading that checks for a restart
         return r;
     };
     MeßdienerVollZuweisen();
@@ -183,7 +184,7 @@ TEST_F(VollZuweisenUhrTest, ÜberMitternachtGreiftKeineGrenze)
     EXPECT_EQ(Namen(0), "N0 N1");
     EXPECT_EQ(Neustarts, 0);
 
-    // Until the time of day has passed the start again.
+    // Until the time of day has passed the start time again.
     Sekunden = SekundenProTag - 10;
     Lauf({0, {Niemand, 20}, {Niemand, SekundenProTag - 20 + 2}, {Niemand, 1}, 1, 2});
     EXPECT_EQ(Namen(0), "N1 N2");

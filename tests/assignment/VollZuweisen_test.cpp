@@ -1,5 +1,5 @@
-// The full way of assigning servers: the tests of a slot, the rotation, and the worked example.
-// Its clock limits have a file of their own.
+// The full way of assigning servers: the tests of a slot, the rotation, and the worked example. Its
+// clock limits are tested in a file of their own.
 #include "assignment/MEßdienerzuweiseung.h"
 
 #include "assignment/Wurf.h"
@@ -11,7 +11,7 @@ class VollZuweisenTest : public Zuweisungsstand {
   protected:
     VollZuweisenTest() { Konfig.DiffGröße = 10; }
 
-    /// Twenty servers who fit each other, and a mass of `slots` servers on Monday.
+    /// Twenty servers who go well together, and a mass of `slots` servers on Monday.
     void TestmesseMit(int slots)
     {
         TabellenLeeren();
@@ -118,7 +118,7 @@ TEST_F(VollZuweisenTest, HäufigkeitGruppeAnführerUndWunschpartnerSpielenKeineR
         Meßdiener.WunschVorname[j] = "V3";
         Meßdiener.WunschNachname[j] = "N3";
     }));
-    // Nor do fixed entries and the services set by hand.
+    // Nor do fixed entries and services set by hand.
     Konfig.ManuellKreuzträger = 1;
     Konfig.ManuellWeihrauch = 1;
     EXPECT_TRUE(Angenommen(2, [this](int) {
@@ -188,7 +188,7 @@ TEST_F(VollZuweisenTest, UnterDerGrenzeBleibenAlleGesperrt)
     Würfeln({0, 1, 2, 3, 4, 0, 5, 5, 0});
     MeßdienerVollZuweisen();
     EXPECT_EQ(Namen(1), "N5"); // 50 per cent freed nobody
-    EXPECT_EQ(Namen(2), "N0"); // 60 per cent did, but for the mass's own date
+    EXPECT_EQ(Namen(2), "N0"); // 60 per cent did, except on the mass's own date
 }
 
 TEST_F(VollZuweisenTest, GrenzeNullGibtNachJederMesseFreiAuchNachEinerOhneSlots)
@@ -217,13 +217,13 @@ TEST_F(VollZuweisenTest, ZweiMessenEinesTagesUndDerFolgetagSindGesperrt)
     MesseMitDienern(Sonntag, 1);
     MesseMitDienern(Montag, 1);
     MesseMitDienern(Montag, 1);
-    // On Monday the closing of Sunday's mass still holds Saturday's servers.
+    // On Monday, after closing Sunday's mass, Saturday's servers are still blocked.
     Würfeln({0, 0, 1, 0, 1, 2, 0, 1, 2, 3, 0});
     MeßdienerVollZuweisen();
     EXPECT_EQ(Namen(1), "N1");
     EXPECT_EQ(Namen(2), "N2");
     EXPECT_EQ(Namen(3), "N3");
-    EXPECT_EQ(Namen(4), "N0"); // Monday's first closing freed Saturday's
+    EXPECT_EQ(Namen(4), "N0"); // closing Monday's first mass freed Saturday's
 }
 
 TEST_F(VollZuweisenTest, AmAnfangSindAlleFrei)
@@ -236,7 +236,7 @@ TEST_F(VollZuweisenTest, AmAnfangSindAlleFrei)
     }
     Neustarts = 5;
     Konfig.GrenzeAuslöse = 99;
-    Messe.Datum[1] = Sonntag; // the blank mass frees nobody then
+    Messe.Datum[1] = Sonntag; // so the blank mass frees nobody
     Würfeln({0, 1});
     MeßdienerVollZuweisen();
     EXPECT_EQ(Namen(0), "N0 N1");

@@ -1,5 +1,4 @@
-// Draws written out by record, each with the time that passes meanwhile: the fixture of the
-// assignment tests.
+// Draws written out by record, each with the time that passes: the fixture of the assignment tests.
 #pragma once
 
 #include "Prüfstand.h"
@@ -11,7 +10,7 @@
 
 namespace altardienst {
 
-/// One draw: the record that it gives, and by how many seconds the clock has moved on after it.
+/// One draw: the record that it yields, and by how many seconds the clock advances after it.
 struct Wurf {
     Wurf(int satz, int sekunden = 0) : Satz(satz), Sekunden(sekunden) {} // implicit on purpose
 
@@ -40,7 +39,7 @@ class Zuweisungsstand : public Prüfstand {
         BelegtProzent = 0;
     }
 
-    /// The random value that gives a record of a table of this size.
+    /// The random value that yields a record of a table of this size.
     static Single WertFür(int satz, int anzahl)
     {
         if (anzahl == 0)
@@ -50,18 +49,18 @@ class Zuweisungsstand : public Prüfstand {
         return static_cast<Single>(satz) / static_cast<Single>(anzahl);
     }
 
-    /// Exactly these draws of servers; one more throws std::out_of_range and so ends a draw that
-    /// would not end.
+    /// Sets exactly these draws of servers; one more throws std::out_of_range, which ends a draw
+    /// that would never end.
     void Würfeln(std::vector<Wurf> würfe) { Würfeln(std::move(würfe), Meßdiener.Anzahl); }
     void HelferWürfeln(std::vector<Wurf> würfe) { Würfeln(std::move(würfe), Helfer.Anzahl); }
 
-    /// The same draw again and again.
+    /// The same draw `anzahl` times.
     static std::vector<Wurf> Oft(int anzahl, Wurf wurf)
     {
         return std::vector<Wurf>(static_cast<std::size_t>(anzahl), wurf);
     }
 
-    /// This many servers "V0 N0", "V1 N1" and so on, who may serve everywhere.
+    /// Makes this many servers "V0 N0", "V1 N1" and so on, who may serve everywhere.
     static void DienerAnlegen(int anzahl)
     {
         for (int j = 0; j < anzahl; ++j)
@@ -81,7 +80,7 @@ class Zuweisungsstand : public Prüfstand {
         return Messe.DienerVor[messe][slot] + " " + Messe.DienerNach[messe][slot];
     }
 
-    /// Surnames of the slots from 1 on, up to the last that is not empty, with blanks between.
+    /// Surnames in the slots from 1 up to the last that is not empty, separated by blanks.
     static Text Namen(int messe)
     {
         int letzter = 20;

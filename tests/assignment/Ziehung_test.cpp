@@ -82,7 +82,7 @@ TEST_F(ZiehungTest, DieErstenDreiBestimmenDieMittelgröße)
     EXPECT_EQ(nach(2, 3), 161); // (150 + 332) / 3
     for (int slot = 4; slot <= 20; ++slot)
         EXPECT_EQ(nach(3, slot), 161);
-    // A half downwards to the even neighbour.
+    // A half is rounded down if that is the even neighbour.
     MittelGröße = 169;
     EXPECT_EQ(nach(0, 2), 170); // 169.5
     MittelGröße = 160;
@@ -102,7 +102,7 @@ TEST_F(ZiehungTest, SperreHältNurAmTagDerMesseUndAmTagDanach)
     MesseMitDienern(Sonntag, 1);
     for (int j = 0; j <= 6; ++j)
         Meßdiener.Belegt[j] = 1;
-    MesseNr = 0; // the argument tells the mass
+    MesseNr = 0; // the argument says which mass
     SperreLösen(Meßdiener, 1);
     EXPECT_EQ(Meßdiener.Belegt[0], 0);
     EXPECT_EQ(Meßdiener.Belegt[1], 1);

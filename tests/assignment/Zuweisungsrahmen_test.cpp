@@ -1,4 +1,4 @@
-// What stands around the ways of assignment: figures, choice of the way, messages and their order.
+// What surrounds the ways of assignment: figures, choice of the way, messages and their order.
 #include "assignment/Zuweisungsrahmen.h"
 
 #include "assignment/Wurf.h"
@@ -48,7 +48,7 @@ TEST_F(ZuweisungsrahmenTest, DienstProDienerIstDerGanzeAnteilPlusEins)
     Messe.Dienerzahl[0] = 39;
     DienstProDienerRechnen();
     EXPECT_EQ(DienstProDiener, 2);
-    Messe.Dienerzahl[1] = 1; // the blank record counts, the one behind it does not
+    Messe.Dienerzahl[1] = 1; // the blank record counts, the one after it does not
     Messe.Dienerzahl[2] = 20;
     DienstProDienerRechnen();
     EXPECT_EQ(DienstProDiener, 3);
@@ -112,7 +112,7 @@ TEST_F(ZuweisungsrahmenTest, GrößteMesseUndGrößterTag)
     GrößenRechnen();
     EXPECT_EQ(GrößteMesse, 10);
     EXPECT_EQ(GrößterTag, 10);
-    MesseMitDienern(Sonntag, 7); // not beside the others of its date
+    MesseMitDienern(Sonntag, 7); // not next to the others on its date
     GrößenRechnen();
     EXPECT_EQ(GrößterTag, 10);
     Messe.Dienerzahl[4] = 30; // the blank record counts as a mass, but its sum is never closed
@@ -191,7 +191,7 @@ TEST_F(ZuweisungsrahmenTest, ZuwenigGehtVorAuchWennDieTageReichten)
     EXPECT_EQ(GezeigteMeldungen, (std::vector<Text>{ZuWenige, Fertig}));
 }
 
-// Twice a day of that many is more than a sum may be, but nobody asks for it.
+// Twice a day with that many exceeds an Int16, but nobody computes it.
 TEST_F(ZuweisungsrahmenTest, ZuwenigGehtVorAuchWennZweiTageÜberliefen)
 {
     for (const int diener : {16383, 16384, 20000}) {
@@ -207,7 +207,7 @@ TEST_F(ZuweisungsrahmenTest, ZuwenigGehtVorAuchWennZweiTageÜberliefen)
     }
 }
 
-// The mass is small enough, but the day of many masses is not.
+// The mass is small enough, but the day with many masses is not.
 TEST_F(ZuweisungsrahmenTest, DerZweifacheTagLäuftÜberWoErGebrauchtWird)
 {
     DienerAnlegen(400);
@@ -236,7 +236,7 @@ TEST_F(ZuweisungsrahmenTest, AbEinemMehrLäuftDerFreieWegBisZehnMehr)
         TabellenLeeren();
         DienerAnlegen(anzahl);
         for (int j = 0; j < anzahl; ++j)
-            Meßdiener.Wochendienst[j] = "jjjjjjjj"; // read by the full way alone
+            Meßdiener.Wochendienst[j] = "jjjjjjjj"; // read only by the full way
         VierUndFünf();
         Messe.Messeart[0] = "Wochendienst";
         Würfeln({0, 1, 2, 3, 0, 4, 5, 6, 7, 8});
@@ -273,7 +273,7 @@ TEST_F(ZuweisungsrahmenTest, EinfacherWegSortiertVerteiltDiensteUndTrägtFesteÜ
     EXPECT_EQ(Messe.Uhrzeit[0], ZeitAus(8 * 3600));
     EXPECT_EQ(Messe.Datum[2], Montag);
     EXPECT_EQ(Namen(0), "N0");
-    EXPECT_EQ(Namen(1), "N1 N1"); // the fixed server stands twice, with no further correction
+    EXPECT_EQ(Namen(1), "N1 N1"); // the fixed server is there twice, with no further correction
     EXPECT_EQ(Namen(2), "N3");
     EXPECT_EQ(Messe.DienerDienst[1][1], "Weihrauch"); // the expansion of the run
     EXPECT_EQ(Gestreut, 1);
@@ -299,7 +299,7 @@ TEST_F(ZuweisungsrahmenTest, PartnerwegOhneFrageSortiertVerteiltDiensteUndTrägt
     MesseMitDienern(Montag + 7, 1);
     MesseMitDienern(Sonntag, 3);
     Messe.Weihrauch[1] = 1;
-    Meßdiener.Qualifikation[1] = "jjjnjj"; // held against the services that were just set
+    Meßdiener.Qualifikation[1] = "jjjnjj"; // compared with the services just set
     Festlegen(Sonntag, ZeitAus(36000), 2, "V0", "N0");
     Würfeln({0, 1, 2, 3, 1, 0, 4}); // 0 is blocked on Sunday
     WunschpartnerBerücksichtigen(FesteMeßdienerÜbertragen);
@@ -357,7 +357,7 @@ TEST_F(ZuweisungsrahmenTest, HelferwegOhneFrageUndOhneSortieren)
     MessenMitMessehelferBesetzen();
     EXPECT_EQ(Messe.Datum[0], Montag);
     EXPECT_EQ(Messe.Lektor1Nach[0], "N1");
-    EXPECT_EQ(Namen(0), ""); // fixed servers are not carried here
+    EXPECT_EQ(Namen(0), ""); // fixed servers are not carried over here
     EXPECT_TRUE(GestellteFragen.empty());
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{FertigHelfer});
 }

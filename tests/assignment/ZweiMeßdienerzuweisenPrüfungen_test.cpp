@@ -174,13 +174,14 @@ TEST_F(WunschpartnerPrüfungenTest, ZumÜberspringenMussJemandQualifiziertSein)
         Konfig.ManuellKreuzträger = 1;
         MesseMit(3, {dienst}, Montag);
         Meßdiener.Qualifikation[0] = "jjjnnj";
-        Meßdiener.Häufigkeit[1] = -3; // the cap comes before
+        Meßdiener.Häufigkeit[1] = -3; // the cap is checked first
         Meßdiener.Vorname[2] = "";
-        // 3 passes over slot 1 though absent, unwilling and of no sex: those tests come later.
+        // Drawing 3 skips slot 1 even though he is absent, unwilling and of no given sex: those
+        // tests come later.
         Meßdiener.Von1[3] = Meßdiener.Bis1[3] = Montag;
         Meßdiener.Wochendienst[3] = "jjjjjjjj";
         Meßdiener.Geschlecht[3] = "";
-        LetztesGeschlecht = "männlich"; // against which the sex is held at slot 2
+        LetztesGeschlecht = "männlich"; // with which the sex is compared at slot 2
         Lauf({0, 1, 2, 3, 3, 0, 4});
         EXPECT_EQ(Namen(0), "- N0 N4") << dienst;
     }
@@ -190,8 +191,8 @@ TEST_F(WunschpartnerPrüfungenTest, WeihrauchAmLetztenSlotBesetztEinenDahinter)
 {
     Konfig.ManuellWeihrauch = 1;
     MesseMit(3, {"Leuchter", "Leuchter", "Weihrauch"}, Montag);
-    // Server 2 passes over the slot before his wish is held against the last place; behind the
-    // count the wish of 3 is neither refused nor served.
+    // Drawing server 2 skips the slot before his wish is checked against the last place; beyond the
+    // count the wish of 3 is neither refused nor fulfilled.
     Wunsch(2, "V7", "N7");
     Wunsch(3, "V7", "N7");
     Lauf({0, 1, 2, 3});
@@ -217,10 +218,10 @@ TEST_F(WunschpartnerPrüfungenTest, KreuzträgerVonHandMitPlatzDahinterGehtWeite
     Lauf({0, 1, 1, 2});
     EXPECT_EQ(Namen(0), "N0 - N1 N2");
 
-    Anfang(); // at the last slot it goes on behind the count
+    Anfang(); // at the last slot it continues beyond the count
     Konfig.ManuellKreuzträger = 1;
     MesseMit(2, {"Leuchter", "Kreuzträger"}, Montag);
-    Wunsch(1, "V7", "N7"); // not yet held against the last place
+    Wunsch(1, "V7", "N7"); // not yet checked against the last place
     Lauf({0, 1, 2});
     EXPECT_EQ(Namen(0), "N0 - N2");
 }
@@ -233,7 +234,7 @@ TEST_F(WunschpartnerPrüfungenTest, GeschlosseneMesseGibtFreiWieJedeAndere)
     MesseMit(2, {"Kreuzträger"}, Montag - 7);
     MesseMit(1, {}, Montag - 7);
     Lauf({0, 1, 0});
-    EXPECT_EQ(Namen(2), "N0"); // freed at the closing of the mass that was left
+    EXPECT_EQ(Namen(2), "N0"); // freed when the skipped mass was closed
 }
 
 TEST_F(WunschpartnerPrüfungenTest, ÜbersprungenerSlotLässtDieUhrWeiterlaufen)
@@ -304,7 +305,7 @@ TEST_F(WunschpartnerPrüfungenTest, AufgabegrenzeHatIhreEigeneAblesung)
     Zufall.Nächste = [this, ziehen] {
         const Single r = ziehen();
         if (Gezogen == 6)
-            SekundenProAblesung = 101; // from the reading that checks for a restart on
+            SekundenProAblesung = 101; // starting with the reading that checks for a restart
         return r;
     };
     WunschpartnerZuweisen();

@@ -68,7 +68,7 @@ TEST_F(WunschpartnerTest, MitPartnerNieAufDenLetztenPlatz)
     Anfang();
     MesseMitDienern(Sonntag, 3);
     Wunsch(5, 6);
-    Lauf({0, 5, 3}); // the last but one holds both
+    Lauf({0, 5, 3}); // the second to last slot has room for both
     EXPECT_EQ(Namen(0), "N0 N5 N6");
     EXPECT_EQ(Gezogen, 2);
 }
@@ -128,7 +128,7 @@ TEST_F(WunschpartnerTest, UnbekannterPartnerWirdTrotzdemGeschrieben)
     EXPECT_EQ(Slot(0, 2), "Niemand Bekannt");
     EXPECT_EQ(Slot(0, 3), "V1 N1");
     EXPECT_EQ(Meßdiener.DienstZähler[0], 1);
-    Anfang(); // names are compared whole: first names alone or the case aside are nobody's
+    Anfang(); // whole names are compared: a first name alone or another case matches nobody
     MesseMitDienern(Sonntag, 4);
     Wunsch(1, "V0", "n0");
     Lauf({0, 1, 2});
@@ -164,7 +164,7 @@ TEST_F(WunschpartnerTest, PartnerWirdNurAufFreiseinGeprüft)
 TEST_F(WunschpartnerTest, GeschlechtDesGezogenenGiltFürDenGeradenSlotHinterDemPaar)
 {
     MesseMitDienern(Sonntag, 4);
-    Meßdiener.Geschlecht[2] = "weiblich"; // wished for by 1
+    Meßdiener.Geschlecht[2] = "weiblich"; // 1 wants her as partner
     Meßdiener.Geschlecht[3] = "weiblich";
     Wunsch(1, 2);
     Lauf({0, 1, 3, 4});
@@ -210,7 +210,7 @@ TEST_F(WunschpartnerTest, MehrAlsZwanzigDienerSindEinIndexfehler)
 
 TEST_F(WunschpartnerTest, ObergrenzeZähltNurPaareUndDieHäufigkeitHebtSie)
 {
-    // For a mass of two each week 0 is drawn first, with 1 as partner, and 2 only after a refusal.
+    // For a mass of two each week, 0 is drawn first, with 1 as partner, and 2 only if 0 is refused.
     auto paareMit = [this](int häufigkeit, int erlaubt) {
         Anfang(4);
         DienstProDiener = 2;
@@ -287,7 +287,7 @@ TEST_F(WunschpartnerTest, FesteSindAmTagUndAmFolgetagGesperrt)
     EXPECT_EQ(Namen(0), "N0");
     EXPECT_EQ(Namen(1), "N1");
     EXPECT_EQ(Namen(2), "N2");
-    // Monday's block was dated Monday: it ends with the closing of Wednesday's mass.
+    // Monday's block was dated Monday: it ends when Wednesday's mass is closed.
     EXPECT_EQ(Namen(3), "N3");
     EXPECT_EQ(Namen(4), "N1");
     EXPECT_EQ(Namen(5), "N0");
@@ -298,10 +298,10 @@ TEST_F(WunschpartnerTest, FesteZeile100SperrtZeile101Nicht)
     MesseMitDienern(Sonntag, 2);
     Fest(100, Sonntag, 1, "V0", "N0");
     Fest(101, Sonntag, 1, "V1", "N1");
-    Fest(5, Sonntag, 0, "V2", "N2");            // slot 0 is nobody's
+    Fest(5, Sonntag, 0, "V2", "N2");            // slot 0 counts for nobody
     Fest(6, Sonntag, 1, "Gruppe", "Tarzisius"); // a group blocks nobody
-    Fest(7, Sonntag, 1, "V2", "");              // half a name neither
-    Fest(8, Sonntag + 1, 1, "V2", "N2");        // nor one fixed to a later day
+    Fest(7, Sonntag, 1, "V2", "");              // nor does half a name
+    Fest(8, Sonntag + 1, 1, "V2", "N2");        // nor an entry for a later day
     Lauf({0, 1, 2});
     EXPECT_EQ(Namen(0), "N1 N2");
     EXPECT_EQ(Meßdiener.Belegt[0], 1);

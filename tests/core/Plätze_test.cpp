@@ -1,4 +1,4 @@
-// The services and places of a mass, written out once more by hand.
+// The services and places of a mass, written out a second time by hand.
 #include "core/Plätze.h"
 
 #include "Prüfstand.h"

@@ -1,5 +1,5 @@
-// The plans of 500 random parishes as GleichePläneTest recorded them: a line for each parish, eight
-// digits for each way.
+// The plans of 500 random parishes as recorded by GleichePläneTest: one line per parish, eight
+// digits per way.
 #pragma once
 
 #include <array>

@@ -1,5 +1,5 @@
-// Random parishes: tables of random size and content from a seed, and a clock that ends a search
-// without an end.
+// Random parishes: tables of random size and content from a seed, and a clock that ends endless
+// searches.
 #pragma once
 
 #include "Prüfstand.h"
@@ -35,7 +35,7 @@ class Würfel {
     std::mt19937 generator;
 };
 
-/// What stands in every slot before a run; it is nobody's name.
+/// What is in every slot before a run; it is nobody's name.
 inline const Text Unberührt = "unberührt";
 
 class Gemeindestand : public Prüfstand {
@@ -48,8 +48,8 @@ class Gemeindestand : public Prüfstand {
     int Ablesungen = 0; // of the clock in this run
     bool UhrBewegt = false;
 
-    /// A clock that stands still for so many readings and then moves on by one second with each: a
-    /// dead end is given up after a few dozen more.
+    /// A clock that stands still for this many readings and then advances by one second with each:
+    /// a dead end is given up after a few dozen more.
     void UhrStehtFür(int ablesungen)
     {
         Ablesungen = 0;
@@ -62,7 +62,7 @@ class Gemeindestand : public Prüfstand {
         };
     }
 
-    /// A clock that moves on by one second with every so many readings.
+    /// A clock that advances by one second every `ablesungen` readings.
     void UhrTickt(int ablesungen)
     {
         Ablesungen = 0;
@@ -70,8 +70,8 @@ class Gemeindestand : public Prüfstand {
         Uhr.Sekunden = [this, ablesungen] { return 1000 + ++Ablesungen / ablesungen; };
     }
 
-    /// Fills all tables anew. More than two full days of servers have names, so that the simple
-    /// ways come to an end.
+    /// Refills all tables. There are named servers for more than two full days, so that the simple
+    /// ways terminate.
     void GemeindeErwürfeln(unsigned saat)
     {
         Würfel w(saat);
@@ -87,7 +87,7 @@ class Gemeindestand : public Prüfstand {
         Zufall = ZufallMitSaat(saat + 1);
     }
 
-    /// Nobody's name in every slot and every helper's place.
+    /// Puts nobody's name into every slot and every helper's place.
     static void SlotsZurücksetzen()
     {
         for (int i = 0; i <= MeisteMessen + 2; ++i) {
@@ -98,7 +98,7 @@ class Gemeindestand : public Prüfstand {
         }
     }
 
-    /// The most places on one date, counted by date and not by neighbours.
+    /// The most places on one date, grouped by date, not by adjacent masses.
     static int GrößterTagDerGemeinde()
     {
         int größter = 0;
@@ -159,7 +159,7 @@ class Gemeindestand : public Prüfstand {
         Meßdiener.Anzahl = anzahl;
         for (int j = 0; j <= anzahl + 1; ++j) {
             const bool leer = j >= anzahl;
-            // A name that nobody else has; in a few big tables the last have none.
+            // A name that nobody else has; in a few big tables the last ones have none.
             Meßdiener.Vorname[j] = leer ? "" : "V" + std::to_string(j);
             Meßdiener.Nachname[j] = leer ? "" : "N" + std::to_string(j);
             Meßdiener.Geschlecht[j] = leer ? "" : w.Prozent(50) ? "männlich" : "weiblich";

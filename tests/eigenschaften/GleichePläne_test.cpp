@@ -1,5 +1,5 @@
-// The same random numbers give the same plan as ever: 500 random parishes, each filled in every
-// way, against the plans that were recorded once.
+// The same random numbers still give the same plans: 500 random parishes, each filled in every way,
+// against recorded plans.
 #include "AufgezeichnetePläne.h"
 #include "Gemeinde.h"
 
@@ -21,16 +21,16 @@ namespace altardienst {
 namespace {
 
 constexpr int Geduld = 10000; // readings of a clock that stands still
-constexpr int Ticken = 20;    // readings to a second of a clock that moves
+constexpr int Ticken = 20;    // readings per second of a clock that moves
 
-/// A short number for all that was put in (FNV-1a).
+/// A hash of everything put in (FNV-1a).
 class Fingerabdruck {
   public:
     void Nehmen(const Text &text)
     {
         for (const char zeichen : text)
             Byte(static_cast<unsigned char>(zeichen));
-        Byte(0xFF); // stands in no text
+        Byte(0xFF); // occurs in no text
     }
     void Nehmen(std::int64_t zahl)
     {
@@ -89,8 +89,8 @@ class GleichePläneTest : public Gemeindestand {
          }},
     };
 
-    /// The numbers of the plans of a parish, of all ways one after the other. What a run leaves
-    /// behind when it ends takes part in the next one, as in the program.
+    /// The hashes of the plans of a parish, one way after the other. What a run leaves behind when
+    /// it ends takes part in the next one, as in the program.
     Text Pläne(unsigned saat)
     {
         LetztesGeschlecht.clear();
@@ -128,7 +128,7 @@ class GleichePläneTest : public Gemeindestand {
         WunschpartnerZuweisen();
     }
 
-    /// So few are wanted that in most parishes all tests apply.
+    /// So few helpers are wanted that in most parishes all tests apply.
     static void WenigeHelfer(const std::function<void()> &uhrStellen)
     {
         for (int i = 0; i < Messe.Anzahl; ++i) {
@@ -142,7 +142,8 @@ class GleichePläneTest : public Gemeindestand {
         HelferZuweisen();
     }
 
-    /// A quarter to all of the servers, each with a name: every way by their number comes up.
+    /// Between a quarter and all of the servers, each with a name: every way chosen by their number
+    /// occurs.
     static void WenigerMeßdiener()
     {
         const int viertel = Messe.Anzahl % 4 + 1;
@@ -155,7 +156,7 @@ class GleichePläneTest : public Gemeindestand {
         }
     }
 
-    /// Of everything that a run writes or uses up.
+    /// The hash of everything that a run writes or uses up.
     Fingerabdruck Abdruck(int gezogen) const
     {
         Fingerabdruck abdruck;
@@ -187,8 +188,8 @@ class GleichePläneTest : public Gemeindestand {
     }
 };
 
-/// With PLAENE_AUFZEICHNEN in the environment it prints the lines of AufgezeichnetePläne.h: for
-/// when a rule of the draw is to change, and not otherwise.
+/// With PLAENE_AUFZEICHNEN in the environment it prints the lines of AufgezeichnetePläne.h: only
+/// for deliberate changes to a rule of the draw.
 TEST_F(GleichePläneTest, WieAufgezeichnet)
 {
     constexpr std::size_t Ziffern = 8;

@@ -9,7 +9,7 @@ namespace {
 class GleichverteilungTest : public Prüfstand {
   protected:
     /// Chi-square of a million draws against the weights: half an interval for the first record and
-    /// for the blank row, a whole one for each other record.
+    /// for the blank row, a whole one for every other record.
     static double ChiQuadrat(int anzahl, std::uint32_t saat)
     {
         constexpr int Ziehungen = 1000000;
@@ -30,7 +30,7 @@ class GleichverteilungTest : public Prüfstand {
 
 TEST_F(GleichverteilungTest, ZiehungenFolgenDenUngleichenGewichten)
 {
-    // Beyond these values lies one draw in a thousand, for as many degrees of freedom as records.
+    // These values are exceeded one time in a thousand, with as many degrees of freedom as records.
     EXPECT_LT(ChiQuadrat(1, 4711), 10.83);
     EXPECT_LT(ChiQuadrat(20, 4711), 45.31);
     EXPECT_LT(ChiQuadrat(100, 4711), 149.45);

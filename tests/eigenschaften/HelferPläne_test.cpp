@@ -1,4 +1,4 @@
-// What holds for every plan of helpers, in thousands of random parishes.
+// What is true of every plan of helpers, in thousands of random parishes.
 #include "Gemeinde.h"
 
 #include "assignment/Helferzuweisung.h"
@@ -36,7 +36,7 @@ class HelferPläneTest : public Gemeindestand {
     }
 
     /// Whether each service has helpers for two of its busiest days. The masses are sorted, so all
-    /// of a date stand together.
+    /// of one date are adjacent.
     static bool GenügenHelfer()
     {
         for (const Platz &platz : Plätze()) {
@@ -57,8 +57,8 @@ class HelferPläneTest : public Gemeindestand {
 
     static bool IstWeg(Datum tag, Datum von, Datum bis) { return von <= tag && tag <= bis; }
 
-    /// Goes through the plan; with the tests, each placement is held against all of them. A given
-    /// up run has places that were not reached.
+    /// Goes through the plan; with tests, each placement is checked against all of them. A run that
+    /// was given up has places that were not reached.
     static void Prüfen(bool mitTests, bool fertig)
     {
         std::map<int, Datum> zuletzt; // date of the last placement of a helper
@@ -105,7 +105,7 @@ TEST_F(HelferPläneTest, JederPlanHältDieRegelnSeinesWeges)
     for (unsigned saat = 1; saat <= Gemeinden && !HasFailure(); ++saat) {
         SCOPED_TRACE("seed " + std::to_string(saat));
         GemeindeErwürfeln(saat);
-        // Half the parishes want little enough that all tests apply.
+        // Half the parishes want few enough helpers that all tests apply.
         if (saat % 2 == 0)
             for (int i = 0; i < Messe.Anzahl; ++i) {
                 Messe.KollektZahl[i] = 0;

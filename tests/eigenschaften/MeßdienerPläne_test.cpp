@@ -1,4 +1,4 @@
-// What holds for every plan of servers, in thousands of random parishes.
+// What is true of every plan of servers, in thousands of random parishes.
 #include "Regeln.h"
 
 #include "assignment/Dienste.h"
@@ -19,7 +19,7 @@ class MeßdienerPläneTest : public Gemeindestand {
   protected:
     static int Slots(int i) { return std::min<int>(Messe.Dienerzahl[i], 20); }
 
-    /// Nothing but the slots of the masses was written.
+    /// Expects that nothing but the slots of the masses was written.
     static void SonstNichtsGeschrieben()
     {
         for (int i = 0; i <= MeisteMessen + 2; ++i)
@@ -50,7 +50,7 @@ class MeßdienerPläneTest : public Gemeindestand {
         ASSERT_EQ(VerstoßGegenSperre(), "");
     }
 
-    /// What holds even where a search was started again or given up.
+    /// What is true even if a search was restarted or given up.
     static void AbbruchPrüfen(bool partnerweg)
     {
         for (int i = 0; i < Messe.Anzahl; ++i)
@@ -103,7 +103,8 @@ class MeßdienerPläneTest : public Gemeindestand {
                         verlauf.Setzen(j, tag);
     }
 
-    /// The server drawn for a slot and the partner beside; the last slot that was written.
+    /// Checks the server drawn for a slot and the partner next to him; returns the last slot
+    /// written.
     static int PaarPrüfen(Verlauf &verlauf, int i, int slot, Text &geschlecht)
     {
         SCOPED_TRACE("mass " + std::to_string(i) + ", slot " + std::to_string(slot));
@@ -150,7 +151,7 @@ class MeßdienerPläneTest : public Gemeindestand {
             while (offen) {
                 const Text &dienst = Messe.DienerDienst[i][slot - 1];
                 if (dienst == "Weihrauch" && Konfig.ManuellWeihrauch == 1) {
-                    ++slot; // left open, and behind the last slot one is filled
+                    ++slot; // left open, and after the last slot one more is filled
                 } else if (dienst == "Kreuzträger" && Konfig.ManuellKreuzträger == 1) {
                     offen = ++slot != Messe.Dienerzahl[i];
                 } else {
@@ -198,7 +199,7 @@ TEST_F(MeßdienerPläneTest, KnappNiemandZweimalInEinerMesse)
         int größte = 0;
         for (int i = 0; i < Messe.Anzahl; ++i)
             größte = std::max(größte, Slots(i));
-        // As few servers as the largest mass needs, and one.
+        // At least one server more than the largest mass needs.
         Meßdiener.Anzahl = Würfel(saat).Zahl(größte + 1, 2 * GrößterTagDerGemeinde() + 1);
         for (auto *name : {&Meßdiener.Vorname, &Meßdiener.Nachname})
             (*name)[Meßdiener.Anzahl] = "";
@@ -288,7 +289,7 @@ TEST_F(MeßdienerPläneTest, SchaltflächeHältDieRegelnDesWegesNachDerAnzahl)
     for (unsigned saat = 1; saat <= Gemeinden && !HasFailure(); ++saat) {
         SCOPED_TRACE("seed " + std::to_string(saat));
         GemeindeErwürfeln(saat);
-        MesseDienerFest.Datum[0] = MesseDienerFest.Datum[1] = 0; // nothing is written over
+        MesseDienerFest.Datum[0] = MesseDienerFest.Datum[1] = 0; // nothing is overwritten
         MesseDienerFest.Datum[2] = MesseDienerFest.Datum[3] = 0;
         const int tag = GrößterTagDerGemeinde();
         const int anzahl = Würfel(saat).Zahl(1, Meßdiener.Anzahl);

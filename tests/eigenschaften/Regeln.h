@@ -1,5 +1,5 @@
-// The rules of a plan, written down a second time for the random parishes: a finished plan is gone
-// through slot by slot and held against them. Shares no code with the assignment.
+// The rules of a plan, written a second time for the random parishes: a finished plan is checked
+// against them slot by slot. Shares no code with the assignment.
 #pragma once
 
 #include "Gemeinde.h"
@@ -22,7 +22,7 @@ struct Verlauf {
         Zuletzt[j] = tag;
     }
 
-    /// Frees all but those placed on this date or the day before.
+    /// Frees everybody except those placed on this date or the day before.
     void Freigeben(Datum tag)
     {
         std::erase_if(Vergeben, [&](int j) {
@@ -41,7 +41,7 @@ struct Verlauf {
     }
 };
 
-/// The server whose name stands in a slot, -1 for none. All names differ.
+/// The server whose name is in a slot, -1 for none. All names differ.
 inline int WerSteht(int i, int slot)
 {
     const Text &vor = Messe.DienerVor[i][slot];
@@ -64,8 +64,8 @@ inline bool IstWeg(Datum tag, Datum von, Datum bis)
     return von <= tag && tag <= bis;
 }
 
-/// Absences, week wishes, qualification for the service of the slot: what holds for each drawn
-/// server whatever else stands in the plan.
+/// Absences, week wishes, qualification for the service of the slot: what applies to each drawn
+/// server whatever else is in the plan.
 inline Text VerstoßFürSich(int i, int slot, int j, bool dienstZählt)
 {
     const Datum tag = Messe.Datum[i];
@@ -109,7 +109,7 @@ inline int NeueMittelgröße(int slot, int mittel, int größe)
     return mittel;
 }
 
-/// No server stands twice in the mass.
+/// No server is in the mass twice.
 inline Text VerstoßDoppelt(int i)
 {
     std::set<int> gesehen;
@@ -119,7 +119,7 @@ inline Text VerstoßDoppelt(int i)
     return "";
 }
 
-/// Nobody on a date and again in another mass of that date or on the next day.
+/// Nobody serves on a date and again in another mass on that date or on the next day.
 inline Text VerstoßGegenSperre()
 {
     std::map<int, std::set<std::pair<Datum, int>>> dienste;
