@@ -2,8 +2,8 @@
 #include "controls/Datumsfeld.h"
 
 #include "controls/Bausteine.h"
-#include "controls/Gelesen.h"
 #include "controls/Handler.h"
+#include "controls/LesenOderFokus.h"
 #include "controls/Terminbox.h"
 #include "core/Umwandlung.h"
 #include "platform/Uhr.h"
@@ -102,7 +102,7 @@ void Datumsfeld::Zeigen(double datum) const
 
 double Datumsfeld::Wert() const
 {
-    return Gelesen(Feld, DatumLesen);
+    return LesenOderFokus(Feld, DatumLesen);
 }
 
 int JahreBisHeute(const QLineEdit *feld)

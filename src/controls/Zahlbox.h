@@ -2,7 +2,7 @@
 // change.
 #pragma once
 
-#include "controls/Gelesen.h"
+#include "controls/LesenOderFokus.h"
 #include "controls/SpinButton.h"
 #include "core/Umwandlung.h"
 
@@ -57,7 +57,7 @@ void ZahlenSchreiben(const std::array<QLineEdit *, n> &felder,
                      const std::array<Spalte *, n> &spalten, int i)
 {
     for (std::size_t k = 0; k < n; ++k)
-        (*spalten[k])[i] = Gelesen(felder[k], Int16Lesen);
+        (*spalten[k])[i] = LesenOderFokus(felder[k], Int16Lesen);
 }
 
 /// Brings the number in a box, however large, within its limits; returns what the box then holds.

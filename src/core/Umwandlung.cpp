@@ -70,7 +70,7 @@ template <class Ganz> Ganz GanzzahlLesen(std::string_view text)
 
 /// Three numbers, or two if the third may be missing, of one to four digits each.
 struct Zahlengruppe {
-    int Zahl[3] = {0, 0, 0};
+    int Zahlen[3] = {0, 0, 0};
     int Ziffern[3] = {0, 0, 0};
     int Anzahl = 0;
     char Trenner = 0;
@@ -86,7 +86,7 @@ std::optional<Zahlengruppe> GruppeLesen(std::string_view text)
             ++i;
         if (i == von)
             return std::nullopt;
-        std::from_chars(text.data() + von, text.data() + i, gruppe.Zahl[gruppe.Anzahl]);
+        std::from_chars(text.data() + von, text.data() + i, gruppe.Zahlen[gruppe.Anzahl]);
         gruppe.Ziffern[gruppe.Anzahl] = static_cast<int>(i - von);
         ++gruppe.Anzahl;
         if (i == text.size())
@@ -108,17 +108,17 @@ Datum TagLesen(const Zahlengruppe &gruppe)
         std::swap(monatStelle, tagStelle);
     else if (Gebietsschema.Datumsfolge == GebietsschemaDienst::JahrMonatTag)
         std::swap(jahrStelle, tagStelle);
-    int jahr = gruppe.Zahl[jahrStelle];
+    int jahr = gruppe.Zahlen[jahrStelle];
     if (gruppe.Ziffern[jahrStelle] <= 2)
         jahr += jahr < 30 ? 2000 : 1900;
-    return DatumAus({jahr, gruppe.Zahl[monatStelle], gruppe.Zahl[tagStelle]});
+    return DatumAus({jahr, gruppe.Zahlen[monatStelle], gruppe.Zahlen[tagStelle]});
 }
 
 Datum ZeitLesen(const Zahlengruppe &gruppe)
 {
-    int stunde = gruppe.Zahl[0];
-    int minute = gruppe.Zahl[1];
-    int sekunde = gruppe.Zahl[2];
+    int stunde = gruppe.Zahlen[0];
+    int minute = gruppe.Zahlen[1];
+    int sekunde = gruppe.Zahlen[2];
     if (gruppe.Anzahl < 2 || stunde > 23 || minute > 59 || sekunde > 59)
         TypenUnverträglich();
     return ZeitAus((stunde * 60 + minute) * 60 + sekunde);

@@ -10,7 +10,7 @@ namespace altardienst {
 namespace {
 
 /// A number without a sign has a blank in its place.
-template <class Zahl> void ZahlenzeileAnhängen(std::string &inhalt, Zahl wert)
+template <class T> void ZahlenzeileAnhängen(std::string &inhalt, T wert)
 {
     if (!(wert < 0))
         inhalt += ' ';

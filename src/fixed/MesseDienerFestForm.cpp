@@ -79,7 +79,7 @@ void MesseDienerFestForm::Anordnen()
     auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Anzahl Datensätze:"), MaxIndex));
     spalte->addLayout(Felder.Messenzeile());
-    spalte->addWidget(Rollbar(Felder.Slotzeilen()), 1);
+    spalte->addWidget(Rollbar(Felder.SlotsAnordnen()), 1);
     spalte->addLayout(Knopfreihe({OKbutton}, {Hinzu, Löschen}));
     GrößeAnpassen(this); // with all rows of slots
     Wahl->Nummer->setFocus();

@@ -53,7 +53,7 @@ void NeuMesseDienerFestForm::Anordnen()
 {
     auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(Felder.Messenzeile());
-    spalte->addWidget(Rollbar(Felder.Slotzeilen()), 1);
+    spalte->addWidget(Rollbar(Felder.SlotsAnordnen()), 1);
     spalte->addLayout(Knopfreihe({Anfügen, Abrechen}));
     GrößeAnpassen(this); // to show all the rows of slots
     Felder.Messen->setFocus();

@@ -82,7 +82,7 @@ QLayout *Zuordnungsfelder::Messenzeile() const
     return zeile;
 }
 
-QLayout *Zuordnungsfelder::Slotzeilen() const
+QLayout *Zuordnungsfelder::SlotsAnordnen() const
 {
     auto *raster = new QGridLayout;
     raster->setVerticalSpacing(3);

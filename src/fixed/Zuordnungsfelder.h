@@ -46,7 +46,7 @@ class Zuordnungsfelder {
     std::array<Slot, Slotzahl> Slots; // ME1, MDiener1, MDV1, MDN1 and so on
 
     QLayout *Messenzeile() const;
-    QLayout *Slotzeilen() const;
+    QLayout *SlotsAnordnen() const;
     void Verbinden();
 
     /// Fills the lists of masses, and of servers and groups, from the tables; the texts stay.

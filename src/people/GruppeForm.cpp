@@ -90,7 +90,7 @@ void GruppeForm::Schritt(int richtung)
 /// silently undone, a new one is passed on to the servers.
 void GruppeForm::Umbenennen()
 {
-    const int i = Gelesen(Wahl->Nummer, Int16Lesen);
+    const int i = LesenOderFokus(Wahl->Nummer, Int16Lesen);
     if (IstAndereGruppe(i, TextVon(GBezeichnung)))
         Zeigen(i);
     GruppeUmbenennen(i, TextVon(GBezeichnung));
@@ -130,7 +130,7 @@ void GruppeForm::Zeigen(int i)
 
 void GruppeForm::Schreiben()
 {
-    Gruppe.Bezeichnung[Gelesen(Wahl->Nummer, Int16Lesen)] = TextVon(GBezeichnung);
+    Gruppe.Bezeichnung[LesenOderFokus(Wahl->Nummer, Int16Lesen)] = TextVon(GBezeichnung);
 }
 
 void GruppeForm::AnzahlZeigen()

@@ -174,7 +174,7 @@ void HelferForm::Schritt(int richtung)
 /// silently undone, a new one is passed on to the masses.
 void HelferForm::Umbenennen()
 {
-    if (IstAndererHelfer(Gelesen(Wahl->Nummer, Int16Lesen), Person.Name()))
+    if (IstAndererHelfer(LesenOderFokus(Wahl->Nummer, Int16Lesen), Person.Name()))
         Person.NameZeigen(Helfer, Helfer.Cursor);
     HelferUmbenennen(Helfer.Cursor, Person.Name());
 }

@@ -194,7 +194,7 @@ void MeßdienerForm::Schritt(int richtung)
 /// silently undone, a new one is passed on to every place that names the server.
 void MeßdienerForm::Umbenennen()
 {
-    const int i = Gelesen(Wahl->Nummer, Int16Lesen);
+    const int i = LesenOderFokus(Wahl->Nummer, Int16Lesen);
     if (IstAndererMeßdiener(i, Angaben.Person.Name()))
         Angaben.Person.NameZeigen(Meßdiener, i);
     MeßdienerUmbenennen(i, Angaben.Person.Name());
@@ -257,7 +257,7 @@ void MeßdienerForm::Bestätigen() const
 /// Writes the screen; a server typed into the blank slot with both names is added.
 void MeßdienerForm::Abschließen()
 {
-    Schreiben(Gelesen(Wahl->Nummer, Int16Lesen));
+    Schreiben(LesenOderFokus(Wahl->Nummer, Int16Lesen));
     const Personenname name = Angaben.Person.Name();
     if (Nummer() == Meßdiener.Anzahl && !name.Vorname.empty() && !name.Nachname.empty())
         ++Meßdiener.Anzahl;
@@ -283,7 +283,7 @@ void MeßdienerForm::Schreiben(int i)
     Meßdiener.Wochendienst[i] = TextVon(Abgewählt.Feld);
     Abwesenheiten.Schreiben(Zeitspalten(), i);
     Wunsch.Schreiben(i);
-    Meßdiener.Häufigkeit[i] = Gelesen(Haufigk, Int16Lesen);
+    Meßdiener.Häufigkeit[i] = LesenOderFokus(Haufigk, Int16Lesen);
 }
 
 void MeßdienerForm::AnzahlZeigen()

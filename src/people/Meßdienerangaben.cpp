@@ -84,7 +84,7 @@ void Meßdienerangaben::Schreiben(int i) const
     Person.Schreiben(Meßdiener, i);
     Meßdiener.Geburtstag[i] = Gebutag.Wert();
     Meßdiener.Geschlecht[i] = TextVon(Geschl);
-    Meßdiener.Größe[i] = Gelesen(Groß.Feld, Int16Lesen);
+    Meßdiener.Größe[i] = LesenOderFokus(Groß.Feld, Int16Lesen);
     Meßdiener.Eintrittsdatum[i] = Eintritttdatum.Wert();
     Meßdiener.Gruppe[i] = TextVon(Dieenst);
 }

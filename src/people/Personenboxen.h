@@ -3,7 +3,7 @@
 
 #include "controls/Bausteine.h"
 #include "controls/Datensatzwahl.h"
-#include "controls/Gelesen.h"
+#include "controls/LesenOderFokus.h"
 #include "core/Umwandlung.h"
 #include "people/Personen.h"
 #include "values/Text.h"
@@ -59,7 +59,7 @@ class Personenboxen {
         t.Vorname[i] = TextVon(Vorname);
         t.Nachname[i] = TextVon(Nachname);
         t.Straße[i] = TextVon(Straße);
-        t.PLZ[i] = Gelesen(PLZ, Int32Lesen);
+        t.PLZ[i] = LesenOderFokus(PLZ, Int32Lesen);
         t.Ort[i] = TextVon(Ort);
         t.Telefon[i] = TextVon(Telefon);
         t.EMail[i] = TextVon(EMail);

@@ -10,9 +10,9 @@ namespace {
 
 constexpr int MeisteDiener = MesseTabelle::HöchsterSlot;
 
-std::array<Text, Dienstnamen::Zahl> Aufschriften(const Dienstnamen &namen)
+std::array<Text, Dienstnamen::Boxzahl> Aufschriften(const Dienstnamen &namen)
 {
-    std::array<Text, Dienstnamen::Zahl> texte = {namen.Dienerzahl + Text(namen.Ende)};
+    std::array<Text, Dienstnamen::Boxzahl> texte = {namen.Dienerzahl + Text(namen.Ende)};
     for (std::size_t k = 0; k < Dienstarten.size(); ++k) {
         const bool mehrzahl = &Dienstarten[k] == &Flambeau;
         texte[1 + k] = Text(Dienstarten[k].Name) + (mehrzahl ? "s" : "") + namen.Ende;
@@ -20,9 +20,9 @@ std::array<Text, Dienstnamen::Zahl> Aufschriften(const Dienstnamen &namen)
     return texte;
 }
 
-std::array<Text, Helferzahlboxen::Zahl> Aufschriften(const Helferzahlboxen::Namen &namen)
+std::array<Text, Helferzahlboxen::Boxzahl> Aufschriften(const Helferzahlboxen::Namen &namen)
 {
-    std::array<Text, Helferzahlboxen::Zahl> texte;
+    std::array<Text, Helferzahlboxen::Boxzahl> texte;
     for (std::size_t k = 0; k < texte.size(); ++k)
         texte[k] = Text(Helferarten[k].Aufschrift) + namen.Ende;
     return texte;
@@ -73,9 +73,9 @@ int Dienstboxen::DienerzahlBegrenzen() const
     return Begrenzen(Dienerzahl.Feld, 0, MeisteDiener);
 }
 
-std::array<QLineEdit *, Dienstnamen::Zahl> Dienstboxen::Felder() const
+std::array<QLineEdit *, Dienstnamen::Boxzahl> Dienstboxen::Felder() const
 {
-    std::array<QLineEdit *, Dienstnamen::Zahl> felder = {Dienerzahl.Feld};
+    std::array<QLineEdit *, Dienstnamen::Boxzahl> felder = {Dienerzahl.Feld};
     for (std::size_t k = 0; k < Dienste.size(); ++k)
         felder[1 + k] = Dienste[k].Feld;
     felder.back() = Allgemein.Feld;
@@ -113,7 +113,7 @@ void Dienstboxen::AllgemeinGeändert() const
 
 Helferzahlboxen::Helferzahlboxen(const Namen &namen) : texte(Aufschriften(namen))
 {
-    for (std::size_t k = 0; k < Zahl; ++k)
+    for (std::size_t k = 0; k < Boxzahl; ++k)
         Boxen[k] = ZahlboxAnlegen(namen.Felder[k], namen.Spins[k], texte[k].c_str());
 }
 
@@ -125,7 +125,7 @@ void Helferzahlboxen::Anordnen(QGridLayout *raster, int zeile) const
 
 void Helferzahlboxen::Verbinden() const
 {
-    for (std::size_t k = 0; k < Zahl; ++k) {
+    for (std::size_t k = 0; k < Boxzahl; ++k) {
         QLineEdit *feld = Boxen[k].Feld;
         const int plätze = PlätzeFür(Helferarten[k]);
         QObject::connect(feld, &QLineEdit::textChanged, feld,
@@ -134,10 +134,10 @@ void Helferzahlboxen::Verbinden() const
     }
 }
 
-std::array<QLineEdit *, Helferzahlboxen::Zahl> Helferzahlboxen::Felder() const
+std::array<QLineEdit *, Helferzahlboxen::Boxzahl> Helferzahlboxen::Felder() const
 {
-    std::array<QLineEdit *, Zahl> felder;
-    for (std::size_t k = 0; k < Zahl; ++k)
+    std::array<QLineEdit *, Boxzahl> felder;
+    for (std::size_t k = 0; k < Boxzahl; ++k)
         felder[k] = Boxen[k].Feld;
     return felder;
 }

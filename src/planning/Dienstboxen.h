@@ -14,10 +14,10 @@ namespace altardienst {
 /// What a form calls the boxes: the number of servers, then the services in the order of
 /// `Dienstarten`.
 struct Dienstnamen {
-    static constexpr std::size_t Zahl = 1 + Dienstarten.size();
+    static constexpr std::size_t Boxzahl = 1 + Dienstarten.size();
 
-    std::array<const char *, Zahl> Felder;
-    std::array<const char *, Zahl> Spins;
+    std::array<const char *, Boxzahl> Felder;
+    std::array<const char *, Boxzahl> Spins;
     const char *Dienerzahl; // what the form calls the number of servers
     const char *Ende;       // of each label: ":" or nothing
 };
@@ -56,7 +56,7 @@ class Dienstboxen {
     }
 
     /// All seven boxes, in the order of the screen.
-    std::array<QLineEdit *, Dienstnamen::Zahl> Felder() const;
+    std::array<QLineEdit *, Dienstnamen::Boxzahl> Felder() const;
 
     /// Reads in the order of the screen up to the first box that holds no number; failure 13 then.
     void Lesen(Dienstwünsche &wünsche) const;
@@ -64,7 +64,7 @@ class Dienstboxen {
   private:
     template <class Tabelle> static auto Spalten(Tabelle &t)
     {
-        std::array<decltype(&t.Dienerzahl), Dienstnamen::Zahl> spalten = {&t.Dienerzahl};
+        std::array<decltype(&t.Dienerzahl), Dienstnamen::Boxzahl> spalten = {&t.Dienerzahl};
         std::ranges::copy(Zahlspalten(Dienstarten, t), spalten.begin() + 1);
         return spalten;
     }
@@ -73,23 +73,23 @@ class Dienstboxen {
     void DienstGeändert(std::size_t k) const;
     void AllgemeinGeändert() const;
 
-    std::array<Text, Dienstnamen::Zahl> texte;
+    std::array<Text, Dienstnamen::Boxzahl> texte;
 };
 
 /// The numbers of helpers that a mass wants, in the order of `Helferarten`.
 class Helferzahlboxen {
   public:
-    static constexpr std::size_t Zahl = Helferarten.size();
+    static constexpr std::size_t Boxzahl = Helferarten.size();
 
     struct Namen {
-        std::array<const char *, Zahl> Felder;
-        std::array<const char *, Zahl> Spins;
+        std::array<const char *, Boxzahl> Felder;
+        std::array<const char *, Boxzahl> Spins;
         const char *Ende; // of each label: ":" or nothing
     };
 
     explicit Helferzahlboxen(const Namen &namen);
 
-    std::array<Zahlbox, Zahl> Boxen;
+    std::array<Zahlbox, Boxzahl> Boxen;
 
     void Anordnen(QGridLayout *raster, int zeile) const;
 
@@ -106,10 +106,10 @@ class Helferzahlboxen {
         ZahlenSchreiben(Felder(), Zahlspalten(Helferarten, tabelle), i);
     }
 
-    std::array<QLineEdit *, Zahl> Felder() const;
+    std::array<QLineEdit *, Boxzahl> Felder() const;
 
   private:
-    std::array<Text, Zahl> texte;
+    std::array<Text, Boxzahl> texte;
 };
 
 /// The numbers of servers, and to their right those of helpers.

@@ -3,8 +3,8 @@
 
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
-#include "controls/Gelesen.h"
 #include "controls/Handler.h"
+#include "controls/LesenOderFokus.h"
 #include "controls/Textwahl.h"
 #include "controls/Verlassen.h"
 #include "core/Namen.h"
@@ -249,7 +249,7 @@ void LektorrenuswForm::Schreiben()
     const auto amEnde = qScopeGuard(Abgefangen([this] { Merken(); })); // even a part counts
     const int i = Messe.Cursor;
     for (std::size_t art = 0; art < Zahlen.size(); ++art) {
-        Helferarten[art].Zahl.In(Messe)[i] = Gelesen(Zahlen[art].Feld, Int16Lesen);
+        Helferarten[art].Zahl.In(Messe)[i] = LesenOderFokus(Zahlen[art].Feld, Int16Lesen);
         FürJedenPlatz(art, [&](std::size_t p) {
             (Messe.*Helferplätze[p].Vor)[i] = TextVon(Plätze[p].Vor);
             (Messe.*Helferplätze[p].Nach)[i] = TextVon(Plätze[p].Nach);

@@ -4,8 +4,8 @@
 #include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
-#include "controls/Gelesen.h"
 #include "controls/Handler.h"
+#include "controls/LesenOderFokus.h"
 #include "controls/Terminbox.h"
 #include "core/Plätze.h"
 #include "core/Umwandlung.h"
@@ -295,7 +295,7 @@ MessenlisteForm *MessenlisteForm::Wiederkommen()
 
 int MessenlisteForm::Nummer() const
 {
-    return Gelesen(Wahl->Nummer, Int16Lesen);
+    return LesenOderFokus(Wahl->Nummer, Int16Lesen);
 }
 
 void MessenlisteForm::Ablegen()
@@ -312,7 +312,7 @@ void MessenlisteForm::Mitziehen()
         FesteEintraegeMitziehen(i, TextVon(Termin.datendaten), TextVon(Termin.Uhrwerk));
     } catch (const Laufzeitfehler &) {
         for (QLineEdit *feld : {Termin.datendaten, Termin.Uhrwerk})
-            Gelesen(feld, DatumLesen); // shows which of the two it is
+            LesenOderFokus(feld, DatumLesen); // shows which of the two it is
         throw;
     }
 }
@@ -335,8 +335,8 @@ void MessenlisteForm::Schreiben(int i)
 {
     const auto amEnde = qScopeGuard(Abgefangen([this, i] { Merken(i); })); // a part counts too
     Messe.Wochentag[i] = TextVon(Termin.tagelang);
-    Messe.Datum[i] = Gelesen(Termin.datendaten, DatumLesen);
-    Messe.Uhrzeit[i] = Gelesen(Termin.Uhrwerk, DatumLesen);
+    Messe.Datum[i] = LesenOderFokus(Termin.datendaten, DatumLesen);
+    Messe.Uhrzeit[i] = LesenOderFokus(Termin.Uhrwerk, DatumLesen);
     Messe.Messeart[i] = TextVon(Messewesen);
     Dienste.Schreiben(Messe, i);
     Slots.Schreiben(i);

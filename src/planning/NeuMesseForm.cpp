@@ -3,8 +3,8 @@
 
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
-#include "controls/Gelesen.h"
 #include "controls/Handler.h"
+#include "controls/LesenOderFokus.h"
 #include "controls/Terminbox.h"
 #include "core/Sortierbefehle.h"
 #include "core/Umwandlung.h"
@@ -81,7 +81,7 @@ void NeuMesseForm::Verbinden()
 /// A date in the past becomes today.
 void NeuMesseForm::Neuberechnen()
 {
-    const Datum datum = Gelesen(Termin.datendaten, DatumLesen);
+    const Datum datum = LesenOderFokus(Termin.datendaten, DatumLesen);
     AlsKurzesDatum(Termin.datendaten);
     const Datum heute = Uhr.Heute();
     if (heute - datum > 0)
@@ -107,8 +107,8 @@ void NeuMesseForm::Anlegen()
 /// duplicate of an entry with the padded "Montag ".
 bool NeuMesseForm::DoppeltEingegeben() const
 {
-    const Datum datum = Gelesen(Termin.datendaten, DatumLesen);
-    const Datum uhrzeit = Gelesen(Termin.Uhrwerk, DatumLesen);
+    const Datum datum = LesenOderFokus(Termin.datendaten, DatumLesen);
+    const Datum uhrzeit = LesenOderFokus(Termin.Uhrwerk, DatumLesen);
     const Text wochentag = TextVon(Termin.tagelang);
     for (int i = 0; i < Messe.Anzahl; ++i)
         if (Messe.Datum[i] == datum && Messe.Uhrzeit[i] == uhrzeit &&
@@ -120,8 +120,8 @@ bool NeuMesseForm::DoppeltEingegeben() const
 void NeuMesseForm::Schreiben(int i)
 {
     Messe.Wochentag[i] = TextVon(Termin.tagelang);
-    Messe.Datum[i] = Gelesen(Termin.datendaten, DatumLesen);
-    Messe.Uhrzeit[i] = Gelesen(Termin.Uhrwerk, DatumLesen);
+    Messe.Datum[i] = LesenOderFokus(Termin.datendaten, DatumLesen);
+    Messe.Uhrzeit[i] = LesenOderFokus(Termin.Uhrwerk, DatumLesen);
     Messe.Messeart[i] = TextVon(Messewesen);
     Dienste.Schreiben(Messe, i);
     Helferzahlen.Schreiben(Messe, i);

@@ -16,10 +16,10 @@ class Slotzeilen {
   public:
     Slotzeilen();
 
-    static constexpr std::size_t Zahl = MesseTabelle::HöchsterSlot;
-    std::array<QLabel *, Zahl> MDR;    // MDR[0] to MDR[19]
-    std::array<QLineEdit *, Zahl> vor; // vor1 to vor20
-    std::array<QLineEdit *, Zahl> nach;
+    static constexpr std::size_t Zeilenzahl = MesseTabelle::HöchsterSlot;
+    std::array<QLabel *, Zeilenzahl> MDR;    // MDR[0] to MDR[19]
+    std::array<QLineEdit *, Zeilenzahl> vor; // vor1 to vor20
+    std::array<QLineEdit *, Zeilenzahl> nach;
 
     QLayout *Anordnen() const;
 

@@ -3,8 +3,8 @@
 
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
-#include "controls/Gelesen.h"
 #include "controls/Handler.h"
+#include "controls/LesenOderFokus.h"
 #include "controls/Terminbox.h"
 #include "controls/Textwahl.h"
 #include "core/Umwandlung.h"
@@ -123,7 +123,7 @@ void StandardmessenForm::Schritt(int richtung)
         Schreiben(i);
         Zeigen(i + richtung);
     }
-    ZahlSetzen(Wahl->Nummer, Gelesen(Wahl->Nummer, Int16Lesen) + richtung);
+    ZahlSetzen(Wahl->Nummer, LesenOderFokus(Wahl->Nummer, Int16Lesen) + richtung);
 }
 
 void StandardmessenForm::DienerzahlGeändert()
@@ -177,7 +177,7 @@ void StandardmessenForm::Zeigen(int i)
 void StandardmessenForm::Schreiben(int i)
 {
     Standardmesse.Wochentag[i] = Tage->currentText().toStdString();
-    Standardmesse.Uhrzeit[i] = Gelesen(Zeitig, DatumLesen);
+    Standardmesse.Uhrzeit[i] = LesenOderFokus(Zeitig, DatumLesen);
     Standardmesse.Messeart[i] = TextVon(Messearten);
     Dienste.Schreiben(Standardmesse, i);
     Helferzahlen.Schreiben(Standardmesse, i);

@@ -23,14 +23,14 @@ namespace fs = std::filesystem;
 struct Schließer {
     void operator()(std::FILE *datei) const { std::fclose(datei); }
 };
-using Datei = std::unique_ptr<std::FILE, Schließer>;
+using OffeneDatei = std::unique_ptr<std::FILE, Schließer>;
 
-Datei Öffnen(const fs::path &pfad, const char *art)
+OffeneDatei Öffnen(const fs::path &pfad, const char *art)
 {
 #ifdef _WIN32
-    return Datei(_wfopen(pfad.c_str(), fs::path(art).c_str()));
+    return OffeneDatei(_wfopen(pfad.c_str(), fs::path(art).c_str()));
 #else
-    return Datei(std::fopen(pfad.c_str(), art));
+    return OffeneDatei(std::fopen(pfad.c_str(), art));
 #endif
 }
 
@@ -70,7 +70,7 @@ bool Durchschreiben(std::FILE *datei)
 void Ausgeben(const fs::path &pfad, const char *art, std::string_view inhalt,
               bool durchschreiben = false)
 {
-    Datei datei = Öffnen(pfad, art);
+    OffeneDatei datei = Öffnen(pfad, art);
     if (!datei)
         Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
     if (std::fwrite(inhalt.data(), 1, inhalt.size(), datei.get()) != inhalt.size())
@@ -91,7 +91,7 @@ bool IstDatei(const fs::path &pfad)
 
 std::string Lesen(const fs::path &pfad)
 {
-    Datei datei = Öffnen(pfad, "rb");
+    OffeneDatei datei = Öffnen(pfad, "rb");
     if (!datei)
         Gescheitert(errno, Laufzeitfehler::DateiNichtGefunden);
     std::error_code unbekannt;

@@ -10,11 +10,12 @@
 namespace altardienst {
 
 StatMeßdienstForm::StatMeßdienstForm()
-    : MGges(Zahl("MGges")), MGMes(Zahl("MGMes")), MLges(Zahl("MLges")), MLMes(Zahl("MLMes")),
-      MFges(Zahl("MFges")), MFMes(Zahl("MFMes")), MWges(Zahl("MWges")), MWMes(Zahl("MWMes")),
-      MKges(Zahl("MKges")), MKMes(Zahl("MKMes")), MAges(Zahl("MAges")), MAMes(Zahl("MAMes")),
-      DMges(Zahl("DMges")), DMm(Zahl("DMm")), DjM(Zahl("DjM")), Druck(Knopf("Druck", "Drucken")),
-      Ende(Knopf("Ende", "Ende"))
+    : MGges(Zahlfeld("MGges")), MGMes(Zahlfeld("MGMes")), MLges(Zahlfeld("MLges")),
+      MLMes(Zahlfeld("MLMes")), MFges(Zahlfeld("MFges")), MFMes(Zahlfeld("MFMes")),
+      MWges(Zahlfeld("MWges")), MWMes(Zahlfeld("MWMes")), MKges(Zahlfeld("MKges")),
+      MKMes(Zahlfeld("MKMes")), MAges(Zahlfeld("MAges")), MAMes(Zahlfeld("MAMes")),
+      DMges(Zahlfeld("DMges")), DMm(Zahlfeld("DMm")), DjM(Zahlfeld("DjM")),
+      Druck(Knopf("Druck", "Drucken")), Ende(Knopf("Ende", "Ende"))
 {
     Benannt(this, "StatMeßdienst");
     setWindowTitle("Statistik Messendienst");

@@ -16,9 +16,10 @@
 namespace altardienst {
 
 Statistik2Form::Statistik2Form()
-    : Tagchus(Beschriftung("Tagchus", "")), a(Zahlen<13>("a")), b(Zahlen<13>("b")),
-      c(Zahlen<13>("c")), G(Zahl("G")), A(Zahl("A")), Diagramm(Knopf("Diagramm", "Diagramm")),
-      Druck(Knopf("Druck", "Drucken")), Ende(Knopf("Ende", "Ende"))
+    : Tagchus(Beschriftung("Tagchus", "")), a(Zahlfelder<13>("a")), b(Zahlfelder<13>("b")),
+      c(Zahlfelder<13>("c")), G(Zahlfeld("G")), A(Zahlfeld("A")),
+      Diagramm(Knopf("Diagramm", "Diagramm")), Druck(Knopf("Druck", "Drucken")),
+      Ende(Knopf("Ende", "Ende"))
 {
     Benannt(this, "Statistik2");
     setWindowTitle("Statistik (Meßdienergröße)");

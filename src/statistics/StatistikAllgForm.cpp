@@ -11,10 +11,10 @@
 namespace altardienst {
 
 StatistikAllgForm::StatistikAllgForm()
-    : DD1(Beschriftung("DD1", "")), LE1(Zahl("LE1")), Le2(Zahl("Le2")), Kom1(Zahl("Kom1")),
-      Kom2(Zahl("Kom2")), Ka1(Zahl("Ka1")), Ka2(Zahl("Ka2")), Kol1(Zahl("Kol1")),
-      Kol2(Zahl("Kol2")), I1(Zahl("I1")), I2(Zahl("I2")), Druck(Knopf("Druck", "Drucken")),
-      Ente(Knopf("Ente", "Ende"))
+    : DD1(Beschriftung("DD1", "")), LE1(Zahlfeld("LE1")), Le2(Zahlfeld("Le2")),
+      Kom1(Zahlfeld("Kom1")), Kom2(Zahlfeld("Kom2")), Ka1(Zahlfeld("Ka1")), Ka2(Zahlfeld("Ka2")),
+      Kol1(Zahlfeld("Kol1")), Kol2(Zahlfeld("Kol2")), I1(Zahlfeld("I1")), I2(Zahlfeld("I2")),
+      Druck(Knopf("Druck", "Drucken")), Ente(Knopf("Ente", "Ende"))
 {
     Benannt(this, "StatistikAllg");
     setWindowTitle("Statistik Helfer allgemein");

@@ -33,9 +33,9 @@ void AnzahlenZeigen(const std::array<QLabel *, n> &absolut, const std::array<QLa
 } // namespace
 
 StatistikForm::StatistikForm()
-    : Tagchen(Beschriftung("Tagchen", "")), a(Zahlen<12>("a", 9)), aa(Zahlen<12>("aa", 9)),
-      b0(Zahl("b0")), d(Zahlen<16>("d")), dd(Zahlen<16>("dd")), c20(Zahl("c20")), e(Zahlen<8>("e")),
-      ee(Zahlen<8>("ee")), Diagramm(Knopf("Diagramm", "Diagramm")),
+    : Tagchen(Beschriftung("Tagchen", "")), a(Zahlfelder<12>("a", 9)), aa(Zahlfelder<12>("aa", 9)),
+      b0(Zahlfeld("b0")), d(Zahlfelder<16>("d")), dd(Zahlfelder<16>("dd")), c20(Zahlfeld("c20")),
+      e(Zahlfelder<8>("e")), ee(Zahlfelder<8>("ee")), Diagramm(Knopf("Diagramm", "Diagramm")),
       Druck(Knopf("Druck", "Drucken")), Ende(Knopf("Ende", "Ende"))
 {
     Benannt(aa[1], "AA10");

@@ -10,10 +10,10 @@
 namespace altardienst {
 
 StatistikHelferForm::StatistikHelferForm()
-    : LL1(Zahl("LL1")), LL2(Zahl("LL2")), KOR1(Zahl("KOR1")), KOR2(Zahl("KOR2")),
-      KAR1(Zahl("KAR1")), KAR2(Zahl("KAR2")), KLR1(Zahl("KLR1")), KLR2(Zahl("KLR2")),
-      DHI(Zahl("DHI")), DHM(Zahl("DHM")), DHH(Zahl("DHH")), Druck(Knopf("Druck", "Drucken")),
-      Ende(Knopf("Ende", "Ende"))
+    : LL1(Zahlfeld("LL1")), LL2(Zahlfeld("LL2")), KOR1(Zahlfeld("KOR1")), KOR2(Zahlfeld("KOR2")),
+      KAR1(Zahlfeld("KAR1")), KAR2(Zahlfeld("KAR2")), KLR1(Zahlfeld("KLR1")),
+      KLR2(Zahlfeld("KLR2")), DHI(Zahlfeld("DHI")), DHM(Zahlfeld("DHM")), DHH(Zahlfeld("DHH")),
+      Druck(Knopf("Druck", "Drucken")), Ende(Knopf("Ende", "Ende"))
 {
     Benannt(this, "StatistikHelfer");
     setWindowTitle("Statistik Helferdienste Messe");

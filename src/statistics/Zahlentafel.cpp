@@ -10,7 +10,7 @@
 
 namespace altardienst {
 
-QLabel *Zahl(const char *name)
+QLabel *Zahlfeld(const char *name)
 {
     QLabel *zahl = Beschriftung(name, "");
     zahl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

@@ -16,14 +16,14 @@
 namespace altardienst {
 
 /// A label for a figure, named `name`.
-QLabel *Zahl(const char *name);
+QLabel *Zahlfeld(const char *name);
 
 /// Labels for figures with a number in their name, such as `a9` to `a20`.
-template <std::size_t n> std::array<QLabel *, n> Zahlen(const char *name, int erste = 0)
+template <std::size_t n> std::array<QLabel *, n> Zahlfelder(const char *name, int erste = 0)
 {
     std::array<QLabel *, n> zahlen;
     for (std::size_t k = 0; k < n; ++k)
-        zahlen[k] = Zahl((name + std::to_string(erste + static_cast<int>(k))).c_str());
+        zahlen[k] = Zahlfeld((name + std::to_string(erste + static_cast<int>(k))).c_str());
     return zahlen;
 }
 

@@ -3,7 +3,7 @@
 #include "controls/Verlassen.h"
 
 #include "Fensterstand.h"
-#include "controls/Gelesen.h"
+#include "controls/LesenOderFokus.h"
 #include "controls/Textwahl.h"
 #include "core/Umwandlung.h"
 
@@ -85,7 +85,7 @@ TEST_F(VerlassenTest, EinGescheitertesSpeichernVerläßtNichtWasDenFokusHatte)
     feld->setText("x");
     FokusAuf(wahl);
     verlassen.clear();
-    EXPECT_EQ(NummerDesFehlers([this] { Gelesen(feld, Int16Lesen); }), 13);
+    EXPECT_EQ(NummerDesFehlers([this] { LesenOderFokus(feld, Int16Lesen); }), 13);
     EXPECT_TRUE(feld->hasFocus());
     EXPECT_EQ(verlassen, Liste{});
     FokusAuf(wahl);

@@ -45,11 +45,11 @@ TEST(Text, MitteVorDemAnfangIstEinFehler)
 
 TEST(Text, PositionZähltZeichenAbEins)
 {
-    EXPECT_EQ(Position("Müller,Änne", ","), 7);
-    EXPECT_EQ(Position("Müller,Änne,x", "n"), 9);
-    EXPECT_EQ(Position("Müller", "M"), 1);
-    EXPECT_EQ(Position("Müller", ","), 0);
-    EXPECT_EQ(Position("", ","), 0);
+    EXPECT_EQ(Fundstelle("Müller,Änne", ","), 7);
+    EXPECT_EQ(Fundstelle("Müller,Änne,x", "n"), 9);
+    EXPECT_EQ(Fundstelle("Müller", "M"), 1);
+    EXPECT_EQ(Fundstelle("Müller", ","), 0);
+    EXPECT_EQ(Fundstelle("", ","), 0);
 }
 
 TEST(Text, FlagsWerdenNachPositionGelesen)

@@ -14,7 +14,7 @@ namespace altardienst {
 /// What `lesen` makes of the text of a box. If it fails, the box takes the focus and rolls into
 /// view, so that the message, which names no box, leaves the user where the mistake is. The box
 /// that had the focus has not been left by that.
-template <class Wert> Wert Gelesen(QLineEdit *feld, Wert (*lesen)(std::string_view))
+template <class Wert> Wert LesenOderFokus(QLineEdit *feld, Wert (*lesen)(std::string_view))
 {
     try {
         return lesen(TextVon(feld));
