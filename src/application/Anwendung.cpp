@@ -45,8 +45,9 @@ class Mausschlucker : public QObject {
     }
 };
 
-/// A box that is left by a press of the mouse may bring a message. The press reaches its button
-/// only behind it, and its release never: the button would hang, or a spin button run on.
+/// Leaving a box with a mouse press may bring up a message. The press then reaches its button only
+/// after the message, and its release never does: the button would stay down, or a spin button keep
+/// running.
 void DruckVerwerfen()
 {
     auto *schlucker = new Mausschlucker(qApp);
@@ -82,7 +83,7 @@ QMessageBox::StandardButton MeldungZeigen(const Text &text, const Text &titel,
 
 void AnwendungEinrichten(QApplication &anwendung)
 {
-    // Without a display name, which would be added to the title of every window.
+    // No display name is set: it would be added to the title of every window.
     QApplication::setApplicationName("Altardienst");
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));

@@ -9,10 +9,10 @@
 
 namespace altardienst {
 
-/// German texts in Qt's own dialogs, the style of all windows, and real message boxes.
+/// Installs German texts in Qt's own dialogs, the style of all windows, and real message boxes.
 void AnwendungEinrichten(QApplication &anwendung);
 
-/// The main window, for the dialogs; null when there is none.
+/// Sets the main window, for the dialogs; null if there is none.
 void HauptfensterSetzen(QWidget *haupt);
 
 /// Disables and minimises the main window and brings the dialog to the front, ready for use however
@@ -63,8 +63,8 @@ void DialogAnStelleÖffnen(QWidget *form, Angaben &&...angaben)
     DialogAnStelleÖffnen(form, OffenerOderNeuer<Form>(std::forward<Angaben>(angaben)...));
 }
 
-/// What a dialog does last: enables the main window, sets it to maximised and gives the focus back
-/// to the control that had it.
+/// What a dialog does last: enables and maximises the main window and gives the focus back to the
+/// control that had it.
 void HauptfensterZurück();
 
 /// Closes and deletes every window of the program without asking any of them.

@@ -1,4 +1,4 @@
-// Forms that stand open beside the main window, whose actions may change what they show.
+// Forms that stay open next to the main window, whose actions may change what they show.
 #include "application/Nebenfenster.h"
 
 #include "application/Anwendung.h"
@@ -24,7 +24,7 @@ struct Nebenfenster {
 
 std::vector<Nebenfenster> alle;
 
-void Alle(std::function<void()> Nebenfenster::*tun)
+void InAllenAusführen(std::function<void()> Nebenfenster::*tun)
 {
     std::erase_if(alle, [](const Nebenfenster &fenster) { return !fenster.Form; });
     for (const Nebenfenster &fenster : alle)
@@ -64,14 +64,14 @@ QStringList Gezeigt::Texte(const QWidget *form)
 
 void HauptfensterHandelt(const std::function<void()> &aktion)
 {
-    Alle(&Nebenfenster::Ablegen);
+    InAllenAusführen(&Nebenfenster::Ablegen);
     Offen(aktion)();
-    Alle(&Nebenfenster::Erneuern);
+    InAllenAusführen(&Nebenfenster::Erneuern);
 }
 
 void OffeneFormenBelassen()
 {
-    Alle(&Nebenfenster::Belassen);
+    InAllenAusführen(&Nebenfenster::Belassen);
 }
 
 } // namespace altardienst

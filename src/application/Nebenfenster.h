@@ -1,4 +1,4 @@
-// Forms that stand open beside the main window, whose actions may change what they show.
+// Forms that stay open next to the main window, whose actions may change what they show.
 #pragma once
 
 #include <QStringList>
@@ -18,16 +18,16 @@ namespace altardienst {
 void NebenDemHauptfenster(QWidget *form, std::function<void()> ablegen,
                           std::function<void()> erneuern, std::function<void()> belassen);
 
-/// Runs an action of the main window. Open.
+/// Runs an action of the main window as described above. Open.
 void HauptfensterHandelt(const std::function<void()> &aktion);
 
 /// After a load: the screens stay as they are, and are written by what is done on them.
 void OffeneFormenBelassen();
 
-/// What a form has last shown or written of its record.
+/// What a form last showed or wrote of its record.
 class Gezeigt {
   public:
-    /// From now on: what `lesen` returns of the tables, and the texts of all boxes of the form.
+    /// Remembers what `lesen` returns from the tables, and the texts of all boxes of the form.
     template <class F> void Merken(const QWidget *form, F lesen)
     {
         vergleich = [lesen] { return [lesen, zuvor = lesen()] { return lesen() != zuvor; }; };

@@ -1,4 +1,4 @@
-// Reading the boxes of a form for a save.
+// Reading a box for a save, or moving the focus to it if that fails.
 #pragma once
 
 #include "controls/Bausteine.h"
@@ -11,9 +11,9 @@
 
 namespace altardienst {
 
-/// What `lesen` makes of the text of a box. If it fails, the box takes the focus and rolls into
-/// view, so that the message, which names no box, leaves the user where the mistake is. The box
-/// that had the focus has not been left by that.
+/// What `lesen` makes of the text in a box. If it fails, the box takes the focus and scrolls into
+/// view, so that the message, which names no box, leaves the user where the mistake is. This does
+/// not count as leaving the box that had the focus.
 template <class Wert> Wert LesenOderFokus(QLineEdit *feld, Wert (*lesen)(std::string_view))
 {
     try {

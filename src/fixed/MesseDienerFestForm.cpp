@@ -21,10 +21,10 @@
 namespace altardienst {
 namespace {
 
-constexpr int HöchsteNummer = 200; // as many entries as the dialog for new ones lets in
+constexpr int HöchsteNummer = 200; // as many entries as the dialog for new ones accepts
 constexpr int PlusBis = 600;       // above it `Plus` shows no next entry
 
-/// The blank entry behind the last one can be reached too.
+/// The blank entry after the last one can be reached too.
 int HöchsterEintrag()
 {
     return std::clamp<int>(MesseDienerFest.Anzahl, 0, HöchsteNummer);
@@ -50,7 +50,8 @@ MesseDienerFestForm::MesseDienerFestForm()
     })();
 }
 
-/// What the fields show and set belongs to the entry at the cursor, and to the number typed.
+/// What the fields show and set belongs partly to the entry at the cursor, partly to the number
+/// typed.
 Zuordnungsfelder::Unterschiede MesseDienerFestForm::Unterschiede()
 {
     Zuordnungsfelder::Unterschiede unterschiede;
@@ -81,7 +82,7 @@ void MesseDienerFestForm::Anordnen()
     spalte->addLayout(Felder.Messenzeile());
     spalte->addWidget(Rollbar(Felder.SlotsAnordnen()), 1);
     spalte->addLayout(Knopfreihe({OKbutton}, {Hinzu, Löschen}));
-    GrößeAnpassen(this); // with all rows of slots
+    GrößeAnpassen(this); // to show all the rows of slots
     Wahl->Nummer->setFocus();
 }
 
@@ -101,7 +102,7 @@ void MesseDienerFestForm::Verbinden()
     BeiRückkehr(this, Abgefangen([this] { Aufschlagen(); }));
 }
 
-/// The entry shown last, with the counts of the masses as they are now.
+/// Opens the entry shown last, with the counts of the masses as they are now.
 void MesseDienerFestForm::Aufschlagen()
 {
     FesteZuordnungOffen = true;
@@ -113,8 +114,8 @@ void MesseDienerFestForm::Aufschlagen()
     Zeigen();
 }
 
-/// `Messen` takes the date and time of the entry that is left, and keeps them: only the buttons and
-/// keys bring it in line with the new one.
+/// `Messen` takes the date and time of the entry being left, and keeps them: only the buttons and
+/// keys update it to the new one.
 void MesseDienerFestForm::NummerGeändert()
 {
     Felder.DatumUhrzeitAngleichen();
@@ -123,8 +124,9 @@ void MesseDienerFestForm::NummerGeändert()
     Zeigen();
 }
 
-/// By key the focus moves too, so that the box being filled in is left before it is written. Date
-/// and time take back the mass's when they are left; what was typed counts, so it goes there first.
+/// The focus moves for a key too, so that the box being filled in is left before the entry is
+/// written. On being left, date and time go back to those of the mass; what was typed must win, so
+/// it is put there first.
 void MesseDienerFestForm::Schritt(int richtung)
 {
     if (Felder.DatumD->hasFocus() || Felder.Zeitd->hasFocus())
@@ -146,7 +148,7 @@ void MesseDienerFestForm::Schritt(int richtung)
     Felder.MeßdienerZeilenEinblenden();
 }
 
-/// The spin button leaves all else to the change of the number.
+/// The spin button leaves everything else to the change of the number.
 void MesseDienerFestForm::Wechseln(int richtung)
 {
     Felder.DatumUhrzeitAngleichen();
@@ -192,7 +194,7 @@ void MesseDienerFestForm::Zeigen()
     Setzen(MaxIndex, ZahlText(MesseDienerFest.Anzahl));
 }
 
-/// The window's own close presses `OKbutton`; an entry that cannot be stored does not hold it up.
+/// Closing by the close box presses `OKbutton`; an entry that cannot be stored does not stop it.
 void MesseDienerFestForm::VorDemSchließen()
 {
     if (!gespeichert) {

@@ -12,7 +12,7 @@ class MesseDienerFestForm : public Dialogfenster {
   public:
     MesseDienerFestForm();
 
-    /// Brings back the one that is open, if there is one.
+    /// Brings back the open one, if there is one.
     static void Zurück();
 
     Datensatzwahl *Wahl; // Index, Plus, Minus, DatensatzWechsel

@@ -90,7 +90,7 @@ void MessenlisteForm::NeuenPlanZeigen()
     Wiederkommen();
 }
 
-/// The number counts as changed, also where it is the one that stood there.
+/// The number counts as changed, even if it is the same as before.
 void MessenlisteForm::Laden()
 {
     {
@@ -131,7 +131,7 @@ void MessenlisteForm::Anordnen()
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("NBe", "Anzahl Datensätze:"), maxi));
     spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(Knopfreihe({Ende}, {Löscher, NeuMeß, Lektoren}));
-    GrößeAnpassen(this); // with all rows of slots
+    GrößeAnpassen(this); // to show all the rows of slots
     Wahl->Nummer->setFocus();
 }
 
@@ -174,7 +174,7 @@ void MessenlisteForm::Verbinden()
         });
 }
 
-/// Stepping one past the end adds an empty mass to the table, without a question.
+/// Stepping one past the end adds an empty mass to the table without asking.
 void MessenlisteForm::NummerGeändert()
 {
     int nummer = Begrenzen(Wahl->Nummer, 0, LetzterDatensatz);
@@ -193,7 +193,7 @@ void MessenlisteForm::NummerGeändert()
 void MessenlisteForm::Schritt(int richtung)
 {
     if (Wahl->Nummer->text().isEmpty())
-        ZahlSetzen(Wahl->Nummer, 0); // shows mass 0, so there is nothing that entries could follow
+        ZahlSetzen(Wahl->Nummer, 0); // shows mass 0, so no entries could follow a mass
     else
         Mitziehen();
     const int i = Nummer();
@@ -216,15 +216,15 @@ void MessenlisteForm::DienerzahlGeändert()
     Beschriften();
 }
 
-/// While a mass is filled in, its services lead the number of servers through many values; the rows
-/// follow the last one, since each that comes or goes moves everything else.
+/// While a mass is being filled in, its services take the number of servers through many values;
+/// the rows follow only the last one, since each row shown or hidden moves everything else.
 void MessenlisteForm::ZeilenZeigen(int diener)
 {
     if (!füllt)
         Slots.Sichtbar(diener);
 }
 
-/// A service that is no number leaves its slots and all after them numbered.
+/// If a service is not a number, its slots and all after them are labelled with their numbers.
 void MessenlisteForm::Beschriften()
 {
     Dienstwünsche wünsche{}; // what cannot be read counts as none
@@ -312,7 +312,7 @@ void MessenlisteForm::Mitziehen()
         FesteEintraegeMitziehen(i, TextVon(Termin.datendaten), TextVon(Termin.Uhrwerk));
     } catch (const Laufzeitfehler &) {
         for (QLineEdit *feld : {Termin.datendaten, Termin.Uhrwerk})
-            LesenOderFokus(feld, DatumLesen); // shows which of the two it is
+            LesenOderFokus(feld, DatumLesen); // shows which of the two is wrong
         throw;
     }
 }
@@ -333,7 +333,7 @@ void MessenlisteForm::Zeigen(int i)
 
 void MessenlisteForm::Schreiben(int i)
 {
-    const auto amEnde = qScopeGuard(Abgefangen([this, i] { Merken(i); })); // a part counts too
+    const auto amEnde = qScopeGuard(Abgefangen([this, i] { Merken(i); })); // even a part counts
     Messe.Wochentag[i] = TextVon(Termin.tagelang);
     Messe.Datum[i] = LesenOderFokus(Termin.datendaten, DatumLesen);
     Messe.Uhrzeit[i] = LesenOderFokus(Termin.Uhrwerk, DatumLesen);

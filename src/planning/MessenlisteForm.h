@@ -9,7 +9,7 @@
 
 namespace altardienst {
 
-/// All handlers are trapped: a box that cannot be converted ends them without a word.
+/// All handlers are trapped: a box that cannot be converted ends them silently.
 class MessenlisteForm : public QWidget {
   public:
     MessenlisteForm();

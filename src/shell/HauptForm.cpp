@@ -95,7 +95,7 @@ void Enden(int ergebnis)
     QApplication::exit(ergebnis);
 }
 
-/// A save that fails ends the program, with the failure shown. False in that case.
+/// A save that fails ends the program, with the failure shown; false in that case.
 bool SpeichernOderEnden()
 {
     try {
@@ -115,8 +115,8 @@ void Beenden()
         Enden(0);
 }
 
-/// The number of a key of the main keyboard's row of digits, whatever Shift or Caps Lock makes of
-/// it; none of these numbers for any other key.
+/// The number of a key in the main keyboard's row of digits, whatever Shift or Caps Lock makes of
+/// it; any other key gives none of these numbers.
 int NummerDerTaste(const QKeyEvent &taste)
 {
     if ((taste.modifiers() & ~Qt::KeyboardModifiers(Qt::ShiftModifier)) != 0)
@@ -126,7 +126,7 @@ int NummerDerTaste(const QKeyEvent &taste)
 #ifdef Q_OS_WIN
     return static_cast<int>(taste.nativeVirtualKey()) - '0';
 #else
-    return static_cast<int>(taste.nativeScanCode()) - 9; // the key 1 has 10
+    return static_cast<int>(taste.nativeScanCode()) - 9; // key 1 has scan code 10
 #endif
 }
 

@@ -20,8 +20,8 @@ bool WirdKopiert()
     return OffeneForm<DateienKopierenForm>() != nullptr;
 }
 
-/// A start dialog that was shown anew behind a load from the menu leads back to the main window
-/// that is there.
+/// A start dialog that was shown again after a load from the menu leads back to the existing main
+/// window.
 void HauptZeigen()
 {
     if (!Haupt) {

@@ -8,10 +8,10 @@ namespace altardienst {
 /// missing, the copy dialog stands in its place until it is closed.
 void ProgrammStarten();
 
-/// Shows the start dialog again as it was left; loads it if there is none.
+/// Shows the start dialog again as it was left; creates it if there is none.
 void StartZeigen();
 
-/// Unloads the start dialog and shows it afresh, with the data loaded anew.
+/// Deletes the start dialog and shows a new one, with the data loaded again.
 void StartNeuZeigen();
 
 } // namespace altardienst

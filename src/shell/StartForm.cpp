@@ -158,7 +158,7 @@ void StartForm::WochentageSetzen()
     Dayig->setText(Anzeige(WochentagName(letzter)));
 }
 
-/// `Tage` days behind the start date; the period includes both ends.
+/// `Tage` days after the start date; the period includes both ends.
 Datum StartForm::LetzterTag() const
 {
     return Konfig.StartDatum + Int16Lesen(TextVon(Tagilein));

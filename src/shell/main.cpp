@@ -14,7 +14,7 @@ int main(int argc, char *argv[])
     altardienst::Fangnetz anwendung(argc, argv);
     altardienst::AnwendungEinrichten(anwendung);
     QApplication::setWindowIcon(QIcon(":/altardienst.png"));
-    QApplication::setDesktopFileName("altardienst"); // by which the desktop finds name and symbol
+    QApplication::setDesktopFileName("altardienst"); // by which the desktop finds name and icon
     bool gestartet = false;
     altardienst::Offen([&] {
         altardienst::ProgrammStarten();
