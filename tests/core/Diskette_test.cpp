@@ -143,7 +143,7 @@ TEST_F(DisketteTest, FalscherWertBeendetDasLadenOhneEinWort)
     Antworten = {true};
     VonDisketteLaden();
     EXPECT_EQ(Konfig.Gemeinde, "St. Martin");
-    EXPECT_EQ(Konfig.Skal1, 302) << "bounded directly behind the settings";
+    EXPECT_EQ(Konfig.Skal1, 302) << "bounded directly after the settings";
     EXPECT_EQ(Standardmesse.Anzahl, 7);
     EXPECT_EQ(Standardmesse.Wochentag[0], "Montag");
     EXPECT_EQ(Meßdiener.Anzahl, 0);

@@ -75,9 +75,9 @@ class Schnitt {
         if (!frisch)
             Fülle(datei, false);
         frisch = zeilen == 0 && dazwischen.empty();
-        ASSERT_EQ(Einlesen(datei, inhalt), fehler) << form.Name << " behind line " << zeilen;
+        ASSERT_EQ(Einlesen(datei, inhalt), fehler) << form.Name << " after line " << zeilen;
         ASSERT_TRUE(InhaltVon(datei) == Gemischt(zeilen, dazwischen))
-            << form.Name << " behind line " << zeilen;
+            << form.Name << " after line " << zeilen;
     }
 
     /// Lines worth trying: all of a small file; in a large one those of the first two records, of

@@ -113,7 +113,7 @@ TEST_F(SpeichernScheitert, DatenträgerVoll)
               InhaltVon(DateiMeßdiener).substr(0, 20000))
         << "rewritten in place";
     EXPECT_EQ(ZeilenVon(DateiLesen(Festplatte / "Gruppen.dat"))[2], "")
-        << "the files behind stay as they were";
+        << "the files after it stay as they were";
 }
 
 } // namespace

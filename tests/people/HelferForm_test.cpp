@@ -168,7 +168,7 @@ TEST_F(HelferFormTest, OhneVornamenGehtEsNichtVorwärts)
     EXPECT_EQ(Gezeigt("Indexen"), "3");
     EXPECT_EQ(Helfer.Cursor, 3);
     EXPECT_EQ(Helfer.Nachname[3], "Dorn");
-    EXPECT_EQ(Gezeigt("Hinten"), "") << "the record behind shows";
+    EXPECT_EQ(Gezeigt("Hinten"), "") << "the next record shows";
 }
 
 TEST_F(HelferFormTest, SchließenÜbernimmtDenLeerenPlatzMitEinemNamen)

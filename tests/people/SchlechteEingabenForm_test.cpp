@@ -209,7 +209,7 @@ TEST_F(SchlechteNummernForm, EinKommaInDerStraßeHältDasNächsteLadenAn)
     EXPECT_EQ(Meßdiener.Straße[1], "Hof 5");
     EXPECT_EQ(Meßdiener.PLZ[1], 0) << "\"links\" is no number";
     EXPECT_EQ(Meßdiener.Vorname[2], "");
-    EXPECT_EQ(Gruppe.Anzahl, 0) << "in a file behind";
+    EXPECT_EQ(Gruppe.Anzahl, 0) << "in a later file";
     EXPECT_EQ(Helfer.Anzahl, 0);
 }
 

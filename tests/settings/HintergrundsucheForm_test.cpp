@@ -130,7 +130,7 @@ TEST_F(HintergrundsucheFormTest, EinClickIstSofortDerHintergrund)
     EXPECT_EQ(Konfig.Hintergrund, TextVon(Festplatte) + "/Größe rot.png");
     EXPECT_EQ(Mitte(form->Bild), QColor(Qt::red));
     EXPECT_TRUE(Warten([&] { return Mitte(haupt->Image1) == QColor(Qt::red); }))
-        << "the main window takes it up behind the dialog";
+        << "the main window picks it up after the dialog";
     DateiKlicken("blau.png");
     EXPECT_EQ(Mitte(form->Bild), QColor(Qt::blue));
 }

@@ -57,7 +57,7 @@ TEST(Text, FlagsWerdenNachPositionGelesen)
     EXPECT_TRUE(IstJa("jnj", 1));
     EXPECT_FALSE(IstJa("jnj", 2));
     EXPECT_TRUE(IstJa("jnj", 3));
-    EXPECT_FALSE(IstJa("jnj", 4)) << "behind the end";
+    EXPECT_FALSE(IstJa("jnj", 4)) << "past the end";
     EXPECT_FALSE(IstJa("", 1));
     EXPECT_FALSE(IstJa("J", 1)) << "case counts";
     EXPECT_TRUE(IstJa("ßj", 2));

@@ -64,7 +64,7 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption saat("saat", "seed of the draw, in place of the clock's", "N");
     const QCommandLineOption schritte("schritte", "buttons to press, such as 1,4,5", "LISTE");
     const QCommandLineOption menü(
-        "menue", "menu entries to choose behind the steps, such as mnuHelfer,mnuGruppe", "LISTE");
+        "menue", "menu entries to choose after the steps, such as mnuHelfer,mnuGruppe", "LISTE");
     const QCommandLineOption text("text", "write the plan as text", "FILE");
     const QCommandLineOption pdf("pdf", "print the plan to a PDF file", "FILE");
     const QCommandLineOption berichte(
