@@ -16,7 +16,7 @@ enum class Grund {
     Keiner,
     OhneNamen,            // a name is missing, as in the blank row
     Vergeben,             // counts as taken
-    ZuVielePaare,         // has stood in as many pairs as his frequency allows
+    ZuVielePaare,         // has been in as many pairs as his frequency allows
     FalscheGröße,         // too far from the height reference of the mass
     OhneQualifikation,    // may not do the service
     VonHand,              // no fault of the person: the service of the place is set by hand

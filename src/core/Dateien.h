@@ -44,7 +44,7 @@ inline const Datei &DateiMit(Dateinummer nummer)
     return Dateien[static_cast<std::size_t>(nummer)];
 }
 
-/// The two header lines of the servers alone.
+/// Reads only the two header lines of the servers.
 void MeßdienerKopfLesen(Zeilenleser &zeilen);
 
 /// Resets each of XSkala, YSkala and Skal1 to Skal6 that is out of range to its default.

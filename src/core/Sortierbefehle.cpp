@@ -45,7 +45,7 @@ void NachDatumUndUhrzeitSortieren(Tabelle &tabelle, const Sortierbereich &bereic
 }
 
 /// The ten labels of the dialog: full passes without a shrinking bound, and the scratch record is
-/// filled anew from record 21.
+/// refilled from record 21.
 constexpr Sortierbereich Etiketten = {9, 9, false, EtikettTabelle::HöchsterIndex, 21};
 
 } // namespace

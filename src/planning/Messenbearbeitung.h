@@ -8,7 +8,7 @@
 namespace altardienst {
 
 /// When mass `i` moves to a new date and time, moves its fixed entries along; both are given as on
-/// the screen. Failure 13 if there is such an entry and one of the texts is no date or time.
+/// the screen. Failure 13 if there is such an entry and one of the texts is not a date or time.
 void FesteEintraegeMitziehen(int i, const Text &datum, const Text &uhrzeit);
 
 /// Removes mass `i` from the table: every later record moves up by one, with everything except the

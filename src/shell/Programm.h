@@ -4,8 +4,8 @@
 
 namespace altardienst {
 
-/// Loads the data and shows the start dialog, which leads to the main window. Where a file is
-/// missing, the copy dialog stands in its place until it is closed.
+/// Loads the data and shows the start dialog, which leads to the main window. If a file is missing,
+/// the copy dialog takes its place until it is closed.
 void ProgrammStarten();
 
 /// Shows the start dialog again as it was left; creates it if there is none.

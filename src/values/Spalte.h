@@ -47,7 +47,7 @@ template <int höchster> struct Flagspalte {
     const char *Vorgabe;
 };
 
-/// Columns with one entry per slot that stand interleaved in the file: slot `von` of each column,
+/// Columns with one entry per slot that are interleaved in the file: slot `von` of each column,
 /// then slot `von` + 1 of each, up to slot `bis`. When a record moves, all its slots move with it.
 template <int höchster, int slots, std::size_t anzahl> struct Slotspalten {
     std::array<Spalte<Spalte<Text, slots>, höchster> *, anzahl> Spalten;

@@ -67,7 +67,7 @@ TEST_F(NeuMesseDienerFestFormTest, SchlägtDieErsteMesseVor)
     MesseDienerFest.Cursor = 3;
     Öffnen();
     ErwarteVorschlag();
-    EXPECT_EQ(Messe.DienerDienst[0][0], "Gabenbereitung"); // distributed anew
+    EXPECT_EQ(Messe.DienerDienst[0][0], "Gabenbereitung"); // distributed again
     EXPECT_EQ(MesseDienerFest.Anzahl, 0);
     EXPECT_EQ(MesseDienerFest.Cursor, 3);
 }

@@ -407,7 +407,7 @@ TEST_F(MessenlisteDaneben, HelferGehörenZuIhrerMesse)
     const auto feld = [&](const char *name) { return Finden<QLineEdit>(helfer, name); };
     feld("Lecki")->setText("");
     feld("Lecki1Vor")->setText("Anna");
-    Wählen("mnuSortmessen"); // another mass stands at the cursor now
+    Wählen("mnuSortmessen"); // there is another mass at the cursor now
     EXPECT_EQ(Aufschrift(feld("Lecki1Vor")), "");
     EXPECT_EQ(Aufschrift(feld("Lecki")), "1");
 }

@@ -255,7 +255,7 @@ TEST_F(DruckFormTest, DieGruppenlisteNimmtDieGewählteGruppe)
     ASSERT_EQ(gruppen->count(), 2);
     EXPECT_EQ(gruppen->itemText(0), "Die Kleinen");
     EXPECT_EQ(gruppen->itemText(1), QString::fromUtf8("Die Großen"));
-    EXPECT_EQ(Gedruckt("DruckiMeßdieneri").size(), 2U); // the two titles alone
+    EXPECT_EQ(Gedruckt("DruckiMeßdieneri").size(), 2U); // only the two titles
     FokusAuf(gruppen);
     QTest::keyClick(gruppen, Qt::Key_Down);
     const Liste zeilen = Gedruckt("DruckiMeßdieneri");

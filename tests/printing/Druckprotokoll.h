@@ -60,7 +60,7 @@ class Ablauf {
 
     Ablauf &Tut(const Text &operation);
     Ablauf &Zeile(const Text &text); // at the left margin
-    Ablauf &Leerzeile();             // wherever the cursor stands
+    Ablauf &Leerzeile();             // wherever the cursor is
     Ablauf &Eröffnung(const std::vector<Text> &titel);
     Ablauf &Mehrere(const std::vector<Text> &zeilen);
 };

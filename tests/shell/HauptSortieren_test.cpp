@@ -9,8 +9,8 @@ namespace {
 namespace fs = std::filesystem;
 using Liste = std::vector<Text>;
 
-/// Which command sorts which column of which table: three records, 0 to 2, whose key stands in the
-/// order `Folge`, so that each command alone brings its own order about.
+/// Which command sorts which column of which table: three records, 0 to 2, whose keys are in the
+/// order `Folge`, so that each command alone produces its own order.
 class HauptSortierenTest : public Hauptstand {
   protected:
     HauptSortierenTest() { Öffnen(); }
@@ -116,7 +116,7 @@ TEST_F(HauptSortierenTest, JederEintragSortiertSeineTabelleNachSeinemSchlüssel)
         EXPECT_EQ(Stand(), erwartet);
     }
     EXPECT_TRUE(GezeigteMeldungen.empty());
-    EXPECT_TRUE(fs::is_empty(Festplatte)); // memory alone
+    EXPECT_TRUE(fs::is_empty(Festplatte)); // only memory changed
 }
 
 TEST_F(HauptSortierenTest, UmlauteUndKleineBuchstabenStehenHinterDenGroßen)

@@ -106,7 +106,7 @@ class Statistikstand : public Fensterstand {
         Offen([] { DialogÖffnen(new Form); })();
         EXPECT_TRUE(haupt.isEnabled());
         EXPECT_FALSE(haupt.isMinimized());
-        EXPECT_EQ(QApplication::topLevelWidgets().size(), 1); // of these the main window alone
+        EXPECT_EQ(QApplication::topLevelWidgets().size(), 1); // only the main window
         return GezeigteMeldungen.empty() ? "nothing told" : GezeigteMeldungen.back();
     }
 
