@@ -1,4 +1,4 @@
-// A window that stands in the place of the main window, which comes back when it closes.
+// A window that takes the place of the main window, which comes back when it closes.
 #include "application/Dialogfenster.h"
 
 #include "application/Anwendung.h"

@@ -1,4 +1,4 @@
-// A window that stands in the place of the main window, which comes back when it closes.
+// A window that takes the place of the main window, which comes back when it closes.
 #pragma once
 
 #include <QWidget>
@@ -7,8 +7,8 @@ namespace altardienst {
 
 class Dialogfenster : public QWidget {
   protected:
-    /// What is done before the window closes, whichever way it is closed. Open: a failure is shown
-    /// and keeps the window open.
+    /// Runs before the window closes, whichever way it is closed. Open: a failure is shown and the
+    /// window stays open.
     virtual void VorDemSchließen() {}
 
     void closeEvent(QCloseEvent *ereignis) final;

@@ -1,5 +1,5 @@
-// What is the same in every window: the room at its edges, the row of the records above, the
-// buttons below.
+// What is the same in every window: the margins, the record row at the top, the buttons at the
+// bottom.
 #include "controls/Fensteraufbau.h"
 
 #include <QHBoxLayout>

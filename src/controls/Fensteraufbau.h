@@ -1,5 +1,5 @@
-// What is the same in every window: the room at its edges, the row of the records above, the
-// buttons below.
+// What is the same in every window: the margins, the record row at the top, the buttons at the
+// bottom.
 #pragma once
 
 #include "controls/Datensatzwahl.h"
@@ -13,10 +13,10 @@
 
 namespace altardienst {
 
-/// How much room a window leaves at its edges and between its parts: the fuller it is, the less.
+/// How much space a window leaves at its edges and between its parts: the fuller it is, the less.
 enum class Luft { Viel, Mittel, Wenig };
 
-/// The column in which everything in a window stands.
+/// The column that holds everything in a window.
 QVBoxLayout *Fensterspalte(QWidget *fenster, Luft luft);
 
 /// The record mover, with the number of records next to it.

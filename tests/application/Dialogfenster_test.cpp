@@ -1,4 +1,4 @@
-// Windows that stand in the place of the main window.
+// Windows that take the place of the main window.
 #include "application/Dialogfenster.h"
 
 #include "Fensterstand.h"
