@@ -14,11 +14,11 @@
 
 namespace altardienst {
 
-/// Shows a path, which can be marked and wraps: a long one must not widen the window beyond the
-/// screen.
+/// A label for a path, which can be selected and wraps: a long one must not widen the window beyond
+/// the screen.
 QLabel *Pfadanzeige(const char *name);
 
-/// For the name of a directory to be made.
+/// A box for the name of a directory to be created.
 QLineEdit *Verzeichnisname(const char *name);
 
 /// The three lists of a dialog, which lays them out itself. The file list follows the directory

@@ -112,7 +112,7 @@ class Helferzahlboxen {
     std::array<Text, Boxzahl> texte;
 };
 
-/// The numbers of servers, and to their right those of helpers.
+/// The counts of servers, with those of helpers to their right.
 QLayout *Nebeneinander(const Dienstboxen &dienste, const Helferzahlboxen &helfer);
 
 } // namespace altardienst
