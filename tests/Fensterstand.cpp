@@ -3,13 +3,16 @@
 
 #include "application/Anwendung.h"
 #include "application/Fangnetz.h"
+#include "controls/Textwahl.h"
 #include "controls/Unerwartetes.h"
 #include "paper/Druckdialog.h"
 #include "platform/Drucker.h"
 
-#include <QAbstractButton>
 #include <QAccessible>
+#include <QAction>
 #include <QApplication>
+#include <QClipboard>
+#include <QFocusEvent>
 #include <QPointer>
 #include <QTimer>
 
@@ -52,15 +55,24 @@ Text NamenIn(const QObject *fenster)
     return namen;
 }
 
-Text Aufschrift(const QWidget *control)
+Text Zeigt(const QWidget *control)
 {
     if (auto *label = qobject_cast<const QLabel *>(control))
         return label->text().toStdString();
     if (auto *feld = qobject_cast<const QLineEdit *>(control))
         return feld->text().toStdString();
+    if (auto *wahl = qobject_cast<const QComboBox *>(control))
+        return TextVon(wahl);
     if (auto *knopf = qobject_cast<const QAbstractButton *>(control))
         return knopf->text().toStdString();
     throw std::runtime_error(control->objectName().toStdString() + " shows no text");
+}
+
+bool Angekreuzt(const QWidget *control)
+{
+    if (auto *knopf = qobject_cast<const QAbstractButton *>(control))
+        return knopf->isChecked();
+    throw std::runtime_error(control->objectName().toStdString() + " cannot be marked");
 }
 
 void Klick(QWidget *control)
@@ -68,13 +80,14 @@ void Klick(QWidget *control)
     QTest::mouseClick(control, Qt::LeftButton);
 }
 
-void Tippen(QWidget *feld, const char *text)
+void Ankreuzen(QWidget *option)
 {
-    FokusAuf(feld);
-    QTest::keyClick(feld, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(feld, Qt::Key_Delete);
-    for (const QChar zeichen : QString::fromUtf8(text)) // umlauts too
-        QTest::sendKeyEvent(QTest::Click, feld, Qt::Key_unknown, QString(zeichen), Qt::NoModifier);
+    QTest::mouseClick(option, Qt::LeftButton, {}, {10, option->height() / 2});
+}
+
+void Drehen(QWidget *spin, const Text &richtung)
+{
+    Klick(Finden(spin, richtung));
 }
 
 void FokusAuf(QWidget *control)
@@ -82,6 +95,64 @@ void FokusAuf(QWidget *control)
     control->setFocus(Qt::TabFocusReason);
     if (!control->hasFocus())
         throw std::runtime_error(control->objectName().toStdString() + " did not take the focus");
+}
+
+void Tippen(QWidget *feld, const Text &text)
+{
+    FokusAuf(feld);
+    QTest::keyClick(feld, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(feld, Qt::Key_Delete);
+    for (const QChar zeichen : Anzeige(text)) // umlauts too
+        QTest::sendKeyEvent(QTest::Click, feld, Qt::Key_unknown, QString(zeichen), Qt::NoModifier);
+}
+
+void Einfügen(QWidget *feld, const Text &text)
+{
+    FokusAuf(feld);
+    QApplication::clipboard()->setText(Anzeige(text));
+    QTest::keyClick(feld, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(feld, Qt::Key_V, Qt::ControlModifier);
+}
+
+void Taste(Qt::Key taste)
+{
+    QTest::keyClick(QApplication::focusWidget(), taste);
+}
+
+void Taste(QWidget *control, Qt::Key taste)
+{
+    FokusAuf(control);
+    QTest::keyClick(control, taste);
+}
+
+void Einsetzen(QWidget *feld, const Text &text)
+{
+    if (auto *wahl = qobject_cast<QComboBox *>(feld))
+        return Setzen(wahl, text);
+    if (auto *box = qobject_cast<QLineEdit *>(feld))
+        return box->setText(Anzeige(text));
+    throw std::runtime_error(feld->objectName().toStdString() + " takes no text");
+}
+
+void Auslösen(QAbstractButton *knopf)
+{
+    knopf->click();
+}
+
+void DrehungAuslösen(QWidget *spin, int richtung)
+{
+    Auslösen(Finden<QAbstractButton>(spin, richtung > 0 ? "auf" : "ab"));
+}
+
+void FokusWeg(QWidget *feld)
+{
+    QFocusEvent ereignis(QEvent::FocusOut, Qt::TabFocusReason);
+    QApplication::sendEvent(feld, &ereignis);
+}
+
+void MenüWählen(const QObject *fenster, const Text &eintrag)
+{
+    Finden<QAction>(fenster, eintrag)->trigger();
 }
 
 QColor Grundfarbe(QWidget *knopf)

@@ -1,9 +1,12 @@
-// The fixture of the tests that drive real windows.
+// The fixture of the tests that drive real windows, and the words they have in common: one for each
+// thing that is done to a control or read from it. Formstand.h has the same words for the controls
+// of one form by their names.
 #pragma once
 
 #include "Prüfstand.h"
 #include "controls/Bausteine.h"
 
+#include <QAbstractButton>
 #include <QColor>
 #include <QMessageBox>
 #include <QTest>
@@ -19,22 +22,49 @@ Text NamenIn(const QObject *fenster);
 
 /// The control, menu or entry with that name; if it is missing or of another kind, the test fails
 /// and lists the names that exist.
-template <class Control = QWidget> Control *Finden(const QObject *fenster, const char *name)
+template <class Control = QWidget> Control *Finden(const QObject *fenster, const Text &name)
 {
-    if (auto *control = fenster->findChild<Control *>(QString::fromUtf8(name)))
+    if (auto *control = fenster->findChild<Control *>(QString::fromStdString(name)))
         return control;
-    throw std::runtime_error("no \"" + Text(name) +
-                             "\" of this kind; there are: " + NamenIn(fenster));
+    throw std::runtime_error("no \"" + name + "\" of this kind; there are: " + NamenIn(fenster));
 }
 
-/// What a label, a button, a check box or a text box shows.
-Text Aufschrift(const QWidget *control);
+/// What a label, a button, a check box, a text box or a combo box shows.
+Text Zeigt(const QWidget *control);
 
-/// What the user does: clicking the first mouse button, typing over the content of a box, moving
-/// the focus to a control of the active window.
+/// Whether a check box or an option is marked.
+bool Angekreuzt(const QWidget *control);
+
+// What the user does, with mouse and keyboard.
+
+/// A click of the first mouse button into the middle.
 void Klick(QWidget *control);
-void Tippen(QWidget *feld, const char *text);
+/// The same on the circle or the square of an option, whose middle may be empty.
+void Ankreuzen(QWidget *option);
+/// The arrow of a spin button: "auf" or "ab".
+void Drehen(QWidget *spin, const Text &richtung);
+/// Moves the focus to a control of the active window.
 void FokusAuf(QWidget *control);
+/// Types over the content of a box, key by key: each is a change of its own.
+void Tippen(QWidget *feld, const Text &text);
+/// Pastes over the content of a box with the keyboard, which is one change.
+void Einfügen(QWidget *feld, const Text &text);
+/// One key, where the focus is or on this control, which then has it.
+void Taste(Qt::Key taste);
+void Taste(QWidget *control, Qt::Key taste);
+
+// What the test does itself, without mouse, keyboard and focus.
+
+/// Puts a text into a text box or a combo box at once: one change.
+void Einsetzen(QWidget *feld, const Text &text);
+/// Presses a button.
+void Auslösen(QAbstractButton *knopf);
+/// One step of a spin button, up from 1 on, down otherwise.
+void DrehungAuslösen(QWidget *spin, int richtung);
+/// Lets a box handle that it is left, whatever has the focus.
+void FokusWeg(QWidget *feld);
+/// Picks the entry of that name from the menu of a window.
+void MenüWählen(const QObject *fenster, const Text &eintrag);
 
 /// The background of a button, next to its caption.
 QColor Grundfarbe(QWidget *knopf);

@@ -36,14 +36,6 @@ class JubiGebustand : public Papierfenster<JubiGebuForm> {
         Helfer.Geburtstag[HelferAnlegen(vorname, "Lang", "Lektor")] = DatumAus(geboren);
     }
 
-    /// Clicks on the circle of an option button.
-    void Wählen(const char *name) const
-    {
-        QWidget *option = Control(name);
-        QTest::mouseClick(option, Qt::LeftButton, {}, {10, option->height() / 2});
-    }
-    bool Gewählt(const char *name) const { return Finden<QRadioButton>(form, name)->isChecked(); }
-
     /// The first names of a list.
     template <class Liste> static Text Namen(Liste &liste)
     {

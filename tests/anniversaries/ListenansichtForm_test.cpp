@@ -17,21 +17,20 @@ class ListenansichtFormTest : public JubiGebustand {
     void AnsichtÖffnen(const char *knopf, const char *fenster)
     {
         Öffnen();
-        Drücken(knopf);
+        Klick(knopf);
         ansicht = Fenster(fenster);
         Zeigen(ansicht);
     }
     void GeburtstageÖffnen() { AnsichtÖffnen("AnsichtGeb", "Geburtstagsansicht"); }
     void JubiläenÖffnen() { AnsichtÖffnen("AnsichtJubiMeß", "Jubiläumsanzeige"); }
 
-    QWidget *Teil(const char *name) const { return Finden(ansicht, name); }
-    Text Steht(const char *name) const { return Aufschrift(Teil(name)); }
+    Text InDerAnsicht(const char *name) const { return Zeigt(Finden(ansicht, name)); }
 
     /// "number: name, date, years, telephone" as the view shows them.
     Text Zeile() const
     {
-        return Steht("Nu") + ": " + Steht("Name") + ", " + Steht("Tag") + ", " + Steht("Jahre") +
-               ", " + Steht("Telefon");
+        return InDerAnsicht("Nu") + ": " + InDerAnsicht("Name") + ", " + InDerAnsicht("Tag") +
+               ", " + InDerAnsicht("Jahre") + ", " + InDerAnsicht("Telefon");
     }
 
     /// The labels and what they name.
@@ -40,7 +39,7 @@ class ListenansichtFormTest : public JubiGebustand {
         std::map<Text, Text> felder;
         for (const QLabel *label : ansicht->findChildren<QLabel *>())
             if (label->buddy())
-                felder[Aufschrift(label)] = label->buddy()->objectName().toStdString();
+                felder[Zeigt(label)] = label->buddy()->objectName().toStdString();
         return felder;
     }
 
@@ -58,11 +57,11 @@ TEST_F(ListenansichtFormTest, GeburtstageMitIhrenWorten)
                                                       {"Alter:", "Jahre"},
                                                       {"Telefon:", "Telefon"}}));
     EXPECT_EQ(Zeile(), "0: Lea Lang, 09.01.1980, 46, ");
-    EXPECT_EQ(Steht("Letzter"), "2");
-    EXPECT_EQ(Steht("Datensätze"), "2");
+    EXPECT_EQ(InDerAnsicht("Letzter"), "2");
+    EXPECT_EQ(InDerAnsicht("Datensätze"), "2");
     Text worte;
     for (const QLabel *label : ansicht->findChildren<QLabel *>())
-        worte += Aufschrift(label) + "|";
+        worte += Zeigt(label) + "|";
     EXPECT_NE(worte.find("Index von 0 bis|"), Text::npos);
     EXPECT_NE(worte.find("Anzahl Datensätze:|"), Text::npos);
 }
@@ -76,70 +75,70 @@ TEST_F(ListenansichtFormTest, JubiläenMitIhrenWorten)
                                                       {"Jahre:", "Jahre"},
                                                       {"Telefon:", "Telefon"}}));
     EXPECT_EQ(Zeile(), "0: Ben Berg, 01.01.2026, 0, 0254/1");
-    Klick(Teil("Plus"));
+    Klick(Finden(ansicht, "Plus"));
     EXPECT_EQ(Zeile(), "1: Anna Berg, 01.05.2026, 0, 0254/0");
 }
 
 TEST_F(ListenansichtFormTest, JahreSindDieDerZeile)
 {
     Öffnen();
-    Wählen("Fünfzehne");
-    Drücken("AnsichtJubiMeß");
+    Ankreuzen("Fünfzehne");
+    Klick("AnsichtJubiMeß");
     ansicht = Fenster("Jubiläumsanzeige");
     EXPECT_EQ(Zeile(), "0: Cara Berg, 17.05.2009, 17, 0254/2");
-    EXPECT_EQ(Steht("Datensätze"), "1");
+    EXPECT_EQ(InDerAnsicht("Datensätze"), "1");
 }
 
 TEST_F(ListenansichtFormTest, AlleWegeZurNächstenUndVorigenZeile)
 {
     GeburtstageÖffnen();
     const auto taste = [&](const char *name, Qt::Key taste) {
-        FokusAuf(Teil(name));
-        QTest::keyClick(Teil(name), taste);
+        FokusAuf(Finden(ansicht, name));
+        QTest::keyClick(Finden(ansicht, name), taste);
     };
-    Klick(Teil("Plus"));
+    Klick(Finden(ansicht, "Plus"));
     EXPECT_EQ(Zeile(), "1: Anna Berg, 20.01.2010, 16, 0254/0");
-    Klick(Teil("Minus"));
+    Klick(Finden(ansicht, "Minus"));
     EXPECT_EQ(Zeile(), "0: Lea Lang, 09.01.1980, 46, ");
     taste("Telefon", Qt::Key_PageUp);
-    EXPECT_EQ(Steht("Nu"), "1");
+    EXPECT_EQ(InDerAnsicht("Nu"), "1");
     taste("Nu", Qt::Key_PageDown);
-    EXPECT_EQ(Steht("Nu"), "0");
+    EXPECT_EQ(InDerAnsicht("Nu"), "0");
     taste("Plus", Qt::Key_Plus);
-    EXPECT_EQ(Steht("Nu"), "1");
+    EXPECT_EQ(InDerAnsicht("Nu"), "1");
     taste("Minus", Qt::Key_Minus);
-    EXPECT_EQ(Steht("Nu"), "0");
+    EXPECT_EQ(InDerAnsicht("Nu"), "0");
 }
 
 // The number goes up to the count itself, where the blank row after the last one is.
 TEST_F(ListenansichtFormTest, DieNummerBleibtZwischenNullUndDerAnzahl)
 {
     GeburtstageÖffnen();
-    Klick(Teil("Minus"));
+    Klick(Finden(ansicht, "Minus"));
     EXPECT_EQ(Zeile(), "0: Lea Lang, 09.01.1980, 46, ");
     for (int mal = 0; mal < 4; ++mal)
-        Klick(Teil("Plus"));
+        Klick(Finden(ansicht, "Plus"));
     EXPECT_EQ(Zeile(), Leer);
     for (const char *zahl : {"3", "40000", "99999999999"}) {
-        Tippen(Teil("Nu"), zahl);
+        Tippen(Finden(ansicht, "Nu"), zahl);
         EXPECT_EQ(Zeile(), Leer) << zahl;
     }
-    Tippen(Teil("Nu"), "-1");
+    Tippen(Finden(ansicht, "Nu"), "-1");
     EXPECT_EQ(Zeile(), "0: Lea Lang, 09.01.1980, 46, ");
 }
 
 TEST_F(ListenansichtFormTest, WasKeineZahlIstBleibtStehenUndÄndertNichts)
 {
     GeburtstageÖffnen();
-    Klick(Teil("Plus"));
+    Klick(Finden(ansicht, "Plus"));
     auto *nu = Finden<QLineEdit>(ansicht, "Nu");
     for (const auto &[eingabe, zeigt] :
          {std::pair{"x", "x"}, {"", ""}, {"1\n1", "1 1"}, {"😀", "?"}, {"1,x", "1,x"}}) {
-        nu->setText(QString::fromUtf8(eingabe));
+        Einsetzen(nu, eingabe);
         EXPECT_EQ(Zeile(), Text(zeigt) + ": Anna Berg, 20.01.2010, 16, 0254/0");
-        Klick(Teil("Plus"));
-        Klick(Teil("Minus"));
-        EXPECT_EQ(Steht("Nu"), zeigt);
+        Klick(Finden(ansicht, "Plus"));
+        Klick(Finden(ansicht, "Minus"));
+        EXPECT_EQ(InDerAnsicht("Nu"), zeigt);
     }
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
@@ -147,14 +146,14 @@ TEST_F(ListenansichtFormTest, WasKeineZahlIstBleibtStehenUndÄndertNichts)
 TEST_F(ListenansichtFormTest, EineLeereListeZeigtEineLeereZeile)
 {
     Öffnen();
-    Wählen("Mai");
-    Wählen("Viere");
+    Ankreuzen("Mai");
+    Ankreuzen("Viere");
     for (const auto &[knopf, fenster] :
          {std::pair{"AnsichtGeb", "Geburtstagsansicht"}, {"AnsichtJubiMeß", "Jubiläumsanzeige"}}) {
-        Drücken(knopf);
+        Klick(knopf);
         ansicht = Fenster(fenster);
         EXPECT_EQ(Zeile(), "0:  , 21.11.2026, 0, ");
-        EXPECT_EQ(Steht("Datensätze"), "1");
+        EXPECT_EQ(InDerAnsicht("Datensätze"), "1");
         ansicht->close();
     }
 }
@@ -163,7 +162,7 @@ TEST_F(ListenansichtFormTest, NichtsLäßtSichÄndern)
 {
     GeburtstageÖffnen();
     for (const char *feld : {"Name", "Tag", "Jahre", "Telefon"}) {
-        Tippen(Teil(feld), "anders");
+        Tippen(Finden(ansicht, feld), "anders");
         EXPECT_TRUE(Finden<QLineEdit>(ansicht, feld)->isReadOnly());
     }
     EXPECT_EQ(Zeile(), "0: Lea Lang, 09.01.1980, 46, ");
@@ -178,7 +177,7 @@ TEST_F(ListenansichtFormTest, DieFormWartetBisEndeDieAnsichtSchließt)
     GeburtstageÖffnen();
     EXPECT_EQ(QApplication::activeModalWidget(), ansicht);
     EXPECT_TRUE(form->isVisible());
-    Klick(Teil("Ende"));
+    Klick(Finden(ansicht, "Ende"));
     EXPECT_TRUE(Warten([&] { return ansicht.isNull(); }));
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_TRUE(form->isVisible());
@@ -189,7 +188,7 @@ TEST_F(ListenansichtFormTest, DieFormWartetBisEndeDieAnsichtSchließt)
 TEST_F(ListenansichtFormTest, TabFolgtDemAugeUndKeinControlIstStumm)
 {
     GeburtstageÖffnen();
-    FokusAuf(Teil("Nu"));
+    FokusAuf(Finden(ansicht, "Nu"));
     EXPECT_EQ(Tabfolge(ansicht),
               (Liste{"Nu", "Minus", "Plus", "Name", "Tag", "Jahre", "Telefon", "Ende"}));
     EXPECT_EQ(Stumme(ansicht), Liste{});

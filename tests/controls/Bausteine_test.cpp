@@ -72,8 +72,8 @@ TEST_F(BausteineTest, ImRollbarenTeilGehtDasRadAnEinerAuswahlVorbei)
 TEST_F(BausteineTest, NamenUndBeschriftungenKommenMitUmlautenAn)
 {
     EXPECT_EQ(Finden<QPushButton>(&fenster, "Größe"), knopf);
-    EXPECT_EQ(Aufschrift(knopf), "(1) Größe");
-    feld->setText(Anzeige("Meßdiener für Änderung"));
+    EXPECT_EQ(Zeigt(knopf), "(1) Größe");
+    Einsetzen(feld, "Meßdiener für Änderung");
     EXPECT_EQ(TextVon(feld), "Meßdiener für Änderung");
 }
 
@@ -94,7 +94,7 @@ TEST_F(BausteineTest, EineBeschriftungZeigtTextUndKeineAuszeichnung)
 
 TEST_F(BausteineTest, WasDieDateienNichtHaltenWirdSofortFragezeichen)
 {
-    feld->setText(QString::fromUtf8("Łukasz €äß"));
+    Einsetzen(feld, "Łukasz €äß");
     EXPECT_EQ(TextVon(feld), "?ukasz €äß");
     QApplication::clipboard()->setText(QString::fromUtf8("Дом😀x"));
     feld->clear();
@@ -108,17 +108,17 @@ TEST_F(BausteineTest, EinZeilenumbruchWirdEinLeerzeichen)
         feld->clear();
         QApplication::clipboard()->setText(text);
         QTest::keyClick(feld, Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(Aufschrift(feld), "Hoch amt");
+        EXPECT_EQ(Zeigt(feld), "Hoch amt");
         EXPECT_EQ(feld->cursorPosition(), 8);
     }
-    feld->setText("\n\n");
-    EXPECT_EQ(Aufschrift(feld), "  ");
+    Einsetzen(feld, "\n\n");
+    EXPECT_EQ(Zeigt(feld), "  ");
 }
 
 TEST_F(BausteineTest, DerCursorBleibtHinterDemFragezeichen)
 {
     for (const char *fremd : {"Ł", "😀"}) {
-        feld->setText("abcd");
+        Einsetzen(feld, "abcd");
         feld->setCursorPosition(2);
         feld->insert(QString::fromUtf8(fremd));
         EXPECT_EQ(TextVon(feld), "ab?cd") << fremd;
@@ -130,7 +130,7 @@ TEST_F(BausteineTest, DerÄnderungshandlerSiehtZuletztDasFragezeichen)
 {
     Text gesehen;
     QObject::connect(feld, &QLineEdit::textChanged, feld, [&] { gesehen = TextVon(feld); });
-    feld->setText(QString::fromUtf8("Ł"));
+    Einsetzen(feld, "Ł");
     EXPECT_EQ(gesehen, "?");
 }
 

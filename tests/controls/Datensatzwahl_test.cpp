@@ -16,7 +16,7 @@ class DatensatzwahlTest : public Fensterstand {
         spalte->addWidget(anderes);
         spalte->addWidget(wahl);
         wahl->BeiSchritt([this](int richtung) { ereignisse += richtung > 0 ? "+" : "-"; });
-        wahl->BeiWechsel([this] { ereignisse += "[" + Aufschrift(wahl->Nummer) + "]"; });
+        wahl->BeiWechsel([this] { ereignisse += "[" + Zeigt(wahl->Nummer) + "]"; });
         Zeigen(&fenster);
         FokusAuf(anderes);
     }
@@ -50,17 +50,17 @@ TEST_F(DatensatzwahlTest, BildAufUndBildAbBewegenImGanzenFenster)
 TEST_F(DatensatzwahlTest, JedeÄnderungDerNummerIstEinWechsel)
 {
     Tippen(wahl->Nummer, "12");
-    wahl->Nummer->setText("12");
-    wahl->Nummer->setText("7");
+    Einsetzen(wahl->Nummer, "12");
+    Einsetzen(wahl->Nummer, "7");
     EXPECT_EQ(ereignisse, "[1][12][7]");
 }
 
 TEST_F(DatensatzwahlTest, DieTastenDerBildrichtungÄndernKeinenText)
 {
-    anderes->setText("5");
+    Einsetzen(anderes, "5");
     FokusAuf(anderes);
     QTest::keyClick(anderes, Qt::Key_PageUp);
-    EXPECT_EQ(Aufschrift(anderes), "5");
+    EXPECT_EQ(Zeigt(anderes), "5");
 }
 
 TEST_F(DatensatzwahlTest, TabFolgtDemAugeUndJedesControlSpricht)

@@ -13,9 +13,9 @@ class TerminboxTest : public Fensterstand {
 
     Text Nach(const char *anfang, const std::function<void()> &schritt) const
     {
-        feld->setText(anfang);
+        Einsetzen(feld, anfang);
         schritt();
-        return Aufschrift(feld);
+        return Zeigt(feld);
     }
 
     QLineEdit *feld = Textfeld("Feld");
@@ -53,13 +53,13 @@ TEST_F(TerminboxTest, DieFormDerLandessprache)
 TEST_F(TerminboxTest, WasKeinTerminIstIstFehler13UndBleibtStehen)
 {
     for (const char *text : {"", "abc", "31.02.2027", "25:61", "40000", "-1"}) {
-        feld->setText(text);
+        Einsetzen(feld, text);
         EXPECT_EQ(NummerDesFehlers([&] { TageWeiter(feld, 1); }), 13) << text;
         EXPECT_EQ(NummerDesFehlers([&] { MonateWeiter(feld, 1); }), 13) << text;
         EXPECT_EQ(NummerDesFehlers([&] { StundenWeiter(feld, 1); }), 13) << text;
         EXPECT_EQ(NummerDesFehlers([&] { AlsKurzesDatum(feld); }), 13) << text;
         EXPECT_EQ(NummerDesFehlers([&] { AlsLangeZeit(feld); }), 13) << text;
-        EXPECT_EQ(Aufschrift(feld), text);
+        EXPECT_EQ(Zeigt(feld), text);
     }
     EXPECT_EQ(
         Nach("31.12.9999", [&] { EXPECT_EQ(NummerDesFehlers([&] { TageWeiter(feld, 1); }), 6); }),
@@ -70,14 +70,14 @@ TEST_F(TerminboxTest, InDerMitteLässtSichWeitertippenObwohlDasFeldUmgeschrieben
 {
     QObject::connect(feld, &QLineEdit::textChanged, feld,
                      Abgefangen([this] { AlsLangeZeit(feld); }));
-    feld->setText("08:30:00");
+    Einsetzen(feld, "08:30:00");
     feld->setSelection(0, 2);
     QTest::keyClicks(feld, "11");
-    EXPECT_EQ(Aufschrift(feld), "11:30:00");
+    EXPECT_EQ(Zeigt(feld), "11:30:00");
     EXPECT_EQ(feld->cursorPosition(), 2);
     feld->setSelection(3, 2);
     QTest::keyClicks(feld, "45");
-    EXPECT_EQ(Aufschrift(feld), "11:45:00");
+    EXPECT_EQ(Zeigt(feld), "11:45:00");
     EXPECT_EQ(feld->cursorPosition(), 5);
 }
 

@@ -82,7 +82,7 @@ TEST_F(VerlassenTest, EineMeldungDieAnderswoHerkommtVerläßtKeineBox)
 
 TEST_F(VerlassenTest, EinGescheitertesSpeichernVerläßtNichtWasDenFokusHatte)
 {
-    feld->setText("x");
+    Einsetzen(feld, "x");
     FokusAuf(wahl);
     verlassen.clear();
     EXPECT_EQ(NummerDesFehlers([this] { LesenOderFokus(feld, Int16Lesen); }), 13);

@@ -23,7 +23,7 @@ class ZahlboxTest : public Fensterstand {
 
 TEST_F(ZahlboxTest, BeginntLeerUndHatSprechendeNamen)
 {
-    EXPECT_EQ(Aufschrift(box.Feld), "");
+    EXPECT_EQ(Zeigt(box.Feld), "");
     EXPECT_EQ(Finden<QLineEdit>(&fenster, "Dienster2"), box.Feld);
     EXPECT_EQ(Finden<SpinButton>(&fenster, "Ä3"), box.Spin);
     EXPECT_EQ(box.Feld->accessibleName(), "Leuchter");
@@ -42,7 +42,7 @@ TEST_F(ZahlboxTest, LiestGanzeZahlen)
                                      {"3,5", 4},
                                      {"32767", 32767},
                                      {"-32768", -32768}}) {
-        box.Feld->setText(text);
+        Einsetzen(box.Feld, text);
         EXPECT_EQ(ZahlIn(box.Feld), zahl) << text;
     }
 }
@@ -56,7 +56,7 @@ TEST_F(ZahlboxTest, WasKeineZahlIstIstFehler13ZuGroßesFehler6)
                                        {"25:61", 13},
                                        {"40000", 6},
                                        {"-32769", 6}}) {
-        box.Feld->setText(text);
+        Einsetzen(box.Feld, text);
         EXPECT_EQ(NummerDesFehlers([&] { ZahlIn(box.Feld); }), fehler) << text;
     }
 }
@@ -73,24 +73,24 @@ TEST_F(ZahlboxTest, BegrenzenSchneidetAnBeidenEndenSoGroßDieZahlAuchIst)
                                      {"40000", 8},
                                      {"-40000", 0},
                                      {"999999999999", 8}}) {
-        box.Feld->setText(text);
+        Einsetzen(box.Feld, text);
         EXPECT_EQ(Begrenzen(box.Feld, 0, 8), zahl) << text;
-        EXPECT_EQ(Aufschrift(box.Feld), std::to_string(zahl)) << text;
+        EXPECT_EQ(Zeigt(box.Feld), std::to_string(zahl)) << text;
     }
 }
 
 TEST_F(ZahlboxTest, BegrenzenLässtStehenWasInDenGrenzenIst)
 {
     for (const char *text : {"3", " 3", "03", "2,5"}) {
-        box.Feld->setText(text);
+        Einsetzen(box.Feld, text);
         änderungen = 0;
         Begrenzen(box.Feld, 0, 8);
-        EXPECT_EQ(Aufschrift(box.Feld), text);
+        EXPECT_EQ(Zeigt(box.Feld), text);
         EXPECT_EQ(änderungen, 0);
     }
-    box.Feld->setText("abc");
+    Einsetzen(box.Feld, "abc");
     EXPECT_EQ(NummerDesFehlers([&] { Begrenzen(box.Feld, 0, 8); }), 13);
-    EXPECT_EQ(Aufschrift(box.Feld), "abc");
+    EXPECT_EQ(Zeigt(box.Feld), "abc");
 }
 
 TEST_F(ZahlboxTest, DrehenGehtUmEins)
@@ -98,13 +98,13 @@ TEST_F(ZahlboxTest, DrehenGehtUmEins)
     DrehenVerbinden(box);
     ZahlSetzen(box.Feld, 0);
     Klick(Finden(box.Spin, "auf"));
-    EXPECT_EQ(Aufschrift(box.Feld), "1");
+    EXPECT_EQ(Zeigt(box.Feld), "1");
     Klick(Finden(box.Spin, "ab"));
     Klick(Finden(box.Spin, "ab"));
-    EXPECT_EQ(Aufschrift(box.Feld), "-1"); // limits are up to the change rule
+    EXPECT_EQ(Zeigt(box.Feld), "-1"); // limits are up to the change rule
     FokusAuf(box.Spin);
     QTest::keyClick(box.Spin, Qt::Key_Up);
-    EXPECT_EQ(Aufschrift(box.Feld), "0");
+    EXPECT_EQ(Zeigt(box.Feld), "0");
     EXPECT_EQ(änderungen, 5);
 }
 
@@ -116,11 +116,11 @@ TEST_F(ZahlboxTest, DrehenZähltWeiterWasAuchDasteht)
                                         {" 7 ", "8", "7"},
                                         {"32767", "32768", "32767"},
                                         {"-40000", "-39999", "-40000"}}) {
-        box.Feld->setText(text);
+        Einsetzen(box.Feld, text);
         Klick(Finden(box.Spin, "auf"));
-        EXPECT_EQ(Aufschrift(box.Feld), auf) << text;
+        EXPECT_EQ(Zeigt(box.Feld), auf) << text;
         Klick(Finden(box.Spin, "ab"));
-        EXPECT_EQ(Aufschrift(box.Feld), ab) << text;
+        EXPECT_EQ(Zeigt(box.Feld), ab) << text;
     }
 }
 
@@ -128,9 +128,9 @@ TEST_F(ZahlboxTest, DrehenLässtStehenWasKeineZahlIst)
 {
     DrehenVerbinden(box);
     for (const char *text : {"", "abc"}) {
-        box.Feld->setText(text);
+        Einsetzen(box.Feld, text);
         Klick(Finden(box.Spin, "auf"));
-        EXPECT_EQ(Aufschrift(box.Feld), text);
+        EXPECT_EQ(Zeigt(box.Feld), text);
     }
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
 }
@@ -143,14 +143,14 @@ TEST_F(ZahlboxTest, ZahlenSchreibenEndetVorDemErstenFeldOhneZahl)
     Messe.Leuchter[4] = 1;
     Messe.Flambeau[4] = 6;
     ZahlenZeigen(felder, spalten, 4);
-    EXPECT_EQ(Aufschrift(box.Feld), "1");
-    EXPECT_EQ(Aufschrift(zweite.Feld), "6");
-    box.Feld->setText("2");
-    zweite.Feld->setText("x");
+    EXPECT_EQ(Zeigt(box.Feld), "1");
+    EXPECT_EQ(Zeigt(zweite.Feld), "6");
+    Einsetzen(box.Feld, "2");
+    Einsetzen(zweite.Feld, "x");
     EXPECT_EQ(NummerDesFehlers([&] { ZahlenSchreiben(felder, spalten, 4); }), 13);
     EXPECT_EQ(Messe.Leuchter[4], 2);
     EXPECT_EQ(Messe.Flambeau[4], 6);
-    box.Feld->setText("x");
+    Einsetzen(box.Feld, "x");
     FokusAuf(box.Spin);
     EXPECT_EQ(NummerDesFehlers([&] { ZahlenSchreiben(felder, spalten, 4); }), 13);
     EXPECT_TRUE(box.Feld->hasFocus());

@@ -27,8 +27,6 @@ class Blätterstand : public Zuordnungsstand {
         MesseDienerFest.Anzahl = anzahl;
     }
 
-    void Taste(Qt::Key taste) const { QTest::keyClick(QApplication::focusWidget(), taste); }
-
     /// The number, the entry on the screen, and whether the table's cursor is there.
     Text Wo() const
     {

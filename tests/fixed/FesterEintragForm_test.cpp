@@ -51,9 +51,9 @@ class FesterEintragFormTest : public Zuordnungsstand {
         if (dialog)
             Dialog(dialog);
     }
-    void Wählen(const char *eintrag, const char *dialog)
+    void MenüWählen(const char *eintrag, const char *dialog)
     {
-        Finden<QAction>(haupt, eintrag)->trigger();
+        altardienst::MenüWählen(haupt, eintrag);
         Dialog(dialog);
     }
     using Zuordnungsstand::Wählen;
@@ -84,7 +84,7 @@ class FesterEintragFormTest : public Zuordnungsstand {
         MesseWählen("22.11.2026,10:00:00,Hochamt");
         Wählen(1, "Abel,Kim");
         Wählen(3, "Tarzisius,Gruppe");
-        Drücken("Anfügen");
+        Klick("Anfügen");
         Schließen();
         ASSERT_EQ(MesseDienerFest.Anzahl, 1);
     }
@@ -121,10 +121,10 @@ class FesterEintragFormTest : public Zuordnungsstand {
 
     void ErwarteAlsText()
     {
-        Wählen("mnuMessenlisteText", "Dialog");
+        MenüWählen("mnuMessenlisteText", "Dialog");
         auto *dialog = static_cast<DialogForm *>(form.data());
         dialog->Wahl.Öffnen(Festplatte);
-        dialog->Dateiname->setText("Plan");
+        Einsetzen(dialog->Dateiname, "Plan");
         Klick(dialog->OKButton);
         const Text plan = DateiLesen(Festplatte / "Plan.txt");
         EXPECT_NE(plan.find("\r\nLeuchter: Kim Abel, " + Slot(0, 2) + "\r\n"), Text::npos) << plan;
@@ -172,11 +172,11 @@ TEST_F(FesterEintragFormTest, FolgtSeinerMesseAufEinenAnderenTag)
     MessenBestimmen();
     Festlegen();
     Schritt(6, "Messenliste");
-    Drücken("pt");
-    Eingeben("Uhrwerk", "11:30");
+    Klick("pt");
+    Einsetzen("Uhrwerk", "11:30");
     Schließen();
     EXPECT_EQ(Termin(0), "23.11.2026,11:30:00");
-    Wählen("MnuMESSDIENZUMESS", "MesseDienerFest");
+    MenüWählen("MnuMESSDIENZUMESS", "MesseDienerFest");
     EXPECT_EQ(Messentext(), "23.11.2026,11:30:00");
     EXPECT_EQ(Zeilen(), 4);
     EXPECT_EQ(Gewählt(1), "Abel,Kim");
@@ -189,12 +189,12 @@ TEST_F(FesterEintragFormTest, FolgtDemNeuenNamenSeinesMeßdieners)
 {
     MessenBestimmen();
     Festlegen();
-    Wählen("mnuMeßdiener", "Meßdiener");
-    Eingeben("Vornamen", "Ada");
-    Drücken("Ende");
+    MenüWählen("mnuMeßdiener", "Meßdiener");
+    Einsetzen("Vornamen", "Ada");
+    Klick("Ende");
     ASSERT_TRUE(Warten([&] { return !form; }));
     EXPECT_EQ(Gespeichert(0, 1), "Ada|Abel");
-    Wählen("MnuMESSDIENZUMESS", "MesseDienerFest");
+    MenüWählen("MnuMESSDIENZUMESS", "MesseDienerFest");
     EXPECT_EQ(Gewählt(1), "Abel,Ada");
     knopf = "OKbutton";
     Wählen(2, "Bauer,Kim");
@@ -214,7 +214,7 @@ TEST_F(FesterEintragFormTest, EinNeuerPlanHatKeineFestenEinträge)
     MessenBestimmen();
     EXPECT_EQ(MesseDienerFest.Anzahl, 0);
     EXPECT_EQ(Gespeichert(0, 1), "|");
-    Wählen("MnuMESSDIENZUMESS", "MesseDienerFest");
+    MenüWählen("MnuMESSDIENZUMESS", "MesseDienerFest");
     EXPECT_EQ(Zeigt("MaxIndex"), "0");
     EXPECT_EQ(Zeigt("Index"), "0");
     EXPECT_EQ(Gewählt(1), "");

@@ -11,8 +11,8 @@ TEST_F(MesseDienerFestFormBlätternTest, KnöpfeUndTastenGehenHinUndHer)
     Öffnen();
     EXPECT_EQ(Wo(), Null);
     for (const bool mitTaste : {false, true}) {
-        const auto plus = [&] { mitTaste ? Taste(Qt::Key_PageUp) : Drücken("Plus"); };
-        const auto minus = [&] { mitTaste ? Taste(Qt::Key_PageDown) : Drücken("Minus"); };
+        const auto plus = [&] { mitTaste ? Taste(Qt::Key_PageUp) : Klick("Plus"); };
+        const auto minus = [&] { mitTaste ? Taste(Qt::Key_PageDown) : Klick("Minus"); };
         for (const Text &wo : {Eins, Zwei, Leer, Leer}) {
             plus();
             EXPECT_EQ(Wo(), wo);
@@ -32,12 +32,12 @@ TEST_F(MesseDienerFestFormBlätternTest, JederSchrittSchreibtDenSchirmInDenEintr
 {
     Öffnen(1);
     for (const char *wie : {"Plus", "Minus", "auf", "ab"}) {
-        Eingeben("Index", "1");
+        Einsetzen("Index", "1");
         MesseWählen("23.11.2026,08:00:00");
         Wählen(1, "Dahl,Kim");
         Wählen(20, "Zoller,Kim");
         if (Text(wie) == "Plus" || Text(wie) == "Minus")
-            Drücken(wie);
+            Klick(wie);
         else
             Drehen("DatensatzWechsel", wie);
         EXPECT_EQ(Termin(1), "23.11.2026,08:00:00") << wie;
@@ -55,12 +55,12 @@ TEST_F(MesseDienerFestFormBlätternTest, EineTasteVerläßtZuerstDieBoxInDerGesc
 {
     Öffnen();
     FokusAuf(MDiener(2));
-    Setzen(2, "Dahl,Kim");
+    Einsetzen(2, "Dahl,Kim");
     Taste(Qt::Key_PageUp);
     EXPECT_EQ(Gespeichert(0, 2), "Kim|Dahl");
     EXPECT_EQ(Wo(), Eins);
     FokusAuf(MDiener(2));
-    Setzen(2, "Niemand,Nina");
+    Einsetzen(2, "Niemand,Nina");
     Taste(Qt::Key_PageDown);
     EXPECT_EQ(GezeigteMeldungen, Liste{Fehleingabe});
     EXPECT_EQ(Gespeichert(1, 2), "|");
@@ -70,8 +70,8 @@ TEST_F(MesseDienerFestFormBlätternTest, EineTasteVerläßtZuerstDieBoxInDerGesc
 TEST_F(MesseDienerFestFormBlätternTest, EineTasteVerläßtAuchDieMesseZuerst)
 {
     Öffnen();
-    FokusAuf(Kombo("Messen"));
-    MesseSetzen("24.11.2026,08:00:00");
+    FokusAuf("Messen");
+    MesseEinsetzen("24.11.2026,08:00:00");
     Taste(Qt::Key_PageUp);
     EXPECT_EQ(Termin(0), "24.11.2026,08:00:00");
     EXPECT_EQ(Wo(), Eins);
@@ -84,12 +84,12 @@ TEST_F(MesseDienerFestFormBlätternTest, EineTasteNimmtDasGetippteDatumUndDieUhr
         for (const auto &[taste, wo] :
              {std::pair(Qt::Key_PageUp, Zwei), {Qt::Key_PageDown, Null}}) {
             Öffnen(1);
-            FokusAuf(Finden(form, feld));
-            Eingeben(feld, text);
+            FokusAuf(feld);
+            Einsetzen(feld, text);
             Taste(taste);
             EXPECT_EQ(Termin(1), termin);
             EXPECT_EQ(Wo(), wo);
-            EXPECT_TRUE(Finden(form, "Index")->hasFocus());
+            EXPECT_TRUE(Finden("Index")->hasFocus());
             form->close();
             EXPECT_TRUE(Warten([&] { return !form; }));
         }
@@ -101,12 +101,12 @@ TEST_F(MesseDienerFestFormBlätternTest, EinSchlechtesDatumHältDieTasteAnUndBle
     Öffnen(1);
     for (const char *feld : {"DatumD", "Zeitd"}) {
         const Text vorher = Zeigt(feld);
-        FokusAuf(Finden(form, feld));
-        Eingeben(feld, "abc");
+        FokusAuf(feld);
+        Einsetzen(feld, "abc");
         Taste(Qt::Key_PageUp);
         EXPECT_EQ(Zeigt(feld), "abc");
         EXPECT_EQ(Zeigt("Index"), "1");
-        Eingeben(feld, vorher.c_str());
+        Einsetzen(feld, vorher);
     }
     EXPECT_EQ(Termin(1), "22.11.2026,18:00:00");
 }
@@ -114,17 +114,17 @@ TEST_F(MesseDienerFestFormBlätternTest, EinSchlechtesDatumHältDieTasteAnUndBle
 TEST_F(MesseDienerFestFormBlätternTest, DerLeereEintragBekommtHeuteSobaldErVerlassenWird)
 {
     Öffnen(2);
-    Drücken("Plus");
-    Drücken("Minus");
+    Klick("Plus");
+    Klick("Minus");
     EXPECT_EQ(Termin(3), "21.11.2026,00:00:00");
     EXPECT_EQ(MesseDienerFest.Anzahl, 3);
     for (const char *wie : {"Plus", "Minus", "auf", "ab"}) {
         MesseDienerFest.Datum[3] = 0;
-        Eingeben("Index", "2");
-        Eingeben("Index", "3");
+        Einsetzen("Index", "2");
+        Einsetzen("Index", "3");
         EXPECT_EQ(Zeigt("DatumD"), "00:00:00"); // not before it is written
         if (Text(wie) == "Plus" || Text(wie) == "Minus")
-            Drücken(wie);
+            Klick(wie);
         else
             Drehen("DatensatzWechsel", wie);
         EXPECT_EQ(Termin(3), "21.11.2026,00:00:00") << wie;
@@ -146,7 +146,7 @@ TEST_F(MesseDienerFestFormBlätternTest, NachDemDrehenStehtDieMesseDesVerlassene
     EXPECT_EQ(Wo(), Null);
     Drehen("DatensatzWechsel", "ab"); // the change of the number stores it
     EXPECT_EQ(Wo(), Null);
-    Eingeben("Index", "3");
+    Einsetzen("Index", "3");
     Drehen("DatensatzWechsel", "auf");
     EXPECT_EQ(Wo().substr(0, 2), "3:");
 }
@@ -164,9 +164,9 @@ TEST_F(MesseDienerFestFormBlätternTest, DerZwanzigsteSlotHoltBeimDrehenDenAlten
     Drehen("DatensatzWechsel", "auf");
     EXPECT_EQ(Gewählt(20), "Abel,Kim");
     EXPECT_EQ(AmUm(), "22.11.2026,08:00:00");
-    Eingeben("Index", "0");
+    Einsetzen("Index", "0");
     Fest(1, 2);
-    Drücken("Plus"); // brings the mass in line first
+    Klick("Plus"); // brings the mass in line first
     EXPECT_EQ(Gewählt(20), "Abel,Kim");
     EXPECT_EQ(AmUm(), "23.11.2026,08:00:00");
 }
@@ -174,20 +174,20 @@ TEST_F(MesseDienerFestFormBlätternTest, DerZwanzigsteSlotHoltBeimDrehenDenAlten
 TEST_F(MesseDienerFestFormBlätternTest, EinSchlechterTerminHältJedeBewegungStillAn)
 {
     Öffnen(1);
-    FokusAuf(Finden(form, "Index"));
+    FokusAuf("Index");
     for (const char *feld : {"DatumD", "Zeitd"}) {
         const Text vorher = Zeigt(feld);
-        Eingeben(feld, "abc");
+        Einsetzen(feld, "abc");
         Taste(Qt::Key_PageUp);
         Taste(Qt::Key_PageDown);
-        Drücken("Plus");
+        Klick("Plus");
         Drehen("DatensatzWechsel", "ab");
-        Eingeben("Index", "0");
+        Einsetzen("Index", "0");
         EXPECT_EQ(MesseDienerFest.Cursor, 1);
         EXPECT_EQ(Gewählt(1), "Bauer,Kim");
         EXPECT_EQ(Termin(1), "22.11.2026,18:00:00");
-        Eingeben(feld, vorher.c_str());
-        Eingeben("Index", "1");
+        Einsetzen(feld, vorher);
+        Einsetzen("Index", "1");
     }
     EXPECT_EQ(GezeigteMeldungen, Liste{});
 }

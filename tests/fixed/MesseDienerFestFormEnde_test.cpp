@@ -31,18 +31,18 @@ class MesseDienerFestFormEndeTest : public Zuordnungsstand {
     {
         Fest(0, 0, {"Abel", "Bauer"});
         Fest(1, 1, {"Conrad"});
-        Wählen("MnuMESSDIENZUMESS");
+        MenüWählen("MnuMESSDIENZUMESS");
         form = Fenster("MesseDienerFest");
         Zeigen(form);
     }
 
-    void Wählen(const char *eintrag) const { Finden<QAction>(haupt, eintrag)->trigger(); }
+    void MenüWählen(const char *eintrag) const { altardienst::MenüWählen(haupt, eintrag); }
     using Zuordnungsstand::Wählen;
 
     void HinzuUndZurück(const std::function<void()> &dabei = [] {})
     {
         liste = form;
-        Drücken("Hinzu");
+        Klick("Hinzu");
         form = Fenster("NeuMesseDienerFest");
         Zeigen(form);
         EXPECT_FALSE(liste->isEnabled());
@@ -84,7 +84,7 @@ TEST_F(MesseDienerFestFormEndeTest, OkUndSchließenSpeichernUndFragen)
             MesseWählen("22.11.2026,10:00:00,Hochamt");
             Wählen(1, "Dahl,Kim");
             if (mitKnopf)
-                Drücken("OKbutton");
+                Klick("OKbutton");
             else
                 form->close();
             EXPECT_EQ(GezeigteMeldungen, Liste{Übertragen});
@@ -107,9 +107,9 @@ TEST_F(MesseDienerFestFormEndeTest, DieFrageSelbst)
         EXPECT_EQ(box->windowTitle().toStdString(), "Meßdiener zu Messen");
         EXPECT_EQ(box->text().toStdString(), "Übertragen in die Messenliste?");
         EXPECT_EQ(box->standardButtons(), QMessageBox::Yes | QMessageBox::No);
-        box->button(QMessageBox::Yes)->click();
+        Auslösen(box->button(QMessageBox::Yes));
     });
-    Drücken("OKbutton");
+    Klick("OKbutton");
     EXPECT_EQ(Slot(0, 1), "Kim Abel");
     EXPECT_EQ(Slot(1, 1), "Kim Conrad");
 }
@@ -117,11 +117,11 @@ TEST_F(MesseDienerFestFormEndeTest, DieFrageSelbst)
 TEST_F(MesseDienerFestFormEndeTest, OkNimmtAllesAusDenWahlfeldern)
 {
     Öffnen();
-    FokusAuf(Finden(form, "OKbutton"));
-    MesseSetzen("23.11.2026,08:00:00,");
-    Setzen(1, "Dahl,Kim");
-    Eingeben("MDV2", "von Hand");
-    Drücken("OKbutton");
+    FokusAuf("OKbutton");
+    MesseEinsetzen("23.11.2026,08:00:00,");
+    Einsetzen(1, "Dahl,Kim");
+    Einsetzen("MDV2", "von Hand");
+    Klick("OKbutton");
     EXPECT_EQ(Termin(0), "23.11.2026,08:00:00");
     EXPECT_EQ(Gespeichert(0, 1), "Kim|Dahl");
     EXPECT_EQ(Gespeichert(0, 2), "Kim|Bauer");
@@ -133,7 +133,7 @@ TEST_F(MesseDienerFestFormEndeTest, OkAufDemLeerenEintragFülltIhnAberZähltIhnN
     ListeÖffnen();
     MesseWählen("22.11.2026,10:00:00,Hochamt");
     Wählen(1, "Abel,Kim");
-    Drücken("OKbutton");
+    Klick("OKbutton");
     EXPECT_EQ(Termin(0), "22.11.2026,10:00:00");
     EXPECT_EQ(Gespeichert(0, 1), "Kim|Abel");
     EXPECT_EQ(MesseDienerFest.Anzahl, 0);
@@ -143,15 +143,15 @@ TEST_F(MesseDienerFestFormEndeTest, DieBoxInDerGeschriebenWirdWirdZuerstVerlasse
 {
     Öffnen();
     FokusAuf(MDiener(1));
-    Setzen(1, "Niemand,Nina");
+    Einsetzen(1, "Niemand,Nina");
     form->close();
     EXPECT_EQ(GezeigteMeldungen, (Liste{Fehleingabe, Übertragen}));
     EXPECT_EQ(Gespeichert(0, 1), "Kim|Abel");
     EXPECT_TRUE(Warten([&] { return !form; }));
     GezeigteMeldungen.clear();
     Öffnen();
-    FokusAuf(Kombo("Messen"));
-    MesseSetzen("Christmette");
+    FokusAuf("Messen");
+    MesseEinsetzen("Christmette");
     form->close();
     EXPECT_EQ(GezeigteMeldungen, (Liste{Unbekannt, Übertragen}));
     EXPECT_EQ(Termin(0), "22.11.2026,10:00:00");
@@ -160,9 +160,9 @@ TEST_F(MesseDienerFestFormEndeTest, DieBoxInDerGeschriebenWirdWirdZuerstVerlasse
 TEST_F(MesseDienerFestFormEndeTest, WasSichNichtSpeichernLäßtHältOkAufAberNichtDasFenster)
 {
     Öffnen();
-    FokusAuf(Finden(form, "OKbutton"));
-    MesseSetzen("Christmette");
-    Drücken("OKbutton");
+    FokusAuf("OKbutton");
+    MesseEinsetzen("Christmette");
+    Klick("OKbutton");
     EXPECT_TRUE(form->isVisible());
     EXPECT_EQ(GezeigteMeldungen, Liste{});
     EXPECT_FALSE(haupt->isEnabled());
@@ -175,8 +175,8 @@ TEST_F(MesseDienerFestFormEndeTest, WasSichNichtSpeichernLäßtHältOkAufAberNic
 TEST_F(MesseDienerFestFormEndeTest, DerCursorBleibt)
 {
     Öffnen();
-    Drücken("Plus");
-    Drücken("OKbutton");
+    Klick("Plus");
+    Klick("OKbutton");
     EXPECT_EQ(MesseDienerFest.Cursor, 1);
     EXPECT_TRUE(Warten([&] { return !form; }));
     Öffnen();
@@ -187,11 +187,11 @@ TEST_F(MesseDienerFestFormEndeTest, DerCursorBleibt)
 TEST_F(MesseDienerFestFormEndeTest, HinzuKommtMitDemNeuenEintragZurück)
 {
     Öffnen();
-    Drücken("Plus");
+    Klick("Plus");
     HinzuUndZurück([&] {
         MesseWählen("23.11.2026,08:00:00,");
         Wählen(1, "Zoller,Kim");
-        Drücken("Anfügen");
+        Klick("Anfügen");
     });
     EXPECT_EQ(GezeigteMeldungen, Liste{Übertragen});
     EXPECT_TRUE(form->isEnabled());
@@ -200,7 +200,7 @@ TEST_F(MesseDienerFestFormEndeTest, HinzuKommtMitDemNeuenEintragZurück)
     EXPECT_TRUE(FesteZuordnungOffen);
     EXPECT_EQ(Zeigt("MaxIndex"), "3");
     EXPECT_EQ(Zeigt("Index"), "1");
-    Drücken("Plus");
+    Klick("Plus");
     EXPECT_EQ(Gewählt(1), "Zoller,Kim");
     EXPECT_EQ(Zeilen(), 20);
 }
@@ -220,12 +220,12 @@ TEST_F(MesseDienerFestFormEndeTest, EsGibtDieListeNurEinmal)
 {
     Öffnen();
     HinzuUndZurück(); // which also enables the main window
-    Wählen("MnuMESSDIENZUMESS");
+    MenüWählen("MnuMESSDIENZUMESS");
     EXPECT_EQ(Fenster("MesseDienerFest"), form);
     EXPECT_EQ(haupt->isEnabled(), false);
-    Drücken("Hinzu");
+    Klick("Hinzu");
     EXPECT_FALSE(form->isEnabled());
-    Wählen("MnuMESSDIENZUMESS");
+    MenüWählen("MnuMESSDIENZUMESS");
     EXPECT_TRUE(form->isEnabled());
     EXPECT_FALSE(form->isMinimized());
     int zahl = 0;
@@ -311,7 +311,7 @@ TEST_F(MesseDienerFestFormEndeTest, ZurückAusEinerAnderenFormZeigtSieDenEintrag
     MesseDienerFest.Anzahl = 0;
     Zeigen(andere);
     FesteZuordnungOffen = false;
-    Eingeben("Index", "1");
+    Einsetzen("Index", "1");
     Zeigen(form);
     EXPECT_EQ(Zeigt("Index"), "0");
     EXPECT_TRUE(FesteZuordnungOffen);
@@ -325,7 +325,7 @@ TEST_F(MesseDienerFestFormEndeTest, ZurückAusEinerAnderenFormBleibenDieListenWi
 {
     Öffnen();
     const int namen = MDiener(1)->count();
-    const int messen = Kombo("Messen")->count();
+    const int messen = Finden<QComboBox>("Messen")->count();
     auto *andere = new QWidget;
     Zeigen(andere);
     MeßdienerAnlegen("Ada", "Abel");
@@ -334,7 +334,7 @@ TEST_F(MesseDienerFestFormEndeTest, ZurückAusEinerAnderenFormBleibenDieListenWi
     Zeigen(form);
     EXPECT_EQ(Zeilen(), 7); // the form has noticed that it came back
     EXPECT_EQ(MDiener(1)->count(), namen);
-    EXPECT_EQ(Kombo("Messen")->count(), messen);
+    EXPECT_EQ(Finden<QComboBox>("Messen")->count(), messen);
 }
 
 TEST_F(MesseDienerFestFormEndeTest, EineMeldungIstKeineAndereForm)
@@ -343,7 +343,7 @@ TEST_F(MesseDienerFestFormEndeTest, EineMeldungIstKeineAndereForm)
     Öffnen();
     Wählen(1, "Dahl,Kim");
     FokusAuf(MDiener(2));
-    Setzen(2, "Niemand,Nina");
+    Einsetzen(2, "Niemand,Nina");
     Beantworten([&](QMessageBox *box) { box->accept(); });
     QTest::keyClick(MDiener(2), Qt::Key_Tab);
     Zeigen(form);
@@ -359,13 +359,13 @@ TEST_F(MesseDienerFestFormEndeTest, NachEinemSortierenSuchtSieNurSoWeitWieDieses
     MesseWählen("24.11.2026,08:00:00,Taufe, klein");
     EXPECT_EQ(GezeigteMeldungen, Liste{Übertragen});
     MesseWählen("22.11.2026,10:00:00,Hochamt");
-    Wählen("mnuGruppensort"); // one pass for two groups
+    MenüWählen("mnuGruppensort"); // one pass for two groups
     for (const char *text : {"22.11.2026,10:00:00,Hochamt", "22.11.2026,18:00:00"})
         MesseWählen(text);
     EXPECT_EQ(GezeigteMeldungen, Liste{Übertragen});
     MesseWählen("23.11.2026,08:00:00,");
     EXPECT_EQ(GezeigteMeldungen, (Liste{Übertragen, Unbekannt}));
-    Wählen("DruckML");
+    MenüWählen("DruckML");
     MesseWählen("23.11.2026,08:00:00,");
     EXPECT_EQ(GezeigteMeldungen.size(), 2U);
 }

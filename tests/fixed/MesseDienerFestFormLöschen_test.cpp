@@ -9,7 +9,7 @@ class MesseDienerFestFormLöschenTest : public Blätterstand {};
 TEST_F(MesseDienerFestFormLöschenTest, LöschenFragtUndNeinÄndertNichts)
 {
     Öffnen(1);
-    Drücken("Löschen");
+    Klick("Löschen");
     ASSERT_EQ(GestellteFragen.size(), 1U);
     EXPECT_EQ(GestellteFragen[0].Titel, "Löschen der Zuordnung Meßdiener Messe");
     EXPECT_EQ(GestellteFragen[0].Wortlaut, "Wirklich?");
@@ -21,7 +21,7 @@ TEST_F(MesseDienerFestFormLöschenTest, LöschenZeigtDenNachrückendenEintrag)
 {
     Öffnen(1);
     Antworten = {true};
-    Drücken("Löschen");
+    Klick("Löschen");
     EXPECT_EQ(MesseDienerFest.Anzahl, 2);
     EXPECT_EQ(Zeigt("MaxIndex"), "2");
     EXPECT_EQ(Wo(), "1: 24.11.2026,08:00:00 Conrad,Kim 3");
@@ -33,7 +33,7 @@ TEST_F(MesseDienerFestFormLöschenTest, LöschenAufDemLeerenEintragGehtZurückAu
 {
     Öffnen(3);
     Antworten = {true};
-    Drücken("Löschen");
+    Klick("Löschen");
     EXPECT_EQ(MesseDienerFest.Anzahl, 2);
     EXPECT_EQ(Wo(), Zwei); // after the last one now, but still there
 }
@@ -42,12 +42,12 @@ TEST_F(MesseDienerFestFormLöschenTest, LöschenAufDemLeerenEintragGehtZurückAu
 TEST_F(MesseDienerFestFormLöschenTest, GelöschtWirdDerEintragDerNummer)
 {
     Öffnen(1);
-    FokusAuf(Finden(form, "Index"));
-    Eingeben("DatumD", "abc");
-    Eingeben("Index", "0");
+    FokusAuf("Index");
+    Einsetzen("DatumD", "abc");
+    Einsetzen("Index", "0");
     EXPECT_EQ(MesseDienerFest.Cursor, 1);
     Antworten = {true};
-    Drücken("Löschen");
+    Klick("Löschen");
     EXPECT_EQ(Gespeichert(0, 1), "Kim|Bauer");
     EXPECT_EQ(Gespeichert(1, 1), "Kim|Conrad");
     EXPECT_EQ(MesseDienerFest.Cursor, 0);
@@ -59,14 +59,14 @@ TEST_F(MesseDienerFestFormLöschenTest, NachDemDrehenUndLöschenSchreibtOkDenTer
 {
     Öffnen();
     Drehen("DatensatzWechsel", "auf");
-    Drücken("OKbutton");
+    Klick("OKbutton");
     EXPECT_EQ(Termin(1), "22.11.2026,10:00:00"); // that of entry 0
     EXPECT_EQ(Gespeichert(1, 1), "Kim|Bauer");
     EXPECT_TRUE(Warten([&] { return !form; }));
     Öffnen(1);
     Antworten = {true};
-    Drücken("Löschen");
-    Drücken("OKbutton");
+    Klick("Löschen");
+    Klick("OKbutton");
     EXPECT_EQ(Termin(1), "22.11.2026,18:00:00"); // that of the deleted one
     EXPECT_EQ(Gespeichert(1, 1), "Kim|Conrad");
 }
@@ -77,13 +77,13 @@ TEST_F(MesseDienerFestFormLöschenTest, MitWenigerAlsZweiEinträgenTutLöschenNi
     for (const int anzahl : {1, 0}) {
         MesseDienerFest.Anzahl = anzahl;
         Antworten = {true};
-        Drücken("Löschen");
+        Klick("Löschen");
         EXPECT_TRUE(GestellteFragen.empty());
         EXPECT_EQ(MesseDienerFest.Anzahl, anzahl);
     }
     EXPECT_EQ(Gespeichert(0, 1), "Kim|Abel");
     MesseDienerFest.Anzahl = 2;
-    Drücken("Löschen");
+    Klick("Löschen");
     EXPECT_EQ(MesseDienerFest.Anzahl, 1);
     EXPECT_EQ(Gespeichert(0, 1), "Kim|Bauer");
 }

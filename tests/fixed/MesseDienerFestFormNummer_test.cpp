@@ -9,13 +9,13 @@ class MesseDienerFestFormNummerTest : public Blätterstand {};
 TEST_F(MesseDienerFestFormNummerTest, AuchEineGetippteNummerLäßtDieMesseStehen)
 {
     Öffnen();
-    Eingeben("Index", "2");
+    Einsetzen("Index", "2");
     EXPECT_EQ(Wo(), Zwei);
     EXPECT_EQ(Messentext(), "22.11.2026,10:00:00");
-    Eingeben("Index", "1");
+    Einsetzen("Index", "1");
     EXPECT_EQ(Messentext(), "24.11.2026,08:00:00");
-    Eingeben("MDV1", "geändert");
-    Eingeben("Index", "0");
+    Einsetzen("MDV1", "geändert");
+    Einsetzen("Index", "0");
     EXPECT_EQ(Gespeichert(1, 1), "Kim|Bauer"); // nothing is written
 }
 
@@ -29,7 +29,7 @@ TEST_F(MesseDienerFestFormNummerTest, EineNummerAußerhalbGehtAufDieGrenze)
                                    {"-1", Null},
                                    {"2", Zwei},
                                    {"-40000", Null}}) {
-        Eingeben("Index", text);
+        Einsetzen("Index", text);
         EXPECT_EQ(Wo(), wo) << text;
     }
 }
@@ -43,11 +43,11 @@ TEST_F(MesseDienerFestFormNummerTest, MehrAls200SindNichtZuErreichen)
                                        {"201", "200"},
                                        {"250", "200"},
                                        {"251", "200"}}) {
-        Eingeben("Index", text);
+        Einsetzen("Index", text);
         EXPECT_EQ(Zeigt("Index"), nummer) << text;
         EXPECT_EQ(MesseDienerFest.Cursor, std::stoi(nummer));
     }
-    Drücken("Plus");
+    Klick("Plus");
     EXPECT_EQ(Zeigt("Index"), "200");
     EXPECT_EQ(Zeigt("DatumD"), KurzesDatum(Sonntag + 300));
 }
@@ -66,14 +66,14 @@ TEST_F(MesseDienerFestFormNummerTest, WasKeineNummerIstBleibtStehen)
 {
     Öffnen(1);
     for (const char *text : {"abc", "", "1 2", "🎉"}) {
-        Eingeben("Index", text);
+        Einsetzen("Index", text);
         EXPECT_EQ(MesseDienerFest.Cursor, 1);
         EXPECT_EQ(Gewählt(1), "Bauer,Kim");
     }
-    Eingeben("Index", "abc");
+    Einsetzen("Index", "abc");
     const Text messe = Messentext();
     for (const char *name : {"Plus", "Minus"})
-        Drücken(name);
+        Klick(name);
     Drehen("DatensatzWechsel", "auf");
     EXPECT_EQ(Zeigt("Index"), "abc");
     EXPECT_EQ(MesseDienerFest.Cursor, 1);
@@ -86,17 +86,17 @@ TEST_F(MesseDienerFestFormNummerTest, WasKeineNummerIstBleibtStehen)
 TEST_F(MesseDienerFestFormNummerTest, EineLeereNummerGiltAlsNull)
 {
     Öffnen(2);
-    Eingeben("Index", "");
-    Drücken("Plus");
+    Einsetzen("Index", "");
+    Klick("Plus");
     EXPECT_EQ(Wo(), Eins);
-    Eingeben("Index", "");
-    Drücken("Minus");
+    Einsetzen("Index", "");
+    Klick("Minus");
     EXPECT_EQ(Wo(), Null);
-    Eingeben("Index", "");
-    Drücken("Minus"); // there is nothing before the first one
+    Einsetzen("Index", "");
+    Klick("Minus"); // there is nothing before the first one
     EXPECT_EQ(Wo(), Null);
-    Eingeben("Index", "2");
-    Eingeben("Index", "");
+    Einsetzen("Index", "2");
+    Einsetzen("Index", "");
     Drehen("DatensatzWechsel", "auf"); // the spin button does not fill it
     EXPECT_EQ(Zeigt("Index"), "");
     EXPECT_EQ(MesseDienerFest.Cursor, 2);
@@ -109,13 +109,13 @@ TEST_F(MesseDienerFestFormNummerTest, AbNummer600ZeigtPlusKeinenNächstenEintrag
         Viele(5);
         MesseDienerFest.Cursor = 1;
         ListeÖffnen();
-        FokusAuf(Finden(form, "Index"));
-        Eingeben("DatumD", "abc");
-        Eingeben("Index", nummer);
+        FokusAuf("Index");
+        Einsetzen("DatumD", "abc");
+        Einsetzen("Index", nummer);
         EXPECT_EQ(MesseDienerFest.Cursor, 1);
-        Eingeben("DatumD", KurzesDatum(Sonntag + 101).c_str());
+        Einsetzen("DatumD", KurzesDatum(Sonntag + 101));
         Liste gezeigte;
-        QObject::connect(Feld("DatumD"), &QLineEdit::textChanged, form,
+        QObject::connect(Finden<QLineEdit>("DatumD"), &QLineEdit::textChanged, form,
                          [&](const QString &text) { gezeigte.push_back(text.toStdString()); });
         Taste(Qt::Key_PageUp);
         EXPECT_EQ(std::ranges::count(gezeigte, KurzesDatum(Sonntag + 102)) > 0, zeigt) << nummer;

@@ -27,7 +27,7 @@ TEST_F(MesseDienerFestFormTest, JedesControlTrägtSeinenNamenUndSeineBeschriftun
     EXPECT_EQ(aufschriften,
               (Liste{"Anzahl Datensätze:", "Uhr", "Nachname,Vorname", "Vorname", "Nachname"}));
     for (int i = 1; i <= 20; ++i) {
-        EXPECT_EQ(Finden<QLabel>(form, Nr("ME", i).c_str())->buddy(), MDiener(i));
+        EXPECT_EQ(Finden<QLabel>(Nr("ME", i))->buddy(), MDiener(i));
         EXPECT_EQ(MDiener(i)->accessibleName().toStdString(), Nr("Meßdiener ", i));
     }
 }
@@ -36,7 +36,7 @@ TEST_F(MesseDienerFestFormTest, TabFolgtDemAuge)
 {
     Fest(0, 1);
     ListeÖffnen();
-    EXPECT_TRUE(Finden(form, "Index")->hasFocus());
+    EXPECT_TRUE(Finden("Index")->hasFocus());
     EXPECT_EQ(Tabfolge(form), (Liste{"Index", "DatensatzWechsel", "Minus", "Plus", "Messen",
                                      "DatumD", "Zeitd", "MDiener1", "MDV1", "MDN1", "MDiener2",
                                      "MDV2", "MDN2", "Hinzu", "Löschen", "OKbutton"}));
@@ -145,7 +145,7 @@ TEST_F(MesseDienerFestFormTest, ÖffnenZähltDieDienerBisEintrag100)
     MesseDienerFest.Cursor = 100;
     ListeÖffnen();
     EXPECT_EQ(Zeilen(), 4);
-    Eingeben("Index", "101"); // shows its stored count
+    Einsetzen("Index", "101"); // shows its stored count
     EXPECT_EQ(Zeilen(), 9);
     MesseWählen("22.11.2026,18:00:00");
     EXPECT_EQ(Zeilen(), 2); // only a choice of the mass sets it
@@ -163,7 +163,7 @@ TEST_F(MesseDienerFestFormTest, NamenHinterDerDienerzahlFehlenAufDemSchirmUndNac
         EXPECT_EQ(Name(i), "|");
     }
     EXPECT_EQ(Gespeichert(0, 3), "Kim|Conrad");
-    Drücken("Plus");
+    Klick("Plus");
     EXPECT_EQ(Gespeichert(0, 2), "Kim|Bauer");
     EXPECT_EQ(Gespeichert(0, 3), "|");
 }
@@ -190,7 +190,7 @@ TEST_F(MesseDienerFestFormTest, EinEintragDessenMesseNichtMehrBestehtZeigtKeineZ
     EXPECT_EQ(AmUm(), "22.11.2026,10:00:00");
     EXPECT_EQ(Zeilen(), 0);
     EXPECT_EQ(GezeigteMeldungen, Liste{}); // it is not reported
-    FokusAuf(Kombo("Messen"));
+    FokusAuf("Messen");
     Verlassen();
     EXPECT_EQ(GezeigteMeldungen, Liste{Unbekannt});
     EXPECT_EQ(Messentext(), "22.11.2026,10:00:00");
@@ -232,11 +232,11 @@ TEST_F(MesseDienerFestFormTest, EineUnmöglicheAnzahlHältNichtsAuf)
             const Int16 vorher = std::exchange(*zahl, Int16(wert));
             ListeÖffnen();
             for (const char *name : {"Plus", "Minus"})
-                Drücken(name);
+                Klick(name);
             Drehen("DatensatzWechsel", "auf");
-            Eingeben("Index", "1");
+            Einsetzen("Index", "1");
             MesseWählen("22.11.2026,10:00:00");
-            Setzen(20, "Niemand,Nina");
+            Einsetzen(20, "Niemand,Nina");
             form->close();
             EXPECT_TRUE(Warten([&] { return !form; }));
             *zahl = vorher;

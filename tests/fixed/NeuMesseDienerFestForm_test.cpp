@@ -47,7 +47,7 @@ TEST_F(NeuMesseDienerFestFormTest, TabFolgtDemAuge)
 {
     std::swap(Messe.Dienerzahl[0], Messe.Dienerzahl[1]); // two rows
     Öffnen();
-    EXPECT_TRUE(Finden(form, "Messen")->hasFocus());
+    EXPECT_TRUE(Finden("Messen")->hasFocus());
     EXPECT_EQ(Tabfolge(form), (Liste{"Messen", "DatumD", "Zeitd", "MDiener1", "MDV1", "MDN1",
                                      "MDiener2", "MDV2", "MDN2", "Anfügen", "Abrechen"}));
     EXPECT_EQ(Stumme(form), Liste{});
@@ -83,7 +83,7 @@ TEST_F(NeuMesseDienerFestFormTest, AnfügenSchreibtDenEintragUndGehtAufDieErsteM
     Wählen(1, "Abel,Kim");
     Wählen(3, "Agnes,Gruppe");
     Wählen(20, "Zoller,Kim");
-    Drücken("Anfügen");
+    Klick("Anfügen");
     EXPECT_EQ(MesseDienerFest.Anzahl, 2);
     EXPECT_EQ(Termin(1), "23.11.2026,08:00:00");
     EXPECT_EQ(Gespeichert(1, 1), "Kim|Abel");
@@ -105,9 +105,9 @@ TEST_F(NeuMesseDienerFestFormTest, DieBoxInDerGeschriebenWirdGehörtDazu)
 {
     Öffnen();
     FokusAuf(MDiener(1));
-    Setzen(1, "Dahl,Kim");
-    FokusAuf(Finden(form, "Anfügen")); // as a click does
-    QTest::keyClick(Finden(form, "Anfügen"), Qt::Key_Space);
+    Einsetzen(1, "Dahl,Kim");
+    FokusAuf("Anfügen"); // as a click does
+    QTest::keyClick(Finden("Anfügen"), Qt::Key_Space);
     EXPECT_EQ(Gespeichert(0, 1), "Kim|Dahl");
 }
 
@@ -115,20 +115,20 @@ TEST_F(NeuMesseDienerFestFormTest, EinTerminHatNurEinenEintrag)
 {
     Anlegen(Sonntag, 10, 5, "Kindermesse"); // of another kind, at the time of mass 0
     Öffnen();
-    Drücken("Anfügen");
+    Klick("Anfügen");
     EXPECT_EQ(MesseDienerFest.Anzahl, 1);
     for (const char *text : {"22.11.2026,10:00:00", "22.11.2026,10:00:00,Kindermesse"}) {
         MesseWählen(text);
         Wählen(1, "Dahl,Kim");
         GezeigteMeldungen.clear();
-        Drücken("Anfügen");
+        Klick("Anfügen");
         EXPECT_EQ(GezeigteMeldungen, Liste{Doppelt});
         EXPECT_EQ(MesseDienerFest.Anzahl, 1);
         EXPECT_EQ(Gewählt(1), "Dahl,Kim"); // all stays as it is
         EXPECT_EQ(Messentext(), text);
     }
     MesseWählen("22.11.2026,18:00:00");
-    Drücken("Anfügen");
+    Klick("Anfügen");
     EXPECT_EQ(MesseDienerFest.Anzahl, 2);
 }
 
@@ -140,7 +140,7 @@ TEST_F(NeuMesseDienerFestFormTest, DerVorschlagZähltDieDienerDerErstenMesse)
     EXPECT_EQ(Zeilen(), 4);
     Verlassen();
     EXPECT_EQ(Zeilen(), 7);
-    Drücken("Anfügen");
+    Klick("Anfügen");
     EXPECT_EQ(MesseDienerFest.Anzahl, 1);
     EXPECT_EQ(Zeilen(), 4);
 }
@@ -151,11 +151,11 @@ TEST_F(NeuMesseDienerFestFormTest, NurEinträgeUnterDerAnzahlSindDoppelt)
     Fest(1, 0);
     MesseDienerFest.Anzahl = 1;
     Öffnen();
-    Drücken("Anfügen");
+    Klick("Anfügen");
     EXPECT_EQ(GezeigteMeldungen, Liste{});
     EXPECT_EQ(MesseDienerFest.Anzahl, 2);
     MesseDienerFest.Anzahl = 0; // the first one always passes
-    Drücken("Anfügen");
+    Klick("Anfügen");
     EXPECT_EQ(GezeigteMeldungen, Liste{});
     EXPECT_EQ(MesseDienerFest.Anzahl, 1);
 }
@@ -166,17 +166,17 @@ TEST_F(NeuMesseDienerFestFormTest, BeiZweihundertIstOhneWortSchluß)
         MesseDienerFest.Datum[k] = Sonntag + 1000 + k;
     MesseDienerFest.Anzahl = 199;
     Öffnen();
-    Drücken("Anfügen");
+    Klick("Anfügen");
     EXPECT_EQ(MesseDienerFest.Anzahl, 200);
     MesseWählen("22.11.2026,18:00:00");
     Wählen(1, "Dahl,Kim");
-    Drücken("Anfügen");
+    Klick("Anfügen");
     EXPECT_EQ(MesseDienerFest.Anzahl, 200);
     EXPECT_EQ(Termin(200), "00:00:00,00:00:00");
     EXPECT_EQ(Gewählt(1), "Dahl,Kim");
     EXPECT_EQ(GezeigteMeldungen, Liste{});
     MesseWählen("22.11.2026,10:00:00");
-    Drücken("Anfügen");
+    Klick("Anfügen");
     EXPECT_EQ(GezeigteMeldungen, Liste{Doppelt}); // which is checked before the limit
 }
 
@@ -185,8 +185,8 @@ TEST_F(NeuMesseDienerFestFormTest, OhneMesseIstEsKeinKorrekterDatensatz)
     Fest(0, 0); // the empty text is reported before the duplicate
     Öffnen();
     Verlassen();
-    MesseSetzen("");
-    Drücken("Anfügen");
+    MesseEinsetzen("");
+    Klick("Anfügen");
     EXPECT_EQ(GezeigteMeldungen, Liste{KeinKorrekter});
     EXPECT_EQ(MesseDienerFest.Anzahl, 1);
 }
@@ -199,11 +199,11 @@ TEST_F(NeuMesseDienerFestFormTest, EineLeereMessentabelleGibtHeuteUndAuchDoppelt
     EXPECT_EQ(AmUm(), "00:00:00,00:00:00");
     EXPECT_EQ(Zeilen(), 0);
     for (int anzahl = 1; anzahl <= 2; ++anzahl) {
-        Finden(form, "Abrechen")->setFocus();
-        MesseSetzen("00:00:00,00:00:00");
-        Eingeben("DatumD", "00:00:00");
-        Eingeben("Zeitd", "00:00:00");
-        Drücken("Anfügen");
+        Finden("Abrechen")->setFocus();
+        MesseEinsetzen("00:00:00,00:00:00");
+        Einsetzen("DatumD", "00:00:00");
+        Einsetzen("Zeitd", "00:00:00");
+        Klick("Anfügen");
         EXPECT_EQ(MesseDienerFest.Anzahl, anzahl);
         EXPECT_EQ(Termin(anzahl - 1), "21.11.2026,00:00:00");
         EXPECT_EQ(Messentext(), "00:00:00,00:00:00");
@@ -215,18 +215,18 @@ TEST_F(NeuMesseDienerFestFormTest, EinSchlechterTerminFügtNichtsAn)
 {
     Fest(0, 1);
     Öffnen();
-    FokusAuf(Finden(form, "Anfügen"));
+    FokusAuf("Anfügen");
     for (const int anzahl : {1, 0}) {
         MesseDienerFest.Anzahl = anzahl;
         for (const char *feld : {"DatumD", "Zeitd"}) {
             const Text vorher = Zeigt(feld);
             for (const char *text : {"", "abc", "31.02.2027", "25:61"}) {
-                Eingeben(feld, text);
-                Drücken("Anfügen");
+                Einsetzen(feld, text);
+                Klick("Anfügen");
                 EXPECT_EQ(MesseDienerFest.Anzahl, anzahl) << text;
                 EXPECT_EQ(Zeigt(feld), text);
             }
-            Eingeben(feld, vorher.c_str());
+            Einsetzen(feld, vorher);
         }
     }
     EXPECT_EQ(GezeigteMeldungen, Liste{});
@@ -239,7 +239,7 @@ TEST_F(NeuMesseDienerFestFormTest, SchließenFragtUndSpeichertNichts)
         Wählen(1, "Abel,Kim");
         GestellteFragen.clear();
         if (mitKnopf)
-            Drücken("Abrechen");
+            Klick("Abrechen");
         else
             form->close();
         ASSERT_EQ(GestellteFragen.size(), 1U);
@@ -256,7 +256,7 @@ TEST_F(NeuMesseDienerFestFormTest, EineFalscheEingabeHältDasSchließenNichtAuf)
 {
     Öffnen();
     FokusAuf(MDiener(1));
-    Setzen(1, "Niemand,Nina");
+    Einsetzen(1, "Niemand,Nina");
     form->close();
     EXPECT_TRUE(Warten([&] { return !form; }));
     EXPECT_EQ(GestellteFragen.size(), 1U);
@@ -268,12 +268,12 @@ TEST_F(NeuMesseDienerFestFormTest, DieFrageVerläßtKeineBox)
     EchteMeldungen();
     Öffnen();
     FokusAuf(MDiener(1));
-    Setzen(1, "Niemand,Nina");
+    Einsetzen(1, "Niemand,Nina");
     Beantworten([](QMessageBox *box) {
         EXPECT_EQ(box->text().toStdString(), "Übertragen in die Messenliste?");
         if (auto *nein = box->button(QMessageBox::No))
-            return nein->click();
-        Beantworten([](QMessageBox *frage) { frage->button(QMessageBox::No)->click(); });
+            return Auslösen(nein);
+        Beantworten([](QMessageBox *frage) { Auslösen(frage->button(QMessageBox::No)); });
         box->accept();
     });
     form->close();
@@ -288,10 +288,10 @@ TEST_F(NeuMesseDienerFestFormTest, AufJaStehtDerEintragInDerMesseEineGruppeWieEi
     Öffnen();
     Wählen(1, "Abel,Kim");
     Wählen(3, "Tarzisius,Gruppe");
-    Drücken("Anfügen");
+    Klick("Anfügen");
     EXPECT_EQ(Messe.DienerNach[0][1], ""); // not before the question
     Antworten = {true};
-    Drücken("Abrechen");
+    Klick("Abrechen");
     EXPECT_EQ(Messe.DienerVor[0][1] + " " + Messe.DienerNach[0][1], "Kim Abel");
     EXPECT_EQ(Messe.DienerVor[0][2] + " " + Messe.DienerNach[0][2], "Alt Neu");
     EXPECT_EQ(Messe.DienerVor[0][3] + " " + Messe.DienerNach[0][3], "Gruppe Tarzisius");

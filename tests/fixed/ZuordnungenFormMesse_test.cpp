@@ -61,7 +61,7 @@ TEST_P(ZuordnungenFormMesseTest, NamenHinterDerZahlDerNeuenMesseFallenWeg)
 {
     Öffnen();
     for (int i = 1; i <= 4; ++i)
-        Wählen(i, (Meßdiener.Nachname[i] + ",Kim").c_str());
+        Wählen(i, Meßdiener.Nachname[i] + ",Kim");
     MesseWählen("22.11.2026,18:00:00");
     MesseWählen("22.11.2026,10:00:00");
     EXPECT_EQ(Name(1), "Kim|Bauer");
@@ -75,7 +75,7 @@ TEST_P(ZuordnungenFormMesseTest, NamenHinterDerZahlDerNeuenMesseFallenWeg)
 TEST_P(ZuordnungenFormMesseTest, NurEineBekannteMesseTeiltDieNamenAuf)
 {
     Öffnen();
-    Setzen(1, "Abel,Kim"); // without leaving it
+    Einsetzen(1, "Abel,Kim"); // without leaving it
     MesseWählen("gibt es nicht");
     EXPECT_EQ(GezeigteMeldungen, Liste{Unbekannt});
     EXPECT_EQ(Name(1), "|");
@@ -91,10 +91,10 @@ TEST_P(ZuordnungenFormMesseTest, DieDiensteWerdenNurBeimÖffnenVerteilt)
     EXPECT_EQ(Messe.DienerDienst[0][0], "bleibt") << "slot";
     MesseWählen("22.11.2026,10:00:00,Hochamt");
     EXPECT_EQ(Messe.DienerDienst[0][0], "bleibt") << "mass";
-    FokusAuf(Feld("DatumD"));
+    FokusAuf("DatumD");
     Verlassen();
     EXPECT_EQ(Messe.DienerDienst[0][0], "bleibt") << "date";
-    Drücken(IstListe() ? "Plus" : "Anfügen");
+    Klick(IstListe() ? "Plus" : "Anfügen");
     EXPECT_EQ(Messe.DienerDienst[0][0], "bleibt") << "move";
     EXPECT_EQ(Gespeichert(0, 1), "Kim|Abel");
     form->close();
@@ -121,15 +121,16 @@ TEST_P(ZuordnungenFormMesseTest, DieMeldungKommtVorDemZurücksetzen)
 {
     EchteMeldungen();
     Öffnen();
-    FokusAuf(Kombo("Messen"));
-    MesseSetzen("gibt es nicht");
+    FokusAuf("Messen");
+    MesseEinsetzen("gibt es nicht");
     Beantworten([&](QMessageBox *box) {
         EXPECT_EQ(box->text().toStdString(), Unbekannt);
         EXPECT_EQ(box->standardButtons(), QMessageBox::Ok);
         EXPECT_EQ(Messentext(), "gibt es nicht");
         box->accept();
     });
-    QTest::keyClick(Kombo("Messen"), Qt::Key_Tab); // to the date, which the message takes away
+    QTest::keyClick(Finden<QComboBox>("Messen"),
+                    Qt::Key_Tab); // to the date, which the message takes away
     EXPECT_EQ(Messentext(), "22.11.2026,10:00:00");
     EXPECT_EQ(AmUm(), "22.11.2026,10:00:00");
 }
@@ -168,17 +169,17 @@ TEST_P(ZuordnungenFormMesseTest, DatumUndUhrzeitKommenBeimVerlassenWiederAusDerM
     Öffnen();
     for (const char *feld : {"DatumD", "Zeitd"}) {
         for (const char *text : {"", "abc", "31.02.2027", "1.2.27", "25:61"}) {
-            Setzen(1, "Abel,Kim");
-            Eingeben("MDV1", "");
-            FokusAuf(Feld(feld));
-            Eingeben(feld, text);
+            Einsetzen(1, "Abel,Kim");
+            Einsetzen("MDV1", "");
+            FokusAuf(feld);
+            Einsetzen(feld, text);
             Verlassen();
             EXPECT_EQ(AmUm(), "22.11.2026,10:00:00") << text;
             EXPECT_EQ(Name(1), "Kim|Abel"); // the names are split too
         }
     }
-    MesseSetzen("22.11.2026,18:00:00");
-    FokusAuf(Feld("Zeitd"));
+    MesseEinsetzen("22.11.2026,18:00:00");
+    FokusAuf("Zeitd");
     Verlassen();
     EXPECT_EQ(Dienst(1), "Flambeau");
     EXPECT_EQ(GezeigteMeldungen, Liste{});
@@ -188,10 +189,10 @@ TEST_P(ZuordnungenFormMesseTest, EingabetasteBringtDatumUndUhrzeitInDieMesse)
 {
     Öffnen();
     for (const char *feld : {"DatumD", "Zeitd"}) {
-        FokusAuf(Feld(feld));
-        Eingeben("DatumD", "1.2.27");
-        Eingeben("Zeitd", "9:30");
-        QTest::keyClick(Feld(feld), Qt::Key_Return);
+        FokusAuf(feld);
+        Einsetzen("DatumD", "1.2.27");
+        Einsetzen("Zeitd", "9:30");
+        QTest::keyClick(Finden<QLineEdit>(feld), Qt::Key_Return);
         EXPECT_EQ(AmUm(), "01.02.2027,09:30:00") << feld;
         EXPECT_EQ(Messentext(), "01.02.2027,09:30:00");
         Verlassen();
@@ -203,17 +204,17 @@ TEST_P(ZuordnungenFormMesseTest, EinKlickSchreibtDasFeldUmUndGleichtAn)
 {
     Öffnen();
     for (const char *feld : {"DatumD", "Zeitd"}) {
-        FokusAuf(Feld(feld));
-        Eingeben("DatumD", "1.2.27");
-        Eingeben("Zeitd", "9:30");
-        Klick(Feld(feld));
+        FokusAuf(feld);
+        Einsetzen("DatumD", "1.2.27");
+        Einsetzen("Zeitd", "9:30");
+        Klick(feld);
         EXPECT_EQ(AmUm(), "01.02.2027,09:30:00") << feld;
         EXPECT_EQ(Messentext(), "01.02.2027,09:30:00");
     }
-    FokusAuf(Feld("Zeitd"));
-    Eingeben("DatumD", "abc");
-    Eingeben("Zeitd", "9:30");
-    Klick(Feld("Zeitd"));
+    FokusAuf("Zeitd");
+    Einsetzen("DatumD", "abc");
+    Einsetzen("Zeitd", "9:30");
+    Klick("Zeitd");
     EXPECT_EQ(AmUm(), "abc,09:30:00"); // its own field first
     EXPECT_EQ(Messentext(), "01.02.2027,09:30:00");
 }
@@ -221,21 +222,21 @@ TEST_P(ZuordnungenFormMesseTest, EinKlickSchreibtDasFeldUmUndGleichtAn)
 TEST_P(ZuordnungenFormMesseTest, KeinDatumWirdHeute)
 {
     Öffnen();
-    FokusAuf(Feld("DatumD"));
-    Eingeben("DatumD", "00:00:00");
-    Eingeben("Zeitd", "00:00:00");
-    QTest::keyClick(Feld("DatumD"), Qt::Key_Return);
+    FokusAuf("DatumD");
+    Einsetzen("DatumD", "00:00:00");
+    Einsetzen("Zeitd", "00:00:00");
+    QTest::keyClick(Finden<QLineEdit>("DatumD"), Qt::Key_Return);
     EXPECT_EQ(Messentext(), "21.11.2026,00:00:00");
-    Eingeben("DatumD", "0:00:00"); // only exactly this text
-    QTest::keyClick(Feld("DatumD"), Qt::Key_Return);
+    Einsetzen("DatumD", "0:00:00"); // only exactly this text
+    QTest::keyClick(Finden<QLineEdit>("DatumD"), Qt::Key_Return);
     EXPECT_EQ(Zeigt("DatumD"), "30.12.1899");
 }
 
 TEST_P(ZuordnungenFormMesseTest, EinKlickAufKeinDatumZeigtDenErstenTag)
 {
     Öffnen();
-    Eingeben("DatumD", "00:00:00");
-    Klick(Feld("DatumD")); // rewrites it as a date before it can become today
+    Einsetzen("DatumD", "00:00:00");
+    Klick("DatumD"); // rewrites it as a date before it can become today
     EXPECT_EQ(AmUm(), "30.12.1899,10:00:00");
     EXPECT_EQ(Messentext(), "30.12.1899,10:00:00");
 }
@@ -243,12 +244,12 @@ TEST_P(ZuordnungenFormMesseTest, EinKlickAufKeinDatumZeigtDenErstenTag)
 TEST_P(ZuordnungenFormMesseTest, DasDatumWirdVorDerUhrzeitUmgeschrieben)
 {
     Öffnen();
-    FokusAuf(Feld("DatumD"));
+    FokusAuf("DatumD");
     for (const auto &[datum, zeit, danach] :
          {std::tuple("1.2.27", "abc", "01.02.2027,abc"), {"abc", "9:30", "abc,9:30"}}) {
-        Eingeben("DatumD", datum);
-        Eingeben("Zeitd", zeit);
-        QTest::keyClick(Feld("DatumD"), Qt::Key_Return);
+        Einsetzen("DatumD", datum);
+        Einsetzen("Zeitd", zeit);
+        QTest::keyClick(Finden<QLineEdit>("DatumD"), Qt::Key_Return);
         EXPECT_EQ(AmUm(), danach);
         EXPECT_EQ(Messentext(), "22.11.2026,10:00:00");
     }
@@ -259,11 +260,11 @@ TEST_P(ZuordnungenFormMesseTest, WasKeinTerminIstBleibtOhneWortStehen)
     Öffnen();
     for (const char *text : {"", "abc", "31.02.2027", "25:61", "40000", "🎉"}) {
         for (const char *feld : {"DatumD", "Zeitd"}) {
-            FokusAuf(Feld(feld));
-            Eingeben(feld, text);
+            FokusAuf(feld);
+            Einsetzen(feld, text);
             const Text getippt = Zeigt(feld);
-            QTest::keyClick(Feld(feld), Qt::Key_Return);
-            Klick(Feld(feld));
+            QTest::keyClick(Finden<QLineEdit>(feld), Qt::Key_Return);
+            Klick(feld);
             EXPECT_EQ(Zeigt(feld), getippt);
             EXPECT_EQ(Messentext(), "22.11.2026,10:00:00");
             Verlassen();

@@ -20,7 +20,7 @@ TEST_P(ZuordnungenFormTest, DieListenFolgenDenTabellen)
 {
     MeßdienerAnlegen("Ada", "Abel"); // after Zoller: nothing is sorted
     Öffnen();
-    EXPECT_EQ(Einträge(Kombo("Messen")),
+    EXPECT_EQ(Einträge(Finden<QComboBox>("Messen")),
               (Liste{"22.11.2026,10:00:00,Hochamt", "22.11.2026,18:00:00,Abendmesse",
                      "23.11.2026,08:00:00,", "24.11.2026,08:00:00,Taufe, klein"}));
     Liste namen;
@@ -44,7 +44,7 @@ TEST_P(ZuordnungenFormTest, EinNameKommtBeimVerlassenInDieFelder)
     for (int i = 1; i <= 20; ++i) {
         const Text name = Meßdiener.Nachname[i];
         FokusAuf(MDiener(i));
-        Setzen(i, (name + ",Kim").c_str());
+        Einsetzen(i, name + ",Kim");
         // The last slot reacts to every change.
         EXPECT_EQ(Name(i), i == 20 ? "Kim|" + name : "|") << i;
         Verlassen();
@@ -77,13 +77,13 @@ TEST_P(ZuordnungenFormTest, DieTastenGehenVomNamenAusDerDasteht)
     Öffnen();
     MesseWählen("23.11.2026,08:00:00,");
     for (const int slot : {1, 20}) {
-        Setzen(slot, "Klein,Kim");
+        Einsetzen(slot, "Klein,Kim");
         FokusAuf(MDiener(slot));
         EXPECT_EQ(MDiener(slot)->currentText(), "Klein,Kim");
         EXPECT_EQ(MDiener(slot)->currentIndex(), MDiener(slot)->findText("Klein,Kim"));
         QTest::keyClick(MDiener(slot), Qt::Key_Up);
         EXPECT_EQ(Gewählt(slot), "Jung,Kim");
-        Setzen(slot, "Otto,Kim"); // while it has the focus
+        Einsetzen(slot, "Otto,Kim"); // while it has the focus
         QTest::keyClick(MDiener(slot), Qt::Key_Down);
         EXPECT_EQ(Gewählt(slot), "Pohl,Kim");
         Wählen(slot, "");
@@ -96,7 +96,7 @@ TEST_P(ZuordnungenFormTest, DieTastenGehenÜberEinenSchonVergebenenNamenHinweg)
     Öffnen();
     MesseWählen("23.11.2026,08:00:00,");
     Wählen(1, "Lenz,Kim");
-    Setzen(20, "Klein,Kim"); // the slot that reacts to every change
+    Einsetzen(20, "Klein,Kim"); // the slot that reacts to every change
     FokusAuf(MDiener(20));
     for (const char *name : {"", "Maurer,Kim"}) {
         QTest::keyClick(MDiener(20), Qt::Key_Down);
@@ -110,7 +110,7 @@ TEST_P(ZuordnungenFormTest, VonZweiGleichenGehenDieTastenWeiter)
     MeßdienerAnlegen("Kim", "Zimmer");
     Öffnen();
     FokusAuf(MDiener(1));
-    Setzen(1, "Wolf,Kim");
+    Einsetzen(1, "Wolf,Kim");
     for (const char *name : {"Zoller,Kim", "Zoller,Kim", "Zimmer,Kim"}) {
         QTest::keyClick(MDiener(1), Qt::Key_Down);
         EXPECT_EQ(Gewählt(1), name);
@@ -121,7 +121,7 @@ TEST_P(ZuordnungenFormTest, DasRadWähltNichts)
 {
     Öffnen();
     Wählen(1, "Klein,Kim");
-    for (QComboBox *wahl : {MDiener(1), Kombo("Messen")}) {
+    for (QComboBox *wahl : {MDiener(1), Finden<QComboBox>("Messen")}) {
         const QPoint mitte = wahl->rect().center();
         const Text vorher = TextVon(wahl);
         QWheelEvent rad(mitte, wahl->mapToGlobal(mitte), {}, {0, -120}, Qt::NoButton,
@@ -156,7 +156,7 @@ TEST_P(ZuordnungenFormTest, EinUnbekannterNameGehtAufDieFelderZurück)
         EXPECT_EQ(Gewählt(2), "Dahl,Kim");
         EXPECT_EQ(Name(2), "Kim|Dahl");
     }
-    Eingeben("MDV2", ""); // one name alone is not enough to go back to
+    Einsetzen("MDV2", ""); // one name alone is not enough to go back to
     Wählen(2, "Niemand,Nina");
     EXPECT_EQ(Gewählt(2), "");
     EXPECT_EQ(Name(2), "|");
@@ -169,7 +169,7 @@ TEST_P(ZuordnungenFormTest, DieFehleingabeKommtNachDemZurücksetzen)
     Wählen(2, "Dahl,Kim");
     for (const auto &[slot, danach] : {std::pair(2, "Dahl,Kim"), {3, ""}}) {
         FokusAuf(MDiener(slot));
-        Setzen(slot, "Niemand,Nina");
+        Einsetzen(slot, "Niemand,Nina");
         Text dabei = "no box";
         Beantworten([&, slot = slot](QMessageBox *box) {
             EXPECT_EQ(box->text().toStdString(), Fehleingabe);
@@ -194,8 +194,8 @@ TEST_P(ZuordnungenFormTest, EinLeererTextLeertDenSlotOhneWort)
 TEST_P(ZuordnungenFormTest, DerErsteFehlerHältDiePrüfungAn)
 {
     Öffnen();
-    Setzen(3, "Niemand,Nina");
-    Setzen(4, "Keiner,Karl");
+    Einsetzen(3, "Niemand,Nina");
+    Einsetzen(4, "Keiner,Karl");
     Wählen(1, "Abel,Kim"); // leaving any slot checks all of them
     EXPECT_EQ(GezeigteMeldungen, Liste{Fehleingabe});
     EXPECT_EQ(Gewählt(3), "");
@@ -244,17 +244,17 @@ TEST_P(ZuordnungenFormTest, SlotZwanzigPrüftJedenBuchstaben)
     Tippen(MDiener(20), "Da");
     EXPECT_EQ(GezeigteMeldungen, (Liste{Fehleingabe, Fehleingabe}));
     EXPECT_EQ(Gewählt(20), "");
-    Setzen(20, "Dahl,Kim");
+    Einsetzen(20, "Dahl,Kim");
     QTest::keyClick(MDiener(20), Qt::Key_Backspace);
     EXPECT_EQ(GezeigteMeldungen.size(), 3U);
     EXPECT_EQ(Gewählt(20), "Dahl,Kim"); // back to its names
-    Setzen(1, "Niemand,Nina");
-    Setzen(20, ""); // its change checks the others too
+    Einsetzen(1, "Niemand,Nina");
+    Einsetzen(20, ""); // its change checks the others too
     EXPECT_EQ(GezeigteMeldungen.size(), 4U);
     EXPECT_EQ(Gewählt(1), "");
     const std::size_t bisher = GezeigteMeldungen.size();
     FokusAuf(MDiener(20));
-    Setzen(2, "Niemand,Nina");
+    Einsetzen(2, "Niemand,Nina");
     Verlassen(); // without a change nothing is checked
     EXPECT_EQ(GezeigteMeldungen.size(), bisher);
     EXPECT_EQ(Gewählt(2), "Niemand,Nina");
@@ -288,16 +288,16 @@ TEST_P(ZuordnungenFormTest, OhneEtwasVorDemKommaBleibtDerNachnameStehen)
 TEST_P(ZuordnungenFormTest, VerlassenNimmtTerminUndDiensteAusDemMessentext)
 {
     Öffnen();
-    MesseSetzen("22.11.2026,18:00:00");
+    MesseEinsetzen("22.11.2026,18:00:00");
     Wählen(1, "Abel,Kim");
     EXPECT_EQ(AmUm(), "22.11.2026,18:00:00");
     EXPECT_EQ(Dienst(1), "Flambeau");
     EXPECT_EQ(Zeilen(), 4); // the count changes only when `Messen` is left
-    MesseSetzen("23.11.2026,18:00:00,gibt es nicht");
+    MesseEinsetzen("23.11.2026,18:00:00,gibt es nicht");
     Wählen(1, "Bauer,Kim");
     EXPECT_EQ(AmUm(), "23.11.2026,18:00:00");
     EXPECT_EQ(Dienst(1), "Flambeau"); // without such a mass
-    MesseSetzen("am 22.11.2026 um zehn");
+    MesseEinsetzen("am 22.11.2026 um zehn");
     Wählen(1, "Conrad,Kim");
     EXPECT_EQ(AmUm(), "am 22.11.2,26 um ze"); // whatever is at these positions
     EXPECT_EQ(Name(1), "Kim|Conrad");
@@ -308,8 +308,8 @@ TEST_P(ZuordnungenFormTest, EineMeldungVerläßtNichtAuchNochDieNächsteBox)
 {
     EchteMeldungen();
     Öffnen();
-    Setzen(1, "Niemand,Nina");
-    Setzen(2, "Keiner,Karl");
+    Einsetzen(1, "Niemand,Nina");
+    Einsetzen(2, "Keiner,Karl");
     int boxen = 0;
     const auto einmal = [&](QMessageBox *box) {
         ++boxen;

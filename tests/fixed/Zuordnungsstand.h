@@ -1,13 +1,13 @@
 // The fixture of the tests of the fixed entries' dialogs.
 #pragma once
 
+#include "Formstand.h"
 #include "application/Anwendung.h"
-#include "controls/Textwahl.h"
 #include "core/Umwandlung.h"
 #include "fixed/FesteEinträge.h"
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
-#include "planning/Formstand.h"
+#include "planning/Messenbild.h"
 
 namespace altardienst {
 
@@ -15,7 +15,7 @@ using Liste = std::vector<Text>;
 
 /// 24 servers "Abel,Kim" to "Zoller,Kim", two groups, and four masses of 4, 2, 20 and 3 servers.
 /// Today is Saturday, 21.11.2026, 12:00.
-class Zuordnungsstand : public Formstand {
+class Zuordnungsstand : public Formstand<> {
   protected:
     Zuordnungsstand()
     {
@@ -74,36 +74,33 @@ class Zuordnungsstand : public Formstand {
 
     static Text Nr(const char *stamm, int nummer) { return stamm + ZahlText(nummer); }
 
-    QComboBox *Kombo(const char *name) const { return Finden<QComboBox>(form, name); }
-    QComboBox *MDiener(int i) const { return Kombo(Nr("MDiener", i).c_str()); }
-    Text Gewählt(int i) const { return TextVon(MDiener(i)); }
-    Text Messentext() const { return TextVon(Kombo("Messen")); }
+    QComboBox *MDiener(int i) const { return Finden<QComboBox>(Nr("MDiener", i)); }
+    Text Gewählt(int i) const { return Zeigt(MDiener(i)); }
+    Text Messentext() const { return Zeigt("Messen"); }
 
     /// Puts a text into a slot or into `Messen` without leaving it.
-    void Setzen(int i, const char *text) const { altardienst::Setzen(MDiener(i), text); }
-    void MesseSetzen(const char *text) const { altardienst::Setzen(Kombo("Messen"), text); }
+    void Einsetzen(int i, const Text &text) const { Einsetzen(MDiener(i), text); }
+    using Formstand::Einsetzen;
+    void MesseEinsetzen(const Text &text) const { Einsetzen("Messen", text); }
 
     /// Moves the focus to a control without a handler for being left.
-    void Verlassen() const { FokusAuf(Finden(form, knopf)); }
+    void Verlassen() const { FokusAuf(knopf); }
 
-    void Wählen(int i, const char *text) const
+    void Wählen(int i, const Text &text) const
     {
         FokusAuf(MDiener(i));
-        Setzen(i, text);
+        Einsetzen(i, text);
         Verlassen();
     }
-    void MesseWählen(const char *text) const
+    void MesseWählen(const Text &text) const
     {
-        FokusAuf(Kombo("Messen"));
-        MesseSetzen(text);
+        FokusAuf("Messen");
+        MesseEinsetzen(text);
         Verlassen();
     }
 
     /// "Vorname|Nachname" next to a slot, and in the table.
-    Text Name(int i) const
-    {
-        return Zeigt(Nr("MDV", i).c_str()) + "|" + Zeigt(Nr("MDN", i).c_str());
-    }
+    Text Name(int i) const { return Zeigt(Nr("MDV", i)) + "|" + Zeigt(Nr("MDN", i)); }
     static Text Gespeichert(int k, int slot)
     {
         return MesseDienerFest.Vorname[k][slot] + "|" + MesseDienerFest.Nachname[k][slot];
@@ -113,18 +110,18 @@ class Zuordnungsstand : public Formstand {
         return DatumText(MesseDienerFest.Datum[k]) + "," + DatumText(MesseDienerFest.Uhrzeit[k]);
     }
 
-    Text Dienst(int i) const { return Zeigt(Nr("ME", i).c_str()); }
+    Text Dienst(int i) const { return Zeigt(Nr("ME", i)); }
     Text AmUm() const { return Zeigt("DatumD") + "," + Zeigt("Zeitd"); }
 
     /// How many rows of slots are visible; they are contiguous from the first one on.
     int Zeilen() const
     {
         int zahl = 0;
-        while (zahl < 20 && Finden(form, Nr("ME", zahl + 1).c_str())->isVisible())
+        while (zahl < 20 && Finden(Nr("ME", zahl + 1))->isVisible())
             ++zahl;
         for (int i = 1; i <= 20; ++i)
             for (const char *stamm : {"ME", "MDiener", "MDV", "MDN"})
-                EXPECT_EQ(Finden(form, Nr(stamm, i).c_str())->isVisible(), i <= zahl) << stamm << i;
+                EXPECT_EQ(Finden(Nr(stamm, i))->isVisible(), i <= zahl) << stamm << i;
         return zahl;
     }
 

@@ -1,7 +1,7 @@
 // Where the print dialog can send a report: a printer of the system, or a PDF file.
 #include "paper/Druckdialog.h"
 
-#include "Fensterstand.h"
+#include "Formstand.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -17,7 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 
 /// The disk is the user's home; it has the directory Berichte.
-class DruckdialogZielTest : public Fensterstand {
+class DruckdialogZielTest : public Formstand<DruckdialogForm> {
   protected:
     DruckdialogZielTest() : heim(qgetenv("HOME"))
     {
@@ -29,16 +29,16 @@ class DruckdialogZielTest : public Fensterstand {
     void Öffnen(const Druckerliste &drucker = {})
     {
         dialog = std::make_unique<DruckdialogForm>(Druckanfrage{}, drucker);
-        Zeigen(dialog.get());
+        form = dialog.get();
+        Zeigen(form);
     }
 
-    bool IstAn(const char *name) const { return Finden(dialog.get(), name)->isEnabled(); }
-    Text Zeigt(const char *name) const { return Aufschrift(Finden(dialog.get(), name)); }
+    bool IstAktiv(const char *name) const { return Finden(name)->isEnabled(); }
 
     /// Types the name of a PDF file; true if it may be chosen.
     bool Geht(const Text &name) const
     {
-        Tippen(dialog->PdfDatei, name.c_str());
+        Tippen(dialog->PdfDatei, name);
         return dialog->OKButton->isEnabled();
     }
 
@@ -67,13 +67,13 @@ TEST_F(DruckdialogZielTest, EinDruckerDesSystemsIstVorgewähltUndBrauchtKeineDat
     EXPECT_EQ(dialog->Druckername->count(), 2);
     EXPECT_EQ(dialog->Druckername->currentText(), "Sakristei");
     for (const char *name : {"Papier", "Druckername", "Einstellungen", "Kopien", "OKButton"})
-        EXPECT_TRUE(IstAn(name)) << name;
+        EXPECT_TRUE(IstAktiv(name)) << name;
     for (const char *name : {"PdfDatei", "Durchsuchen"})
-        EXPECT_FALSE(IstAn(name)) << name;
+        EXPECT_FALSE(IstAktiv(name)) << name;
     dialog->PdfDatei->clear();
-    EXPECT_TRUE(IstAn("OKButton"));
-    dialog->PdfDatei->setText("/gibt/es/nicht.pdf");
-    EXPECT_TRUE(IstAn("OKButton"));
+    EXPECT_TRUE(IstAktiv("OKButton"));
+    Einsetzen(dialog->PdfDatei, "/gibt/es/nicht.pdf");
+    EXPECT_TRUE(IstAktiv("OKButton"));
     EXPECT_EQ(Zeigt("Hinweis"), "");
 }
 
@@ -95,12 +95,12 @@ TEST_F(DruckdialogZielTest, VomDruckerZurDateiUndZurück)
     Öffnen(ZweiDrucker);
     Klick(dialog->Pdf);
     for (const char *name : {"PdfDatei", "Durchsuchen"})
-        EXPECT_TRUE(IstAn(name)) << name;
+        EXPECT_TRUE(IstAktiv(name)) << name;
     for (const char *name : {"Druckername", "Einstellungen", "Kopien"})
-        EXPECT_FALSE(IstAn(name)) << name;
+        EXPECT_FALSE(IstAktiv(name)) << name;
     EXPECT_FALSE(Geht(""));
     Klick(dialog->Papier);
-    EXPECT_TRUE(IstAn("OKButton"));
+    EXPECT_TRUE(IstAktiv("OKButton"));
 }
 
 TEST_F(DruckdialogZielTest, EineVorhandeneDateiWirdNurNachEinerFrageErsetzt)
@@ -215,7 +215,7 @@ TEST_F(DruckdialogZielTest, EinVerzeichnisDasVerschwundenIstWirdNichtMehrVorgesc
     fs::remove_all(Festplatte / "Berichte");
     Öffnen();
     EXPECT_EQ(Zeigt("PdfDatei"), Pfad("Altardienst.pdf"));
-    EXPECT_TRUE(IstAn("OKButton"));
+    EXPECT_TRUE(IstAktiv("OKButton"));
 }
 
 } // namespace

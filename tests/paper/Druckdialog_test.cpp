@@ -1,7 +1,7 @@
 // The print dialog on a machine without a printer.
 #include "paper/Druckdialog.h"
 
-#include "Fensterstand.h"
+#include "Formstand.h"
 
 #include <QApplication>
 #include <QPrinterInfo>
@@ -15,19 +15,16 @@ namespace {
 
 const Druckanfrage ZweiFormen = {"Plan mit Namen", "Formular für die Helfer"};
 
-class DruckdialogTest : public Fensterstand {
+class DruckdialogTest : public Formstand<DruckdialogForm> {
   protected:
     void Öffnen(const Druckanfrage &anfrage)
     {
         dialog = std::make_unique<DruckdialogForm>(anfrage);
-        Zeigen(dialog.get());
+        form = dialog.get();
+        Zeigen(form);
     }
 
-    QWidget *Control(const char *name) const { return Finden(dialog.get(), name); }
-    QRadioButton *Option(const char *name) const
-    {
-        return Finden<QRadioButton>(dialog.get(), name);
-    }
+    QRadioButton *Option(const char *name) const { return Finden<QRadioButton>(name); }
 
     /// Shows the dialog as a report does and runs the action on it.
     static std::optional<Druckauswahl> Ablauf(const std::function<void(QDialog *)> &eingabe)
@@ -57,16 +54,16 @@ TEST_F(DruckdialogTest, OhneDruckerBleibtDasPdf)
     EXPECT_EQ(dialog->windowTitle(), "Drucken");
     EXPECT_TRUE(Option("Pdf")->isChecked());
     for (const char *name : {"Papier", "Druckername", "Einstellungen", "Kopien"})
-        EXPECT_FALSE(Control(name)->isEnabled()) << name;
+        EXPECT_FALSE(Finden(name)->isEnabled()) << name;
     for (const char *name : {"Pdf", "PdfDatei", "Durchsuchen", "OKButton", "CancelButton"})
-        EXPECT_TRUE(Control(name)->isEnabled()) << name;
+        EXPECT_TRUE(Finden(name)->isEnabled()) << name;
     EXPECT_EQ(dialog->Druckername->placeholderText(), "kein Drucker eingerichtet");
 }
 
 TEST_F(DruckdialogTest, AuswahlIstDasPdfMitDerErstenAusführung)
 {
     Öffnen({});
-    Tippen(Control("PdfDatei"), "/tmp/Plan.pdf");
+    Tippen("PdfDatei", "/tmp/Plan.pdf");
     const Druckauswahl auswahl = dialog->Auswahl();
     EXPECT_EQ(auswahl.Modus, 0);
     EXPECT_EQ(auswahl.Ziel->outputFormat(), QPrinter::PdfFormat);
@@ -76,24 +73,24 @@ TEST_F(DruckdialogTest, AuswahlIstDasPdfMitDerErstenAusführung)
 TEST_F(DruckdialogTest, DieZweiteAusführungStehtNurZurWahlWoEsSieGibt)
 {
     Öffnen({});
-    EXPECT_FALSE(Control("Ausführung")->isVisible());
+    EXPECT_FALSE(Finden("Ausführung")->isVisible());
     Öffnen(ZweiFormen);
-    EXPECT_TRUE(Control("Ausführung")->isVisible());
-    EXPECT_EQ(Aufschrift(Control("ErsteForm")), "Plan mit Namen");
-    EXPECT_EQ(Aufschrift(Control("ZweiteForm")), "Formular für die Helfer");
+    EXPECT_TRUE(Finden("Ausführung")->isVisible());
+    EXPECT_EQ(Zeigt("ErsteForm"), "Plan mit Namen");
+    EXPECT_EQ(Zeigt("ZweiteForm"), "Formular für die Helfer");
     EXPECT_TRUE(Option("ErsteForm")->isChecked());
 }
 
 TEST_F(DruckdialogTest, DieZweiteAusführungIstModusEinsUndÄndertDasZielNicht)
 {
     Öffnen(ZweiFormen);
-    Klick(Control("ZweiteForm"));
+    Klick("ZweiteForm");
     EXPECT_EQ(dialog->Auswahl().Modus, 1);
     EXPECT_TRUE(Option("Pdf")->isChecked());
-    QTest::keyClick(Control("ZweiteForm"), Qt::Key_Left);
+    QTest::keyClick(Finden("ZweiteForm"), Qt::Key_Left);
     EXPECT_EQ(dialog->Auswahl().Modus, 0);
-    FokusAuf(Control("Pdf"));
-    QTest::keyClick(Control("Pdf"), Qt::Key_Down);
+    FokusAuf("Pdf");
+    QTest::keyClick(Finden("Pdf"), Qt::Key_Down);
     EXPECT_EQ(dialog->Auswahl().Modus, 0);
     EXPECT_TRUE(Option("Pdf")->isChecked());
 }
@@ -101,10 +98,10 @@ TEST_F(DruckdialogTest, DieZweiteAusführungIstModusEinsUndÄndertDasZielNicht)
 TEST_F(DruckdialogTest, OhneDateinamenGibtEsKeinOk)
 {
     Öffnen({});
-    Tippen(Control("PdfDatei"), "");
-    EXPECT_FALSE(Control("OKButton")->isEnabled());
-    Tippen(Control("PdfDatei"), "x");
-    EXPECT_TRUE(Control("OKButton")->isEnabled());
+    Tippen("PdfDatei", "");
+    EXPECT_FALSE(Finden("OKButton")->isEnabled());
+    Tippen("PdfDatei", "x");
+    EXPECT_TRUE(Finden("OKButton")->isEnabled());
 }
 
 TEST_F(DruckdialogTest, OkUndEingabetasteWählen)
@@ -134,14 +131,14 @@ TEST_F(DruckdialogTest, DerDateinameIstBeimNächstenMalWiederDa)
         Klick(Finden(offen, "OKButton"));
     });
     Öffnen({});
-    EXPECT_EQ(Aufschrift(Control("PdfDatei")), "/tmp/einmal.pdf");
+    EXPECT_EQ(Zeigt("PdfDatei"), "/tmp/einmal.pdf");
     dialog.reset();
     Ablauf([](QDialog *offen) {
         Tippen(Finden(offen, "PdfDatei"), "/tmp/anders.pdf");
         Klick(Finden(offen, "CancelButton"));
     });
     Öffnen({});
-    EXPECT_EQ(Aufschrift(Control("PdfDatei")), "/tmp/einmal.pdf");
+    EXPECT_EQ(Zeigt("PdfDatei"), "/tmp/einmal.pdf");
 }
 
 TEST_F(DruckdialogTest, AlleTexteSindDeutschUndTabFolgtDemAuge)
@@ -153,13 +150,13 @@ TEST_F(DruckdialogTest, AlleTexteSindDeutschUndTabFolgtDemAuge)
         {"OKButton", "OK"},       {"CancelButton", "Abbrechen"},
         {"KopienText", "Kopien:"}};
     for (const auto &[name, text] : aufschriften)
-        EXPECT_EQ(Aufschrift(Control(name)), text) << name;
-    FokusAuf(Control("Pdf"));
+        EXPECT_EQ(Zeigt(name), text) << name;
+    FokusAuf("Pdf");
     EXPECT_EQ(Tabfolge(dialog.get()), (std::vector<Text>{"Pdf", "PdfDatei", "Durchsuchen",
                                                          "ErsteForm", "OKButton", "CancelButton"}));
     // The inner box of `Kopien`, which carries the name of the whole control.
     EXPECT_EQ(Stumme(dialog.get()), std::vector<Text>{"qt_spinbox_lineedit"});
-    EXPECT_EQ(Control("Kopien")->accessibleName(), "Kopien");
+    EXPECT_EQ(Finden("Kopien")->accessibleName(), "Kopien");
 }
 
 TEST_F(DruckdialogTest, PasstAufDenKleinstenBildschirm)

@@ -18,16 +18,16 @@ TEST_F(AnlegenScheitertForm, AbHundertdreiGruppenGibtEsKeinenNeuenMeßdiener)
         Öffnen("Meßdiener");
         EXPECT_EQ(GezeigteMeldungen, fehler);
         GezeigteMeldungen.clear();
-        Drücken("NeuDiener");
+        Auslösen("NeuDiener");
         EXPECT_EQ(GezeigteMeldungen, fehler);
         EXPECT_FALSE(IstOffen("NeuMeßdiener"));
         EXPECT_TRUE(form->isVisible());
-        Drücken("PLUS");
-        EXPECT_EQ(Gezeigt("Vornamen"), "Bea");
+        Auslösen("PLUS");
+        EXPECT_EQ(Zeigt("Vornamen"), "Bea");
     }
     Gruppe.Anzahl = 102;
     Öffnen("NeuMeßdiener");
-    EXPECT_EQ(Finden<QComboBox>(form, "Dieenst")->count(), 103);
+    EXPECT_EQ(Finden<QComboBox>("Dieenst")->count(), 103);
 }
 
 TEST_F(AnlegenScheitertForm, WasNiemandErwartetLäßtDenEditorStehen)
@@ -39,14 +39,14 @@ TEST_F(AnlegenScheitertForm, WasNiemandErwartetLäßtDenEditorStehen)
         SCOPED_TRACE(fenster);
         Öffnen(fenster);
         Uhr.Heute = []() -> Datum { throw std::bad_alloc(); }; // needed for the proposals
-        Drücken(knopf);
+        Auslösen(knopf);
         Uhr.Heute = heute;
         EXPECT_TRUE(Warten([&] { return GezeigteMeldungen.size() == 1; }));
         EXPECT_TRUE(GezeigteMeldungen.at(0).starts_with("Der Arbeitsspeicher reicht nicht aus."));
         GezeigteMeldungen.clear();
         EXPECT_FALSE(IstOffen(dialog));
         EXPECT_TRUE(form->isVisible());
-        Drücken(knopf);
+        Auslösen(knopf);
         EXPECT_TRUE(IstOffen(dialog));
     }
 }

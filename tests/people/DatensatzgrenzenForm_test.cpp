@@ -44,10 +44,10 @@ TEST_F(DatensatzgrenzenForm, DieNummerEndetBeimLetztenDatensatz)
         ÖffnenBei(fall, fall.Letzter, 0); // one more would be the place after the blank slot
         for (const Text &getippt : {ZahlText(fall.Letzter + 1), Text("40000"), Text("3000000000"),
                                     Text("999999999999999")}) {
-            Schreiben(fall.Nummer, "0");
-            Schreiben(fall.Nummer, getippt);
-            EXPECT_EQ(Gezeigt(fall.Nummer), ZahlText(fall.Letzter)) << getippt;
-            EXPECT_EQ(Gezeigt(fall.Name), "Letzter");
+            Einsetzen(fall.Nummer, "0");
+            Einsetzen(fall.Nummer, getippt);
+            EXPECT_EQ(Zeigt(fall.Nummer), ZahlText(fall.Letzter)) << getippt;
+            EXPECT_EQ(Zeigt(fall.Name), "Letzter");
         }
         EXPECT_EQ(*fall.Anzahl, fall.Letzter);
         EXPECT_EQ(*fall.Cursor, fall.Letzter);
@@ -60,8 +60,8 @@ TEST_F(DatensatzgrenzenForm, AuchDieGrößteNummerFälltAufDenLeerenPlatz)
         SCOPED_TRACE(fall.Fenster);
         ÖffnenBei(fall, 3, 0);
         for (const char *getippt : {"5", "3000000000", "-3000000000", "40000", "-1"}) {
-            Schreiben(fall.Nummer, getippt);
-            EXPECT_EQ(Gezeigt(fall.Nummer), *getippt == '-' ? "0" : "3") << getippt;
+            Einsetzen(fall.Nummer, getippt);
+            EXPECT_EQ(Zeigt(fall.Nummer), *getippt == '-' ? "0" : "3") << getippt;
         }
         EXPECT_EQ(*fall.Anzahl, 3);
     }
@@ -72,11 +72,11 @@ TEST_F(DatensatzgrenzenForm, EinBruchteilHinterDemLeerenPlatzIstSchonZuViel)
     for (const Editorfall &fall : Fälle()) {
         SCOPED_TRACE(fall.Fenster);
         ÖffnenBei(fall, 3, 0);
-        Schreiben(fall.Nummer, "4,4");
-        EXPECT_EQ(Gezeigt(fall.Nummer), "3");
+        Einsetzen(fall.Nummer, "4,4");
+        EXPECT_EQ(Zeigt(fall.Nummer), "3");
         EXPECT_EQ(*fall.Anzahl, 3);
-        Schreiben(fall.Nummer, "0,4");
-        EXPECT_EQ(Gezeigt(fall.Nummer), "0,4");
+        Einsetzen(fall.Nummer, "0,4");
+        EXPECT_EQ(Zeigt(fall.Nummer), "0,4");
     }
 }
 
@@ -90,15 +90,15 @@ TEST_F(DatensatzgrenzenForm, PlusErreichtDenLetztenUndBleibtDort)
                 Meßdiener.Nachname[i] = "Nachname";
         }
         ÖffnenBei(fall, fall.Letzter, fall.Letzter - 1);
-        Drücken("PLUS");
-        EXPECT_EQ(Gezeigt(fall.Nummer), ZahlText(fall.Letzter));
-        EXPECT_EQ(Gezeigt(fall.Name), "Nr. " + ZahlText(fall.Letzter));
+        Auslösen("PLUS");
+        EXPECT_EQ(Zeigt(fall.Nummer), ZahlText(fall.Letzter));
+        EXPECT_EQ(Zeigt(fall.Name), "Nr. " + ZahlText(fall.Letzter));
         EXPECT_EQ(*fall.Cursor, fall.Letzter);
-        Schreiben(fall.Name, "Neuer");
-        Drücken("PLUS");
-        Drehen("DPM", +1);
-        EXPECT_EQ(Gezeigt(fall.Nummer), ZahlText(fall.Letzter));
-        EXPECT_EQ(Gezeigt(fall.Name), "Neuer");
+        Einsetzen(fall.Name, "Neuer");
+        Auslösen("PLUS");
+        DrehungAuslösen("DPM", +1);
+        EXPECT_EQ(Zeigt(fall.Nummer), ZahlText(fall.Letzter));
+        EXPECT_EQ(Zeigt(fall.Name), "Neuer");
         EXPECT_EQ(fall.Bezeichnung(fall.Letzter), "Neuer");
         EXPECT_EQ(*fall.Cursor, fall.Letzter);
         EXPECT_EQ(*fall.Anzahl, fall.Letzter);
@@ -114,13 +114,13 @@ TEST_F(DatensatzgrenzenForm, ÖffnenHinterDemLeerenPlatzErhöhtDieAnzahlUmHöchs
         ÖffnenBei(fall, 3, 4);
         EXPECT_EQ(*fall.Anzahl, 4);
         EXPECT_EQ(*fall.Cursor, 4);
-        EXPECT_EQ(Gezeigt(fall.Nummer), "4");
-        EXPECT_EQ(Gezeigt(fall.Name), "Vierter");
+        EXPECT_EQ(Zeigt(fall.Nummer), "4");
+        EXPECT_EQ(Zeigt(fall.Name), "Vierter");
         ÖffnenBei(fall, 3, 5);
         EXPECT_EQ(*fall.Anzahl, 3);
         EXPECT_EQ(*fall.Cursor, 3);
-        EXPECT_EQ(Gezeigt(fall.Nummer), "3");
-        EXPECT_EQ(Gezeigt(fall.Name), "") << "the blank slot";
+        EXPECT_EQ(Zeigt(fall.Nummer), "3");
+        EXPECT_EQ(Zeigt(fall.Name), "") << "the blank slot";
     }
 }
 
@@ -130,7 +130,7 @@ TEST_F(DatensatzgrenzenForm, DieAnzahlImFensterFolgtDerAngehobenen)
         {"Meßdiener", "MaxIndex"}, {"Gruppe", "Gruppenzahl"}, {"Helfer", "Datensätzig"}};
     for (const Editorfall &fall : Fälle()) {
         ÖffnenBei(fall, 3, 4);
-        EXPECT_EQ(Gezeigt(labels.at(fall.Fenster)), "4") << fall.Fenster;
+        EXPECT_EQ(Zeigt(labels.at(fall.Fenster)), "4") << fall.Fenster;
     }
 }
 
@@ -143,10 +143,10 @@ TEST_F(DatensatzgrenzenForm, ImLeerenPlatzEntstehenMehrAlsDieDialogeErlauben)
             if (fall.Fenster != fenster)
                 continue;
             ÖffnenBei(fall, dialog, dialog);
-            Schreiben(fall.Name, "Noch");
+            Einsetzen(fall.Name, "Noch");
             if (fenster == "Meßdiener")
-                Schreiben("Nachnamen", "Einer");
-            Drücken("Ende");
+                Einsetzen("Nachnamen", "Einer");
+            Auslösen("Ende");
             EXPECT_EQ(*fall.Anzahl, dialog + 1);
             EXPECT_EQ(fall.Bezeichnung(dialog), "Noch");
         }

@@ -30,9 +30,9 @@ class GruppeFormTest : public Personenstand {
 TEST_F(GruppeFormTest, ZeigtNameNummerUndAnzahl)
 {
     Öffnen(1);
-    EXPECT_EQ(Gezeigt("Indexi"), "1");
-    EXPECT_EQ(Gezeigt("GBezeichnung"), "Blau");
-    EXPECT_EQ(Gezeigt("Gruppenzahl"), "3");
+    EXPECT_EQ(Zeigt("Indexi"), "1");
+    EXPECT_EQ(Zeigt("GBezeichnung"), "Blau");
+    EXPECT_EQ(Zeigt("Gruppenzahl"), "3");
     EXPECT_EQ(Stumme(form), std::vector<Text>());
     EXPECT_LE(form->sizeHint().width(), KleinsterBildschirm.width());
 }
@@ -42,19 +42,19 @@ TEST_F(GruppeFormTest, NummerWirdBegrenztUndErhöhtDieAnzahlUmEins)
     Öffnen();
     for (const auto &[getippt, danach] : std::vector<std::pair<Text, Text>>{
              {"5", "3"}, {"-1", "0"}, {"400", "3"}, {"x", "x"}, {"4", "4"}}) {
-        Schreiben("Indexi", getippt);
-        EXPECT_EQ(Gezeigt("Indexi"), danach);
+        Einsetzen("Indexi", getippt);
+        EXPECT_EQ(Zeigt("Indexi"), danach);
     }
     EXPECT_EQ(Gruppe.Anzahl, 4);
-    EXPECT_EQ(Gezeigt("Gruppenzahl"), "4");
+    EXPECT_EQ(Zeigt("Gruppenzahl"), "4");
 }
 
 TEST_F(GruppeFormTest, UmbenennenErreichtDieMeßdiener)
 {
     for (const char *weg : {"PLUS", "MINUS", "Ende"}) {
         Öffnen(1);
-        Schreiben("GBezeichnung", weg);
-        Drücken(weg);
+        Einsetzen("GBezeichnung", weg);
+        Auslösen(weg);
         EXPECT_EQ(Gruppe.Bezeichnung[1], weg);
         EXPECT_EQ(Meßdiener.Gruppe[1], weg);
         EXPECT_EQ(Meßdiener.Gruppe[3], weg);
@@ -65,7 +65,7 @@ TEST_F(GruppeFormTest, UmbenennenErreichtDieMeßdiener)
 TEST_F(GruppeFormTest, DasSchließfeldLäßtDieMeßdienerBeimAltenNamen)
 {
     Öffnen(1);
-    Schreiben("GBezeichnung", "Lila");
+    Einsetzen("GBezeichnung", "Lila");
     form->close();
     EXPECT_EQ(Gruppe.Bezeichnung[1], "Lila");
     EXPECT_EQ(Meßdiener.Gruppe[1], "Blau");
@@ -74,8 +74,8 @@ TEST_F(GruppeFormTest, DasSchließfeldLäßtDieMeßdienerBeimAltenNamen)
 TEST_F(GruppeFormTest, EinVergebenerNameWirdStillZurückgenommen)
 {
     Öffnen(1);
-    Schreiben("GBezeichnung", "Rot");
-    Drücken("PLUS");
+    Einsetzen("GBezeichnung", "Rot");
+    Auslösen("PLUS");
     EXPECT_EQ(Gruppe.Bezeichnung[1], "Blau");
     EXPECT_EQ(Meßdiener.Gruppe[1], "Blau");
     EXPECT_TRUE(GezeigteMeldungen.empty());
@@ -84,12 +84,12 @@ TEST_F(GruppeFormTest, EinVergebenerNameWirdStillZurückgenommen)
 TEST_F(GruppeFormTest, NameImLeerenPlatzWirdGruppeAllerOhneGruppe)
 {
     Öffnen(3);
-    Schreiben("GBezeichnung", "Neu");
-    Drücken("Ende");
+    Einsetzen("GBezeichnung", "Neu");
+    Auslösen("Ende");
     EXPECT_EQ(Gruppe.Anzahl, 4);
     EXPECT_EQ(Meßdiener.Gruppe[2], "Neu");
     Öffnen(4);
-    Schreiben("GBezeichnung", "Noch");
+    Einsetzen("GBezeichnung", "Noch");
     form->close();
     EXPECT_EQ(Gruppe.Anzahl, 5) << "adopted by the window's close too";
 }
@@ -97,27 +97,27 @@ TEST_F(GruppeFormTest, NameImLeerenPlatzWirdGruppeAllerOhneGruppe)
 TEST_F(GruppeFormTest, OhneNamenGehtEsNichtVorwärts)
 {
     Öffnen(3);
-    Drücken("PLUS");
-    EXPECT_EQ(Gezeigt("Indexi"), "3");
-    Drehen("DPM", -1);
-    EXPECT_EQ(Gezeigt("GBezeichnung"), "Grün");
-    Drehen("DPM", +1);
-    EXPECT_EQ(Gezeigt("Indexi"), "3");
+    Auslösen("PLUS");
+    EXPECT_EQ(Zeigt("Indexi"), "3");
+    DrehungAuslösen("DPM", -1);
+    EXPECT_EQ(Zeigt("GBezeichnung"), "Grün");
+    DrehungAuslösen("DPM", +1);
+    EXPECT_EQ(Zeigt("Indexi"), "3");
     Öffnen(0);
-    Drücken("MINUS");
-    EXPECT_EQ(Gezeigt("Indexi"), "0");
+    Auslösen("MINUS");
+    EXPECT_EQ(Zeigt("Indexi"), "0");
     QTest::keyClick(form, Qt::Key_PageUp);
-    EXPECT_EQ(Gezeigt("Indexi"), "1");
+    EXPECT_EQ(Zeigt("Indexi"), "1");
     QTest::keyClick(form, Qt::Key_PageDown);
-    EXPECT_EQ(Gezeigt("Indexi"), "0");
+    EXPECT_EQ(Zeigt("Indexi"), "0");
 }
 
 TEST_F(GruppeFormTest, NummerOhneZahlHältDasSpeichernAuf)
 {
     Öffnen();
-    Schreiben("Indexi", "");
-    Drücken("PLUS");
-    Drücken("Ende");
+    Einsetzen("Indexi", "");
+    Auslösen("PLUS");
+    Auslösen("Ende");
     form->close();
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>(3, "Laufzeitfehler '13': Typen unverträglich"));
     EXPECT_TRUE(form->isVisible());
@@ -126,19 +126,19 @@ TEST_F(GruppeFormTest, NummerOhneZahlHältDasSpeichernAuf)
 TEST_F(GruppeFormTest, LöschenFragtUndNimmtDieGruppeDenMeßdienern)
 {
     Öffnen(1);
-    Drücken("Löschend");
+    Auslösen("Löschend");
     ASSERT_EQ(GestellteFragen.size(), 1U);
     EXPECT_EQ(GestellteFragen[0].Wortlaut, "Wirklich?");
     EXPECT_EQ(GestellteFragen[0].Titel, "Löschen einer Gruppe");
     EXPECT_EQ(Meßdiener.Gruppe[1], "Blau");
     Antworten = {true, true};
-    Drücken("Löschend");
+    Auslösen("Löschend");
     EXPECT_EQ(Gruppe.Anzahl, 2);
-    EXPECT_EQ(Gezeigt("GBezeichnung"), "Grün");
-    EXPECT_EQ(Gezeigt("Gruppenzahl"), "2");
+    EXPECT_EQ(Zeigt("GBezeichnung"), "Grün");
+    EXPECT_EQ(Zeigt("Gruppenzahl"), "2");
     EXPECT_EQ(Meßdiener.Gruppe[1], "");
     Meßdiener.Gruppe[0] = "Grün";
-    Drücken("Löschend"); // with two left the group stays
+    Auslösen("Löschend"); // with two left the group stays
     EXPECT_EQ(Gruppe.Anzahl, 2);
     EXPECT_EQ(Gruppe.Bezeichnung[1], "Grün");
     EXPECT_EQ(Meßdiener.Gruppe[0], "");

@@ -2,19 +2,22 @@
 // rules.
 #pragma once
 
+#include "Formstand.h"
 #include "people/Modellschirm.h"
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QPointer>
 
 #include <deque>
 #include <map>
 
 namespace altardienst {
 
-template <class Form, class Modell> class Lauf : public Fensterstand {
+template <class Form, class Modell> class Lauf : public Formstand<Form> {
   protected:
+    using Formstand<Form>::form;
+    using Formstand<Form>::Antworten;
+    using Formstand<Form>::GezeigteMeldungen;
+
     explicit Lauf(unsigned saat) : wanderer(saat) {}
 
     /// Does one thing to the window and the same to the model, and notes it in `zuletzt`.
@@ -40,7 +43,7 @@ template <class Form, class Modell> class Lauf : public Fensterstand {
             if (verlauf.size() > 8)
                 verlauf.pop_front();
             Vergleichen();
-            if (HasFailure()) {
+            if (this->HasFailure()) {
                 for (const Text &handlung : verlauf)
                     ADD_FAILURE() << handlung;
                 FAIL() << "at step " << schritt;
@@ -50,17 +53,10 @@ template <class Form, class Modell> class Lauf : public Fensterstand {
         }
     }
 
-    QWidget *C(const Text &name)
+    /// Into the box of the window and into that of the model.
+    void BeidenEinsetzen(const Text &box, const Text &text)
     {
-        QWidget *&control = gefunden[name];
-        if (!control)
-            control = Finden(form.data(), name.c_str());
-        return control;
-    }
-    void Drücken(const char *knopf) { static_cast<QAbstractButton *>(C(knopf))->click(); }
-    void Schreiben(const Text &box, const Text &text)
-    {
-        Wanderer::Schreiben(C(box), text);
+        altardienst::Einsetzen(Gemerkt(box), text);
         modell.Setzen(box, text);
         zuletzt += box + "=" + text;
     }
@@ -72,9 +68,9 @@ template <class Form, class Modell> class Lauf : public Fensterstand {
     {
         const bool drehen = wanderer.Wurf(2) == 0;
         if (drehen)
-            Wanderer::Drehen(C("DPM"), richtung);
+            this->DrehungAuslösen("DPM", richtung);
         else
-            Drücken(richtung > 0 ? "PLUS" : "MINUS");
+            this->Auslösen(richtung > 0 ? "PLUS" : "MINUS");
         zuletzt += richtung > 0 ? "vor" : "zurück";
         return drehen;
     }
@@ -83,7 +79,7 @@ template <class Form, class Modell> class Lauf : public Fensterstand {
     {
         const bool ja = wanderer.Wurf(3) > 0;
         Antworten = {ja};
-        Drücken(knopf);
+        this->Auslösen(knopf);
         modell.Löschen(ja);
         zuletzt += "löschen";
     }
@@ -94,15 +90,15 @@ template <class Form, class Modell> class Lauf : public Fensterstand {
                  const std::vector<std::pair<const char *, Text>> &boxen,
                  const std::function<void()> &neu)
     {
-        Drücken(knopf);
-        QWidget *fenster = Fenster(dialog);
+        this->Auslösen(knopf);
+        QWidget *fenster = this->Fenster(dialog);
         zuletzt += "neu";
         for (const auto &[box, text] : boxen) {
-            Finden<QLineEdit>(fenster, box)->setText(Anzeige(text));
+            altardienst::Einsetzen(altardienst::Finden(fenster, box), text);
             zuletzt += " " + text;
         }
         if (wanderer.Wurf(4) > 0) {
-            Finden<QAbstractButton>(fenster, "OKButton")->click();
+            altardienst::Auslösen(altardienst::Finden<QAbstractButton>(fenster, "OKButton"));
             neu();
         }
         if (fenster->isVisible())
@@ -116,7 +112,7 @@ template <class Form, class Modell> class Lauf : public Fensterstand {
         const bool ende = wanderer.Wurf(2) == 0;
         zuletzt += ende ? "Ende" : "schließen";
         if (ende)
-            Drücken("Ende");
+            this->Auslösen("Ende");
         else
             form->close();
         const bool zu = modell.Schließen(ende);
@@ -132,16 +128,24 @@ template <class Form, class Modell> class Lauf : public Fensterstand {
     void SchirmVergleichen()
     {
         for (const auto &[box, text] : modell.Texte)
-            ASSERT_EQ(Wanderer::Lesen(C(box)), text) << box;
+            ASSERT_EQ(altardienst::Zeigt(Gemerkt(box)), text) << box;
         ASSERT_EQ(GezeigteMeldungen, modell.Meldungen);
     }
 
     Wanderer wanderer;
-    QPointer<Form> form;
     Modell modell;
     Text zuletzt;
 
   private:
+    /// Each control is looked for once: a walk asks for it many thousand times.
+    QWidget *Gemerkt(const Text &name)
+    {
+        QWidget *&control = gefunden[name];
+        if (!control)
+            control = this->Finden(name);
+        return control;
+    }
+
     void Öffnen()
     {
         gefunden.clear();

@@ -152,14 +152,14 @@ void LaufGruppeForm::Handlung()
 {
     const int wurf = wanderer.Wurf(100);
     if (wurf < 30)
-        Schreiben("GBezeichnung", wanderer.Eines(namen));
+        BeidenEinsetzen("GBezeichnung", wanderer.Eines(namen));
     else if (wurf < 65) {
         const int richtung = Richtung();
         Geblättert(richtung);
         modell.Blättern(richtung);
     } else if (wurf < 75)
-        Schreiben("Indexi", wurf == 74 ? wanderer.Eines({"", "-1", "x", "101", "3000000000"})
-                                       : ZahlText(wanderer.Wurf(modell.Anzahl + 3)));
+        BeidenEinsetzen("Indexi", wurf == 74 ? wanderer.Eines({"", "-1", "x", "101", "3000000000"})
+                                             : ZahlText(wanderer.Wurf(modell.Anzahl + 3)));
     else if (wurf < 83 || modell.Anzahl > 95)
         Löschen("Löschend");
     else if (wurf < 91) {

@@ -26,7 +26,7 @@ class LaufHelferForm : public Lauf<HelferForm, HelferModell> {
     }
 
     void Handlung() override;
-    void Tippen();
+    void Ausfüllen();
     void Datumsschritt();
     void Neu();
     void Vergleichen() override;
@@ -35,21 +35,21 @@ class LaufHelferForm : public Lauf<HelferForm, HelferModell> {
     const std::array<const char *, 4> nachnamen = {"Adler", "Berg", "Co,hn", ""};
 };
 
-void LaufHelferForm::Tippen()
+void LaufHelferForm::Ausfüllen()
 {
     const auto k = static_cast<std::size_t>(wanderer.Wurf(HelferModell::Felder));
     if (Arten[k] == 'D')
-        Schreiben(Boxen[k],
-                  wanderer.Eines({"01.01.2026", "15.3.2024", "31.12.2023", "30.12.1899",
-                                  "29.02.2024", "24.12.2027", "31.12.1936", "1.1.1935", "x", ""}));
+        BeidenEinsetzen(Boxen[k], wanderer.Eines({"01.01.2026", "15.3.2024", "31.12.2023",
+                                                  "30.12.1899", "29.02.2024", "24.12.2027",
+                                                  "31.12.1936", "1.1.1935", "x", ""}));
     else if (Arten[k] == 'L')
-        Schreiben(Boxen[k], wanderer.Eines({"12345", "-7", "100000", "3000000000", "x"}));
+        BeidenEinsetzen(Boxen[k], wanderer.Eines({"12345", "-7", "100000", "3000000000", "x"}));
     else if (k == 0)
-        Schreiben(Boxen[k], vornamen[static_cast<std::size_t>(wanderer.Wurf(5))]);
+        BeidenEinsetzen(Boxen[k], vornamen[static_cast<std::size_t>(wanderer.Wurf(5))]);
     else if (k == 1)
-        Schreiben(Boxen[k], nachnamen[static_cast<std::size_t>(wanderer.Wurf(4))]);
+        BeidenEinsetzen(Boxen[k], nachnamen[static_cast<std::size_t>(wanderer.Wurf(4))]);
     else
-        Schreiben(Boxen[k], wanderer.Eines({"Kantor", "Weg 1", "a \"b\", c", "ß", ""}));
+        BeidenEinsetzen(Boxen[k], wanderer.Eines({"Kantor", "Weg 1", "a \"b\", c", "ß", ""}));
 }
 
 void LaufHelferForm::Datumsschritt()
@@ -60,11 +60,11 @@ void LaufHelferForm::Datumsschritt()
     const std::array<const char *, 6> knöpfe = {"MTag", "Ptag", "MMon", "PMon", "MJahr", "PJahr"};
     const Text box = feld == 6 ? "Tagen" : Boxen[static_cast<std::size_t>(10 + feld)];
     if (feld == 6 && wanderer.Wurf(2) == 0)
-        Drücken(knöpfe[static_cast<std::size_t>(2 * einheit + (richtung > 0))]);
+        Auslösen(knöpfe[static_cast<std::size_t>(2 * einheit + (richtung > 0))]);
     else
-        Wanderer::Drehen(C(feld == 6 ? "Änderung" + std::to_string(einheit + 1)
-                                     : "ä" + std::to_string(3 * feld + einheit + 1)),
-                         richtung);
+        DrehungAuslösen(feld == 6 ? "Änderung" + std::to_string(einheit + 1)
+                                  : "ä" + std::to_string(3 * feld + einheit + 1),
+                        richtung);
     modell.Schritt(box, einheit, richtung);
     zuletzt += box + (richtung > 0 ? " auf" : " ab");
 }
@@ -81,19 +81,19 @@ void LaufHelferForm::Handlung()
 {
     const int wurf = wanderer.Wurf(100);
     if (wurf < 42 || wurf >= 95)
-        Tippen();
+        Ausfüllen();
     else if (wurf < 52)
         Datumsschritt();
     else if (wurf < 75) {
         const int richtung = Richtung();
         modell.Blättern(richtung, Geblättert(richtung));
     } else if (wurf < 79) {
-        Wanderer::Verlassen(C("PLZetus"));
+        FokusWeg("PLZetus");
         modell.PostleitzahlVerlassen("PLZetus");
         zuletzt += "PLZetus verlassen";
     } else if (wurf < 87)
-        Schreiben("Indexen", wurf == 79 ? wanderer.Eines({"", "-1", "x", "201", "3000000000"})
-                                        : ZahlText(wanderer.Wurf(modell.Anzahl + 3)));
+        BeidenEinsetzen("Indexen", wurf == 79 ? wanderer.Eines({"", "-1", "x", "201", "3000000000"})
+                                              : ZahlText(wanderer.Wurf(modell.Anzahl + 3)));
     else if (wurf < 91 || modell.Anzahl > HelferModell::Sätze - 8)
         Löschen("Datensatzlösch");
     else if (wurf < 93)
@@ -112,8 +112,8 @@ void LaufHelferForm::Vergleichen()
         ASSERT_EQ(Datensatz(Helfer, i), modell.S(i)) << "record " << i;
     ASSERT_EQ(HelferModell::AllePlätze(), modell.Plätze);
     SchirmVergleichen();
-    if (C("PLZetus")->hasFocus()) { // after a save that it stopped
-        C("Vorne")->setFocus();
+    if (Finden("PLZetus")->hasFocus()) { // after a save that it stopped
+        Finden("Vorne")->setFocus();
         modell.PostleitzahlVerlassen("PLZetus");
     }
 }

@@ -31,7 +31,7 @@ class LaufMeßdienerForm : public Lauf<MeßdienerForm, MeßdienerModell> {
     }
 
     void Handlung() override;
-    void Tippen();
+    void Ausfüllen();
     void Datumsschritt();
     void Verlassen();
     void Auswählen();
@@ -43,7 +43,7 @@ class LaufMeßdienerForm : public Lauf<MeßdienerForm, MeßdienerModell> {
     const std::vector<const char *> nachnamen = {"Adler", "Berg", "Co,hn", ""};
 };
 
-void LaufMeßdienerForm::Tippen()
+void LaufMeßdienerForm::Ausfüllen()
 {
     const auto k = static_cast<std::size_t>(wanderer.Wurf(Felder));
     Text text;
@@ -66,7 +66,7 @@ void LaufMeßdienerForm::Tippen()
                : k == 13           ? wanderer.Eines({"jjjjjjjj", "nnnnnnnj", "jnjnjnjn"})
                                    : wanderer.Eines({"Weg 1", "a \"b\", c", "ß", ""});
     }
-    Schreiben(Boxen[k], text);
+    BeidenEinsetzen(Boxen[k], text);
 }
 
 void LaufMeßdienerForm::Datumsschritt()
@@ -80,19 +80,19 @@ void LaufMeßdienerForm::Datumsschritt()
                                                      "mJahr",   "pJahr",   "mmTag",  "pptag",
                                                      "mmMonat", "ppMonat", "mmJahr", "ppJahr"};
         if (wanderer.Wurf(2) == 0)
-            Drücken(knöpfe[static_cast<std::size_t>(feld * 6 + einheit * 2 + (richtung > 0))]);
+            Auslösen(knöpfe[static_cast<std::size_t>(feld * 6 + einheit * 2 + (richtung > 0))]);
         else
-            Wanderer::Drehen(C("Änderung" + std::to_string(feld * 3 + einheit + 1)), richtung);
+            DrehungAuslösen("Änderung" + std::to_string(feld * 3 + einheit + 1), richtung);
         modell.Schritt(box, einheit, richtung);
         zuletzt += box;
     } else if (feld < 12) {
         const int n = feld - 2;
         const Text box = Boxen[static_cast<std::size_t>(14 + n)];
-        Wanderer::Drehen(C("ä" + std::to_string(3 * n + einheit + 1)), richtung);
+        DrehungAuslösen("ä" + std::to_string(3 * n + einheit + 1), richtung);
         modell.Schritt(box, einheit, richtung);
         zuletzt += box;
     } else {
-        Wanderer::Drehen(C("Änderung7"), richtung);
+        DrehungAuslösen("Änderung7", richtung);
         Versuch(
             [&] { modell.Setzen("Groß", ZahlText(Int16Lesen(modell.Texte["Groß"]) + richtung)); });
     }
@@ -103,18 +103,18 @@ void LaufMeßdienerForm::Verlassen()
 {
     switch (wanderer.Wurf(3)) {
     case 0:
-        Wanderer::Verlassen(C("Postleit"));
+        FokusWeg("Postleit");
         return modell.PostleitzahlVerlassen("Postleit");
     case 1:
-        Wanderer::Verlassen(C("Dieenst"));
+        FokusWeg("Dieenst");
         return modell.GruppeVerlassen();
     default:
         if (wanderer.Wurf(2) == 0) {
             const Text text = Text(wanderer.Eines(nachnamen)) + "," + wanderer.Eines(vornamen);
-            Wanderer::Schreiben(C("Partner"), text);
+            Einsetzen("Partner", text);
             modell.Texte["Partner"] = text;
         }
-        Wanderer::Verlassen(C("Partner"));
+        FokusWeg("Partner");
         modell.PartnerPrüfen(false);
         zuletzt += "Partner verlassen";
     }
@@ -122,7 +122,7 @@ void LaufMeßdienerForm::Verlassen()
 
 void LaufMeßdienerForm::Auswählen()
 {
-    auto *partner = Finden<QComboBox>(form, "Partner");
+    auto *partner = Finden<QComboBox>("Partner");
     if (partner->count() == 0)
         return;
     const int index = wanderer.Wurf(partner->count());
@@ -141,11 +141,11 @@ void LaufMeßdienerForm::Flag()
                                                 "Check8", "Check9",  "Check10", "Check11"};
     const int k = wanderer.Wurf(14);
     if (k >= 12) {
-        Drücken(k == 12 ? "Norm" : "Oft");
+        Auslösen(k == 12 ? "Norm" : "Oft");
         return modell.Setzen("Haufigk", k == 12 ? "0" : "2");
     }
-    auto *box = Finden<QCheckBox>(form, boxen[static_cast<std::size_t>(k)]);
-    box->click();
+    auto *box = Finden<QCheckBox>(boxen[static_cast<std::size_t>(k)]);
+    Auslösen(box);
     Text &flags = modell.Texte[k < 6 ? "Dienstmittig" : "Abgewählt"];
     const auto stelle = static_cast<std::size_t>(k % 6);
     if (flags.size() <= stelle)
@@ -170,7 +170,7 @@ void LaufMeßdienerForm::Handlung()
 {
     const int wurf = wanderer.Wurf(100);
     if (wurf < 40 || wurf >= 97)
-        Tippen();
+        Ausfüllen();
     else if (wurf < 50)
         Datumsschritt();
     else if (wurf < 70) {
@@ -185,7 +185,7 @@ void LaufMeßdienerForm::Handlung()
     else if (wurf < 91) {
         const Text nummer = wurf == 86 ? wanderer.Eines({"", "-1", "x", "3000000000"})
                                        : ZahlText(wanderer.Wurf(modell.Anzahl + 3));
-        Schreiben("Datensätze", nummer);
+        BeidenEinsetzen("Datensätze", nummer);
     } else if (wurf < 95 || modell.Anzahl > Sätze - 8)
         Löschen("Lösch");
     else if (wurf < 96)
@@ -202,14 +202,14 @@ void LaufMeßdienerForm::Vergleichen()
     for (int i = 0; i < bis; ++i)
         ASSERT_EQ(Datensatz(Meßdiener, i), modell.S(i)) << "record " << i;
     ASSERT_TRUE(MeßdienerModell::Plätze() == modell.Messen);
-    ASSERT_EQ(static_cast<QRadioButton *>(C("Oft"))->isChecked(), modell.Oft);
-    ASSERT_EQ(static_cast<QCheckBox *>(C("Check3a"))->isChecked(),
+    ASSERT_EQ(static_cast<QRadioButton *>(Finden("Oft"))->isChecked(), modell.Oft);
+    ASSERT_EQ(static_cast<QCheckBox *>(Finden("Check3a"))->isChecked(),
               IstJa(modell.Texte["Dienstmittig"], 6));
-    ASSERT_EQ(static_cast<QCheckBox *>(C("Check6"))->isChecked(),
+    ASSERT_EQ(static_cast<QCheckBox *>(Finden("Check6"))->isChecked(),
               IstJa(modell.Texte["Abgewählt"], 1));
     SchirmVergleichen();
-    if (C("Postleit")->hasFocus()) { // after a save that it stopped
-        C("Vornamen")->setFocus();
+    if (Finden("Postleit")->hasFocus()) { // after a save that it stopped
+        Finden("Vornamen")->setFocus();
         modell.PostleitzahlVerlassen("Postleit");
     }
 }

@@ -30,13 +30,13 @@ class MeßdienerFormTest : public Personenstand {
 TEST_F(MeßdienerFormTest, ÖffnetAufDemCursorUndBegrenztIhn)
 {
     Öffnen(1);
-    EXPECT_EQ(Gezeigt("Datensätze"), "1");
-    EXPECT_EQ(Gezeigt("Vornamen"), "Bea");
-    EXPECT_EQ(Gezeigt("MaxIndex"), "3");
+    EXPECT_EQ(Zeigt("Datensätze"), "1");
+    EXPECT_EQ(Zeigt("Vornamen"), "Bea");
+    EXPECT_EQ(Zeigt("MaxIndex"), "3");
     EXPECT_EQ(Konfig.PlzOrt, "48999 Beispielort");
     delete form;
     Öffnen(9); // beyond the place after the blank slot
-    EXPECT_EQ(Gezeigt("Datensätze"), "3");
+    EXPECT_EQ(Zeigt("Datensätze"), "3");
     EXPECT_EQ(Meßdiener.Cursor, 3);
     EXPECT_EQ(Meßdiener.Anzahl, 3);
 }
@@ -44,29 +44,29 @@ TEST_F(MeßdienerFormTest, ÖffnetAufDemCursorUndBegrenztIhn)
 TEST_F(MeßdienerFormTest, NummerHinterDemLeerenPlatzErhöhtDieAnzahl)
 {
     Öffnen();
-    Schreiben("Datensätze", "5");
-    EXPECT_EQ(Gezeigt("Datensätze"), "3");
+    Einsetzen("Datensätze", "5");
+    EXPECT_EQ(Zeigt("Datensätze"), "3");
     EXPECT_EQ(Meßdiener.Anzahl, 3);
-    Schreiben("Datensätze", "4");
-    EXPECT_EQ(Gezeigt("Datensätze"), "4");
+    Einsetzen("Datensätze", "4");
+    EXPECT_EQ(Zeigt("Datensätze"), "4");
     EXPECT_EQ(Meßdiener.Anzahl, 4);
-    EXPECT_EQ(Gezeigt("MaxIndex"), "4");
-    Schreiben("Datensätze", "-2");
-    EXPECT_EQ(Gezeigt("Datensätze"), "0");
-    Schreiben("Datensätze", "99999");
-    EXPECT_EQ(Gezeigt("Datensätze"), "4");
+    EXPECT_EQ(Zeigt("MaxIndex"), "4");
+    Einsetzen("Datensätze", "-2");
+    EXPECT_EQ(Zeigt("Datensätze"), "0");
+    Einsetzen("Datensätze", "99999");
+    EXPECT_EQ(Zeigt("Datensätze"), "4");
 }
 
 TEST_F(MeßdienerFormTest, EinVergebenerNameWirdStillZurückgenommen)
 {
     Öffnen(1);
-    Schreiben("Vornamen", "Anna");
-    Schreiben("Nachnamen", "Adler");
-    Drücken("PLUS");
+    Einsetzen("Vornamen", "Anna");
+    Einsetzen("Nachnamen", "Adler");
+    Auslösen("PLUS");
     EXPECT_EQ(Meßdiener.Vorname[1], "Bea");
     EXPECT_EQ(Meßdiener.Nachname[1], "Berg");
     EXPECT_TRUE(GezeigteMeldungen.empty());
-    EXPECT_EQ(Gezeigt("Datensätze"), "2");
+    EXPECT_EQ(Zeigt("Datensätze"), "2");
 }
 
 TEST_F(MeßdienerFormTest, OhneBeideNamenSpeichertNurDasSchließfeld)
@@ -76,9 +76,9 @@ TEST_F(MeßdienerFormTest, OhneBeideNamenSpeichertNurDasSchließfeld)
     Messe.DienerNach[0][2] = MesseDienerFest.Nachname[0][3] = Meßdiener.WunschNachname[0] = "Berg";
     const auto leeren = [this] {
         Öffnen(1);
-        Schreiben("Vornamen", "");
-        Schreiben("Nachnamen", "");
-        Schreiben("Straßen", "Gasse 1");
+        Einsetzen("Vornamen", "");
+        Einsetzen("Nachnamen", "");
+        Einsetzen("Straßen", "Gasse 1");
     };
     const auto benannt = [] {
         return Meßdiener.Vorname[1] + Meßdiener.Nachname[1] + Messe.DienerVor[0][2] +
@@ -92,10 +92,10 @@ TEST_F(MeßdienerFormTest, OhneBeideNamenSpeichertNurDasSchließfeld)
         leeren();
         Meßdiener.Straße[1].clear();
         if (const Text knopf = weg; knopf == "auf" || knopf == "ab")
-            Drehen("DPM", knopf == "auf" ? +1 : -1);
+            DrehungAuslösen("DPM", knopf == "auf" ? +1 : -1);
         else
-            Drücken(weg);
-        EXPECT_EQ(Gezeigt("Datensätze"), danach) << "left like any other record";
+            Auslösen(weg);
+        EXPECT_EQ(Zeigt("Datensätze"), danach) << "left like any other record";
         EXPECT_EQ(benannt(), "BeaBergBeaBergBeaBergBeaBerg");
         EXPECT_EQ(Meßdiener.Straße[1], "Gasse 1");
         EXPECT_TRUE(GezeigteMeldungen.empty());
@@ -110,19 +110,19 @@ TEST_F(MeßdienerFormTest, OhneBeideNamenSpeichertNurDasSchließfeld)
 TEST_F(MeßdienerFormTest, DerLeerePlatzSelbstDarfOhneNamenBleiben)
 {
     Öffnen(3);
-    Schreiben("Straßen", "Gasse 1");
-    Drücken("PLUS");
-    EXPECT_EQ(Gezeigt("Datensätze"), "3");
+    Einsetzen("Straßen", "Gasse 1");
+    Auslösen("PLUS");
+    EXPECT_EQ(Zeigt("Datensätze"), "3");
     EXPECT_EQ(Meßdiener.Straße[3], "Gasse 1");
-    Drücken("MINUS");
-    EXPECT_EQ(Gezeigt("Vornamen"), "Cem");
+    Auslösen("MINUS");
+    EXPECT_EQ(Zeigt("Vornamen"), "Cem");
     EXPECT_EQ(Meßdiener.Anzahl, 3);
     Meßdiener.Vorname[3] = "Dora"; // stored, but never added
     Meßdiener.Nachname[3] = "Dorn";
-    Schreiben("Datensätze", "3");
-    Schreiben("Vornamen", "");
-    Schreiben("Nachnamen", "");
-    Drücken("Ende");
+    Einsetzen("Datensätze", "3");
+    Einsetzen("Vornamen", "");
+    Einsetzen("Nachnamen", "");
+    Auslösen("Ende");
     EXPECT_EQ(Meßdiener.Vorname[3] + Meßdiener.Nachname[3], "");
     EXPECT_EQ(Meßdiener.Anzahl, 3);
 }
@@ -136,8 +136,8 @@ TEST_F(MeßdienerFormTest, UmbenennenErreichtAlleNurDasSchließfeldNicht)
         SCOPED_TRACE(weg);
         Öffnen(1);
         const Text neu = Text("Bea ") + weg;
-        Schreiben("Vornamen", neu);
-        Drücken(weg);
+        Einsetzen("Vornamen", neu);
+        Auslösen(weg);
         EXPECT_EQ(Meßdiener.Vorname[1], neu);
         EXPECT_EQ(Messe.DienerVor[0][2], neu);
         EXPECT_EQ(MesseDienerFest.Vorname[0][3], neu);
@@ -146,7 +146,7 @@ TEST_F(MeßdienerFormTest, UmbenennenErreichtAlleNurDasSchließfeldNicht)
     }
     const Text davor = Messe.DienerVor[0][2];
     Öffnen(1);
-    Schreiben("Vornamen", "Schluß");
+    Einsetzen("Vornamen", "Schluß");
     form->close();
     EXPECT_EQ(Meßdiener.Vorname[1], "Schluß");
     EXPECT_EQ(Messe.DienerVor[0][2], davor);
@@ -157,9 +157,9 @@ TEST_F(MeßdienerFormTest, NameImLeerenPlatzFülltKeineLeerenSlots)
 {
     MesseMitDienern(Heute, 3);
     Öffnen(3);
-    Schreiben("Vornamen", "Dora");
-    Schreiben("Nachnamen", "Dorn");
-    Drücken("PLUS");
+    Einsetzen("Vornamen", "Dora");
+    Einsetzen("Nachnamen", "Dorn");
+    Auslösen("PLUS");
     EXPECT_EQ(Messe.DienerVor[0][1], "");
     EXPECT_EQ(Meßdiener.WunschVorname[0], "");
     EXPECT_EQ(Meßdiener.Anzahl, 4) << "leaving the blank slot adopts it";
@@ -168,52 +168,52 @@ TEST_F(MeßdienerFormTest, NameImLeerenPlatzFülltKeineLeerenSlots)
 TEST_F(MeßdienerFormTest, OhneBeideNamenGehtEsNichtVorwärtsAberZurück)
 {
     Öffnen(1);
-    Schreiben("Vornamen", "");
-    Drücken("PLUS");
-    EXPECT_EQ(Gezeigt("Datensätze"), "1");
+    Einsetzen("Vornamen", "");
+    Auslösen("PLUS");
+    EXPECT_EQ(Zeigt("Datensätze"), "1");
     EXPECT_EQ(Meßdiener.Vorname[1], "");
-    Drücken("MINUS");
-    EXPECT_EQ(Gezeigt("Datensätze"), "0");
-    Drücken("MINUS");
-    EXPECT_EQ(Gezeigt("Datensätze"), "0");
+    Auslösen("MINUS");
+    EXPECT_EQ(Zeigt("Datensätze"), "0");
+    Auslösen("MINUS");
+    EXPECT_EQ(Zeigt("Datensätze"), "0");
 }
 
 TEST_F(MeßdienerFormTest, BildtastenDrückenPlusUndMinus)
 {
     Öffnen();
     QTest::keyClick(form, Qt::Key_PageUp);
-    EXPECT_EQ(Gezeigt("Datensätze"), "1");
+    EXPECT_EQ(Zeigt("Datensätze"), "1");
     QTest::keyClick(form, Qt::Key_PageDown);
-    EXPECT_EQ(Gezeigt("Datensätze"), "0");
-    Schreiben("Datensätze", "");
+    EXPECT_EQ(Zeigt("Datensätze"), "0");
+    Einsetzen("Datensätze", "");
     QTest::keyClick(form, Qt::Key_PageUp); // begins at 0
-    EXPECT_EQ(Gezeigt("Datensätze"), "1");
+    EXPECT_EQ(Zeigt("Datensätze"), "1");
     EXPECT_TRUE(GezeigteMeldungen.empty());
-    Schreiben("Datensätze", "");
-    Drehen("DPM", +1);
+    Einsetzen("Datensätze", "");
+    DrehungAuslösen("DPM", +1);
     EXPECT_EQ(GezeigteMeldungen.size(), 1U) << "the spin button does not fill an empty box";
 }
 
 TEST_F(MeßdienerFormTest, DerCursorLäuftBeimBlätternVorausBisZumSchließen)
 {
     Öffnen();
-    Drücken("PLUS");
+    Auslösen("PLUS");
     EXPECT_EQ(Meßdiener.Cursor, 2);
-    Drücken("Ende");
+    Auslösen("Ende");
     EXPECT_EQ(Meßdiener.Cursor, 1);
 }
 
 TEST_F(MeßdienerFormTest, SchließenÜbernimmtDenLeerenPlatzNurMitBeidenNamen)
 {
     Öffnen(3);
-    Schreiben("Nachnamen", "Dorn");
-    Drücken("Ende");
+    Einsetzen("Nachnamen", "Dorn");
+    Auslösen("Ende");
     EXPECT_EQ(Meßdiener.Anzahl, 3);
     EXPECT_EQ(Meßdiener.Cursor, 2);
     delete form;
     Öffnen(3);
-    Schreiben("Vornamen", "Dora");
-    Schreiben("Nachnamen", "Dorn");
+    Einsetzen("Vornamen", "Dora");
+    Einsetzen("Nachnamen", "Dorn");
     form->close();
     EXPECT_EQ(Meßdiener.Anzahl, 4);
     EXPECT_EQ(Meßdiener.Cursor, 3);
@@ -222,17 +222,17 @@ TEST_F(MeßdienerFormTest, SchließenÜbernimmtDenLeerenPlatzNurMitBeidenNamen)
 TEST_F(MeßdienerFormTest, LöschenFragtUndLäßtZweiStehen)
 {
     Öffnen(1);
-    Drücken("Lösch");
+    Auslösen("Lösch");
     ASSERT_EQ(GestellteFragen.size(), 1U);
     EXPECT_EQ(GestellteFragen[0].Wortlaut, "Wirklich?");
     EXPECT_EQ(GestellteFragen[0].Titel, "Löschen eines Meßdieners");
     EXPECT_EQ(Meßdiener.Anzahl, 3);
     Antworten = {true, true};
-    Drücken("Lösch");
+    Auslösen("Lösch");
     EXPECT_EQ(Meßdiener.Anzahl, 2);
-    EXPECT_EQ(Gezeigt("Vornamen"), "Cem");
-    EXPECT_EQ(Gezeigt("MaxIndex"), "2");
-    Drücken("Lösch");
+    EXPECT_EQ(Zeigt("Vornamen"), "Cem");
+    EXPECT_EQ(Zeigt("MaxIndex"), "2");
+    Auslösen("Lösch");
     EXPECT_EQ(GestellteFragen.size(), 3U);
     EXPECT_EQ(Meßdiener.Anzahl, 2);
 }
@@ -241,12 +241,12 @@ TEST_F(MeßdienerFormTest, LöschenAufDemLeerenPlatzNimmtDenLetzten)
 {
     Öffnen(3);
     Antworten = {true};
-    Drücken("Lösch");
+    Auslösen("Lösch");
     EXPECT_EQ(Meßdiener.Anzahl, 2);
     EXPECT_EQ(Meßdiener.Vorname[1], "Bea");
     EXPECT_EQ(Meßdiener.Vorname[2], "");
-    EXPECT_EQ(Gezeigt("Datensätze"), "2");
-    EXPECT_EQ(Gezeigt("Vornamen"), "");
+    EXPECT_EQ(Zeigt("Datensätze"), "2");
+    EXPECT_EQ(Zeigt("Vornamen"), "");
 }
 
 TEST_F(MeßdienerFormTest, WasKeineZahlOderKeinDatumIstHältDasSpeichernAuf)
@@ -254,14 +254,14 @@ TEST_F(MeßdienerFormTest, WasKeineZahlOderKeinDatumIstHältDasSpeichernAuf)
     for (const char *box : {"Postleit", "Gebutag", "Groß", "Eintritttdatum", "Start"}) {
         SCOPED_TRACE(box);
         Öffnen();
-        Schreiben(box, "x");
+        Einsetzen(box, "x");
         GezeigteMeldungen.clear();
-        Drücken("PLUS");
-        Drücken("Ende");
+        Auslösen("PLUS");
+        Auslösen("Ende");
         EXPECT_EQ(GezeigteMeldungen,
                   std::vector<Text>(2, "Laufzeitfehler '13': Typen unverträglich"));
         EXPECT_TRUE(form->isVisible());
-        EXPECT_TRUE(C(box)->hasFocus()) << "where the mistake is";
+        EXPECT_TRUE(Finden(box)->hasFocus()) << "where the mistake is";
         delete form;
     }
 }
@@ -269,32 +269,32 @@ TEST_F(MeßdienerFormTest, WasKeineZahlOderKeinDatumIstHältDasSpeichernAuf)
 TEST_F(MeßdienerFormTest, EineNummerOhneZahlScheitertVorDemSpeichern)
 {
     Öffnen();
-    Schreiben("Vornamen", "Neu");
-    Schreiben("Datensätze", "x");
-    Drücken("Ende");
-    EXPECT_TRUE(C("Datensätze")->hasFocus());
-    FokusAuf(C("Vornamen"));
+    Einsetzen("Vornamen", "Neu");
+    Einsetzen("Datensätze", "x");
+    Auslösen("Ende");
+    EXPECT_TRUE(Finden("Datensätze")->hasFocus());
+    FokusAuf("Vornamen");
     form->close();
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>(2, "Laufzeitfehler '13': Typen unverträglich"));
     EXPECT_EQ(Meßdiener.Vorname[0], "Anna");
     EXPECT_TRUE(form->isVisible());
-    EXPECT_TRUE(C("Datensätze")->hasFocus());
+    EXPECT_TRUE(Finden("Datensätze")->hasFocus());
 }
 
 TEST_F(MeßdienerFormTest, KästchenSchreibenIhreStelle)
 {
     Öffnen();
-    Drücken("Check3a");
-    EXPECT_EQ(Gezeigt("Dienstmittig"), "jjjjjn");
-    Drücken("Check6");
-    EXPECT_EQ(Gezeigt("Abgewählt"), "jnnnnnnn");
-    Schreiben("Abgewählt", "nxjnnjnj");
-    EXPECT_FALSE(Finden<QCheckBox>(form, "Check6")->isChecked());
-    EXPECT_FALSE(Finden<QCheckBox>(form, "Check7")->isChecked());
-    EXPECT_TRUE(Finden<QCheckBox>(form, "Check8")->isChecked());
-    EXPECT_TRUE(Finden<QCheckBox>(form, "Check11")->isChecked());
-    Drücken("Check7");
-    Drücken("PLUS");
+    Auslösen("Check3a");
+    EXPECT_EQ(Zeigt("Dienstmittig"), "jjjjjn");
+    Auslösen("Check6");
+    EXPECT_EQ(Zeigt("Abgewählt"), "jnnnnnnn");
+    Einsetzen("Abgewählt", "nxjnnjnj");
+    EXPECT_FALSE(Finden<QCheckBox>("Check6")->isChecked());
+    EXPECT_FALSE(Finden<QCheckBox>("Check7")->isChecked());
+    EXPECT_TRUE(Finden<QCheckBox>("Check8")->isChecked());
+    EXPECT_TRUE(Finden<QCheckBox>("Check11")->isChecked());
+    Auslösen("Check7");
+    Auslösen("PLUS");
     EXPECT_EQ(Meßdiener.Wochendienst[0], "njjnnjnj") << "positions 7 and 8 pass through";
     EXPECT_EQ(Meßdiener.Qualifikation[0], "jjjjjn");
 }
@@ -303,43 +303,43 @@ TEST_F(MeßdienerFormTest, HäufigkeitAußerhalbDerOptionenBleibtStehen)
 {
     Meßdiener.Häufigkeit[0] = 5;
     Öffnen();
-    EXPECT_TRUE(Finden<QRadioButton>(form, "Oft")->isChecked());
-    Drücken("PLUS");
+    EXPECT_TRUE(Finden<QRadioButton>("Oft")->isChecked());
+    Auslösen("PLUS");
     EXPECT_EQ(Meßdiener.Häufigkeit[0], 5);
-    EXPECT_TRUE(Finden<QRadioButton>(form, "Norm")->isChecked());
-    Drücken("Oft");
-    EXPECT_EQ(Gezeigt("Haufigk"), "2");
-    Drücken("Norm");
-    EXPECT_EQ(Gezeigt("Haufigk"), "0");
-    Schreiben("Haufigk", "25");
-    EXPECT_EQ(Gezeigt("Haufigk"), "20");
+    EXPECT_TRUE(Finden<QRadioButton>("Norm")->isChecked());
+    Auslösen("Oft");
+    EXPECT_EQ(Zeigt("Haufigk"), "2");
+    Auslösen("Norm");
+    EXPECT_EQ(Zeigt("Haufigk"), "0");
+    Einsetzen("Haufigk", "25");
+    EXPECT_EQ(Zeigt("Haufigk"), "20");
 }
 
 TEST_F(MeßdienerFormTest, DieHäufigkeitLäßtSichTippen)
 {
     Öffnen();
-    auto *feld = Finden<QLineEdit>(form, "Haufigk");
+    auto *feld = Finden<QLineEdit>("Haufigk");
     EXPECT_TRUE(feld->isVisible());
     FokusAuf(feld);
     feld->selectAll();
     QTest::keyClicks(feld, "7");
-    EXPECT_TRUE(Finden<QRadioButton>(form, "Oft")->isChecked());
-    Drücken("PLUS");
+    EXPECT_TRUE(Finden<QRadioButton>("Oft")->isChecked());
+    Auslösen("PLUS");
     EXPECT_EQ(Meßdiener.Häufigkeit[0], 7);
-    Schreiben("Haufigk", "x");
-    Drücken("PLUS");
+    Einsetzen("Haufigk", "x");
+    Auslösen("PLUS");
     EXPECT_EQ(GezeigteMeldungen, (std::vector<Text>{"Laufzeitfehler '13': Typen unverträglich"}));
     EXPECT_TRUE(feld->hasFocus());
-    EXPECT_EQ(Gezeigt("Datensätze"), "1");
+    EXPECT_EQ(Zeigt("Datensätze"), "1");
 }
 
 TEST_F(MeßdienerFormTest, AuchEineHäufigkeitVonEinsIstOftUndBleibt)
 {
     Meßdiener.Häufigkeit[0] = 1;
     Öffnen();
-    EXPECT_TRUE(Finden<QRadioButton>(form, "Oft")->isChecked());
-    EXPECT_EQ(Gezeigt("Haufigk"), "1");
-    Drücken("PLUS");
+    EXPECT_TRUE(Finden<QRadioButton>("Oft")->isChecked());
+    EXPECT_EQ(Zeigt("Haufigk"), "1");
+    Auslösen("PLUS");
     EXPECT_EQ(Meßdiener.Häufigkeit[0], 1);
 }
 
@@ -349,7 +349,7 @@ TEST_F(MeßdienerFormTest, DieBestätigungDrucktWasAufDemSchirmSteht)
     Gruppe.Bezeichnung[0] = "Rot";
     Gruppe.Anzahl = 1;
     Öffnen();
-    Schreiben("Gebutag", "03.04.2015"); // not the day printed
+    Einsetzen("Gebutag", "03.04.2015"); // not the day printed
     for (const auto &[box, text] : std::initializer_list<std::pair<const char *, const char *>>{
              {"Vornamen", "Änne"},
              {"Nachnamen", "Öhler"},
@@ -358,9 +358,9 @@ TEST_F(MeßdienerFormTest, DieBestätigungDrucktWasAufDemSchirmSteht)
              {"Gemeinde", "Neustadt"},
              {"Eintritttdatum", "05.06.2026"},
              {"Dieenst", "Rot"}})
-        Schreiben(box, text);
+        Einsetzen(box, text);
     const auto gespeichert = Datensatz(Meßdiener, 0);
-    Drücken("Aufnahmebestätigung");
+    Auslösen("Aufnahmebestätigung");
     std::vector<Text> gedruckt;
     for (const Text &zeile : Papier.Zeilen)
         if (zeile.starts_with("Print \"") && zeile.size() > 8)

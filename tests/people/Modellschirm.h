@@ -6,8 +6,7 @@
 #include "core/Umwandlung.h"
 #include "platform/Uhr.h"
 
-#include <QComboBox>
-#include <QFocusEvent>
+#include <QCoreApplication>
 
 #include <map>
 #include <random>
@@ -202,7 +201,7 @@ template <class Tabelle> std::vector<std::vector<Text>> AlleDatensätze(Tabelle 
     return alle;
 }
 
-/// Drives a window fast: no sleeping, no event loop.
+/// Draws the steps of a walk, which runs without an event loop.
 class Wanderer {
   public:
     explicit Wanderer(unsigned saat) : würfel(saat) {}
@@ -213,28 +212,6 @@ class Wanderer {
         return aus[static_cast<std::size_t>(Wurf(static_cast<int>(aus.size())))];
     }
 
-    static void Schreiben(QWidget *control, const Text &text)
-    {
-        if (auto *wahl = qobject_cast<QComboBox *>(control))
-            wahl->setEditText(Anzeige(text));
-        else
-            static_cast<QLineEdit *>(control)->setText(Anzeige(text));
-    }
-    static Text Lesen(QWidget *control)
-    {
-        if (auto *wahl = qobject_cast<QComboBox *>(control))
-            return wahl->currentText().toStdString();
-        return Aufschrift(control);
-    }
-    static void Verlassen(QWidget *control)
-    {
-        QFocusEvent ereignis(QEvent::FocusOut, Qt::TabFocusReason);
-        QApplication::sendEvent(control, &ereignis);
-    }
-    static void Drehen(QWidget *spin, int richtung)
-    {
-        Finden<QAbstractButton>(spin, richtung > 0 ? "auf" : "ab")->click();
-    }
     static void Aufräumen() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
   private:

@@ -26,7 +26,7 @@ class NeuGruppeFormTest : public Personenstand {
         form = Fenster("NeuGruppe");
         ASSERT_TRUE(QTest::qWaitForWindowActive(form));
     }
-    void OK() { Klick(C("OKButton")); }
+    void OK() { Klick("OKButton"); }
 
     QPointer<GruppeForm> editor;
 };
@@ -35,21 +35,21 @@ TEST_F(NeuGruppeFormTest, HängtDieNeueAnUndZeigtDieAlte)
 {
     Öffnen();
     EXPECT_FALSE(editor->isVisible());
-    EXPECT_EQ(Gezeigt("GBezeichnung"), "Neue Gruppe");
+    EXPECT_EQ(Zeigt("GBezeichnung"), "Neue Gruppe");
     OK();
     EXPECT_EQ(Gruppe.Bezeichnung[3], "Neue Gruppe");
     EXPECT_EQ(Gruppe.Anzahl, 4);
     EXPECT_TRUE(editor->isVisible());
-    EXPECT_EQ(Aufschrift(Finden(editor, "GBezeichnung")), "Blau");
-    EXPECT_EQ(Aufschrift(Finden(editor, "Gruppenzahl")), "4");
+    EXPECT_EQ(Zeigt(Finden(editor, "GBezeichnung")), "Blau");
+    EXPECT_EQ(Zeigt(Finden(editor, "Gruppenzahl")), "4");
 }
 
 TEST_F(NeuGruppeFormTest, EingabetasteLegtAn)
 {
     Öffnen();
-    EXPECT_TRUE(C("GBezeichnung")->hasFocus());
-    QTest::keyClicks(C("GBezeichnung"), "Lila"); // the preset name is selected
-    QTest::keyClick(C("GBezeichnung"), Qt::Key_Return);
+    EXPECT_TRUE(Finden("GBezeichnung")->hasFocus());
+    QTest::keyClicks(Finden("GBezeichnung"), "Lila"); // the preset name is selected
+    QTest::keyClick(Finden("GBezeichnung"), Qt::Key_Return);
     EXPECT_EQ(Gruppe.Anzahl, 4);
     EXPECT_EQ(Gruppe.Bezeichnung[3], "Lila");
     EXPECT_TRUE(editor->isVisible());
@@ -61,13 +61,13 @@ TEST_F(NeuGruppeFormTest, LehntDoppelteAb)
     Öffnen();
     for (const char *name : {"Rot", "Grün"}) {
         GezeigteMeldungen.clear();
-        Schreiben("GBezeichnung", name);
+        Einsetzen("GBezeichnung", name);
         OK();
         EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Doppelt eingeben! Nicht mit mir!!!!!"});
         EXPECT_TRUE(form->isVisible());
         EXPECT_EQ(Gruppe.Anzahl, 3);
     }
-    Schreiben("GBezeichnung", "Leer");
+    Einsetzen("GBezeichnung", "Leer");
     OK();
     EXPECT_EQ(Gruppe.Anzahl, 5) << "the name in the blank slot stays a group of its own";
 }
@@ -76,13 +76,13 @@ TEST_F(NeuGruppeFormTest, Nimmt60UndNichtMehr)
 {
     Gruppe.Anzahl = 59;
     Öffnen();
-    Schreiben("GBezeichnung", "Die 60.");
+    Einsetzen("GBezeichnung", "Die 60.");
     OK();
     EXPECT_EQ(Gruppe.Anzahl, 60);
     EXPECT_EQ(Gruppe.Bezeichnung[59], "Die 60.");
     EXPECT_TRUE(GezeigteMeldungen.empty());
     Öffnen();
-    Schreiben("GBezeichnung", "Die 61.");
+    Einsetzen("GBezeichnung", "Die 61.");
     OK();
     EXPECT_EQ(GezeigteMeldungen,
               std::vector<Text>{"Maximale Anzahl Datensätze für Gruppen erreicht!!"});
@@ -95,7 +95,7 @@ TEST_F(NeuGruppeFormTest, DieGrenzeGiltVorDemDoppelten)
 {
     Gruppe.Anzahl = 60;
     Öffnen();
-    Schreiben("GBezeichnung", "Rot");
+    Einsetzen("GBezeichnung", "Rot");
     OK();
     EXPECT_EQ(GezeigteMeldungen,
               std::vector<Text>{"Maximale Anzahl Datensätze für Gruppen erreicht!!"});
@@ -106,7 +106,7 @@ TEST_F(NeuGruppeFormTest, AbbrechenUndSchließenVerwerfen)
     for (const bool abbrechen : {true, false}) {
         Öffnen();
         if (abbrechen)
-            Klick(C("CancelButton"));
+            Klick("CancelButton");
         else
             form->close();
         EXPECT_TRUE(editor->isVisible());

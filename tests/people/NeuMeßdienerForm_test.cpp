@@ -17,12 +17,12 @@ class NeuMeßdienerFormTest : public Personenstand {
         MeßdienerAnlegen("Bea", "Berg");
         form = new MeßdienerForm;
         Zeigen(form);
-        Drücken("NeuDiener");
+        Auslösen("NeuDiener");
         neu = Fenster("NeuMeßdiener");
     }
 
-    void N(const char *box, const char *text) { Wanderer::Schreiben(Finden(neu, box), text); }
-    Text NText(const char *box) { return Wanderer::Lesen(Finden(neu, box)); }
+    void NeuEinsetzen(const char *box, const char *text) { Einsetzen(Finden(neu, box), text); }
+    Text NeuZeigt(const char *box) { return Zeigt(Finden(neu, box)); }
     void OK() { Klick(Finden(neu, "OKButton")); }
 
     QPointer<QWidget> neu;
@@ -32,11 +32,11 @@ TEST_F(NeuMeßdienerFormTest, SchlägtOrtHeuteUndGrößeVor)
 {
     EXPECT_FALSE(form->isVisible());
     EXPECT_EQ(neu->windowTitle(), "Neuer Meßdiener");
-    EXPECT_EQ(NText("Postleit"), "48999");
-    EXPECT_EQ(NText("Gemeinde"), "Beispielort");
-    EXPECT_EQ(NText("Gebutag"), "21.11.2026");
-    EXPECT_EQ(NText("Eintritttdatum"), "21.11.2026");
-    EXPECT_EQ(NText("Groß"), "150");
+    EXPECT_EQ(NeuZeigt("Postleit"), "48999");
+    EXPECT_EQ(NeuZeigt("Gemeinde"), "Beispielort");
+    EXPECT_EQ(NeuZeigt("Gebutag"), "21.11.2026");
+    EXPECT_EQ(NeuZeigt("Eintritttdatum"), "21.11.2026");
+    EXPECT_EQ(NeuZeigt("Groß"), "150");
     EXPECT_EQ(Finden<QComboBox>(neu, "Dieenst")->count(), 2);
     EXPECT_EQ(Finden<QComboBox>(neu, "Geschl")->count(), 2);
     EXPECT_EQ(Stumme(neu), std::vector<Text>());
@@ -47,21 +47,21 @@ TEST_F(NeuMeßdienerFormTest, ErgänztEinenZuKurzenOrt)
 {
     neu->close();
     Konfig.PlzOrt = "1234567"; // since the editor was opened
-    Drücken("NeuDiener");
+    Auslösen("NeuDiener");
     neu = Fenster("NeuMeßdiener");
     EXPECT_EQ(Konfig.PlzOrt, "48999 Beispielort");
-    EXPECT_EQ(NText("Postleit"), "48999");
-    EXPECT_EQ(NText("Gemeinde"), "Beispielort");
+    EXPECT_EQ(NeuZeigt("Postleit"), "48999");
+    EXPECT_EQ(NeuZeigt("Gemeinde"), "Beispielort");
 }
 
 TEST_F(NeuMeßdienerFormTest, HängtDenNeuenAnUndZeigtDenAltenDatensatz)
 {
     Meßdiener.Häufigkeit[2] = 2; // what the slot holds
-    N("Vornamen", "Cem");
-    N("Nachnamen", "Cohn");
-    N("Gebutag", "1.2.2015");
-    N("Geschl", "männlich");
-    N("Dieenst", "Rot");
+    NeuEinsetzen("Vornamen", "Cem");
+    NeuEinsetzen("Nachnamen", "Cohn");
+    NeuEinsetzen("Gebutag", "1.2.2015");
+    NeuEinsetzen("Geschl", "männlich");
+    NeuEinsetzen("Dieenst", "Rot");
     OK();
     EXPECT_EQ(Meßdiener.Anzahl, 3);
     EXPECT_EQ(
@@ -73,15 +73,15 @@ TEST_F(NeuMeßdienerFormTest, HängtDenNeuenAnUndZeigtDenAltenDatensatz)
                            "30.12.1899", "30.12.1899", "30.12.1899", "30.12.1899", "",
                            "",           "2"}));
     EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(Gezeigt("Vornamen"), "Anna");
-    EXPECT_EQ(Gezeigt("MaxIndex"), "3");
-    EXPECT_EQ(Finden<QComboBox>(form, "Partner")->itemText(2), "Cohn,Cem");
+    EXPECT_EQ(Zeigt("Vornamen"), "Anna");
+    EXPECT_EQ(Zeigt("MaxIndex"), "3");
+    EXPECT_EQ(Finden<QComboBox>("Partner")->itemText(2), "Cohn,Cem");
 }
 
 TEST_F(NeuMeßdienerFormTest, LehntDoppelteUndZuVieleAb)
 {
-    N("Vornamen", "Bea");
-    N("Nachnamen", "Berg");
+    NeuEinsetzen("Vornamen", "Bea");
+    NeuEinsetzen("Nachnamen", "Berg");
     OK();
     EXPECT_EQ(GezeigteMeldungen.back(), "Doppelt eingeben! Nicht mit mir!!!!!");
     Meßdiener.Anzahl = 200;
@@ -89,23 +89,23 @@ TEST_F(NeuMeßdienerFormTest, LehntDoppelteUndZuVieleAb)
     EXPECT_EQ(GezeigteMeldungen.back(), "Maximale Anzahl Datensätze für Meßdiener erreicht!");
     EXPECT_TRUE(neu->isVisible());
     Meßdiener.Anzahl = 199;
-    N("Nachnamen", "Neu");
+    NeuEinsetzen("Nachnamen", "Neu");
     OK();
     EXPECT_EQ(Meßdiener.Anzahl, 200);
 }
 
 TEST_F(NeuMeßdienerFormTest, KlickUndEingabetasteSchreibenDasDatumUm)
 {
-    N("Gebutag", "1.2.15");
-    EXPECT_EQ(NText("Gebutag"), "1.2.15") << "not while typing";
+    NeuEinsetzen("Gebutag", "1.2.15");
+    EXPECT_EQ(NeuZeigt("Gebutag"), "1.2.15") << "not while typing";
     Klick(Finden(neu, "Gebutag"));
-    EXPECT_EQ(NText("Gebutag"), "01.02.2015");
-    N("Eintritttdatum", "3.4.16");
+    EXPECT_EQ(NeuZeigt("Gebutag"), "01.02.2015");
+    NeuEinsetzen("Eintritttdatum", "3.4.16");
     QTest::keyClick(Finden(neu, "Eintritttdatum"), Qt::Key_Return);
-    EXPECT_EQ(NText("Eintritttdatum"), "03.04.2016");
-    N("Gebutag", "x");
+    EXPECT_EQ(NeuZeigt("Eintritttdatum"), "03.04.2016");
+    NeuEinsetzen("Gebutag", "x");
     Klick(Finden(neu, "Gebutag"));
-    EXPECT_EQ(NText("Gebutag"), "x");
+    EXPECT_EQ(NeuZeigt("Gebutag"), "x");
     EXPECT_TRUE(GezeigteMeldungen.empty());
     OK();
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Laufzeitfehler '13': Typen unverträglich"});
@@ -135,26 +135,26 @@ TEST_F(NeuMeßdienerFormTest, WasVorDemSchlechtenDatumStehtIstSchonGeschrieben)
 TEST_F(NeuMeßdienerFormTest, SpinButtonsUndGrenzen)
 {
     for (const char *spin : {"Änderung1", "Änderung2", "Änderung3"})
-        Wanderer::Drehen(Finden(neu, spin), +1);
-    EXPECT_EQ(NText("Gebutag"), "22.12.2027");
+        DrehungAuslösen(Finden(neu, spin), +1);
+    EXPECT_EQ(NeuZeigt("Gebutag"), "22.12.2027");
     for (const char *spin : {"Änderung4", "Änderung5", "Änderung6"})
-        Wanderer::Drehen(Finden(neu, spin), -1);
-    EXPECT_EQ(NText("Eintritttdatum"), "20.10.2025");
-    Wanderer::Drehen(Finden(neu, "Änderung7"), -1);
-    EXPECT_EQ(NText("Groß"), "149");
-    N("Groß", "3");
-    EXPECT_EQ(NText("Groß"), "5");
-    N("Postleit", "100000");
-    Wanderer::Verlassen(Finden(neu, "Postleit"));
-    EXPECT_EQ(NText("Postleit"), "48999");
+        DrehungAuslösen(Finden(neu, spin), -1);
+    EXPECT_EQ(NeuZeigt("Eintritttdatum"), "20.10.2025");
+    DrehungAuslösen(Finden(neu, "Änderung7"), -1);
+    EXPECT_EQ(NeuZeigt("Groß"), "149");
+    NeuEinsetzen("Groß", "3");
+    EXPECT_EQ(NeuZeigt("Groß"), "5");
+    NeuEinsetzen("Postleit", "100000");
+    FokusWeg(Finden(neu, "Postleit"));
+    EXPECT_EQ(NeuZeigt("Postleit"), "48999");
 }
 
 TEST_F(NeuMeßdienerFormTest, AbbrechenUndSchließenVerwerfen)
 {
-    N("Vornamen", "Cem");
+    NeuEinsetzen("Vornamen", "Cem");
     Klick(Finden(neu, "CancelButton"));
     EXPECT_TRUE(form->isVisible());
-    Drücken("NeuDiener");
+    Auslösen("NeuDiener");
     Fenster("NeuMeßdiener")->close();
     EXPECT_TRUE(form->isVisible());
     EXPECT_EQ(Meßdiener.Anzahl, 2);

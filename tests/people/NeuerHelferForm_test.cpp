@@ -26,8 +26,8 @@ class NeuerHelferFormTest : public Personenstand {
         form = Fenster("NeuerHelfer");
         ASSERT_TRUE(QTest::qWaitForWindowActive(form));
     }
-    void OK() { Klick(C("OKButton")); }
-    Text ImEditor(const char *name) { return Wanderer::Lesen(Finden(editor, name)); }
+    void OK() { Klick("OKButton"); }
+    Text ImEditor(const char *name) { return Zeigt(Finden(editor, name)); }
 
     QPointer<HelferForm> editor;
 };
@@ -37,11 +37,11 @@ TEST_F(NeuerHelferFormTest, SchlägtOrtUndHeuteVor)
     Konfig.PlzOrt = "12345 Neustadt";
     Öffnen();
     EXPECT_FALSE(editor->isVisible());
-    EXPECT_EQ(Gezeigt("PLZetus"), "12345");
-    EXPECT_EQ(Gezeigt("Wohort"), "Neustadt");
-    EXPECT_EQ(Gezeigt("Tagen"), "21.11.2026");
+    EXPECT_EQ(Zeigt("PLZetus"), "12345");
+    EXPECT_EQ(Zeigt("Wohort"), "Neustadt");
+    EXPECT_EQ(Zeigt("Tagen"), "21.11.2026");
     for (const char *leer : {"Vorne", "Hinten", "Weg", "Anruf", "Mailen", "Dient", "Dient2"})
-        EXPECT_EQ(Gezeigt(leer), "") << leer;
+        EXPECT_EQ(Zeigt(leer), "") << leer;
 }
 
 TEST_F(NeuerHelferFormTest, ErgänztEinenZuKurzenOrt)
@@ -49,35 +49,35 @@ TEST_F(NeuerHelferFormTest, ErgänztEinenZuKurzenOrt)
     Konfig.PlzOrt = "1234567"; // since the editor was opened
     Öffnen();
     EXPECT_EQ(Konfig.PlzOrt, "48999 Beispielort");
-    EXPECT_EQ(Gezeigt("PLZetus"), "48999");
-    EXPECT_EQ(Gezeigt("Wohort"), "Beispielort");
+    EXPECT_EQ(Zeigt("PLZetus"), "48999");
+    EXPECT_EQ(Zeigt("Wohort"), "Beispielort");
 }
 
 TEST_F(NeuerHelferFormTest, SpinButtonsDrehenTagMonatUndJahr)
 {
     Öffnen();
-    Schreiben("Tagen", "31.01.2000");
-    Drehen("Änderung2", +1);
-    EXPECT_EQ(Gezeigt("Tagen"), "29.02.2000");
-    EXPECT_TRUE(C("Tagen")->hasFocus());
-    Drehen("Änderung3", +1);
-    EXPECT_EQ(Gezeigt("Tagen"), "28.02.2001");
-    Drehen("Änderung1", +1);
-    EXPECT_EQ(Gezeigt("Tagen"), "01.03.2001");
+    Einsetzen("Tagen", "31.01.2000");
+    DrehungAuslösen("Änderung2", +1);
+    EXPECT_EQ(Zeigt("Tagen"), "29.02.2000");
+    EXPECT_TRUE(Finden("Tagen")->hasFocus());
+    DrehungAuslösen("Änderung3", +1);
+    EXPECT_EQ(Zeigt("Tagen"), "28.02.2001");
+    DrehungAuslösen("Änderung1", +1);
+    EXPECT_EQ(Zeigt("Tagen"), "01.03.2001");
     for (const char *spin : {"Änderung1", "Änderung2", "Änderung3"})
-        Drehen(spin, -1);
-    EXPECT_EQ(Gezeigt("Tagen"), "28.01.2000");
+        DrehungAuslösen(spin, -1);
+    EXPECT_EQ(Zeigt("Tagen"), "28.01.2000");
 }
 
 TEST_F(NeuerHelferFormTest, GeburtstagVorMehrAls90KalenderjahrenWirdHeute)
 {
     Öffnen();
-    Schreiben("Tagen", "01.01.1936");
-    EXPECT_EQ(Gezeigt("Tagen"), "01.01.1936");
-    Schreiben("Tagen", "31.12.1935");
-    EXPECT_EQ(Gezeigt("Tagen"), "21.11.2026");
-    Schreiben("Tagen", "1.2.80"); // rewritten on every change, unlike the dates of a new server
-    EXPECT_EQ(Gezeigt("Tagen"), "01.02.1980");
+    Einsetzen("Tagen", "01.01.1936");
+    EXPECT_EQ(Zeigt("Tagen"), "01.01.1936");
+    Einsetzen("Tagen", "31.12.1935");
+    EXPECT_EQ(Zeigt("Tagen"), "21.11.2026");
+    Einsetzen("Tagen", "1.2.80"); // rewritten on every change, unlike the dates of a new server
+    EXPECT_EQ(Zeigt("Tagen"), "01.02.1980");
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
@@ -90,11 +90,11 @@ TEST_F(NeuerHelferFormTest, PostleitzahlWirdBeimVerlassenBegrenzt)
                                                                             {"100000", "48999"},
                                                                             {"3000000000", "48999"},
                                                                             {"abc", "abc"}}) {
-        FokusAuf(C("PLZetus"));
-        Schreiben("PLZetus", getippt);
-        EXPECT_EQ(Gezeigt("PLZetus"), getippt) << "not while typing";
-        FokusAuf(C("Wohort"));
-        EXPECT_EQ(Gezeigt("PLZetus"), danach);
+        FokusAuf("PLZetus");
+        Einsetzen("PLZetus", getippt);
+        EXPECT_EQ(Zeigt("PLZetus"), getippt) << "not while typing";
+        FokusAuf("Wohort");
+        EXPECT_EQ(Zeigt("PLZetus"), danach);
     }
 }
 
@@ -110,7 +110,7 @@ TEST_F(NeuerHelferFormTest, HängtDenNeuenAnUndZeigtDenAltenDatensatz)
                                                                         {"Tagen", "1.2.80"},
                                                                         {"Dient", "Küster"},
                                                                         {"Dient2", "Kantor"}})
-        Schreiben(box, text);
+        Einsetzen(box, text);
     OK();
     EXPECT_EQ(Helfer.Anzahl, 4);
     EXPECT_EQ(Datensatz(Helfer, 3),
@@ -126,13 +126,13 @@ TEST_F(NeuerHelferFormTest, Nimmt200UndNichtMehr)
 {
     Helfer.Anzahl = 199;
     Öffnen();
-    Schreiben("Vorne", "Der 200.");
+    Einsetzen("Vorne", "Der 200.");
     OK();
     EXPECT_EQ(Helfer.Anzahl, 200);
     EXPECT_EQ(Helfer.Vorname[199], "Der 200.");
     EXPECT_TRUE(GezeigteMeldungen.empty());
     Öffnen();
-    Schreiben("Vorne", "Der 201.");
+    Einsetzen("Vorne", "Der 201.");
     OK();
     EXPECT_EQ(GezeigteMeldungen,
               std::vector<Text>{"Maximale Anzahl von Datensätzen für Helfer erreicht!"});
@@ -145,8 +145,8 @@ TEST_F(NeuerHelferFormTest, DieGrenzeGiltVorDemDoppelten)
 {
     Helfer.Anzahl = 200;
     Öffnen();
-    Schreiben("Vorne", "Anna");
-    Schreiben("Hinten", "Adler");
+    Einsetzen("Vorne", "Anna");
+    Einsetzen("Hinten", "Adler");
     OK();
     EXPECT_EQ(GezeigteMeldungen,
               std::vector<Text>{"Maximale Anzahl von Datensätzen für Helfer erreicht!"});
@@ -158,14 +158,14 @@ TEST_F(NeuerHelferFormTest, LehntDoppelteAb)
     Öffnen();
     for (const auto &[vor, nach] : {std::pair("Anna", "Adler"), {"Cem", "Cohn"}}) {
         GezeigteMeldungen.clear();
-        Schreiben("Vorne", vor);
-        Schreiben("Hinten", nach);
+        Einsetzen("Vorne", vor);
+        Einsetzen("Hinten", nach);
         OK();
         EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Doppelt eingeben! Nicht mit mir!!!!!"});
         EXPECT_TRUE(form->isVisible());
     }
-    Schreiben("Vorne", "Leer");
-    Schreiben("Hinten", "");
+    Einsetzen("Vorne", "Leer");
+    Einsetzen("Hinten", "");
     OK();
     EXPECT_EQ(Helfer.Anzahl, 4);
 }
@@ -174,14 +174,14 @@ TEST_F(NeuerHelferFormTest, WasSichNichtUmwandelnLäßtHältDenDialogOffen)
 {
     for (const char *box : {"PLZetus", "Tagen"}) {
         Öffnen();
-        Schreiben(box, "x");
+        Einsetzen(box, "x");
         OK();
         EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Laufzeitfehler '13': Typen unverträglich"});
         EXPECT_TRUE(form->isVisible());
-        EXPECT_TRUE(C(box)->hasFocus()) << box;
+        EXPECT_TRUE(Finden(box)->hasFocus()) << box;
         EXPECT_EQ(Helfer.Anzahl, 3);
         GezeigteMeldungen.clear();
-        Klick(C("CancelButton"));
+        Klick("CancelButton");
     }
 }
 
@@ -189,9 +189,9 @@ TEST_F(NeuerHelferFormTest, AbbrechenUndSchließenVerwerfen)
 {
     for (const bool abbrechen : {true, false}) {
         Öffnen();
-        Schreiben("Vorne", "Dora");
+        Einsetzen("Vorne", "Dora");
         if (abbrechen)
-            Klick(C("CancelButton"));
+            Klick("CancelButton");
         else
             form->close();
         EXPECT_TRUE(editor->isVisible());

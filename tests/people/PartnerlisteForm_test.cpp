@@ -34,61 +34,61 @@ TEST_F(PartnerlisteForm, FolgtDemBlättern)
 {
     for (const char *weg : {"PLUS", "MINUS"}) {
         SCOPED_TRACE(weg);
-        Schreiben("Datensätze", "1");
-        Schreiben("Vornamen", weg);
-        Drücken(weg);
+        Einsetzen("Datensätze", "1");
+        Einsetzen("Vornamen", weg);
+        Auslösen(weg);
         EXPECT_EQ(Liste("Partner"), (Namen{"Cohn,Cem", Text("Adler,") + weg, "Berg,Bea"}));
-        Schreiben("Datensätze", "1");
-        Schreiben("Vornamen", "Anna");
-        Drehen("DPM", *weg == 'P' ? +1 : -1);
+        Einsetzen("Datensätze", "1");
+        Einsetzen("Vornamen", "Anna");
+        DrehungAuslösen("DPM", *weg == 'P' ? +1 : -1);
         EXPECT_EQ(Liste("Partner"), (Namen{"Cohn,Cem", "Adler,Anna", "Berg,Bea"}));
     }
-    Schreiben("Datensätze", "2");
-    Schreiben("Vornamen", "Nora");
-    Drücken("PLUS");
+    Einsetzen("Datensätze", "2");
+    Einsetzen("Vornamen", "Nora");
+    Auslösen("PLUS");
     EXPECT_EQ(Liste("Partner"), (Namen{"Cohn,Cem", "Adler,Anna", "Namenlos,Nora", "Berg,Bea"}));
 }
 
 TEST_F(PartnerlisteForm, VerliertDenGelöschten)
 {
-    Schreiben("Datensätze", "1");
+    Einsetzen("Datensätze", "1");
     Antworten = {true};
-    Drücken("Lösch");
+    Auslösen("Lösch");
     EXPECT_EQ(Liste("Partner"), (Namen{"Cohn,Cem", "Berg,Bea"}));
 }
 
 TEST_F(PartnerlisteForm, BekommtDenNeuenAnsEnde)
 {
     Meßdiener.Vorname[5] = Meßdiener.Nachname[5] = "";
-    Drücken("NeuDiener");
+    Auslösen("NeuDiener");
     QWidget *neu = Fenster("NeuMeßdiener");
-    Wanderer::Schreiben(Finden(neu, "Vornamen"), "Aaron");
-    Wanderer::Schreiben(Finden(neu, "Nachnamen"), "Aal");
+    Einsetzen(Finden(neu, "Vornamen"), "Aaron");
+    Einsetzen(Finden(neu, "Nachnamen"), "Aal");
     Klick(Finden(neu, "OKButton"));
     EXPECT_EQ(Liste("Partner"), (Namen{"Cohn,Cem", "Adler,Anna", "Berg,Bea", "Aal,Aaron"}));
 }
 
 TEST_F(PartnerlisteForm, TastenWählenAusDerListe)
 {
-    FokusAuf(C("Partner"));
-    QTest::keyClick(C("Partner"), Qt::Key_Down);
+    FokusAuf("Partner");
+    QTest::keyClick(Finden("Partner"), Qt::Key_Down);
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Ein und dieselbe Person!!!"})
         << "the first of the list is the server himself";
-    EXPECT_EQ(Gezeigt("Partner"), "");
-    FokusAuf(C("Datensätze"));
-    Schreiben("Datensätze", "3");
-    FokusAuf(C("Partner"));
+    EXPECT_EQ(Zeigt("Partner"), "");
+    FokusAuf("Datensätze");
+    Einsetzen("Datensätze", "3");
+    FokusAuf("Partner");
     GezeigteMeldungen.clear();
-    QTest::keyClick(C("Partner"), Qt::Key_Down);
-    EXPECT_EQ(Gezeigt("Partner"), "Cohn,Cem");
-    EXPECT_EQ(Gezeigt("NName"), "Cohn");
-    EXPECT_EQ(Gezeigt("VName"), "Cem");
-    QTest::keyClick(C("Partner"), Qt::Key_Down);
-    EXPECT_EQ(Gezeigt("NName") + "/" + Gezeigt("VName"), "Adler/Anna");
-    QTest::keyClick(C("Partner"), Qt::Key_Up);
-    EXPECT_EQ(Gezeigt("NName") + "/" + Gezeigt("VName"), "Cohn/Cem");
+    QTest::keyClick(Finden("Partner"), Qt::Key_Down);
+    EXPECT_EQ(Zeigt("Partner"), "Cohn,Cem");
+    EXPECT_EQ(Zeigt("NName"), "Cohn");
+    EXPECT_EQ(Zeigt("VName"), "Cem");
+    QTest::keyClick(Finden("Partner"), Qt::Key_Down);
+    EXPECT_EQ(Zeigt("NName") + "/" + Zeigt("VName"), "Adler/Anna");
+    QTest::keyClick(Finden("Partner"), Qt::Key_Up);
+    EXPECT_EQ(Zeigt("NName") + "/" + Zeigt("VName"), "Cohn/Cem");
     EXPECT_TRUE(GezeigteMeldungen.empty());
-    Drücken("MINUS");
+    Auslösen("MINUS");
     EXPECT_EQ(Meßdiener.WunschVorname[3], "Cem");
     EXPECT_EQ(Meßdiener.WunschNachname[3], "Cohn");
 }
@@ -99,19 +99,19 @@ TEST_F(PartnerlisteForm, DieTastenGehenÜberAbgelehnteHinweg)
     const Text schon = "Schon mal zugeordnet!!!!!";
     Meßdiener.WunschVorname[3] = "Anna";
     Meßdiener.WunschNachname[3] = "Adler";
-    FokusAuf(C("Partner"));
+    FokusAuf("Partner");
     for (const Namen &erwartet : {Namen{selbst}, Namen{schon}, Namen{}}) {
-        EXPECT_EQ(Gezeigt("Partner"), "");
-        QTest::keyClick(C("Partner"), Qt::Key_Down);
+        EXPECT_EQ(Zeigt("Partner"), "");
+        QTest::keyClick(Finden("Partner"), Qt::Key_Down);
         EXPECT_EQ(GezeigteMeldungen, erwartet);
         GezeigteMeldungen.clear();
     }
-    EXPECT_EQ(Gezeigt("Partner"), "Berg,Bea");
+    EXPECT_EQ(Zeigt("Partner"), "Berg,Bea");
     for (const Namen &erwartet : {Namen{schon}, Namen{selbst}, Namen{}}) {
-        QTest::keyClick(C("Partner"),
+        QTest::keyClick(Finden("Partner"),
                         Qt::Key_Up); // the third time it is already at the first entry
         EXPECT_EQ(GezeigteMeldungen, erwartet);
-        EXPECT_EQ(Gezeigt("Partner"), "");
+        EXPECT_EQ(Zeigt("Partner"), "");
         GezeigteMeldungen.clear();
     }
 }
@@ -120,45 +120,45 @@ TEST_F(PartnerlisteForm, DieMeldungHältDieTastenNichtAuf)
 {
     const auto gemerkte = Meldungen;
     EchteMeldungen();
-    FokusAuf(C("Partner"));
+    FokusAuf("Partner");
     Beantworten([&](QMessageBox *box) {
-        EXPECT_TRUE(Warten([&] { return !C("Partner")->hasFocus(); }));
+        EXPECT_TRUE(Warten([&] { return !Finden("Partner")->hasFocus(); }));
         box->accept();
     });
-    QTest::keyClick(C("Partner"), Qt::Key_Down);
+    QTest::keyClick(Finden("Partner"), Qt::Key_Down);
     Zeigen(form);
-    EXPECT_TRUE(C("Partner")->hasFocus());
+    EXPECT_TRUE(Finden("Partner")->hasFocus());
     Meldungen = gemerkte;
-    QTest::keyClick(C("Partner"), Qt::Key_Down);
-    EXPECT_EQ(Gezeigt("Partner"), "Adler,Anna");
+    QTest::keyClick(Finden("Partner"), Qt::Key_Down);
+    EXPECT_EQ(Zeigt("Partner"), "Adler,Anna");
 }
 
 TEST_F(PartnerlisteForm, InEinerNeuenListeOderNachDemTippenBeginnenDieTastenVorn)
 {
-    Schreiben("Datensätze", "1");
+    Einsetzen("Datensätze", "1");
     Meßdiener.WunschVorname[3] = "Cem";
     Meßdiener.WunschNachname[3] = "Cohn";
-    FokusAuf(C("Partner"));
+    FokusAuf("Partner");
     const auto bisAnna = [&] {
         GezeigteMeldungen.clear();
         for (int mal = 0; mal < 2; ++mal)
-            QTest::keyClick(C("Partner"), Qt::Key_Down);
+            QTest::keyClick(Finden("Partner"), Qt::Key_Down);
         EXPECT_EQ(GezeigteMeldungen,
                   (Namen{"Schon mal zugeordnet!!!!!", "Ein und dieselbe Person!!!"}));
     };
     bisAnna();
-    QTest::keyClick(C("Partner"), 'x');
-    QTest::keyClick(C("Partner"), Qt::Key_Backspace);
+    QTest::keyClick(Finden("Partner"), 'x');
+    QTest::keyClick(Finden("Partner"), Qt::Key_Backspace);
     bisAnna();
     QTest::keyClick(form, Qt::Key_PageUp); // to the next record, with its names as they are by then
     QTest::keyClick(form, Qt::Key_PageDown);
-    EXPECT_EQ(Gezeigt("Datensätze"), "1");
+    EXPECT_EQ(Zeigt("Datensätze"), "1");
     bisAnna();
 }
 
 TEST_F(PartnerlisteForm, AuchAusDerAufgeklapptenListe)
 {
-    auto *partner = Finden<QComboBox>(form, "Partner");
+    auto *partner = Finden<QComboBox>("Partner");
     FokusAuf(partner);
     partner->showPopup();
     QWidget *liste = QApplication::activePopupWidget();
@@ -167,8 +167,8 @@ TEST_F(PartnerlisteForm, AuchAusDerAufgeklapptenListe)
     ASSERT_NE(ansicht, nullptr);
     QTest::keyClick(ansicht, Qt::Key_End);
     QTest::keyClick(ansicht, Qt::Key_Return);
-    EXPECT_EQ(Gezeigt("Partner"), "Berg,Bea");
-    EXPECT_EQ(Gezeigt("NName") + "/" + Gezeigt("VName"), "Berg/Bea");
+    EXPECT_EQ(Zeigt("Partner"), "Berg,Bea");
+    EXPECT_EQ(Zeigt("NName") + "/" + Zeigt("VName"), "Berg/Bea");
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 

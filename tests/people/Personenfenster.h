@@ -55,16 +55,16 @@ class Personenfenster : public Personenstand {
         const char *öffner = name == "NeuMeßdiener"  ? "NeuDiener"
                              : name == "NeuerHelfer" ? "NeuHelfer"
                                                      : "NEWGroup";
-        Drücken(öffner);
+        Auslösen(öffner);
         form = Fenster(name.c_str());
         if (!QTest::qWaitForWindowActive(form))
             throw std::runtime_error(name + " did not become active");
     }
 
-    /// Pastes over the content of a box.
-    void Einfügen(const char *box, const Text &text)
+    /// Pastes over the content of a box, without keys and focus.
+    void EinfügenAuslösen(const char *box, const Text &text)
     {
-        QWidget *control = C(box);
+        QWidget *control = Finden(box);
         auto *feld = qobject_cast<QLineEdit *>(control);
         if (!feld)
             feld = static_cast<QComboBox *>(control)->lineEdit();

@@ -21,8 +21,8 @@ Menge Aufschriften(const QWidget *fenster)
             continue;
         const QObject *wessen = label && label->buddy() ? label->buddy() : control;
         const Text name = wessen->objectName().toStdString();
-        if (!Aufschrift(control).empty())
-            alle.insert((name.empty() ? "" : name + ": ") + Aufschrift(control));
+        if (!Zeigt(control).empty())
+            alle.insert((name.empty() ? "" : name + ": ") + Zeigt(control));
     }
     return alle;
 }

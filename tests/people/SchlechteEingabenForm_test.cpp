@@ -104,12 +104,12 @@ void SchlechteEingabenForm::Prüfen(const Fensterfall &fall, std::size_t k, cons
     auto soll = fall.Satz();
     if (fall.Knopf == Text("OKButton")) // a dialog stores what it shows
         for (std::size_t f = 0; f < fall.Arten.size(); ++f)
-            soll[f] = Gezeigt(fall.Boxen[f]);
+            soll[f] = Zeigt(fall.Boxen[f]);
     const std::optional<Text> danach = Danach(fall.Arten[k], eingabe);
-    Einfügen(box, eingabe.Getippt);
-    Verlassen(box);
-    EXPECT_EQ(Gezeigt(box), danach.value_or(eingabe.AlsText));
-    Drücken(fall.Knopf);
+    EinfügenAuslösen(box, eingabe.Getippt);
+    FokusWeg(box);
+    EXPECT_EQ(Zeigt(box), danach.value_or(eingabe.AlsText));
+    Auslösen(fall.Knopf);
     std::vector<Text> meldungen;
     if (fall.Arten[k] == 'G' && !eingabe.Getippt.empty())
         meldungen.push_back(UnbekannteGruppe);
@@ -158,10 +158,10 @@ TEST_F(SchlechteNummernForm, ImFeldDerNummer)
             SCOPED_TRACE(fenster + " <- " + eingabe.Getippt);
             Öffnen(fenster);
             GezeigteMeldungen.clear();
-            Einfügen(nummer, eingabe.Getippt);
+            EinfügenAuslösen(nummer, eingabe.Getippt);
             const auto danach = Danach('K', eingabe);
-            EXPECT_EQ(Gezeigt(nummer), danach.value_or(eingabe.AlsText));
-            Drücken("Ende");
+            EXPECT_EQ(Zeigt(nummer), danach.value_or(eingabe.AlsText));
+            Auslösen("Ende");
             EXPECT_EQ(GezeigteMeldungen, std::vector<Text>(danach ? 0 : 1, Stop));
             EXPECT_EQ(form->isVisible(), !danach);
             EXPECT_EQ(Meßdiener.Anzahl + Gruppe.Anzahl + Helfer.Anzahl, 9);
@@ -176,11 +176,11 @@ TEST_F(SchlechteNummernForm, AlsWunschpartner)
         SCOPED_TRACE(eingabe.Getippt);
         Öffnen("Meßdiener");
         GezeigteMeldungen.clear();
-        Einfügen("Partner", eingabe.Getippt);
-        Verlassen("Partner");
+        EinfügenAuslösen("Partner", eingabe.Getippt);
+        FokusWeg("Partner");
         const bool leer = eingabe.Getippt.empty();
-        EXPECT_EQ(Gezeigt("Partner"), leer ? "" : "Berg,Bea");
-        Drücken("Ende");
+        EXPECT_EQ(Zeigt("Partner"), leer ? "" : "Berg,Bea");
+        Auslösen("Ende");
         EXPECT_EQ(GezeigteMeldungen.size(), leer ? 0U : 1U);
         EXPECT_EQ(Meßdiener.WunschVorname[0], leer ? "" : "Bea");
         EXPECT_EQ(Meßdiener.WunschNachname[0], leer ? "" : "Berg");
@@ -194,8 +194,8 @@ TEST_F(SchlechteNummernForm, EinKommaInDerStraßeHältDasNächsteLadenAn)
 {
     Meßdiener.Cursor = 1;
     Öffnen("Meßdiener");
-    Tippen(C("Straßen"), "Hof 5, links");
-    Klick(C("Ende"));
+    Tippen("Straßen", "Hof 5, links");
+    Klick("Ende");
     Meßdiener.PLZ[1] = 48143;
     Konfig.Gemeinde = "St. Ägid";
     AufFestplatteSpeichern();

@@ -21,8 +21,8 @@ class VerlassenForm : public Personenfenster {
     /// Types into a box and stays in it.
     void Eintippen(const char *box, const Text &text)
     {
-        FokusAuf(C(box));
-        Schreiben(box, text);
+        FokusAuf(box);
+        Einsetzen(box, text);
     }
     void Taste(Qt::Key taste) { QTest::keyClick(QApplication::focusWidget(), taste); }
 };
@@ -31,30 +31,30 @@ TEST_F(VerlassenForm, NachEinemUnbekanntenPartnerIstDieGruppeNurBetreten)
 {
     Öffnen("Meßdiener");
     MeldungenBestätigen();
-    Schreiben("Dieenst", "Grau");
+    Einsetzen("Dieenst", "Grau");
     Eintippen("Partner", "Niemand");
-    C("Dieenst")->setFocus(Qt::TabFocusReason);
+    Finden("Dieenst")->setFocus(Qt::TabFocusReason);
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{UnbekannterPartner});
-    EXPECT_EQ(Gezeigt("Partner"), "Berg,Bea");
-    EXPECT_EQ(Gezeigt("Dieenst"), "Grau");
-    EXPECT_TRUE(C("Dieenst")->hasFocus());
-    FokusAuf(C("Vornamen"));
+    EXPECT_EQ(Zeigt("Partner"), "Berg,Bea");
+    EXPECT_EQ(Zeigt("Dieenst"), "Grau");
+    EXPECT_TRUE(Finden("Dieenst")->hasFocus());
+    FokusAuf("Vornamen");
     EXPECT_EQ(GezeigteMeldungen, (std::vector<Text>{UnbekannterPartner, UnbekannteGruppe}));
-    EXPECT_EQ(Gezeigt("Dieenst"), "Rot");
+    EXPECT_EQ(Zeigt("Dieenst"), "Rot");
 }
 
 TEST_F(VerlassenForm, NachEinerUnbekanntenGruppeIstDerPartnerNurBetreten)
 {
     Öffnen("Meßdiener");
     MeldungenBestätigen();
-    Schreiben("Partner", "Niemand");
+    Einsetzen("Partner", "Niemand");
     Eintippen("Dieenst", "Grau");
-    C("Partner")->setFocus(Qt::TabFocusReason);
+    Finden("Partner")->setFocus(Qt::TabFocusReason);
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{UnbekannteGruppe});
-    EXPECT_EQ(Gezeigt("Dieenst"), "Rot");
-    EXPECT_EQ(Gezeigt("Partner"), "Niemand");
-    EXPECT_TRUE(C("Partner")->hasFocus());
-    FokusAuf(C("Vornamen"));
+    EXPECT_EQ(Zeigt("Dieenst"), "Rot");
+    EXPECT_EQ(Zeigt("Partner"), "Niemand");
+    EXPECT_TRUE(Finden("Partner")->hasFocus());
+    FokusAuf("Vornamen");
     EXPECT_EQ(GezeigteMeldungen, (std::vector<Text>{UnbekannteGruppe, UnbekannterPartner}));
 }
 
@@ -68,13 +68,13 @@ TEST_F(VerlassenForm, EinGescheitertesSpeichernMeldetNurSich)
         Öffnen("Meßdiener");
         MeldungenBestätigen();
         GezeigteMeldungen.clear();
-        Schreiben(fehler, "abc");
+        Einsetzen(fehler, "abc");
         Eintippen(box, getippt);
         Taste(Qt::Key_PageUp);
         EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{Stop});
-        EXPECT_EQ(Gezeigt(box), getippt);
-        EXPECT_EQ(Gezeigt("VName") + Gezeigt("NName"), "BeaBerg");
-        EXPECT_TRUE(C(fehler)->hasFocus());
+        EXPECT_EQ(Zeigt(box), getippt);
+        EXPECT_EQ(Zeigt("VName") + Zeigt("NName"), "BeaBerg");
+        EXPECT_TRUE(Finden(fehler)->hasFocus());
     }
 }
 
@@ -89,15 +89,15 @@ TEST_F(VerlassenForm, DiePostleitzahlEinesHelfersBleibtBeimGescheitertenSpeicher
         MeldungenBestätigen();
         GezeigteMeldungen.clear();
         if (fehler != "PLZetus")
-            Schreiben(fehler.c_str(), "abc");
+            Einsetzen(fehler, "abc");
         Eintippen("PLZetus", getippt);
         Taste(Qt::Key_PageUp);
         EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{meldung});
-        EXPECT_EQ(Gezeigt("PLZetus"), getippt);
-        EXPECT_TRUE(C(fehler.c_str())->hasFocus());
-        FokusAuf(C("PLZetus"));
-        FokusAuf(C("Wohort"));
-        EXPECT_EQ(Gezeigt("PLZetus"), getippt == "-7" ? "0" : "48999") << "left by the user";
+        EXPECT_EQ(Zeigt("PLZetus"), getippt);
+        EXPECT_TRUE(Finden(fehler)->hasFocus());
+        FokusAuf("PLZetus");
+        FokusAuf("Wohort");
+        EXPECT_EQ(Zeigt("PLZetus"), getippt == "-7" ? "0" : "48999") << "left by the user";
     }
 }
 
@@ -108,16 +108,16 @@ TEST_F(VerlassenForm, ErstDieMeldungDannGehtDerPartnerZurück)
     Meßdiener.WunschNachname[1] = "Cohn";
     Öffnen("Meßdiener");
     std::vector<Text> dabei;
-    Meldungen.Zeigen = [&](const Text &) { dabei.push_back(Gezeigt("Partner")); };
+    Meldungen.Zeigen = [&](const Text &) { dabei.push_back(Zeigt("Partner")); };
     const auto auswählen = [&](const char *name) {
-        auto *partner = Finden<QComboBox>(form, "Partner");
+        auto *partner = Finden<QComboBox>("Partner");
         partner->setCurrentIndex(partner->findText(name));
         Q_EMIT partner->activated(partner->currentIndex());
-        EXPECT_EQ(Gezeigt("Partner"), "");
+        EXPECT_EQ(Zeigt("Partner"), "");
     };
-    Schreiben("Partner", "Niemand");
-    Verlassen("Partner");
-    EXPECT_EQ(Gezeigt("Partner"), "Berg,Bea");
+    Einsetzen("Partner", "Niemand");
+    FokusWeg("Partner");
+    EXPECT_EQ(Zeigt("Partner"), "Berg,Bea");
     auswählen("Cohn,Cem");   // who is already someone else's partner
     auswählen("Adler,Anna"); // herself
     EXPECT_EQ(dabei, (std::vector<Text>{"Niemand", "Cohn,Cem", ""}));
@@ -133,7 +133,7 @@ TEST_F(VerlassenForm, EineFrageVerläßtDieBoxNicht)
             EXPECT_TRUE(QTest::qWaitForWindowActive(box));
             box->done(ja ? QMessageBox::Yes : QMessageBox::No);
         });
-        Drücken("Lösch"); // as a screen reader presses it, which leaves the focus where it is
+        Auslösen("Lösch"); // as a screen reader presses it, which leaves the focus where it is
         EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
         Zeigen(form);
     }

@@ -1,8 +1,9 @@
 // The fixture of the tests of the helpers of a mass.
 #pragma once
 
-#include "planning/Formstand.h"
+#include "Formstand.h"
 #include "planning/LektorrenuswForm.h"
+#include "planning/Messenbild.h"
 
 namespace altardienst {
 
@@ -27,7 +28,7 @@ inline constexpr std::array Zahlboxen = {"Lecki", "Kommi", "Kanto", "Kolt"};
 
 /// Mass 2 of four is on the screen. The helpers are Abel, Bauer, ... Zoller; the first eight are in
 /// the eight places, in the order of the screen, and every count is 2.
-class Lektorenstand : public Formstand {
+class Lektorenstand : public Formstand<> {
   protected:
     Lektorenstand()
     {
@@ -61,15 +62,15 @@ class Lektorenstand : public Formstand {
         Zeigen(form);
     }
 
-    QComboBox *LH(std::size_t p) const { return Finden<QComboBox>(form, Plätze[p].LH); }
-    Text Gewählt(std::size_t p) const { return LH(p)->currentText().toStdString(); }
+    QComboBox *LH(std::size_t p) const { return Finden<QComboBox>(Plätze[p].LH); }
+    Text Gewählt(std::size_t p) const { return Zeigt(LH(p)); }
 
-    /// Types a text into a combo and leaves it.
-    void Wählen(std::size_t p, const char *text) const
+    /// Puts a text into a combo that has the focus, and leaves it.
+    void Wählen(std::size_t p, const Text &text) const
     {
         FokusAuf(LH(p));
-        LH(p)->setEditText(QString::fromUtf8(text));
-        FokusAuf(Finden(form, "Ende"));
+        Einsetzen(LH(p), text);
+        FokusAuf("Ende");
     }
 
     /// "Vorname|Nachname" of a place, on the screen and in the table.
@@ -79,13 +80,12 @@ class Lektorenstand : public Formstand {
     bool IstAktiv(std::size_t p) const
     {
         const bool aktiv = LH(p)->isEnabled();
-        const QWidget *label = nullptr;
-        for (const QLabel *eines : form->findChildren<QLabel *>())
+        QWidget *label = nullptr;
+        for (QLabel *eines : form->findChildren<QLabel *>())
             if (eines->buddy() == LH(p))
                 label = eines;
         EXPECT_TRUE(label);
-        for (const QWidget *control : {static_cast<const QWidget *>(Feld(Plätze[p].Vor)),
-                                       static_cast<const QWidget *>(Feld(Plätze[p].Nach)), label})
+        for (const QWidget *control : {Finden(Plätze[p].Vor), Finden(Plätze[p].Nach), label})
             EXPECT_EQ(control->isEnabled(), aktiv) << p;
         return aktiv;
     }

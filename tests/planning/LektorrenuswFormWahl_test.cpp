@@ -13,14 +13,14 @@ TEST_F(LektorrenuswFormWahlTest, EinBekannterNameKommtBeimVerlassenInDieFelder)
     Öffnen();
     for (std::size_t p = 0; p < Plätze.size(); ++p) {
         FokusAuf(LH(p));
-        LH(p)->setEditText("Zoller,Zita");
+        Einsetzen(LH(p), "Zoller,Zita");
         EXPECT_EQ(Name(p).find("Zita"), Text::npos) << "only on leaving";
-        FokusAuf(Finden(form, "Ende"));
+        FokusAuf("Ende");
         EXPECT_EQ(Name(p), "Zita|Zoller") << p;
         Wählen(p, "Yilmaz,Yvonne");
         EXPECT_EQ(Name(p), "Yvonne|Yilmaz") << p;
         const int h = static_cast<int>(p);
-        Wählen(p, (Helfer.Nachname[h] + "," + Helfer.Vorname[h]).c_str());
+        Wählen(p, Helfer.Nachname[h] + "," + Helfer.Vorname[h]);
     }
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
     EXPECT_EQ(MessenJetzt(), vorher); // not before the dialog closes
@@ -30,7 +30,7 @@ TEST_F(LektorrenuswFormWahlTest, AuswahlAusDerListeMitDerTastatur)
 {
     Öffnen();
     FokusAuf(LH(0));
-    LH(0)->setEditText("Höß,Hanna");
+    Einsetzen(LH(0), "Höß,Hanna");
     LH(0)->setCurrentIndex(7);
     QTest::keyClick(LH(0), Qt::Key_Down);
     EXPECT_EQ(Gewählt(0), "Yilmaz,Yvonne");
@@ -47,7 +47,7 @@ TEST_F(LektorrenuswFormWahlTest, NiemandStehtZweimalInEinerMesse)
                 continue;
             GezeigteMeldungen.clear();
             const Text zuvor = Gewählt(p);
-            Wählen(p, Gewählt(q).c_str());
+            Wählen(p, Gewählt(q));
             EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{Schon}) << p << q;
             EXPECT_EQ(Gewählt(p), zuvor);
         }
@@ -59,7 +59,7 @@ TEST_F(LektorrenuswFormWahlTest, NiemandStehtZweimalInEinerMesse)
 TEST_F(LektorrenuswFormWahlTest, AuchEinAbgeschalteterPlatzZähltMit)
 {
     Öffnen();
-    Eingeben("Kolt", "0");
+    Einsetzen("Kolt", "0");
     Wählen(0, "Höß,Hanna");
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{Schon});
 }
@@ -117,7 +117,7 @@ TEST_F(LektorrenuswFormWahlTest, WährendDerMeldungBringtDasHauptfensterKeineZwe
 {
     Öffnen();
     FokusAuf(LH(0));
-    LH(0)->setEditText("Niemand,Nina");
+    Einsetzen(LH(0), "Niemand,Nina");
     Meldungen.Zeigen = [this](const Text &text) {
         GezeigteMeldungen.push_back(text);
         const OhneVerlassen offen; // as the real one
@@ -165,7 +165,7 @@ TEST_F(LektorrenuswFormWahlTest, OhneHelferIstJederNameUnbekannt)
     EXPECT_EQ(LH(0)->count(), 0);
     EXPECT_EQ(Gewählt(0), "Abel,Anna");
     FokusAuf(LH(0)); // even the one already there, once it is left
-    FokusAuf(Finden(form, "Ende"));
+    FokusAuf("Ende");
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{Unbekannt});
     EXPECT_EQ(Gewählt(0), "Abel,Anna");
     Wählen(0, "");
@@ -176,7 +176,7 @@ TEST_F(LektorrenuswFormWahlTest, EinLeeresFeldNebenEinemBesetztenGeht)
 {
     Öffnen();
     Wählen(1, "");
-    Drücken("Ende");
+    Klick("Ende");
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
     EXPECT_EQ(geschlossen, 1);
     EXPECT_EQ(Messe.LektorZahl[2], 2);
@@ -215,11 +215,11 @@ TEST_F(LektorrenuswFormWahlTest, VerlassenTeiltAlleAchtPlätze)
 {
     Öffnen();
     for (const Lektorenplatz &platz : Plätze) {
-        Eingeben(platz.Vor, "von Hand");
-        Eingeben(platz.Nach, "von Hand");
+        Einsetzen(platz.Vor, "von Hand");
+        Einsetzen(platz.Nach, "von Hand");
     }
-    LH(5)->setEditText("");
-    LH(6)->setEditText("Zoller,Zita"); // in no list box when it is left
+    Einsetzen(LH(5), "");
+    Einsetzen(LH(6), "Zoller,Zita"); // in no list box when it is left
     Wählen(0, "Abel,Anna");
     for (const std::size_t p : {0U, 1U, 2U, 3U, 4U, 7U})
         EXPECT_EQ(Name(p),

@@ -18,19 +18,19 @@ TEST_F(LektorrenuswFormTest, JedesControlTrägtSeinenNamenUndSeineBeschriftung)
                                      {"Kolt", "Kollektant:"}};
     for (const Lektorenplatz &platz : Plätze) {
         erwartet[platz.LH] = platz.Beschriftung;
-        Feld(platz.Vor);
-        Feld(platz.Nach);
+        Finden<QLineEdit>(platz.Vor);
+        Finden<QLineEdit>(platz.Nach);
     }
     EXPECT_EQ(Beschriftungen(), erwartet);
     EXPECT_EQ(Zeigt("Ende"), "Ende");
     for (const char *spin : {"Änderung1", "Änderung2", "Änderung3", "Änderung4"})
-        Finden<SpinButton>(form, spin);
+        Finden<SpinButton>(spin);
 }
 
 TEST_F(LektorrenuswFormTest, TabFolgtDemAuge)
 {
     Öffnen();
-    FokusAuf(Feld("Lecki"));
+    FokusAuf("Lecki");
     EXPECT_EQ(Tabfolge(form),
               (std::vector<Text>{"Lecki",      "Änderung1", "LH1",        "Lecki1Vor", "Lecki1nach",
                                  "LH2",        "Lecki2Vor", "Lecki2Nach", "Kommi",     "Änderung2",
@@ -91,7 +91,7 @@ TEST_F(LektorrenuswFormTest, DieZahlSchaltetDiePlätze)
                                          {"40000", 2},
                                          {"-40000", 0},
                                          {"2", 2}}) {
-            Eingeben(Zahlboxen[art], text);
+            Einsetzen(Zahlboxen[art], text);
             EXPECT_EQ(Zeigt(Zahlboxen[art]), ZahlText(zahl)) << text;
             for (std::size_t p = 0; p < Plätze.size(); ++p) {
                 const bool eigener = p / 2 == art;
@@ -119,8 +119,8 @@ TEST_F(LektorrenuswFormTest, EineZahlDieKeineIstSchaltetNichts)
     Öffnen();
     for (const int zahl : {0, 1, 2}) {
         for (const char *text : {"abc", "", "31.02.2027", "25:61"}) {
-            Eingeben("Kommi", ZahlText(zahl).c_str());
-            Eingeben("Kommi", text);
+            Einsetzen("Kommi", ZahlText(zahl));
+            Einsetzen("Kommi", text);
             EXPECT_EQ(IstAktiv(2), zahl > 0);
             EXPECT_EQ(IstAktiv(3), zahl > 1);
             EXPECT_EQ(Zeigt("Kommi"), text);
@@ -136,15 +136,15 @@ TEST_F(LektorrenuswFormTest, EineZahlDieKeineIstHältDasSchließenAn)
             Öffnen();
             Wählen(0, "Zoller,Zita");
             Wählen(7, "Yilmaz,Yvonne");
-            Eingeben(Zahlboxen[art], "abc");
+            Einsetzen(Zahlboxen[art], "abc");
             if (mitEnde)
-                Drücken("Ende");
+                Klick("Ende");
             else
                 form->close();
             EXPECT_EQ(GezeigteMeldungen,
                       std::vector<Text>{"Laufzeitfehler '13': Typen unverträglich"});
             EXPECT_TRUE(form->isVisible());
-            EXPECT_TRUE(Feld(Zahlboxen[art])->hasFocus()) << "where the mistake is";
+            EXPECT_TRUE(Finden(Zahlboxen[art])->hasFocus()) << "where the mistake is";
             EXPECT_EQ(geschlossen, 0);
             EXPECT_EQ(Gespeichert(0), art > 0 ? "Zita|Zoller" : "Anna|Abel"); // as before
             EXPECT_EQ(Gespeichert(7), "Hanna|Höß");
@@ -169,7 +169,7 @@ TEST_F(LektorrenuswFormTest, DerSpinGehtUmEinsUndGibtDerZahlDenFokus)
                                              {"auf", "2"}}) {
             Drehen(spin.c_str(), richtung);
             EXPECT_EQ(Zeigt(Zahlboxen[art]), zahl) << spin << richtung;
-            EXPECT_TRUE(Feld(Zahlboxen[art])->hasFocus());
+            EXPECT_TRUE(Finden(Zahlboxen[art])->hasFocus());
         }
     }
 }
@@ -178,11 +178,11 @@ TEST_F(LektorrenuswFormTest, DerSpinLäßtStehenWasKeineZahlIstUndGibtIhmDenFoku
 {
     Öffnen();
     for (const char *richtung : {"ab", "auf"}) {
-        FokusAuf(Finden(form, "Ende"));
-        Eingeben("Kommi", "abc");
+        FokusAuf("Ende");
+        Einsetzen("Kommi", "abc");
         Drehen("Änderung2", richtung);
         EXPECT_EQ(Zeigt("Kommi"), "abc");
-        EXPECT_TRUE(Feld("Kommi")->hasFocus()) << richtung;
+        EXPECT_TRUE(Finden("Kommi")->hasFocus()) << richtung;
     }
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
 }
@@ -191,7 +191,7 @@ TEST_F(LektorrenuswFormTest, EinAbgeschalteterPlatzBehältSeineNamen)
 {
     Öffnen();
     for (const char *zahl : Zahlboxen)
-        Eingeben(zahl, "0");
+        Einsetzen(zahl, "0");
     EXPECT_EQ(Name(0), "Anna|Abel");
     EXPECT_TRUE(form->close());
     for (std::size_t p = 0; p < Plätze.size(); ++p)
@@ -206,10 +206,10 @@ TEST_F(LektorrenuswFormTest, SchließenSchreibtDenSchirmAuchVonHandGetipptes)
     for (const bool mitEnde : {true, false}) {
         Öffnen();
         for (const char *zahl : Zahlboxen)
-            Eingeben(zahl, "1");
+            Einsetzen(zahl, "1");
         for (std::size_t p = 0; p < Plätze.size(); ++p) {
-            Eingeben(Plätze[p].Vor, ("V" + ZahlText(static_cast<int>(p))).c_str());
-            Eingeben(Plätze[p].Nach, ("N" + ZahlText(static_cast<int>(p))).c_str());
+            Einsetzen(Plätze[p].Vor, ("V" + ZahlText(static_cast<int>(p))).c_str());
+            Einsetzen(Plätze[p].Nach, ("N" + ZahlText(static_cast<int>(p))).c_str());
         }
         Messenbild modell = vorher;
         for (std::size_t p = 0; p < Plätze.size(); ++p) {
@@ -219,7 +219,7 @@ TEST_F(LektorrenuswFormTest, SchließenSchreibtDenSchirmAuchVonHandGetipptes)
             modell[2][stelle + 2 + 2 * (p % 2)] = "N" + ZahlText(static_cast<int>(p));
         }
         if (mitEnde)
-            Drücken("Ende");
+            Klick("Ende");
         else
             form->close();
         EXPECT_EQ(MessenJetzt(), modell);
@@ -233,7 +233,7 @@ TEST_F(LektorrenuswFormTest, SchließenVerläßtZuerstDieOffeneWahl)
 {
     Öffnen();
     FokusAuf(LH(2));
-    LH(2)->setEditText("Zoller,Zita");
+    Einsetzen(LH(2), "Zoller,Zita");
     EXPECT_TRUE(form->close());
     delete form;
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
@@ -241,7 +241,7 @@ TEST_F(LektorrenuswFormTest, SchließenVerläßtZuerstDieOffeneWahl)
 
     Öffnen();
     FokusAuf(LH(2));
-    LH(2)->setEditText("Niemand,Nina");
+    Einsetzen(LH(2), "Niemand,Nina");
     EXPECT_TRUE(form->close());
     delete form;
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{Unbekannt});
@@ -265,7 +265,7 @@ TEST_F(LektorrenuswFormTest, KommtAusDerMessenlisteUndKehrtDorthinZurück)
     Zeigen(form);
     EXPECT_FALSE(liste->isVisible());
     Wählen(0, "Zoller,Zita");
-    Drücken("Ende");
+    Klick("Ende");
     EXPECT_TRUE(Warten([&] { return !form; })); // unloaded
     EXPECT_TRUE(liste->isVisible());
     EXPECT_EQ(Gespeichert(0), "Zita|Zoller");

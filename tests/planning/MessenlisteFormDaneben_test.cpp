@@ -31,7 +31,7 @@ TEST_F(MessenlisteDaneben, EinDialogDerListeKommtNachVornUndDieListeBleibtVerbor
 {
     for (const auto &[knopf, name, ende] : Listendialoge) {
         ListeDaneben();
-        Drücken(knopf);
+        Klick(knopf);
         const QPointer<QWidget> dialog = Fenster(name);
         dialog->showMinimized();
         Zeigen(haupt);
@@ -61,7 +61,7 @@ TEST_F(MessenlisteDaneben, Knopf1ZeigtDieListeAuchWennSieVerborgenIst)
         SCOPED_TRACE(name);
         MessenFüllen(5);
         ListeDaneben(3);
-        Drücken(knopf);
+        Klick(knopf);
         const QPointer<QWidget> dialog = Fenster(name);
         Klick(haupt->Messenorgani);
         EXPECT_TRUE(form->isVisible());
@@ -74,7 +74,7 @@ TEST_F(MessenlisteDaneben, Knopf1ZeigtDieListeAuchWennSieVerborgenIst)
 
         Klick(haupt->AnzMesse);
         EXPECT_TRUE(form->isVisible());
-        Drücken(knopf); // the one that is open
+        Klick(knopf); // the one that is open
         EXPECT_EQ(Fenster(name), dialog);
         EXPECT_FALSE(form->isVisible());
         Klick(haupt->Messenorgani);
@@ -92,7 +92,7 @@ TEST_F(MessenlisteDaneben, EinDialogDerListeZeigtSieAuchWennSieInzwischenGeschlo
 {
     for (const auto &[knopf, name, ende] : Listendialoge) {
         ListeDaneben();
-        Drücken(knopf);
+        Klick(knopf);
         const QPointer<QWidget> dialog = Fenster(name);
         Klick(haupt->Messenorgani);
         ListeZurück();
@@ -107,7 +107,7 @@ TEST_F(MessenlisteDaneben, EinDialogÜberlebtSeineListe)
 {
     for (const auto &[knopf, name, ende] : Listendialoge) {
         ListeDaneben();
-        Drücken(knopf);
+        Klick(knopf);
         const QPointer<QWidget> dialog = Fenster(name);
         delete form;
         Klick(Finden<QPushButton>(dialog, ende));
@@ -120,9 +120,9 @@ TEST_F(MessenlisteDaneben, EinDialogÜberlebtSeineListe)
 TEST_F(MessenlisteDaneben, HinterDemDialogStehtWasDasHauptfensterGetanHat)
 {
     ListeDaneben(3);
-    Drücken("NeuMeß");
+    Klick("NeuMeß");
     QWidget *dialog = Fenster("NeuMesse");
-    Eingeben("Messewesen", "was die Liste nicht zeigt");
+    Einsetzen("Messewesen", "was die Liste nicht zeigt");
     Klick(haupt->Messenorgani); // no standard masses, so no masses are left
     Klick(Finden<QPushButton>(dialog, "CancelButton"));
     EXPECT_EQ(Zeigt("Datensatzus"), "0");
@@ -171,14 +171,14 @@ TEST_F(MessenlisteDaneben, WasDasHauptfensterTutSchreibtZuerstDieMesseUndZeigtSi
         MessenFüllen(5);
         Messe.Datum[0] = DatumAus({2026, 12, 24});
         ListeDaneben();
-        Eingeben("Messewesen", "Christmette");
-        Eingeben("vor1", "Anna");
+        Einsetzen("Messewesen", "Christmette");
+        Einsetzen("vor1", "Anna");
         if (mitKnopf) {
             SekundenProAblesung = 1;
             Antworten = {true};
             Klick(haupt->Dienstus); // sorts the masses; there is nobody to be drawn
         } else {
-            Wählen("mnuSortmessen");
+            MenüWählen("mnuSortmessen");
         }
         EXPECT_EQ(Messe.Messeart[4], "Christmette");
         EXPECT_EQ(Messe.Messeart[0], "Art1");
@@ -196,8 +196,8 @@ TEST_F(MessenlisteDaneben, DerFesteEintragFolgtSeinerMesseAuchDabei)
 {
     ListeDaneben(2);
     Fest(0, 2);
-    Drücken("pt");
-    Wählen("mnuGruppensort");
+    Klick("pt");
+    MenüWählen("mnuGruppensort");
     EXPECT_EQ(KurzesDatum(Messe.Datum[2]), "25.11.2026");
     EXPECT_EQ(MesseDienerFest.Datum[0], Messe.Datum[2]);
 }
@@ -205,20 +205,20 @@ TEST_F(MessenlisteDaneben, DerFesteEintragFolgtSeinerMesseAuchDabei)
 TEST_F(MessenlisteDaneben, WasSichNichtUmwandelnLässtBleibtStehenWennDieMesseBlieb)
 {
     ListeDaneben();
-    Eingeben("Dienster1", "abc");
-    Eingeben("vor1", "Anna");
-    Wählen("mnuGruppensort");
+    Einsetzen("Dienster1", "abc");
+    Einsetzen("vor1", "Anna");
+    MenüWählen("mnuGruppensort");
     EXPECT_EQ(Zeigt("Dienster1"), "abc");
     EXPECT_EQ(Zeigt("vor1"), "Anna");
     EXPECT_EQ(Messe.DienerVor[0][1], "Vor1/0");
     Klick(haupt->AnzMesse);
     EXPECT_EQ(Zeigt("Dienster1"), "abc");
     EXPECT_EQ(Zeigt("vor1"), "Anna");
-    Eingeben("Messewesen", "steht vor dem Feld, das hält");
-    Wählen("mnuGruppensort");
+    Einsetzen("Messewesen", "steht vor dem Feld, das hält");
+    MenüWählen("mnuGruppensort");
     EXPECT_EQ(Messe.Messeart[0], "steht vor dem Feld, das hält");
     EXPECT_EQ(Zeigt("vor1"), "Anna"); // it was the list itself that changed the mass
-    Wählen("mnuSortmessen");
+    MenüWählen("mnuSortmessen");
     EXPECT_EQ(Zeigt("Dienster1"), ZahlText(Messe.Gabenbereitung[0]));
     EXPECT_EQ(Zeigt("vor1"), "Vor1/1");
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
@@ -232,7 +232,7 @@ TEST_F(MessenlisteDaneben, WerZurückkommtSiehtDieMesseWieSieIst)
     Messe.DienerVor[0][1] = "Neu"; // as a dialog of the main window does
     Zeigen(form);
     EXPECT_TRUE(Warten([&] { return Zeigt("vor1") == "Neu"; }));
-    Eingeben("vor1", "getippt");
+    Einsetzen("vor1", "getippt");
     Zeigen(haupt);
     EXPECT_TRUE(Warten([&] { return Messe.DienerVor[0][1] == "getippt"; }));
     Messe.DienerNach[0][2] = "umbenannt";
@@ -247,16 +247,16 @@ TEST_F(MessenlisteDaneben, EineMesseDieNurAngesehenWurdeBleibtWieSieIst)
 {
     ListeDaneben();
     const Messenbild bild = MessenJetzt();
-    Eingeben("Datensatzus", "2");
+    Einsetzen("Datensatzus", "2");
     EXPECT_NE(Zeigt("tagelang"), Messe.Wochentag[2]);
-    Wählen("mnuGruppensort");
+    MenüWählen("mnuGruppensort");
     EXPECT_EQ(MessenJetzt(), bild);
     EXPECT_EQ(Zeigt("Datensatzus"), "2");
     Antworten = {true};
-    Drücken("Löscher");
+    Klick("Löscher");
     const Messenbild gelöscht = MessenJetzt();
     EXPECT_NE(Zeigt("tagelang"), Messe.Wochentag[2]);
-    Wählen("mnuGruppensort");
+    MenüWählen("mnuGruppensort");
     EXPECT_EQ(MessenJetzt(), gelöscht);
 }
 
@@ -264,7 +264,7 @@ TEST_F(MessenlisteDaneben, DieListeFolgtDemCursor)
 {
     ListeDaneben(3);
     Messe.Cursor = 1;
-    Wählen("mnuGruppensort");
+    MenüWählen("mnuGruppensort");
     EXPECT_EQ(Zeigt("Datensatzus"), "1");
     EXPECT_EQ(Zeigt("Messewesen"), "Art1");
 }
@@ -275,7 +275,7 @@ TEST_F(MessenlisteDaneben, EineGeschlosseneListeTutNichtsMehr)
     ListeDaneben();
     form->close();
     Messe.Cursor = 6;
-    Wählen("mnuGruppensort");
+    MenüWählen("mnuGruppensort");
     EXPECT_EQ(Messe.Anzahl, 5);
 }
 
@@ -293,10 +293,10 @@ TEST_F(MessenlisteDaneben, AuchEinEinzigesGeändertesFeldWirdNichtÜberschrieben
     for (const auto &ändern : änderungen) {
         MessenFüllen(5);
         ListeDaneben();
-        Eingeben("vor1", "alt");
+        Einsetzen("vor1", "alt");
         ändern();
         const Messenbild bild = MessenJetzt();
-        Wählen("mnuGruppensort");
+        MenüWählen("mnuGruppensort");
         EXPECT_EQ(MessenJetzt(), bild);
     }
 }
@@ -305,8 +305,8 @@ TEST_F(MessenlisteDaneben, EineInzwischenGeänderteMesseWirdNichtÜberschrieben)
 {
     ListeDaneben();
     Messe.DienerVor[0][1] = "Neu";
-    Eingeben("Messewesen", "alt");
-    Wählen("mnuGruppensort");
+    Einsetzen("Messewesen", "alt");
+    MenüWählen("mnuGruppensort");
     EXPECT_EQ(Messe.DienerVor[0][1], "Neu");
     EXPECT_EQ(Messe.Messeart[0], "Art0");
     EXPECT_EQ(Zeigt("vor1"), "Neu");
@@ -317,7 +317,7 @@ TEST_F(MessenlisteDaneben, EineNeueAnzahlStehtDaneben)
 {
     ListeDaneben();
     Messe.Anzahl = 4;
-    Wählen("mnuGruppensort");
+    MenüWählen("mnuGruppensort");
     EXPECT_EQ(Zeigt("maxi"), "4");
 }
 
@@ -325,9 +325,9 @@ TEST_F(MessenlisteDaneben, NachDemLöschenBleibtDerSchirm)
 {
     ListeDaneben();
     Antworten = {true};
-    Drücken("Löscher");
-    Eingeben("Messewesen", "getippt");
-    Wählen("mnuGruppensort");
+    Klick("Löscher");
+    Einsetzen("Messewesen", "getippt");
+    MenüWählen("mnuGruppensort");
     EXPECT_EQ(Messe.Messeart[0], "getippt");
 }
 
@@ -337,10 +337,10 @@ TEST_F(MessenlisteDaneben, DasEndeDesProgrammsSpeichertAuchWasAufDemSchirmSteht)
         if (!haupt)
             haupt = new HauptForm;
         ListeDaneben();
-        Eingeben("Messewesen", mitMenü ? "Beenden" : "Kreuz");
+        Einsetzen("Messewesen", mitMenü ? "Beenden" : "Kreuz");
         EXPECT_EQ(Programmlauf([&] {
                       if (mitMenü)
-                          Wählen("mnuFileExit");
+                          MenüWählen("mnuFileExit");
                       else
                           haupt->close();
                   }),
@@ -356,36 +356,36 @@ TEST_F(MessenlisteDaneben, AuchDieHelferWerdenZuerstGeschriebenUndDannNeuGezeigt
     for (auto *name : {&Messe.Lektor2Vor, &Messe.Lektor2Nach})
         (*name)[1].clear();
     ListeDaneben();
-    Drücken("Lektoren");
+    Klick("Lektoren");
     QPointer<QWidget> helfer = Fenster("Lektorrenusw");
     const auto feld = [&](const char *name) { return Finden<QLineEdit>(helfer, name); };
-    feld("Lecki1Vor")->setText("Anna");
-    Wählen("mnuSortmessen");
+    Einsetzen(feld("Lecki1Vor"), "Anna");
+    MenüWählen("mnuSortmessen");
     EXPECT_EQ(Messe.Lektor1Vor[4], "Anna");
-    EXPECT_EQ(Aufschrift(feld("Lecki1Vor")), Messe.Lektor1Vor[0]);
+    EXPECT_EQ(Zeigt(feld("Lecki1Vor")), Messe.Lektor1Vor[0]);
     EXPECT_EQ(Finden<QComboBox>(helfer, "LH2")->currentText(), "");
     const Messenbild bild = MessenJetzt();
     Klick(Finden<QPushButton>(helfer, "Ende"));
     EXPECT_EQ(MessenJetzt(), bild);
     EXPECT_TRUE(Warten([&] { return !helfer; }));
 
-    Drücken("Lektoren");
+    Klick("Lektoren");
     helfer = Fenster("Lektorrenusw");
-    feld("Lecki1Vor")->setText("halb");
-    feld("Kommi")->setText("abc");
-    Wählen("mnuGruppensort"); // the names before the bad count are written
+    Einsetzen(feld("Lecki1Vor"), "halb");
+    Einsetzen(feld("Kommi"), "abc");
+    MenüWählen("mnuGruppensort"); // the names before the bad count are written
     EXPECT_EQ(Messe.Lektor1Vor[0], "halb");
-    EXPECT_EQ(Aufschrift(feld("Kommi")), "abc");
-    feld("Kommi")->setText("1");
-    feld("Lecki1Vor")->setText("getippt");
-    feld("Lecki")->setText("abc");
-    Wählen("mnuGruppensort"); // the mass is the same
-    EXPECT_EQ(Aufschrift(feld("Lecki1Vor")), "getippt");
-    EXPECT_EQ(Aufschrift(feld("Lecki")), "abc");
+    EXPECT_EQ(Zeigt(feld("Kommi")), "abc");
+    Einsetzen(feld("Kommi"), "1");
+    Einsetzen(feld("Lecki1Vor"), "getippt");
+    Einsetzen(feld("Lecki"), "abc");
+    MenüWählen("mnuGruppensort"); // the mass is the same
+    EXPECT_EQ(Zeigt(feld("Lecki1Vor")), "getippt");
+    EXPECT_EQ(Zeigt(feld("Lecki")), "abc");
     Messe.Lektor1Vor[0] = "Neu"; // as the draw of the helpers does
-    Wählen("mnuGruppensort");
+    MenüWählen("mnuGruppensort");
     EXPECT_EQ(Messe.Lektor1Vor[0], "Neu");
-    EXPECT_EQ(Aufschrift(feld("Lecki1Vor")), "Neu");
+    EXPECT_EQ(Zeigt(feld("Lecki1Vor")), "Neu");
 }
 
 // Many masses have the same helpers: none.
@@ -402,12 +402,12 @@ TEST_F(MessenlisteDaneben, HelferGehörenZuIhrerMesse)
         Messe.KommZahl[i] = Messe.KantorZahl[i] = Messe.KollektZahl[i] = 1;
     }
     ListeDaneben();
-    Drücken("Lektoren");
+    Klick("Lektoren");
     QWidget *helfer = Fenster("Lektorrenusw");
     const auto feld = [&](const char *name) { return Finden<QLineEdit>(helfer, name); };
     feld("Lecki")->setText("");
     feld("Lecki1Vor")->setText("Anna");
-    Wählen("mnuSortmessen"); // there is another mass at the cursor now
+    MenüWählen("mnuSortmessen"); // there is another mass at the cursor now
     EXPECT_EQ(Aufschrift(feld("Lecki1Vor")), "");
     EXPECT_EQ(Aufschrift(feld("Lecki")), "1");
 }
@@ -417,13 +417,13 @@ TEST_F(MessenlisteDaneben, DerGewählteHelferWirdMitgeschrieben)
     HelferAnlegen("Lea", "Lang", "Lektor");
     Messe.LektorZahl[0] = 1;
     ListeDaneben();
-    Drücken("Lektoren");
+    Klick("Lektoren");
     QWidget *helfer = Fenster("Lektorrenusw");
     Zeigen(helfer);
     auto *wahl = Finden<QComboBox>(helfer, "LH1");
     FokusAuf(wahl);
-    wahl->setEditText("Lang,Lea"); // without leaving the box
-    Wählen("mnuGruppensort");
+    Einsetzen(wahl, "Lang,Lea"); // without leaving the box
+    MenüWählen("mnuGruppensort");
     EXPECT_EQ(Messe.Lektor1Vor[0], "Lea");
     EXPECT_EQ(Messe.Lektor1Nach[0], "Lang");
 }

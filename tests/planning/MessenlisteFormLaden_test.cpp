@@ -31,7 +31,7 @@ class MessenlisteLaden : public MessenlisteImProgramm {
         }
     }
 
-    void Laden() { Wählen("mnuDatenladen"); }
+    void Laden() { MenüWählen("mnuDatenladen"); }
 
     /// The user goes to the main window and comes back.
     void HinUndZurück(const std::function<void()> &dort)
@@ -63,7 +63,7 @@ class MessenlisteLaden : public MessenlisteImProgramm {
 TEST_F(MessenlisteLaden, DerSchirmBleibtSofortUndBeimZurückkommen)
 {
     ListeDaneben(Angezeigt);
-    Eingeben("vor1", "getippt");
+    Einsetzen("vor1", "getippt");
     const Satz schirm = Schirm();
     HinUndZurück([&] {
         EXPECT_EQ(Messe.DienerVor[Angezeigt][1], "getippt");
@@ -91,7 +91,7 @@ TEST_F(MessenlisteLaden, WerDieMesseVerläßtSchreibtSie)
     ListeDaneben(Angezeigt);
     const Satz schirm = Schirm();
     HinUndZurück([this] { Laden(); });
-    Drücken("Plus");
+    Klick("Plus");
     EXPECT_EQ(MessenJetzt(), MitSchirm(schirm));
     EXPECT_EQ(Zeigt("Messewesen"), "Art2");
     EXPECT_EQ(Zeigt("maxi"), "5");
@@ -101,12 +101,12 @@ TEST_F(MessenlisteLaden, WerDieMesseVerläßtSchreibtSie)
 TEST_F(MessenlisteLaden, WasBeimLadenSchonGetipptWarWirdDavorNichtGeschrieben)
 {
     ListeDaneben(Angezeigt);
-    Eingeben("vor1", "getippt");
+    Einsetzen("vor1", "getippt");
     const Satz schirm = Schirm();
     Laden();
     EXPECT_EQ(MessenJetzt(), geladen);
     EXPECT_EQ(Schirm(), schirm);
-    Wählen("mnuGruppensort"); // any other action writes what was typed
+    MenüWählen("mnuGruppensort"); // any other action writes what was typed
     EXPECT_EQ(MessenJetzt(), MitSchirm(schirm));
     EXPECT_EQ(Schirm(), schirm);
 }
@@ -115,7 +115,7 @@ TEST_F(MessenlisteLaden, WasDanachGetipptWirdGehtBeimWechselInDieGeladeneMesse)
 {
     ListeDaneben(Angezeigt);
     HinUndZurück([this] { Laden(); });
-    Eingeben("vor1", "getippt");
+    Einsetzen("vor1", "getippt");
     const Satz schirm = Schirm();
     HinUndZurück([] {});
     EXPECT_EQ(MessenJetzt(), MitSchirm(schirm));
@@ -127,10 +127,10 @@ TEST_F(MessenlisteLaden, EineAndereHandlungDieDieMesseÄndertZeigtSieNeu)
 {
     ListeDaneben(Angezeigt);
     HinUndZurück([this] { Laden(); });
-    Wählen("mnuGruppensort"); // leaves the mass alone
+    MenüWählen("mnuGruppensort"); // leaves the mass alone
     EXPECT_EQ(Zeigt("Messewesen"), "vor dem Laden");
     Messe.Datum[0] = DatumAus({2026, 12, 24});
-    Wählen("mnuSortmessen");
+    MenüWählen("mnuSortmessen");
     EXPECT_EQ(Zeigt("Datensatzus"), ZahlText(Geladen));
     EXPECT_EQ(Zeigt("Messewesen"), Messe.Messeart[Geladen]);
 }
@@ -161,13 +161,13 @@ TEST_F(MessenlisteLaden, DieDisketteRührtDieListeAuchNichtAn)
     for (const char *datei : {"Konfig.cfg", "Standard.dat", "Meßdiener.dat"})
         std::filesystem::copy_file(Festplatte / PfadAus(datei), Diskette / PfadAus(datei));
     ListeDaneben(Angezeigt);
-    Eingeben("vor1", "getippt");
+    Einsetzen("vor1", "getippt");
     const Satz schirm = Schirm();
     const Messenbild zuvor = MessenJetzt();
     for (const bool ja : {false, true}) {
         Konfig.Gemeinde = "ersetzt";
         Antworten = {ja};
-        Wählen("mnuDatenladenD");
+        MenüWählen("mnuDatenladenD");
         EXPECT_EQ(Konfig.Gemeinde == "ersetzt", !ja);
         EXPECT_EQ(MessenJetzt(), zuvor);
         EXPECT_EQ(Schirm(), schirm);
@@ -194,7 +194,7 @@ TEST_F(MessenlisteLaden, GeholteDatenRührenSieAuchNichtAn)
     ListeDaneben(Angezeigt);
     const Satz schirm = Schirm();
     HinUndZurück([this] {
-        Wählen("mnuDatenHolen");
+        MenüWählen("mnuDatenHolen");
         auto *dialog = static_cast<KopierForm *>(Fenster("Dateikopie"));
         dialog->Wahl.Öffnen(Diskette);
         Klick(dialog->OKButton);
@@ -208,14 +208,14 @@ TEST_F(MessenlisteLaden, AuchDieVerborgeneListeBleibt)
 {
     ListeDaneben(Angezeigt);
     const Satz schirm = Schirm();
-    Drücken("NeuMeß");
+    Klick("NeuMeß");
     Laden();
     Klick(Finden(Fenster("NeuMesse"), "CancelButton"));
     EXPECT_TRUE(form->isVisible());
     QCoreApplication::processEvents();
     EXPECT_EQ(Schirm(), schirm);
     EXPECT_EQ(MessenJetzt(), geladen);
-    Drücken("NeuMeß"); // fills the list from its mass
+    Klick("NeuMeß"); // fills the list from its mass
     EXPECT_EQ(Zeigt("Datensatzus"), ZahlText(Angezeigt));
     EXPECT_EQ(Zeigt("Messewesen"), "Art1");
 }
@@ -224,7 +224,7 @@ TEST_F(MessenlisteLaden, DieHelferDerMesseBleibenUndWerdenBeimSchließenGeschrie
 {
     ListeDaneben(Angezeigt);
     const QPointer<QWidget> liste = form;
-    Drücken("Lektoren");
+    Klick("Lektoren");
     form = Fenster("Lektorrenusw");
     HinUndZurück([&] {
         Laden();
@@ -232,7 +232,7 @@ TEST_F(MessenlisteLaden, DieHelferDerMesseBleibenUndWerdenBeimSchließenGeschrie
     });
     EXPECT_EQ(Zeigt("Lecki1Vor"), "zuvor");
     EXPECT_EQ(MessenJetzt(), geladen);
-    Drücken("Ende");
+    Klick("Ende");
     EXPECT_EQ(Messe.Lektor1Vor[Geladen], "zuvor"); // of the mass at the cursor
     EXPECT_TRUE(liste->isVisible());
 }

@@ -14,7 +14,7 @@ TEST_F(MessenlisteFormLöschenTest, LöschenFragtUndTutBeiNeinNichts)
     Öffnen(5);
     AllesÄndern();
     const Satz schirm = Schirm();
-    Drücken("Löscher");
+    Klick("Löscher");
     ASSERT_EQ(GestellteFragen.size(), 1U);
     EXPECT_EQ(GestellteFragen[0].Wortlaut, "Wirklich?");
     EXPECT_EQ(GestellteFragen[0].Titel, "Löschen einer Messe");
@@ -35,7 +35,7 @@ TEST_F(MessenlisteFormLöschenTest, LöschenSchließtDieLückeInJederSpalte)
         }
         modell[30][0] = "";
         Antworten = {true};
-        Drücken("Löscher");
+        Klick("Löscher");
         EXPECT_EQ(MessenJetzt(), modell) << i;
         EXPECT_EQ(Messe.Anzahl, 29);
         EXPECT_EQ(Zeigt("maxi"), "29");
@@ -58,7 +58,7 @@ TEST_F(MessenlisteFormLöschenTest, NachDemLöschenFülltSichDerSchirmEinmalUndD
     Messe.Kreuzträger[6] = 0;
     Messe.Allgemein[6] = 3;
     Messe.Dienerzahl[6] = 5;
-    Drücken("Löscher");
+    Klick("Löscher");
     EXPECT_EQ(Länge(Zeigt("tagelang")), 10);
     EXPECT_EQ(Zeigt("Dienerzahlen"), "5");
     EXPECT_EQ(Slot(1), "Weihrauch :");
@@ -77,7 +77,7 @@ TEST_F(MessenlisteFormLöschenTest, NachDemLöschenStehenDieSlotsDerNächstenMes
     ListeZeigen(1);
     EXPECT_EQ(Slot(1), "Leuchter :");
     Antworten = {true};
-    Drücken("Löscher");
+    Klick("Löscher");
     EXPECT_EQ(Zeigt("Dienster2"), "0");
     EXPECT_EQ(Slot(1), "Meßdiener 1 :");
 }
@@ -87,10 +87,10 @@ TEST_F(MessenlisteFormLöschenTest, LöschenNimmtKeinenFestenEintragMit)
     Öffnen(5);
     Fest(0, 5);
     const Datum tag = Messe.Datum[5];
-    Drücken("pt");
-    Drücken("phh");
+    Klick("pt");
+    Klick("phh");
     Antworten = {true};
-    Drücken("Löscher");
+    Klick("Löscher");
     EXPECT_EQ(MesseDienerFest.Datum[0], tag);
     EXPECT_EQ(LangeZeit(MesseDienerFest.Uhrzeit[0]), "08:05:00");
 }
@@ -100,7 +100,7 @@ TEST_F(MessenlisteFormLöschenTest, LöschenVergißtWasAufDemSchirmStand)
     Öffnen(5);
     AllesÄndern();
     Antworten = {true};
-    Drücken("Löscher");
+    Klick("Löscher");
     EXPECT_EQ(Zeigt("Messewesen"), "Art6");
     EXPECT_EQ(Messe.Messeart[4], "Art4");
     EXPECT_EQ(Messe.Messeart[5], "Art6");
@@ -111,7 +111,7 @@ TEST_F(MessenlisteFormLöschenTest, LöschenLeertDenWochentagDesFreienDatensatze
     Öffnen(5);
     MesseFüllen(31); // left over past the end
     Antworten = {true};
-    Drücken("Löscher");
+    Klick("Löscher");
     EXPECT_EQ(Messe.Messeart[30], "Art31");
     EXPECT_EQ(Messe.Wochentag[30], "");
 }
@@ -121,7 +121,7 @@ TEST_F(MessenlisteFormLöschenTest, ZweiMessenLassenSichNichtLöschen)
     for (const int anzahl : {0, 1, 2}) {
         Öffnen(0, anzahl);
         Antworten = {true};
-        Drücken("Löscher");
+        Klick("Löscher");
         EXPECT_EQ(GestellteFragen.size(), 1U);
         EXPECT_EQ(MessenJetzt(), vorher) << anzahl;
         EXPECT_EQ(Messe.Anzahl, anzahl);
@@ -130,7 +130,7 @@ TEST_F(MessenlisteFormLöschenTest, ZweiMessenLassenSichNichtLöschen)
     }
     Öffnen(1, 3);
     Antworten = {true};
-    Drücken("Löscher");
+    Klick("Löscher");
     EXPECT_EQ(Messe.Anzahl, 2);
     EXPECT_EQ(Messe.Messeart[1], "Art2");
 }
@@ -138,9 +138,9 @@ TEST_F(MessenlisteFormLöschenTest, ZweiMessenLassenSichNichtLöschen)
 TEST_F(MessenlisteFormLöschenTest, LöschenOhneNummerTutNichts)
 {
     Öffnen(5);
-    Eingeben("Datensatzus", "abc");
+    Einsetzen("Datensatzus", "abc");
     Antworten = {true};
-    Drücken("Löscher");
+    Klick("Löscher");
     EXPECT_EQ(MessenJetzt(), vorher);
     EXPECT_EQ(Messe.Anzahl, 30);
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
@@ -153,7 +153,7 @@ TEST_F(MessenlisteFormEndeTest, EndeUndSchließenSchreibenDenSchirm)
         AllesÄndern();
         const Satz schirm = Schirm();
         if (mitEnde)
-            Drücken("Ende");
+            Klick("Ende");
         else
             form->close();
         EXPECT_FALSE(form && form->isVisible());
@@ -171,7 +171,7 @@ TEST_F(MessenlisteImProgramm, Knopf6UndDerMenüeintragÖffnenSieÜberDemWartende
         if (mitKnopf)
             Klick(haupt->AnzMesse);
         else
-            Finden<QAction>(haupt, "mnuMessen")->trigger();
+            MenüWählen(haupt, "mnuMessen");
         form = Fenster("Messenliste");
         EXPECT_FALSE(haupt->isEnabled());
         EXPECT_TRUE(haupt->isMinimized());
@@ -205,7 +205,7 @@ TEST_F(MessenlisteImProgramm, EsGibtEineListeUndSieZeigtDieMessenNeu)
     MessenFüllen(5);
     Klick(haupt->Messenorgani);
     form = Fenster("Messenliste");
-    Eingeben("Messewesen", "veraltet");
+    Einsetzen("Messewesen", "veraltet");
     MessenFüllen(5);
     Messe.Cursor = 2;
     Klick(haupt->AnzMesse);

@@ -13,9 +13,9 @@ class MessenlisteFormZeigenTest : public Messenlistenstand {
         for (int k = 1; k <= 20; ++k) {
             const Text n = ZahlText(k);
             const Text label = "MDR[" + ZahlText(k - 1) + "]";
-            EXPECT_EQ(Finden(form, label.c_str())->isVisible(), k <= diener) << wann << k;
-            EXPECT_EQ(Feld(("vor" + n).c_str())->isVisible(), k <= diener) << wann << k;
-            EXPECT_EQ(Feld(("nach" + n).c_str())->isVisible(), k <= diener) << wann << k;
+            EXPECT_EQ(Finden(label)->isVisible(), k <= diener) << wann << k;
+            EXPECT_EQ(Finden("vor" + n)->isVisible(), k <= diener) << wann << k;
+            EXPECT_EQ(Finden("nach" + n)->isVisible(), k <= diener) << wann << k;
         }
     }
 };
@@ -26,15 +26,15 @@ TEST_F(MessenlisteFormZeigenTest, EsStehenSovieleZeilenDaWieDieMesseDienerHat)
     EXPECT_EQ(Zeigt("Dienerzahlen"), ZahlText(Messe.Dienerzahl[4]));
     ZeilenPrüfen("geöffnet ");
     for (int i = 0; i < 6; ++i) {
-        Drücken("Plus");
+        Klick("Plus");
         ZeilenPrüfen("Plus ");
     }
     for (int i = 0; i < 9; ++i) {
-        Drücken("Minus");
+        Klick("Minus");
         ZeilenPrüfen("Minus ");
     }
     for (const char *nummer : {"7", "2", "12"}) {
-        Eingeben("Datensatzus", nummer);
+        Einsetzen("Datensatzus", nummer);
         ZeilenPrüfen(nummer);
     }
 }
@@ -43,8 +43,8 @@ TEST_F(MessenlisteFormZeigenTest, EsStehenSovieleZeilenDaWieDieMesseDienerHat)
 TEST_F(MessenlisteFormZeigenTest, DieAnzahlZähltDieNeueMesseNochNicht)
 {
     Öffnen(29);
-    Drücken("Plus");
-    Drücken("Plus");
+    Klick("Plus");
+    Klick("Plus");
     EXPECT_EQ(Messe.Anzahl, 31);
     EXPECT_EQ(Zeigt("Datensatzus"), "31");
     EXPECT_EQ(Zeigt("maxi"), "30");
@@ -71,11 +71,11 @@ TEST_F(MessenlisteFormZeigenTest, DieSlotsNennenDieDiensteDerMesse)
         delete form;
     }
     ListeZeigen(0);
-    Drücken("Plus");
+    Klick("Plus");
     EXPECT_EQ(Slot(1), "Meßdiener 1 :");
-    Drücken("Plus");
+    Klick("Plus");
     EXPECT_EQ(Slot(2), "Leuchter :");
-    Eingeben("Datensatzus", "3");
+    Einsetzen("Datensatzus", "3");
     EXPECT_EQ(Slot(1), "Meßdiener 1 :");
     EXPECT_EQ(Slot(2), "Meßdiener 2 :");
 }
@@ -86,14 +86,14 @@ TEST_F(MessenlisteFormZeigenTest, DieSlotsFolgenEinemDienstAuchWennDieDienerzahl
     MessenFüllen(5);
     NurLeuchter(0, 0);
     ListeZeigen(0);
-    Eingeben("Dienster6", "4");
-    Eingeben("Dienerzahlen", "5"); // by hand
-    Eingeben("Dienster2", "1");
+    Einsetzen("Dienster6", "4");
+    Einsetzen("Dienerzahlen", "5"); // by hand
+    Einsetzen("Dienster2", "1");
     EXPECT_EQ(Zeigt("Dienerzahlen"), "5");
     EXPECT_EQ(Slot(1), "Leuchter :");
     EXPECT_EQ(Slot(2), "Meßdiener 2 :");
-    Eingeben("Dienster6", "20");
-    Eingeben("Dienster3", "8");
+    Einsetzen("Dienster6", "20");
+    Einsetzen("Dienster3", "8");
     EXPECT_EQ(Zeigt("Dienerzahlen"), "20");
     EXPECT_EQ(Slot(2), "Flambeau :");
     EXPECT_EQ(Slot(9), "Flambeau :");
@@ -103,7 +103,7 @@ TEST_F(MessenlisteFormZeigenTest, DieSlotsFolgenEinemDienstAuchWennDieDienerzahl
 TEST_F(MessenlisteFormZeigenTest, Über600Wird600)
 {
     Öffnen(5, 600);
-    Eingeben("Datensatzus", "601");
+    Einsetzen("Datensatzus", "601");
     EXPECT_EQ(Zeigt("Datensatzus"), "600");
     EXPECT_EQ(Messe.Anzahl, 600);
 }
@@ -112,8 +112,8 @@ TEST_F(MessenlisteFormZeigenTest, OhneNummerSchreibtEndeNichts)
 {
     Öffnen(4);
     AllesÄndern();
-    Eingeben("Datensatzus", "");
-    Drücken("Ende");
+    Einsetzen("Datensatzus", "");
+    Klick("Ende");
     EXPECT_TRUE(form->isVisible());
     EXPECT_EQ(MessenJetzt(), vorher);
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});

@@ -19,7 +19,7 @@ class MessenlisteImProgramm : public Messenlistenstand {
 
     void ListeZurück()
     {
-        Drücken("Ende");
+        Klick("Ende");
         EXPECT_TRUE(Warten([&] { return !form; })); // unloaded
         EXPECT_TRUE(haupt->isEnabled());
         EXPECT_TRUE(haupt->isMaximized());
@@ -33,7 +33,7 @@ class MessenlisteImProgramm : public Messenlistenstand {
         form = Fenster("Messenliste");
     }
 
-    void Wählen(const char *eintrag) const { Finden<QAction>(haupt, eintrag)->trigger(); }
+    void MenüWählen(const char *eintrag) const { altardienst::MenüWählen(haupt, eintrag); }
 
     HauptForm *haupt;
 };

@@ -1,12 +1,13 @@
 // The fixture of the tests of the mass list.
 #pragma once
 
-#include "planning/Formstand.h"
+#include "Formstand.h"
+#include "planning/Messenbild.h"
 #include "planning/MessenlisteForm.h"
 
 namespace altardienst {
 
-class Messenlistenstand : public Formstand {
+class Messenlistenstand : public Formstand<> {
   protected:
     /// Opens the list on that many masses.
     void Öffnen(int cursor = 0, int anzahl = 30)
@@ -30,7 +31,7 @@ class Messenlistenstand : public Formstand {
     {
         Satz satz;
         for (const Text &name : Boxen())
-            satz.push_back(Zeigt(name.c_str()));
+            satz.push_back(Zeigt(name));
         return satz;
     }
 
@@ -65,10 +66,10 @@ class Messenlistenstand : public Formstand {
     /// Changes every box of the screen.
     void AllesÄndern() const
     {
-        Eingeben("datendaten", "24.12.2026");
-        Eingeben("tagelang", "Heiligabend");
-        Eingeben("Uhrwerk", "23:45:00");
-        Eingeben("Messewesen", "Christmette");
+        Einsetzen("datendaten", "24.12.2026");
+        Einsetzen("tagelang", "Heiligabend");
+        Einsetzen("Uhrwerk", "23:45:00");
+        Einsetzen("Messewesen", "Christmette");
         for (const auto &[name, zahl] : {std::pair("Dienster1", "2"),
                                          {"Dienster2", "1"},
                                          {"Dienster3", "7"},
@@ -76,14 +77,14 @@ class Messenlistenstand : public Formstand {
                                          {"Dienster5", "2"},
                                          {"Dienster6", "3"},
                                          {"Dienerzahlen", "20"}})
-            Eingeben(name, zahl);
+            Einsetzen(name, zahl);
         for (int k = 1; k <= 20; ++k) {
-            Eingeben(("vor" + ZahlText(k)).c_str(), ("Anna" + ZahlText(k)).c_str());
-            Eingeben(("nach" + ZahlText(k)).c_str(), ("Groß" + ZahlText(k)).c_str());
+            Einsetzen("vor" + ZahlText(k), "Anna" + ZahlText(k));
+            Einsetzen("nach" + ZahlText(k), "Groß" + ZahlText(k));
         }
     }
 
-    Text Slot(int k) const { return Zeigt(("MDR[" + ZahlText(k - 1) + "]").c_str()); }
+    Text Slot(int k) const { return Zeigt("MDR[" + ZahlText(k - 1) + "]"); }
 
     /// Makes a mass with this service and no other, and as many servers.
     static void NurLeuchter(int i, int zahl)

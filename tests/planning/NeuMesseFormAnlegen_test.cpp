@@ -14,7 +14,7 @@ TEST_F(NeuMesseFormAnlegenTest, OKSchreibtDenFreienDatensatzUndOrdnetIhnEin)
     MesseFüllen(5); // what was left past the end stays, except the fields of the dialog
     const Satz rest = MesseSatz(5);
     Termin("24.11.2026", "8:2:30", "Dienstag  ");
-    Eingeben("Messewesen", "Requiem");
+    Einsetzen("Messewesen", "Requiem");
     for (const auto &[feld, zahl] : {std::pair("Dienster1", "1"),
                                      {"Dienster2", "2"},
                                      {"Dienster3", "3"},
@@ -26,8 +26,8 @@ TEST_F(NeuMesseFormAnlegenTest, OKSchreibtDenFreienDatensatzUndOrdnetIhnEin)
                                      {"Kommi", "2"},
                                      {"Kanto", "0"},
                                      {"Kolt", "2"}})
-        Eingeben(feld, zahl);
-    Drücken("OKButton");
+        Einsetzen(feld, zahl);
+    Klick("OKButton");
     EXPECT_TRUE(IstZurück());
     EXPECT_EQ(Messe.Anzahl, 6);
     Satz neu = rest;
@@ -49,7 +49,7 @@ TEST_F(NeuMesseFormAnlegenTest, NachOKZeigtDieListeIhreNummerNeu)
 {
     Öffnen(2);
     Termin("21.11.2026", "7:00", "Samstag");
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_TRUE(IstZurück());
     EXPECT_EQ(InDerListe("maxi"), "6");
     EXPECT_EQ(InDerListe("Datensatzus"), "2");
@@ -66,7 +66,7 @@ TEST_F(NeuMesseFormAnlegenTest, DieListeFülltSichNachOKNurEinmal)
 {
     Öffnen(2);
     Termin("21.11.2026", "7:00", "Samstag");
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_EQ(Länge(InDerListe("tagelang")), 10);
     EXPECT_NE(InDerListe("tagelang"), Messe.Wochentag[2]);
     EXPECT_EQ(InDerListe("Dienerzahlen"),
@@ -79,7 +79,7 @@ TEST_F(NeuMesseFormAnlegenTest, EinVergangenesDatumWirdVorDemSchreibenHeute)
 {
     Öffnen();
     Termin("1.1.2020", "7:00", "irgendwann");
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_TRUE(IstZurück());
     EXPECT_EQ(Messe.Datum[0], Heute);
     EXPECT_EQ(Messe.Wochentag[0], "Samstag   ");
@@ -90,9 +90,9 @@ TEST_F(NeuMesseFormAnlegenTest, AbbrechenUndSchließenÄndernNichts)
     for (const bool mitKnopf : {true, false}) {
         Öffnen();
         Termin("1.2.2027", "7:00", "Montag");
-        Eingeben("Dienster3", "5");
+        Einsetzen("Dienster3", "5");
         if (mitKnopf)
-            Drücken("CancelButton");
+            Klick("CancelButton");
         else
             form->close();
         EXPECT_TRUE(IstZurück());
@@ -110,13 +110,13 @@ TEST_F(NeuMesseFormAnlegenTest, Die300MesseGehtNochDie301Nicht)
 {
     Öffnen(2, 299);
     Termin("21.11.2026", "7:00", "Samstag");
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_TRUE(IstZurück());
     EXPECT_EQ(Messe.Anzahl, 300);
     ÜberDieListe();
     Termin("21.11.2026", "7:00", "Samstag   "); // the full table is checked before duplicates
     const Messenbild voll = MessenJetzt();
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_EQ(GezeigteMeldungen,
               std::vector<Text>{"Maximale Anzahl von Datensätze für Messen erreicht!"});
     EXPECT_TRUE(form->isVisible());
@@ -132,7 +132,7 @@ TEST_F(NeuMesseFormAnlegenTest, DoppeltIstNurGleicherTagGleicheZeitUndGleicherWo
         GezeigteMeldungen.clear();
         Termin(KurzesDatum(Messe.Datum[i]).c_str(), LangeZeit(Messe.Uhrzeit[i]).c_str(),
                Messe.Wochentag[i].c_str());
-        Drücken("OKButton");
+        Klick("OKButton");
         EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Doppelt eingeben! Nicht mit mir!!!!!"});
         EXPECT_TRUE(form->isVisible());
         EXPECT_EQ(MessenJetzt(), vorher);
@@ -140,17 +140,17 @@ TEST_F(NeuMesseFormAnlegenTest, DoppeltIstNurGleicherTagGleicheZeitUndGleicherWo
     }
     GezeigteMeldungen.clear();
     Termin("24.11.2026", "08:02:00", "Dienstag  "); // padded, as the dialog writes it
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_TRUE(IstZurück());
     EXPECT_EQ(Messe.Anzahl, 6);
     ÜberDieListe();
     Termin("24.11.2026", "08:02:00", "Dienstag  ");
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Doppelt eingeben! Nicht mit mir!!!!!"});
     EXPECT_EQ(Messe.Anzahl, 6);
     GezeigteMeldungen.clear();
-    Eingeben("Uhrwerk", "08:03:00");
-    Drücken("OKButton");
+    Einsetzen("Uhrwerk", "08:03:00");
+    Klick("OKButton");
     EXPECT_TRUE(IstZurück());
     EXPECT_EQ(Messe.Anzahl, 7);
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
@@ -160,7 +160,7 @@ TEST_F(NeuMesseFormAnlegenTest, GleicheZeitUndGleicherWochentagAnEinemAnderenTag
 {
     Öffnen();
     Termin("01.12.2026", "08:02:00", "Dienstag"); // a week after mass 2
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_TRUE(IstZurück());
     EXPECT_EQ(Messe.Anzahl, 6);
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
@@ -170,7 +170,7 @@ TEST_F(NeuMesseFormAnlegenTest, AmSelbenTagOrdnetDieUhrzeit)
 {
     Öffnen();
     Termin("24.11.2026", "07:00", "Dienstag"); // an hour before mass 2
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_TRUE(IstZurück());
     EXPECT_EQ(Messe.Messeart[2], "Messe");
     EXPECT_EQ(Messe.Messeart[3], "Art2");
@@ -181,8 +181,8 @@ TEST_F(NeuMesseFormAnlegenTest, DerWegInDenDialogNimmtKeinenFestenEintragMit)
     MessenFüllen(5);
     ListeZeigen(2);
     Fest(0, 2);
-    Drücken("pt");
-    Drücken("phh");
+    Klick("pt");
+    Klick("phh");
     ÜberDieListe();
     EXPECT_EQ(MesseDienerFest.Datum[0], Messe.Datum[2]);
     EXPECT_EQ(MesseDienerFest.Uhrzeit[0], Messe.Uhrzeit[2]);
@@ -200,17 +200,17 @@ TEST_F(NeuMesseFormAnlegenTest, DieSlotsDerListeNennenDieDiensteIhrerMesse)
         Messe.Dienerzahl[i] = Messe.Leuchter[i] + 2;
     }
     ListeZeigen(2);
-    Eingeben("Dienster2", "2");
-    Eingeben("Dienerzahlen", "2");
-    EXPECT_EQ(Finden<QLabel>(form, "MDR[0]")->text(), "Leuchter :");
+    Einsetzen("Dienster2", "2");
+    Einsetzen("Dienerzahlen", "2");
+    EXPECT_EQ(Finden<QLabel>("MDR[0]")->text(), "Leuchter :");
     ÜberDieListe();
-    Drücken("CancelButton");
+    Klick("CancelButton");
     EXPECT_TRUE(IstZurück());
     EXPECT_EQ(InDerListe("Dienster2"), "0");
     EXPECT_EQ(InDerListe("MDR[0]"), "Meßdiener 1 :");
     ÜberDieListe();
     Termin("21.11.2026", "7:00", "Samstag"); // takes mass 1 to the number of the list
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_TRUE(IstZurück());
     EXPECT_EQ(InDerListe("Messewesen"), "Art1");
     EXPECT_EQ(InDerListe("MDR[1]"), "Leuchter :");
@@ -224,16 +224,16 @@ TEST_F(NeuMesseFormAnlegenTest, WasSichNichtUmwandelnLässtBekommtDenFokus)
     Termin("01.02.2027", "10:00", "Montag");
     for (const char *box : boxen) {
         const Text zuvor = Zeigt(box);
-        Eingeben(box, "abc");
-        Drücken("OKButton");
+        Einsetzen(box, "abc");
+        Klick("OKButton");
         EXPECT_EQ(GezeigteMeldungen.size(), 1U) << box;
-        EXPECT_TRUE(Feld(box)->hasFocus()) << box;
+        EXPECT_TRUE(Finden(box)->hasFocus()) << box;
         GezeigteMeldungen.clear();
-        Eingeben(box, zuvor.c_str());
+        Einsetzen(box, zuvor);
     }
-    Eingeben("datendaten", "abc");
+    Einsetzen("datendaten", "abc");
     Taste("Uhrwerk", Qt::Key_Return); // silently
-    EXPECT_TRUE(Feld("datendaten")->hasFocus());
+    EXPECT_TRUE(Finden("datendaten")->hasFocus());
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
 }
 
@@ -241,7 +241,7 @@ TEST_F(NeuMesseFormAnlegenTest, OhneDieListeSchließtErSichStill)
 {
     Öffnen();
     delete liste;
-    Drücken("CancelButton");
+    Klick("CancelButton");
     EXPECT_TRUE(Warten([&] { return !form; }));
 }
 
@@ -252,11 +252,11 @@ TEST_F(NeuMesseFormAnlegenTest, DoppeltGiltVorDemNeurechnenUndNichtHinterDemEnde
     Messe.Datum[1] = DatumAus({2020, 1, 6});
     Messe.Wochentag[1] = "Montag";
     Termin("06.01.2020", "08:01:00", "Montag");
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Doppelt eingeben! Nicht mit mir!!!!!"});
     GezeigteMeldungen.clear();
     Termin("27.11.2026", "08:05:00", "Freitag");
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_EQ(Messe.Anzahl, 6);
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
 }
@@ -270,11 +270,11 @@ TEST_F(NeuMesseFormAnlegenTest, WasSichNichtUmwandelnLässtWirdGemeldetUndLegtKe
         for (const char *text : {"abc", "", "31.02.2027", "25:61"}) {
             Termin("1.2.2027", "10:00", "Montag");
             for (const char *zahl : Zahlen)
-                Eingeben(zahl, "1");
+                Einsetzen(zahl, "1");
             GezeigteMeldungen.clear();
-            Eingeben(box, text);
+            Einsetzen(box, text);
             EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
-            Drücken("OKButton");
+            Klick("OKButton");
             EXPECT_EQ(GezeigteMeldungen,
                       std::vector<Text>{"Laufzeitfehler '13': Typen unverträglich"})
                 << box << " " << text;
@@ -291,13 +291,13 @@ TEST_F(NeuMesseFormAnlegenTest, WasSichNichtUmwandelnLässtWirdGemeldetUndLegtKe
 TEST_F(NeuMesseFormAnlegenTest, EinSchlechterTerminBleibtStehenUndGehtNichtWeiter)
 {
     Öffnen();
-    Eingeben("tagelang", "irgendwann");
+    Einsetzen("tagelang", "irgendwann");
     for (const char *text : {"31.02.2027", "abc", "", "40000", "-1"}) {
-        Eingeben("datendaten", text);
-        Eingeben("Uhrwerk", text);
+        Einsetzen("datendaten", text);
+        Einsetzen("Uhrwerk", text);
         for (const char *spin : {"Änderung1", "Änderung2", "Änderung4", "Änderung5", "Änderung6"})
             Drehen(spin, "auf");
-        Drücken("Taga");
+        Klick("Taga");
         Taste("datendaten", Qt::Key_Return);
         EXPECT_EQ(Zeigt("datendaten"), text);
         EXPECT_EQ(Zeigt("Uhrwerk"), text);
@@ -310,9 +310,9 @@ TEST_F(NeuMesseFormAnlegenTest, ZeilenumbrücheUndEmojiStehenAuchAufDemSchirmNic
 {
     Öffnen();
     Termin("1.2.2027", "10:00", "Montag");
-    Eingeben("Messewesen", "Hoch\namt 🎉 €");
+    Einsetzen("Messewesen", "Hoch\namt 🎉 €");
     EXPECT_EQ(Zeigt("Messewesen"), "Hoch amt ? €");
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_EQ(Messe.Messeart[5], "Hoch amt ? €");
 }
 

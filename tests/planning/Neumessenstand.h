@@ -27,12 +27,12 @@ class Neumessenstand : public Messenlistenstand {
 
     void Termin(const char *datum, const char *uhrzeit, const char *tag) const
     {
-        Eingeben("datendaten", datum);
-        Eingeben("Uhrwerk", uhrzeit);
-        Eingeben("tagelang", tag);
+        Einsetzen("datendaten", datum);
+        Einsetzen("Uhrwerk", uhrzeit);
+        Einsetzen("tagelang", tag);
     }
 
-    Text InDerListe(const char *name) const { return Aufschrift(Finden(liste, name)); }
+    Text InDerListe(const char *name) const { return Zeigt(Finden(liste, name)); }
 
     bool IstZurück()
     {

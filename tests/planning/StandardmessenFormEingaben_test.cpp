@@ -12,8 +12,8 @@ class StandardmessenFormEingabenTest : public Standardmessenstand {
     void Dienste(const std::array<int, 7> &zahlen) const
     {
         for (std::size_t k = 1; k < zahlen.size(); ++k)
-            Eingeben(Dienstfelder[k], ZahlText(zahlen[k]).c_str());
-        Eingeben(Dienstfelder[0], ZahlText(zahlen[0]).c_str());
+            Einsetzen(Dienstfelder[k], ZahlText(zahlen[k]).c_str());
+        Einsetzen(Dienstfelder[0], ZahlText(zahlen[0]).c_str());
     }
     std::vector<Text> Dienste() const
     {
@@ -40,7 +40,7 @@ TEST_F(StandardmessenFormEingabenTest, DiensteBleibenInIhrenGrenzen)
                                           {"Dienste", 2}}) {
         const auto nach = [&](const char *text) {
             Dienste({1, 0, 0, 0, 0, 0, 1});
-            Eingeben(feld, text);
+            Einsetzen(feld, text);
             EXPECT_EQ(Zeigt("ZahlMeßdiener"), ZahlText(1 + std::stoi(Zeigt(feld)))) << feld << text;
             return Zeigt(feld);
         };
@@ -63,7 +63,7 @@ TEST_F(StandardmessenFormEingabenTest, DienerzahlIstDieSummeAllerDienste)
                                      {"DienstD", 1},
                                      {"Dienste", 2},
                                      {"DienstF", 4}}) {
-        Tippen(Feld(feld), ZahlText(zahl).c_str());
+        Tippen(feld, ZahlText(zahl));
         EXPECT_EQ(Zeigt("ZahlMeßdiener"), ZahlText(summe += zahl)) << feld;
     }
 }
@@ -74,14 +74,14 @@ TEST_F(StandardmessenFormEingabenTest, AllgemeinBekommtDenRestBis20)
     Dienste({0, 2, 2, 8, 2, 2, 0});
     EXPECT_EQ(Zeigt("ZahlMeßdiener"), "0"); // the last value typed by hand
     for (int zahl = -2; zahl <= 22; ++zahl) {
-        Eingeben("DienstF", "1");
-        Eingeben("DienstF", ZahlText(zahl).c_str());
+        Einsetzen("DienstF", "1");
+        Einsetzen("DienstF", ZahlText(zahl));
         EXPECT_EQ(Zeigt("DienstF"), ZahlText(std::clamp(zahl, 0, 4))) << zahl;
         EXPECT_EQ(Zeigt("ZahlMeßdiener"), ZahlText(16 + std::clamp(zahl, 0, 4))) << zahl;
     }
     Dienste({0, 0, 0, 0, 0, 0, 20});
     EXPECT_EQ(Zeigt("DienstF"), "20");
-    Eingeben("DienstF", "40000");
+    Einsetzen("DienstF", "40000");
     EXPECT_EQ(Zeigt("DienstF"), "20");
 }
 
@@ -94,11 +94,11 @@ TEST_F(StandardmessenFormEingabenTest, EinDienstMehrSchneidetAllgemein)
                                            {"DienstB", "1", "9"},
                                            {"DienstD", "2", "7"},
                                            {"Dienste", "2", "5"}}) {
-        Eingeben(feld, zahl);
+        Einsetzen(feld, zahl);
         EXPECT_EQ(Zeigt("DienstF"), rest) << feld;
         EXPECT_EQ(Zeigt("ZahlMeßdiener"), "20") << feld;
     }
-    Eingeben("DienstC", "0"); // what was cut does not come back
+    Einsetzen("DienstC", "0"); // what was cut does not come back
     EXPECT_EQ(Zeigt("DienstF"), "5");
     EXPECT_EQ(Zeigt("ZahlMeßdiener"), "12");
 }
@@ -114,11 +114,11 @@ TEST_F(StandardmessenFormEingabenTest, EineGetippteDienerzahlLässtDieDiensteSte
                                      {"0", "0"},
                                      {"40000", "20"},
                                      {"-40000", "0"}}) {
-        Eingeben("ZahlMeßdiener", "7");
-        Eingeben("ZahlMeßdiener", text);
+        Einsetzen("ZahlMeßdiener", "7");
+        Einsetzen("ZahlMeßdiener", text);
         EXPECT_EQ(Dienste(), (Zahlen{zahl, "1", "2", "3", "0", "1", "4"})) << text;
     }
-    Eingeben("DienstD", "1");
+    Einsetzen("DienstD", "1");
     EXPECT_EQ(Zeigt("ZahlMeßdiener"), "12"); // the sum again
 }
 
@@ -126,7 +126,7 @@ TEST_F(StandardmessenFormEingabenTest, EineLeereDienerzahlWird1)
 {
     Öffnen();
     Dienste({9, 1, 2, 3, 0, 1, 4});
-    Eingeben("ZahlMeßdiener", "");
+    Einsetzen("ZahlMeßdiener", "");
     EXPECT_EQ(Dienste(), (Zahlen{"1", "1", "2", "3", "0", "1", "4"}));
 }
 
@@ -135,9 +135,9 @@ TEST_F(StandardmessenFormEingabenTest, EineGetippteDienerzahlFülltLeereDiensteM
     Öffnen();
     Dienste({9, 1, 2, 3, 0, 1, 4});
     for (const char *feld : {"DienstA", "DienstC", "Dienste", "DienstF"})
-        Eingeben(feld, "");
+        Einsetzen(feld, "");
     EXPECT_EQ(Dienste(), (Zahlen{"9", "", "2", "", "0", "", ""})); // no sum without numbers
-    Eingeben("ZahlMeßdiener", "5");
+    Einsetzen("ZahlMeßdiener", "5");
     const Zahlen gefüllt = Dienste();
     EXPECT_EQ(Zahlen(gefüllt.begin() + 1, gefüllt.end()), (Zahlen{"0", "2", "0", "0", "0", "0"}));
 }
@@ -147,8 +147,8 @@ TEST_F(StandardmessenFormEingabenTest, NurLeereDiensteWerden0UndKeineLeereHelfer
     Öffnen();
     Dienste({9, 1, 2, 3, 1, 1, 4});
     for (const char *feld : {"DienstB", "DienstD", "Leck"})
-        Eingeben(feld, "");
-    Eingeben("ZahlMeßdiener", "5");
+        Einsetzen(feld, "");
+    Einsetzen("ZahlMeßdiener", "5");
     EXPECT_EQ(Zeigt("DienstB"), "0");
     EXPECT_EQ(Zeigt("DienstD"), "0");
     EXPECT_EQ(Zeigt("Leck"), "");
@@ -163,16 +163,16 @@ TEST_F(StandardmessenFormEingabenTest, WasSichNichtUmwandelnLässtBekommtDenFoku
     for (const char *feld : felder)
         for (const char *knopf : {"Plus", "Minus", "Ende"}) {
             const Text zuvor = Zeigt(feld);
-            Eingeben(feld, "abc");
-            Drücken(knopf);
+            Einsetzen(feld, "abc");
+            Klick(knopf);
             EXPECT_EQ(GezeigteMeldungen.size(), 1U) << feld;
-            EXPECT_TRUE(Feld(feld)->hasFocus()) << feld << " " << knopf;
+            EXPECT_TRUE(Finden(feld)->hasFocus()) << feld << " " << knopf;
             GezeigteMeldungen.clear();
-            Eingeben(feld, zuvor.c_str());
+            Einsetzen(feld, zuvor);
         }
-    Eingeben("Datensatznummer", "abc");
-    Drücken("Plus");
-    EXPECT_TRUE(Feld("Datensatznummer")->hasFocus());
+    Einsetzen("Datensatznummer", "abc");
+    Klick("Plus");
+    EXPECT_TRUE(Finden("Datensatznummer")->hasFocus());
 }
 
 TEST_F(StandardmessenFormEingabenTest, DasRadGehtAmWochentagVorbei)
@@ -196,8 +196,8 @@ TEST_F(StandardmessenFormEingabenTest, HelferzahlenGehenVon0Bis2)
                                          {"3", "2"},
                                          {"-1", "0"},
                                          {"40000", "2"}}) {
-            Eingeben(feld, "1");
-            Eingeben(feld, text);
+            Einsetzen(feld, "1");
+            Einsetzen(feld, text);
             EXPECT_EQ(Zeigt(feld), zahl) << feld << " " << text;
         }
     }
@@ -211,9 +211,9 @@ TEST_F(StandardmessenFormEingabenTest, JedesZahlenfeldHatSeinenSpin)
     for (std::size_t k = 0; k < felder.size(); ++k) {
         Dienste({1, 1, 1, 1, 1, 1, 1});
         for (const char *feld : Helferfelder)
-            Eingeben(feld, "1");
-        Eingeben("ZahlMeßdiener", "7");
-        std::map<Text, Text> erwartet = Gezeigt(felder);
+            Einsetzen(feld, "1");
+        Einsetzen("ZahlMeßdiener", "7");
+        std::map<Text, Text> erwartet = AlleZeigen(felder);
         const Text spin = "Änderung" + ZahlText(static_cast<int>(k + 1));
         const bool istDienst = k >= 1 && k <= 6;
         const auto prüfen = [&](const char *richtung, int zahl, int summe) {
@@ -221,7 +221,7 @@ TEST_F(StandardmessenFormEingabenTest, JedesZahlenfeldHatSeinenSpin)
             if (istDienst)
                 erwartet["ZahlMeßdiener"] = ZahlText(summe);
             erwartet[felder[k]] = ZahlText(k == 0 ? zahl + 6 : zahl);
-            EXPECT_EQ(Gezeigt(felder), erwartet) << spin << " " << richtung;
+            EXPECT_EQ(AlleZeigen(felder), erwartet) << spin << " " << richtung;
         };
         prüfen("auf", 2, 7);
         prüfen("ab", 1, 6);
@@ -234,7 +234,7 @@ TEST_F(StandardmessenFormEingabenTest, JedesZahlenfeldHatSeinenSpin)
 TEST_F(StandardmessenFormEingabenTest, EinSpinLässtEinFeldOhneZahlStehen)
 {
     Öffnen();
-    Eingeben("DienstC", "abc");
+    Einsetzen("DienstC", "abc");
     Drehen("Änderung4", "auf");
     EXPECT_EQ(Zeigt("DienstC"), "abc");
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
@@ -244,7 +244,7 @@ TEST_F(StandardmessenFormEingabenTest, DieUhrzeitGehtInStundenUndFünfMinuten)
 {
     Öffnen();
     const auto nach = [&](const char *anfang, const std::function<void()> &tun) {
-        Eingeben("Zeitig", anfang);
+        Einsetzen("Zeitig", anfang);
         tun();
         return Zeigt("Zeitig");
     };
@@ -268,7 +268,7 @@ TEST_F(StandardmessenFormEingabenTest, DieUhrzeitGehtInStundenUndFünfMinuten)
           {"mMin", "Minutenänderung", "ab", Qt::Key_Minus, "09:55:00", "00:03:00", "23:58:00"},
           {"pMini", "Minutenänderung", "auf", Qt::Key_Plus, "10:05:00", "23:55:00", "00:00:00"}}) {
         gehtUm(
-            s.Knopf, [&] { Drücken(s.Knopf); }, s.Von10Uhr, s.Anfang, s.ÜberDenTag);
+            s.Knopf, [&] { Klick(s.Knopf); }, s.Von10Uhr, s.Anfang, s.ÜberDenTag);
         gehtUm(
             s.Spin, [&] { Drehen(s.Spin, s.Richtung); }, s.Von10Uhr, s.Anfang, s.ÜberDenTag);
         gehtUm(
@@ -286,7 +286,7 @@ TEST_F(StandardmessenFormEingabenTest, EineUhrzeitWirdLangGeschrieben)
                                      {"23:59:59", "23:59:59"},
                                      {"0:0", "00:00:00"},
                                      {"01.02.2027 18:30", "18:30:00"}}) {
-        Eingeben("Zeitig", text);
+        Einsetzen("Zeitig", text);
         EXPECT_EQ(Zeigt("Zeitig"), lang);
     }
 }
@@ -295,10 +295,10 @@ TEST_F(StandardmessenFormEingabenTest, EineUngültigeUhrzeitBleibtStehenUndGehtN
 {
     Öffnen();
     for (const char *text : {"25:61", "abc", "", "9", "40000", "-1", "12:60", "31.02.2027"}) {
-        Eingeben("Zeitig", text);
+        Einsetzen("Zeitig", text);
         EXPECT_EQ(Zeigt("Zeitig"), text);
         for (const char *knopf : {"mh", "ph", "mMin", "pMini"})
-            Drücken(knopf);
+            Klick(knopf);
         EXPECT_EQ(Zeigt("Zeitig"), text);
     }
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
@@ -319,7 +319,7 @@ TEST_F(StandardmessenFormEingabenTest, WasSichNichtUmwandelnLässtHältDasSpeich
             for (const bool bewegen : {true, false}) {
                 Öffnen(5);
                 AllesÄndern();
-                Eingeben(Boxen[k], text);
+                Einsetzen(Boxen[k], text);
                 EXPECT_EQ(Zeigt(Boxen[k]), text);
                 EXPECT_EQ(StandardmessenJetzt(), vorher);
                 GezeigteMeldungen.clear();
@@ -328,7 +328,7 @@ TEST_F(StandardmessenFormEingabenTest, WasSichNichtUmwandelnLässtHältDasSpeich
                 for (std::size_t f = 0; f <= k; ++f)
                     erwartet[f] = schirm[f];
                 if (bewegen)
-                    Drücken("Plus");
+                    Klick("Plus");
                 else
                     form->close();
                 EXPECT_EQ(GezeigteMeldungen, fehler) << Boxen[k] << " " << text;
@@ -350,13 +350,13 @@ TEST_F(StandardmessenFormEingabenTest, InDerTabelleStehtWasAufDemSchirmStand)
     Öffnen(5);
     for (const char *text : {"Hochamt 🎉 mit Chor", "Grüße – „ß“ €", "中文", ""}) {
         QApplication::clipboard()->setText(QString::fromUtf8(text));
-        FokusAuf(Feld("Messearten"));
-        QTest::keyClick(Feld("Messearten"), Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClick(Feld("Messearten"), Qt::Key_V, Qt::ControlModifier);
+        FokusAuf("Messearten");
+        QTest::keyClick(Finden<QLineEdit>("Messearten"), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(Finden<QLineEdit>("Messearten"), Qt::Key_V, Qt::ControlModifier);
         const Text gezeigt = Zeigt("Messearten");
-        Drücken("Plus");
+        Klick("Plus");
         EXPECT_EQ(Standardmesse.Messeart[5], gezeigt);
-        Drücken("Minus");
+        Klick("Minus");
         EXPECT_EQ(Zeigt("Messearten"), gezeigt);
     }
 }
@@ -366,7 +366,7 @@ TEST_F(StandardmessenFormEingabenTest, EinEingefügterZeilenumbruchBleibtNichtIm
     Öffnen(5);
     for (const char *feld : Boxen) {
         for (const char *text : {"Hoch\namt", "1\r\n2", "a\nb\n"}) {
-            Eingeben(feld, text);
+            Einsetzen(feld, text);
             EXPECT_EQ(Zeigt(feld).find_first_of("\r\n"), Text::npos) << feld;
         }
     }

@@ -33,9 +33,9 @@ TEST_F(StandardmessenFormTest, JedesControlTrägtSeinenNamenUndSeineBeschriftung
     EXPECT_EQ(Zeigt("Löschig"), "Löschen");
     EXPECT_EQ(Zeigt("Ende"), "Ende");
     for (const char *name : {"mh", "ph", "mMin", "pMini", "Plus", "Minus"})
-        Finden<QPushButton>(form, name);
+        Finden<QPushButton>(name);
     for (const char *name : {"Stundenändern", "Minutenänderung", "DPM"})
-        Finden<SpinButton>(form, name);
+        Finden<SpinButton>(name);
     QStringList tage;
     for (int i = 0; i < Tage()->count(); ++i)
         tage << Tage()->itemText(i);
@@ -116,11 +116,11 @@ struct Bewegung {
 
 const std::array Vorwärts = {
     Bewegung{"Plus", [](QWidget *f) { Klick(Finden(f, "Plus")); }},
-    Bewegung{"DPM", [](QWidget *f) { Klick(Finden(Finden(f, "DPM"), "auf")); }},
+    Bewegung{"DPM", [](QWidget *f) { Drehen(Finden(f, "DPM"), "auf"); }},
     Bewegung{"Bild auf", [](QWidget *f) { QTest::keyClick(f->windowHandle(), Qt::Key_PageUp); }}};
 const std::array Rückwärts = {
     Bewegung{"Minus", [](QWidget *f) { Klick(Finden(f, "Minus")); }},
-    Bewegung{"DPM", [](QWidget *f) { Klick(Finden(Finden(f, "DPM"), "ab")); }},
+    Bewegung{"DPM", [](QWidget *f) { Drehen(Finden(f, "DPM"), "ab"); }},
     Bewegung{"Bild ab", [](QWidget *f) { QTest::keyClick(f->windowHandle(), Qt::Key_PageDown); }}};
 
 TEST_F(StandardmessenFormTest, BewegenSchreibtDenSchirmUndZeigtDenNachbarn)
@@ -174,9 +174,9 @@ TEST_F(StandardmessenFormTest, EineZeileOhneMesseHatKeinenWochentag)
     Standardmesse.Wochentag[4].clear();
     vorher = StandardmessenJetzt();
     Öffnen(3);
-    Drücken("Plus");
+    Klick("Plus");
     EXPECT_EQ(Tage()->currentText(), "");
-    Drücken("Plus");
+    Klick("Plus");
     EXPECT_EQ(StandardmessenJetzt(), vorher);
 }
 
@@ -193,13 +193,13 @@ TEST_F(StandardmessenFormTest, EinWochentagDerKeinerDerSiebenIstBleibtWieErIst)
         vorher = StandardmessenJetzt();
         Öffnen(3);
         for (const int i : {4, 5, 6, 5, 4}) {
-            Drücken(Zeigt("Datensatznummer") < ZahlText(i) ? "Plus" : "Minus");
+            Klick(Zeigt("Datensatznummer") < ZahlText(i) ? "Plus" : "Minus");
             EXPECT_EQ(Schirm(), vorher[static_cast<std::size_t>(i)]);
         }
-        Tippen(Feld("Datensatznummer"), "5");
+        Tippen("Datensatznummer", "5");
         EXPECT_EQ(Tage()->currentText().toStdString(), Text(tag) + " auch");
-        Drücken("Minus");
-        Drücken("Ende");
+        Klick("Minus");
+        Klick("Ende");
         EXPECT_FALSE(form->isVisible());
         delete form;
         Öffnen(4);
@@ -234,10 +234,10 @@ TEST_F(StandardmessenFormTest, EinFremderWochentagStehtNichtZurWahl)
         EXPECT_NE(Tage()->currentText(), "Samstagabend") << taste;
     }
     Tage()->setCurrentText("Freitag");
-    Drücken("Plus");
+    Klick("Plus");
     EXPECT_EQ(Standardmesse.Wochentag[4], "Freitag");
     EXPECT_EQ(Tage()->count(), 7);
-    Drücken("Minus");
+    Klick("Minus");
     EXPECT_EQ(Tage()->currentText(), "Freitag");
     EXPECT_EQ(Tage()->findText("Samstagabend"), -1);
 }
@@ -258,9 +258,9 @@ TEST_F(StandardmessenFormTest, NurGezeigteDatensätzeBehaltenIhreDienerzahl)
 {
     Öffnen(0);
     for (int i = 0; i < 14; ++i)
-        Drücken("Plus");
+        Klick("Plus");
     for (int i = 0; i < 14; ++i)
-        Drücken("Minus");
+        Klick("Minus");
     form->close();
     EXPECT_EQ(StandardmessenJetzt(), vorher);
 }
@@ -269,7 +269,7 @@ TEST_F(StandardmessenFormTest, EineGetippteNummerSpringtOhneZuSpeichern)
 {
     Öffnen(3);
     AllesÄndern();
-    Tippen(Feld("Datensatznummer"), "7");
+    Tippen("Datensatznummer", "7");
     EXPECT_EQ(StandardmessenJetzt(), vorher);
     EXPECT_EQ(Standardmesse.Anzahl, 7);
     Satz gezeigt = vorher[7];
@@ -291,8 +291,8 @@ TEST_F(StandardmessenFormTest, EineGetippteNummerWirdBegrenzt)
                                        {"40000", 10},
                                        {"-40000", 0},
                                        {"999999999999", 10}}) {
-        Eingeben("Datensatznummer", "5");
-        Eingeben("Datensatznummer", text);
+        Einsetzen("Datensatznummer", "5");
+        Einsetzen("Datensatznummer", text);
         EXPECT_EQ(Zeigt("Datensatznummer"), ZahlText(nummer)) << text;
         EXPECT_EQ(Standardmesse.Anzahl, nummer) << text;
         EXPECT_EQ(Zeigt("Messearten"), "Art" + ZahlText(nummer));
@@ -304,13 +304,13 @@ TEST_F(StandardmessenFormTest, EineNummerDieKeineIstBleibtStehen)
 {
     Öffnen(3);
     for (const char *text : {"abc", "", "-", "4 5", "1a"}) {
-        Eingeben("Datensatznummer", text);
+        Einsetzen("Datensatznummer", text);
         EXPECT_EQ(Zeigt("Datensatznummer"), text);
         EXPECT_EQ(Standardmesse.Anzahl, 3);
         EXPECT_EQ(Zeigt("Messearten"), "Art3");
     }
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{});
-    Drücken("Plus"); // writes the record, shows the next one and stops at the number
+    Klick("Plus"); // writes the record, shows the next one and stops at the number
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Laufzeitfehler '13': Typen unverträglich"});
     EXPECT_EQ(StandardmessenJetzt(), vorher);
 }
@@ -318,7 +318,7 @@ TEST_F(StandardmessenFormTest, EineNummerDieKeineIstBleibtStehen)
 TEST_F(StandardmessenFormTest, LöschenFragtUndÄndertBeiNeinNichts)
 {
     Öffnen(4);
-    Drücken("Löschig");
+    Klick("Löschig");
     ASSERT_EQ(GestellteFragen.size(), 1U);
     EXPECT_EQ(GestellteFragen[0].Wortlaut, "Wirklich?");
     EXPECT_EQ(GestellteFragen[0].Titel, "Löschen einer Standardmesse");
@@ -330,12 +330,12 @@ TEST_F(StandardmessenFormTest, LöschenLeertDenSchirmUndErstVerlassenDieTabelle)
 {
     Öffnen(4);
     Antworten = {true};
-    Drücken("Löschig");
+    Klick("Löschig");
     const Satz leer = {"Donnerstag", "00:00:00", "",  "0", "0", "0", "0",
                        "0",          "0",        "0", "0", "0", "0", "0"};
     EXPECT_EQ(Schirm(), leer);
     EXPECT_EQ(StandardmessenJetzt(), vorher);
-    Drücken("Plus");
+    Klick("Plus");
     Messenbild modell = vorher;
     modell[4] = leer;
     EXPECT_EQ(StandardmessenJetzt(), modell);
@@ -346,9 +346,9 @@ TEST_F(StandardmessenFormTest, LöschenRäumtAuchWegWasKeineZahlIst)
 {
     Öffnen(4);
     for (const char *box : {"DienstA", "DienstC", "DienstF", "ZahlMeßdiener", "Leck", "Zeitig"})
-        Eingeben(box, "abc");
+        Einsetzen(box, "abc");
     Antworten = {true};
-    Drücken("Löschig");
+    Klick("Löschig");
     EXPECT_EQ(Schirm(), (Satz{"Donnerstag", "00:00:00", "", "0", "0", "0", "0", "0", "0", "0", "0",
                               "0", "0", "0"}));
     EXPECT_TRUE(form->close());
@@ -361,7 +361,7 @@ TEST_F(StandardmessenFormTest, EndeUndSchließenSchreibenDenSchirm)
         Öffnen(6);
         AllesÄndern();
         if (mitEnde)
-            Drücken("Ende");
+            Klick("Ende");
         else
             form->close();
         EXPECT_FALSE(form && form->isVisible());
@@ -378,7 +378,7 @@ TEST_F(StandardmessenFormTest, EndeSchreibtDenGemerktenDatensatzWasAuchAlsNummer
 {
     Öffnen(3);
     AllesÄndern();
-    Eingeben("Datensatznummer", "abc");
+    Einsetzen("Datensatznummer", "abc");
     EXPECT_TRUE(form->close());
     Messenbild modell = vorher;
     modell[3] = Geändert;
@@ -391,11 +391,11 @@ TEST_F(StandardmessenFormTest, DasHauptfensterWartetVerkleinertUndKommtZurück)
     HauptfensterSetzen(haupt);
     haupt->showMaximized();
     Zeigen(haupt);
-    Finden<QAction>(haupt, "mnuStandardmessen")->trigger();
+    MenüWählen(haupt, "mnuStandardmessen");
     form = Fenster("Standardmessen");
     EXPECT_FALSE(haupt->isEnabled());
     EXPECT_TRUE(haupt->isMinimized());
-    Drücken("Ende");
+    Klick("Ende");
     EXPECT_TRUE(Warten([&] { return !form; })); // unloaded
     EXPECT_TRUE(haupt->isEnabled());
     EXPECT_TRUE(haupt->isMaximized());

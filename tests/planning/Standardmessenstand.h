@@ -1,14 +1,15 @@
 // The fixture of the tests of the editor of the week pattern.
 #pragma once
 
-#include "planning/Formstand.h"
+#include "Formstand.h"
+#include "planning/Messenbild.h"
 #include "planning/StandardmessenForm.h"
 
 namespace altardienst {
 
 /// Eleven rows that differ in every field, with a number of servers that is not the sum of the
 /// services; rows 11 to 20 hold something too.
-class Standardmessenstand : public Formstand {
+class Standardmessenstand : public Formstand<> {
   protected:
     Standardmessenstand()
     {
@@ -42,7 +43,7 @@ class Standardmessenstand : public Formstand {
         Zeigen(form);
     }
 
-    QComboBox *Tage() const { return Finden<QComboBox>(form, "Tage"); }
+    QComboBox *Tage() const { return Finden<QComboBox>("Tage"); }
 
     /// What is on the screen, in the order of the table's fields.
     Satz Schirm() const
@@ -60,8 +61,8 @@ class Standardmessenstand : public Formstand {
     void AllesÄndern() const
     {
         Tage()->setCurrentText("Donnerstag");
-        Eingeben("Zeitig", "23:45:00");
-        Eingeben("Messearten", "Hochamt");
+        Einsetzen("Zeitig", "23:45:00");
+        Einsetzen("Messearten", "Hochamt");
         for (const auto &[name, zahl] : {std::pair("DienstA", "2"),
                                          {"DienstB", "2"},
                                          {"DienstC", "8"},
@@ -72,8 +73,8 @@ class Standardmessenstand : public Formstand {
                                          {"Komu", "1"},
                                          {"Kanto", "0"},
                                          {"Kolle", "2"}})
-            Eingeben(name, zahl);
-        Eingeben("ZahlMeßdiener", "20");
+            Einsetzen(name, zahl);
+        Einsetzen("ZahlMeßdiener", "20");
     }
     const Satz Geändert = {"Donnerstag", "23:45:00", "Hochamt", "20", "2", "2", "8",
                            "2",          "2",        "3",       "2",  "1", "0", "2"};

@@ -75,7 +75,7 @@ TEST_F(DialogFormZielTest, EineVorhandeneDateiWirdFortgesetztOhneAufGroßUndKlei
         Tippen(form->Dateiname, name);
         EXPECT_TRUE(WählerStehtAuf("Anhang")) << name;
         EXPECT_EQ(Ziel(), Pfad(Festplatte / (Text(name) + ".txt")));
-        Tippen(form->Dateiname, (Text(name) + "x").c_str());
+        Tippen(form->Dateiname, Text(name) + "x");
         EXPECT_TRUE(WählerStehtAuf("Überschreib")) << name;
     }
 }

@@ -25,10 +25,10 @@ TEST_F(DialogFormTest, JedesControlTrägtSeinenNamenUndSeineBeschriftung)
         {"VZ", ""},
     };
     for (const auto &[name, text] : beschriftungen)
-        EXPECT_EQ(Aufschrift(Finden(form, name)), text) << name;
-    EXPECT_EQ(Finden<QGroupBox>(form, "Datend")->title(), "Daten an Datei");
+        EXPECT_EQ(Zeigt(name), text) << name;
+    EXPECT_EQ(Finden<QGroupBox>("Datend")->title(), "Daten an Datei");
     for (const char *name : {"Drive1", "Dir1", "Dateien", "Datei"})
-        EXPECT_TRUE(Finden(form, name)->isVisible()) << name;
+        EXPECT_TRUE(Finden(name)->isVisible()) << name;
     EXPECT_EQ(form->Dateiname->placeholderText(), "Datei");
     EXPECT_EQ(form->VZ->placeholderText(), "neues Verzeichnis");
     EXPECT_TRUE(form->Dateiname->hasFocus());
@@ -90,7 +90,7 @@ TEST_F(DialogFormTest, EineVorhandeneDateiWirdUnterIhremNamenFortgesetztUndÜber
     fs::rename(Festplatte / "plan.txt", Festplatte / "PLAN.TXT");
     Öffnen();
     Tippen(form->Dateiname, "plan");
-    EXPECT_EQ(Aufschrift(form->Datei), TextVon(Festplatte / "plan.txt")) << "as typed";
+    EXPECT_EQ(Zeigt(form->Datei), TextVon(Festplatte / "plan.txt")) << "as typed";
     ASSERT_TRUE(WählerStehtAuf("Anhang"));
     Klick(form->OKButton);
     EXPECT_EQ(Laufwerke.Auflisten(Festplatte).Dateien, Liste{"PLAN.TXT"});
@@ -187,9 +187,9 @@ TEST_F(DialogFormTest, KnöpfeSindGrünMitUndGrauOhneFokus)
     Öffnen();
     for (QPushButton *knopf : {form->Verzeichnis, form->OKButton, form->CancelButton}) {
         FokusAuf(knopf);
-        EXPECT_EQ(Grundfarbe(knopf), QColor(0, 255, 0)) << Aufschrift(knopf);
+        EXPECT_EQ(Grundfarbe(knopf), QColor(0, 255, 0)) << Zeigt(knopf);
         FokusAuf(form->Dateiname);
-        EXPECT_EQ(Grundfarbe(knopf), QColor(192, 192, 192)) << Aufschrift(knopf);
+        EXPECT_EQ(Grundfarbe(knopf), QColor(192, 192, 192)) << Zeigt(knopf);
     }
 }
 

@@ -1,7 +1,7 @@
 // The fixture of the tests of the dialog that writes the plan as a text file.
 #pragma once
 
-#include "Fensterstand.h"
+#include "Formstand.h"
 #include "application/Anwendung.h"
 #include "printing/DialogForm.h"
 
@@ -11,7 +11,7 @@
 namespace altardienst {
 
 /// The disk holds the directory texte and the file plan.txt; the plan has one mass.
-class Dialogstand : public Fensterstand {
+class Dialogstand : public Formstand<DialogForm> {
   protected:
     using Liste = std::vector<Text>;
     using path = std::filesystem::path;
@@ -36,12 +36,12 @@ class Dialogstand : public Fensterstand {
         return *form;
     }
 
-    Text Ziel() const { return Aufschrift(form->Datei); }
+    Text Ziel() const { return Zeigt(form->Datei); }
     static Text Pfad(const path &pfad) { return TextVon(pfad); }
 
     bool WählerStehtAuf(const char *name) const
     {
-        const bool gewählt = Finden<QRadioButton>(form, name)->isChecked();
+        const bool gewählt = Angekreuzt(name);
         EXPECT_NE(form->Anhang->isChecked(), form->Überschreib->isChecked()); // exactly one
         return gewählt;
     }
@@ -72,7 +72,6 @@ class Dialogstand : public Fensterstand {
                              "Sonntag, 29.11.2026 , 10:00Uhr, Messe\r\n"
                              "\r\n";
     QPointer<QMainWindow> haupt = new QMainWindow;
-    QPointer<DialogForm> form;
 };
 
 } // namespace altardienst

@@ -13,21 +13,13 @@ using Liste = std::vector<Text>;
 
 class DruckFormEtikettenTest : public Druckfenster {
   protected:
-    /// Clicks on the circle of an option button.
-    void Wählen(const char *name) const
-    {
-        QWidget *option = Control(name);
-        QTest::mouseClick(option, Qt::LeftButton, {}, {10, option->height() / 2});
-    }
-    bool Gewählt(const char *name) const { return Finden<QRadioButton>(form, name)->isChecked(); }
-
     /// "Reihe/Spalte" as the form shows them.
     Text Platz() const { return Zeigt("Reih") + "/" + Zeigt("Spal"); }
 
     void PlatzEingeben(const char *reihe, const char *spalte) const
     {
-        Tippen(Control("Reih"), reihe);
-        Tippen(Control("Spal"), spalte);
+        Tippen("Reih", reihe);
+        Tippen("Spal", spalte);
     }
 
     /// The first lines of all labels.
@@ -48,23 +40,22 @@ TEST_F(DruckFormEtikettenTest, ÖffnetMitDemGewähltenFormatUndDemErstenPlatz)
     Öffnen();
     for (int n = 1; n <= 10; ++n) {
         const Text name = "O" + std::to_string(n);
-        EXPECT_EQ(Gewählt(name.c_str()), n == 5) << name;
-        EXPECT_EQ(Zeigt(name.c_str()),
-                  n == 10 ? "Groß && klein" : "Format " + std::to_string(n - 1));
+        EXPECT_EQ(Angekreuzt(name.c_str()), n == 5) << name;
+        EXPECT_EQ(Zeigt(name), n == 10 ? "Groß && klein" : "Format " + std::to_string(n - 1));
     }
     EXPECT_EQ(Platz(), "1/1");
-    EXPECT_TRUE(Gewählt("Alles"));
+    EXPECT_TRUE(Angekreuzt("Alles"));
 }
 
 TEST_F(DruckFormEtikettenTest, JedeOptionWähltIhrFormat)
 {
     Öffnen();
     for (int n = 10; n >= 1; --n) {
-        Wählen(("O" + std::to_string(n)).c_str());
+        Ankreuzen("O" + std::to_string(n));
         EXPECT_EQ(Etikett.Anzahl, n - 1);
     }
-    FokusAuf(Control("O1"));
-    QTest::keyClick(Control("O1"), Qt::Key_Down);
+    FokusAuf("O1");
+    QTest::keyClick(Finden("O1"), Qt::Key_Down);
     EXPECT_EQ(Etikett.Anzahl, 1);
 }
 
@@ -86,18 +77,18 @@ TEST_F(DruckFormEtikettenTest, NachDerWahlLiegtDerPlatzAufDemBogen)
     Etikett.Spalten[1] = 2;
     Öffnen();
     PlatzEingeben("4", "3");
-    Wählen("O2");
+    Ankreuzen("O2");
     EXPECT_EQ(Platz(), "2/2");
-    Wählen("O1");
+    Ankreuzen("O1");
     EXPECT_EQ(Platz(), "2/2"); // a larger sheet changes nothing
     PlatzEingeben("", "");
-    Wählen("O3");
+    Ankreuzen("O3");
     EXPECT_EQ(Platz(), "1/1");
     PlatzEingeben("99", "0");
-    Wählen("O3");
+    Ankreuzen("O3");
     EXPECT_EQ(Platz(), "4/1");
     PlatzEingeben("3,5", "99");
-    Wählen("O4");
+    Ankreuzen("O4");
     EXPECT_EQ(Platz(), "3,5/3");
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
@@ -114,7 +105,7 @@ TEST_F(DruckFormEtikettenTest, DieDrehknöpfeZählenUmEinsErstDieWahlHoltAufDenB
     EXPECT_EQ(Platz(), "5/6");
     Drehen("ÄSpal", "ab");
     EXPECT_EQ(Platz(), "5/5");
-    Wählen("O2");
+    Ankreuzen("O2");
     EXPECT_EQ(Platz(), "4/3");
     for (const char *keine : {"x", ""}) {
         PlatzEingeben(keine, keine);
@@ -130,8 +121,8 @@ TEST_F(DruckFormEtikettenTest, VerlassenLässtDenPlatzWieGetippt)
     Öffnen();
     for (const char *text : {"99", "5", "0", "-1", "2,5", "", "x"}) {
         PlatzEingeben(text, text);
-        FokusAuf(Control("Reih"));
-        FokusAuf(Control("Ende"));
+        FokusAuf("Reih");
+        FokusAuf("Ende");
         EXPECT_EQ(Platz(), text + Text("/") + text);
     }
 }
@@ -139,24 +130,24 @@ TEST_F(DruckFormEtikettenTest, VerlassenLässtDenPlatzWieGetippt)
 TEST_F(DruckFormEtikettenTest, EineOptionGruppeEntscheidetÜberDieLeute)
 {
     Öffnen();
-    Finden<QComboBox>(form, "Gruppend")->setCurrentIndex(1);
+    Finden<QComboBox>("Gruppend")->setCurrentIndex(1);
     EXPECT_EQ(Namen(), (Liste{"Anna", "Ben", "Cara"}));
-    Wählen("GRP");
-    EXPECT_FALSE(Gewählt("Alles"));
+    Ankreuzen("GRP");
+    EXPECT_FALSE(Angekreuzt("Alles"));
     EXPECT_EQ(Namen(), (Liste{"Ben", "Cara"}));
-    Wählen("Messhelfer");
-    EXPECT_FALSE(Gewählt("GRP"));
+    Ankreuzen("Messhelfer");
+    EXPECT_FALSE(Angekreuzt("GRP"));
     EXPECT_EQ(Namen(), Liste{"Lea"});
-    Wählen("Alles");
-    EXPECT_FALSE(Gewählt("Messhelfer"));
+    Ankreuzen("Alles");
+    EXPECT_FALSE(Angekreuzt("Messhelfer"));
     EXPECT_EQ(Namen(), (Liste{"Anna", "Ben", "Cara"}));
-    EXPECT_TRUE(Gewählt("O1")); // a group of its own
+    EXPECT_TRUE(Angekreuzt("O1")); // a group of its own
 }
 
 TEST_F(DruckFormEtikettenTest, DiePfeiltastenBleibenInIhrerOptionsgruppe)
 {
     Öffnen();
-    FokusAuf(Control("Alles"));
+    FokusAuf("Alles");
     const std::vector<std::pair<const char *, Qt::Key>> schritte = {{"GRP", Qt::Key_Right},
                                                                     {"Messhelfer", Qt::Key_Right},
                                                                     {"GRP", Qt::Key_Left},
@@ -164,16 +155,16 @@ TEST_F(DruckFormEtikettenTest, DiePfeiltastenBleibenInIhrerOptionsgruppe)
                                                                     {"Alles", Qt::Key_Down}};
     for (const auto &[option, taste] : schritte) {
         QTest::keyClick(QApplication::focusWidget(), taste);
-        EXPECT_TRUE(Gewählt(option)) << option;
+        EXPECT_TRUE(Angekreuzt(option)) << option;
         EXPECT_EQ(Etikett.Anzahl, 0);
-        EXPECT_TRUE(Gewählt("O1"));
+        EXPECT_TRUE(Angekreuzt("O1"));
     }
 }
 
 TEST_F(DruckFormEtikettenTest, EineGruppeOhneMitgliedDrucktNichts)
 {
     Öffnen();
-    Wählen("GRP"); // "Die Kleinen" has none
+    Ankreuzen("GRP"); // "Die Kleinen" has none
     EXPECT_EQ(Namen(), Liste{});
     EXPECT_EQ(Papier.Zeilen.back(), "EndDoc");
 }
@@ -241,11 +232,11 @@ TEST_F(DruckFormEtikettenTest, EineZahlJenseitsAllerBögenWirdZurückgeholt)
     for (const char *zahl : {"32767", "32768", "99999", "1234567890"}) {
         const Text negativ = Text("-") + zahl;
         PlatzEingeben(negativ.c_str(), negativ.c_str());
-        Wählen("O3");
+        Ankreuzen("O3");
         EXPECT_EQ(Platz(), "1/1") << zahl;
         PlatzEingeben(zahl, zahl);
         Drehen("ÄReih", "auf");
-        Wählen("O2");
+        Ankreuzen("O2");
         EXPECT_EQ(Platz(), "4/3") << zahl;
         PlatzEingeben(zahl, "1");
         EXPECT_EQ(Gedruckt("Etiketten").size(), 6U) << zahl; // no street
@@ -272,9 +263,9 @@ TEST_F(DruckFormEtikettenTest, EinLeeresFormatDrucktNichts)
     Etikett.Reihen[3] = 0;
     Etikett.Spalten[3] = 0;
     Öffnen();
-    Wählen("O4");
+    Ankreuzen("O4");
     EXPECT_EQ(Gedruckt("Etiketten"), Liste{});
-    Wählen("O1");
+    Ankreuzen("O1");
     EXPECT_EQ(Platz(), "1/1");
     EXPECT_EQ(Namen().size(), 3U);
 }
@@ -284,11 +275,11 @@ TEST_F(DruckFormEtikettenTest, NachDemSortierenIstDieselbeNummerGewählt)
 {
     Etikett.Anzahl = 1;
     auto *haupt = new HauptForm;
-    Finden<QAction>(haupt, "mnuEtiAB")->trigger();
+    MenüWählen(haupt, "mnuEtiAB");
     Öffnen();
-    EXPECT_TRUE(Gewählt("O2"));
+    EXPECT_TRUE(Angekreuzt("O2"));
     EXPECT_EQ(Zeigt("O2"), "Format 8");
-    Finden<QAction>(haupt, "mnuEtiAUF")->trigger();
+    MenüWählen(haupt, "mnuEtiAUF");
     EXPECT_EQ(Etikett.Anzahl, 1);
 }
 

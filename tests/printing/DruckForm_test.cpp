@@ -39,18 +39,18 @@ TEST_F(DruckFormTest, JedesControlHatSeineBeschriftung)
     for (const auto &[name, text] : aufschriften)
         EXPECT_EQ(Zeigt(name), text) << name;
     const std::map<Text, QWidget *> felder = {
-        {"Gruppe:", Control("Gruppend")},
-        {"Rückgabe des Erfassungsbogen bis zum:", Control("Rückgebend")},
-        {"Dauer des Plans (ca.):", Control("Dauernde")},
-        {"Reihe :", Control("Reih")},
-        {"Spalte :", Control("Spal")}};
+        {"Gruppe:", Finden("Gruppend")},
+        {"Rückgabe des Erfassungsbogen bis zum:", Finden("Rückgebend")},
+        {"Dauer des Plans (ca.):", Finden("Dauernde")},
+        {"Reihe :", Finden("Reih")},
+        {"Spalte :", Finden("Spal")}};
     std::map<Text, QWidget *> gesehen;
     for (const QLabel *label : form->findChildren<QLabel *>())
         if (label->buddy())
-            gesehen[Aufschrift(label)] = label->buddy();
+            gesehen[Zeigt(label)] = label->buddy();
     EXPECT_EQ(gesehen, felder);
-    EXPECT_EQ(Finden<QGroupBox>(form, "EtiGröß")->title(), "Etikettengröße");
-    EXPECT_EQ(Finden<QGroupBox>(form, "Etik")->title(), "Erstes zu bedruckende Etikett in");
+    EXPECT_EQ(Finden<QGroupBox>("EtiGröß")->title(), "Etikettengröße");
+    EXPECT_EQ(Finden<QGroupBox>("Etik")->title(), "Erstes zu bedruckende Etikett in");
 }
 
 // Today is Saturday, the 21st; the plan starts on Saturdays, one week ahead.
@@ -103,9 +103,9 @@ TEST_F(DruckFormTest, WochentageStehenInZehnZeichen)
     Öffnen();
     for (const char *tag : {"Sonntag   ", "Montag    ", "Dienstag  ", "Mittwoch  ", "Donnerstag",
                             "Freitag   ", "Samstag   "}) {
-        Drücken("Plus1");
+        Klick("Plus1");
         EXPECT_EQ(Zeigt("RückTag"), tag);
-        Drücken("Plus2");
+        Klick("Plus2");
         EXPECT_EQ(Zeigt("DauerTag"), tag);
     }
     EXPECT_EQ(Zeigt("Rückgebend"), "05.12.2026");
@@ -119,19 +119,19 @@ TEST_F(DruckFormTest, AlleKnöpfeDerBeidenTage)
          {std::array{"Rückgebend", "Minus1", "Plus1", "Änderung1"},
           std::array{"Dauernde", "Minus2", "Plus2", "Änderung2"}}) {
         const Text anderer = Zeigt(feld == Text("Dauernde") ? "Rückgebend" : "Dauernde");
-        Verlassen(feld, "28.2.2028");
-        Drücken(plus);
+        NachTippen(feld, "28.2.2028");
+        Klick(plus);
         EXPECT_EQ(Zeigt(feld), "29.02.2028");
-        Drücken(plus);
+        Klick(plus);
         EXPECT_EQ(Zeigt(feld), "01.03.2028");
-        Drücken(minus);
+        Klick(minus);
         EXPECT_EQ(Zeigt(feld), "29.02.2028");
         Drehen(spin, "auf");
         EXPECT_EQ(Zeigt(feld), "01.03.2028");
         Drehen(spin, "ab");
         EXPECT_EQ(Zeigt(feld), "29.02.2028");
-        FokusAuf(Control(plus));
-        QTest::keyClick(Control(plus), Qt::Key_Plus);
+        FokusAuf(plus);
+        QTest::keyClick(Finden(plus), Qt::Key_Plus);
         EXPECT_EQ(Zeigt(feld), "01.03.2028");
         EXPECT_EQ(Zeigt(feld == Text("Dauernde") ? "Rückgebend" : "Dauernde"), anderer);
     }
@@ -142,17 +142,17 @@ TEST_F(DruckFormTest, AlleKnöpfeDerBeidenTage)
 TEST_F(DruckFormTest, BeimVerlassenStehtDerTagInKurzerForm)
 {
     Öffnen();
-    EXPECT_EQ(Verlassen("Rückgebend", "1/12/27"), "01.12.2027");
+    EXPECT_EQ(NachTippen("Rückgebend", "1/12/27"), "01.12.2027");
     EXPECT_EQ(Zeigt("RückTag"), "Mittwoch  ");
-    EXPECT_EQ(Verlassen("Dauernde", "7-1-2028"), "07.01.2028");
+    EXPECT_EQ(NachTippen("Dauernde", "7-1-2028"), "07.01.2028");
     EXPECT_EQ(Zeigt("DauerTag"), "Freitag   ");
-    EXPECT_EQ(Verlassen("Rückgebend", "1.12.2027 14:30"), "01.12.2027");
+    EXPECT_EQ(NachTippen("Rückgebend", "1.12.2027 14:30"), "01.12.2027");
 }
 
 TEST_F(DruckFormTest, BeimTippenÄndertSichNochNichts)
 {
     Öffnen();
-    Tippen(Control("Rückgebend"), "1.1.2001");
+    Tippen("Rückgebend", "1.1.2001");
     EXPECT_EQ(Zeigt("Rückgebend"), "1.1.2001");
     EXPECT_EQ(Zeigt("RückTag"), "Samstag   ");
 }
@@ -160,11 +160,11 @@ TEST_F(DruckFormTest, BeimTippenÄndertSichNochNichts)
 TEST_F(DruckFormTest, EineRückgabeInDerVergangenheitWirdHeute)
 {
     Öffnen();
-    EXPECT_EQ(Verlassen("Rückgebend", "20.11.2026"), "21.11.2026");
-    EXPECT_EQ(Verlassen("Rückgebend", "21.11.2026"), "21.11.2026");
-    EXPECT_EQ(Verlassen("Rückgebend", "22.11.2026"), "22.11.2026");
-    EXPECT_EQ(Verlassen("Rückgebend", "9:00:00"), "21.11.2026"); // a time has no day
-    Drücken("Minus1");
+    EXPECT_EQ(NachTippen("Rückgebend", "20.11.2026"), "21.11.2026");
+    EXPECT_EQ(NachTippen("Rückgebend", "21.11.2026"), "21.11.2026");
+    EXPECT_EQ(NachTippen("Rückgebend", "22.11.2026"), "22.11.2026");
+    EXPECT_EQ(NachTippen("Rückgebend", "9:00:00"), "21.11.2026"); // a time has no day
+    Klick("Minus1");
     EXPECT_EQ(Zeigt("Rückgebend"), "21.11.2026");
     EXPECT_EQ(Zeigt("RückTag"), "Samstag   ");
     EXPECT_EQ(Zeigt("Dauernde"), "26.12.2026"); // does not follow
@@ -173,11 +173,11 @@ TEST_F(DruckFormTest, EineRückgabeInDerVergangenheitWirdHeute)
 TEST_F(DruckFormTest, EineDauerInDerVergangenheitZähltAbDerRückgabe)
 {
     Öffnen();
-    Verlassen("Rückgebend", "1.12.2026");
-    EXPECT_EQ(Verlassen("Dauernde", "20.11.2026"), "29.12.2026");
+    NachTippen("Rückgebend", "1.12.2026");
+    EXPECT_EQ(NachTippen("Dauernde", "20.11.2026"), "29.12.2026");
     EXPECT_EQ(Zeigt("DauerTag"), "Dienstag  ");
-    EXPECT_EQ(Verlassen("Dauernde", "21.11.2026"), "21.11.2026"); // before the return only
-    Drücken("Minus2");
+    EXPECT_EQ(NachTippen("Dauernde", "21.11.2026"), "21.11.2026"); // before the return only
+    Klick("Minus2");
     EXPECT_EQ(Zeigt("Dauernde"), "29.12.2026");
 }
 
@@ -186,16 +186,16 @@ TEST_F(DruckFormTest, WasKeinTagIstBleibtStehen)
     Öffnen();
     for (const char *feld : {"Rückgebend", "Dauernde"}) {
         for (const char *text : {"", "am Fest", "31.2.2027", "1.12."}) {
-            EXPECT_EQ(Verlassen(feld, text), text);
-            Drücken(feld == Text("Dauernde") ? "Plus2" : "Plus1");
+            EXPECT_EQ(NachTippen(feld, text), text);
+            Klick(feld == Text("Dauernde") ? "Plus2" : "Plus1");
             EXPECT_EQ(Zeigt(feld), text);
         }
-        Verlassen(feld, "31.12.9999");
-        Drücken(feld == Text("Dauernde") ? "Plus2" : "Plus1"); // there is no later day
+        NachTippen(feld, "31.12.9999");
+        Klick(feld == Text("Dauernde") ? "Plus2" : "Plus1"); // there is no later day
         EXPECT_EQ(Zeigt(feld), "31.12.9999");
     }
-    Verlassen("Rückgebend", "am Fest");
-    EXPECT_EQ(Verlassen("Dauernde", "1.1.2001"), "1.1.2001"); // has no return date to count from
+    NachTippen("Rückgebend", "am Fest");
+    EXPECT_EQ(NachTippen("Dauernde", "1.1.2001"), "1.1.2001"); // has no return date to count from
     EXPECT_EQ(Zeigt("RückTag"), "Freitag   ");
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
@@ -204,9 +204,9 @@ TEST_F(DruckFormTest, WasKeinTagIstBleibtStehen)
 TEST_F(DruckFormTest, OhneRückgabeZeigtEinSchrittInDieVergangenheitSeinenWochentag)
 {
     Öffnen();
-    Verlassen("Rückgebend", "am Fest");
-    Verlassen("Dauernde", "21.11.2026");
-    Drücken("Minus2");
+    NachTippen("Rückgebend", "am Fest");
+    NachTippen("Dauernde", "21.11.2026");
+    Klick("Minus2");
     EXPECT_EQ(Zeigt("Dauernde"), "20.11.2026");
     EXPECT_EQ(Zeigt("DauerTag"), "Freitag   ");
     EXPECT_TRUE(GezeigteMeldungen.empty());
@@ -237,7 +237,7 @@ TEST_F(DruckFormTest, JederKnopfDrucktSeinenBericht)
 TEST_F(DruckFormTest, DieBögenNehmenDieTageWieSieStehen)
 {
     Öffnen();
-    Verlassen("Rückgebend", "am Fest");
+    NachTippen("Rückgebend", "am Fest");
     for (const char *knopf : {"Erfassungsbogen", "Erfaßung"}) {
         const Liste zeilen = Gedruckt(knopf);
         EXPECT_EQ(std::ranges::count(zeilen, "Rückgeben bis zum am Fest"), 1);
@@ -251,7 +251,7 @@ TEST_F(DruckFormTest, DieBögenNehmenDieTageWieSieStehen)
 TEST_F(DruckFormTest, DieGruppenlisteNimmtDieGewählteGruppe)
 {
     Öffnen();
-    auto *gruppen = Finden<QComboBox>(form, "Gruppend");
+    auto *gruppen = Finden<QComboBox>("Gruppend");
     ASSERT_EQ(gruppen->count(), 2);
     EXPECT_EQ(gruppen->itemText(0), "Die Kleinen");
     EXPECT_EQ(gruppen->itemText(1), QString::fromUtf8("Die Großen"));
@@ -267,16 +267,16 @@ TEST_F(DruckFormTest, DieGruppenlisteNimmtDieGewählteGruppe)
 TEST_F(DruckFormTest, DieGruppeDerEtikettenSagtWoSieGewähltWird)
 {
     Öffnen();
-    EXPECT_EQ(Control("GRP")->toolTip().toStdString(),
+    EXPECT_EQ(Finden("GRP")->toolTip().toStdString(),
               "die Gruppe, die unter \"Plan und Listen\" gewählt ist");
-    EXPECT_EQ(Finden<QGroupBox>(form, "Listen")->title(), "Plan und Listen");
-    EXPECT_TRUE(Control("Listen")->isAncestorOf(Control("Gruppend")));
+    EXPECT_EQ(Finden<QGroupBox>("Listen")->title(), "Plan und Listen");
+    EXPECT_TRUE(Finden("Listen")->isAncestorOf(Finden("Gruppend")));
 }
 
 TEST_F(DruckFormTest, DasMausradWechseltKeineGruppe)
 {
     Öffnen();
-    auto *gruppen = Finden<QComboBox>(form, "Gruppend");
+    auto *gruppen = Finden<QComboBox>("Gruppend");
     const QPointF mitte = gruppen->rect().center();
     QWheelEvent rad(mitte, gruppen->mapToGlobal(mitte), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
                     Qt::NoScrollPhase, false);
@@ -305,7 +305,7 @@ TEST_F(DruckFormTest, EndeGibtDasHauptfensterZurück)
     HauptfensterSetzen(&haupt);
     haupt.setEnabled(false);
     Öffnen();
-    Drücken("Ende");
+    Klick("Ende");
     EXPECT_TRUE(Warten([&] { return form.isNull(); }));
     EXPECT_TRUE(haupt.isEnabled());
     EXPECT_TRUE(haupt.isMaximized());
@@ -314,7 +314,7 @@ TEST_F(DruckFormTest, EndeGibtDasHauptfensterZurück)
 TEST_F(DruckFormTest, TabFolgtDemAugeUndKeinControlIstStumm)
 {
     Öffnen();
-    FokusAuf(Control("Messendruck"));
+    FokusAuf("Messendruck");
     EXPECT_EQ(Tabfolge(form), (Liste{"Messendruck",
                                      "Standarddruck",
                                      "Meßdienerdruck",

@@ -26,10 +26,10 @@ class Druckfenster : public Papierfenster<DruckForm> {
     }
 
     /// Types into a box, leaves it and returns what it then shows.
-    Text Verlassen(const char *name, const char *text) const
+    Text NachTippen(const char *name, const char *text) const
     {
-        Tippen(Control(name), text);
-        FokusAuf(Control("Ende"));
+        Tippen(name, text);
+        FokusAuf("Ende");
         return Zeigt(name);
     }
 };

@@ -14,13 +14,13 @@ class EtikettenFormZahlenTest : public Etikettenfenster {};
 TEST_F(EtikettenFormZahlenTest, DieNummerWirdBeimTippenBegrenzt)
 {
     Öffnen();
-    Eingeben("Ind", "10");
+    Tippen("Ind", "10");
     EXPECT_EQ(Zeigt("Ind"), "9");
     EXPECT_EQ(Zeigt("N"), "Format 9");
-    Eingeben("Ind", "-1");
+    Tippen("Ind", "-1");
     EXPECT_EQ(Zeigt("Ind"), "0");
     EXPECT_EQ(Etikett.Anzahl, 0);
-    Eingeben("Ind", "x");
+    Tippen("Ind", "x");
     EXPECT_EQ(Zeigt("Ind"), "x");
     EXPECT_EQ(Zeigt("N"), "Format 0");
     EXPECT_TRUE(GezeigteMeldungen.empty());
@@ -30,12 +30,12 @@ TEST_F(EtikettenFormZahlenTest, AnDenEndenGehtEsNichtWeiter)
 {
     Etikett.Anzahl = 9;
     Öffnen();
-    Eingeben("N", "letztes");
-    Klick(Control("Plus"));
+    Tippen("N", "letztes");
+    Klick("Plus");
     EXPECT_EQ(Zeigt("Ind"), "9");
     EXPECT_EQ(Zeigt("N"), "letztes");
-    Eingeben("Ind", "0");
-    Klick(Control("Minus"));
+    Tippen("Ind", "0");
+    Klick("Minus");
     EXPECT_EQ(Zeigt("Ind"), "0");
 }
 
@@ -43,14 +43,15 @@ TEST_F(EtikettenFormZahlenTest, LängenLiegenBeimVerlassenInIhrenGrenzen)
 {
     Öffnen();
     for (const char *feld : Längenfelder) {
-        EXPECT_EQ(Verlassen(feld, "0,05"), "0,1") << feld;
-        EXPECT_EQ(Verlassen(feld, "0,1"), "0,1") << feld;
-        EXPECT_EQ(Verlassen(feld, "-7"), "0,1") << feld;
-        EXPECT_EQ(Verlassen(feld, "330,1"), "330,1") << feld;
-        EXPECT_EQ(Verlassen(feld, "330,2"), "330,1") << feld;
-        EXPECT_EQ(Verlassen(feld, "63,55"), "63,55") << feld;
-        EXPECT_EQ(Verlassen(feld, "breit"), "breit") << feld; // what is not a number stays as it is
-        Eingeben(feld, "1");
+        EXPECT_EQ(NachTippen(feld, "0,05"), "0,1") << feld;
+        EXPECT_EQ(NachTippen(feld, "0,1"), "0,1") << feld;
+        EXPECT_EQ(NachTippen(feld, "-7"), "0,1") << feld;
+        EXPECT_EQ(NachTippen(feld, "330,1"), "330,1") << feld;
+        EXPECT_EQ(NachTippen(feld, "330,2"), "330,1") << feld;
+        EXPECT_EQ(NachTippen(feld, "63,55"), "63,55") << feld;
+        EXPECT_EQ(NachTippen(feld, "breit"), "breit")
+            << feld; // what is not a number stays as it is
+        Tippen(feld, "1");
     }
     EXPECT_TRUE(GezeigteMeldungen.empty());
     EXPECT_EQ(Etikett.RandOU[2], 3); // nothing is stored yet
@@ -60,12 +61,12 @@ TEST_F(EtikettenFormZahlenTest, ReihenUndSpaltenLiegenZwischenEinsUndZwanzig)
 {
     Öffnen();
     for (const char *feld : {"R", "S"}) {
-        EXPECT_EQ(Verlassen(feld, "0"), "1") << feld;
-        EXPECT_EQ(Verlassen(feld, "1"), "1") << feld;
-        EXPECT_EQ(Verlassen(feld, "20"), "20") << feld;
-        EXPECT_EQ(Verlassen(feld, "21"), "20") << feld;
-        EXPECT_EQ(Verlassen(feld, "2,5"), "2") << feld;
-        EXPECT_EQ(Verlassen(feld, ""), "") << feld;
+        EXPECT_EQ(NachTippen(feld, "0"), "1") << feld;
+        EXPECT_EQ(NachTippen(feld, "1"), "1") << feld;
+        EXPECT_EQ(NachTippen(feld, "20"), "20") << feld;
+        EXPECT_EQ(NachTippen(feld, "21"), "20") << feld;
+        EXPECT_EQ(NachTippen(feld, "2,5"), "2") << feld;
+        EXPECT_EQ(NachTippen(feld, ""), "") << feld;
     }
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
@@ -76,26 +77,26 @@ TEST_F(EtikettenFormZahlenTest, DieSiebenDrehknöpfeUndIhreGrenzen)
     for (std::size_t k = 0; k < Längenfelder.size(); ++k) {
         const char *feld = Längenfelder[k];
         const Text spin = "Ä" + std::to_string(k + 1);
-        Eingeben(feld, "69,8");
+        Tippen(feld, "69,8");
         Drehen(spin.c_str(), "auf");
         EXPECT_EQ(Zeigt(feld), "69,9") << feld;
         Drehen(spin.c_str(), "ab");
         Drehen(spin.c_str(), "ab");
         EXPECT_EQ(Zeigt(feld), "69,7") << feld;
-        Eingeben(feld, "0,1");
+        Tippen(feld, "0,1");
         Drehen(spin.c_str(), "ab");
         EXPECT_EQ(Zeigt(feld), "0,1") << feld;
-        Eingeben(feld, "330,1");
+        Tippen(feld, "330,1");
         Drehen(spin.c_str(), "auf");
         EXPECT_EQ(Zeigt(feld), "330,1") << feld;
     }
     for (const auto &[feld, spin] : {std::pair{"R", "Ä6"}, {"S", "Ä7"}}) {
-        Eingeben(feld, "19");
+        Tippen(feld, "19");
         Drehen(spin, "auf");
         EXPECT_EQ(Zeigt(feld), "20") << feld;
         Drehen(spin, "auf");
         EXPECT_EQ(Zeigt(feld), "20") << feld;
-        Eingeben(feld, "2");
+        Tippen(feld, "2");
         Drehen(spin, "ab");
         Drehen(spin, "ab");
         EXPECT_EQ(Zeigt(feld), "1") << feld;
@@ -105,11 +106,11 @@ TEST_F(EtikettenFormZahlenTest, DieSiebenDrehknöpfeUndIhreGrenzen)
 TEST_F(EtikettenFormZahlenTest, SchließenUndSeitentastenHaltenDieGrenzenAuchOhneVerlassen)
 {
     Öffnen();
-    Eingeben("H", "0,05");
-    QTest::keyClick(Control("H"), Qt::Key_PageUp);
+    Tippen("H", "0,05");
+    QTest::keyClick(Finden("H"), Qt::Key_PageUp);
     EXPECT_EQ(Etikett.Höhe[2], 0.1F);
-    EXPECT_TRUE(Control("H")->hasFocus());
-    Eingeben("R", "99");
+    EXPECT_TRUE(Finden("H")->hasFocus());
+    Tippen("R", "99");
     form->close();
     EXPECT_EQ(Etikett.Reihen[3], 20);
 }
@@ -118,7 +119,7 @@ TEST_F(EtikettenFormZahlenTest, SchließenUndSeitentastenHaltenDieGrenzenAuchOhn
 TEST_F(EtikettenFormZahlenTest, DieGrenzenGeltenAuchWennEinAnderesProgrammDieTastenHat)
 {
     Öffnen();
-    Eingeben("R", "99");
+    Tippen("R", "99");
     QApplication::setActiveWindow(nullptr);
     ASSERT_FALSE(form->isActiveWindow());
     form->close();
@@ -131,7 +132,7 @@ TEST_F(EtikettenFormZahlenTest, EinLeeresFormatDasNurAngesehenWirdBleibtLeer)
         (*länge)[2] = 0;
     Etikett.Reihen[2] = Etikett.Spalten[2] = 0;
     Öffnen();
-    QTest::keyClick(Control("N"), Qt::Key_PageUp);
+    QTest::keyClick(Finden("N"), Qt::Key_PageUp);
     for (auto *länge : Längen)
         EXPECT_EQ((*länge)[2], 0);
     EXPECT_EQ(Etikett.Reihen[2], 0);
@@ -141,14 +142,14 @@ TEST_F(EtikettenFormZahlenTest, EinLeeresFormatDasNurAngesehenWirdBleibtLeer)
 TEST_F(EtikettenFormZahlenTest, EinFeldOhneZahlHältDasFensterOffen)
 {
     Öffnen();
-    Eingeben("N", "neu");
-    Eingeben("B", "breit");
-    Klick(Control("Ende"));
+    Tippen("N", "neu");
+    Tippen("B", "breit");
+    Klick("Ende");
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Laufzeitfehler '13': Typen unverträglich"});
     EXPECT_TRUE(form->isVisible());
     EXPECT_EQ(Etikett.Name[2], "neu"); // the boxes before it are written
     EXPECT_EQ(Etikett.Breite[2], 6);
-    Klick(Control("Plus"));
+    Klick("Plus");
     EXPECT_EQ(Zeigt("Ind"), "2");
     EXPECT_EQ(GezeigteMeldungen.size(), 2U);
 }
@@ -159,22 +160,22 @@ TEST_F(EtikettenFormZahlenTest, AuchSehrGroßeZahlenWerdenStillBegrenzt)
     for (const char *zahl : {"32767", "32768", "99999", "1234567890"}) {
         const Text negativ = Text("-") + zahl;
         for (const auto &[feld, spin] : {std::pair{"R", "Ä6"}, {"S", "Ä7"}}) {
-            EXPECT_EQ(Verlassen(feld, zahl), "20") << feld << zahl;
-            EXPECT_EQ(Verlassen(feld, negativ.c_str()), "1") << feld << zahl;
-            Eingeben(feld, zahl);
+            EXPECT_EQ(NachTippen(feld, zahl), "20") << feld << zahl;
+            EXPECT_EQ(NachTippen(feld, negativ.c_str()), "1") << feld << zahl;
+            Tippen(feld, zahl);
             Drehen(spin, "auf");
             EXPECT_EQ(Zeigt(feld), "20") << feld << zahl;
-            Finden<QLineEdit>(form, feld)->setText(zahl);
+            Einsetzen(feld, zahl);
             Drehen(spin, "ab");
             EXPECT_EQ(Zeigt(feld), "20") << feld << zahl;
         }
-        EXPECT_EQ(Verlassen("OU", zahl), "330,1") << zahl;
-        auto *nummer = Finden<QLineEdit>(form, "Ind");
-        nummer->setText(zahl); // pasted, not typed digit by digit
+        EXPECT_EQ(NachTippen("OU", zahl), "330,1") << zahl;
+        auto *nummer = Finden<QLineEdit>("Ind");
+        Einsetzen(nummer, zahl); // pasted, not typed digit by digit
         EXPECT_EQ(Zeigt("Ind"), "9") << zahl;
         EXPECT_EQ(Etikett.Anzahl, 9);
         EXPECT_EQ(Zeigt("N"), "Format 9");
-        nummer->setText(Anzeige(negativ));
+        Einsetzen(nummer, negativ);
         EXPECT_EQ(Zeigt("Ind"), "0") << zahl;
         EXPECT_EQ(Etikett.Anzahl, 0);
     }
@@ -186,9 +187,9 @@ TEST_F(EtikettenFormZahlenTest, AuchAnDenEndenWirdGeschrieben)
     for (const auto &[knopf, format] : {std::pair{"Plus", 9}, {"Minus", 0}}) {
         Etikett.Anzahl = format;
         Öffnen();
-        Eingeben("N", knopf);
-        Eingeben("S", "11");
-        Klick(Control(knopf));
+        Tippen("N", knopf);
+        Tippen("S", "11");
+        Klick(knopf);
         EXPECT_EQ(Etikett.Name[format], knopf);
         EXPECT_EQ(Etikett.Spalten[format], 11);
         EXPECT_EQ(Etikett.Anzahl, format);
@@ -204,9 +205,9 @@ TEST_F(EtikettenFormZahlenTest, EineHalbGetippteNummerHältNiemandenFest)
         Etikett.Anzahl = 2;
         haupt.setEnabled(false);
         Öffnen();
-        Eingeben("Ind", nummer);
-        Eingeben("N", (Text("neu") + nummer).c_str());
-        Klick(Control("Ende"));
+        Tippen("Ind", nummer);
+        Tippen("N", Text("neu") + nummer);
+        Klick("Ende");
         EXPECT_TRUE(Warten([&] { return form.isNull(); }));
         EXPECT_EQ(Etikett.Name[2], Text("neu") + nummer);
         EXPECT_EQ(Etikett.Anzahl, 2);
@@ -218,9 +219,9 @@ TEST_F(EtikettenFormZahlenTest, EineHalbGetippteNummerHältNiemandenFest)
 TEST_F(EtikettenFormZahlenTest, VonEinerHalbGetipptenNummerGehtEsWeiterWoManWar)
 {
     Öffnen();
-    Eingeben("N", "neu");
-    Eingeben("Ind", "");
-    Klick(Control("Plus"));
+    Tippen("N", "neu");
+    Tippen("Ind", "");
+    Klick("Plus");
     EXPECT_EQ(Etikett.Name[2], "neu");
     EXPECT_EQ(Zeigt("Ind"), "3");
     EXPECT_EQ(Zeigt("N"), "Format 3");

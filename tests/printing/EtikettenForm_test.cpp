@@ -18,21 +18,21 @@ TEST_F(EtikettenFormTest, JedesFeldHatSeineBeschriftung)
     Öffnen();
     EXPECT_EQ(form->objectName(), "Etiketten");
     EXPECT_EQ(form->windowTitle(), "Etikettengrößen");
-    const std::map<Text, QWidget *> felder = {{"Etikettenname :", Control("N")},
-                                              {"Rand oben/ unten :", Control("OU")},
-                                              {"Rand links / rechts :", Control("LR")},
-                                              {"Höhe :", Control("H")},
-                                              {"Breite :", Control("B")},
-                                              {"Steg :", Control("ST")},
-                                              {"Reihen :", Control("R")},
-                                              {"Spalten :", Control("S")}};
+    const std::map<Text, QWidget *> felder = {{"Etikettenname :", Finden("N")},
+                                              {"Rand oben/ unten :", Finden("OU")},
+                                              {"Rand links / rechts :", Finden("LR")},
+                                              {"Höhe :", Finden("H")},
+                                              {"Breite :", Finden("B")},
+                                              {"Steg :", Finden("ST")},
+                                              {"Reihen :", Finden("R")},
+                                              {"Spalten :", Finden("S")}};
     std::map<Text, QWidget *> gesehen;
     int millimeter = 0;
     for (const QLabel *label : form->findChildren<QLabel *>()) {
         if (label->text() == "mm")
             ++millimeter;
         else
-            gesehen[Aufschrift(label)] = label->buddy();
+            gesehen[Zeigt(label)] = label->buddy();
     }
     EXPECT_EQ(gesehen, felder);
     EXPECT_EQ(millimeter, 5);
@@ -63,9 +63,9 @@ TEST_F(EtikettenFormTest, EineNummerAußerhalbWirdBeimÖffnenGeholt)
 TEST_F(EtikettenFormTest, EineGetippteNummerZeigtDasFormatUndSpeichertNichts)
 {
     Öffnen();
-    Eingeben("N", "anders");
-    Eingeben("OU", "99");
-    Eingeben("Ind", "5");
+    Tippen("N", "anders");
+    Tippen("OU", "99");
+    Tippen("Ind", "5");
     EXPECT_EQ(Zeigt("N"), "Format 5");
     EXPECT_EQ(Zeigt("S"), "7");
     EXPECT_EQ(Etikett.Anzahl, 5);
@@ -77,15 +77,15 @@ TEST_F(EtikettenFormTest, EineGetippteNummerZeigtDasFormatUndSpeichertNichts)
 TEST_F(EtikettenFormTest, WeiterUndZurückSchreibenErstUndZeigenDann)
 {
     Öffnen();
-    Eingeben("N", "neu");
-    Eingeben("S", "9");
-    Klick(Control("Plus"));
+    Tippen("N", "neu");
+    Tippen("S", "9");
+    Klick("Plus");
     EXPECT_EQ(Etikett.Name[2], "neu");
     EXPECT_EQ(Etikett.Spalten[2], 9);
     EXPECT_EQ(Zeigt("Ind"), "3");
     EXPECT_EQ(Zeigt("N"), "Format 3");
     EXPECT_EQ(Etikett.Name[3], "Format 3");
-    Klick(Control("Minus"));
+    Klick("Minus");
     EXPECT_EQ(Zeigt("N"), "neu");
     EXPECT_EQ(Etikett.Anzahl, 2);
 }
@@ -94,8 +94,8 @@ TEST_F(EtikettenFormTest, AlleWegeZumNächstenUndVorigenFormat)
 {
     Öffnen();
     const auto taste = [&](const char *name, Qt::Key taste) {
-        FokusAuf(Control(name));
-        QTest::keyClick(Control(name), taste);
+        FokusAuf(name);
+        QTest::keyClick(Finden(name), taste);
     };
     Drehen("DPM", "auf");
     EXPECT_EQ(Zeigt("Ind"), "3");
@@ -117,13 +117,13 @@ TEST_F(EtikettenFormTest, EndeSchreibtUndGibtDasHauptfensterZurück)
     HauptfensterSetzen(&haupt);
     haupt.setEnabled(false);
     Öffnen();
-    Eingeben("N", "Bogen 4 & 5");
+    Tippen("N", "Bogen 4 & 5");
     const std::array längen = {"1,5", "2,5", "3,5", "4,5", "5,5"};
     for (std::size_t k = 0; k < längen.size(); ++k)
-        Eingeben(Längenfelder[k], längen[k]);
-    Eingeben("R", "13");
-    Eingeben("S", "5");
-    Klick(Control("Ende"));
+        Tippen(Längenfelder[k], längen[k]);
+    Tippen("R", "13");
+    Tippen("S", "5");
+    Klick("Ende");
     EXPECT_EQ(Etikett.Name[2], "Bogen 4 & 5");
     Single mm = 0.5F;
     for (auto *länge : Längen)
@@ -139,13 +139,13 @@ TEST_F(EtikettenFormTest, EndeSchreibtUndGibtDasHauptfensterZurück)
 TEST_F(EtikettenFormTest, SortierenÄndertDieGewählteNummerNicht)
 {
     auto *haupt = new HauptForm;
-    Finden<QAction>(haupt, "mnuEtiAB")->trigger();
+    MenüWählen(haupt, "mnuEtiAB");
     EXPECT_EQ(Etikett.Anzahl, 2);
     Öffnen();
     EXPECT_EQ(Zeigt("Ind"), "2");
     EXPECT_EQ(Zeigt("N"), "Format 7");
     EXPECT_EQ(Zeigt("R"), "8");
-    Finden<QAction>(haupt, "mnuEtiAUF")->trigger();
+    MenüWählen(haupt, "mnuEtiAUF");
     EXPECT_EQ(Etikett.Anzahl, 2);
     EXPECT_EQ(Etikett.Name[2], "Format 2");
 }
@@ -153,7 +153,7 @@ TEST_F(EtikettenFormTest, SortierenÄndertDieGewählteNummerNicht)
 TEST_F(EtikettenFormTest, TabFolgtDemAugeUndKeinControlIstStumm)
 {
     Öffnen();
-    FokusAuf(Control("N"));
+    FokusAuf("N");
     EXPECT_EQ(Tabfolge(form), (std::vector<Text>{"N",  "OU",  "Ä1",  "LR",    "Ä2",   "H",   "Ä3",
                                                  "B",  "Ä4",  "ST",  "Ä5",    "R",    "Ä6",  "S",
                                                  "Ä7", "Ind", "DPM", "Minus", "Plus", "Ende"}));

@@ -1,17 +1,17 @@
 // The fixture of the tests of windows that print: their printer keeps a log.
 #pragma once
 
-#include "Fensterstand.h"
+#include "Formstand.h"
 #include "printing/Druckprotokoll.h"
-
-#include <QPointer>
 
 #include <utility>
 
 namespace altardienst {
 
-template <class Form> class Papierfenster : public Fensterstand {
+template <class Form> class Papierfenster : public Formstand<Form> {
   protected:
+    using Formstand<Form>::form;
+
     Papierfenster() : zuvor(std::exchange(Drucker, &Papier)) {}
     ~Papierfenster() override { Drucker = zuvor; }
 
@@ -31,22 +31,14 @@ template <class Form> class Papierfenster : public Fensterstand {
         delete form;
         form = new Form;
         form->setAttribute(Qt::WA_DeleteOnClose);
-        Zeigen(form);
-    }
-
-    QWidget *Control(const char *name) const { return Finden(form, name); }
-    Text Zeigt(const char *name) const { return Aufschrift(Control(name)); }
-    void Drücken(const char *name) const { Klick(Control(name)); }
-    void Drehen(const char *spin, const char *richtung) const
-    {
-        Klick(Finden(Control(spin), richtung));
+        this->Zeigen(form);
     }
 
     /// Presses a button that prints and returns the printed lines.
     std::vector<Text> Gedruckt(const char *knopf)
     {
         Papier.Leeren();
-        Drücken(knopf);
+        this->Klick(knopf);
         std::vector<Text> zeilen;
         for (const Text &zeile : Papier.Zeilen)
             if (zeile.starts_with("Print \"") && zeile != "Print \"\"")
@@ -55,7 +47,6 @@ template <class Form> class Papierfenster : public Fensterstand {
     }
 
     Druckprotokoll Papier;
-    QPointer<Form> form;
 
   private:
     DruckerDienst *zuvor;

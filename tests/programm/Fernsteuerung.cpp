@@ -78,7 +78,7 @@ QWidget *Control(const QString &name)
     return nullptr;
 }
 
-QString Aufschrift(const QWidget *control)
+QString Zeigt(const QWidget *control)
 {
     if (auto *box = qobject_cast<const QMessageBox *>(control))
         return box->text();
@@ -118,7 +118,7 @@ QString Ausführen(const QString &zeile)
     if (!control)
         return "Fehler: nicht erreichbar " + name;
     if (befehl == "text")
-        return Aufschrift(control);
+        return Zeigt(control);
     if (!control->isVisible() || !control->isEnabled())
         return "Fehler: gesperrt " + name;
     if (auto *knopf = qobject_cast<QAbstractButton *>(control); knopf && befehl == "klick") {

@@ -52,7 +52,7 @@ class DateienKopierenFormTest : public Kopierstand {
         Klick(form->OKButton);
     }
 
-    static Text Tage() { return Aufschrift(Finden(Fenster("Start"), "Tagilein")); }
+    static Text Tage() { return Zeigt(Finden(Fenster("Start"), "Tagilein")); }
 
     static int Anzahl(const char *name)
     {
@@ -101,7 +101,7 @@ TEST_F(DateienKopierenFormTest, DasKopierteProgrammIstBrauchbarUndLässtSichSich
     Starten();
     VonDisketteKopieren();
     Klick(Finden(Fenster("Start"), "Starten"));
-    Finden<QAction>(Fenster("Haupt"), "mnuDatenSichern")->trigger();
+    MenüWählen(Fenster("Haupt"), "mnuDatenSichern");
     auto *sicherung = static_cast<KopierForm *>(Fenster("Datensicherung"));
     EXPECT_TRUE(sicherung->OKButton->isVisible());
     EXPECT_EQ(DateienIn(Festplatte).size(), 8U) << "saved under the same names";
@@ -185,7 +185,7 @@ TEST_F(DateienKopierenFormTest, DasLadenImMenüFührtAuchHierherUndZurückInsHau
     QWidget *fenster = Fenster("Haupt");
     fs::remove(Festplatte / "Helfer.dat");
     GezeigteMeldungen.clear();
-    Finden<QAction>(fenster, "mnuDatenladen")->trigger();
+    MenüWählen(fenster, "mnuDatenladen");
     EXPECT_EQ(GezeigteMeldungen, Liste{Fehlt("helfer.dat")});
     EXPECT_TRUE(fenster->isEnabled()) << "the load doesn't touch the main window";
     Nehmen();

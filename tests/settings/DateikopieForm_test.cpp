@@ -45,7 +45,7 @@ TEST_F(DateikopieFormTest, HatNameUndTitelUndKeinVerzeichnisZuErstellen)
     for (const char *name : {"VZ", "Verzeichnis"})
         EXPECT_FALSE(form->findChild<QWidget *>(name)) << name;
     for (const char *name : {"Drive1", "Dir1", "Dateien", "Datei", "Alle", "CancelButton"})
-        EXPECT_TRUE(Finden(form, name)->isVisible()) << name;
+        EXPECT_TRUE(Finden(name)->isVisible()) << name;
     EXPECT_FALSE(haupt->isEnabled());
 }
 

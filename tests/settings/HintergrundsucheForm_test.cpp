@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 using Liste = std::vector<Text>;
 
 /// The disk holds a red and a blue picture, a text and a directory with a picture.
-class HintergrundsucheFormTest : public Fensterstand {
+class HintergrundsucheFormTest : public Formstand<HintergrundsucheForm> {
   protected:
     HintergrundsucheFormTest()
     {
@@ -59,7 +59,6 @@ class HintergrundsucheFormTest : public Fensterstand {
     }
 
     QPointer<HauptForm> haupt;
-    QPointer<HintergrundsucheForm> form;
 };
 
 TEST_F(HintergrundsucheFormTest, JedesControlTrägtSeinenNamenUndSeineBeschriftung)
@@ -67,11 +66,11 @@ TEST_F(HintergrundsucheFormTest, JedesControlTrägtSeinenNamenUndSeineBeschriftu
     Öffnen();
     EXPECT_EQ(form->objectName(), "Hintergrundsuche");
     EXPECT_EQ(form->windowTitle(), "Hintergrund");
-    EXPECT_EQ(Aufschrift(Finden<QPushButton>(form, "Ende")), "Ende");
-    EXPECT_TRUE(Finden<QComboBox>(form, "Laufw")->isVisible());
-    EXPECT_TRUE(Finden<QListWidget>(form, "Verz")->isVisible());
-    EXPECT_TRUE(Finden<QListWidget>(form, "Dateie")->isVisible());
-    EXPECT_TRUE(Finden<QWidget>(form, "Bild")->isVisible());
+    EXPECT_EQ(Zeigt("Ende"), "Ende");
+    EXPECT_TRUE(Finden<QComboBox>("Laufw")->isVisible());
+    EXPECT_TRUE(Finden<QListWidget>("Verz")->isVisible());
+    EXPECT_TRUE(Finden<QListWidget>("Dateie")->isVisible());
+    EXPECT_TRUE(Finden<QWidget>("Bild")->isVisible());
     EXPECT_EQ(form->Wahl.Dateien->count(), 3) << "all files, no filter";
     EXPECT_EQ(form->Wahl.Pfad(), Festplatte);
     EXPECT_FALSE(haupt->isEnabled());

@@ -36,16 +36,6 @@ const Flagbox Flagboxen[] = {
 
 class KonfigurationFormTest : public Konfigurationsstand {
   protected:
-    bool Angehakt(const char *box) const { return Finden<QCheckBox>(form, box)->isChecked(); }
-    bool Gewählt(const char *option) const
-    {
-        return Finden<QRadioButton>(form, option)->isChecked();
-    }
-    void OptionWählen(const char *name) const
-    {
-        QWidget *option = Control(name);
-        QTest::mouseClick(option, Qt::LeftButton, {}, {10, option->height() / 2});
-    }
     static void AlleFlags(const char *acht, const char *sechs, const char *elf)
     {
         Konfig.Flags8 = acht;
@@ -54,7 +44,7 @@ class KonfigurationFormTest : public Konfigurationsstand {
     }
     static Text Flags() { return Konfig.Flags8 + "|" + Konfig.Flags6 + "|" + Konfig.Flags11; }
 
-    QComboBox *Schriften() const { return Finden<QComboBox>(form, "Schriftartig"); }
+    QComboBox *Schriften() const { return Finden<QComboBox>("Schriftartig"); }
     Text Schriftliste() const
     {
         Text liste;
@@ -90,9 +80,9 @@ TEST_F(KonfigurationFormTest, JedesControlHatSeineBeschriftung)
     std::multiset<Text> ohneFeld;
     for (const QLabel *label : form->findChildren<QLabel *>())
         if (label->buddy())
-            gesehen[Aufschrift(label)] = label->buddy()->objectName().toStdString();
+            gesehen[Zeigt(label)] = label->buddy()->objectName().toStdString();
         else if (label->objectName().isEmpty())
-            ohneFeld.insert(Aufschrift(label));
+            ohneFeld.insert(Zeigt(label));
     EXPECT_EQ(gesehen, felder);
     EXPECT_EQ(ohneFeld,
               (std::multiset<Text>{"bis zum:", "cm", "%", "mm", "mm", "mm", "jeden Monat"}));
@@ -105,7 +95,7 @@ TEST_F(KonfigurationFormTest, JedesControlHatSeineBeschriftung)
     EXPECT_EQ(Zeigt("Hochformat"), "Hochformat");
     EXPECT_EQ(Zeigt("Querformat"), "Querformat");
     EXPECT_EQ(Zeigt("Ende"), "Ende");
-    EXPECT_FALSE(Control("DiffJahr")->isVisible());
+    EXPECT_FALSE(Finden("DiffJahr")->isVisible());
 }
 
 TEST_F(KonfigurationFormTest, ÖffnetMitDenEinstellungenUndÄndertSieNicht)
@@ -143,11 +133,11 @@ TEST_F(KonfigurationFormTest, ÖffnetMitDenEinstellungenUndÄndertSieNicht)
 TEST_F(KonfigurationFormTest, TexteGeltenMitJedemBuchstaben)
 {
     Öffnen();
-    FokusAuf(Control("Bezeichnung"));
-    QTest::keyClick(Control("Bezeichnung"), Qt::Key_End);
-    QTest::keyClick(Control("Bezeichnung"), Qt::Key_Backspace);
+    FokusAuf("Bezeichnung");
+    QTest::keyClick(Finden("Bezeichnung"), Qt::Key_End);
+    QTest::keyClick(Finden("Bezeichnung"), Qt::Key_Backspace);
     EXPECT_EQ(Konfig.Gemeinde, "St. Ägi");
-    Tippen(Control("Straß"), "Weg");
+    Tippen("Straß", "Weg");
     EXPECT_EQ(Konfig.Straße, "Weg");
     Leeren("Straß");
     EXPECT_EQ(Konfig.Straße, "");
@@ -162,7 +152,7 @@ TEST_F(KonfigurationFormTest, JedeFlagboxZeigtIhrePosition)
         nur.Flags->replace(static_cast<std::size_t>(nur.Position - 1), 1, "j");
         Öffnen();
         for (const Flagbox &flag : Flagboxen)
-            EXPECT_EQ(Angehakt(flag.Box), flag.Box == nur.Box) << nur.Box << " " << flag.Box;
+            EXPECT_EQ(Angekreuzt(flag.Box), flag.Box == nur.Box) << nur.Box << " " << flag.Box;
     }
 }
 
@@ -173,13 +163,13 @@ TEST_F(KonfigurationFormTest, EinKlickSchreibtNurSeinePosition)
         Öffnen();
         const Text vorher = *flag.Flags;
         const Text andere = Flags();
-        Klick(Control(flag.Box));
+        Klick(flag.Box);
         Text erwartet = vorher;
         erwartet[static_cast<std::size_t>(flag.Position - 1)] = 'n';
         EXPECT_EQ(*flag.Flags, erwartet) << flag.Box;
-        EXPECT_FALSE(Angehakt(flag.Box));
-        FokusAuf(Control(flag.Box));
-        QTest::keyClick(Control(flag.Box), Qt::Key_Space);
+        EXPECT_FALSE(Angekreuzt(flag.Box));
+        FokusAuf(flag.Box);
+        QTest::keyClick(Finden(flag.Box), Qt::Key_Space);
         EXPECT_EQ(*flag.Flags, vorher) << flag.Box;
         EXPECT_EQ(Flags(), andere);
     }
@@ -189,7 +179,7 @@ TEST_F(KonfigurationFormTest, EinKlickAufDasWortZähltAlsKlickAufDieBox)
 {
     Öffnen();
     for (const QLabel *label : form->findChildren<QLabel *>())
-        if (Aufschrift(label) == "Nummerierung")
+        if (Zeigt(label) == "Nummerierung")
             QTest::mouseClick(const_cast<QLabel *>(label), Qt::LeftButton);
     EXPECT_EQ(Konfig.Flags6, "jjjnjj");
 }
@@ -199,9 +189,9 @@ TEST_F(KonfigurationFormTest, EineZuKurzeFlagreiheHatWederHakenNochFehler)
     AlleFlags("", "j", "x");
     Öffnen();
     for (const Flagbox &flag : Flagboxen)
-        EXPECT_EQ(Angehakt(flag.Box), Text(flag.Box) == "Dress") << flag.Box;
+        EXPECT_EQ(Angekreuzt(flag.Box), Text(flag.Box) == "Dress") << flag.Box;
     EXPECT_EQ(Flags(), "|j|x");
-    Klick(Control("Check3"));
+    Klick("Check3");
     EXPECT_EQ(Konfig.Flags8, "nnj");
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
@@ -209,20 +199,20 @@ TEST_F(KonfigurationFormTest, EineZuKurzeFlagreiheHatWederHakenNochFehler)
 TEST_F(KonfigurationFormTest, DieAusrichtung)
 {
     Öffnen();
-    EXPECT_TRUE(Gewählt("Hochformat"));
-    OptionWählen("Querformat");
+    EXPECT_TRUE(Angekreuzt("Hochformat"));
+    Ankreuzen("Querformat");
     EXPECT_EQ(Konfig.DiffJahr, 2);
     EXPECT_EQ(Zeigt("DiffJahr"), "2");
-    EXPECT_FALSE(Gewählt("Hochformat"));
-    OptionWählen("Querformat"); // stays selected
+    EXPECT_FALSE(Angekreuzt("Hochformat"));
+    Ankreuzen("Querformat"); // stays selected
     EXPECT_EQ(Konfig.DiffJahr, 2);
     Öffnen();
-    EXPECT_TRUE(Gewählt("Querformat"));
-    EXPECT_FALSE(Gewählt("Hochformat"));
-    OptionWählen("Hochformat");
+    EXPECT_TRUE(Angekreuzt("Querformat"));
+    EXPECT_FALSE(Angekreuzt("Hochformat"));
+    Ankreuzen("Hochformat");
     EXPECT_EQ(Konfig.DiffJahr, 1);
-    FokusAuf(Control("Hochformat"));
-    QTest::keyClick(Control("Hochformat"), Qt::Key_Right);
+    FokusAuf("Hochformat");
+    QTest::keyClick(Finden("Hochformat"), Qt::Key_Right);
     EXPECT_EQ(Konfig.DiffJahr, 2);
 }
 
@@ -231,8 +221,8 @@ TEST_F(KonfigurationFormTest, EineAndereAusrichtungWähltKeineUndWirdBegrenzt)
     for (const auto &[wert, begrenzt] : {std::pair{0, 1}, {-5, 1}, {3, 2}, {30000, 2}}) {
         Konfig.DiffJahr = wert;
         Öffnen();
-        EXPECT_FALSE(Gewählt("Hochformat")) << wert;
-        EXPECT_FALSE(Gewählt("Querformat")) << wert;
+        EXPECT_FALSE(Angekreuzt("Hochformat")) << wert;
+        EXPECT_FALSE(Angekreuzt("Querformat")) << wert;
         EXPECT_EQ(Konfig.DiffJahr, begrenzt) << wert;
     }
 }
@@ -277,7 +267,7 @@ TEST_F(KonfigurationFormTest, EineSchriftWirdGewähltOderGetippt)
     EXPECT_EQ(Konfig.Schriftart, "Alp");
     Tippen(Schriften()->lineEdit(), "");
     EXPECT_EQ(Konfig.Schriftart, "");
-    Schriften()->setEditText(QString::fromUtf8("A\n😀"));
+    Einsetzen(Schriften(), "A\n😀");
     EXPECT_EQ(Konfig.Schriftart, "A ?");
 }
 
@@ -305,7 +295,7 @@ TEST_F(KonfigurationFormTest, EndeUndSchließenGebenDasHauptfensterZurück)
 TEST_F(KonfigurationFormTest, TabFolgtDemAugeUndKeinControlIstStumm)
 {
     Öffnen();
-    FokusAuf(Control("Bezeichnung"));
+    FokusAuf("Bezeichnung");
     EXPECT_EQ(Tabfolge(form),
               (Liste{"Bezeichnung", "Straß",        "Örtchus",    "Datumsen",  "SpinButton1",
                      "tagilein",    "Änderung1",    "DiffG",      "Änderung6", "GrenzAuslos",

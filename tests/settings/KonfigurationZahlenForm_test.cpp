@@ -52,7 +52,7 @@ TEST_F(KonfigurationZahlenFormTest, WasKeineZahlIstBleibtStehenUndDasFeldBehält
     for (const char *box :
          {"GrenzAuslos", "Linker", "OB", "Unt", "Über", "Schriftg", "DiffG", "tagilein"}) {
         Einfügen(box, "8");
-        Enter(box);
+        Taste(box, Qt::Key_Return);
         for (const auto &[eingabe, zeigt] : {std::pair{"x", "x"}, {"😀", "?"}, {"1\n2", "1 2"}}) {
             Einfügen(box, eingabe);
             EXPECT_EQ(Zeigt(box), zeigt) << box;
@@ -81,7 +81,7 @@ TEST_F(KonfigurationZahlenFormTest, JederDrehknopfBewegtSeineBoxUndGibtIhrDenFok
             Drehen(g.Spin, richtung);
             EXPECT_EQ(Zeigt(g.Box), std::to_string(wert)) << g.Box;
             EXPECT_EQ(*g.Feld, wert) << g.Box;
-            EXPECT_TRUE(Control(g.Box)->hasFocus()) << g.Box;
+            EXPECT_TRUE(Finden(g.Box)->hasFocus()) << g.Box;
         }
         Einfügen(g.Box, std::to_string(g.Von).c_str());
         Drehen(g.Spin, "ab");
@@ -90,7 +90,7 @@ TEST_F(KonfigurationZahlenFormTest, JederDrehknopfBewegtSeineBoxUndGibtIhrDenFok
         Drehen(g.Spin, "auf");
         EXPECT_EQ(Zeigt(g.Box), "") << g.Box;
         EXPECT_EQ(*g.Feld, g.Von) << g.Box;
-        EXPECT_TRUE(Control(g.Box)->hasFocus()) << g.Box;
+        EXPECT_TRUE(Finden(g.Box)->hasFocus()) << g.Box;
     }
 }
 
@@ -167,7 +167,7 @@ TEST_F(KonfigurationZahlenFormTest, DieGrößendifferenzBeimDrehenUndVerlassen)
     EXPECT_EQ(Zeigt("DiffG"), "100");
     Drehen("Änderung6", "auf");
     EXPECT_EQ(Zeigt("DiffG"), "50"); // falls back
-    EXPECT_TRUE(Control("DiffG")->hasFocus());
+    EXPECT_TRUE(Finden("DiffG")->hasFocus());
     Einfügen("DiffG", "2");
     Drehen("Änderung6", "ab");
     EXPECT_EQ(Zeigt("DiffG"), "2");
@@ -243,7 +243,7 @@ TEST_F(KonfigurationOrtFormTest, DieMeldungIstEinFensterUndDanachGehtEsWeiter)
         gelesen = box->text().toStdString();
         box->accept();
     });
-    QTest::keyClick(Control("Örtchus"), Qt::Key_Tab);
+    QTest::keyClick(Finden("Örtchus"), Qt::Key_Tab);
     EXPECT_EQ(gelesen, ZuKurz);
     EXPECT_EQ(Zeigt("Örtchus"), "43217 Quellersheim");
     EXPECT_TRUE(form->isVisible());
@@ -254,12 +254,12 @@ TEST_F(KonfigurationOrtFormTest, DieMeldungVerläßtNichtDieTageDieNurBetretenSi
     Öffnen();
     MeldungenBestätigen();
     Einfügen("Örtchus", "4");
-    Finden<QLineEdit>(form, "tagilein")->setText("150"); // allowed until the box is left
-    Control("tagilein")->setFocus(Qt::TabFocusReason);
+    Einsetzen("tagilein", "150"); // allowed until the box is left
+    Finden("tagilein")->setFocus(Qt::TabFocusReason);
     EXPECT_EQ(GezeigteMeldungen, (Liste{ZuKurz}));
     EXPECT_EQ(Zeigt("tagilein"), "150");
-    EXPECT_TRUE(Control("tagilein")->hasFocus());
-    FokusAuf(Control("Ende"));
+    EXPECT_TRUE(Finden("tagilein")->hasFocus());
+    FokusAuf("Ende");
     EXPECT_EQ(Zeigt("tagilein"), "120");
 }
 

@@ -18,13 +18,13 @@ class KonfigurationZeitraumFormTest : public Konfigurationsstand {
     Text DatumEingeben(const char *text) const
     {
         Einfügen("Datumsen", text);
-        Enter("Datumsen");
+        Taste("Datumsen", Qt::Key_Return);
         return Zeigt("Datumsen");
     }
     Text TageEingeben(const char *text) const
     {
         Einfügen("tagilein", text);
-        Enter("tagilein");
+        Taste("tagilein", Qt::Key_Return);
         return Zeigt("tagilein");
     }
     Text TageVerlassen(const char *text) const
@@ -92,11 +92,11 @@ TEST_F(KonfigurationZeitraumFormTest, WasKeinDatumIstBleibtStehen)
         EXPECT_EQ(DatumEingeben(text), text);
         Drehen("SpinButton1", "auf");
         EXPECT_EQ(Zeigt("Datumsen"), text);
-        EXPECT_TRUE(Control("Datumsen")->hasFocus());
+        EXPECT_TRUE(Finden("Datumsen")->hasFocus());
     }
     EXPECT_EQ(DatumEingeben("😀\n"), "? ");
     Leeren("Datumsen");
-    Enter("Datumsen");
+    Taste("Datumsen", Qt::Key_Return);
     EXPECT_EQ(Zeitraum(), " Samstag, 28, 26.12.2026 Samstag");
     EXPECT_EQ(Konfig.StartDatum, Heute + 7);
     EXPECT_EQ(TageEingeben("30"), "30"); // is kept, though there is nothing to count from
@@ -118,7 +118,7 @@ TEST_F(KonfigurationZeitraumFormTest, DieWochentageVonSonntagBisSamstag)
     EXPECT_EQ(Konfig.StartDatum, DatumAus({2026, 12, 5}));
     Drehen("SpinButton1", "ab");
     EXPECT_EQ(Zeitraum(), "04.12.2026 Freitag, 28, 01.01.2027 Freitag");
-    EXPECT_TRUE(Control("Datumsen")->hasFocus());
+    EXPECT_TRUE(Finden("Datumsen")->hasFocus());
 }
 
 TEST_F(KonfigurationZeitraumFormTest, DerDrehknopfBleibtBeiHeute)
@@ -184,7 +184,7 @@ TEST_F(KonfigurationZeitraumFormTest, DerDrehknopfDerTageBegrenztNicht)
     EXPECT_EQ(Zeigt("tagilein"), "6");
     EXPECT_EQ(Konfig.Tage, 6);
     EndetAm(6);
-    EXPECT_TRUE(Control("tagilein")->hasFocus());
+    EXPECT_TRUE(Finden("tagilein")->hasFocus());
     Verlassen();
     EXPECT_EQ(Zeigt("tagilein"), "7");
     EXPECT_EQ(Konfig.Tage, 7);
@@ -193,7 +193,7 @@ TEST_F(KonfigurationZeitraumFormTest, DerDrehknopfDerTageBegrenztNicht)
     Drehen("Änderung1", "auf");
     EXPECT_EQ(Konfig.Tage, 121);
     EndetAm(121);
-    Enter("tagilein");
+    Taste("tagilein", Qt::Key_Return);
     EXPECT_EQ(Konfig.Tage, 121);
     Verlassen();
     EXPECT_EQ(Konfig.Tage, 120);
@@ -236,7 +236,7 @@ TEST_F(KonfigurationZeitraumFormTest, DerDrehknopfDerTageBeiTextDerKeineZahlIst)
         Drehen("Änderung1", "auf");
         EXPECT_EQ(Zeitraum(), Text("28.11.2026 Samstag, ") + text + ", 26.12.2026 Samstag");
         EXPECT_EQ(Konfig.Tage, 28) << text;
-        EXPECT_TRUE(Control("tagilein")->hasFocus()) << text;
+        EXPECT_TRUE(Finden("tagilein")->hasFocus()) << text;
     }
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
@@ -249,7 +249,7 @@ TEST_F(KonfigurationZeitraumFormTest, VorDemDrehenDerTageWirdDieBoxVerlassenUndB
         Drehen("Änderung1", "auf");
         EXPECT_EQ(Zeigt("tagilein"), "121") << text;
         EXPECT_EQ(Konfig.Tage, 121) << text;
-        EXPECT_TRUE(Control("tagilein")->hasFocus()) << text;
+        EXPECT_TRUE(Finden("tagilein")->hasFocus()) << text;
     }
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
@@ -264,7 +264,7 @@ TEST_F(KonfigurationZeitraumFormTest, ÜberDieGrößteZahlDrehtNurDieBox)
     EXPECT_EQ(Zeigt("tagilein"), "32768");
     EXPECT_EQ(Konfig.Tage, 32767);
     EXPECT_EQ(Zeigt("Endet"), ende);
-    EXPECT_TRUE(Control("tagilein")->hasFocus());
+    EXPECT_TRUE(Finden("tagilein")->hasFocus());
     EXPECT_TRUE(GezeigteMeldungen.empty());
     Verlassen();
     EXPECT_EQ(Konfig.Tage, 120);

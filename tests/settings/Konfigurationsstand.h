@@ -4,9 +4,6 @@
 #include "printing/Papierfenster.h"
 #include "settings/KonfigurationForm.h"
 
-#include <QApplication>
-#include <QClipboard>
-
 namespace altardienst {
 
 /// Today is Saturday, 21.11.2026; the plan starts a week later.
@@ -31,18 +28,8 @@ class Konfigurationsstand : public Papierfenster<KonfigurationForm> {
         Papier.Schriftarten = {"Zeta", "Liberation Sans", "Alpha"};
     }
 
-    void Enter(const char *name) const { QTest::keyClick(Control(name), Qt::Key_Return); }
-
-    /// Pastes over the content of a box, which is one change.
-    void Einfügen(const char *name, const char *text) const
-    {
-        FokusAuf(Control(name));
-        QApplication::clipboard()->setText(QString::fromUtf8(text));
-        QTest::keyClick(Control(name), Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClick(Control(name), Qt::Key_V, Qt::ControlModifier);
-    }
-    void Leeren(const char *name) const { Tippen(Control(name), ""); }
-    void Verlassen() const { FokusAuf(Control("Ende")); }
+    void Leeren(const char *name) const { Tippen(name, ""); }
+    void Verlassen() const { FokusAuf("Ende"); }
 };
 
 } // namespace altardienst

@@ -36,13 +36,13 @@ TEST_F(KopierFormTest, JedesControlTrägtSeinenNamenUndSeineBeschriftung)
         {"Verzeichnis", "Verzeichnis erstellen"},
     };
     for (const auto &[name, text] : beschriftungen)
-        EXPECT_EQ(Aufschrift(Finden(form, name)), text) << name;
-    EXPECT_EQ(Finden<QGroupBox>(form, "EoA")->title(), "Daten ?");
-    EXPECT_EQ(Finden<QGroupBox>(form, "Welche")->title(), "Welche ?");
-    EXPECT_TRUE(Finden<QComboBox>(form, "Drive1")->isVisible());
-    EXPECT_TRUE(Finden<QListWidget>(form, "Dir1")->isVisible());
-    EXPECT_TRUE(Finden<QListWidget>(form, "Dateien")->isVisible());
-    EXPECT_TRUE(Finden<QLabel>(form, "Datei")->isVisible());
+        EXPECT_EQ(Zeigt(name), text) << name;
+    EXPECT_EQ(Finden<QGroupBox>("EoA")->title(), "Daten ?");
+    EXPECT_EQ(Finden<QGroupBox>("Welche")->title(), "Welche ?");
+    EXPECT_TRUE(Finden<QComboBox>("Drive1")->isVisible());
+    EXPECT_TRUE(Finden<QListWidget>("Dir1")->isVisible());
+    EXPECT_TRUE(Finden<QListWidget>("Dateien")->isVisible());
+    EXPECT_TRUE(Finden<QLabel>("Datei")->isVisible());
 }
 
 TEST_F(KopierFormTest, BeginntMitAllenAufDemErstenLaufwerk)
@@ -189,9 +189,9 @@ TEST_F(KopierFormTest, KnöpfeSindGrünMitUndGrauOhneFokus)
     Öffnen();
     for (QPushButton *knopf : {form->Verzeichnis, form->OKButton, form->CancelButton}) {
         FokusAuf(knopf);
-        EXPECT_EQ(Grundfarbe(knopf), QColor(0, 255, 0)) << Aufschrift(knopf);
+        EXPECT_EQ(Grundfarbe(knopf), QColor(0, 255, 0)) << Zeigt(knopf);
         FokusAuf(form->VZ);
-        EXPECT_EQ(Grundfarbe(knopf), QColor(192, 192, 192)) << Aufschrift(knopf);
+        EXPECT_EQ(Grundfarbe(knopf), QColor(192, 192, 192)) << Zeigt(knopf);
     }
 }
 

@@ -1,7 +1,7 @@
 // The fixture of the tests of the three copy dialogs.
 #pragma once
 
-#include "Fensterstand.h"
+#include "Formstand.h"
 #include "application/Anwendung.h"
 #include "settings/KopierForm.h"
 
@@ -28,7 +28,7 @@ constexpr std::array<std::pair<const char *, const char *>, 8> AchtNamen = {{
 
 /// The program's directory is a subdirectory of the first drive, the diskette is the second; the
 /// main window is behind the dialog.
-class Kopierstand : public Fensterstand {
+class Kopierstand : public Formstand<KopierForm> {
   protected:
     using path = std::filesystem::path;
     using Liste = std::vector<Text>;
@@ -69,7 +69,7 @@ class Kopierstand : public Fensterstand {
     }
 
     bool ZeigtOK() const { return form->OKButton->isVisible(); }
-    Text Datei() const { return Aufschrift(form->Datei); }
+    Text Datei() const { return Zeigt(form->Datei); }
 
     /// Double-clicks a directory in the list.
     void VerzeichnisÖffnen(const char *name) const
@@ -94,8 +94,7 @@ class Kopierstand : public Fensterstand {
     {
         Klick(form->Einzel);
         QCoreApplication::processEvents(); // lays the options out
-        QRadioButton *eine = form->O[option];
-        QTest::mouseClick(eine, Qt::LeftButton, {}, QPoint(8, eine->height() / 2));
+        Ankreuzen(form->O[option]);
         ASSERT_TRUE(form->O[option]->isChecked());
     }
 
@@ -106,7 +105,6 @@ class Kopierstand : public Fensterstand {
 
     path laufwerk;
     QPointer<QMainWindow> haupt = new QMainWindow;
-    QPointer<KopierForm> form;
 };
 
 } // namespace altardienst

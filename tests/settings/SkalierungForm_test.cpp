@@ -38,32 +38,25 @@ class SkalierungFormTest : public Statistikstand {
         Öffnen<SkalierungForm>();
     }
 
-    QLineEdit *Box(const char *name) const { return Finden<QLineEdit>(form, name); }
-    Text Steht(const char *name) const { return Aufschrift(Box(name)); }
-
-    /// Sets the text in one change, as pasting does.
-    Text Setze(const char *name, const char *text) const
+    /// Sets the text in one change, as pasting does, and returns what the box then shows.
+    Text NachEinsetzen(const char *name, const char *text) const
     {
-        Box(name)->setText(text);
-        return Steht(name);
-    }
-    void Drehen(const char *spin, const char *richtung) const
-    {
-        Klick(Finden(Finden(form, spin), richtung));
+        Einsetzen(name, text);
+        return Zeigt(name);
     }
 };
 
 TEST_F(SkalierungFormTest, ZeigtDieFelder)
 {
-    EXPECT_EQ(Steht("XSKALA"), "55,5");
-    EXPECT_EQ(Steht("YSKALA"), "57,25");
+    EXPECT_EQ(Zeigt("XSKALA"), "55,5");
+    EXPECT_EQ(Zeigt("YSKALA"), "57,25");
     for (const auto &[box, text] : std::vector<std::pair<const char *, Text>>{{"MHS", "100"},
                                                                               {"MDS", "200"},
                                                                               {"MS", "300"},
                                                                               {"MGS", "400"},
                                                                               {"MJS", "500"},
                                                                               {"MVS", "600"}})
-        EXPECT_EQ(Steht(box), text) << box;
+        EXPECT_EQ(Zeigt(box), text) << box;
 }
 
 TEST_F(SkalierungFormTest, SchonBeimÖffnenFälltWasAußerhalbLiegtAufDieVorgabe)
@@ -76,13 +69,13 @@ TEST_F(SkalierungFormTest, SchonBeimÖffnenFälltWasAußerhalbLiegtAufDieVorgabe
     Konfig.Skal4 = 5;
     Konfig.Skal5 = 20000;
     Öffnen<SkalierungForm>();
-    EXPECT_EQ(Steht("XSKALA"), "56,6857");
+    EXPECT_EQ(Zeigt("XSKALA"), "56,6857");
     EXPECT_EQ(Konfig.XSkala, 56.6857F);
-    EXPECT_EQ(Steht("YSKALA"), "56,6857");
+    EXPECT_EQ(Zeigt("YSKALA"), "56,6857");
     EXPECT_EQ(Konfig.YSkala, 56.6857F);
-    EXPECT_EQ(Steht("MGS"), "102");
+    EXPECT_EQ(Zeigt("MGS"), "102");
     EXPECT_EQ(Konfig.Skal4, 102);
-    EXPECT_EQ(Steht("MJS"), "90"); // 40 + 50
+    EXPECT_EQ(Zeigt("MJS"), "90"); // 40 + 50
     EXPECT_EQ(Konfig.Skal5, 90);
 }
 
@@ -95,8 +88,8 @@ TEST_F(SkalierungFormTest, BeschriftungenUndRahmen)
                                          "Weitere Skalierungen"}));
     const auto beschriftung = [&](const char *box) {
         for (const auto *label : form->findChildren<QLabel *>())
-            if (label->buddy() == Box(box))
-                return Aufschrift(label);
+            if (label->buddy() == Finden(box))
+                return Zeigt(label);
         return Text();
     };
     EXPECT_EQ(beschriftung("XSKALA"), "X-Achse");
@@ -108,7 +101,7 @@ TEST_F(SkalierungFormTest, BeschriftungenUndRahmen)
 TEST_F(SkalierungFormTest, JedeGrößeSchreibtIhrFeldSofort)
 {
     for (const Größe &g : Größen) {
-        EXPECT_EQ(Setze(g.Box, "777"), "777");
+        EXPECT_EQ(NachEinsetzen(g.Box, "777"), "777");
         EXPECT_EQ(Konfig.*g.Feld, 777) << g.Box;
         Konfig.*g.Feld = 0;
         for (const Größe &andere : Größen)
@@ -120,13 +113,13 @@ TEST_F(SkalierungFormTest, AußerhalbGiltDieVorgabeNichtDasNächsteEnde)
 {
     for (const Größe &g : Größen) {
         for (const char *innen : {"10", "10000"}) {
-            EXPECT_EQ(Setze(g.Box, innen), innen) << g.Box;
+            EXPECT_EQ(NachEinsetzen(g.Box, innen), innen) << g.Box;
             EXPECT_EQ(Konfig.*g.Feld, std::stoi(innen)) << g.Box;
         }
         Konfig.Skal1 = 100;
         Konfig.Skal2 = 200;
         for (const char *außen : {"9", "10001", "0", "-5", "99999", "1E30", "1E39", "-1E39"}) {
-            EXPECT_EQ(Setze(g.Box, außen), std::to_string(g.Vorgabe)) << g.Box << außen;
+            EXPECT_EQ(NachEinsetzen(g.Box, außen), std::to_string(g.Vorgabe)) << g.Box << außen;
             EXPECT_EQ(Konfig.*g.Feld, g.Vorgabe) << g.Box;
             Konfig.Skal1 = 100;
             Konfig.Skal2 = 200;
@@ -136,20 +129,20 @@ TEST_F(SkalierungFormTest, AußerhalbGiltDieVorgabeNichtDasNächsteEnde)
 
 TEST_F(SkalierungFormTest, DieRegelGiltBeiJedemTastendruck)
 {
-    Tippen(Box("MDS"), "9");
-    EXPECT_EQ(Steht("MDS"), "302");
+    Tippen("MDS", "9");
+    EXPECT_EQ(Zeigt("MDS"), "302");
     EXPECT_EQ(Konfig.Skal2, 302);
 }
 
 TEST_F(SkalierungFormTest, DieJubiläenNehmenDieSummeDieJetztGilt)
 {
-    Setze("MHS", "40");
-    Setze("MDS", "50");
-    EXPECT_EQ(Setze("MJS", "5"), "90");
+    NachEinsetzen("MHS", "40");
+    NachEinsetzen("MDS", "50");
+    EXPECT_EQ(NachEinsetzen("MJS", "5"), "90");
     EXPECT_EQ(Konfig.Skal5, 90);
-    Setze("MHS", "10000");
-    Setze("MDS", "10000");
-    EXPECT_EQ(Setze("MJS", "5"), "20000"); // outside its own range too
+    NachEinsetzen("MHS", "10000");
+    NachEinsetzen("MDS", "10000");
+    EXPECT_EQ(NachEinsetzen("MJS", "5"), "20000"); // outside its own range too
     EXPECT_EQ(Konfig.Skal5, 20000);
 }
 
@@ -165,7 +158,7 @@ TEST_F(SkalierungFormTest, SkalenAnIhrenEnden)
                                                                  {"50", "50", 50.0F},
                                                                  {"1E39", "56,6857", 56.6857F},
                                                                  {"6", "56,6857", 56.6857F}}) {
-            EXPECT_EQ(Setze(box, getippt), danach) << box << getippt;
+            EXPECT_EQ(NachEinsetzen(box, getippt), danach) << box << getippt;
             EXPECT_EQ(Konfig.*feld, wert) << box << getippt;
         }
     }
@@ -173,27 +166,27 @@ TEST_F(SkalierungFormTest, SkalenAnIhrenEnden)
 
 TEST_F(SkalierungFormTest, WasKeineZahlIstLäßtDasFeldStehen)
 {
-    EXPECT_EQ(Setze("MDS", "x"), "x");
-    EXPECT_EQ(Setze("MDS", ""), "");
+    EXPECT_EQ(NachEinsetzen("MDS", "x"), "x");
+    EXPECT_EQ(NachEinsetzen("MDS", ""), "");
     EXPECT_EQ(Konfig.Skal2, 200);
-    EXPECT_EQ(Setze("XSKALA", "5x"), "5x");
+    EXPECT_EQ(NachEinsetzen("XSKALA", "5x"), "5x");
     EXPECT_EQ(Konfig.XSkala, 55.5F);
     Drehen("MDSS", "auf");
-    EXPECT_EQ(Steht("MDS"), "");
+    EXPECT_EQ(Zeigt("MDS"), "");
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
 TEST_F(SkalierungFormTest, DrehenGehtUmEinsUndGibtDerBoxDenFokus)
 {
     for (const Größe &g : Größen) {
-        Setze(g.Box, "500");
+        NachEinsetzen(g.Box, "500");
         Drehen(g.Spin, "auf");
-        EXPECT_EQ(Steht(g.Box), "501");
+        EXPECT_EQ(Zeigt(g.Box), "501");
         EXPECT_EQ(Konfig.*g.Feld, 501);
-        EXPECT_TRUE(Box(g.Box)->hasFocus()) << g.Box;
+        EXPECT_TRUE(Finden(g.Box)->hasFocus()) << g.Box;
         Drehen(g.Spin, "ab");
         Drehen(g.Spin, "ab");
-        EXPECT_EQ(Steht(g.Box), "499");
+        EXPECT_EQ(Zeigt(g.Box), "499");
     }
 }
 
@@ -201,9 +194,9 @@ TEST_F(SkalierungFormTest, DrehenÜberDasEndeFälltAufDieVorgabe)
 {
     for (const Größe &g : Größen)
         for (const auto &[ende, richtung] : {std::pair("10000", "auf"), {"10", "ab"}}) {
-            Setze(g.Box, ende);
+            NachEinsetzen(g.Box, ende);
             Drehen(g.Spin, richtung);
-            EXPECT_EQ(Steht(g.Box), std::to_string(g.Vorgabe)) << g.Box << richtung;
+            EXPECT_EQ(Zeigt(g.Box), std::to_string(g.Vorgabe)) << g.Box << richtung;
             EXPECT_EQ(Konfig.*g.Feld, g.Vorgabe) << g.Box << richtung;
             Konfig.Skal1 = 100;
             Konfig.Skal2 = 200;
@@ -213,17 +206,17 @@ TEST_F(SkalierungFormTest, DrehenÜberDasEndeFälltAufDieVorgabe)
 TEST_F(SkalierungFormTest, SkalenDrehenUmEinZehntausendstel)
 {
     for (const auto &[box, spin] : {std::pair("XSKALA", "XX"), {"YSKALA", "YY"}}) {
-        Setze(box, "56,6857");
+        NachEinsetzen(box, "56,6857");
         Drehen(spin, "auf");
-        EXPECT_EQ(Steht(box), "56,6858");
-        EXPECT_TRUE(Box(box)->hasFocus());
+        EXPECT_EQ(Zeigt(box), "56,6858");
+        EXPECT_TRUE(Finden(box)->hasFocus());
         Drehen(spin, "ab");
         Drehen(spin, "ab");
-        EXPECT_EQ(Steht(box), "56,6856");
+        EXPECT_EQ(Zeigt(box), "56,6856");
         for (const auto &[ende, richtung] : {std::pair("60,0001", "auf"), {"49,9999", "ab"}}) {
-            Setze(box, ende);
+            NachEinsetzen(box, ende);
             Drehen(spin, richtung);
-            EXPECT_EQ(Steht(box), "56,6857") << box << richtung;
+            EXPECT_EQ(Zeigt(box), "56,6857") << box << richtung;
         }
     }
     EXPECT_EQ(Konfig.XSkala, 56.6857F);
@@ -234,11 +227,11 @@ TEST_F(SkalierungFormTest, Ordnung)
 {
     EXPECT_EQ(form->objectName(), "Skalierung");
     EXPECT_EQ(form->windowTitle(), "Skalierung");
-    EXPECT_EQ(Aufschrift(Finden(form, "Ende")), "Ende");
+    EXPECT_EQ(Zeigt("Ende"), "Ende");
     IstOrdentlich({"XSKALA", "XX", "YSKALA", "YY", "MDS", "MDSS", "MHS", "MHSS", "MS", "MSS", "MGS",
                    "MGSS", "MJS", "MJSS", "MVS", "MVSS", "Ende"});
-    Box("MVS")->setText("777");
-    SchließtMit([&] { Drücken("Ende"); });
+    Einsetzen("MVS", "777");
+    SchließtMit([&] { Klick("Ende"); });
     EXPECT_EQ(Konfig.Skal6, 777);
     Öffnen<SkalierungForm>();
     SchließtMit([&] { form->close(); });

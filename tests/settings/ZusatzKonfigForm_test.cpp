@@ -1,10 +1,10 @@
 // The settings for the proposed start date and for the services that are set by hand.
 #include "settings/ZusatzKonfigForm.h"
 
+#include "Formstand.h"
 #include "Heimkehr.h"
 
 #include <QGroupBox>
-#include <QPointer>
 
 #include <set>
 
@@ -13,7 +13,7 @@ namespace {
 
 using Liste = std::vector<Text>;
 
-class ZusatzKonfigFormTest : public Fensterstand {
+class ZusatzKonfigFormTest : public Formstand<ZusatzKonfigForm> {
   protected:
     void Öffnen()
     {
@@ -22,22 +22,13 @@ class ZusatzKonfigFormTest : public Fensterstand {
         form->setAttribute(Qt::WA_DeleteOnClose);
         Zeigen(form);
     }
-    QWidget *Control(const char *name) const { return Finden(form, name); }
-    bool An(const char *name) const { return Finden<QAbstractButton>(form, name)->isChecked(); }
-    void Drücken(const char *name) const
-    {
-        QWidget *control = Control(name);
-        QTest::mouseClick(control, Qt::LeftButton, {}, {10, control->height() / 2});
-    }
-    void Drehen(const char *richtung) const { Klick(Finden(Control("UI1"), richtung)); }
     Text Wochen(const char *text) const
     {
-        Finden<QLineEdit>(form, "WOBO")->setText(QString::fromUtf8(text));
-        return Aufschrift(Control("WOBO"));
+        Einsetzen("WOBO", text);
+        return Zeigt("WOBO");
     }
 
     static constexpr std::array Tage = {"OO1", "OO2", "OO3", "OO4", "OO5", "OO6", "OO7"};
-    QPointer<ZusatzKonfigForm> form;
 };
 
 TEST_F(ZusatzKonfigFormTest, JedesControlHatSeineBeschriftung)
@@ -45,18 +36,18 @@ TEST_F(ZusatzKonfigFormTest, JedesControlHatSeineBeschriftung)
     Öffnen();
     EXPECT_EQ(form->objectName(), "ZusatzKonfig");
     EXPECT_EQ(form->windowTitle(), "Zusätzliche Konfiguration");
-    EXPECT_EQ(Aufschrift(Control("Wer")), "Weihrauch");
-    EXPECT_EQ(Aufschrift(Control("Kr")), "Kreuzträger");
+    EXPECT_EQ(Zeigt("Wer"), "Weihrauch");
+    EXPECT_EQ(Zeigt("Kr"), "Kreuzträger");
     Liste tage;
     for (const char *tag : Tage)
-        tage.push_back(Aufschrift(Control(tag)));
+        tage.push_back(Zeigt(tag));
     EXPECT_EQ(tage, (Liste{"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag",
                            "Samstag"}));
     std::set<Text> worte;
     for (const QLabel *label : form->findChildren<QLabel *>()) {
-        worte.insert(Aufschrift(label));
-        if (Aufschrift(label).starts_with("Wieviel")) {
-            EXPECT_EQ(label->buddy(), Control("WOBO"));
+        worte.insert(Zeigt(label));
+        if (Zeigt(label).starts_with("Wieviel")) {
+            EXPECT_EQ(label->buddy(), Finden("WOBO"));
         }
     }
     EXPECT_EQ(worte,
@@ -76,9 +67,9 @@ TEST_F(ZusatzKonfigFormTest, ÖffnetMitDenEinstellungenUndÄndertSieNicht)
         Konfig.ManuellKreuzträger = kreuz;
         Konfig.VorlaufWochen = 12;
         Öffnen();
-        EXPECT_EQ(An("Wer"), weihrauch == 1);
-        EXPECT_EQ(An("Kr"), kreuz == 1);
-        EXPECT_EQ(Aufschrift(Control("WOBO")), "12");
+        EXPECT_EQ(Angekreuzt("Wer"), weihrauch == 1);
+        EXPECT_EQ(Angekreuzt("Kr"), kreuz == 1);
+        EXPECT_EQ(Zeigt("WOBO"), "12");
         EXPECT_EQ(Konfig.ManuellWeihrauch, weihrauch);
         EXPECT_EQ(Konfig.ManuellKreuzträger, kreuz);
         EXPECT_EQ(Konfig.VorlaufWochen, 12);
@@ -88,19 +79,19 @@ TEST_F(ZusatzKonfigFormTest, ÖffnetMitDenEinstellungenUndÄndertSieNicht)
 TEST_F(ZusatzKonfigFormTest, JedeBoxSchreibtIhrenDienst)
 {
     Öffnen();
-    Drücken("Wer");
+    Ankreuzen("Wer");
     EXPECT_EQ(Konfig.ManuellWeihrauch, 1);
     EXPECT_EQ(Konfig.ManuellKreuzträger, 0);
-    Drücken("Kr");
+    Ankreuzen("Kr");
     EXPECT_EQ(Konfig.ManuellKreuzträger, 1);
-    Drücken("Wer");
+    Ankreuzen("Wer");
     EXPECT_EQ(Konfig.ManuellWeihrauch, 0);
     EXPECT_EQ(Konfig.ManuellKreuzträger, 1);
     for (const auto &[box, wert] :
          {std::pair{"Wer", &Konfig.ManuellWeihrauch}, {"Kr", &Konfig.ManuellKreuzträger}}) {
         const int vorher = *wert;
-        FokusAuf(Control(box));
-        QTest::keyClick(Control(box), Qt::Key_Space);
+        FokusAuf(box);
+        QTest::keyClick(Finden(box), Qt::Key_Space);
         EXPECT_EQ(*wert, 1 - vorher) << box;
     }
 }
@@ -111,14 +102,15 @@ TEST_F(ZusatzKonfigFormTest, JederWochentagHatSeineZahl)
         Konfig.StartWochentag = tag;
         Öffnen();
         for (int n = 1; n <= 7; ++n)
-            EXPECT_EQ(An(Tage[static_cast<std::size_t>(n - 1)]), n == tag) << tag << " " << n;
+            EXPECT_EQ(Angekreuzt(Tage[static_cast<std::size_t>(n - 1)]), n == tag)
+                << tag << " " << n;
     }
     for (int tag = 1; tag <= 7; ++tag) {
-        Drücken(Tage[static_cast<std::size_t>(tag - 1)]);
+        Ankreuzen(Tage[static_cast<std::size_t>(tag - 1)]);
         EXPECT_EQ(Konfig.StartWochentag, tag);
     }
-    FokusAuf(Control("OO7"));
-    QTest::keyClick(Control("OO7"), Qt::Key_Left);
+    FokusAuf("OO7");
+    QTest::keyClick(Finden("OO7"), Qt::Key_Left);
     EXPECT_EQ(Konfig.StartWochentag, 6);
 }
 
@@ -128,7 +120,7 @@ TEST_F(ZusatzKonfigFormTest, EinWochentagAußerhalbWähltKeinen)
         Konfig.StartWochentag = tag;
         Öffnen();
         for (const char *option : Tage)
-            EXPECT_FALSE(An(option)) << tag;
+            EXPECT_FALSE(Angekreuzt(option)) << tag;
         EXPECT_EQ(Konfig.StartWochentag, tag);
     }
 }
@@ -146,8 +138,8 @@ TEST_F(ZusatzKonfigFormTest, DieWochenLiegenZwischenEinsUndZwanzig)
     for (const auto &[eingabe, zeigt] :
          {std::pair{"x", "x"}, {"", ""}, {"😀", "?"}, {"1\n2", "1 2"}}) {
         EXPECT_EQ(Wochen(eingabe), zeigt);
-        Drehen("auf");
-        EXPECT_EQ(Aufschrift(Control("WOBO")), zeigt);
+        Drehen("UI1", "auf");
+        EXPECT_EQ(Zeigt("WOBO"), zeigt);
         EXPECT_EQ(Konfig.VorlaufWochen, 9) << eingabe;
     }
     EXPECT_TRUE(GezeigteMeldungen.empty());
@@ -168,13 +160,13 @@ TEST_F(ZusatzKonfigFormTest, DerDrehknopfBewegtDieWochenUndGibtDenFokus)
     Wochen("19");
     for (const auto &[richtung, wochen] :
          {std::pair{"auf", 20}, {"auf", 20}, {"ab", 19}, {"ab", 18}}) {
-        FokusAuf(Control("Ende"));
-        Drehen(richtung);
+        FokusAuf("Ende");
+        Drehen("UI1", richtung);
         EXPECT_EQ(Konfig.VorlaufWochen, wochen);
-        EXPECT_TRUE(Control("WOBO")->hasFocus());
+        EXPECT_TRUE(Finden("WOBO")->hasFocus());
     }
     Wochen("1");
-    Drehen("ab");
+    Drehen("UI1", "ab");
     EXPECT_EQ(Konfig.VorlaufWochen, 1);
 }
 
@@ -183,8 +175,8 @@ TEST_F(ZusatzKonfigFormTest, EinBruchBleibtBeimDrehenEinBruch)
     Öffnen();
     Wochen("2,5");
     EXPECT_EQ(Konfig.VorlaufWochen, 2);
-    Drehen("auf");
-    EXPECT_EQ(Aufschrift(Control("WOBO")), "3,5");
+    Drehen("UI1", "auf");
+    EXPECT_EQ(Zeigt("WOBO"), "3,5");
     EXPECT_EQ(Konfig.VorlaufWochen, 4);
 }
 
@@ -199,7 +191,7 @@ TEST_F(ZusatzKonfigFormTest, EndeUndSchließenGebenDasHauptfensterZurück)
 TEST_F(ZusatzKonfigFormTest, TabFolgtDemAugeUndPasstAufDenKleinstenBildschirm)
 {
     Öffnen();
-    FokusAuf(Control("Wer"));
+    FokusAuf("Wer");
     EXPECT_EQ(Tabfolge(form), (Liste{"Wer", "Kr", "OO1", "WOBO", "UI1", "Ende"}));
     EXPECT_EQ(Stumme(form), Liste{});
     EXPECT_LE(form->width(), KleinsterBildschirm.width());

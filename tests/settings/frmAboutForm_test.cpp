@@ -1,7 +1,7 @@
 // What the program says about itself.
 #include "settings/frmAboutForm.h"
 
-#include "Fensterstand.h"
+#include "Formstand.h"
 #include "application/Anwendung.h"
 #include "platform/Systeminfo.h"
 #include "shell/HauptForm.h"
@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 using Liste = std::vector<Text>;
 
 /// A platform without a tool; what is started is recorded.
-class frmAboutFormTest : public Fensterstand {
+class frmAboutFormTest : public Formstand<frmAboutForm> {
   protected:
     frmAboutFormTest() : zuvor(Systeminfo)
     {
@@ -33,19 +33,16 @@ class frmAboutFormTest : public Fensterstand {
         HauptfensterSetzen(haupt);
         haupt->showMaximized();
         Zeigen(haupt);
-        Finden<QAction>(haupt, "mnuHelpAbout")->trigger();
+        MenüWählen(haupt, "mnuHelpAbout");
         form = static_cast<frmAboutForm *>(Fenster("frmAbout"));
         Zeigen(form);
     }
 
     ~frmAboutFormTest() override { Systeminfo = zuvor; }
 
-    Text Zeigt(const char *name) const { return Aufschrift(Finden(form, name)); }
-
     SysteminfoDienst zuvor;
     Liste gestartet;
     QPointer<HauptForm> haupt;
-    QPointer<frmAboutForm> form;
 };
 
 TEST_F(frmAboutFormTest, ZeigtNameVersionLizenzUndWarnung)
@@ -63,7 +60,7 @@ TEST_F(frmAboutFormTest, ZeigtNameVersionLizenzUndWarnung)
               "zuläßt. Prüfen Sie jeden Plan vor dem Aushang und sichern Sie Ihre Daten.");
     EXPECT_EQ(Zeigt("cmdOK"), "OK");
     EXPECT_EQ(Zeigt("cmdSysInfo"), "&Systeminfo...");
-    EXPECT_TRUE(Finden(form, "picIcon")->isVisible());
+    EXPECT_TRUE(Finden("picIcon")->isVisible());
 }
 
 TEST_F(frmAboutFormTest, DasHauptfensterBleibtWieEsWar)
@@ -78,14 +75,14 @@ TEST_F(frmAboutFormTest, DasHauptfensterBleibtWieEsWar)
 
 TEST_F(frmAboutFormTest, EinZweitesMalZeigtDasselbeFenster)
 {
-    Finden<QAction>(haupt, "mnuHelpAbout")->trigger();
+    MenüWählen(haupt, "mnuHelpAbout");
     int offen = 0;
     for (const QWidget *fenster : QApplication::topLevelWidgets())
         offen += fenster->objectName() == "frmAbout";
     EXPECT_EQ(offen, 1);
     form->close();
     EXPECT_TRUE(Warten([&] { return !form; }));
-    Finden<QAction>(haupt, "mnuHelpAbout")->trigger();
+    MenüWählen(haupt, "mnuHelpAbout");
     EXPECT_TRUE(IstOffen("frmAbout"));
 }
 
@@ -157,7 +154,7 @@ TEST_F(frmAboutFormTest, TabFolgtDemAugeUndAllesPasst)
     EXPECT_LE(form->width(), KleinsterBildschirm.width());
     EXPECT_LE(form->height(), KleinsterBildschirm.height());
     for (const char *name : {"LBLXXXX", "Writen", "lblDisclaimer"}) {
-        auto *label = Finden<QLabel>(form, name);
+        auto *label = Finden<QLabel>(name);
         EXPECT_GE(label->height(), label->heightForWidth(label->width())) << name;
     }
 }

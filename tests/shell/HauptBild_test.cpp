@@ -31,8 +31,8 @@ class HauptBildTest : public Hauptstand {
     {
         for (int i = 0; i < 3; ++i) {
             ++Sekunden;
-            const Text vorher = Aufschrift(haupt->UHRZEITIGES);
-            ASSERT_TRUE(Warten([&] { return Aufschrift(haupt->UHRZEITIGES) != vorher; }));
+            const Text vorher = Zeigt(haupt->UHRZEITIGES);
+            ASSERT_TRUE(Warten([&] { return Zeigt(haupt->UHRZEITIGES) != vorher; }));
         }
     }
 
@@ -43,12 +43,12 @@ TEST_F(HauptBildTest, DieUhrZeigtAlle50MillisekundenDieZeitOhneZusatz)
 {
     Sekunden = 9 * 3600 + 8 * 60 + 7;
     Öffnen();
-    EXPECT_EQ(Aufschrift(haupt->UHRZEITIGES), "09:08:07");
+    EXPECT_EQ(Zeigt(haupt->UHRZEITIGES), "09:08:07");
     auto *takt = Finden<QTimer>(haupt, "Timer1");
     EXPECT_EQ(takt->interval(), 50);
     EXPECT_TRUE(takt->isActive());
     Sekunden = 86399;
-    EXPECT_TRUE(Warten([&] { return Aufschrift(haupt->UHRZEITIGES) == "23:59:59"; }));
+    EXPECT_TRUE(Warten([&] { return Zeigt(haupt->UHRZEITIGES) == "23:59:59"; }));
 }
 
 // A message would come again with the next of the 20 ticks of each second.
@@ -64,7 +64,7 @@ TEST_F(HauptBildTest, EinTaktDerVersagtSchweigt)
     EXPECT_TRUE(Warten([&] { return *versagt >= 3; }));
     Uhr.Sekunden = uhr;
     Sekunden = 86399;
-    EXPECT_TRUE(Warten([&] { return Aufschrift(haupt->UHRZEITIGES) == "23:59:59"; }));
+    EXPECT_TRUE(Warten([&] { return Zeigt(haupt->UHRZEITIGES) == "23:59:59"; }));
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 

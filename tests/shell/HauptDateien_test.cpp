@@ -28,10 +28,10 @@ TEST_F(HauptDateienTest, FestplatteSpeichernUndLaden)
     GruppeTabelle &gruppe = Gruppe;
     gruppe.Anzahl = 1;
     gruppe.Bezeichnung[0] = "Große";
-    Wählen("mnuDatenspeichern");
+    MenüWählen("mnuDatenspeichern");
     Konfig.Gemeinde = "anders";
     gruppe.Bezeichnung[0] = "anders";
-    Wählen("mnuDatenladen");
+    MenüWählen("mnuDatenladen");
     EXPECT_EQ(Konfig.Gemeinde, "St. Martin");
     EXPECT_EQ(gruppe.Bezeichnung[0], "Große");
     EXPECT_TRUE(GezeigteMeldungen.empty());
@@ -39,10 +39,10 @@ TEST_F(HauptDateienTest, FestplatteSpeichernUndLaden)
 
 TEST_F(HauptDateienTest, FestplatteLadenNenntDieErsteFehlendeDatei)
 {
-    Wählen("mnuDatenspeichern");
+    MenüWählen("mnuDatenspeichern");
     fs::remove(Festplatte / "Helfer.dat");
     fs::remove(Festplatte / "Konfig.cfg");
-    Wählen("mnuDatenladen");
+    MenüWählen("mnuDatenladen");
     EXPECT_EQ(GezeigteMeldungen,
               Liste{"Bitte Daten von Diskette einlesen oder kopieren, da Datei - helfer.dat - im "
                     "Verzeichnis - C:\\programm\\Altardienst\\ - fehlt!"});
@@ -60,7 +60,7 @@ TEST_F(HauptDateienTest, LadenBegrenztWederGrenzeAuslöseNochDenBeginn)
         TabellenLeeren();
         Konfig.StartDatum = start;
         Antworten = {true};
-        Wählen(eintrag);
+        MenüWählen(eintrag);
         EXPECT_EQ(Konfig.GrenzeAuslöse, 100) << eintrag;
         EXPECT_EQ(Konfig.StartWochentag, 8) << eintrag;
         EXPECT_EQ(Konfig.VorlaufWochen, 21) << eintrag;
@@ -74,12 +74,12 @@ TEST_F(HauptDateienTest, DisketteSpeichernÜberschreibtNurEineVolleDiskette)
     fs::remove(Diskette / "Etiketten.dat");
     const std::string zuvor = DateiLesen(Diskette / "Konfig.cfg");
     Konfig.Gemeinde = "St. Martin";
-    Wählen("mnuDatenspeichernD");
+    MenüWählen("mnuDatenspeichernD");
     EXPECT_EQ(DateiLesen(Diskette / "Konfig.cfg"), zuvor);
     EXPECT_FALSE(fs::exists(Diskette / "Etiketten.dat"));
 
     DateiSchreiben(Diskette / "Etiketten.dat", "");
-    Wählen("mnuDatenspeichernD");
+    MenüWählen("mnuDatenspeichernD");
     EXPECT_NE(DateiLesen(Diskette / "Konfig.cfg").find("St. Martin"), std::string::npos);
     EXPECT_GT(fs::file_size(Diskette / "Etiketten.dat"), 0U);
     EXPECT_TRUE(GezeigteMeldungen.empty());
@@ -89,7 +89,7 @@ TEST_F(HauptDateienTest, DisketteSpeichernÜberschreibtNurEineVolleDiskette)
 TEST_F(HauptDateienTest, DisketteLadenFragtUndNeinÄndertNichts)
 {
     Konfig.Gemeinde = "St. Martin";
-    Wählen("mnuDatenladenD");
+    MenüWählen("mnuDatenladenD");
     ASSERT_EQ(GestellteFragen.size(), 1U);
     EXPECT_EQ(GestellteFragen[0].Titel, "Laden der Daten von Diskette");
     EXPECT_EQ(GestellteFragen[0].Wortlaut,
@@ -107,7 +107,7 @@ TEST_F(HauptDateienTest, DisketteLadenBringtEinstellungenUndMusterAberKeineDiene
     AlleAchtSpeichern(Diskette);
     TabellenLeeren();
     Antworten = {true};
-    Wählen("mnuDatenladenD");
+    MenüWählen("mnuDatenladenD");
     EXPECT_EQ(Konfig.Gemeinde, "St. Martin");
     EXPECT_EQ(Standardmesse.Wochentag[0], "Sonntag");
     EXPECT_EQ(Meßdiener.Anzahl, 1);
@@ -118,7 +118,7 @@ TEST_F(HauptDateienTest, DisketteLadenBringtEinstellungenUndMusterAberKeineDiene
 TEST_F(HauptDateienTest, EineLeereDisketteGibtAchtMeldungenInIhrerFolge)
 {
     Antworten = {true};
-    Wählen("mnuDatenladenD");
+    MenüWählen("mnuDatenladenD");
     Liste erwartet;
     for (const char *name : {"etiketten.dat", "gruppen.dat", "helfer.dat", "meßdiener.dat",
                              "messen.dat", "standard.dat", "konfig.cfg", "meßdienermesse.dat"})

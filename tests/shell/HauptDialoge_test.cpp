@@ -171,7 +171,7 @@ TEST_F(HauptDialogeTest, NebenDerMessenlisteUndNachIhremEndeIstKeinerDoppelt)
 TEST_F(HauptDialogeTest, NebenDenFestenEinträgenUndNachIhremEndeIstKeinerDoppelt)
 {
     const auto gekommen = JederWegZweimal([this] {
-        Wählen("MnuMESSDIENZUMESS");
+        MenüWählen("MnuMESSDIENZUMESS");
         QWidget *liste = Fenster("MesseDienerFest");
         Klick(Finden(liste, "Hinzu"));
         Fenster("NeuMesseDienerFest")->close();
@@ -205,7 +205,7 @@ TEST_F(HauptDialogeTest, FürEineVerborgeneFormKommtIhrDialogNachVorn)
         SCOPED_TRACE(dialogname);
         Klick(haupt->Messenorgani);
         const QPointer<QWidget> liste = Fenster("Messenliste");
-        Wählen(eintrag);
+        MenüWählen(eintrag);
         const QPointer<QWidget> form = Fenster(name);
         Klick(Finden(form, knopf));
         const QPointer<QWidget> dialog = Fenster(dialogname);
@@ -215,7 +215,7 @@ TEST_F(HauptDialogeTest, FürEineVerborgeneFormKommtIhrDialogNachVorn)
             HauptfensterZurück(); // as another dialog does that ends meanwhile
         EXPECT_TRUE(HauptfensterIstFrei());
         dialog->showMinimized();
-        Wählen(eintrag);
+        MenüWählen(eintrag);
         NichtsIstDoppelt(eintrag);
         EXPECT_FALSE(form->isVisible());
         EXPECT_TRUE(dialog->isVisible());
@@ -226,7 +226,7 @@ TEST_F(HauptDialogeTest, FürEineVerborgeneFormKommtIhrDialogNachVorn)
         EXPECT_TRUE(form->isVisible());
         EXPECT_TRUE(Warten([&] { return !dialog && form->isActiveWindow(); }));
         EXPECT_TRUE(HauptfensterIstVerlassen());
-        Wählen(eintrag);
+        MenüWählen(eintrag);
         NichtsIstDoppelt(eintrag);
         EXPECT_EQ(Fenster(name), form);
         form->close();
@@ -241,10 +241,10 @@ TEST_F(HauptDialogeTest, EinGeschlossenerGiltNichtMehrAlsOffenAuchVorDemEntladen
                                         {"MnuMESSDIENZUMESS", "MesseDienerFest"},
                                         {"mnuMessen", "Messenliste"},
                                         {"mnuHelpAbout", "frmAbout"}}) {
-        Wählen(eintrag);
+        MenüWählen(eintrag);
         const QPointer<QWidget> alter = Fenster(name);
         alter->close();
-        Wählen(eintrag);
+        MenüWählen(eintrag);
         EXPECT_TRUE(IstOffen(name)) << name;
         EXPECT_FALSE(alter->isVisible()) << name;
         NichtsIstDoppelt(name);
@@ -262,7 +262,7 @@ TEST_F(HauptDialogeTest, EineGeschlosseneListeIstAuchMitIhremDialogNichtMehrOffe
     Klick(haupt->Messenorgani);
     EXPECT_TRUE(liste->isVisible());
     liste->close();
-    Wählen("mnuMessen");
+    MenüWählen("mnuMessen");
     NichtsIstDoppelt("mnuMessen");
     EXPECT_TRUE(IstOffen("Messenliste"));
     EXPECT_TRUE(IstOffen("NeuMesse"));
@@ -273,11 +273,11 @@ TEST_F(HauptDialogeTest, VorHolenUndSichernWirdAuchBeimZweitenMalGespeichert)
     for (const auto &[eintrag, name] :
          {std::pair("mnuDatenHolen", "Dateikopie"), {"mnuDatenSichern", "Datensicherung"}}) {
         Klick(haupt->Messenorgani);
-        Wählen(eintrag);
+        MenüWählen(eintrag);
         const QPointer<QWidget> dialog = Fenster(name);
         Fenster("Messenliste")->close();
         Konfig.Gemeinde = eintrag;
-        Wählen(eintrag);
+        MenüWählen(eintrag);
         EXPECT_TRUE(DateiLesen(Festplatte / "Konfig.cfg").starts_with(Text(eintrag) + "\r\n"));
         EXPECT_EQ(Fenster(name), dialog);
         NichtsIstDoppelt(eintrag);
@@ -344,7 +344,7 @@ TEST_F(HauptDialogeTest, EinLadenRührtKeinenDialogAnDerOffenIst)
             Zeigen(dialog);
             Zeigen(haupt);
             const auto schirm = Schirm(dialog);
-            imVerzeichnis(andere, [this] { Wählen("mnuDatenladen"); });
+            imVerzeichnis(andere, [this] { MenüWählen("mnuDatenladen"); });
             EXPECT_EQ(Konfig.Gemeinde, "St. Ägid");
             EXPECT_EQ(Schirm(dialog), schirm);
             Zeigen(dialog);

@@ -62,7 +62,7 @@ TEST_F(HauptEndeTest, BeendenImMenüSpeichertAlleAchtDateienUndEntlädt)
 {
     EXPECT_EQ(Programmlauf([this] {
                   Öffnen();
-                  Wählen("mnuFileExit");
+                  MenüWählen("mnuFileExit");
               }),
               0);
     EXPECT_EQ(Geschrieben(), AlleAcht());
@@ -109,7 +109,7 @@ TEST_F(HauptEndeTest, ScheitertSpeichernImMenüEndetDasProgrammAuch)
     DatenträgerFüllen();
     EXPECT_EQ(Programmlauf([this] {
                   Öffnen();
-                  Wählen("mnuDatenspeichern");
+                  MenüWählen("mnuDatenspeichern");
               }),
               61);
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{"Laufzeitfehler '61': Datenträger voll"});
@@ -125,7 +125,7 @@ TEST_F(HauptEndeTest, ScheitertDasSpeichernVorHolenOderSichernEndetDasProgrammOh
         GezeigteMeldungen.clear();
         EXPECT_EQ(Programmlauf([&] {
                       Öffnen();
-                      Wählen(eintrag);
+                      MenüWählen(eintrag);
                       EXPECT_FALSE(IstOffen("Dateikopie") || IstOffen("Datensicherung"));
                   }),
                   61);

@@ -35,7 +35,7 @@ TEST_F(HauptFormTest, JedesControlTrägtSeinenNamenUndSeineBeschriftung)
         {"UHRZEITIGES", "12:00:00"},
     };
     for (const auto &[name, text] : beschriftungen)
-        EXPECT_EQ(Aufschrift(Finden(haupt, name)), text) << name;
+        EXPECT_EQ(Zeigt(Finden(haupt, name)), text) << name;
     EXPECT_TRUE(Finden(haupt, "Image1")->isVisible());
     EXPECT_EQ(haupt->objectName(), "Haupt");
     EXPECT_EQ(haupt->windowTitle(), "Altardienst ");
@@ -166,8 +166,8 @@ TEST_F(HauptFormTest, DieSchritteDieSuchenZeigenDenWartezeiger)
          {haupt->Dienstus, haupt->MeßdienerMessen, haupt->Helfend, haupt->Messenorgani}) {
         zeiger = false;
         Klick(knopf);
-        EXPECT_TRUE(zeiger) << Aufschrift(knopf);
-        EXPECT_FALSE(QApplication::overrideCursor()) << Aufschrift(knopf);
+        EXPECT_TRUE(zeiger) << Zeigt(knopf);
+        EXPECT_FALSE(QApplication::overrideCursor()) << Zeigt(knopf);
     }
 }
 

@@ -134,7 +134,7 @@ TEST_F(HauptMenüTest, WasOhneDialogAuskommtIstWählbar)
                              "mnuDatenSichern",
                              "mnuHelpAbout",
                              "DruckML"})
-        EXPECT_TRUE(Eintrag(name)->isEnabled()) << name;
+        EXPECT_TRUE(Finden<QAction>(haupt, name)->isEnabled()) << name;
 }
 
 TEST_F(HauptMenüTest, EinMenüIstWählbarWennEsEinerSeinerEinträgeIst)
@@ -178,7 +178,7 @@ TEST_F(HauptMenüTest, JederEintragÖffnetSeineFormUndSperrtDasHauptfenster)
     MeßdienerAnlegen("Kim", "Adler"); // there are no figures about nobody
     for (const auto &[eintrag, form] : formen) {
         SCOPED_TRACE(eintrag);
-        Wählen(eintrag);
+        MenüWählen(eintrag);
         QWidget *dialog = Fenster(form);
         EXPECT_FALSE(haupt->isEnabled());
         EXPECT_TRUE(haupt->isMinimized());
@@ -193,7 +193,7 @@ TEST_F(HauptMenüTest, VorHolenUndSichernWirdGespeichert)
 {
     for (const char *eintrag : {"mnuDatenHolen", "mnuDatenSichern"}) {
         Konfig.Gemeinde = eintrag;
-        Wählen(eintrag);
+        MenüWählen(eintrag);
         EXPECT_TRUE(DateiLesen(Festplatte / "Konfig.cfg").starts_with(Text(eintrag) + "\r\n"));
         Fenster(Text(eintrag) == "mnuDatenHolen" ? "Dateikopie" : "Datensicherung")->close();
     }
@@ -208,7 +208,7 @@ TEST_F(HauptMenüTest, DruckMLSetztNurDieDienste)
     Messe.Kreuzträger[1] = 1;
     Messe.DienerNach[0][1] = "Adler";
     Messe.DienerDienst[1][1] = "Flambeau";
-    Wählen("DruckML");
+    MenüWählen("DruckML");
     EXPECT_EQ(Messe.DienerDienst[0][0], "Leuchter");
     EXPECT_EQ(Messe.DienerDienst[0][1], "Leuchter");
     EXPECT_EQ(Messe.DienerDienst[0][2], "Allgemein");

@@ -112,7 +112,7 @@ TEST_F(HauptSortierenTest, JederEintragSortiertSeineTabelleNachSeinemSchlüssel)
         auto erwartet = Stand();
         ASSERT_NE(erwartet[fall.Tabelle], fall.Folge);
         erwartet[fall.Tabelle] = fall.Folge;
-        Wählen(fall.Eintrag);
+        MenüWählen(fall.Eintrag);
         EXPECT_EQ(Stand(), erwartet);
     }
     EXPECT_TRUE(GezeigteMeldungen.empty());
@@ -123,7 +123,7 @@ TEST_F(HauptSortierenTest, UmlauteUndKleineBuchstabenStehenHinterDenGroßen)
 {
     for (const char *name : {"Ähre", "von Stein", "Zander", "", "Adler"})
         MeßdienerAnlegen("Kim", name);
-    Wählen("mnuMeßdienersort");
+    MenüWählen("mnuMeßdienersort");
     Liste namen;
     for (int i = 0; i < Meßdiener.Anzahl; ++i)
         namen.push_back(Meßdiener.Nachname[i]);
@@ -137,7 +137,7 @@ TEST_F(HauptSortierenTest, KeinerOderEinerBleibtWieErIst)
         Meßdiener.Nachname[0] = "Zander";
         Meßdiener.Nachname[1] = "Adler";
         Meßdiener.Anzahl = anzahl;
-        Wählen("mnuMeßdienersort");
+        MenüWählen("mnuMeßdienersort");
         EXPECT_EQ(Meßdiener.Nachname[0], "Zander");
         EXPECT_EQ(Meßdiener.Nachname[1], "Adler");
     }

@@ -21,7 +21,7 @@ class HauptTastenTest : public Hauptstand {
     }
 
     /// As it comes from the keyboard: to the window, which passes it to the control with the focus.
-    void Taste(Qt::Key taste, Qt::KeyboardModifiers dazu = Qt::NoModifier) const
+    void Fenstertaste(Qt::Key taste, Qt::KeyboardModifiers dazu = Qt::NoModifier) const
     {
         QTest::keyClick(haupt->windowHandle(), taste, dazu);
     }
@@ -44,9 +44,9 @@ TEST_F(HauptTastenTest, Tasten1Bis7DrückenIhrenKnopfBeiJedemFokus)
         FokusAuf(knopf);
         for (int ziffer = 0; ziffer <= 9; ++ziffer) {
             gedrückt.clear();
-            Taste(static_cast<Qt::Key>(Qt::Key_0 + ziffer));
+            Fenstertaste(static_cast<Qt::Key>(Qt::Key_0 + ziffer));
             const bool hatKnopf = ziffer >= 1 && ziffer <= 7;
-            EXPECT_EQ(gedrückt, hatKnopf ? std::to_string(ziffer) : "") << Aufschrift(knopf);
+            EXPECT_EQ(gedrückt, hatKnopf ? std::to_string(ziffer) : "") << Zeigt(knopf);
         }
         EXPECT_TRUE(knopf->hasFocus());
     }
@@ -55,7 +55,7 @@ TEST_F(HauptTastenTest, Tasten1Bis7DrückenIhrenKnopfBeiJedemFokus)
 TEST_F(HauptTastenTest, DieTastenGeltenAuchOhneFokus)
 {
     haupt->focusWidget()->clearFocus();
-    Taste(Qt::Key_3);
+    Fenstertaste(Qt::Key_3);
     EXPECT_EQ(gedrückt, "3");
 }
 
@@ -64,11 +64,11 @@ TEST_F(HauptTastenTest, DieTastenGeltenAuchNachEinemDialog)
     QWidget dialog;
     haupt->setEnabled(false);
     Zeigen(&dialog);
-    Taste(Qt::Key_3); // disabled while a dialog is open
+    Fenstertaste(Qt::Key_3); // disabled while a dialog is open
     EXPECT_EQ(gedrückt, "");
     dialog.close();
     HauptfensterZurück();
-    Taste(Qt::Key_3);
+    Fenstertaste(Qt::Key_3);
     EXPECT_EQ(gedrückt, "3");
 }
 
@@ -83,32 +83,32 @@ TEST_F(HauptTastenTest, DieTasteGiltAuchUmgeschaltet)
     for (const auto dazu : {Qt::KeypadModifier, Qt::ControlModifier, Qt::AltModifier}) {
         Umgeschaltet(3, dazu | Qt::ShiftModifier);
         Umgeschaltet(3, dazu);
-        Taste(Qt::Key_3, dazu);
+        Fenstertaste(Qt::Key_3, dazu);
     }
     EXPECT_EQ(gedrückt, "1234567");
-    Taste(Qt::Key_3, Qt::ShiftModifier); // digits that are themselves reached by Shift
+    Fenstertaste(Qt::Key_3, Qt::ShiftModifier); // digits that are themselves reached by Shift
     EXPECT_EQ(gedrückt, "12345673");
 }
 
 TEST_F(HauptTastenTest, DerZiffernblockDrücktNichts)
 {
     for (int ziffer = 1; ziffer <= 7; ++ziffer)
-        Taste(static_cast<Qt::Key>(Qt::Key_0 + ziffer), Qt::KeypadModifier);
+        Fenstertaste(static_cast<Qt::Key>(Qt::Key_0 + ziffer), Qt::KeypadModifier);
     EXPECT_EQ(gedrückt, "");
 }
 
 TEST_F(HauptTastenTest, EineGesperrteStufeAntwortetNicht)
 {
     knöpfe[1]->setEnabled(false);
-    Taste(Qt::Key_2);
+    Fenstertaste(Qt::Key_2);
     EXPECT_EQ(gedrückt, "");
 }
 
 TEST_F(HauptTastenTest, EingabetasteUndLeertasteDrückenDenKnopfMitDemFokus)
 {
     FokusAuf(knöpfe[4]);
-    Taste(Qt::Key_Return);
-    Taste(Qt::Key_Space);
+    Fenstertaste(Qt::Key_Return);
+    Fenstertaste(Qt::Key_Space);
     EXPECT_EQ(gedrückt, "55");
 }
 
@@ -116,7 +116,7 @@ TEST_F(HauptTastenTest, F11UndF12ÖffnenIhreFormen)
 {
     for (auto [taste, form] :
          {std::pair(Qt::Key_F11, "ZusatzKonfig"), {Qt::Key_F12, "Skalierung"}}) {
-        Taste(taste);
+        Fenstertaste(taste);
         EXPECT_FALSE(haupt->isEnabled());
         QWidget *dialog = Fenster(form);
         EXPECT_TRUE(haupt->isMinimized());

@@ -22,8 +22,7 @@ class Hauptstand : public Fensterstand {
         return *haupt;
     }
 
-    QAction *Eintrag(const char *name) const { return Finden<QAction>(haupt, name); }
-    void Wählen(const char *name) const { Eintrag(name)->trigger(); }
+    void MenüWählen(const char *name) const { altardienst::MenüWählen(haupt, name); }
 
     QPointer<HauptForm> haupt;
 };

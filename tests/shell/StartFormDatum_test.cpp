@@ -38,7 +38,7 @@ TEST_F(StartFormDatumTest, JederWochentagHatSeinenNamen)
     const char *namen[] = {"Sonntag",    "Montag",  "Dienstag", "Mittwoch",
                            "Donnerstag", "Freitag", "Samstag"};
     for (int i = 0; i < 7; ++i) {
-        Eingeben("Datumsen", (std::to_string(22 + i) + ".11.2026").c_str());
+        Einsetzen("Datumsen", std::to_string(22 + i) + ".11.2026");
         Drehen("Änderung1", "auf");
         EXPECT_EQ(Zeigt("Tagchen"), namen[i]);
     }

@@ -37,7 +37,7 @@ TEST_F(StartFormSchritteTest, SpinButton1GehtMitDenPfeiltasten)
 TEST_F(StartFormSchritteTest, SpinButton1HältBeiHeute)
 {
     Öffnen();
-    Eingeben("Datumsen", "21.11.2026");
+    Einsetzen("Datumsen", "21.11.2026");
     Drehen("SpinButton1", "ab");
     EXPECT_EQ(Zeigt("Datumsen"), "21.11.2026");
     EXPECT_EQ(Zeigt("Tagchen"), "Samstag");
@@ -47,10 +47,10 @@ TEST_F(StartFormSchritteTest, SpinButton1HältBeiHeute)
 TEST_F(StartFormSchritteTest, SpinButton1RechnetVorherMitDemGetipptenDatum)
 {
     Öffnen();
-    Eingeben("Datumsen", "1.1.2020"); // long past: today, then a day on
+    Einsetzen("Datumsen", "1.1.2020"); // long past: today, then a day on
     Drehen("SpinButton1", "auf");
     EXPECT_EQ(Zeigt("Datumsen"), "22.11.2026");
-    Eingeben("Datumsen", "31.2.2027");
+    Einsetzen("Datumsen", "31.2.2027");
     Drehen("SpinButton1", "auf");
     EXPECT_EQ(Zeigt("Datumsen"), "31.2.2027");
     EXPECT_EQ(Konfig.StartDatum, Tag(22, 11));
@@ -80,7 +80,7 @@ TEST_F(StartFormSchritteTest, PlusUndMinusVerschiebenBeimDrückenUndRechnenBeimL
 TEST_F(StartFormSchritteTest, MinusZeigtGesternNurBisZurNeuberechnung)
 {
     StartForm &start = Öffnen();
-    Eingeben("Datumsen", "21.11.2026");
+    Einsetzen("Datumsen", "21.11.2026");
     QTest::mousePress(start.Minus, Qt::LeftButton);
     EXPECT_EQ(Zeigt("Datumsen"), "20.11.2026");
     QTest::mouseRelease(start.Minus, Qt::LeftButton);
@@ -111,7 +111,7 @@ TEST_F(StartFormSchritteTest, EineTasteAufPlusRechnetErstUndVerschiebtDann)
 {
     StartForm &start = Öffnen();
     FokusAuf(start.Plus);
-    Eingeben("Datumsen", "1.12.26");
+    Einsetzen("Datumsen", "1.12.26");
     QTest::keyClick(start.Plus, Qt::Key_X);
     EXPECT_EQ(Zeigt("Datumsen"), "02.12.2026");
     EXPECT_EQ(Konfig.StartDatum, Tag(1, 12));

@@ -16,8 +16,8 @@ TEST_F(StartFormTageTest, AnzahlTageBleibtZwischen7Und180)
         {"180", 180}, {"181", 180},   {"500", 180},   {"-5", 7},     {"0", 7},
         {"6,6", 7},   {"180,4", 180}, {"99999", 180}, {"-99999", 7}, {"123456789012", 180}};
     for (auto [text, tage] : fälle) {
-        Eingeben("Tagilein", "28");
-        Eingeben("Tagilein", text);
+        Einsetzen("Tagilein", "28");
+        Einsetzen("Tagilein", text);
         EXPECT_EQ(Zeigt("Tagilein"), std::to_string(tage)) << text;
         EXPECT_EQ(Konfig.Tage, tage) << text;
     }
@@ -36,13 +36,13 @@ TEST_F(StartFormTageTest, GetippteDreiWirdSieben)
 TEST_F(StartFormTageTest, LetzterTagIstStartPlusTageUndFolgtDerZahl)
 {
     Öffnen();
-    Eingeben("Tagilein", "7");
+    Einsetzen("Tagilein", "7");
     EXPECT_EQ(Zeigt("Endet"), "05.12.2026"); // from a Saturday to the next: eight calendar days
     EXPECT_EQ(Zeigt("Dayig"), "Samstag");
-    Eingeben("Tagilein", "8");
+    Einsetzen("Tagilein", "8");
     EXPECT_EQ(Zeigt("Endet"), "06.12.2026");
     EXPECT_EQ(Zeigt("Dayig"), "Sonntag");
-    Eingeben("Tagilein", "180");
+    Einsetzen("Tagilein", "180");
     EXPECT_EQ(Zeigt("Endet"), "27.05.2027");
     EXPECT_EQ(Zeigt("Dayig"), "Donnerstag");
 }
@@ -50,9 +50,9 @@ TEST_F(StartFormTageTest, LetzterTagIstStartPlusTageUndFolgtDerZahl)
 TEST_F(StartFormTageTest, AnzahlTageÜbernimmtAuchEinGetipptesDatum)
 {
     Öffnen();
-    Eingeben("Datumsen", "1.12.26");
+    Einsetzen("Datumsen", "1.12.26");
     EXPECT_EQ(Konfig.StartDatum, Tag(28, 11)); // typing alone changes nothing
-    Eingeben("Tagilein", "10");
+    Einsetzen("Tagilein", "10");
     EXPECT_EQ(Konfig.StartDatum, Tag(1, 12));
     EXPECT_EQ(Zeigt("Datumsen"), "01.12.2026");
     EXPECT_EQ(Zeigt("Endet"), "11.12.2026");
@@ -62,7 +62,7 @@ TEST_F(StartFormTageTest, WasKeineZahlIstBleibtOhneMeldungStehen)
 {
     Öffnen();
     for (const char *text : {"", "abc", "12x"}) {
-        Eingeben("Tagilein", text);
+        Einsetzen("Tagilein", text);
         EXPECT_EQ(Zeigt("Tagilein"), text);
         EXPECT_EQ(Konfig.Tage, 28);
         EXPECT_EQ(Zeigt("Endet"), "26.12.2026");
@@ -74,7 +74,7 @@ TEST_F(StartFormTageTest, DerselbeTextIstKeineÄnderung)
 {
     Öffnen();
     Konfig.Tage = 99;
-    Eingeben("Tagilein", "28");
+    Einsetzen("Tagilein", "28");
     EXPECT_EQ(Konfig.Tage, 99);
 }
 
@@ -97,7 +97,7 @@ TEST_F(StartFormTageTest, Änderung1ZähltTage)
 TEST_F(StartFormTageTest, EinBruchVonTagenBleibtBeimDrehenEinBruch)
 {
     Öffnen();
-    Eingeben("Tagilein", "7,5");
+    Einsetzen("Tagilein", "7,5");
     EXPECT_EQ(Konfig.Tage, 8);
     Drehen("Änderung1", "auf");
     EXPECT_EQ(Zeigt("Tagilein"), "8,5");
@@ -110,17 +110,17 @@ TEST_F(StartFormTageTest, EinBruchVonTagenBleibtBeimDrehenEinBruch)
 TEST_F(StartFormTageTest, Änderung1BleibtInDenGrenzenUndÜbernimmtDasDatum)
 {
     Öffnen();
-    Eingeben("Tagilein", "7");
+    Einsetzen("Tagilein", "7");
     Drehen("Änderung1", "ab");
     EXPECT_EQ(Zeigt("Tagilein"), "7");
-    Eingeben("Tagilein", "180");
+    Einsetzen("Tagilein", "180");
     Drehen("Änderung1", "auf");
     EXPECT_EQ(Zeigt("Tagilein"), "180");
-    Eingeben("Datumsen", "2.12.2026");
+    Einsetzen("Datumsen", "2.12.2026");
     Drehen("Änderung1", "auf");
     EXPECT_EQ(Konfig.StartDatum, Tag(2, 12));
-    Eingeben("Tagilein", "x");
-    Eingeben("Datumsen", "3.12.2026");
+    Einsetzen("Tagilein", "x");
+    Einsetzen("Datumsen", "3.12.2026");
     Drehen("Änderung1", "auf");
     EXPECT_EQ(Zeigt("Tagilein"), "x");
     EXPECT_EQ(Konfig.StartDatum, Tag(3, 12)); // the date is taken before the number fails

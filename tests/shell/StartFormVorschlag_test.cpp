@@ -63,7 +63,7 @@ TEST_F(StartFormVorschlagTest, WochentagUndVorlaufAußerhalbWerdenSamstagUndEine
         Konfig.VorlaufWochen = vorlauf;
         AufFestplatteSpeichern();
         StartForm neu([] {});
-        EXPECT_EQ(Aufschrift(neu.Datumsen), "28.11.2026");
+        EXPECT_EQ(Zeigt(neu.Datumsen), "28.11.2026");
         EXPECT_EQ(Konfig.StartWochentag, 7);
         EXPECT_EQ(Konfig.VorlaufWochen, 1);
     }

@@ -35,13 +35,13 @@ TEST_F(StartFormTest, JedesControlTrägtSeinenNamenUndSeineBeschriftung)
         EXPECT_EQ(Zeigt(name), text) << name;
     EXPECT_EQ(form->objectName(), "Start");
     for (const char *spin : {"SpinButton1", "Änderung1"})
-        EXPECT_TRUE(Finden<SpinButton>(form, spin)->isVisible()) << spin;
+        EXPECT_TRUE(Finden<SpinButton>(spin)->isVisible()) << spin;
 }
 
 TEST_F(StartFormTest, UhrFolgtAlle50Millisekunden)
 {
     Öffnen();
-    auto *takt = Finden<QTimer>(form, "Timer1");
+    auto *takt = Finden<QTimer>("Timer1");
     EXPECT_EQ(takt->interval(), 50);
     EXPECT_TRUE(takt->isActive());
     Sekunden = 7 * 3600 + 5 * 60 + 9;
@@ -51,7 +51,7 @@ TEST_F(StartFormTest, UhrFolgtAlle50Millisekunden)
 TEST_F(StartFormTest, StartenRechnetÜbergibtUndVerschwindetOhneEntladenZuWerden)
 {
     StartForm &start = Öffnen();
-    Eingeben("Datumsen", "1.12.26");
+    Einsetzen("Datumsen", "1.12.26");
     Klick(start.Starten);
     EXPECT_EQ(Konfig.StartDatum, Tag(1, 12));
     EXPECT_EQ(gestartet, 1);
@@ -104,9 +104,9 @@ TEST_F(StartFormTest, KnöpfeSindGrünMitUndGrauOhneFokus)
     StartForm &start = Öffnen();
     for (QPushButton *knopf : {start.Starten, start.Plus, start.Minus}) {
         FokusAuf(knopf);
-        EXPECT_EQ(Grundfarbe(knopf), QColor(0, 255, 0)) << Aufschrift(knopf);
+        EXPECT_EQ(Grundfarbe(knopf), QColor(0, 255, 0)) << Zeigt(knopf);
         FokusAuf(start.Datumsen);
-        EXPECT_EQ(Grundfarbe(knopf), QColor(192, 192, 192)) << Aufschrift(knopf);
+        EXPECT_EQ(Grundfarbe(knopf), QColor(192, 192, 192)) << Zeigt(knopf);
     }
 }
 

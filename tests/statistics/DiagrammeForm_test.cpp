@@ -28,14 +28,14 @@ class DiagrammeFormTest : public Statistikstand {
     void ÖffnenMitStatistik()
     {
         statistik = Öffnen<StatistikForm>();
-        Drücken("Diagramm");
+        Klick("Diagramm");
         form = Fenster("Diagramme");
         Zeigen(form);
     }
 
     QCustomPlot *Bild(const char *name) const
     {
-        for (QObject *kind : Finden(form, name)->children())
+        for (QObject *kind : Finden(name)->children())
             if (auto *bild = dynamic_cast<QCustomPlot *>(kind))
                 return bild;
         throw std::runtime_error("no chart in " + Text(name));
@@ -152,7 +152,7 @@ TEST_F(DiagrammeFormTest, DieBalkenZeigenDieZahlenDesFensters)
     statistik = Öffnen<StatistikForm>();
     statistik->a[1]->setText("17");
     statistik->d[1]->setText("19");
-    Drücken("Diagramm");
+    Klick("Diagramm");
     form = Fenster("Diagramme");
     EXPECT_EQ(Werte(Bild("MSChart1"))[1], 17);
     EXPECT_EQ(Werte(Bild("MSChart2"))[1], 19);
@@ -164,20 +164,20 @@ TEST_F(DiagrammeFormTest, DieWahlZeigtEinesDerDrei)
     const auto sichtbar = [&] {
         Text namen;
         for (const char *name : {"MSChart1", "MSChart2", "MSChart3"})
-            if (Finden(form, name)->isVisible())
+            if (Finden(name)->isVisible())
                 namen += name;
         return namen;
     };
     EXPECT_EQ(sichtbar(), "MSChart1");
-    EXPECT_TRUE(Finden<QRadioButton>(form, "Atlert")->isChecked());
+    EXPECT_TRUE(Finden<QRadioButton>("Atlert")->isChecked());
     for (const auto &[option, text, bild] :
          std::vector<std::tuple<const char *, Text, Text>>{{"Zug", "Zugehörigkeit", "MSChart2"},
                                                            {"Meßdierne", "Meßdiener", "MSChart3"},
                                                            {"Atlert", "Alter", "MSChart1"}}) {
-        auto *knopf = Finden<QRadioButton>(form, option);
-        EXPECT_EQ(Aufschrift(knopf), text);
+        auto *knopf = Finden<QRadioButton>(option);
+        EXPECT_EQ(Zeigt(knopf), text);
         EXPECT_EQ(knopf->parent()->objectName(), "F1");
-        knopf->click();
+        Auslösen(knopf);
         EXPECT_EQ(sichtbar(), bild);
     }
 }
@@ -253,8 +253,8 @@ TEST_F(DiagrammeFormTest, DruckenGibtDasGewählteScharfUndOhneKnöpfe)
              {"Zug", "Zugehörigkeit der Meßdiener in Jahren", "15Jahre"},
              {"Meßdierne", "Alter und Zugehörigkeit der Meßdiener Gegenübergestellt",
               "24Jahre(Alter)"}}) {
-        Finden<QRadioButton>(form, option)->click();
-        Drücken("Druck");
+        Auslösen(option);
+        Klick("Druck");
         const Text papier = PdfText(datei);
         EXPECT_NE(papier.find(titel), Text::npos) << papier;
         EXPECT_NE(Gedruckt().find(klasse), Text::npos) << Gedruckt(); // the last one too
@@ -279,10 +279,10 @@ TEST_F(DiagrammeFormTest, Ordnung)
 {
     ÖffnenMitStatistik();
     EXPECT_EQ(form->windowTitle(), "Diagramm");
-    EXPECT_EQ(Aufschrift(Finden(form, "OKButton")), "OK");
-    EXPECT_EQ(Aufschrift(Finden(form, "CancelButton")), "Abbrechen");
+    EXPECT_EQ(Zeigt("OKButton"), "OK");
+    EXPECT_EQ(Zeigt("CancelButton"), "Abbrechen");
     IstOrdentlich({"Atlert", "Druck", "OKButton", "CancelButton"});
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_TRUE(statistik->isVisible());
 }
 

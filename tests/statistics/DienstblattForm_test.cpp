@@ -56,17 +56,16 @@ class DienstblattFormTest : public Statistikstand {
         Messe.DienerDienst[i][slot - 1] = dienst;
     }
 
-    Text Gezeigt(std::initializer_list<const char *> namen) const
+    Text Zeile(std::initializer_list<const char *> namen) const
     {
         Text zeile;
         for (const char *name : namen)
             zeile += (zeile.empty() ? "" : " ") + Zeigt(name);
         return zeile;
     }
-    Text Diener() const { return Gezeigt({"V", "N", "G", "L", "F", "W", "K", "A", "I"}); }
-    Text Helferzeile() const { return Gezeigt({"V1", "N1", "LE1", "KM1", "KN1", "KL1", "IN1"}); }
-    Text Nummer(const char *name = "INDEXLEIN") const { return Aufschrift(Finden(form, name)); }
-    void Tippe(const char *text) const { Tippen(Finden(form, "INDEXLEIN"), text); }
+    Text Diener() const { return Zeile({"V", "N", "G", "L", "F", "W", "K", "A", "I"}); }
+    Text Helferzeile() const { return Zeile({"V1", "N1", "LE1", "KM1", "KN1", "KL1", "IN1"}); }
+    Text Nummer(const char *name = "INDEXLEIN") const { return Zeigt(name); }
 };
 
 TEST_F(DienstblattFormTest, MeßdienerMitIhrenBeschriftungen)
@@ -96,27 +95,27 @@ TEST_F(DienstblattFormTest, HelferMitIhrenBeschriftungen)
     EXPECT_EQ(ZeileBis("KN1"), "Kantor|3");
     EXPECT_EQ(ZeileBis("KL1"), "Kollektant|4");
     EXPECT_EQ(ZeileBis("IN1"), "Insgesamt|10");
-    Drücken("PLUS");
+    Klick("PLUS");
     EXPECT_EQ(Nummer("Indexchen"), "1");
     EXPECT_EQ(Helferzeile(), "Max Moos 0 1 0 1 2");
-    Drücken("PLUS"); // stays at the last one
+    Klick("PLUS"); // stays at the last one
     EXPECT_EQ(Nummer("Indexchen"), "1");
-    Drücken("MINUS");
+    Klick("MINUS");
     EXPECT_EQ(Helferzeile(), "Lea Lang 1 2 3 4 10");
 }
 
 TEST_F(DienstblattFormTest, PlusUndMinusBleibenInDenSätzen)
 {
     Öffnen<StatDienstForm>();
-    Drücken("MINUS");
+    Klick("MINUS");
     EXPECT_EQ(Nummer(), "0");
-    Drücken("PLUS");
+    Klick("PLUS");
     EXPECT_EQ(Diener(), "Ben Berg 0 1 0 0 0 0 1");
-    Drücken("PLUS");
+    Klick("PLUS");
     EXPECT_EQ(Diener(), "Cara Berg 0 0 0 0 0 0 0");
-    Drücken("PLUS");
+    Klick("PLUS");
     EXPECT_EQ(Nummer(), "2");
-    Drücken("MINUS");
+    Klick("MINUS");
     EXPECT_EQ(Nummer(), "1");
 }
 
@@ -124,20 +123,20 @@ TEST_F(DienstblattFormTest, EineNummerAußerhalbFälltAufNull)
 {
     Öffnen<StatDienstForm>();
     for (const char *zahl : {"3", "4", "99", "32767", "32768", "40000", "2,6"}) {
-        Tippe("1");
+        Tippen("INDEXLEIN", "1");
         EXPECT_EQ(Zeigt("V"), "Ben");
-        Tippe(zahl);
+        Tippen("INDEXLEIN", zahl);
         EXPECT_EQ(Nummer(), "0") << zahl;
         EXPECT_EQ(Zeigt("V"), "Anna") << zahl;
     }
-    Tippe("2");
+    Tippen("INDEXLEIN", "2");
     EXPECT_EQ(Zeigt("V"), "Cara");
-    Tippe("1,6"); // rounded to the last one
+    Tippen("INDEXLEIN", "1,6"); // rounded to the last one
     EXPECT_EQ(Zeigt("V"), "Cara");
     delete form;
     Meßdiener.Anzahl = 2;
     Öffnen<StatDienstForm>();
-    Finden<QLineEdit>(form, "INDEXLEIN")->setText("1,6"); // rounded to the one after the last
+    Finden<QLineEdit>("INDEXLEIN")->setText("1,6"); // rounded to the one after the last
     EXPECT_EQ(Nummer(), "0");
     EXPECT_EQ(Zeigt("V"), "Anna");
 }
@@ -146,14 +145,14 @@ TEST_F(DienstblattFormTest, WasKeineNummerIstLäßtDieZeileStehen)
 {
     Öffnen<StatDienstForm>();
     for (const char *text : {"", "x", "-1"}) {
-        Tippe("1");
-        Tippe(text);
+        Tippen("INDEXLEIN", "1");
+        Tippen("INDEXLEIN", text);
         EXPECT_EQ(Nummer(), text);
         EXPECT_EQ(Zeigt("V"), "Ben");
     }
-    Tippe("x");
-    Drücken("PLUS");
-    Drücken("MINUS");
+    Tippen("INDEXLEIN", "x");
+    Klick("PLUS");
+    Klick("MINUS");
     EXPECT_EQ(Nummer(), "x");
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
@@ -164,9 +163,9 @@ TEST_F(DienstblattFormTest, OhneMeßdienerBleibtDieZeileNull)
     Öffnen<StatDienstForm>();
     EXPECT_EQ(Nummer(), "0");
     EXPECT_EQ(Zeigt("V"), "Anna"); // the record after the last one, as it is
-    Drücken("PLUS");
+    Klick("PLUS");
     EXPECT_EQ(Nummer(), "0");
-    Tippe("1");
+    Tippen("INDEXLEIN", "1");
     EXPECT_EQ(Nummer(), "0");
     delete form;
     Helfer.Anzahl = 0;
@@ -187,9 +186,9 @@ TEST_F(DienstblattFormTest, ZuVieleSätzeSindEinFehler)
 TEST_F(DienstblattFormTest, MeßdienerlisteAufPapier)
 {
     Öffnen<StatDienstForm>();
-    EXPECT_EQ(Aufschrift(Finden(form, "Druckern")), "Drucken");
+    EXPECT_EQ(Zeigt("Druckern"), "Drucken");
     Messe.DienerVor[0][1] = "Cara"; // after the window opened
-    Drücken("Druckern");
+    Klick("Druckern");
     const Text papier = PdfText(datei);
     for (const char *zeile : {"Statistik Meßdiener mit Anzahl Dienste",
                               "Anna Berg , G.: 1 , L.: 2 , F.: 3 , W.: 4 , K.: 5 , A.: 6 , I.: 21",
@@ -206,9 +205,9 @@ TEST_F(DienstblattFormTest, MeßdienerlisteAufPapier)
 TEST_F(DienstblattFormTest, HelferlisteAufPapier)
 {
     Öffnen<StatHelferForm>();
-    EXPECT_EQ(Aufschrift(Finden(form, "Dluckeln")), "Drucken");
+    EXPECT_EQ(Zeigt("Dluckeln"), "Drucken");
     Messe.Lektor1Vor[0] = "Max"; // after the window opened
-    Drücken("Dluckeln");
+    Klick("Dluckeln");
     const Text papier = PdfText(datei);
     for (const char *zeile : {"Statistik Helfer mit Anzahl Dienste",
                               "Lea Lang , Lektor: 1 , Kommunion: 2 , Kantor: 3 , Kollek.: 4",
@@ -220,10 +219,10 @@ TEST_F(DienstblattFormTest, OhneGewählteAusrichtungKommtKeinPapier)
 {
     Konfig.DiffJahr = 0;
     Öffnen<StatDienstForm>();
-    Drücken("Druckern");
+    Klick("Druckern");
     delete form;
     Öffnen<StatHelferForm>();
-    Drücken("Dluckeln");
+    Klick("Dluckeln");
     EXPECT_FALSE(std::filesystem::exists(datei.toStdString()));
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
@@ -233,16 +232,16 @@ TEST_F(DienstblattFormTest, DieDiensteFolgenEinemNeuenNamenNurBeiEnde)
     const auto umbenennen = [&](const char *name, const std::function<void()> &weg) {
         Meßdiener.Cursor = 1;
         Öffnen<MeßdienerForm>();
-        Finden<QLineEdit>(form, "Vornamen")->setText(name);
+        Finden<QLineEdit>("Vornamen")->setText(name);
         SchließtMit(weg);
         Öffnen<StatDienstForm>();
-        Drücken("PLUS");
+        Klick("PLUS");
         EXPECT_EQ(Zeigt("V"), name);
         const Text insgesamt = Zeigt("I");
         SchließtMit([&] { form->close(); });
         return insgesamt;
     };
-    EXPECT_EQ(umbenennen("Bernd", [&] { Drücken("Ende"); }), "1");
+    EXPECT_EQ(umbenennen("Bernd", [&] { Klick("Ende"); }), "1");
     EXPECT_EQ(umbenennen("Bodo", [&] { form->close(); }), "0");
 }
 
@@ -253,9 +252,9 @@ TEST_F(DienstblattFormTest, Ordnung)
         Öffnen<Form>();
         EXPECT_EQ(form->objectName().toStdString(), name);
         EXPECT_EQ(form->windowTitle().toStdString(), titel);
-        EXPECT_EQ(Aufschrift(Finden(form, "Ende")), "Ende");
+        EXPECT_EQ(Zeigt("Ende"), "Ende");
         IstOrdentlich(tabfolge);
-        SchließtMit([&] { Drücken("Ende"); });
+        SchließtMit([&] { Klick("Ende"); });
         Öffnen<Form>();
         SchließtMit([&] { form->close(); });
     };

@@ -150,7 +150,7 @@ TEST_F(MessendiensteFormTest, AlleDreiDruckenSichOhneKnöpfe)
     Meßdienerplan();
     Helferplan();
     const auto drucken = [&](const Text &etwas) {
-        Drücken("Druck");
+        Klick("Druck");
         const Text papier = PdfText(datei);
         EXPECT_NE(papier.find(etwas), Text::npos) << papier;
         EXPECT_EQ(papier.find("Ende"), Text::npos);
@@ -168,9 +168,9 @@ TEST_F(MessendiensteFormTest, AbbrechenDrucktNichts)
 {
     Öffnen<StatistikAllgForm>();
     abgebrochen = true;
-    Drücken("Druck");
+    Klick("Druck");
     EXPECT_FALSE(std::filesystem::exists(datei.toStdString()));
-    EXPECT_TRUE(Finden(form, "Druck")->isVisible());
+    EXPECT_TRUE(Finden("Druck")->isVisible());
 }
 
 template <class Form> struct Fensterbeschreibung {
@@ -186,9 +186,9 @@ TEST_F(MessendiensteFormTest, Ordnung)
         Öffnen<Form>();
         EXPECT_EQ(form->objectName().toStdString(), name);
         EXPECT_EQ(form->windowTitle().toStdString(), titel);
-        EXPECT_EQ(Aufschrift(Finden(form, ende)), "Ende");
+        EXPECT_EQ(Zeigt(ende), "Ende");
         IstOrdentlich({ende, "Druck"});
-        SchließtMit([&] { Drücken(ende); });
+        SchließtMit([&] { Klick(ende); });
         Öffnen<Form>();
         SchließtMit([&] { form->close(); });
     };

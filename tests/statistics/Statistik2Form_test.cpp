@@ -93,7 +93,7 @@ TEST_F(Statistik2FormTest, OhneMeßdienerDivisionDurchNull)
 TEST_F(Statistik2FormTest, DasDiagrammZeigtDieTafel)
 {
     Öffnen<Statistik2Form>();
-    Drücken("Diagramm");
+    Klick("Diagramm");
     EXPECT_FALSE(form->isVisible());
     QWidget *diagramm = Fenster("Diagramm2");
     EXPECT_EQ(diagramm->windowTitle(), "Diagramm");
@@ -120,7 +120,7 @@ TEST_F(Statistik2FormTest, DasDiagrammNimmtWasImFensterSteht)
     auto *statistik = Öffnen<Statistik2Form>();
     statistik->b[3]->setText("17");
     statistik->a[3]->setText("x");
-    Drücken("Diagramm");
+    Klick("Diagramm");
     auto *bild = Bild(Fenster("Diagramm2"));
     ASSERT_TRUE(bild);
     EXPECT_EQ(dynamic_cast<QCPBars *>(bild->plottable(0))->dataMainValue(3), 17);
@@ -131,10 +131,10 @@ TEST_F(Statistik2FormTest, VomDiagrammZurück)
 {
     Öffnen<Statistik2Form>();
     for (const char *knopf : {"OKButton", "CancelButton", ""}) {
-        Drücken("Diagramm");
+        Klick("Diagramm");
         QWidget *diagramm = Fenster("Diagramm2");
-        EXPECT_EQ(Aufschrift(Finden(diagramm, "OKButton")), "OK");
-        EXPECT_EQ(Aufschrift(Finden(diagramm, "CancelButton")), "Abbrechen");
+        EXPECT_EQ(Zeigt(Finden(diagramm, "OKButton")), "OK");
+        EXPECT_EQ(Zeigt(Finden(diagramm, "CancelButton")), "Abbrechen");
         if (*knopf)
             Klick(Finden(diagramm, knopf));
         else
@@ -158,11 +158,11 @@ TEST_F(Statistik2FormTest, DasDiagrammSchließtAuchWennDasFensterFortIst)
 TEST_F(Statistik2FormTest, DruckenVonTafelUndDiagramm)
 {
     Öffnen<Statistik2Form>();
-    Drücken("Druck");
+    Klick("Druck");
     const Text tafel = PdfText(datei);
     EXPECT_NE(tafel.find("Größe der Meßdiener am 21.11.2026"), Text::npos) << tafel;
     EXPECT_NE(tafel.find("166,000 cm"), Text::npos) << tafel;
-    Drücken("Diagramm");
+    Klick("Diagramm");
     Klick(Finden(Fenster("Diagramm2"), "Druck"));
     const Text diagramm = PdfText(datei);
     EXPECT_NE(diagramm.find("Größe der Meßdiener"), Text::npos) << diagramm;
@@ -176,9 +176,9 @@ TEST_F(Statistik2FormTest, Ordnung)
     Öffnen<Statistik2Form>();
     EXPECT_EQ(form->objectName(), "Statistik2");
     EXPECT_EQ(form->windowTitle(), "Statistik (Meßdienergröße)");
-    EXPECT_EQ(Aufschrift(Finden(form, "Ende")), "Ende");
+    EXPECT_EQ(Zeigt("Ende"), "Ende");
     IstOrdentlich({"Ende", "Diagramm", "Druck"});
-    SchließtMit([&] { Drücken("Ende"); });
+    SchließtMit([&] { Klick("Ende"); });
     Öffnen<Statistik2Form>();
     SchließtMit([&] { form->close(); });
 }

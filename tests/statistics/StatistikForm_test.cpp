@@ -57,7 +57,7 @@ TEST_F(StatistikFormTest, Zugehörigkeitstafel)
 {
     Gemeinde();
     Öffnen<StatistikForm>();
-    linkeGrenze = Label("c0")->mapTo(form, QPoint()).x();
+    linkeGrenze = Finden<QLabel>("c0")->mapTo(form, QPoint()).x();
     EXPECT_EQ(ZeileBis("dd0"), "0|2|33,33%");
     EXPECT_EQ(ZeileBis("dd1"), "1|1|16,67%");
     EXPECT_EQ(ZeileBis("dd13"), "13|0|0,00%");
@@ -74,7 +74,7 @@ TEST_F(StatistikFormTest, Zusammensetzungstafel)
 {
     Gemeinde();
     Öffnen<StatistikForm>();
-    linkeGrenze = Label("dd0")->mapTo(form, QPoint(Label("dd0")->width(), 0)).x();
+    linkeGrenze = Finden<QLabel>("dd0")->mapTo(form, QPoint(Finden<QLabel>("dd0")->width(), 0)).x();
     EXPECT_EQ(ZeileBis("ee0"), "männlich|2|33,33%");
     EXPECT_EQ(ZeileBis("ee1"), "weiblich|3|50,00%");
     EXPECT_EQ(ZeileBis("ee2"), "Gaben- bereitung|5|83,33%");
@@ -93,7 +93,7 @@ TEST_F(StatistikFormTest, Durchschnitte)
     Öffnen<StatistikForm>();
     EXPECT_EQ(Zeigt("b0"), "13,444"); // 968 / (6 * 12) = 13.4444
     EXPECT_EQ(Zeigt("c20"), "5,139"); // 370 / (6 * 12) = 5.1389
-    linkeGrenze = Label("dd0")->mapTo(form, QPoint(Label("dd0")->width(), 0)).x();
+    linkeGrenze = Finden<QLabel>("dd0")->mapTo(form, QPoint(Finden<QLabel>("dd0")->width(), 0)).x();
     EXPECT_EQ(ZeileBis("b0"), "Durchschnittsalter|13,444");
     EXPECT_EQ(ZeileBis("c20"), "Durchschnitt |5,139");
     EXPECT_EQ(Danach("b0"), "Jahre");
@@ -127,7 +127,7 @@ TEST_F(StatistikFormTest, DiagrammVerbirgtDasFensterBisEsZuIst)
     Meßdiener.Eintrittsdatum[5] = Heute;
     for (const char *knopf : {"OKButton", "CancelButton", ""}) {
         Öffnen<StatistikForm>();
-        Drücken("Diagramm");
+        Klick("Diagramm");
         QWidget *diagramme = Fenster("Diagramme");
         EXPECT_EQ(diagramme->windowTitle(), "Diagramm");
         EXPECT_FALSE(form->isVisible());
@@ -149,7 +149,7 @@ TEST_F(StatistikFormTest, OhneDiagrammWennEinerErstInEinemJahrEintritt)
 {
     Gemeinde();
     Öffnen<StatistikForm>();
-    Drücken("Diagramm");
+    Klick("Diagramm");
     EXPECT_EQ(GezeigteMeldungen.back(),
               "Laufzeitfehler '9': Index außerhalb des gültigen Bereichs");
     EXPECT_FALSE(IstOffen("Diagramme"));
@@ -160,14 +160,14 @@ TEST_F(StatistikFormTest, DrucktSichOhneKnöpfe)
 {
     Gemeinde();
     Öffnen<StatistikForm>();
-    Drücken("Druck");
+    Klick("Druck");
     const Text papier = PdfText(datei);
     for (const char *text : {"21.11.2026", "Durchschnittsalter", "13,444", "Flammbeau", "83,33%"})
         EXPECT_NE(papier.find(text), Text::npos) << text << "\n" << papier;
     for (const char *text : {"Ende", "Drucken", "Diagramm"})
         EXPECT_EQ(papier.find(text), Text::npos) << text;
     for (const char *knopf : {"Ende", "Druck", "Diagramm"})
-        EXPECT_TRUE(Finden(form, knopf)->isVisible()) << knopf;
+        EXPECT_TRUE(Finden(knopf)->isVisible()) << knopf;
 }
 
 TEST_F(StatistikFormTest, Ordnung)
@@ -176,9 +176,9 @@ TEST_F(StatistikFormTest, Ordnung)
     Öffnen<StatistikForm>();
     EXPECT_EQ(form->objectName(), "Statistik");
     EXPECT_EQ(form->windowTitle(), "Statistik");
-    EXPECT_EQ(Aufschrift(Finden(form, "Ende")), "Ende");
+    EXPECT_EQ(Zeigt("Ende"), "Ende");
     IstOrdentlich({"Ende", "Diagramm", "Druck"});
-    SchließtMit([&] { Drücken("Ende"); });
+    SchließtMit([&] { Klick("Ende"); });
     Öffnen<StatistikForm>();
     SchließtMit([&] { form->close(); });
 }

@@ -2,14 +2,13 @@
 // read by the position of the labels.
 #pragma once
 
-#include "Fensterstand.h"
+#include "Formstand.h"
 #include "application/Anwendung.h"
 #include "controls/Handler.h"
 #include "paper/DruckerQt.h"
 #include "printing/PdfLesen.h"
 
 #include <QGroupBox>
-#include <QPointer>
 
 #include <algorithm>
 #include <cstdlib>
@@ -17,7 +16,7 @@
 
 namespace altardienst {
 
-class Statistikstand : public Fensterstand {
+class Statistikstand : public Formstand<> {
   protected:
     Statistikstand() : zuvor(std::exchange(Drucker, &drucker))
     {
@@ -41,20 +40,16 @@ class Statistikstand : public Fensterstand {
         return neu;
     }
 
-    QLabel *Label(const char *name) const { return Finden<QLabel>(form, name); }
-    Text Zeigt(const Text &name) const { return Aufschrift(Label(name.c_str())); }
-    void Drücken(const char *name) const { Klick(Finden(form, name)); }
-
     /// What is in a row up to this label, such as "Leuchter|3|1,500".
     Text ZeileBis(const char *name) const
     {
-        const QRect ort = Ort(Label(name));
+        const QRect ort = Ort(Finden<QLabel>(name));
         Text zeile;
         for (const QLabel *label : ImFenster()) {
             const QRect o = Ort(label);
             if (std::abs(o.center().y() - ort.center().y()) <= 6 && o.left() <= ort.left() &&
                 o.left() >= linkeGrenze)
-                zeile += (zeile.empty() ? "" : "|") + Aufschrift(label);
+                zeile += (zeile.empty() ? "" : "|") + Zeigt(label);
         }
         return zeile;
     }
@@ -62,24 +57,24 @@ class Statistikstand : public Fensterstand {
     /// What is immediately to the right of this label.
     Text Danach(const char *name) const
     {
-        const QRect ort = Ort(Label(name));
+        const QRect ort = Ort(Finden<QLabel>(name));
         for (const QLabel *label : ImFenster())
             if (std::abs(Ort(label).center().y() - ort.center().y()) <= 6 &&
                 Ort(label).left() > ort.left())
-                return Aufschrift(label);
+                return Zeigt(label);
         return "nothing behind " + Text(name);
     }
 
     /// The heading of this label's column.
     Text Kopf(const char *name) const
     {
-        const QRect ort = Ort(Label(name));
+        const QRect ort = Ort(Finden<QLabel>(name));
         const QLabel *kopf = nullptr;
         for (const QLabel *label : ImFenster())
             if (label->font().bold() && Ort(label).bottom() < ort.top() &&
                 Ort(label).left() <= ort.center().x() && ort.center().x() <= Ort(label).right())
                 kopf = label;
-        return kopf ? Aufschrift(kopf) : "nothing above " + Text(name);
+        return kopf ? Zeigt(kopf) : "nothing above " + Text(name);
     }
 
     /// The headings of the tables, from left to right.
@@ -88,7 +83,7 @@ class Statistikstand : public Fensterstand {
         std::vector<Text> köpfe;
         for (const QLabel *label : ImFenster())
             if (label->font().bold())
-                köpfe.push_back(Aufschrift(label));
+                köpfe.push_back(Zeigt(label));
         return köpfe;
     }
 
@@ -132,7 +127,6 @@ class Statistikstand : public Fensterstand {
 
     int linkeGrenze = 0; // of the table being read, in the window
     QWidget haupt;
-    QPointer<QWidget> form;
     const QString datei = Anzeige(Festplatte.string()) + "/Bild.pdf";
     bool abgebrochen = false; // the print dialog
 
