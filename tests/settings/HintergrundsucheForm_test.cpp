@@ -1,7 +1,7 @@
 // The dialog that chooses the picture behind the main window.
 #include "settings/HintergrundsucheForm.h"
 
-#include "Fensterstand.h"
+#include "Formstand.h"
 #include "application/Anwendung.h"
 #include "shell/HauptForm.h"
 

@@ -271,7 +271,7 @@ TEST_F(DiagrammeFormTest, SchließtAuchWennDasFensterFortIst)
 {
     ÖffnenMitStatistik();
     delete statistik;
-    Drücken("OKButton");
+    Klick("OKButton");
     EXPECT_TRUE(Warten([] { return !IstOffen("Diagramme"); }));
 }
 

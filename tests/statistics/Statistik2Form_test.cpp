@@ -148,7 +148,7 @@ TEST_F(Statistik2FormTest, VomDiagrammZurück)
 TEST_F(Statistik2FormTest, DasDiagrammSchließtAuchWennDasFensterFortIst)
 {
     Öffnen<Statistik2Form>();
-    Drücken("Diagramm");
+    Klick("Diagramm");
     QWidget *diagramm = Fenster("Diagramm2");
     delete form;
     Klick(Finden(diagramm, "OKButton"));
