@@ -5,7 +5,6 @@
 #include "core/Allgemein.h"
 #include "shell/HauptForm.h"
 
-#include <QAction>
 
 namespace altardienst {
 namespace {

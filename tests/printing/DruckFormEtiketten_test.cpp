@@ -3,7 +3,6 @@
 
 #include "shell/HauptForm.h"
 
-#include <QAction>
 #include <QApplication>
 
 namespace altardienst {

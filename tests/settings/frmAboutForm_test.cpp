@@ -6,7 +6,6 @@
 #include "platform/Systeminfo.h"
 #include "shell/HauptForm.h"
 
-#include <QAction>
 #include <QPointer>
 
 namespace altardienst {
