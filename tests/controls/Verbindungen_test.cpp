@@ -137,8 +137,8 @@ TEST(Fensterränder, StehenAnEinemOrt)
         for (const std::string &aufruf :
              Aufrufe(Inhalt(eintrag.path()), std::regex(R"(\bsetContentsMargins\()"))) {
             ++gesetzt;
-            if (eintrag.path().filename() != "Fensteraufbau.cpp")
-                EXPECT_FALSE(Enthält(aufruf, R"(\d\d)")) << eintrag.path() << ": " << aufruf;
+            const bool derOrt = eintrag.path().filename() == "Fensteraufbau.cpp";
+            EXPECT_TRUE(derOrt || !Enthält(aufruf, R"(\d\d)")) << eintrag.path() << ": " << aufruf;
         }
     }
     EXPECT_GT(gesetzt, 1);
