@@ -6,7 +6,6 @@
 #include "printing/Druckprotokoll.h"
 #include "shell/HauptForm.h"
 
-
 #include <algorithm>
 #include <utility>
 

@@ -5,7 +5,6 @@
 #include "core/Allgemein.h"
 #include "shell/HauptForm.h"
 
-
 namespace altardienst {
 namespace {
 
@@ -243,7 +242,7 @@ TEST_F(MesseDienerFestFormEndeTest, HinzuHoltDenDialogDerSchonOffenIst)
     EXPECT_TRUE(HauptfensterIstZurück());
     Öffnen();
     neu->showMinimized();
-    Drücken("Hinzu");
+    Klick("Hinzu");
     EXPECT_FALSE(form->isEnabled());
     EXPECT_TRUE(form->isMinimized());
     int zahl = 0;
@@ -262,13 +261,13 @@ TEST_F(MesseDienerFestFormEndeTest, HinzuHoltDenDialogDerSchonOffenIst)
 TEST_F(MesseDienerFestFormEndeTest, EsGibtSieNurEinmalAuchWennDerStartNeuGeladenWurde)
 {
     Öffnen();
-    Drücken("Hinzu");
+    Klick("Hinzu");
     QWidget *neu = Fenster("NeuMesseDienerFest");
     Zeigen(neu);
     FesteZuordnungOffen = false;
     neu->close();
     EXPECT_FALSE(form->isEnabled());
-    Wählen("MnuMESSDIENZUMESS");
+    altardienst::MenüWählen(haupt, "MnuMESSDIENZUMESS");
     EXPECT_EQ(Fenster("MesseDienerFest"), form);
     EXPECT_TRUE(form->isEnabled());
     EXPECT_FALSE(form->isMinimized());
@@ -285,7 +284,7 @@ TEST_F(MesseDienerFestFormEndeTest, EinLadenRührtSieNichtAn)
     MesseDienerFest.Nachname[0][1] = "Zoller";
     MesseDienerFest.Cursor = 1;
     Zeigen(haupt);
-    Wählen("mnuDatenladen");
+    altardienst::MenüWählen(haupt, "mnuDatenladen");
     EXPECT_EQ(Gespeichert(0, 1), "Kim|Abel");
     EXPECT_EQ(MesseDienerFest.Cursor, 0);
     EXPECT_EQ(Gewählt(1), "Dahl,Kim");

@@ -123,11 +123,11 @@ TEST_P(ZuordnungenFormTest, DasRadWähltNichts)
     Wählen(1, "Klein,Kim");
     for (QComboBox *wahl : {MDiener(1), Finden<QComboBox>("Messen")}) {
         const QPoint mitte = wahl->rect().center();
-        const Text vorher = TextVon(wahl);
+        const Text vorher = altardienst::Zeigt(wahl);
         QWheelEvent rad(mitte, wahl->mapToGlobal(mitte), {}, {0, -120}, Qt::NoButton,
                         Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(wahl, &rad);
-        EXPECT_EQ(TextVon(wahl), vorher);
+        EXPECT_EQ(altardienst::Zeigt(wahl), vorher);
         EXPECT_FALSE(wahl->hasFocus());
     }
 }

@@ -408,8 +408,8 @@ TEST_F(MessenlisteDaneben, HelferGehörenZuIhrerMesse)
     feld("Lecki")->setText("");
     feld("Lecki1Vor")->setText("Anna");
     MenüWählen("mnuSortmessen"); // there is another mass at the cursor now
-    EXPECT_EQ(Aufschrift(feld("Lecki1Vor")), "");
-    EXPECT_EQ(Aufschrift(feld("Lecki")), "1");
+    EXPECT_EQ(altardienst::Zeigt(feld("Lecki1Vor")), "");
+    EXPECT_EQ(altardienst::Zeigt(feld("Lecki")), "1");
 }
 
 TEST_F(MessenlisteDaneben, DerGewählteHelferWirdMitgeschrieben)

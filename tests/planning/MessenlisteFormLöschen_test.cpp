@@ -171,7 +171,7 @@ TEST_F(MessenlisteImProgramm, Knopf6UndDerMenüeintragÖffnenSieÜberDemWartende
         if (mitKnopf)
             Klick(haupt->AnzMesse);
         else
-            MenüWählen(haupt, "mnuMessen");
+            MenüWählen("mnuMessen");
         form = Fenster("Messenliste");
         EXPECT_FALSE(haupt->isEnabled());
         EXPECT_TRUE(haupt->isMinimized());

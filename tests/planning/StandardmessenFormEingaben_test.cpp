@@ -1,6 +1,7 @@
 // The editor of the week pattern: the rules of its boxes, the steps of the time, bad input.
 #include "planning/Standardmessenstand.h"
 
+#include <QClipboard>
 #include <QWheelEvent>
 
 namespace altardienst {

@@ -4,7 +4,6 @@
 #include "application/Anwendung.h"
 #include "shell/HauptForm.h"
 
-
 #include <map>
 
 namespace altardienst {

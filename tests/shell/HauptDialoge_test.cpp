@@ -54,7 +54,7 @@ class HauptDialogeTest : public Hauptstand {
         for (QPushButton *knopf :
              {haupt->Messenorgani, haupt->Meßdienernern, haupt->Dienstus, haupt->MeßdienerMessen,
               haupt->Helfend, haupt->AnzMesse, haupt->Messendruck})
-            wege.push_back({Aufschrift(knopf), [knopf] { Klick(knopf); }});
+            wege.push_back({altardienst::Zeigt(knopf), [knopf] { Klick(knopf); }});
         for (const auto &[name, taste] : {std::pair("F11", Qt::Key_F11), {"F12", Qt::Key_F12}})
             wege.push_back({name, [this, taste = taste] {
                                 Zeigen(haupt);
