@@ -121,7 +121,7 @@ TEST_F(NeuMeßdienerFormTest, WasVorDemSchlechtenDatumStehtIstSchonGeschrieben)
                                     {"Geschl", "männlich"},
                                     {"Dieenst", "Rot"},
                                     {"Gebutag", "x"}})
-        Einsetzen(box, text);
+        NeuEinsetzen(box, text);
     OK();
     EXPECT_EQ(Meßdiener.Anzahl, 2);
     EXPECT_EQ(Meßdiener.Vorname[2] + " " + Meßdiener.Nachname[2], "Cem Cohn");
