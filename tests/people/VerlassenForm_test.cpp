@@ -18,13 +18,12 @@ class VerlassenForm : public Personenfenster {
         Meßdiener.WunschNachname[0] = "Berg";
     }
 
-    /// Types into a box and stays in it.
-    void Eintippen(const char *box, const Text &text)
+    /// Puts a text into a box that has the focus, and stays in it.
+    void MitFokusEinsetzen(const char *box, const Text &text)
     {
         FokusAuf(box);
         Einsetzen(box, text);
     }
-    void Taste(Qt::Key taste) { QTest::keyClick(QApplication::focusWidget(), taste); }
 };
 
 TEST_F(VerlassenForm, NachEinemUnbekanntenPartnerIstDieGruppeNurBetreten)
@@ -32,7 +31,7 @@ TEST_F(VerlassenForm, NachEinemUnbekanntenPartnerIstDieGruppeNurBetreten)
     Öffnen("Meßdiener");
     MeldungenBestätigen();
     Einsetzen("Dieenst", "Grau");
-    Eintippen("Partner", "Niemand");
+    MitFokusEinsetzen("Partner", "Niemand");
     Finden("Dieenst")->setFocus(Qt::TabFocusReason);
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{UnbekannterPartner});
     EXPECT_EQ(Zeigt("Partner"), "Berg,Bea");
@@ -48,7 +47,7 @@ TEST_F(VerlassenForm, NachEinerUnbekanntenGruppeIstDerPartnerNurBetreten)
     Öffnen("Meßdiener");
     MeldungenBestätigen();
     Einsetzen("Partner", "Niemand");
-    Eintippen("Dieenst", "Grau");
+    MitFokusEinsetzen("Dieenst", "Grau");
     Finden("Partner")->setFocus(Qt::TabFocusReason);
     EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{UnbekannteGruppe});
     EXPECT_EQ(Zeigt("Dieenst"), "Rot");
@@ -69,7 +68,7 @@ TEST_F(VerlassenForm, EinGescheitertesSpeichernMeldetNurSich)
         MeldungenBestätigen();
         GezeigteMeldungen.clear();
         Einsetzen(fehler, "abc");
-        Eintippen(box, getippt);
+        MitFokusEinsetzen(box, getippt);
         Taste(Qt::Key_PageUp);
         EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{Stop});
         EXPECT_EQ(Zeigt(box), getippt);
@@ -90,7 +89,7 @@ TEST_F(VerlassenForm, DiePostleitzahlEinesHelfersBleibtBeimGescheitertenSpeicher
         GezeigteMeldungen.clear();
         if (fehler != "PLZetus")
             Einsetzen(fehler, "abc");
-        Eintippen("PLZetus", getippt);
+        MitFokusEinsetzen("PLZetus", getippt);
         Taste(Qt::Key_PageUp);
         EXPECT_EQ(GezeigteMeldungen, std::vector<Text>{meldung});
         EXPECT_EQ(Zeigt("PLZetus"), getippt);
@@ -127,7 +126,7 @@ TEST_F(VerlassenForm, EineFrageVerläßtDieBoxNicht)
 {
     Öffnen("Meßdiener");
     MeldungenBestätigen();
-    Eintippen("Partner", "Niemand");
+    MitFokusEinsetzen("Partner", "Niemand");
     for (const bool ja : {false, true}) {
         Beantworten([ja](QMessageBox *box) {
             EXPECT_TRUE(QTest::qWaitForWindowActive(box));

@@ -136,7 +136,7 @@ TEST_F(DienstblattFormTest, EineNummerAußerhalbFälltAufNull)
     delete form;
     Meßdiener.Anzahl = 2;
     Öffnen<StatDienstForm>();
-    Finden<QLineEdit>("INDEXLEIN")->setText("1,6"); // rounded to the one after the last
+    Einsetzen("INDEXLEIN", "1,6"); // rounded to the one after the last
     EXPECT_EQ(Nummer(), "0");
     EXPECT_EQ(Zeigt("V"), "Anna");
 }
@@ -232,7 +232,7 @@ TEST_F(DienstblattFormTest, DieDiensteFolgenEinemNeuenNamenNurBeiEnde)
     const auto umbenennen = [&](const char *name, const std::function<void()> &weg) {
         Meßdiener.Cursor = 1;
         Öffnen<MeßdienerForm>();
-        Finden<QLineEdit>("Vornamen")->setText(name);
+        Einsetzen("Vornamen", name);
         SchließtMit(weg);
         Öffnen<StatDienstForm>();
         Klick("PLUS");
