@@ -19,7 +19,6 @@
 #include <QProcess>
 #include <QTimer>
 
-#include <ranges>
 #include <vector>
 
 namespace altardienst {
@@ -134,9 +133,9 @@ QWidget *AufDemSchirm(QWidget *form)
 {
     if (form->isVisible())
         return form;
-    for (const Vertretung &v : vertretungen | std::views::reverse)
-        if (v.Form == form && v.Dialog)
-            if (QWidget *vorn = AufDemSchirm(v.Dialog))
+    for (auto v = vertretungen.rbegin(); v != vertretungen.rend(); ++v) // the latest counts
+        if (v->Form == form && v->Dialog)
+            if (QWidget *vorn = AufDemSchirm(v->Dialog))
                 return vorn;
     return nullptr;
 }

@@ -9,6 +9,7 @@
 #include "platform/Drucker.h"
 #include "settings/Einstellungen.h"
 
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>

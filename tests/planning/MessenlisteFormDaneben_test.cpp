@@ -405,8 +405,8 @@ TEST_F(MessenlisteDaneben, HelferGehörenZuIhrerMesse)
     Klick("Lektoren");
     QWidget *helfer = Fenster("Lektorrenusw");
     const auto feld = [&](const char *name) { return Finden<QLineEdit>(helfer, name); };
-    feld("Lecki")->setText("");
-    feld("Lecki1Vor")->setText("Anna");
+    altardienst::Einsetzen(feld("Lecki"), "");
+    altardienst::Einsetzen(feld("Lecki1Vor"), "Anna");
     MenüWählen("mnuSortmessen"); // there is another mass at the cursor now
     EXPECT_EQ(altardienst::Zeigt(feld("Lecki1Vor")), "");
     EXPECT_EQ(altardienst::Zeigt(feld("Lecki")), "1");

@@ -371,7 +371,7 @@ TEST_F(HauptDialogeTest, AuchVorF11UndF12SchreibtDieListeWasGetipptWurde)
         Zeigen(haupt);
         QCoreApplication::processEvents(); // the list has been left
         const Text getippt = QKeySequence(taste).toString().toStdString();
-        Finden<QLineEdit>(liste, "Messewesen")->setText(Anzeige(getippt));
+        Einsetzen(Finden(liste, "Messewesen"), getippt);
         QTest::keyClick(haupt->windowHandle(), taste);
         EXPECT_EQ(Messe.Messeart[0], getippt);
         for (QWidget *fenster : Alle())
