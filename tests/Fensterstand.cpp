@@ -3,6 +3,7 @@
 
 #include "application/Anwendung.h"
 #include "application/Fangnetz.h"
+#include "application/Gemerktes.h"
 #include "controls/Textwahl.h"
 #include "controls/Unerwartetes.h"
 #include "paper/Druckdialog.h"
@@ -14,6 +15,7 @@
 #include <QClipboard>
 #include <QFocusEvent>
 #include <QPointer>
+#include <QTemporaryDir>
 #include <QTimer>
 
 namespace altardienst {
@@ -186,6 +188,11 @@ std::vector<Text> Stumme(QWidget *fenster)
     return namen;
 }
 
+Fensterstand::Fensterstand()
+{
+    Gemerktes().clear();
+}
+
 Fensterstand::~Fensterstand()
 {
     AlleLöschen();
@@ -303,7 +310,9 @@ int main(int argc, char *argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     ::testing::InitGoogleTest(&argc, argv);
+    const QTemporaryDir verzeichnis;
     altardienst::Prüfanwendung anwendung(argc, argv);
+    altardienst::GemerktesIn(verzeichnis.filePath("Gemerktes.ini"));
     altardienst::DruckerDienst *ohneDrucker = altardienst::Drucker;
     altardienst::AnwendungEinrichten(anwendung);
     altardienst::Drucker = ohneDrucker; // a print dialog would wait for someone

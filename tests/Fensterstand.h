@@ -78,10 +78,11 @@ constexpr QSize KleinsterBildschirm(680, 484);
 /// Names of the controls that take the focus but have no spoken name.
 std::vector<Text> Stumme(QWidget *fenster);
 
-/// Windows left over are deleted after each test. An unexpected failure fails the test, unless it
-/// clears the message about it.
+/// Nothing is remembered of earlier windows; those left over are deleted after each test. An
+/// unexpected failure fails the test, unless it clears the message about it.
 class Fensterstand : public Prüfstand {
   protected:
+    Fensterstand();
     ~Fensterstand() override;
 
     /// Shows a window and waits until it is active.

@@ -25,6 +25,7 @@ class Programmlauf {
         umgebung.insert("HOME", Anzeige(daten.parent_path().string()));
         umgebung.insert("ALTARDIENST_DATEN", Anzeige(daten.string()));
         umgebung.remove("ALTARDIENST_DISKETTE");
+        umgebung.remove("XDG_CONFIG_HOME"); // what is remembered of the windows stays in that home
         prozess.setProcessEnvironment(umgebung);
         prozess.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         prozess.start(Anzeige(programm.string()), QStringList{});

@@ -2,6 +2,7 @@
 // window, writes the plan and pictures, and exits by the exit routine.
 #include "application/Anwendung.h"
 #include "application/Fangnetz.h"
+#include "application/Gemerktes.h"
 #include "controls/Bausteine.h"
 #include "core/Umwandlung.h"
 #include "paper/DruckerQt.h"
@@ -17,6 +18,7 @@
 #include "shell/StartForm.h"
 
 #include <QCommandLineParser>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTimer>
 
@@ -314,8 +316,10 @@ int main(int argc, char *argv[])
     QTemporaryFile bildschirm;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", OhneBildschirm(bildschirm));
+    const QTemporaryDir verzeichnis; // so that a run leaves nothing of its windows to the user
     Fangnetz anwendung(argc, argv);
     AnwendungEinrichten(anwendung);
+    GemerktesIn(verzeichnis.filePath("Gemerktes.ini"));
     int ergebnis = 0;
     try {
         QCommandLineParser zeile;
