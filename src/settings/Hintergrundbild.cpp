@@ -3,7 +3,7 @@
 
 #include "controls/Bausteine.h"
 
-#include <QBitmap>
+#include <QEvent>
 #include <QFileInfo>
 #include <QPaintEvent>
 #include <QPainter>
@@ -24,13 +24,10 @@ void KerzeZeichnen(QPainter &stift, int x, int fuß)
     stift.drawPath(flamme);
 }
 
-/// A village church on a hill between two candles, black on white.
-QPixmap EingebautesBild()
+/// A village church on a hill between two candles, drawn in one ink, at its own size.
+void KircheZeichnen(QPainter &stift, const QColor &tinte)
 {
-    QBitmap bild(EingebauteGröße);
-    bild.fill(Qt::color0);
-    QPainter stift(&bild);
-    stift.setPen(QPen(Qt::color1, 3));
+    stift.setPen(QPen(tinte, 3));
 
     QPainterPath hügel(QPointF(0, 470));
     hügel.cubicTo(180, 400, 540, 400, 720, 470);
@@ -45,9 +42,14 @@ QPixmap EingebautesBild()
     stift.drawLine(245, 232, 245, 216);
     stift.drawLine(245, 232, 256, 238);
     stift.drawRect(285, 290, 250, 128);
-    stift.setBrush(QBrush(Qt::color1, Qt::Dense5Pattern));
     stift.drawPolygon(QPolygon({{285, 290}, {315, 210}, {505, 210}, {535, 290}}));
-    stift.setBrush(Qt::color1);
+    stift.setPen(QPen(tinte, 1));
+    for (int y = 218; y < 290; y += 8) { // rows of slates, as wide as the roof is there
+        const int einzug = (290 - y) * 30 / 80;
+        stift.drawLine(285 + einzug, y, 535 - einzug, y);
+    }
+    stift.setPen(QPen(tinte, 3));
+    stift.setBrush(tinte);
     for (int x : {310, 368, 426, 484}) {
         QPainterPath fenster(QPointF(x, 392));
         fenster.lineTo(x, 340);
@@ -66,14 +68,25 @@ QPixmap EingebautesBild()
     stift.setBrush(Qt::NoBrush);
     KerzeZeichnen(stift, 110, 400);
     KerzeZeichnen(stift, 620, 400);
-    stift.end();
-    // A bitmap would be painted with its white transparent.
-    return QPixmap::fromImage(bild.toImage().convertToFormat(QImage::Format_RGB32));
+}
+
+/// The built-in picture in the colours of the theme, of that many screen pixels. At its own size it
+/// needs no shades between the two colours.
+QPixmap EingebautesBild(const QSize &punkte, const QPalette &farben)
+{
+    QPixmap bild(punkte);
+    bild.fill(farben.color(QPalette::Base));
+    QPainter stift(&bild);
+    stift.setRenderHint(QPainter::Antialiasing, punkte != EingebauteGröße);
+    stift.scale(punkte.width() / qreal(EingebauteGröße.width()),
+                punkte.height() / qreal(EingebauteGröße.height()));
+    KircheZeichnen(stift, farben.color(QPalette::Text));
+    return bild;
 }
 
 } // namespace
 
-Hintergrundbild::Hintergrundbild(const char *name) : bild(EingebautesBild())
+Hintergrundbild::Hintergrundbild(const char *name)
 {
     Benannt(this, name);
     setAccessibleName("Hintergrundbild");
@@ -85,7 +98,7 @@ void Hintergrundbild::Zeigen(const Text &pfad)
 {
     if (pfad.empty()) {
         if (!gezeigterPfad.empty())
-            BildSetzen(EingebautesBild());
+            BildSetzen(QPixmap());
         gezeigterPfad.clear();
         return;
     }
@@ -109,12 +122,22 @@ void Hintergrundbild::BildSetzen(const QPixmap &neu)
     update();
 }
 
+void Hintergrundbild::changeEvent(QEvent *ereignis)
+{
+    if (ereignis->type() == QEvent::PaletteChange)
+        passend = QPixmap(); // drawn again in the colours of the theme
+    QWidget::changeEvent(ereignis);
+}
+
 void Hintergrundbild::paintEvent(QPaintEvent *)
 {
-    const QSize platz = bild.size().scaled(size(), Qt::KeepAspectRatio);
+    const QSize größe = bild.isNull() ? EingebauteGröße : bild.size();
+    const QSize platz = größe.scaled(size(), Qt::KeepAspectRatio);
     const QSize punkte = platz * devicePixelRatioF();
     if (passend.size() != punkte) {
-        passend = bild.scaled(punkte, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        passend = bild.isNull()
+                      ? EingebautesBild(punkte, palette())
+                      : bild.scaled(punkte, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         passend.setDevicePixelRatio(devicePixelRatioF());
     }
     QPainter stift(this);

@@ -9,8 +9,8 @@
 
 namespace altardienst {
 
-/// Shows the built-in black-and-white picture of 720 x 520 dots, or one from a file, as large as
-/// the control allows without distortion.
+/// Shows the built-in line drawing, which measures 720 x 520 dots and is drawn anew at any size, or
+/// a picture from a file, as large as the control allows without distortion.
 class Hintergrundbild : public QWidget {
   public:
     explicit Hintergrundbild(const char *name);
@@ -23,12 +23,13 @@ class Hintergrundbild : public QWidget {
     int Dekodiert() const { return dekodiert; } // how often a file was decoded
 
   protected:
+    void changeEvent(QEvent *ereignis) override;
     void paintEvent(QPaintEvent *ereignis) override;
 
   private:
     void BildSetzen(const QPixmap &neu);
 
-    QPixmap bild;
+    QPixmap bild;    // null: the built-in one
     QPixmap passend; // the picture at the current size of the control, in screen pixels
     Text gezeigterPfad;
     QDateTime gezeigterStand;

@@ -47,12 +47,6 @@ Text Mitte(std::string_view text, int ab, int anzahl)
     return Text(rest.substr(0, ByteVon(rest, anzahl)));
 }
 
-int Fundstelle(std::string_view text, std::string_view gesucht)
-{
-    std::size_t byte = text.find(gesucht);
-    return byte == std::string_view::npos ? 0 : Länge(text.substr(0, byte)) + 1;
-}
-
 bool IstJa(std::string_view flags, int position)
 {
     std::size_t byte = ByteVon(flags, position - 1);

@@ -29,9 +29,6 @@ Text Links(std::string_view text, int anzahl);
 /// Failure 5 if `ab` is below 1 or `anzahl` below 0.
 Text Mitte(std::string_view text, int ab, int anzahl);
 
-/// The position (from 1) at which `gesucht` first occurs in `text`, 0 if it doesn't.
-int Fundstelle(std::string_view text, std::string_view gesucht);
-
 /// Whether position `position` (from 1) of a flag string holds "j". Past its end: no.
 bool IstJa(std::string_view flags, int position);
 

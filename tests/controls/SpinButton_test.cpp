@@ -64,7 +64,7 @@ TEST_F(SpinButtonTest, FesthaltenWiederholt)
     QTest::mousePress(auf, Qt::LeftButton);
     EXPECT_TRUE(Warten([&] { return ereignisse.starts_with("auf auf auf "); }));
     QTest::mouseRelease(auf, Qt::LeftButton);
-    EXPECT_EQ(Fundstelle(ereignisse, "ab"), 0);
+    EXPECT_EQ(ereignisse.find("ab"), Text::npos);
 }
 
 TEST_F(SpinButtonTest, NimmtDenFokusBevorSeinEreignisLäuft)

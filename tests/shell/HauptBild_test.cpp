@@ -87,6 +87,35 @@ TEST_F(HauptBildTest, OhneHintergrundStehtDasEingebauteBildInSchwarzUndWeiß)
     EXPECT_EQ(haupt->Image1->Dekodiert(), 0);
 }
 
+// Where a line ends must not blur over more than one pixel, however large the picture.
+TEST_F(HauptBildTest, DasEingebauteBildIstInJederGrößeScharf)
+{
+    Öffnen();
+    haupt->Image1->setFixedSize(4 * 720, 4 * 520);
+    Warten([&] { return haupt->Image1->width() == 4 * 720; });
+    const QImage gezeigt = Gezeigt();
+    const int zeile = 4 * 350; // through the tower, below the clock
+    int kanten = 0;
+    for (int x = 1; x + 1 < gezeigt.width(); ++x) {
+        const int links = qGray(gezeigt.pixel(x - 1, zeile));
+        const int rechts = qGray(gezeigt.pixel(x + 1, zeile));
+        kanten += links == 255 && rechts == 0;
+    }
+    EXPECT_GT(kanten, 3);
+}
+
+TEST_F(HauptBildTest, DasEingebauteBildFolgtDenFarbenDesBildschirms)
+{
+    Öffnen();
+    QPalette dunkel;
+    dunkel.setColor(QPalette::Base, QColor(0x20, 0x20, 0x20));
+    dunkel.setColor(QPalette::Text, QColor(0xf0, 0xf0, 0xf0));
+    haupt->setPalette(dunkel);
+    const QImage gezeigt = Gezeigt();
+    const int rand = (gezeigt.height() - gezeigt.width() * 520 / 720) / 2;
+    EXPECT_EQ(gezeigt.pixelColor(2, std::max(2, rand + 2)), QColor(0x20, 0x20, 0x20));
+}
+
 TEST_F(HauptBildTest, DasBildStehtSchonBeimÖffnen)
 {
     BildSchreiben(Qt::red);

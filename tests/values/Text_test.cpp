@@ -43,15 +43,6 @@ TEST(Text, MitteVorDemAnfangIstEinFehler)
     EXPECT_EQ(NummerDesFehlers([] { return Mitte("abc", 1, -1); }), 5);
 }
 
-TEST(Text, PositionZähltZeichenAbEins)
-{
-    EXPECT_EQ(Fundstelle("Müller,Änne", ","), 7);
-    EXPECT_EQ(Fundstelle("Müller,Änne,x", "n"), 9);
-    EXPECT_EQ(Fundstelle("Müller", "M"), 1);
-    EXPECT_EQ(Fundstelle("Müller", ","), 0);
-    EXPECT_EQ(Fundstelle("", ","), 0);
-}
-
 TEST(Text, FlagsWerdenNachPositionGelesen)
 {
     EXPECT_TRUE(IstJa("jnj", 1));

@@ -1,0 +1,175 @@
+// Opening each window until it is on the screen, with full tables, against an ordinary window of
+// forty text boxes. No window may take more than one and a half times of what it took before lists,
+// marks, calendars and hints came into the windows.
+#include "Bestand.h"
+#include "Messung.h"
+
+#include "anniversaries/GeburtstagsansichtForm.h"
+#include "anniversaries/JubiläumsanzeigeForm.h"
+#include "application/Anwendung.h"
+#include "shell/HauptForm.h"
+#include "shell/StartForm.h"
+
+#include <QAction>
+#include <QFormLayout>
+#include <QLineEdit>
+
+#include <cstdlib>
+#include <stdexcept>
+
+namespace altardienst {
+namespace {
+
+/// How a window is reached: by an entry of the menu, and by a button of what that opens.
+struct Weg {
+    const char *Fenster;
+    const char *Eintrag;
+    const char *Knopf; // null: the entry alone
+    double Zuvor;      // the ratio of the windows as they were
+};
+
+HauptForm *haupt = nullptr;
+
+QWidget *Offenes(const QString &name)
+{
+    for (QWidget *fenster : QApplication::topLevelWidgets())
+        if (fenster->objectName() == name && fenster->isVisible())
+            return fenster;
+    return nullptr;
+}
+
+void AlleSchließen()
+{
+    QCoreApplication::processEvents();
+    const QWidgetList fenster = QApplication::topLevelWidgets();
+    for (QWidget *eines : fenster)
+        if (eines != haupt && !eines->parent())
+            delete eines;
+    HauptfensterZurück();
+    QCoreApplication::processEvents();
+}
+
+void Auslösen(const char *eintrag)
+{
+    haupt->findChild<QAction *>(QString::fromUtf8(eintrag))->trigger();
+}
+
+void Drücken(const char *knopf)
+{
+    for (QWidget *fenster : QApplication::topLevelWidgets())
+        if (auto *gefunden = fenster->findChild<QPushButton *>(QString::fromUtf8(knopf));
+            gefunden && fenster != haupt && fenster->isVisible())
+            return gefunden->click();
+    throw std::runtime_error(std::string("no button ") + knopf);
+}
+
+void Bereitmachen()
+{
+    AlleSchließen();
+    VollerBestand();
+}
+
+/// Only the last step of the way is timed.
+Arbeit Gehen(const Weg &weg)
+{
+    return {[weg] {
+                Bereitmachen();
+                if (weg.Knopf)
+                    Auslösen(weg.Eintrag);
+                QCoreApplication::processEvents();
+            },
+            [weg] {
+                if (weg.Knopf)
+                    Drücken(weg.Knopf);
+                else
+                    Auslösen(weg.Eintrag);
+                QCoreApplication::processEvents();
+                if (!Offenes(QString::fromUtf8(weg.Fenster)))
+                    throw std::runtime_error(std::string("did not open: ") + weg.Fenster);
+            }};
+}
+
+/// A window that no entry of the menu opens, or only in the place of another.
+template <class Form, class... Angaben> Arbeit Bauen(Angaben... angaben)
+{
+    return {Bereitmachen, [=] {
+                auto *form = new Form(angaben...);
+                form->show();
+                QCoreApplication::processEvents();
+            }};
+}
+
+void GewöhnlichesFenster()
+{
+    auto *fenster = new QWidget;
+    auto *felder = new QFormLayout(fenster);
+    for (int i = 0; i < 40; ++i)
+        felder->addRow(QStringLiteral("Feld"), new QLineEdit);
+    fenster->show();
+    QCoreApplication::processEvents();
+}
+
+void Anmelden(const char *fenster, const Arbeit &arbeit, double zuvor)
+{
+    MessungAnmelden({.Name = fenster,
+                     .Maßstabname = "Fenster mit vierzig Feldern",
+                     .Gemessen = arbeit,
+                     .Maßstab = {AlleSchließen, GewöhnlichesFenster},
+                     .Ziel = 1.5 * zuvor,
+                     .Durchläufe = 15});
+}
+
+constexpr Weg Wege[] = {
+    {"Druck", "mnuFilePrint", nullptr, 1},
+    {"Konfiguration", "mnuKonfiguration", nullptr, 1},
+    {"Hintergrundsuche", "mnuHintergrund", nullptr, 1},
+    {"Etiketten", "mnuEtiketten", nullptr, 1},
+    {"Gruppe", "mnuGruppe", nullptr, 1},
+    {"NeuGruppe", "mnuGruppe", "NEWGroup", 1},
+    {"Standardmessen", "mnuStandardmessen", nullptr, 1},
+    {"Helfer", "mnuHelfer", nullptr, 1},
+    {"NeuerHelfer", "mnuHelfer", "NeuHelfer", 1},
+    {"Meßdiener", "mnuMeßdiener", nullptr, 1},
+    {"NeuMeßdiener", "mnuMeßdiener", "NeuDiener", 1},
+    {"MesseDienerFest", "MnuMESSDIENZUMESS", nullptr, 1},
+    {"NeuMesseDienerFest", "MnuMESSDIENZUMESS", "Hinzu", 1},
+    {"Messenliste", "mnuMessen", nullptr, 1},
+    {"NeuMesse", "mnuMessen", "NeuMeß", 1},
+    {"Lektorrenusw", "mnuMessen", "Lektoren", 1},
+    {"JubiGebu", "mnuJubGeb", nullptr, 1},
+    {"Statistik", "mnuStatistik", nullptr, 1},
+    {"Diagramme", "mnuStatistik", "Diagramm", 1},
+    {"Statistik2", "mnuStatistikGröße", nullptr, 1},
+    {"Diagramm2", "mnuStatistikGröße", "Diagramm", 1},
+    {"StatMeßdienst", "mnuMessendienst", nullptr, 1},
+    {"StatDienst", "mnuStatDienst", nullptr, 1},
+    {"StatistikAllg", "mnuStatistikHilfA", nullptr, 1},
+    {"StatistikHelfer", "mnuHelferMessendienst", nullptr, 1},
+    {"StatHelfer", "mnuStatHDienst", nullptr, 1},
+    {"Dialog", "mnuMessenlisteText", nullptr, 1},
+    {"frmAbout", "mnuHelpAbout", nullptr, 1},
+};
+
+} // namespace
+
+void MessungenAnmelden()
+{
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    static int argc = 1;
+    static char name[] = "bench_fenster";
+    static char *argv[] = {name, nullptr};
+    // Never deleted: at exit Qt has already torn down things that a shown window still refers to.
+    AnwendungEinrichten(*new QApplication(argc, argv));
+    VollerBestand();
+    haupt = new HauptForm;
+    HauptfensterSetzen(haupt);
+    haupt->showMaximized();
+    Anmelden("Start", Bauen<StartForm>([] {}), 1);
+    Anmelden("Haupt", Bauen<HauptForm>(), 1);
+    for (const Weg &weg : Wege)
+        Anmelden(weg.Fenster, Gehen(weg), weg.Zuvor);
+    Anmelden("Geburtstagsansicht", Bauen<GeburtstagsansichtForm>(), 1);
+    Anmelden("Jubiläumsanzeige", Bauen<JubiläumsanzeigeForm>(), 1);
+}
+
+} // namespace altardienst
