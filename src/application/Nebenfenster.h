@@ -9,7 +9,7 @@
 namespace altardienst {
 
 /// Until the form is deleted, an action of the main window runs `ablegen` before it, which writes
-/// what was typed to the tables, and `erneuern` behind it, which shows what the tables hold by now.
+/// what was typed to the tables, and `erneuern` after it, which shows what the tables hold by now.
 /// So neither does what was typed get lost, nor does an old screen overwrite a new plan. They run
 /// too when the user goes to another form and when he comes back. A record that was only looked at
 /// stays as it is; where it has changed meanwhile the table counts: `ablegen` is to leave it alone

@@ -62,7 +62,7 @@ class Statistikstand : public Formstand<> {
             if (std::abs(Ort(label).center().y() - ort.center().y()) <= 6 &&
                 Ort(label).left() > ort.left())
                 return Zeigt(label);
-        return "nothing behind " + Text(name);
+        return "nothing to the right of " + Text(name);
     }
 
     /// The heading of this label's column.
