@@ -7,15 +7,19 @@
 #include "anniversaries/GeburtstagsansichtForm.h"
 #include "anniversaries/JubiläumsanzeigeForm.h"
 #include "application/Anwendung.h"
+#include "platform/Laufwerke.h"
+#include "platform/Meldungen.h"
 #include "shell/HauptForm.h"
 #include "shell/StartForm.h"
 
 #include <QAction>
 #include <QFormLayout>
 #include <QLineEdit>
+#include <QPointer>
 
 #include <cstdlib>
 #include <stdexcept>
+#include <vector>
 
 namespace altardienst {
 namespace {
@@ -42,8 +46,9 @@ void AlleSchließen()
 {
     QCoreApplication::processEvents();
     const QWidgetList fenster = QApplication::topLevelWidgets();
-    for (QWidget *eines : fenster)
-        if (eines != haupt && !eines->parent())
+    const std::vector<QPointer<QWidget>> alle(fenster.begin(), fenster.end());
+    for (const auto &eines : alle) // a window may take another with it
+        if (eines && eines != haupt && !eines->parent())
             delete eines;
     HauptfensterZurück();
     QCoreApplication::processEvents();
@@ -160,6 +165,9 @@ void MessungenAnmelden()
     static char *argv[] = {name, nullptr};
     // Never deleted: at exit Qt has already torn down things that a shown window still refers to.
     AnwendungEinrichten(*new QApplication(argc, argv));
+    // No message may wait for anybody.
+    Meldungen.Zeigen = [](const Text &) {};
+    Laufwerke.Programmverzeichnis = [] { return std::filesystem::path(BEISPIELDATEN); };
     VollerBestand();
     haupt = new HauptForm;
     HauptfensterSetzen(haupt);

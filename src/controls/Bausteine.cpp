@@ -15,6 +15,7 @@
 #include <QScrollArea>
 #include <QStyle>
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -47,11 +48,57 @@ class Ereignisfilter : public QObject {
 /// Wants as much room as its content, unlike its base.
 class Rollfläche : public QScrollArea {
   public:
+    /// The parts side by side, if the content has such.
+    explicit Rollfläche(QHBoxLayout *teile) : teile(teile) {}
+
     QSize sizeHint() const override
     {
         constexpr QSize Rundung(4, 4); // some controls grow by a pixel or two when they are drawn
-        return widget()->sizeHint() + Rundung;
+        return (teile ? Nebeneinander(&QLayoutItem::sizeHint) : widget()->sizeHint()) + Rundung;
     }
+
+  protected:
+    void resizeEvent(QResizeEvent *ereignis) override
+    {
+        Umbrechen();
+        QScrollArea::resizeEvent(ereignis);
+    }
+
+    bool eventFilter(QObject *woher, QEvent *ereignis) override
+    {
+        if (woher == widget() && ereignis->type() == QEvent::LayoutRequest && isVisible())
+            Umbrechen();
+        return QScrollArea::eventFilter(woher, ereignis);
+    }
+
+  private:
+    /// The parts stand one below the other where they do not fit side by side, since nobody scrolls
+    /// sideways.
+    void Umbrechen()
+    {
+        if (!teile)
+            return;
+        const QSize nötig = Nebeneinander(&QLayoutItem::minimumSize);
+        QSize platz = maximumViewportSize();
+        if (nötig.height() > platz.height())
+            platz.rwidth() -= style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        teile->setDirection(nötig.width() <= platz.width() ? QBoxLayout::LeftToRight
+                                                           : QBoxLayout::TopToBottom);
+    }
+
+    /// The room that all parts take side by side, however they stand.
+    QSize Nebeneinander(QSize (QLayoutItem::*maß)() const) const
+    {
+        QSize größe(0, 0);
+        for (int i = 0; i < teile->count(); ++i) {
+            const QSize teil = (teile->itemAt(i)->*maß)();
+            größe.rwidth() += teil.width() + (i > 0 ? teile->spacing() : 0);
+            größe.setHeight(std::max(größe.height(), teil.height()));
+        }
+        return größe;
+    }
+
+    QHBoxLayout *teile;
 };
 
 /// The text as a file gives it back: one line of Windows-1252. A pasted line break would shift all
@@ -233,7 +280,7 @@ QWidget *Rollbar(QLayout *inhalt)
     fläche->setLayout(inhalt);
     for (auto *wahl : fläche->findChildren<QComboBox *>())
         RadSperren(wahl);
-    auto *rollbar = new Rollfläche;
+    auto *rollbar = new Rollfläche(qobject_cast<QHBoxLayout *>(inhalt));
     rollbar->setWidgetResizable(true);
     rollbar->setFrameShape(QFrame::NoFrame);
     rollbar->setFocusPolicy(Qt::NoFocus);

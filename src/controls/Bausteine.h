@@ -59,7 +59,8 @@ QPushButton *Plusknopf(const char *name, const char *gesprochen);
 void Setzen(QLineEdit *feld, const Text &text);
 void Setzen(QLabel *label, const Text &text);
 
-/// A part of a window that scrolls where the screen is small or strongly enlarged.
+/// A part of a window that scrolls where the screen is small or strongly enlarged. The parts of a
+/// horizontal box stand one below the other where they do not fit side by side.
 QWidget *Rollbar(QLayout *inhalt);
 
 /// As large as its content wants, or as the screen allows.

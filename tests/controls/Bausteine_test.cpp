@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -67,6 +69,35 @@ TEST_F(BausteineTest, ImRollbarenTeilGehtDasRadAnEinerAuswahlVorbei)
     FokusAuf(wahl);
     QTest::keyClick(wahl, Qt::Key_Down);
     EXPECT_EQ(wahl->currentIndex(), 1);
+}
+
+// The height of the window decides too: a scroll bar takes some of the width.
+TEST_F(BausteineTest, WasNichtNebeneinanderPaßtStehtUntereinander)
+{
+    auto *links = new QLabel("links");
+    auto *rechts = new QLabel("rechts");
+    auto *teile = new QHBoxLayout;
+    teile->setSpacing(10);
+    for (QLabel *teil : {links, rechts}) {
+        teil->setFixedSize(200, 100);
+        teile->addWidget(teil);
+    }
+    auto *rollbar = static_cast<QScrollArea *>(Rollbar(teile));
+    EXPECT_EQ(rollbar->sizeHint(), QSize(414, 104));
+    auto stehtNebeneinander = [&](const QSize &größe) {
+        rollbar->resize(größe);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(rollbar->horizontalScrollBar()->maximum(), 0);
+        EXPECT_EQ(rollbar->sizeHint(), QSize(414, 104));
+        return links->y() == rechts->y();
+    };
+    rollbar->resize(414, 104);
+    rollbar->show();
+    EXPECT_TRUE(stehtNebeneinander({410, 100}));
+    EXPECT_FALSE(stehtNebeneinander({409, 100}));
+    EXPECT_FALSE(stehtNebeneinander({410, 99}));
+    EXPECT_TRUE(stehtNebeneinander({450, 99}));
+    delete rollbar;
 }
 
 TEST_F(BausteineTest, NamenUndBeschriftungenKommenMitUmlautenAn)

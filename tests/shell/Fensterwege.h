@@ -6,9 +6,11 @@
 #include "anniversaries/GeburtstagsansichtForm.h"
 #include "anniversaries/JubiläumsanzeigeForm.h"
 #include "core/Allgemein.h"
+#include "planning/MessenBestimmen.h"
 #include "settings/KopierForm.h"
 #include "shell/StartForm.h"
 
+#include <algorithm>
 #include <array>
 
 namespace altardienst {
@@ -54,7 +56,7 @@ constexpr std::array Wege = {
     Fensterweg{"frmAbout", "mnuHelpAbout"},
 };
 
-/// The parish of the shipped example and its main window.
+/// The parish of the shipped example, the masses of its next plan, and its main window.
 class Fensterwege : public Hauptstand {
   protected:
     Fensterwege()
@@ -63,6 +65,8 @@ class Fensterwege : public Hauptstand {
                                               [] { return std::filesystem::path(BEISPIELDATEN); });
         VonFestplatteLaden();
         Laufwerke.Programmverzeichnis = festplatte;
+        Konfig.StartDatum = Heute + 7;
+        MessenNeuBestimmen();
         AufFestplatteSpeichern(); // the copy dialogs read what is on the disk
         Öffnen();
     }
@@ -79,7 +83,14 @@ class Fensterwege : public Hauptstand {
         for (const auto &[name, eintrag, knopf] : Wege) {
             MenüWählen(eintrag);
             if (knopf)
-                Klick(Finden(QApplication::activeWindow(), knopf));
+                KlickIm(FensterDesEintrags(eintrag), knopf);
+            vorstellen(Fenster(name));
+            Räumen();
+        }
+        for (const auto &[taste, name] :
+             {std::pair(Qt::Key_F11, "ZusatzKonfig"), {Qt::Key_F12, "Skalierung"}}) {
+            Zeigen(haupt);
+            QTest::keyClick(haupt->windowHandle(), taste);
             vorstellen(Fenster(name));
             Räumen();
         }
@@ -90,6 +101,19 @@ class Fensterwege : public Hauptstand {
     }
 
   private:
+    static void KlickIm(QWidget *fenster, const char *knopf)
+    {
+        Zeigen(fenster);
+        Klick(Finden(fenster, knopf));
+    }
+
+    static QWidget *FensterDesEintrags(const Text &eintrag)
+    {
+        const auto weg = std::ranges::find_if(
+            Wege, [&](const Fensterweg &eines) { return eines.Eintrag == eintrag; });
+        return Fenster(weg->Fenster); // the entry alone comes before its buttons
+    }
+
     /// Windows that come by themselves or from a window that waits for them.
     template <class Form, class... Angaben>
     void AufgebautVorstellen(const std::function<void(QWidget *)> &vorstellen, Angaben... angaben)
@@ -102,8 +126,9 @@ class Fensterwege : public Hauptstand {
     void Räumen()
     {
         const QWidgetList fenster = QApplication::topLevelWidgets();
-        for (QWidget *eines : fenster)
-            if (eines != haupt && !eines->parent()) {
+        const std::vector<QPointer<QWidget>> alle(fenster.begin(), fenster.end());
+        for (const auto &eines : alle)
+            if (eines && eines != haupt && !eines->parent()) {
                 eines->hide();
                 delete eines;
             }
