@@ -54,6 +54,7 @@ Prüfstand::Prüfstand()
     };
     Laufwerke.Programmverzeichnis = [this] { return Festplatte; };
     Laufwerke.Diskette = [this] { return Diskette; };
+    Laufwerke.Ausweichverzeichnisse = [this] { return std::vector<fs::path>{wurzel / "Ausweich"}; };
     Laufwerke.Wurzeln = [this] {
         return std::vector<Wurzel>{{"Festplatte", Festplatte}, {"Diskette", Diskette}};
     };

@@ -18,6 +18,8 @@ class Zeilenleser {
 
     bool AmEnde() const { return rest.empty(); }
 
+    std::size_t Übrig() const { return rest.size(); } // bytes
+
     /// The line up to its end, with commas, quotes and blanks as they are.
     std::string_view Zeile();
 

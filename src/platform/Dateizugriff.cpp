@@ -9,9 +9,11 @@
 #include <memory>
 
 #ifdef _WIN32
+#include <fcntl.h>
 #include <io.h>
 #include <windows.h>
 #else
+#include <fcntl.h>
 #include <unistd.h>
 #endif
 
@@ -91,13 +93,19 @@ bool IstDatei(const fs::path &pfad)
 
 std::string Lesen(const fs::path &pfad)
 {
+    // Looked at before it is opened: opening a pipe would wait for someone to write into it.
+    std::error_code unbekannt;
+    const fs::file_status art = fs::status(pfad, unbekannt);
+    if (fs::exists(art) && !fs::is_regular_file(art))
+        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
     OffeneDatei datei = Öffnen(pfad, "rb");
     if (!datei)
         Gescheitert(errno, Laufzeitfehler::DateiNichtGefunden);
-    std::error_code unbekannt;
     auto größe = fs::file_size(pfad, unbekannt);
+    if (!unbekannt && größe > GrößteDatei)
+        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
     std::string inhalt;
-    if (!unbekannt && größe < (std::uintmax_t(1) << 30))
+    if (!unbekannt)
         inhalt.reserve(größe + 1);
     constexpr std::size_t stück = std::size_t(1) << 16;
     while (true) {
@@ -109,6 +117,8 @@ std::string Lesen(const fs::path &pfad)
             Gescheitert(errno, Laufzeitfehler::DateiNichtGefunden);
         if (gelesen < stück)
             return inhalt;
+        if (inhalt.size() > GrößteDatei) // some files tell no size
+            throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
     }
 }
 
@@ -210,6 +220,50 @@ void VerzeichnisAnlegen(const fs::path &pfad)
     std::error_code fehler;
     fs::create_directories(pfad, fehler);
     if (fehler || !fs::is_directory(pfad, fehler))
+        Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
+}
+
+void Umbenennen(const fs::path &von, const fs::path &nach)
+{
+    std::error_code fehler;
+    if (!fs::exists(fs::symlink_status(von, fehler)))
+        throw Laufzeitfehler(Laufzeitfehler::DateiNichtGefunden);
+    if (fs::exists(fs::symlink_status(nach, fehler)))
+        throw Laufzeitfehler(Laufzeitfehler::DateiVorhanden);
+    fs::rename(von, nach, fehler);
+    if (fehler)
+        Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
+}
+
+void Löschen(const fs::path &pfad)
+{
+    std::error_code fehler;
+    fs::remove_all(pfad, fehler);
+    if (fehler)
+        Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
+}
+
+void Durchschreiben(const fs::path &pfad)
+{
+#ifdef _WIN32
+    std::error_code unbekannt;
+    if (fs::is_directory(pfad, unbekannt))
+        return; // the system flushes names by itself and offers no way to
+    const int datei = _wopen(pfad.c_str(), _O_RDWR | _O_BINARY);
+    if (datei < 0)
+        Gescheitert(errno, Laufzeitfehler::DateiNichtGefunden);
+    const int fehler = _commit(datei) == 0 ? 0 : errno;
+    _close(datei);
+#else
+    const int datei = open(pfad.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (datei < 0)
+        Gescheitert(errno, Laufzeitfehler::DateiNichtGefunden);
+    int fehler = fsync(datei) == 0 ? 0 : errno;
+    close(datei);
+    if (fehler == EINVAL || fehler == ENOTSUP) // there is nothing to flush on such a medium
+        fehler = 0;
+#endif
+    if (fehler != 0)
         Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
 }
 

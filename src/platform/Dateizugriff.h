@@ -17,5 +17,8 @@ void Anhängen(const path &pfad, std::string_view inhalt);
 void Kopieren(const path &von, const path &nach);
 void AttributeLöschen(const path &pfad);
 void VerzeichnisAnlegen(const path &pfad);
+void Umbenennen(const path &von, const path &nach);
+void Löschen(const path &pfad);
+void Durchschreiben(const path &pfad);
 
 } // namespace altardienst::dateizugriff

@@ -66,6 +66,24 @@ fs::path Diskette()
 #endif
 }
 
+/// The user's own place for what a program keeps, and, as that may be on the same full disk, the
+/// one that the machine keeps in its memory while he is logged in. Nobody else may read them.
+std::vector<fs::path> Ausweichverzeichnisse()
+{
+    std::vector<fs::path> verzeichnisse;
+#ifdef _WIN32
+    if (const wchar_t *eigene = _wgetenv(L"LOCALAPPDATA"))
+        verzeichnisse.push_back(fs::path(eigene) / "Altardienst");
+#else
+    const fs::path eigene = AusUmgebung("XDG_STATE_HOME");
+    verzeichnisse.push_back((eigene.empty() ? Heimverzeichnis() / ".local/state" : eigene) /
+                            "Altardienst");
+    if (const fs::path sitzung = AusUmgebung("XDG_RUNTIME_DIR"); !sitzung.empty())
+        verzeichnisse.push_back(sitzung / "Altardienst");
+#endif
+    return verzeichnisse;
+}
+
 /// A table of mounts writes blanks and the like as a backslash with three octal digits.
 Text OhneUmschreibung(std::string_view umschrieben)
 {
@@ -163,6 +181,7 @@ LaufwerkeDienst Systemlaufwerke()
     LaufwerkeDienst dienst;
     dienst.Programmverzeichnis = Programmverzeichnis;
     dienst.Diskette = Diskette;
+    dienst.Ausweichverzeichnisse = Ausweichverzeichnisse;
     dienst.Wurzeln = Wurzeln;
     dienst.Suchen = dateizugriff::Suchen;
     dienst.Auflisten = dateizugriff::Auflisten;
@@ -172,6 +191,9 @@ LaufwerkeDienst Systemlaufwerke()
     dienst.Kopieren = dateizugriff::Kopieren;
     dienst.AttributeLöschen = dateizugriff::AttributeLöschen;
     dienst.VerzeichnisAnlegen = dateizugriff::VerzeichnisAnlegen;
+    dienst.Umbenennen = dateizugriff::Umbenennen;
+    dienst.Löschen = dateizugriff::Löschen;
+    dienst.Durchschreiben = dateizugriff::Durchschreiben;
     return dienst;
 }
 

@@ -4,6 +4,7 @@
 
 #include "values/Text.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -24,13 +25,18 @@ struct Verzeichnisinhalt {
     std::vector<Text> Dateien;
 };
 
-/// A failing call raises a Laufzeitfehler: 53 file not found, 61 disk full, 75 access denied,
-/// 76 path not found.
+/// A failing call raises a Laufzeitfehler: 53 file not found, 58 file exists, 61 disk full, 75
+/// access denied, 76 path not found.
 struct LaufwerkeDienst {
     using path = std::filesystem::path;
 
     std::function<path()> Programmverzeichnis;
     std::function<path()> Diskette;
+
+    /// Where the user may always write: directories for what must not be lost while the program's
+    /// own refuses it. They may not be there yet.
+    std::function<std::vector<path>()> Ausweichverzeichnisse;
+
     std::function<std::vector<Wurzel>()> Wurzeln;
 
     /// The stored name of the file with that name, ignoring case; the exact spelling wins if
@@ -38,6 +44,9 @@ struct LaufwerkeDienst {
     std::function<std::optional<Text>(const path &verzeichnis, const Text &name)> Suchen;
 
     std::function<Verzeichnisinhalt(const path &)> Auflisten;
+
+    /// Only a file is read: a device, a pipe, or what is larger than `GrößteDatei` is failure 75,
+    /// like a file that cannot be read. So no read is without end.
     std::function<std::string(const path &)> Lesen;
     std::function<void(const path &, std::string_view)> Schreiben; // empties the file first
     std::function<void(const path &, std::string_view)> Anhängen;
@@ -52,7 +61,20 @@ struct LaufwerkeDienst {
     /// attributes.
     std::function<void(const path &)> AttributeLöschen;
     std::function<void(const path &)> VerzeichnisAnlegen; // with its parents; may exist
+
+    /// Gives a file another name in its directory. Never replaces anything: failure 58 if the name
+    /// leads to a file, which is the same one if the file system ignores case.
+    std::function<void(const path &von, const path &nach)> Umbenennen;
+
+    std::function<void(const path &)> Löschen; // a directory with all that is in it; may be gone
+
+    /// Returns only when the medium itself holds the file, or the names in the directory.
+    std::function<void(const path &)> Durchschreiben;
 };
+
+/// In bytes. The largest of the eight files has 57287 lines; with names and kinds as long as
+/// anybody types them it stays far below.
+constexpr std::uintmax_t GrößteDatei = std::uintmax_t(256) << 20;
 
 /// The media among the mounted file systems, from a table of mounts with one per line: device,
 /// directory, type and more, separated by blanks; a blank in a name is written "\\040".

@@ -17,6 +17,7 @@
 #include "fixed/FesteMeßdienerÜbertragen.h"
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
+#include "history/Netz.h"
 #include "people/GruppeForm.h"
 #include "people/HelferForm.h"
 #include "people/MeßdienerForm.h"
@@ -281,12 +282,17 @@ void HauptForm::MenüZusatz()
 
     QMenu *diskette = Menü(zusatz, "mnuDatene", "D&aten auf Diskette");
     Eintrag(diskette, "mnuDatenspeichernD", "&speichern", Abgefangen(AufDisketteSpeichern));
-    Ladeeintrag(diskette, "mnuDatenladenD", "&laden", VonDisketteLaden);
+    Ladeeintrag(diskette, "mnuDatenladenD", "&laden", [] {
+        VorWechselSichern(Vorher::DateienUndTabellen);
+        VonDisketteLaden();
+    });
 
     QMenu *daten = Menü(zusatz, "mnuDatamenu", "Dat&en");
     Eintrag(daten, "mnuDatenHolen", "Daten &holen", [] {
-        if (SpeichernOderEnden())
-            DialogÖffnen<DateikopieForm>();
+        if (!SpeichernOderEnden())
+            return;
+        VorWechselSichern(Vorher::Dateien);
+        DialogÖffnen<DateikopieForm>();
     });
     Eintrag(daten, "mnuDatenSichern", "Daten &sichern", [] {
         if (SpeichernOderEnden())

@@ -3,6 +3,7 @@
 
 #include "application/Anwendung.h"
 #include "core/Allgemein.h"
+#include "history/Netz.h"
 #include "settings/KopierForm.h"
 #include "shell/HauptForm.h"
 #include "shell/StartForm.h"
@@ -30,6 +31,7 @@ void HauptZeigen()
     }
     Haupt->showMaximized();
     Haupt->activateWindow();
+    ArbeitBeginnt();
 }
 
 /// The start dialog comes back, with what was copied or as it was left.
@@ -43,6 +45,7 @@ void NachErstkopie(bool kopiert)
 
 void KopierdialogZeigen()
 {
+    VorWechselSichern(Vorher::Dateien);
     DialogDanebenÖffnen<DateienKopierenForm>(NachErstkopie);
     if (Start)
         Start->hide();

@@ -3,6 +3,7 @@
 #include "application/Fangnetz.h"
 #include "controls/Handler.h"
 #include "controls/Unerwartetes.h"
+#include "history/Netz.h"
 #include "shell/Programm.h"
 
 #include <QIcon>
@@ -15,13 +16,17 @@ int main(int argc, char *argv[])
     altardienst::AnwendungEinrichten(anwendung);
     QApplication::setWindowIcon(QIcon(":/altardienst.png"));
     QApplication::setDesktopFileName("altardienst"); // by which the desktop finds name and icon
+    altardienst::NetzSpannen();
     bool gestartet = false;
     altardienst::Offen([&] {
         altardienst::ProgrammStarten();
         gestartet = true;
     })();
-    if (gestartet)
-        return QApplication::exec();
+    if (gestartet) {
+        const int ergebnis = QApplication::exec();
+        altardienst::NetzEinholen();
+        return ergebnis;
+    }
     altardienst::UnerwartetesZeigen();
     return EXIT_FAILURE;
 }

@@ -18,6 +18,8 @@ const char *Laufzeitfehler::what() const noexcept
         return "Typen unverträglich";
     case DateiNichtGefunden:
         return "Datei nicht gefunden";
+    case DateiVorhanden:
+        return "Datei existiert bereits";
     case DatenträgerVoll:
         return "Datenträger voll";
     case HinterDateiende:

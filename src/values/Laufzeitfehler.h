@@ -18,6 +18,7 @@ class Laufzeitfehler : public std::exception {
         DivisionDurchNull = 11,
         TypenUnverträglich = 13,
         DateiNichtGefunden = 53,
+        DateiVorhanden = 58,
         DatenträgerVoll = 61,
         HinterDateiende = 62,
         ZugriffVerweigert = 75,

@@ -5,6 +5,11 @@
 
 #include <cstdlib>
 
+#ifndef _WIN32
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
 namespace altardienst {
 namespace {
 
@@ -84,6 +89,74 @@ TEST_F(LaufwerkeTest, FehlerHabenIhreNummer)
     EXPECT_EQ(NummerDesFehlers([&] { System.Anhängen(fehlt / "x", ""); }), 76);
     EXPECT_EQ(NummerDesFehlers([&] { System.Lesen(Festplatte); }), 75);
     EXPECT_EQ(NummerDesFehlers([&] { System.Schreiben(Festplatte, ""); }), 75);
+}
+
+#ifndef _WIN32
+
+/// A read that never ends would hang the test; it is cut off.
+TEST_F(LaufwerkeTest, NurDateienWerdenGelesen)
+{
+    const fs::path röhre = Festplatte / "pipe";
+    ASSERT_EQ(mkfifo(röhre.c_str(), 0600), 0);
+    alarm(20);
+    for (const fs::path &pfad : {röhre, fs::path("/dev/zero"), fs::path("/dev/null")})
+        EXPECT_EQ(NummerDesFehlers([&] { System.Lesen(pfad); }), 75) << pfad;
+    fs::create_symlink("/dev/zero", Festplatte / "Messen.dat");
+    EXPECT_EQ(NummerDesFehlers([&] { System.Lesen(Festplatte / "Messen.dat"); }), 75);
+    EXPECT_EQ(
+        NummerDesFehlers([&] { System.Kopieren(Festplatte / "Messen.dat", Festplatte / "x"); }),
+        75);
+    alarm(0);
+    EXPECT_NE(System.Lesen("/proc/self/mounts"), "") << "tells no size, but is a file";
+}
+
+TEST_F(LaufwerkeTest, EineÜbergroßeDateiWirdNichtGelesen)
+{
+    System.Schreiben(Festplatte / "groß", "");
+    fs::resize_file(Festplatte / "groß", GrößteDatei + 1); // takes no space
+    EXPECT_EQ(NummerDesFehlers([&] { System.Lesen(Festplatte / "groß"); }), 75);
+    EXPECT_EQ(NummerDesFehlers([&] { System.Kopieren(Festplatte / "groß", Festplatte / "x"); }),
+              75);
+}
+
+#endif
+
+TEST_F(LaufwerkeTest, UmbenennenErsetztNichts)
+{
+    System.Schreiben(Festplatte / "a", "1");
+    System.Schreiben(Festplatte / "b", "2");
+    EXPECT_EQ(NummerDesFehlers([&] { System.Umbenennen(Festplatte / "a", Festplatte / "b"); }), 58);
+    EXPECT_EQ(System.Lesen(Festplatte / "b"), "2");
+    EXPECT_EQ(NummerDesFehlers([&] { System.Umbenennen(Festplatte / "c", Festplatte / "d"); }), 53);
+    System.Umbenennen(Festplatte / "a", Festplatte / "c");
+    EXPECT_EQ(System.Lesen(Festplatte / "c"), "1");
+    EXPECT_FALSE(fs::exists(Festplatte / "a"));
+    fs::create_directories(Festplatte / "ordner");
+    fs::create_directories(Festplatte / "leer");
+    EXPECT_EQ(
+        NummerDesFehlers([&] { System.Umbenennen(Festplatte / "ordner", Festplatte / "leer"); }),
+        58);
+}
+
+TEST_F(LaufwerkeTest, LöschenNimmtAllesDarinUndFolgtKeinemVerweis)
+{
+    System.VerzeichnisAnlegen(Festplatte / "a" / "b");
+    System.Schreiben(Festplatte / "a" / "b" / "x", "1");
+    System.Schreiben(Festplatte / "fremd", "2");
+    fs::create_symlink(Festplatte / "fremd", Festplatte / "a" / "verweis");
+    System.Löschen(Festplatte / "a");
+    EXPECT_FALSE(fs::exists(Festplatte / "a"));
+    EXPECT_EQ(System.Lesen(Festplatte / "fremd"), "2");
+    EXPECT_NO_THROW(System.Löschen(Festplatte / "a")) << "may be gone";
+    EXPECT_EQ(NummerDesFehlers([&] { System.Löschen(Festplatte / "fremd" / "x"); }), 76);
+}
+
+TEST_F(LaufwerkeTest, DurchschreibenNimmtDateienUndVerzeichnisse)
+{
+    System.Schreiben(Festplatte / "x", "1");
+    EXPECT_NO_THROW(System.Durchschreiben(Festplatte / "x"));
+    EXPECT_NO_THROW(System.Durchschreiben(Festplatte));
+    EXPECT_EQ(NummerDesFehlers([&] { System.Durchschreiben(Festplatte / "fehlt"); }), 53);
 }
 
 TEST_F(LaufwerkeTest, AttributeLöschenMachtSchreibbar)
