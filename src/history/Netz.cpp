@@ -71,9 +71,19 @@ void Sichern(const Standinhalt &inhalt)
     StändeAufräumen();
 }
 
+/// Whether the state so many places before the newest holds these files.
+bool LiegtDa(std::size_t vomEnde, const Standinhalt &inhalt)
+{
+    const std::vector<Stand> stände = AlleStände();
+    return stände.size() > vomEnde && InhaltVon(stände[stände.size() - 1 - vomEnde].Ort) == inhalt;
+}
+
 void DateienSichern()
 {
-    Sichern(InhaltVon(Laufwerke.Programmverzeichnis()));
+    const Standinhalt dateien = InhaltVon(Laufwerke.Programmverzeichnis());
+    // The whole of a torn file may have been kept after it.
+    if (!(LiegtDa(1, dateien) && LiegtDa(0, OhneKommas(dateien))))
+        Sichern(dateien);
 }
 
 // One save: the mark lies from before the first file until the last is on the medium.
@@ -165,6 +175,16 @@ void Schreiben(const path &pfad, std::string_view bytes)
 
 // One load.
 
+/// A file torn by a comma is there as a whole, only the reader does not get it so.
+void KommaHeilen(const Standinhalt &inhalt)
+{
+    const Standinhalt heil = OhneKommas(inhalt);
+    if (InhaltLesen(heil).Befund.Was != Ladebefund::Vollständig)
+        return;
+    Sichern(heil);
+    lage.OhneKomma = true;
+}
+
 void NachDemLaden()
 {
     if (netz->ZuletztGelesenAus != (Laufwerke.Programmverzeichnis() / "x").parent_path())
@@ -173,6 +193,9 @@ void NachDemLaden()
     lage.Befund = {};
     if (!inhalt.Leer() || !AlleStände().empty()) // else a parish that is just starting
         lage.Befund = InhaltLesen(inhalt).Befund;
+    lage.OhneKomma = false;
+    if (lage.Befund.Komma > 0)
+        Gelingt([&] { KommaHeilen(inhalt); });
     NetzlageGeändert();
 }
 
@@ -204,12 +227,7 @@ void AbgebrochenesSpeichernSichern()
     const Standinhalt dateien = InhaltVon(Laufwerke.Programmverzeichnis());
     const Standinhalt zuvor = InhaltVon(Marke());
     lage.SpeichernAbgebrochen = true;
-    const std::vector<Stand> stände = AlleStände();
-    const auto ist = [&](std::size_t vomEnde, const Standinhalt &inhalt) {
-        return stände.size() > vomEnde &&
-               InhaltVon(stände[stände.size() - 1 - vomEnde].Ort) == inhalt;
-    };
-    if (ist(0, zuvor) && ist(1, dateien))
+    if (LiegtDa(0, zuvor) && LiegtDa(1, dateien))
         return;
     if (!zuvor.Leer())
         StandSichern(dateien);
@@ -279,6 +297,9 @@ Text Starthinweis()
     const auto absatz = [&](const Text &text) { hinweis += (hinweis.empty() ? "" : "\n") + text; };
     if (const Text satz = lage.Befund.Satz(); !satz.empty())
         absatz(satz + " Was danach kommt, fehlt im Programm, und das Beenden speichert es so.");
+    if (lage.OhneKomma)
+        absatz(
+            "Ein Stand mit Semikolon an Stelle des Kommas, in dem nichts fehlt, ist aufgehoben.");
     if (lage.SpeichernAbgebrochen)
         absatz("Das letzte Speichern ist nicht zu Ende gekommen: Die acht Dateien können aus zwei "
                "Speicherungen stammen. Der Stand davor ist aufgehoben.");

@@ -12,6 +12,7 @@ namespace altardienst {
 /// What there is to tell beside the windows.
 struct Netzlage {
     Ladebefund Befund;                 // of the latest load from the hard disk
+    bool OhneKomma = false;            // the newest state is the whole of a file torn by a comma
     bool SpeichernAbgebrochen = false; // the files may be of two saves
     std::optional<Stand> Notfall;      // an emergency that waits for a decision
     Text Gescheitert;                  // why a state could not be written; empty: it could

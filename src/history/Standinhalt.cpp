@@ -215,6 +215,13 @@ Text Ladebefund::Satz() const
     return satz;
 }
 
+Standinhalt OhneKommas(Standinhalt inhalt)
+{
+    if (auto &bytes = inhalt.Dateien[DateiMeßdiener].Bytes)
+        std::ranges::replace(*bytes, ',', ';');
+    return inhalt;
+}
+
 Gelesenes InhaltLesen(const Standinhalt &inhalt)
 {
     const TabellenBeiseite beiseite;

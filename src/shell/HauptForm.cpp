@@ -18,6 +18,7 @@
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
 #include "history/Netz.h"
+#include "history/StändeForm.h"
 #include "people/GruppeForm.h"
 #include "people/HelferForm.h"
 #include "people/MeßdienerForm.h"
@@ -152,6 +153,7 @@ HauptForm::HauptForm()
     MenüDaten();
     MenüSortieren();
     MenüZusatz();
+    MenüÜberblick();
     MenüHilfe();
     Verbinden();
     Takt();
@@ -299,6 +301,12 @@ void HauptForm::MenüZusatz()
             DialogÖffnen<DatensicherungForm>();
     });
     Eintrag(zusatz, "DruckML", "Dienste &richtig setzen für Messenlistausdruck", DiensteVerteilen);
+}
+
+void HauptForm::MenüÜberblick()
+{
+    QMenu *überblick = Menü(menuBar(), "mnuÜberblick", "Ü&berblick");
+    Eintrag(überblick, "mnuStände", "&Frühere Stände", DialogÖffnen<StändeForm>);
 }
 
 void HauptForm::MenüHilfe()

@@ -44,6 +44,7 @@ class HauptForm : public QMainWindow {
     void MenüDaten();
     void MenüSortieren();
     void MenüZusatz();
+    void MenüÜberblick();
     void MenüHilfe();
 
     void Takt();

@@ -5,9 +5,11 @@
 #include "core/Allgemein.h"
 #include "history/Netz.h"
 #include "settings/KopierForm.h"
+#include "shell/Abschied.h"
 #include "shell/HauptForm.h"
 #include "shell/StartForm.h"
 
+#include <QApplication>
 #include <QPointer>
 
 namespace altardienst {
@@ -65,6 +67,15 @@ void StartZeigen()
         Start = new StartForm(HauptZeigen);
     if (!WirdKopiert())
         DialogDanebenÖffnen(Start);
+}
+
+void ProgrammVerlassen()
+{
+    if (!Haupt)
+        return QApplication::exit(0);
+    AndereFensterSchließen(Haupt);
+    Haupt->setEnabled(true); // a dialog that stays open would keep it from closing
+    Haupt->close();
 }
 
 void StartNeuZeigen()

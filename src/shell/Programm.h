@@ -11,6 +11,10 @@ void ProgrammStarten();
 /// Shows the start dialog again as it was left; creates it if there is none.
 void StartZeigen();
 
+/// Leaves by the exit routine, after writing what is typed in the windows that are open; before
+/// there is a main window there is nothing to save. Shows no message by itself.
+void ProgrammVerlassen();
+
 /// Deletes the start dialog and shows a new one, with the data loaded again.
 void StartNeuZeigen();
 

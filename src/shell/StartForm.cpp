@@ -1,6 +1,7 @@
 // The first window: loads the data, proposes the plan period, hands over to the main window.
 #include "shell/StartForm.h"
 
+#include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
@@ -11,8 +12,11 @@
 #include "core/Umwandlung.h"
 #include "core/tables.h"
 #include "fixed/FesteEinträge.h"
+#include "history/Netz.h"
+#include "history/StändeForm.h"
 #include "planning/MessenBestimmen.h"
 #include "platform/Uhr.h"
+#include "shell/Programm.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -31,6 +35,8 @@ StartForm::StartForm(std::function<void()> starten)
       Änderung1(new SpinButton("Änderung1", "Anzahl Tage ändern")),
       Endet(Beschriftung("Endet", "")), Dayig(Beschriftung("Dayig", "")),
       UHRZEIT(Beschriftung("UHRZEIT", "")), Starten(Knopf("Starten", "Starten")),
+      Hinweis(Beschriftung("Hinweis", "")),
+      FrühereStände(Knopf("FrühereStände", "&Frühere Stände")),
       Timer1(Benannt(new QTimer(this), "Timer1")), starten(std::move(starten))
 {
     Benannt(this, "Start");
@@ -38,6 +44,7 @@ StartForm::StartForm(std::function<void()> starten)
     Anordnen();
     Verbinden();
     Offen([this] { Laden(); })();
+    HinweisZeigen();
 }
 
 void StartForm::Anordnen()
@@ -84,6 +91,9 @@ void StartForm::Anordnen()
     spalte->addLayout(raster);
     spalte->addWidget(UHRZEIT);
     spalte->addLayout(unten);
+    Hinweis->setWordWrap(true);
+    spalte->addWidget(Hinweis);
+    spalte->addWidget(FrühereStände, 0, Qt::AlignRight);
     spalte->addStretch();
     Starten->setFocus();
 }
@@ -113,11 +123,20 @@ void StartForm::Verbinden()
                 starten();
                 hide();
             }));
+    connect(FrühereStände, &QPushButton::clicked, this,
+            Offen([] { DialogDanebenÖffnen<StändeForm>(StartNeuZeigen); }));
     auto uhrStellen = Nebenbei(
         [this] { UHRZEIT->setText(Anzeige(LangeZeit(ZeitAus(Uhr.Sekunden())) + " Uhr")); });
     connect(Timer1, &QTimer::timeout, this, uhrStellen);
     Timer1->start(50);
     uhrStellen();
+}
+
+void StartForm::HinweisZeigen()
+{
+    Setzen(Hinweis, Starthinweis());
+    Hinweis->setVisible(!Hinweis->text().isEmpty());
+    FrühereStände->setVisible(!Hinweis->text().isEmpty());
 }
 
 void StartForm::Laden()

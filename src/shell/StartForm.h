@@ -33,6 +33,8 @@ class StartForm : public QWidget {
     QLabel *Dayig;
     QLabel *UHRZEIT;
     QPushButton *Starten;
+    QLabel *Hinweis; // these two only where something was lost, or nearly
+    QPushButton *FrühereStände;
     QTimer *Timer1;
 
   protected:
@@ -43,6 +45,7 @@ class StartForm : public QWidget {
     void Verbinden();
     void Laden();
 
+    void HinweisZeigen();
     void Neuberechnen();
     void WochentageSetzen();
     void DatumVerschieben(int tage);

@@ -4,6 +4,7 @@
 #include "controls/Handler.h"
 #include "controls/Unerwartetes.h"
 #include "history/Netz.h"
+#include "shell/Abschied.h"
 #include "shell/Programm.h"
 
 #include <QIcon>
@@ -17,6 +18,7 @@ int main(int argc, char *argv[])
     QApplication::setWindowIcon(QIcon(":/altardienst.png"));
     QApplication::setDesktopFileName("altardienst"); // by which the desktop finds name and icon
     altardienst::NetzSpannen();
+    altardienst::BeiEndeVonAußen(altardienst::ProgrammVerlassen);
     bool gestartet = false;
     altardienst::Offen([&] {
         altardienst::ProgrammStarten();

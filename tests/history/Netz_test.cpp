@@ -319,10 +319,12 @@ TEST_F(NetzTest, EinLadenDasAufhörtIstGesagtBisZumNächstenVollständigen)
     Meßdiener.Straße[0] = "Am Markt 3, Hinterhaus";
     AufFestplatteSpeichern();
     Neustart();
-    EXPECT_EQ(Starthinweis(),
-              "Meßdiener.dat ist nur bis Zeile 5 gelesen; dort steht „Am Markt 3, Hinterhaus“. Das "
-              "Komma zerreißt die Datei. Was danach kommt, fehlt im Programm, und das Beenden "
-              "speichert es so.");
+    EXPECT_EQ(
+        Starthinweis(),
+        "Meßdiener.dat ist nur bis Zeile 5 gelesen; dort steht „Am Markt 3, Hinterhaus“. Das "
+        "Komma zerreißt die Datei. Was danach kommt, fehlt im Programm, und das Beenden "
+        "speichert es so.\nEin Stand mit Semikolon an Stelle des Kommas, in dem nichts fehlt, "
+        "ist aufgehoben.");
     EXPECT_EQ(Dauerhinweis(), "Nicht alles geladen: Meßdiener.dat");
     EXPECT_EQ(Meßdiener.Nachname[1], "") << "the load does what it does";
     EXPECT_TRUE(GezeigteMeldungen.empty());
@@ -332,6 +334,39 @@ TEST_F(NetzTest, EinLadenDasAufhörtIstGesagtBisZumNächstenVollständigen)
     VonFestplatteLaden();
     EXPECT_EQ(Dauerhinweis(), "");
     NetzlageGeändert = [] {};
+}
+
+TEST_F(NetzTest, DasZerrisseneIstAuchOhneKommaAufgehobenUndNurEinmal)
+{
+    Neustart();
+    Meßdiener.Straße[0] = "Am Markt 3, Hinterhaus";
+    Meßdiener.Straße[1] = "Weg 1, 2";
+    AufFestplatteSpeichern();
+    const Standinhalt zerrissen = AufDerPlatte();
+    Neustart();
+    EXPECT_EQ(Namen().size(), 3U);
+    Neustart();
+    Neustart();
+    const auto stände = AlleStände();
+    ASSERT_EQ(stände.size(), 3U) << "before, torn, whole";
+    EXPECT_TRUE(InhaltVon(stände[1].Ort) == zerrissen);
+    StandZurückholen(stände[2]);
+    EXPECT_EQ(Meßdiener.Straße[0], "Am Markt 3; Hinterhaus");
+    EXPECT_EQ(Meßdiener.Straße[1], "Weg 1; 2");
+    EXPECT_EQ(Meßdiener.Nachname[1], "Busch");
+    EXPECT_EQ(Helfer.Nachname[0], "Linde");
+    EXPECT_EQ(Starthinweis(), "");
+}
+
+// With a comma and something else wrong there is no whole.
+TEST_F(NetzTest, WasAuchOhneKommaNichtLädtIstNichtGeheilt)
+{
+    Meßdiener.Straße[0] = "Am Markt 3, Hinterhaus";
+    AufFestplatteSpeichern();
+    DateiSchreiben(Festplatte / "Helfer.dat", "kaputt");
+    Neustart();
+    EXPECT_EQ(Namen().size(), 1U);
+    EXPECT_FALSE(Netz().OhneKomma);
 }
 
 TEST_F(NetzTest, DerBlickDanachLäßtTabellenUndZählerWieDasLaden)

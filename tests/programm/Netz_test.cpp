@@ -2,6 +2,8 @@
 #include "history/Netzstand.h"
 #include "programm/Programmlauf.h"
 
+#include <csignal>
+
 namespace altardienst {
 namespace {
 
@@ -38,6 +40,67 @@ TEST_F(ProgrammnetzTest, EinLaufHebtDenStandSeinesStartsAufUndHinterläßtSonstN
     ASSERT_EQ(stände.size(), 1U) << "the sample parish is saved as it was loaded";
     EXPECT_TRUE(InhaltVon(stände[0].Ort) == InhaltVon(BEISPIELDATEN));
     EXPECT_EQ(std::distance(fs::directory_iterator(Ständeverzeichnis()), {}), 1);
+}
+
+TEST_F(ProgrammnetzTest, EinSignalEndetWieBeenden)
+{
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
+        SCOPED_TRACE(signal);
+        fs::remove(daten / "Helfer.dat"); // only a save brings it back
+        fs::copy_file(fs::path(BEISPIELDATEN) / "Helfer.dat", daten / "Helfer.dat");
+        Programmlauf lauf(daten);
+        InsHauptfenster(lauf);
+        fs::remove(daten / "Helfer.dat");
+        lauf.Signal(signal);
+        EXPECT_EQ(lauf.Ende(), 0);
+        EXPECT_TRUE(InhaltVon(daten) == InhaltVon(BEISPIELDATEN));
+    }
+    for (const Stand &stand : AlleStände())
+        EXPECT_EQ(stand.Art, Standart::Gewöhnlich);
+}
+
+TEST_F(ProgrammnetzTest, EinSignalVorDemHauptfensterSpeichertNichts)
+{
+    Programmlauf lauf(daten);
+    EXPECT_EQ(lauf.Fenster("Start"), "Start");
+    fs::remove(daten / "Helfer.dat");
+    lauf.Signal(SIGTERM);
+    EXPECT_EQ(lauf.Ende(), 0);
+    EXPECT_FALSE(fs::exists(daten / "Helfer.dat"));
+}
+
+TEST_F(ProgrammnetzTest, EinSignalWährendEinerMeldungEndetAuch)
+{
+    Programmlauf lauf(daten);
+    InsHauptfenster(lauf);
+    EXPECT_EQ(lauf.Befehl("klick Dienstus"), "ok");
+    EXPECT_EQ(lauf.Fenster("Haupt Meldung"), "Haupt Meldung");
+    fs::remove(daten / "Helfer.dat");
+    lauf.Signal(SIGTERM);
+    EXPECT_EQ(lauf.Ende(), 0);
+    EXPECT_TRUE(InhaltVon(daten) == InhaltVon(BEISPIELDATEN));
+}
+
+TEST_F(ProgrammnetzTest, EinAbsturzLäßtEinenNotfallZurückDenDerNächsteStartAnbietet)
+{
+    {
+        Programmlauf lauf(daten);
+        InsHauptfenster(lauf);
+        EXPECT_EQ(lauf.Befehl("klick Messenorgani"), "ok"); // the plan differs from what is saved
+        EXPECT_EQ(lauf.Warten("meldungen", "1"), "1");
+        EXPECT_EQ(lauf.Befehl("klick OK"), "ok");
+        EXPECT_EQ(lauf.Warten("meldungen", "1"), "1");
+        lauf.Signal(SIGSEGV);
+        EXPECT_EQ(lauf.Ende(), -1);
+    }
+    EXPECT_EQ(AlleStände().back().Art, Standart::Notfall);
+    EXPECT_TRUE(InhaltVon(daten) == InhaltVon(BEISPIELDATEN)) << "the eight files are not touched";
+    Programmlauf lauf(daten);
+    EXPECT_EQ(lauf.Fenster("Start"), "Start");
+    EXPECT_TRUE(lauf.Befehl("text Hinweis").starts_with("Das Programm hat ein schlechtes Ende"));
+    EXPECT_EQ(lauf.Befehl("text FrühereStände"), "&Frühere Stände");
+    EXPECT_EQ(lauf.Befehl("klick FrühereStände"), "ok");
+    EXPECT_EQ(lauf.Fenster("Start Stände"), "Start Stände");
 }
 
 } // namespace

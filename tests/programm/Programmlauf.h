@@ -11,6 +11,8 @@
 #include <functional>
 #include <stdexcept>
 
+#include <csignal>
+
 namespace altardienst {
 
 class Programmlauf {
@@ -66,6 +68,9 @@ class Programmlauf {
 
     /// Waits until these windows are open; returns the open ones.
     Text Fenster(const Text &erwartet) { return Warten("fenster", erwartet); }
+
+    /// Sends it a signal.
+    void Signal(int signal) const { kill(static_cast<pid_t>(prozess.processId()), signal); }
 
     /// The exit code of the program; -1 if it doesn't end.
     int Ende()

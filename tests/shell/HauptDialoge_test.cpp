@@ -50,7 +50,7 @@ class HauptDialogeTest : public Hauptstand {
     {
         std::vector<Weg> wege;
         Einträge(haupt->menuBar(), wege);
-        EXPECT_EQ(wege.size(), 44U);
+        EXPECT_EQ(wege.size(), 45U);
         for (QPushButton *knopf :
              {haupt->Messenorgani, haupt->Meßdienernern, haupt->Dienstus, haupt->MeßdienerMessen,
               haupt->Helfend, haupt->AnzMesse, haupt->Messendruck})
@@ -146,7 +146,7 @@ class HauptDialogeTest : public Hauptstand {
                                    "StatDienst",     "StatistikAllg", "StatistikHelfer",
                                    "StatHelfer",     "Dialog",        "Dateikopie",
                                    "Datensicherung", "frmAbout",      "NeuMesseDienerFest",
-                                   "ZusatzKonfig",   "Skalierung"};
+                                   "ZusatzKonfig",   "Skalierung",    "Stände"};
         namen.insert(namen.end(), dazu.begin(), dazu.end());
         std::sort(namen.begin(), namen.end());
         return namen;

@@ -99,6 +99,8 @@ TEST_F(HauptMenüTest, HatSeineEinträgeInIhrerFolge)
                           "    mnuDatenHolen | Daten &holen",
                           "    mnuDatenSichern | Daten &sichern",
                           "  DruckML | Dienste &richtig setzen für Messenlistausdruck",
+                          "mnuÜberblick | Ü&berblick",
+                          "  mnuStände | &Frühere Stände",
                           "mnuHelp | &?",
                           "  mnuHelpAbout | &Info zur Anwendung",
                       }));
@@ -132,6 +134,7 @@ TEST_F(HauptMenüTest, WasOhneDialogAuskommtIstWählbar)
                              "mnuHintergrund",
                              "mnuDatenHolen",
                              "mnuDatenSichern",
+                             "mnuStände",
                              "mnuHelpAbout",
                              "DruckML"})
         EXPECT_TRUE(Finden<QAction>(haupt, name)->isEnabled()) << name;
@@ -174,6 +177,7 @@ TEST_F(HauptMenüTest, JederEintragÖffnetSeineFormUndSperrtDasHauptfenster)
         {"mnuMessenlisteText", "Dialog"},
         {"mnuDatenHolen", "Dateikopie"},
         {"mnuDatenSichern", "Datensicherung"},
+        {"mnuStände", "Stände"},
     };
     MeßdienerAnlegen("Kim", "Adler"); // there are no figures about nobody
     for (const auto &[eintrag, form] : formen) {

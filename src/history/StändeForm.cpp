@@ -1,0 +1,207 @@
+// "Frühere Stände": the list of earlier states, what differs from now, and bringing one back.
+#include "history/StändeForm.h"
+
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
+#include "core/Umwandlung.h"
+#include "history/Netz.h"
+#include "history/Unterschiede.h"
+#include "platform/Meldungen.h"
+
+#include <QHeaderView>
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
+
+namespace altardienst {
+namespace {
+
+enum Spaltennummer { StandSpalte, Diener, Helferspalte, Messen, Zeitraum, Seither, Spaltenzahl };
+
+QTableWidgetItem *Zelle(const Text &text, bool zahl = false)
+{
+    auto *zelle = new QTableWidgetItem(Anzeige(text));
+    zelle->setToolTip(Anzeige(text));
+    if (zahl)
+        zelle->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return zelle;
+}
+
+QTableWidget *Ständeliste()
+{
+    auto *liste = Benannt(new QTableWidget(0, Spaltenzahl), "Liste");
+    liste->setHorizontalHeaderLabels(
+        {"Stand", "Meßdiener", "Helfer", "Messen", "Zeitraum", "Was sich seither geändert hat"});
+    liste->setAccessibleName("Frühere Stände");
+    liste->setSelectionBehavior(QAbstractItemView::SelectRows);
+    liste->setSelectionMode(QAbstractItemView::SingleSelection);
+    liste->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    liste->setTabKeyNavigation(false);
+    liste->setWordWrap(false);
+    liste->verticalHeader()->hide();
+    liste->horizontalHeader()->setStretchLastSection(true);
+    liste->horizontalHeader()->setHighlightSections(false);
+    return liste;
+}
+
+} // namespace
+
+Text StandText(const Stand &stand)
+{
+    Text text = KurzesDatum(stand.Zeit.Tag) + ", " + LangeZeit(ZeitAus(stand.Zeit.Sekunde));
+    if (stand.Zeit.Nummer > 1)
+        text += " (" + ZahlText(stand.Zeit.Nummer) + ")";
+    return stand.Art == Standart::Gewöhnlich ? text : text + " Notfall";
+}
+
+StändeForm::StändeForm(std::function<void()> zurückgeholt)
+    : Liste(Ständeliste()), Ansicht(Benannt(new QPlainTextEdit, "Ansicht")),
+      Hinweis(Beschriftung("Hinweis", "")), Ansehen(Knopf("Ansehen", "&Ansehen")),
+      Zurückholen(Knopf("Zurückholen", "&Zurückholen")), Ende(Knopf("Ende", "&Ende")),
+      zurückgeholt(std::move(zurückgeholt)), stände(AlleStände()), jetzt(TabellenAufnehmen())
+{
+    Benannt(this, "Stände");
+    setWindowTitle("Frühere Stände");
+    std::ranges::reverse(stände);
+    Anordnen();
+    Verbinden();
+    Gewählt();
+}
+
+void StändeForm::Anordnen()
+{
+    Liste->setRowCount(static_cast<int>(stände.size()));
+    for (int zeile = 0; zeile < Liste->rowCount(); ++zeile)
+        Liste->setItem(zeile, StandSpalte,
+                       Zelle(StandText(stände[static_cast<std::size_t>(zeile)])));
+    Liste->resizeColumnToContents(StandSpalte);
+    const int ziffer = Liste->fontMetrics().horizontalAdvance('0');
+    Liste->setColumnWidth(Diener, 10 * ziffer);
+    Liste->setColumnWidth(Helferspalte, 8 * ziffer);
+    Liste->setColumnWidth(Messen, 8 * ziffer);
+    Liste->setColumnWidth(Zeitraum, 26 * ziffer);
+    Ansicht->setReadOnly(true);
+    Ansicht->setTabChangesFocus(true);
+    Ansicht->setAccessibleName("Was sich seit dem gewählten Stand geändert hat");
+    Ansicht->hide();
+    Hinweis->setWordWrap(true);
+    if (stände.empty())
+        Setzen(Hinweis, "Es gibt noch keine früheren Stände. Bei jedem Start hebt das Programm die "
+                        "acht Dateien auf, wenn sie sich geändert haben.");
+
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
+    spalte->addWidget(Liste, 3);
+    spalte->addWidget(Ansicht, 2);
+    spalte->addWidget(Hinweis);
+    spalte->addLayout(Knopfreihe({Ende}, {Ansehen, Zurückholen}));
+    resize(660, 440);
+    Liste->setFocus();
+}
+
+void StändeForm::Verbinden()
+{
+    connect(Liste, &QTableWidget::itemSelectionChanged, this, Offen([this] { Gewählt(); }));
+    connect(Liste, &QTableWidget::itemActivated, this, Offen([this] { AnsichtZeigen(); }));
+    connect(Ansehen, &QPushButton::clicked, this, Offen([this] { AnsichtZeigen(); }));
+    connect(Zurückholen, &QPushButton::clicked, this, Offen([this] { StandHolen(); }));
+    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+    QTimer::singleShot(0, this, Nebenbei([this] { NächsteZeile(); }));
+}
+
+int StändeForm::Zeile() const
+{
+    const auto gewählte = Liste->selectionModel()->selectedRows();
+    return gewählte.isEmpty() ? -1 : gewählte.front().row();
+}
+
+/// What is to be said of a state in one line: first that it is not whole.
+Text StändeForm::Satz(const Gelesenes &gelesenes) const
+{
+    const Text befund = gelesenes.Befund.Satz();
+    return befund.empty() ? UnterschiedeZwischen(gelesenes.Tabellen, jetzt).Kurz
+                          : "unvollständig: " + befund;
+}
+
+void StändeForm::NächsteZeile()
+{
+    if (gefüllt >= Liste->rowCount())
+        return;
+    const int zeile = gefüllt++;
+    const Gelesenes gelesenes = InhaltLesen(InhaltVon(stände[static_cast<std::size_t>(zeile)].Ort));
+    const Standübersicht übersicht = ÜbersichtVon(gelesenes.Tabellen);
+    Liste->setItem(zeile, Diener, Zelle(ZahlText(übersicht.Diener), true));
+    Liste->setItem(zeile, Helferspalte, Zelle(ZahlText(übersicht.Messehelfer), true));
+    Liste->setItem(zeile, Messen, Zelle(ZahlText(übersicht.Messen), true));
+    Liste->setItem(zeile, Zeitraum, Zelle(übersicht.Zeitraum));
+    Liste->setItem(zeile, Seither, Zelle(Satz(gelesenes)));
+    Vorwählen(zeile, gelesenes.Befund.Was == Ladebefund::Vollständig);
+    QTimer::singleShot(0, this, Nebenbei([this] { NächsteZeile(); }));
+}
+
+/// The one that whoever comes here from a warning needs: the emergency that waits, else the newest
+/// whose files load whole.
+void StändeForm::Vorwählen(int zeile, bool ganz)
+{
+    if (vorgewählt || !ganz)
+        return;
+    const auto &notfall = Netz().Notfall;
+    if (notfall && stände[static_cast<std::size_t>(zeile)].Ort != notfall->Ort)
+        return;
+    Liste->selectRow(zeile);
+    Liste->setCurrentCell(zeile, StandSpalte);
+}
+
+void StändeForm::Gewählt()
+{
+    vorgewählt = vorgewählt || Zeile() >= 0;
+    Ansehen->setEnabled(Zeile() >= 0);
+    Zurückholen->setEnabled(Zeile() >= 0);
+    if (Ansicht->isVisible())
+        AnsichtZeigen();
+}
+
+void StändeForm::AnsichtZeigen()
+{
+    if (Zeile() < 0)
+        return;
+    const Stand &stand = stände[static_cast<std::size_t>(Zeile())];
+    const Gelesenes gelesenes = InhaltLesen(InhaltVon(stand.Ort));
+    const Unterschiede unterschiede = UnterschiedeZwischen(gelesenes.Tabellen, jetzt);
+    Text text = StandText(stand) + "\n";
+    if (const Text befund = gelesenes.Befund.Satz(); !befund.empty())
+        text += befund + "\n";
+    if (unterschiede.Zeilen.empty())
+        text += "Nichts hat sich seither geändert.";
+    for (const Text &zeile : unterschiede.Zeilen)
+        text += zeile + "\n";
+    Ansicht->setPlainText(Anzeige(text));
+    Ansicht->show();
+}
+
+void StändeForm::StandHolen()
+{
+    if (Zeile() < 0)
+        return;
+    const Stand stand = stände[static_cast<std::size_t>(Zeile())];
+    const Standinhalt inhalt = InhaltVon(stand.Ort);
+    if (!inhalt.Vollzählig())
+        return Setzen(Hinweis, "Dieser Stand läßt sich nicht zurückholen: " +
+                                   InhaltLesen(inhalt).Befund.Satz());
+    if (!Meldungen.Fragen("Den Stand vom " + StandText(stand) +
+                              " zurückholen? Was das Programm jetzt weiß, wird vorher als eigener "
+                              "Stand aufgehoben.",
+                          "Zurückholen"))
+        return;
+    try {
+        StandZurückholen(stand);
+    } catch (const Laufzeitfehler &fehler) {
+        return Setzen(Hinweis,
+                      Text("Dieser Stand läßt sich nicht zurückholen: ") + fehler.what() + ".");
+    }
+    close();
+    zurückgeholt();
+}
+
+} // namespace altardienst
