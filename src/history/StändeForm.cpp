@@ -33,7 +33,7 @@ QTableWidget *Ständeliste()
 {
     auto *liste = Benannt(new QTableWidget(0, Spaltenzahl), "Liste");
     liste->setHorizontalHeaderLabels(
-        {"Stand", "Meßdiener", "Helfer", "Messen", "Zeitraum", "Was sich seither geändert hat"});
+        {"Stand", "Meßdiener", "Helfer", "Messen", "Zeitraum", "Seither"});
     liste->setAccessibleName("Frühere Stände");
     liste->setSelectionBehavior(QAbstractItemView::SelectRows);
     liste->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -41,6 +41,8 @@ QTableWidget *Ständeliste()
     liste->setTabKeyNavigation(false);
     liste->setWordWrap(false);
     liste->verticalHeader()->hide();
+    liste->verticalHeader()->setDefaultSectionSize(liste->fontMetrics().height() + 8);
+    liste->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     liste->horizontalHeader()->setStretchLastSection(true);
     liste->horizontalHeader()->setHighlightSections(false);
     return liste;
@@ -96,7 +98,7 @@ void StändeForm::Anordnen()
     spalte->addWidget(Ansicht, 2);
     spalte->addWidget(Hinweis);
     spalte->addLayout(Knopfreihe({Ende}, {Ansehen, Zurückholen}));
-    resize(660, 440);
+    resize(900, 520);
     Liste->setFocus();
 }
 
@@ -108,6 +110,13 @@ void StändeForm::Verbinden()
     connect(Zurückholen, &QPushButton::clicked, this, Offen([this] { StandHolen(); }));
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
     QTimer::singleShot(0, this, Nebenbei([this] { NächsteZeile(); }));
+}
+
+/// The last column has seldom room for it.
+Text StändeForm::SeitherIn(int zeile) const
+{
+    const QTableWidgetItem *zelle = Liste->item(zeile, Seither);
+    return zelle ? "Seither: " + zelle->text().toStdString() : "";
 }
 
 int StändeForm::Zeile() const
@@ -136,6 +145,8 @@ void StändeForm::NächsteZeile()
     Liste->setItem(zeile, Messen, Zelle(ZahlText(übersicht.Messen), true));
     Liste->setItem(zeile, Zeitraum, Zelle(übersicht.Zeitraum));
     Liste->setItem(zeile, Seither, Zelle(Satz(gelesenes)));
+    if (zeile == Zeile())
+        Setzen(Hinweis, SeitherIn(zeile));
     Vorwählen(zeile, gelesenes.Befund.Was == Ladebefund::Vollständig);
     QTimer::singleShot(0, this, Nebenbei([this] { NächsteZeile(); }));
 }
@@ -158,6 +169,8 @@ void StändeForm::Gewählt()
     vorgewählt = vorgewählt || Zeile() >= 0;
     Ansehen->setEnabled(Zeile() >= 0);
     Zurückholen->setEnabled(Zeile() >= 0);
+    if (Zeile() >= 0)
+        Setzen(Hinweis, SeitherIn(Zeile()));
     if (Ansicht->isVisible())
         AnsichtZeigen();
 }

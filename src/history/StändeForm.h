@@ -40,6 +40,7 @@ class StändeForm : public Dialogfenster {
     void StandHolen();
 
     int Zeile() const;
+    Text SeitherIn(int zeile) const;
     Text Satz(const Gelesenes &gelesenes) const;
 
     std::function<void()> zurückgeholt;

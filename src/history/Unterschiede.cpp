@@ -113,19 +113,21 @@ Text MessenÄnderung(const std::vector<Text> &damals, const std::vector<Text> &j
     return Reihe(teile, ", ");
 }
 
-Text DienerName(const MeßdienerTabelle &tabelle, int i)
+Text OderOhneNamen(const Text &name)
 {
-    return tabelle.Nachname[i] + ", " + tabelle.Vorname[i];
+    return name.empty() ? "ohne Namen" : name;
 }
 
-Text HelferName(const HelferTabelle &tabelle, int i)
+template <class Tabelle> Text Personenname(const Tabelle &tabelle, int i)
 {
-    return tabelle.Nachname[i] + ", " + tabelle.Vorname[i];
+    const Text &nach = tabelle.Nachname[i];
+    const Text &vor = tabelle.Vorname[i];
+    return OderOhneNamen(nach + (nach.empty() || vor.empty() ? "" : ", ") + vor);
 }
 
 Text GruppenName(const GruppeTabelle &tabelle, int i)
 {
-    return tabelle.Bezeichnung[i];
+    return OderOhneNamen(tabelle.Bezeichnung[i]);
 }
 
 Text MessenName(const MesseTabelle &tabelle, int i)
@@ -176,23 +178,22 @@ class Bericht {
         auto alte = NachNamen(art, damals);
         for (auto &[name, neue] : NachNamen(art, jetzt)) {
             const std::vector<int> &zuvor = alte[name];
-            for (std::size_t k = 0; k < neue.size(); ++k) {
-                if (k >= zuvor.size()) {
-                    ++zählung.Gekommen;
-                    Zeile(art.Wort, name, "gekommen");
-                } else if (const auto a = FelderVon(damals, zuvor[k]),
-                           b = FelderVon(jetzt, neue[k]);
-                           a != b) {
-                    ++zählung.Geändert;
-                    Zeile(art.Wort, name, art.Änderung(a, b));
-                }
+            for (std::size_t k = 0; k < std::min(neue.size(), zuvor.size()); ++k) {
+                const auto a = FelderVon(damals, zuvor[k]);
+                const auto b = FelderVon(jetzt, neue[k]);
+                if (a == b)
+                    continue;
+                ++zählung.Geändert;
+                Zeile(art.Wort, name, art.Änderung(a, b));
             }
+            if (neue.size() > zuvor.size())
+                Zählen(zählung.Gekommen, neue.size() - zuvor.size(), art.Wort, name, "gekommen");
             if (neue.size() < zuvor.size())
-                Gegangen(art.Wort, name, zuvor.size() - neue.size(), zählung);
+                Zählen(zählung.Gegangen, zuvor.size() - neue.size(), art.Wort, name, "gegangen");
             alte.erase(name);
         }
         for (const auto &[name, zuvor] : alte)
-            Gegangen(art.Wort, name, zuvor.size(), zählung);
+            Zählen(zählung.Gegangen, zuvor.size(), art.Wort, name, "gegangen");
         Kurz(InWorten(mehrzahl, zählung));
     }
 
@@ -228,12 +229,12 @@ class Bericht {
         ergebnis.Zeilen.push_back(Text(wort) + " " + name + ": " + was);
     }
 
-    void Gegangen(const char *wort, const Text &name, std::size_t wieviele, Zählung &zählung)
+    void Zählen(int &zähler, std::size_t wieviele, const char *wort, const Text &name, Text was)
     {
-        for (; wieviele > 0; --wieviele) {
-            ++zählung.Gegangen;
-            Zeile(wort, name, "gegangen");
-        }
+        zähler += static_cast<int>(wieviele);
+        if (wieviele > 1)
+            was += " (" + std::to_string(wieviele) + "mal)";
+        Zeile(wort, name, was);
     }
 
     void Kurz(const Text &teil)
@@ -283,9 +284,11 @@ Standübersicht ÜbersichtVon(const Tabellenstand &stand)
 Unterschiede UnterschiedeZwischen(const Tabellenstand &damals, const Tabellenstand &jetzt)
 {
     Bericht bericht;
-    bericht.Aufnehmen<MeßdienerTabelle>("Meßdiener", {"Meßdiener", DienerName, DienerÄnderung},
-                                        *damals.Diener, *jetzt.Diener);
-    bericht.Aufnehmen<HelferTabelle>("Helfer", {"Helfer", HelferName, HelferÄnderung},
+    bericht.Aufnehmen<MeßdienerTabelle>(
+        "Meßdiener", {"Meßdiener", Personenname<MeßdienerTabelle>, DienerÄnderung}, *damals.Diener,
+        *jetzt.Diener);
+    bericht.Aufnehmen<HelferTabelle>("Helfer",
+                                     {"Helfer", Personenname<HelferTabelle>, HelferÄnderung},
                                      *damals.Messehelfer, *jetzt.Messehelfer);
     bericht.Aufnehmen<GruppeTabelle>("Gruppen", {"Gruppe", GruppenName, NichtNäher},
                                      *damals.Gruppen, *jetzt.Gruppen);

@@ -70,6 +70,7 @@ TEST_F(StändeFormTest, DieListeNenntDieNeuestenZuerstUndWasSeitherAndersIst)
               (std::vector<Text>{"21.11.2026, 12:01:00", "1", "0", "1", "22.11.2026 bis 22.11.2026",
                                  "Meßdiener: 2 gekommen; Messen: 1 gekommen"}));
     EXPECT_EQ(form->Liste->currentRow(), 0);
+    EXPECT_EQ(Zeigt("Hinweis"), "Seither: Meßdiener: 1 gekommen");
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 

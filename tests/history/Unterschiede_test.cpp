@@ -62,6 +62,11 @@ TEST_F(UnterschiedeTest, ZweiGleichenNamensWerdenGezählt)
 {
     MeßdienerAnlegen("Kim", "Adler");
     EXPECT_EQ(Jetzt().Zeilen, Liste{"Meßdiener Adler, Kim: gekommen"});
+    Meßdiener.Anzahl += 3;
+    EXPECT_EQ(Jetzt().Kurz, "Meßdiener: 4 gekommen");
+    EXPECT_EQ(Jetzt().Zeilen,
+              (Liste{"Meßdiener Adler, Kim: gekommen", "Meßdiener ohne Namen: gekommen (3mal)"}));
+    Meßdiener.Anzahl -= 3;
     damals = TabellenAufnehmen();
     Meßdiener.Anzahl -= 2;
     EXPECT_EQ(Jetzt().Zeilen,
