@@ -61,7 +61,7 @@ Text StandText(const Stand &stand)
 StändeForm::StändeForm(std::function<void()> zurückgeholt)
     : Liste(Ständeliste()), Ansicht(Benannt(new QPlainTextEdit, "Ansicht")),
       Hinweis(Beschriftung("Hinweis", "")), Ansehen(Knopf("Ansehen", "&Ansehen")),
-      Zurückholen(Knopf("Zurückholen", "&Zurückholen")), Ende(Knopf("Ende", "&Ende")),
+      Zurückholen(Knopf("Zurückholen", "&Zurückholen")), Ende(Knopf("Ende", "Ende")),
       zurückgeholt(std::move(zurückgeholt)), stände(AlleStände()), jetzt(TabellenAufnehmen())
 {
     Benannt(this, "Stände");
