@@ -29,6 +29,14 @@ QTableWidgetItem *Zelle(const Text &text, bool zahl = false)
     return zelle;
 }
 
+Text ZeitText(const Stand &stand)
+{
+    Text text = KurzesDatum(stand.Zeit.Tag) + ", " + LangeZeit(ZeitAus(stand.Zeit.Sekunde));
+    if (stand.Zeit.Nummer > 1)
+        text += " (" + ZahlText(stand.Zeit.Nummer) + ")";
+    return text;
+}
+
 QTableWidget *Ständeliste()
 {
     auto *liste = Benannt(new QTableWidget(0, Spaltenzahl), "Liste");
@@ -52,9 +60,7 @@ QTableWidget *Ständeliste()
 
 Text StandText(const Stand &stand)
 {
-    Text text = KurzesDatum(stand.Zeit.Tag) + ", " + LangeZeit(ZeitAus(stand.Zeit.Sekunde));
-    if (stand.Zeit.Nummer > 1)
-        text += " (" + ZahlText(stand.Zeit.Nummer) + ")";
+    const Text text = ZeitText(stand);
     return stand.Art == Standart::Gewöhnlich ? text : text + " Notfall";
 }
 
@@ -202,10 +208,12 @@ void StändeForm::StandHolen()
     if (!inhalt.Vollzählig())
         return Setzen(Hinweis, "Dieser Stand läßt sich nicht zurückholen: " +
                                    InhaltLesen(inhalt).Befund.Satz());
-    if (!Meldungen.Fragen("Den Stand vom " + StandText(stand) +
-                              " zurückholen? Was das Programm jetzt weiß, wird vorher als eigener "
-                              "Stand aufgehoben.",
-                          "Zurückholen"))
+    if (!Meldungen.Fragen(
+            (stand.Art == Standart::Gewöhnlich ? "Den Stand vom " : "Den Notfall vom ") +
+                ZeitText(stand) +
+                " zurückholen? Was das Programm jetzt weiß, wird vorher als eigener "
+                "Stand aufgehoben.",
+            "Zurückholen"))
         return;
     try {
         StandZurückholen(stand);
