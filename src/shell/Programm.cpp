@@ -2,6 +2,7 @@
 #include "shell/Programm.h"
 
 #include "application/Anwendung.h"
+#include "controls/Bausteine.h"
 #include "core/Allgemein.h"
 #include "history/Netz.h"
 #include "settings/KopierForm.h"
@@ -11,6 +12,7 @@
 
 #include <QApplication>
 #include <QPointer>
+#include <QStatusBar>
 
 namespace altardienst {
 namespace {
@@ -21,6 +23,24 @@ QPointer<HauptForm> Haupt;
 bool WirdKopiert()
 {
     return OffeneForm<DateienKopierenForm>() != nullptr;
+}
+
+/// At the right end of the status bar, which is there for it if for nothing else.
+void NetzlageZeigen()
+{
+    if (!Haupt)
+        return;
+    const Text hinweis = Dauerhinweis();
+    auto *feld = Haupt->findChild<QLabel *>("Netzhinweis");
+    if (!feld && hinweis.empty())
+        return;
+    if (!feld) {
+        feld = Beschriftung("Netzhinweis", "");
+        Haupt->statusBar()->addPermanentWidget(feld);
+    }
+    Setzen(feld, hinweis);
+    feld->setToolTip(Anzeige(Starthinweis()));
+    feld->setVisible(!hinweis.empty());
 }
 
 /// A start dialog that was shown again after a load from the menu leads back to the existing main
@@ -34,6 +54,7 @@ void HauptZeigen()
     Haupt->showMaximized();
     Haupt->activateWindow();
     ArbeitBeginnt();
+    NetzlageZeigen();
 }
 
 /// The start dialog comes back, with what was copied or as it was left.
@@ -58,6 +79,7 @@ void KopierdialogZeigen()
 void ProgrammStarten()
 {
     DateienKopierenZeigen = KopierdialogZeigen;
+    NetzlageGeändert = NetzlageZeigen;
     StartNeuZeigen();
 }
 

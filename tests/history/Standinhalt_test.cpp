@@ -209,6 +209,14 @@ TEST_F(StandinhaltTest, GelesenIstWasBisDahinStandUndDieTabellenBleiben)
     EXPECT_EQ(Helfer.Anzahl, 1);
 }
 
+TEST_F(StandinhaltTest, DieSkalenSindBegrenztWieNachEinemLaden)
+{
+    AufFestplatteSpeichern();
+    ZeileErsetzen("Konfig.cfg", 21, " 0 ");
+    EXPECT_EQ(InhaltLesen(InhaltVon(Festplatte)).Tabellen.Einstellungen->XSkala,
+              KonfigDatensatz::SkalaVorgabe);
+}
+
 TEST_F(StandinhaltTest, EinZitatIstNichtLängerAlsEineZeile)
 {
     AufFestplatteSpeichern();

@@ -65,6 +65,42 @@ TEST_F(StartHinweisTest, DasKommaIstGenanntUndInZweiKlicksIstAllesWiederDa)
     EXPECT_EQ(GestellteFragen.size(), 1U);
 }
 
+TEST_F(StartHinweisTest, DasHauptfensterSagtEsBisZumNächstenVollständigenLaden)
+{
+    KommaSpeichern();
+    NetzSpannen();
+    ProgrammStarten();
+    Klick(Finden(Fenster("Start"), "Starten"));
+    QWidget *haupt = Fenster("Haupt");
+    auto *hinweis = Finden<QLabel>(haupt, "Netzhinweis");
+    EXPECT_TRUE(Warten([&] { return hinweis->isVisible(); }));
+    EXPECT_EQ(Zeigt(hinweis), "Nicht alles geladen: Meßdiener.dat");
+    MenüWählen(haupt, "mnuDatenspeichern");
+    EXPECT_TRUE(hinweis->isVisible());
+    MenüWählen(haupt, "mnuDatenladen"); // what was saved without the rest
+    EXPECT_FALSE(hinweis->isVisible());
+}
+
+TEST_F(StartHinweisTest, EinStandDerSichNichtSchreibenLäßtStehtNurInDerStatuszeile)
+{
+    DateiSchreiben(Festplatte / PfadAus("Stände"), "im Weg");
+    NetzSpannen();
+    ProgrammStarten();
+    EXPECT_FALSE(Finden(Fenster("Start"), "Hinweis")->isVisible());
+    Klick(Finden(Fenster("Start"), "Starten"));
+    EXPECT_TRUE(Zeigt(Finden<QLabel>(Fenster("Haupt"), "Netzhinweis"))
+                    .starts_with("Kein früherer Stand aufgehoben: "));
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(StartHinweisTest, OhneEtwasZuSagenIstNichtsInDerStatuszeile)
+{
+    NetzSpannen();
+    ProgrammStarten();
+    Klick(Finden(Fenster("Start"), "Starten"));
+    EXPECT_FALSE(Fenster("Haupt")->findChild<QLabel *>("Netzhinweis"));
+}
+
 TEST_F(StartHinweisTest, DerHinweisÄndertNichtsAmStarten)
 {
     KommaSpeichern();
