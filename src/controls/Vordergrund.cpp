@@ -7,6 +7,11 @@
 #include <utility>
 
 namespace altardienst {
+namespace {
+
+constexpr const char *Nachlesen = "zumNachlesen"; // the property of such a window
+
+} // namespace
 
 void BeiRückkehr(QWidget *form, std::function<void()> handler, std::function<void()> beimVerlassen)
 {
@@ -14,7 +19,8 @@ void BeiRückkehr(QWidget *form, std::function<void()> handler, std::function<vo
                      [form, handler = std::move(handler), beimVerlassen = std::move(beimVerlassen),
                       warFort = false](const QWindow *jetzt) mutable {
                          const QWindow *eigenes = form->windowHandle(); // none before it is shown
-                         if (!eigenes || !jetzt || jetzt->type() != Qt::Window)
+                         if (!eigenes || !jetzt || jetzt->type() != Qt::Window ||
+                             IstZumNachlesen(jetzt))
                              return;
                          if (jetzt == eigenes) {
                              if (std::exchange(warFort, false))
@@ -23,6 +29,22 @@ void BeiRückkehr(QWidget *form, std::function<void()> handler, std::function<vo
                              beimVerlassen();
                          }
                      });
+}
+
+void ZumNachlesen(QWidget *fenster)
+{
+    fenster->winId(); // it has a handle only from here on
+    fenster->windowHandle()->setProperty(Nachlesen, true);
+}
+
+bool IstZumNachlesen(const QWindow *fenster)
+{
+    return fenster && fenster->property(Nachlesen).toBool();
+}
+
+bool IstZumNachlesen(const QWidget *fenster)
+{
+    return fenster && IstZumNachlesen(fenster->windowHandle());
 }
 
 } // namespace altardienst

@@ -13,4 +13,11 @@ namespace altardienst {
 void BeiRückkehr(
     QWidget *form, std::function<void()> handler, std::function<void()> beimVerlassen = [] {});
 
+/// From now on this is a window to read in beside the forms: who goes there has left no form and no
+/// box, as if he went to another program.
+void ZumNachlesen(QWidget *fenster);
+
+bool IstZumNachlesen(const QWindow *fenster);
+bool IstZumNachlesen(const QWidget *fenster);
+
 } // namespace altardienst

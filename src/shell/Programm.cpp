@@ -4,6 +4,7 @@
 #include "application/Anwendung.h"
 #include "controls/Bausteine.h"
 #include "core/Allgemein.h"
+#include "help/Hilfetaste.h"
 #include "history/Netz.h"
 #include "settings/KopierForm.h"
 #include "shell/Abschied.h"
@@ -78,6 +79,7 @@ void KopierdialogZeigen()
 
 void ProgrammStarten()
 {
+    HilfetasteEinrichten(*qApp);
     DateienKopierenZeigen = KopierdialogZeigen;
     NetzlageGeändert = NetzlageZeigen;
     StartNeuZeigen();

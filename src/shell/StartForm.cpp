@@ -5,6 +5,7 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
+#include "controls/Vordergrund.h"
 #include "controls/Zahlbox.h"
 #include "core/Allgemein.h"
 #include "core/Dateien.h"
@@ -224,8 +225,9 @@ void StartForm::closeEvent(QCloseEvent *ereignis)
 {
     ereignis->accept();
     const QWidgetList fenster = QApplication::topLevelWidgets();
-    const bool letztes = std::ranges::none_of(
-        fenster, [this](const QWidget *eines) { return eines != this && eines->isVisible(); });
+    const bool letztes = std::ranges::none_of(fenster, [this](const QWidget *eines) {
+        return eines != this && eines->isVisible() && !IstZumNachlesen(eines);
+    });
     // Nothing was planned yet, so nothing is saved.
     if (letztes)
         QApplication::exit();

@@ -102,6 +102,7 @@ TEST_F(HauptMenüTest, HatSeineEinträgeInIhrerFolge)
                           "mnuÜberblick | Ü&berblick",
                           "  mnuStände | &Frühere Stände",
                           "mnuHelp | &?",
+                          "  mnuHandbuch | &Handbuch",
                           "  mnuHelpAbout | &Info zur Anwendung",
                       }));
 }
