@@ -274,10 +274,17 @@ void Fensterstand::MeldungenBestätigen()
 void Fensterstand::Beantworten(const std::function<void(QMessageBox *)> &antwort)
 {
     QTimer::singleShot(1, [antwort] {
-        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
-            antwort(box);
-        else
-            ADD_FAILURE() << "no message box opened";
+        const QPointer box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        try {
+            if (box)
+                antwort(box);
+            else
+                ADD_FAILURE() << "no message box opened";
+        } catch (...) { // or else the box would wait for ever
+            if (box)
+                box->reject();
+            throw;
+        }
     });
 }
 

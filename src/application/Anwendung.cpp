@@ -2,22 +2,19 @@
 #include "application/Anwendung.h"
 
 #include "application/Deutsch.h"
+#include "application/Fensterordnung.h"
+#include "application/Meldungsfenster.h"
 #include "application/Nebenfenster.h"
-#include "application/Wartezeiger.h"
 #include "controls/Bausteine.h"
 #include "controls/Stil.h"
-#include "controls/Verlassen.h"
 #include "core/Allgemein.h"
 #include "paper/Druckdialog.h"
 #include "platform/Laufwerke.h"
-#include "platform/Meldungen.h"
 #include "platform/Systeminfo.h"
 
 #include <QLocale>
-#include <QMessageBox>
 #include <QPointer>
 #include <QProcess>
-#include <QTimer>
 
 #include <vector>
 
@@ -34,49 +31,6 @@ struct Vertretung {
 };
 
 std::vector<Vertretung> vertretungen; // the last one of a form counts
-
-class Mausschlucker : public QObject {
-  public:
-    using QObject::QObject;
-    bool eventFilter(QObject *, QEvent *ereignis) override
-    {
-        return ereignis->type() == QEvent::MouseButtonPress;
-    }
-};
-
-/// Leaving a box with a mouse press may bring up a message. The press then reaches its button only
-/// after the message, and its release never does: the button would stay down, or a spin button keep
-/// running.
-void DruckVerwerfen()
-{
-    auto *schlucker = new Mausschlucker(qApp);
-    qApp->installEventFilter(schlucker);
-    QTimer::singleShot(0, schlucker, &QObject::deleteLater);
-}
-
-QMessageBox::StandardButton MeldungZeigen(const Text &text, const Text &titel,
-                                          QMessageBox::StandardButtons knöpfe,
-                                          QMessageBox::StandardButton vorgabe)
-{
-    const OhneWartezeiger ohne;
-    const OhneVerlassen ruhe; // the box that loses the focus to the message has it again after it
-    QMessageBox box(QApplication::activeWindow());
-    box.setObjectName("Meldung");
-    box.setWindowTitle(Anzeige(titel));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(Anzeige(text));
-    box.setStandardButtons(knöpfe);
-    for (const auto &[art, wort] :
-         {std::pair(QMessageBox::Ok, "OK"), {QMessageBox::Yes, "&Ja"}, {QMessageBox::No, "&Nein"}})
-        if (QAbstractButton *knopf = box.button(art))
-            knopf->setText(wort);
-    box.setDefaultButton(vorgabe);
-    const bool beiMausdruck = QGuiApplication::mouseButtons() != Qt::NoButton;
-    const auto antwort = static_cast<QMessageBox::StandardButton>(box.exec());
-    if (beiMausdruck)
-        DruckVerwerfen();
-    return antwort;
-}
 
 } // namespace
 
@@ -95,17 +49,13 @@ void AnwendungEinrichten(QApplication &anwendung)
     };
     static DruckerQt drucker(DruckdialogZeigen);
     Drucker = &drucker;
-    Meldungen.Zeigen = [](const Text &text) {
-        MeldungZeigen(text, "Altardienst", QMessageBox::Ok, QMessageBox::Ok);
-    };
-    Meldungen.Fragen = [](const Text &text, const Text &titel) {
-        return MeldungZeigen(text, titel, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) ==
-               QMessageBox::Yes;
-    };
+    MeldungsfensterEinrichten();
 }
 
 void HauptfensterSetzen(QWidget *haupt)
 {
+    if (haupt && haupt != Hauptfenster)
+        FensterordnungHalten(haupt);
     Hauptfenster = haupt;
 }
 

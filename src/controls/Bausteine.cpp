@@ -2,9 +2,11 @@
 #include "controls/Bausteine.h"
 
 #include "controls/Handler.h"
+#include "controls/Kurztasten.h"
 #include "controls/Textwahl.h"
 #include "controls/Tippgedächtnis.h"
 #include "controls/Verlassen.h"
+#include "controls/Vordergrund.h"
 #include "values/Ansi.h"
 
 #include <QApplication>
@@ -125,6 +127,7 @@ QPushButton *Knopf(const char *name, const char *beschriftung)
 {
     auto *knopf = Benannt(new QPushButton(QString::fromUtf8(beschriftung)), name);
     knopf->setAutoDefault(true); // Enter presses the button that has the focus
+    KurztasteGeben(knopf);
     return knopf;
 }
 
@@ -165,8 +168,9 @@ void BeiFokusVerlust(QWidget *control, std::function<void()> handler)
             if (ereignis->type() != QEvent::FocusOut || OhneVerlassen::Gilt())
                 return false;
             const Qt::FocusReason grund = static_cast<QFocusEvent *>(ereignis)->reason();
+            const QWidget *jetzt = QApplication::activeWindow();
             const bool anderesProgramm =
-                grund == Qt::ActiveWindowFocusReason && !QApplication::activeWindow();
+                grund == Qt::ActiveWindowFocusReason && (!jetzt || IstZumNachlesen(jetzt));
             return grund != Qt::PopupFocusReason && !anderesProgramm;
         },
         std::move(handler));
@@ -308,8 +312,9 @@ void GrößeAnpassen(QWidget *fenster)
     // Some controls only know their size once they are shown.
     new Ereignisfilter(
         fenster,
-        [erstes = true](QEvent *ereignis) mutable {
-            return ereignis->type() == QEvent::Show && std::exchange(erstes, false);
+        [fenster, erstes = true](QEvent *ereignis) mutable {
+            return ereignis->type() == QEvent::Show && std::exchange(erstes, false) &&
+                   !fenster->property(EigeneGröße).toBool();
         },
         anpassen);
 }

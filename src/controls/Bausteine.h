@@ -25,6 +25,7 @@ template <class Control> Control *Benannt(Control *control, const char *name)
     return control;
 }
 
+/// A command button, with the key of its caption (controls/Kurztasten.h).
 QPushButton *Knopf(const char *name, const char *beschriftung);
 
 /// A label; with a control it is that control's buddy and gives it its spoken name.
@@ -63,7 +64,10 @@ void Setzen(QLabel *label, const Text &text);
 /// horizontal box stand one below the other where they do not fit side by side.
 QWidget *Rollbar(QLayout *inhalt);
 
-/// As large as its content wants, or as the screen allows.
+/// The property of a window that says that the user chose its size.
+constexpr const char *EigeneGröße = "eigeneGröße";
+
+/// As large as its content wants, or as the screen allows, unless the user chose its size.
 void GrößeAnpassen(QWidget *fenster);
 
 } // namespace altardienst

@@ -2,6 +2,7 @@
 #include "controls/Datensatzwahl.h"
 
 #include "controls/Bausteine.h"
+#include "controls/Kurztasten.h"
 
 #include <QHBoxLayout>
 #include <QShortcut>
@@ -15,6 +16,8 @@ Datensatzwahl::Datensatzwahl(const Datensatznamen &namen)
 {
     Nummer->setAccessibleName("Nummer des Datensatzes");
     Nummer->setFixedWidth(64);
+    TasteNennen(Plus, "Bild auf");
+    TasteNennen(Minus, "Bild ab");
     auto *reihe = new QHBoxLayout(this);
     reihe->setContentsMargins(0, 0, 0, 0);
     for (QWidget *control : std::initializer_list<QWidget *>{Nummer, DPM, Minus, Plus})

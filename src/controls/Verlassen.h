@@ -9,15 +9,23 @@ namespace altardienst {
 /// typed.
 class OhneVerlassen {
   public:
-    OhneVerlassen() { ++zahl; }
+    OhneVerlassen()
+    {
+        ++zahl;
+        ++insgesamt;
+    }
     ~OhneVerlassen() { --zahl; }
     OhneVerlassen(const OhneVerlassen &) = delete;
     OhneVerlassen &operator=(const OhneVerlassen &) = delete;
 
     static bool Gilt() { return zahl > 0; }
 
+    /// How many there have been: has one come in the course of a step, the step was interrupted.
+    static int Wievielte() { return insgesamt; }
+
   private:
     static inline int zahl = 0;
+    static inline int insgesamt = 0;
 };
 
 } // namespace altardienst

@@ -6,7 +6,6 @@
 #include "controls/Handler.h"
 
 #include <QCloseEvent>
-#include <QShortcut>
 
 namespace altardienst {
 
@@ -33,8 +32,6 @@ void Anlegefenster::RahmenAnordnen(QLayout *angaben)
 
 QLayout *Anlegefenster::Schlußknöpfe()
 {
-    connect(new QShortcut(Qt::Key_Escape, CancelButton), &QShortcut::activated, CancelButton,
-            &QPushButton::click);
     return Knopfreihe({OKButton, CancelButton});
 }
 

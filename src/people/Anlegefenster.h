@@ -24,7 +24,7 @@ class Anlegefenster : public QWidget {
     /// The boxes of a person, which scroll on a small screen, above the buttons.
     void RahmenAnordnen(QLayout *angaben);
 
-    /// OK and Abbrechen in the lower right corner; Escape presses Abbrechen.
+    /// OK and Abbrechen in the lower right corner.
     QLayout *Schlußknöpfe();
 
     /// Closes the dialog after a record was added.

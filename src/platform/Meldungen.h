@@ -16,4 +16,8 @@ struct MeldungenDienst {
 /// message goes nowhere and a question is answered with Nein.
 extern MeldungenDienst Meldungen;
 
+/// Whether the answer Ja deletes or overwrites something: Nein is then the
+/// answer that is proposed. All such questions of the program are known by their texts.
+bool FragtVorVerlust(const Text &frage);
+
 } // namespace altardienst

@@ -10,6 +10,7 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
+#include "controls/Kurztasten.h"
 #include "core/Allgemein.h"
 #include "core/Sortierbefehle.h"
 #include "core/Umwandlung.h"
@@ -17,6 +18,7 @@
 #include "fixed/FesteMeßdienerÜbertragen.h"
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
+#include "help/Hilfetaste.h"
 #include "history/Netz.h"
 #include "history/StändeForm.h"
 #include "people/GruppeForm.h"
@@ -70,11 +72,12 @@ QAction *NeuerEintrag(QMenu *menü, const char *name, const char *beschriftung)
     return Benannt(menü->addAction(QString::fromUtf8(beschriftung)), name);
 }
 
-void Eintrag(QMenu *menü, const char *name, const char *beschriftung,
-             const std::function<void()> &aktion)
+QAction *Eintrag(QMenu *menü, const char *name, const char *beschriftung,
+                 const std::function<void()> &aktion)
 {
-    QObject::connect(NeuerEintrag(menü, name, beschriftung), &QAction::triggered, menü,
-                     [aktion] { HauptfensterHandelt(aktion); });
+    QAction *eintrag = NeuerEintrag(menü, name, beschriftung);
+    QObject::connect(eintrag, &QAction::triggered, menü, [aktion] { HauptfensterHandelt(aktion); });
+    return eintrag;
 }
 
 /// A load replaces the tables and does not touch the windows that are open: what was typed there is
@@ -174,6 +177,10 @@ void HauptForm::Anordnen()
             links->addWidget(ODER1);
         links->addWidget(knopf);
     }
+    for (QPushButton *knopf : Schritte()) // its number stands at the beginning of its caption
+        TasteNennen(knopf,
+                    knopf == Messendruck ? QString("7 oder Strg+P") : knopf->text().mid(1, 1));
+    TasteDrückt(Qt::CTRL | Qt::Key_P, Messendruck);
     ODER1->setAlignment(Qt::AlignCenter);
     links->addStretch();
     auto *uhr = new QHBoxLayout;
@@ -202,7 +209,7 @@ void HauptForm::MenüDatei()
     QMenu *datei = Menü(menuBar(), "mnufile", "&Datei");
     Eintrag(datei, "mnuFilePrint", "&Drucken...", DialogÖffnen<DruckForm>);
     Trennstrich(datei, "mnuFileBar5");
-    Eintrag(datei, "mnuFileExit", "&Beenden", Beenden);
+    Eintrag(datei, "mnuFileExit", "&Beenden", Beenden)->setShortcut(Qt::CTRL | Qt::Key_Q);
 }
 
 void HauptForm::MenüDaten()
@@ -279,7 +286,9 @@ void HauptForm::MenüZusatz()
             DialogÖffnen<DialogForm>);
 
     QMenu *festplatte = Menü(zusatz, "mnuDatend", "Date&n auf Festplatte");
-    Eintrag(festplatte, "mnuDatenspeichern", "&speichern", [] { SpeichernOderEnden(); });
+    Eintrag(festplatte, "mnuDatenspeichern", "&speichern", [] {
+        SpeichernOderEnden();
+    })->setShortcut(QKeySequence::Save);
     Ladeeintrag(festplatte, "mnuDatenladen", "&laden", VonFestplatteLaden);
 
     QMenu *diskette = Menü(zusatz, "mnuDatene", "D&aten auf Diskette");
@@ -312,6 +321,9 @@ void HauptForm::MenüÜberblick()
 void HauptForm::MenüHilfe()
 {
     QMenu *hilfe = Menü(menuBar(), "mnuHelp", "&?");
+    QAction *handbuch = NeuerEintrag(hilfe, "mnuHandbuch", "&Handbuch");
+    handbuch->setShortcut(Qt::Key_F1);
+    connect(handbuch, &QAction::triggered, this, Offen(HandbuchÖffnen));
     Eintrag(hilfe, "mnuHelpAbout", "&Info zur Anwendung",
             [] { DialogDanebenÖffnen<frmAboutForm>(); });
 }

@@ -1,6 +1,7 @@
 // The program: the start dialog, then the main window.
 #include "application/Anwendung.h"
 #include "application/Fangnetz.h"
+#include "application/Fensterplätze.h"
 #include "controls/Handler.h"
 #include "controls/Unerwartetes.h"
 #include "history/Netz.h"
@@ -15,6 +16,7 @@ int main(int argc, char *argv[])
 {
     altardienst::Fangnetz anwendung(argc, argv);
     altardienst::AnwendungEinrichten(anwendung);
+    altardienst::FensterplätzeMerken(anwendung);
     QApplication::setWindowIcon(QIcon(":/altardienst.png"));
     QApplication::setDesktopFileName("altardienst"); // by which the desktop finds name and icon
     altardienst::NetzSpannen();

@@ -126,5 +126,34 @@ TEST_F(HauptTastenTest, F11UndF12ÖffnenIhreFormen)
     }
 }
 
+TEST_F(HauptTastenTest, StrgPDrucktDenPlanUndJederKnopfNenntSeineTasten)
+{
+    Fenstertaste(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(gedrückt, "7");
+    for (std::size_t i = 0; i < 6; ++i)
+        EXPECT_EQ(knöpfe[i]->toolTip().toStdString(), std::to_string(i + 1));
+    EXPECT_EQ(knöpfe[6]->toolTip(), "7 oder Strg+P");
+}
+
+TEST_F(HauptTastenTest, StrgSSpeichertUndDasMenüZeigtDieTasten)
+{
+    Konfig.Gemeinde = "St. Ägid";
+    Fenstertaste(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(DateiLesen(Festplatte / "Konfig.cfg").starts_with("St. "));
+    for (const auto &[eintrag, taste] : {std::pair("mnuDatenspeichern", "Ctrl+S"),
+                                         {"mnuFileExit", "Ctrl+Q"},
+                                         {"mnuHandbuch", "F1"}})
+        EXPECT_EQ(Finden<QAction>(haupt, eintrag)->shortcut().toString(), taste);
+}
+
+TEST_F(HauptTastenTest, GesperrtHatDasHauptfensterKeineTasten)
+{
+    haupt->setEnabled(false);
+    for (const Qt::Key taste : {Qt::Key_P, Qt::Key_S})
+        Fenstertaste(taste, Qt::ControlModifier);
+    EXPECT_EQ(gedrückt, "");
+    EXPECT_FALSE(std::filesystem::exists(Festplatte / "Konfig.cfg"));
+}
+
 } // namespace
 } // namespace altardienst

@@ -1,0 +1,150 @@
+// Every window of the program.
+#include "JedesFenster.h"
+
+#include "anniversaries/GeburtstagsansichtForm.h"
+#include "anniversaries/JubiGebuForm.h"
+#include "anniversaries/JubiläumsanzeigeForm.h"
+#include "application/Anwendung.h"
+#include "fixed/MesseDienerFestForm.h"
+#include "fixed/NeuMesseDienerFestForm.h"
+#include "help/HandbuchForm.h"
+#include "history/StändeForm.h"
+#include "paper/Druckdialog.h"
+#include "people/GruppeForm.h"
+#include "people/HelferForm.h"
+#include "people/MeßdienerForm.h"
+#include "people/NeuGruppeForm.h"
+#include "people/NeuMeßdienerForm.h"
+#include "people/NeuerHelferForm.h"
+#include "planning/LektorrenuswForm.h"
+#include "planning/MessenlisteForm.h"
+#include "planning/NeuMesseForm.h"
+#include "planning/StandardmessenForm.h"
+#include "printing/DialogForm.h"
+#include "printing/DruckForm.h"
+#include "printing/EtikettenForm.h"
+#include "settings/HintergrundsucheForm.h"
+#include "settings/KonfigurationForm.h"
+#include "settings/KopierForm.h"
+#include "settings/SkalierungForm.h"
+#include "settings/ZusatzKonfigForm.h"
+#include "settings/frmAboutForm.h"
+#include "shell/HauptForm.h"
+#include "shell/StartForm.h"
+#include "statistics/Diagramm2Form.h"
+#include "statistics/DiagrammeForm.h"
+#include "statistics/StatDienstForm.h"
+#include "statistics/StatHelferForm.h"
+#include "statistics/StatMeßdienstForm.h"
+#include "statistics/Statistik2Form.h"
+#include "statistics/StatistikAllgForm.h"
+#include "statistics/StatistikForm.h"
+#include "statistics/StatistikHelferForm.h"
+
+namespace altardienst {
+namespace {
+
+void GemeindeAnlegen(Datum heute)
+{
+    for (const char *name : {"Adler", "Busch", "Clausen", "Dorn", "Eich", "Fuchs"})
+        MeßdienerAnlegen("Kim", name);
+    HelferAnlegen("Maria", "Linde", "Lektor");
+    HelferAnlegen("Paul", "Quast", "Kantor");
+    Gruppe.Anzahl = 2;
+    Gruppe.Bezeichnung[0] = "Große";
+    Gruppe.Bezeichnung[1] = "Kleine";
+    Konfig.StartDatum = heute + 1;
+    Konfig.Tage = 7;
+    Standardmesse.Wochentag[0] = "Sonntag";
+    Standardmesse.Dienerzahl[0] = 20;
+    for (int tag = 1; tag <= 3; ++tag)
+        MesseMitDienern(heute + tag, 20);
+    Etikett.Name[0] = "Blatt";
+}
+
+template <class Form, class... Angaben> std::function<QWidget *()> Neu(Angaben... angaben)
+{
+    return [=]() -> QWidget * { return new Form(angaben...); };
+}
+
+/// The window over which another one stands; it is deleted at the end of the test.
+template <class Form> Form *Darunter()
+{
+    return new Form;
+}
+
+} // namespace
+
+JedesFenster::JedesFenster()
+{
+    GemeindeAnlegen(Heute);
+    const std::function<void(bool)> danach = [](bool) {};
+    öffner = {
+        {"Start", Neu<StartForm>([] {})},
+        {"Haupt", Neu<HauptForm>()},
+        {"Handbuch",
+         [] {
+             auto *handbuch = new HandbuchForm;
+             handbuch->Aufschlagen({"plan.md", ""});
+             return handbuch;
+         }},
+        {"Standardmessen", Neu<StandardmessenForm>()},
+        {"Messenliste", Neu<MessenlisteForm>()},
+        {"NeuMesse", [] { return new NeuMesseForm(*Darunter<MessenlisteForm>()); }},
+        {"Lektorrenusw", Neu<LektorrenuswForm>([] {})},
+        {"MesseDienerFest", Neu<MesseDienerFestForm>()},
+        {"NeuMesseDienerFest", Neu<NeuMesseDienerFestForm>()},
+        {"Meßdiener", Neu<MeßdienerForm>()},
+        {"NeuMeßdiener", Neu<NeuMeßdienerForm>(danach)},
+        {"Gruppe", Neu<GruppeForm>()},
+        {"NeuGruppe", Neu<NeuGruppeForm>(danach)},
+        {"Helfer", Neu<HelferForm>()},
+        {"NeuerHelfer", Neu<NeuerHelferForm>(danach)},
+        {"Druck", Neu<DruckForm>()},
+        {"CommonDialog1",
+         [] {
+             return new DruckdialogForm(Druckanfrage{}, {{"Erster", "Zweiter"}, "Erster"});
+         }},
+        {"Etiketten", Neu<EtikettenForm>()},
+        {"Dialog", Neu<DialogForm>()},
+        {"JubiGebu", Neu<JubiGebuForm>()},
+        {"Geburtstagsansicht", Neu<GeburtstagsansichtForm>()},
+        {"Jubiläumsanzeige", Neu<JubiläumsanzeigeForm>()},
+        {"Statistik", Neu<StatistikForm>()},
+        {"Statistik2", Neu<Statistik2Form>()},
+        {"StatistikAllg", Neu<StatistikAllgForm>()},
+        {"StatistikHelfer", Neu<StatistikHelferForm>()},
+        {"StatMeßdienst", Neu<StatMeßdienstForm>()},
+        {"StatDienst", Neu<StatDienstForm>()},
+        {"StatHelfer", Neu<StatHelferForm>()},
+        {"Diagramme", [] { return new DiagrammeForm(Darunter<StatistikForm>()); }},
+        {"Diagramm2", [] { return new Diagramm2Form(Darunter<Statistik2Form>()); }},
+        {"Konfiguration", Neu<KonfigurationForm>()},
+        {"ZusatzKonfig", Neu<ZusatzKonfigForm>()},
+        {"Skalierung", Neu<SkalierungForm>()},
+        {"Hintergrundsuche", Neu<HintergrundsucheForm>()},
+        {"frmAbout", Neu<frmAboutForm>()},
+        {"Datensicherung", Neu<DatensicherungForm>()},
+        {"Dateikopie", Neu<DateikopieForm>()},
+        {"Stände", Neu<StändeForm>()},
+        {"DateienKopieren", Neu<DateienKopierenForm>(danach)},
+    };
+}
+
+void JedesFenster::InJedemFenster(
+    const std::function<void(const Text &name, QWidget *fenster)> &prüfen)
+{
+    for (const auto &[name, öffnen] : öffner) {
+        SCOPED_TRACE(name);
+        QPointer<QWidget> fenster = öffnen();
+        EXPECT_EQ(fenster->objectName().toStdString(), name);
+        Zeigen(fenster);
+        prüfen(name, fenster);
+        if (fenster) {
+            fenster->hide();
+            delete fenster;
+        }
+    }
+}
+
+} // namespace altardienst
