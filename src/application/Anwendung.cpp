@@ -2,6 +2,7 @@
 #include "application/Anwendung.h"
 
 #include "application/Deutsch.h"
+#include "application/Druckmitteilung.h"
 #include "application/Nebenfenster.h"
 #include "application/Wartezeiger.h"
 #include "controls/Bausteine.h"
@@ -9,16 +10,20 @@
 #include "controls/Verlassen.h"
 #include "core/Allgemein.h"
 #include "paper/Druckdialog.h"
+#include "platform/Betrachter.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 #include "platform/Systeminfo.h"
 
+#include <QDesktopServices>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPointer>
 #include <QProcess>
 #include <QTimer>
+#include <QUrl>
 
+#include <filesystem>
 #include <vector>
 
 namespace altardienst {
@@ -93,7 +98,12 @@ void AnwendungEinrichten(QApplication &anwendung)
     Systeminfo.Starten = [](const std::filesystem::path &programm) {
         QProcess::startDetached(Anzeige(TextVon(programm)), {});
     };
-    static DruckerQt drucker(DruckdialogZeigen);
+    Betrachter.Öffnen = [](const std::filesystem::path &datei) {
+        return QDesktopServices::openUrl(QUrl::fromLocalFile(Anzeige(TextVon(datei))));
+    };
+    DateiwartezeigerEinrichten();
+    DruckgewohnheitenMerken();
+    static DruckerQt drucker(DruckdialogZeigen, DruckMitteilen);
     Drucker = &drucker;
     Meldungen.Zeigen = [](const Text &text) {
         MeldungZeigen(text, "Altardienst", QMessageBox::Ok, QMessageBox::Ok);
