@@ -43,10 +43,9 @@ Text FehltSatz(const std::vector<Text> &fehlend)
 Text AndersSatz(const std::vector<Schreibung> &anders)
 {
     const Text beispiel = anders.front().Gespeichert + " statt " + anders.front().Eigene;
-    if (anders.size() == 1)
-        return "Hier heißt 1 Datei anders, als das Programm sie sucht: " + beispiel;
-    return "Hier heißen " + std::to_string(anders.size()) +
-           " Dateien anders, als das Programm sie sucht, etwa " + beispiel;
+    return anders.size() == 1 ? "Hier heißt 1 Datei anders: " + beispiel
+                              : "Hier heißen " + std::to_string(anders.size()) +
+                                    " Dateien anders, etwa " + beispiel;
 }
 
 /// A file system that ignores case may take two spellings for the same name and leave the file as

@@ -60,12 +60,10 @@ TEST_F(DateinamenTest, EineFehlendeDateiWirdBeiIhremNamenGenannt)
 TEST_F(DateinamenTest, AndereSchreibungenSindNurNamen)
 {
     EXPECT_TRUE(DateimängelIn(Diskette).SindNurNamen());
-    EXPECT_EQ(Satz(), "Hier heißen 8 Dateien anders, als das Programm sie sucht, etwa "
-                      "etiketten.dat statt Etiketten.dat");
+    EXPECT_EQ(Satz(), "Hier heißen 8 Dateien anders, etwa etiketten.dat statt Etiketten.dat");
     Eigene();
     fs::rename(Diskette / "Helfer.dat", Diskette / "HELFER.DAT");
-    EXPECT_EQ(Satz(), "Hier heißt 1 Datei anders, als das Programm sie sucht: HELFER.DAT statt "
-                      "Helfer.dat");
+    EXPECT_EQ(Satz(), "Hier heißt 1 Datei anders: HELFER.DAT statt Helfer.dat");
     fs::remove(Diskette / "Messen.dat");
     EXPECT_EQ(Satz(), "Hier fehlt: Messen.dat");
     EXPECT_FALSE(DateimängelIn(Diskette).SindNurNamen()) << "names alone would not help";
