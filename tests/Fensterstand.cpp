@@ -4,6 +4,7 @@
 #include "application/Anwendung.h"
 #include "application/Fangnetz.h"
 #include "application/Gemerktes.h"
+#include "application/Mitteilung.h"
 #include "controls/Textwahl.h"
 #include "controls/Unerwartetes.h"
 #include "paper/Druckdialog.h"
@@ -201,7 +202,8 @@ Fensterstand::~Fensterstand()
             ADD_FAILURE() << text;
     Meldungen.Zeigen = [](const Text &text) { ADD_FAILURE() << "after the test: " << text; };
     UnerwartetesZeigen();
-    LetztePdfDatei().clear(); // the next dialog would propose it
+    GegebenePdfNamen().clear(); // the next dialog would propose them
+    Mitteilungen() = {};
 }
 
 void Fensterstand::Zeigen(QWidget *fenster)

@@ -26,7 +26,8 @@ fs::path NeuesVerzeichnis()
 
 Prüfstand::Prüfstand()
     : Heute(DatumAus({2026, 11, 21})), wurzel(NeuesVerzeichnis()), uhrZuvor(Uhr),
-      zufallZuvor(Zufall), meldungenZuvor(Meldungen), laufwerkeZuvor(Laufwerke)
+      zufallZuvor(Zufall), meldungenZuvor(Meldungen), laufwerkeZuvor(Laufwerke),
+      betrachterZuvor(Betrachter)
 {
     TabellenLeeren();
     NachKopie = 0;
@@ -52,6 +53,10 @@ Prüfstand::Prüfstand()
         Antworten.pop_front();
         return antwort;
     };
+    Betrachter.Öffnen = [this](const fs::path &datei) {
+        GeöffneteDateien.push_back(datei);
+        return ZumÖffnenGibtEsEtwas;
+    };
     Laufwerke.Programmverzeichnis = [this] { return Festplatte; };
     Laufwerke.Diskette = [this] { return Diskette; };
     Laufwerke.Ausweichverzeichnisse = [this] { return std::vector<fs::path>{wurzel / "Ausweich"}; };
@@ -66,6 +71,7 @@ Prüfstand::~Prüfstand()
     Zufall = zufallZuvor;
     Meldungen = meldungenZuvor;
     Laufwerke = laufwerkeZuvor;
+    Betrachter = betrachterZuvor;
     std::error_code egal;
     fs::remove_all(wurzel, egal);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/tables.h"
+#include "platform/Betrachter.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 #include "platform/Uhr.h"
@@ -57,12 +58,16 @@ class Prüfstand : public ::testing::Test {
     std::filesystem::path Festplatte;
     std::filesystem::path Diskette;
 
+    std::vector<std::filesystem::path> GeöffneteDateien; // with the desktop's programs
+    bool ZumÖffnenGibtEsEtwas = true;
+
   private:
     std::filesystem::path wurzel;
     UhrDienst uhrZuvor;
     ZufallDienst zufallZuvor;
     MeldungenDienst meldungenZuvor;
     LaufwerkeDienst laufwerkeZuvor;
+    BetrachterDienst betrachterZuvor;
 };
 
 /// Makes a record of `Meßdiener` that may serve everywhere: all qualifications, no wishes to be

@@ -1,6 +1,7 @@
 // The lists of birthdays and jubilees on paper and on labels.
 #include "anniversaries/JubiGebuDruck.h"
 
+#include "core/Umwandlung.h"
 #include "printing/Druckrahmen.h"
 #include "printing/Druckwerte.h"
 
@@ -32,9 +33,10 @@ Text Geburtstagstitel(Gruppende gruppe)
 
 /// One line for each row, followed by an empty one.
 template <class Liste>
-void ListeDrucken(Liste &liste, const Text &titel, const std::function<Text(int)> &angaben)
+void ListeDrucken(const Text &name, Liste &liste, const Text &titel,
+                  const std::function<Text(int)> &angaben)
 {
-    BerichtDrucken({}, [&](int) {
+    BerichtDrucken(Druckanfrage::Für(name), [&](int) {
         BerichtEröffnen({titel}, Titelschrift::Vorige);
         Int16 Zeilen = 2;
         for (int i = 0; i < liste.Anzahl; ++i) {
@@ -49,41 +51,45 @@ void ListeDrucken(Liste &liste, const Text &titel, const std::function<Text(int)
     });
 }
 
-template <class Liste> Etikettenleute EtikettenAus(Liste &liste)
+template <class Liste> Etikettenleute EtikettenAus(const Text &name, Liste &liste)
 {
-    return {liste.Anzahl, nullptr, [&liste](int i) {
+    return {liste.Anzahl, nullptr,
+            [&liste](int i) {
                 return Anschrift{liste.Vorname[i] + " " + liste.Nachname[i], liste.Straße[i],
                                  liste.Ort[i]};
-            }};
+            },
+            name};
 }
 
 } // namespace
 
 void GeburtstageDrucken(Gruppende gruppe, Int16 GeburtsMonat)
 {
-    ListeDrucken(Geburtstagsliste, Geburtstagstitel(gruppe) + Monatsname(GeburtsMonat), [](int i) {
-        return ", Geburtstag: " + Druckdatum(Geburtstagsliste.Geburtstag[i]) +
-               ", Alter: " + Druckzahl(Geburtstagsliste.Alter[i]) + " Jahre";
-    });
+    const Text name = "Geburtstage " + Monatsname(GeburtsMonat);
+    ListeDrucken(name, Geburtstagsliste, Geburtstagstitel(gruppe) + Monatsname(GeburtsMonat),
+                 [](int i) {
+                     return ", Geburtstag: " + Druckdatum(Geburtstagsliste.Geburtstag[i]) +
+                            ", Alter: " + Druckzahl(Geburtstagsliste.Alter[i]) + " Jahre";
+                 });
 }
 
 void JubiläenDrucken(Int16 JubiläumsJahre)
 {
     const Text JahreZusatz = JubiläumsJahre >= MeisteJubiläumsJahre ? " und mehr " : "";
     ListeDrucken(
-        Jubiläumsliste,
+        "Jubiläen " + ZahlText(JubiläumsJahre) + " Jahre", Jubiläumsliste,
         "Jubiläum von " + Druckzahl(JubiläumsJahre) + JahreZusatz + " Jahren der Meßdiener",
         [](int i) { return ", Eintrittsdatum: " + Druckdatum(Jubiläumsliste.Eintrittsdatum[i]); });
 }
 
 Etikettenleute EtikettenDerGeburtstage()
 {
-    return EtikettenAus(Geburtstagsliste);
+    return EtikettenAus("Etiketten Geburtstage", Geburtstagsliste);
 }
 
 Etikettenleute EtikettenDerJubiläen()
 {
-    return EtikettenAus(Jubiläumsliste);
+    return EtikettenAus("Etiketten Jubiläen", Jubiläumsliste);
 }
 
 } // namespace altardienst

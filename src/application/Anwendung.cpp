@@ -4,18 +4,24 @@
 #include "application/Deutsch.h"
 #include "application/Fensterordnung.h"
 #include "application/Meldungsfenster.h"
+#include "application/Druckmitteilung.h"
 #include "application/Nebenfenster.h"
+#include "application/Wartezeiger.h"
 #include "controls/Bausteine.h"
 #include "controls/Stil.h"
 #include "core/Allgemein.h"
 #include "paper/Druckdialog.h"
+#include "platform/Betrachter.h"
 #include "platform/Laufwerke.h"
 #include "platform/Systeminfo.h"
 
+#include <QDesktopServices>
 #include <QLocale>
 #include <QPointer>
 #include <QProcess>
+#include <QUrl>
 
+#include <filesystem>
 #include <vector>
 
 namespace altardienst {
@@ -47,7 +53,12 @@ void AnwendungEinrichten(QApplication &anwendung)
     Systeminfo.Starten = [](const std::filesystem::path &programm) {
         QProcess::startDetached(Anzeige(TextVon(programm)), {});
     };
-    static DruckerQt drucker(DruckdialogZeigen);
+    Betrachter.Öffnen = [](const std::filesystem::path &datei) {
+        return QDesktopServices::openUrl(QUrl::fromLocalFile(Anzeige(TextVon(datei))));
+    };
+    DateiwartezeigerEinrichten();
+    DruckgewohnheitenMerken();
+    static DruckerQt drucker(DruckdialogZeigen, DruckMitteilen);
     Drucker = &drucker;
     MeldungsfensterEinrichten();
 }

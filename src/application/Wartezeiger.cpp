@@ -1,10 +1,56 @@
-// The wait cursor during a step that may search for a while.
+// The wait cursor.
 #include "application/Wartezeiger.h"
 
-#include <QGuiApplication>
+#include "controls/Handler.h"
+#include "platform/Lebenszeichen.h"
+#include "platform/Uhr.h"
+
+#include <QApplication>
 #include <QScopeGuard>
+#include <QTimer>
+
+#include <cstdint>
+#include <utility>
 
 namespace altardienst {
+namespace {
+
+constexpr std::int64_t Geduld = 500; // ms
+
+/// An event that is busy with files; it began when its first sign of life came.
+class Dateizugriffe {
+  public:
+    void Lebenszeichen()
+    {
+        if (!beginn) {
+            beginn = Uhr.Stoppuhr();
+            QTimer::singleShot(0, qApp, Nebenbei([this] { Vorbei(); })); // after this event
+        } else if (!zeiger && Uhr.Stoppuhr() - *beginn >= Geduld) {
+            zeiger = true;
+            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        }
+    }
+
+    void Vorbei()
+    {
+        beginn.reset();
+        if (std::exchange(zeiger, false))
+            QGuiApplication::restoreOverrideCursor();
+    }
+
+  private:
+    std::optional<std::int64_t> beginn;
+    bool zeiger = false;
+};
+
+Dateizugriffe zugriffe;
+
+} // namespace
+
+void DateiwartezeigerEinrichten()
+{
+    Lebenszeichen = [] { zugriffe.Lebenszeichen(); };
+}
 
 void UnterWartezeiger(const std::function<void()> &aktion)
 {
@@ -15,6 +61,7 @@ void UnterWartezeiger(const std::function<void()> &aktion)
 
 OhneWartezeiger::OhneWartezeiger()
 {
+    zugriffe.Vorbei();
     if (const QCursor *zeiger = QGuiApplication::overrideCursor()) {
         zuvor = *zeiger;
         QGuiApplication::restoreOverrideCursor();

@@ -3,6 +3,7 @@
 
 #include "controls/Bausteine.h"
 #include "controls/Handler.h"
+#include "controls/Kurztext.h"
 
 #include <QScrollBar>
 
@@ -55,9 +56,8 @@ std::filesystem::path OhneTrenner(const std::filesystem::path &verzeichnis)
 
 QLabel *Pfadanzeige(const char *name)
 {
-    QLabel *pfad = Beschriftung(name, "");
+    auto *pfad = new Kurztext(name, Qt::ElideMiddle);
     pfad->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    pfad->setWordWrap(true);
     pfad->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     return pfad;
 }

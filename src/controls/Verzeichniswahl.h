@@ -14,8 +14,8 @@
 
 namespace altardienst {
 
-/// A label for a path, which can be selected and wraps: a long one must not widen the window beyond
-/// the screen.
+/// A label for a path, which can be selected and is shortened in the middle: a long one must not
+/// widen the window beyond the screen.
 QLabel *Pfadanzeige(const char *name);
 
 /// A box for the name of a directory to be created.

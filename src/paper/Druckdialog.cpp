@@ -4,6 +4,7 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
+#include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 
 #include <QApplication>
@@ -36,12 +37,29 @@ bool IstBeschreibbar(const QString &datei)
     return verzeichnis.isDir() && verzeichnis.isWritable() && !ziel.isDir();
 }
 
-/// The last file again, unless its directory has disappeared in the meantime.
-QString PdfVorschlag()
+/// The name of a PDF file of this report, without extension; a report without a name has none.
+QString EigenerName(const Druckanfrage &anfrage)
 {
-    const QString letzte = LetztePdfDatei();
-    return !letzte.isEmpty() && IstBeschreibbar(letzte) ? letzte
-                                                        : Ablage().filePath("Altardienst.pdf");
+    return Anzeige(AlsDateiname(anfrage.Dateiname.empty() ? anfrage.Name : anfrage.Dateiname));
+}
+
+/// In the directory used last, under the name given to this report last, or else its own. Where
+/// that directory has disappeared in the meantime: its own name, with the documents.
+QString PdfVorschlag(const QString &name)
+{
+    const QString eigene = (name.isEmpty() ? "Altardienst" : name) + ".pdf";
+    const auto gegeben = GegebenePdfNamen().find(name);
+    const QString datei = gegeben == GegebenePdfNamen().end() ? eigene : gegeben->second;
+    const QString verzeichnis = Druckgewohnheiten.Lesen().Verzeichnis;
+    const QString dort = QDir(verzeichnis).filePath(datei);
+    return !verzeichnis.isEmpty() && IstBeschreibbar(dort) ? dort : Ablage().filePath(eigene);
+}
+
+DruckgewohnheitDienst NurInDiesemLauf()
+{
+    auto gewohnheit = std::make_shared<Druckgewohnheit>();
+    return {[gewohnheit] { return *gewohnheit; },
+            [gewohnheit](const Druckgewohnheit &neu) { *gewohnheit = neu; }};
 }
 
 template <class Control> Control *Option(const char *name, const QString &text)
@@ -51,10 +69,12 @@ template <class Control> Control *Option(const char *name, const QString &text)
 
 } // namespace
 
-QString &LetztePdfDatei()
+DruckgewohnheitDienst Druckgewohnheiten = NurInDiesemLauf();
+
+std::map<QString, QString> &GegebenePdfNamen()
 {
-    static QString datei;
-    return datei;
+    static std::map<QString, QString> namen;
+    return namen;
 }
 
 Druckerliste EingerichteteDrucker()
@@ -67,16 +87,19 @@ DruckdialogForm::DruckdialogForm(const Druckanfrage &anfrage, const Druckerliste
       Druckername(Benannt(new QComboBox, "Druckername")),
       Einstellungen(Knopf("Einstellungen", "Einstellungen...")),
       Kopien(Benannt(new QSpinBox, "Kopien")), Pdf(Option<QRadioButton>("Pdf", "PDF-Datei:")),
-      PdfDatei(Benannt(new QLineEdit(PdfVorschlag()), "PdfDatei")),
+      PdfDatei(Benannt(new QLineEdit, "PdfDatei")),
       Durchsuchen(Knopf("Durchsuchen", "Durchsuchen...")), Hinweis(Beschriftung("Hinweis", "")),
+      DanachÖffnen(Option<QCheckBox>("DanachÖffnen", "danach öffnen")),
       Ausführung(Benannt(new QGroupBox("Ausführung"), "Ausführung")),
       ErsteForm(Option<QRadioButton>("ErsteForm", Anzeige(anfrage.ErsteForm))),
       ZweiteForm(Option<QRadioButton>("ZweiteForm", Anzeige(anfrage.ZweiteForm))),
       OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen")),
-      papier(std::make_shared<QPrinter>(QPrinter::HighResolution))
+      papier(std::make_shared<QPrinter>(QPrinter::HighResolution)), vorschlag(EigenerName(anfrage))
 {
     Benannt(this, "CommonDialog1");
-    setWindowTitle("Drucken");
+    setWindowTitle(anfrage.Name.empty() ? "Drucken" : "Drucken: " + Anzeige(anfrage.Name));
+    PdfDatei->setText(PdfVorschlag(vorschlag));
+    DanachÖffnen->setChecked(Druckgewohnheiten.Lesen().DanachÖffnen);
     Druckername->setAccessibleName("Drucker");
     PdfDatei->setAccessibleName("PDF-Datei");
     Kopien->setRange(1, 99);
@@ -113,7 +136,8 @@ void DruckdialogForm::Anordnen()
     raster->addWidget(Pdf, 2, 0);
     raster->addWidget(PdfDatei, 2, 1);
     raster->addWidget(Durchsuchen, 2, 2);
-    raster->addWidget(Hinweis, 3, 1, 1, 2);
+    raster->addWidget(DanachÖffnen, 3, 1, 1, 2, Qt::AlignLeft);
+    raster->addWidget(Hinweis, 4, 1, 1, 2);
 
     auto *formen = new QHBoxLayout(Ausführung);
     formen->addWidget(ErsteForm);
@@ -147,7 +171,7 @@ void DruckdialogForm::ZielGewählt()
     const bool aufPapier = Papier->isChecked();
     for (QWidget *control : std::initializer_list<QWidget *>{Druckername, Einstellungen, Kopien})
         control->setEnabled(aufPapier);
-    for (QWidget *control : std::initializer_list<QWidget *>{PdfDatei, Durchsuchen})
+    for (QWidget *control : std::initializer_list<QWidget *>{PdfDatei, Durchsuchen, DanachÖffnen})
         control->setEnabled(!aufPapier);
     const QString pfad = PdfPfad();
     const bool beschreibbar = !pfad.isEmpty() && IstBeschreibbar(pfad);
@@ -206,8 +230,11 @@ Druckauswahl DruckdialogForm::Auswahl() const
     Druckauswahl auswahl;
     auswahl.Modus = ZweiteForm->isChecked() ? DruckerDienst::ZweiteForm : 0;
     if (Pdf->isChecked()) {
-        LetztePdfDatei() = PdfPfad();
+        const QFileInfo datei(PdfPfad());
+        GegebenePdfNamen()[vorschlag] = datei.fileName();
+        Druckgewohnheiten.Merken({datei.path(), DanachÖffnen->isChecked()});
         auswahl.Ziel = PdfDrucker(PdfPfad());
+        auswahl.DanachÖffnen = DanachÖffnen->isChecked();
     } else {
         papier->setPrinterName(Druckername->currentText());
         papier->setCopyCount(Kopien->value());

@@ -3,6 +3,7 @@
 
 #include "paper/DruckerQt.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QGroupBox>
@@ -11,6 +12,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
+
+#include <functional>
+#include <map>
 
 namespace altardienst {
 
@@ -23,8 +27,22 @@ struct Druckerliste {
 /// The printers set up on the system.
 Druckerliste EingerichteteDrucker();
 
-/// The PDF file chosen last, which the next dialog proposes again; none when the program starts.
-QString &LetztePdfDatei();
+/// What is remembered of the dialog from one run of the program to the next.
+struct Druckgewohnheit {
+    QString Verzeichnis;      // of the last PDF file; empty: none yet
+    bool DanachÖffnen = true; // whether it is looked at once it is written
+};
+
+/// Where that is kept; until there are windows it lasts as long as the program.
+struct DruckgewohnheitDienst {
+    std::function<Druckgewohnheit()> Lesen;
+    std::function<void(const Druckgewohnheit &)> Merken;
+};
+extern DruckgewohnheitDienst Druckgewohnheiten;
+
+/// The names given to PDF files in this run, by the name that their report has of its own: the next
+/// dialog of the same report proposes the same name again.
+std::map<QString, QString> &GegebenePdfNamen();
 
 /// Works without a printer: then only the PDF file can be chosen.
 class DruckdialogForm : public QDialog {
@@ -39,7 +57,8 @@ class DruckdialogForm : public QDialog {
     QRadioButton *Pdf;
     QLineEdit *PdfDatei;
     QPushButton *Durchsuchen;
-    QLabel *Hinweis;       // why no PDF file can be written there
+    QLabel *Hinweis; // why no PDF file can be written there
+    QCheckBox *DanachÖffnen;
     QGroupBox *Ausführung; // hidden if the report has only one layout
     QRadioButton *ErsteForm;
     QRadioButton *ZweiteForm;
@@ -58,6 +77,7 @@ class DruckdialogForm : public QDialog {
     QString PdfPfad() const;
     void Bestätigen();
     std::shared_ptr<QPrinter> papier;
+    QString vorschlag; // the name of a PDF file of this report, without extension
     QString ersetzbar; // the file that may be replaced without a question
 };
 

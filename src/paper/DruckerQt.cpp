@@ -2,6 +2,7 @@
 #include "paper/DruckerQt.h"
 
 #include "controls/Bausteine.h"
+#include "platform/Lebenszeichen.h"
 #include "values/Laufzeitfehler.h"
 
 #include <QFile>
@@ -61,10 +62,14 @@ std::shared_ptr<QPrinter> PdfDrucker(const QString &datei)
     return drucker;
 }
 
-DruckerQt::DruckerQt(Dialogablauf dialog) : dialog(std::move(dialog)) {}
+DruckerQt::DruckerQt(Dialogablauf dialog, Nachricht nachricht)
+    : dialog(std::move(dialog)), nachricht(std::move(nachricht))
+{
+}
 
 DruckerQt::~DruckerQt()
 {
+    ausgang.reset();
     Verwerfen();
 }
 
@@ -74,6 +79,13 @@ std::optional<int> DruckerQt::Dialog(const Druckanfrage &anfrage)
     if (!auswahl)
         return std::nullopt;
     drucker = auswahl->Ziel;
+    ausgang.emplace();
+    ausgang->DanachÖffnen = auswahl->DanachÖffnen;
+    if (drucker) {
+        ausgang->Pdf = drucker->outputFileName();
+        if (ausgang->Pdf.isEmpty())
+            ausgang->Drucker = drucker->printerName();
+    }
     return auswahl->Modus;
 }
 
@@ -237,6 +249,7 @@ void DruckerQt::SeitenAusgeben()
     Beginnen();
     bool erste = true;
     for (const Seite &seite : seiten) {
+        Lebenszeichen();
         if (!std::exchange(erste, false) && !drucker->newPage())
             Druckerfehler();
         for (const Zeichnung &zeichnung : seite)
@@ -252,9 +265,11 @@ void DruckerQt::SeitenAusgeben()
 
 void DruckerQt::EndDoc()
 {
-    if (!seiten.empty())
+    const bool leer = seiten.empty();
+    if (!leer)
         SeitenAusgeben();
     Vergessen();
+    Beenden(leer ? Druckausgang::OhneInhalt : Druckausgang::Gedruckt);
 }
 
 void DruckerQt::Verwerfen()
@@ -267,6 +282,17 @@ void DruckerQt::Verwerfen()
         QFile::remove(Teildatei());
     Vergessen();
     richtung = Hochformat; // a report that turned the page has no chance to turn it back
+    Beenden(Druckausgang::Gescheitert);
+}
+
+/// Last, since what runs then may look at the file.
+void DruckerQt::Beenden(Druckausgang::Art ende)
+{
+    if (!ausgang)
+        return;
+    Druckausgang dieser = *std::exchange(ausgang, std::nullopt);
+    dieser.Ende = ende;
+    nachricht(dieser);
 }
 
 QString DruckerQt::Teildatei() const

@@ -21,6 +21,17 @@ namespace altardienst {
 struct Druckauswahl {
     int Modus = 0; // 1: the second layout
     std::shared_ptr<QPrinter> Ziel;
+    bool DanachÖffnen = false; // the PDF, for looking at it
+};
+
+/// How a report ended.
+struct Druckausgang {
+    enum Art { Gedruckt, OhneInhalt, Gescheitert };
+
+    Art Ende = Gescheitert;
+    QString Pdf;     // its file; empty on paper
+    QString Drucker; // the name of the printer; empty for a PDF
+    bool DanachÖffnen = false;
 };
 
 /// A picture made of strokes and letters, so that it prints as sharply as the printer can.
@@ -41,7 +52,11 @@ class DruckerQt : public DruckerDienst {
     /// What runs before each report; returns nothing if it was cancelled.
     using Dialogablauf = std::function<std::optional<Druckauswahl>(const Druckanfrage &)>;
 
-    explicit DruckerQt(Dialogablauf dialog);
+    /// What runs after each report that was not cancelled, once the printer is free again.
+    using Nachricht = std::function<void(const Druckausgang &)>;
+
+    explicit DruckerQt(
+        Dialogablauf dialog, Nachricht nachricht = [](const Druckausgang &) {});
     ~DruckerQt() override;
 
     std::optional<int> Dialog(const Druckanfrage &anfrage) override;
@@ -71,10 +86,12 @@ class DruckerQt : public DruckerDienst {
     void SchriftSetzen();
     void Beginnen();
     void SeitenAusgeben();
+    void Beenden(Druckausgang::Art ende);
     void Vergessen();
     QString Teildatei() const;
 
     Dialogablauf dialog;
+    Nachricht nachricht;
     int richtung = Hochformat;
     QFont schrift;
     bool schriftGeändert = true;
@@ -88,6 +105,7 @@ class DruckerQt : public DruckerDienst {
     std::shared_ptr<QPrinter> drucker;
     QString pdf; // the file of the current document, empty when printing on paper
     std::unique_ptr<QPainter> stift;
+    std::optional<Druckausgang> ausgang; // of the report that is being printed
 };
 
 } // namespace altardienst

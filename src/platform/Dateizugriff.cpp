@@ -1,6 +1,7 @@
 // The files themselves: read, written, copied and found, whatever drive they are on.
 #include "platform/Dateizugriff.h"
 
+#include "platform/Lebenszeichen.h"
 #include "values/Laufzeitfehler.h"
 
 #include <algorithm>
@@ -29,6 +30,7 @@ using OffeneDatei = std::unique_ptr<std::FILE, Schließer>;
 
 OffeneDatei Öffnen(const fs::path &pfad, const char *art)
 {
+    Lebenszeichen();
 #ifdef _WIN32
     return OffeneDatei(_wfopen(pfad.c_str(), fs::path(art).c_str()));
 #else
@@ -62,6 +64,7 @@ OffeneDatei Öffnen(const fs::path &pfad, const char *art)
 /// Returns only when the medium itself holds what was written.
 bool Durchschreiben(std::FILE *datei)
 {
+    Lebenszeichen();
 #ifdef _WIN32
     return std::fflush(datei) == 0 && _commit(_fileno(datei)) == 0;
 #else
@@ -109,6 +112,7 @@ std::string Lesen(const fs::path &pfad)
         inhalt.reserve(größe + 1);
     constexpr std::size_t stück = std::size_t(1) << 16;
     while (true) {
+        Lebenszeichen();
         std::size_t bisher = inhalt.size();
         inhalt.resize(bisher + stück);
         std::size_t gelesen = std::fread(inhalt.data() + bisher, 1, stück, datei.get());
@@ -154,26 +158,29 @@ void Kopieren(const fs::path &von, const fs::path &nach)
         fs::rename(daneben, ziel, fehler);
         if (fehler)
             Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
+        Lebenszeichen();
     } catch (const Laufzeitfehler &) {
         fs::remove(daneben, fehler);
         throw;
     }
 }
 
+/// The directory itself is read: a medium that ignores case, such as most sticks, leads from any
+/// spelling to the file and would not tell the stored one.
 std::optional<Text> Suchen(const fs::path &verzeichnis, const Text &name)
 {
-#ifndef _WIN32
-    if (IstDatei(verzeichnis / PfadAus(name)))
-        return name;
-#endif
     std::optional<Text> gefunden;
     Text gesucht = Klein(name);
     std::error_code fehler;
     fs::directory_iterator ende;
     for (fs::directory_iterator i(verzeichnis, fehler); !fehler && i != ende; i.increment(fehler)) {
+        Lebenszeichen();
         Text gespeichert = TextVon(i->path().filename());
-        if (Klein(gespeichert) == gesucht && (!gefunden || gespeichert < *gefunden) &&
-            IstDatei(i->path()))
+        if (Klein(gespeichert) != gesucht || !IstDatei(i->path()))
+            continue;
+        if (gespeichert == name)
+            return gespeichert;
+        if (!gefunden || gespeichert < *gefunden)
             gefunden = gespeichert;
     }
     return gefunden;
@@ -186,6 +193,7 @@ Verzeichnisinhalt Auflisten(const fs::path &verzeichnis)
     fs::directory_iterator ende;
     fs::directory_iterator i(verzeichnis, fehler);
     for (; !fehler && i != ende; i.increment(fehler)) {
+        Lebenszeichen();
         Text name = TextVon(i->path().filename());
         if (name.starts_with('.'))
             continue;
@@ -223,13 +231,21 @@ void VerzeichnisAnlegen(const fs::path &pfad)
         Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
 }
 
+/// The directory itself is read, as in `Suchen`: what a path leads to may be remembered from
+/// before.
 void Umbenennen(const fs::path &von, const fs::path &nach)
 {
     std::error_code fehler;
     if (!fs::exists(fs::symlink_status(von, fehler)))
         throw Laufzeitfehler(Laufzeitfehler::DateiNichtGefunden);
-    if (fs::exists(fs::symlink_status(nach, fehler)))
-        throw Laufzeitfehler(Laufzeitfehler::DateiVorhanden);
+    const Text gesucht = Klein(TextVon(nach.filename()));
+    fs::directory_iterator ende;
+    for (fs::directory_iterator i(nach.parent_path(), fehler); !fehler && i != ende;
+         i.increment(fehler)) {
+        Lebenszeichen();
+        if (i->path() != von && Klein(TextVon(i->path().filename())) == gesucht)
+            throw Laufzeitfehler(Laufzeitfehler::DateiVorhanden);
+    }
     fs::rename(von, nach, fehler);
     if (fehler)
         Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);

@@ -9,12 +9,18 @@
 
 namespace altardienst {
 
-/// What a report passes to the print dialog: the names of its two layouts, if it has two.
+/// What a report passes to the print dialog: the names of its two layouts, if it has two, and its
+/// own.
 struct Druckanfrage {
     Text ErsteForm;
     Text ZweiteForm;
+    Text Name = {};      // of the report, for people
+    Text Dateiname = {}; // of a PDF file, without extension; empty: like the report
 
     bool HatZweiFormen() const { return !ZweiteForm.empty(); }
+
+    /// A report with one layout.
+    static Druckanfrage Für(const Text &name) { return {{}, {}, name}; }
 };
 
 /// A picture that fills a page; how it is drawn concerns only the code that makes and prints it.

@@ -142,6 +142,19 @@ Text TextVon(const std::filesystem::path &pfad)
     return Text(text.begin(), text.end());
 }
 
+Text AlsDateiname(std::string_view text)
+{
+    Text name(text);
+    for (char &zeichen : name)
+        if (static_cast<unsigned char>(zeichen) < ' ' ||
+            std::string_view("/\\:*?\"<>|").find(zeichen) != std::string_view::npos)
+            zeichen = '-';
+    const auto erstes = name.find_first_not_of(" .");
+    if (erstes == Text::npos)
+        return "";
+    return name.substr(erstes, name.find_last_not_of(" .") - erstes + 1);
+}
+
 Text OrdnerText(const std::filesystem::path &verzeichnis)
 {
     return TextVon(verzeichnis / "");

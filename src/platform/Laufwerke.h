@@ -62,8 +62,9 @@ struct LaufwerkeDienst {
     std::function<void(const path &)> AttributeLöschen;
     std::function<void(const path &)> VerzeichnisAnlegen; // with its parents; may exist
 
-    /// Gives a file another name in its directory. Never replaces anything: failure 58 if the name
-    /// leads to a file, which is the same one if the file system ignores case.
+    /// Gives a file or a directory another name. Never replaces anything: failure 58 if the name is
+    /// already taken there, in whatever case of letters. If only the case changes, some file
+    /// systems that ignore it leave the file as it is.
     std::function<void(const path &von, const path &nach)> Umbenennen;
 
     std::function<void(const path &)> Löschen; // a directory with all that is in it; may be gone
@@ -95,6 +96,10 @@ extern LaufwerkeDienst Laufwerke;
 /// UTF-8 text to and from a platform path.
 std::filesystem::path PfadAus(std::string_view text);
 Text TextVon(const std::filesystem::path &pfad);
+
+/// A text as the name of a file on every platform: what one of them forbids becomes "-", and there
+/// are no blanks or dots at its ends.
+Text AlsDateiname(std::string_view text);
 
 /// The text of a directory with a trailing separator, which a root has anyway.
 Text OrdnerText(const std::filesystem::path &verzeichnis);

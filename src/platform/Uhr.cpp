@@ -1,6 +1,7 @@
 // The system's clock in local time.
 #include "platform/Uhr.h"
 
+#include <chrono>
 #include <ctime>
 
 namespace altardienst {
@@ -50,11 +51,17 @@ Datum HeutigerTag()
     return DatumAus({ort.tm_year + 1900, ort.tm_mon + 1, ort.tm_mday});
 }
 
+std::int64_t Millisekunden()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
 } // namespace
 
 UhrDienst Systemuhr()
 {
-    return {HeutigerTag, SekundenDesTages};
+    return {HeutigerTag, SekundenDesTages, Millisekunden};
 }
 
 UhrDienst Uhr = Systemuhr();

@@ -3,6 +3,7 @@
 
 #include "values/Datum.h"
 
+#include <cstdint>
 #include <functional>
 
 namespace altardienst {
@@ -10,6 +11,9 @@ namespace altardienst {
 struct UhrDienst {
     std::function<Datum()> Heute;  // today, a whole number
     std::function<int()> Sekunden; // local time of day in whole seconds, 0 to 86399; cheap
+
+    /// Milliseconds since some moment, for how long something takes; never goes back.
+    std::function<std::int64_t()> Stoppuhr;
 };
 
 /// The system's clock in local time.

@@ -8,7 +8,8 @@ namespace altardienst {
 
 void AufnahmebestätigungDrucken(const Aufnahme &a)
 {
-    BerichtDrucken({}, [&](int) {
+    const Text name = "Aufnahmebestätigung " + a.Vorname + " " + a.Nachname;
+    BerichtDrucken(Druckanfrage::Für(name), [&](int) {
         // True millimetres: the scales that correct a printer do not apply to this page.
         constexpr Single ProMillimeter = KonfigDatensatz::SkalaVorgabe;
         Grundschrift();

@@ -1,6 +1,7 @@
 // The dialog that writes the plan as a text file.
 #include "printing/DialogForm.h"
 
+#include "application/Mitteilung.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
@@ -98,8 +99,10 @@ void DialogForm::VerzeichnisErstellen()
 
 void DialogForm::Schreiben()
 {
+    const bool angehängt = Anhang->isChecked();
+    std::filesystem::path pfad;
     try {
-        const auto pfad = ZielDatei(ziel);
+        pfad = ZielDatei(ziel);
         if (Anhang->isChecked())
             Laufwerke.Anhängen(pfad, PlanAlsText());
         if (Überschreib->isChecked())
@@ -108,6 +111,7 @@ void DialogForm::Schreiben()
         Meldungen.Zeigen("Datei konnte nicht geschrieben werden!!");
         return;
     }
+    Mitteilen(ExportSatz(pfad, angehängt));
     close();
 }
 

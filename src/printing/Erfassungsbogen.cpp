@@ -42,7 +42,7 @@ constexpr const char *Verbindung = "Telefon:(0_____)_________   EMail:__________
 
 void ErfassungsbogenMeßdienerDrucken(const Text &rückgabe, const Text &dauer)
 {
-    BerichtDrucken({}, [&](int) {
+    BerichtDrucken(Druckanfrage::Für("Erfassungsbogen Meßdiener"), [&](int) {
         // Of the two blank lines after the title, one belongs to the opening of every report.
         BerichtEröffnen({"Erfassungsbogen für den Altardienst (Meßdiener)"});
         ZeileDrucken("");
@@ -65,7 +65,7 @@ void ErfassungsbogenMeßdienerDrucken(const Text &rückgabe, const Text &dauer)
 
 void ErfassungsbogenHelferDrucken(const Text &rückgabe, const Text &dauer)
 {
-    BerichtDrucken({}, [&](int) {
+    BerichtDrucken(Druckanfrage::Für("Erfassungsbogen Helfer"), [&](int) {
         BerichtEröffnen({"Erfassungsbogen für den Altardienst (Meßhelfer)"});
         ZeileDrucken("");
         NameUndAdresse();

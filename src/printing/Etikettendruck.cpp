@@ -65,26 +65,29 @@ void BögenFüllen(const Etikettenleute &leute, Etikettenplatz anfang, int &r, i
 
 Etikettenleute EtikettenAllerMeßdiener()
 {
-    return {Meßdiener.Anzahl, nullptr, [](int i) { return AnschriftAus(Meßdiener, i); }};
+    return {Meßdiener.Anzahl, nullptr, [](int i) { return AnschriftAus(Meßdiener, i); },
+            "Etiketten Meßdiener"};
 }
 
 Etikettenleute EtikettenDerGruppe(const Text &gruppe)
 {
     Etikettenleute leute = EtikettenAllerMeßdiener();
+    leute.Name = "Etiketten " + gruppe;
     leute.Gehört = [gruppe](int i) { return IstInGruppe(i, gruppe); };
     return leute;
 }
 
 Etikettenleute EtikettenAllerHelfer()
 {
-    return {Helfer.Anzahl, nullptr, [](int i) { return AnschriftAus(Helfer, i); }};
+    return {Helfer.Anzahl, nullptr, [](int i) { return AnschriftAus(Helfer, i); },
+            "Etiketten Helfer"};
 }
 
 std::optional<Etikettenplatz> EtikettenDrucken(const Etikettenleute &leute,
                                                const std::function<Etikettenplatz()> &anfang)
 {
     std::optional<Etikettenplatz> weiter;
-    BerichtDrucken({}, [&](int) {
+    BerichtDrucken(Druckanfrage::Für(leute.Name), [&](int) {
         if (Etikett.Reihen[Etikett.Anzahl] < 1 || Etikett.Spalten[Etikett.Anzahl] < 1)
             throw Laufzeitfehler(Laufzeitfehler::Druckerfehler); // would turn pages for ever
         Grundschrift();

@@ -24,6 +24,7 @@ struct Etikettenleute {
     int Anzahl;                             // of the table
     std::function<bool(int person)> Gehört; // null: everybody
     std::function<altardienst::Anschrift(int person)> Anschrift;
+    Text Name = {}; // of the run, in the print dialog
 };
 
 Etikettenleute EtikettenAllerMeßdiener();

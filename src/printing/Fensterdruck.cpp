@@ -75,7 +75,7 @@ Druckbild Aufnahme(QWidget *fenster)
 
 void FensterDrucken(QWidget *fenster)
 {
-    BerichtDrucken({}, [&](int) {
+    BerichtDrucken(Druckanfrage::Für(fenster->windowTitle().toStdString()), [&](int) {
         Drucker->Picture(Aufnahme(fenster));
         Drucker->EndDoc();
     });

@@ -71,6 +71,7 @@ struct Zählung {
 
 /// One of the people lists.
 struct Personenliste {
+    Text Name;
     std::vector<Text> Titel;
     int TitelZeilen;
     int Anzahl;
@@ -84,7 +85,7 @@ constexpr Zählung Kompaktzählung = {2, 2};
 
 void PersonenlisteDrucken(const Personenliste &liste)
 {
-    BerichtDrucken({"ausführlich", "eine Zeile je Person"}, [&](int modus) {
+    BerichtDrucken({"ausführlich", "eine Zeile je Person", liste.Name}, [&](int modus) {
         const bool kompakt = modus == DruckerDienst::ZweiteForm;
         const Zählung zählung = kompakt ? Kompaktzählung : liste.Breitzählung;
         Int16 Zeilen;
@@ -116,6 +117,7 @@ void PersonenlisteDrucken(const Personenliste &liste)
 void AlleMeßdienerDrucken()
 {
     PersonenlisteDrucken({
+        .Name = "Meßdienerliste",
         .Titel = {"Meßdiener der Pfarrei " + Konfig.Gemeinde},
         .TitelZeilen = 3,
         .Anzahl = Meßdiener.Anzahl,
@@ -133,6 +135,7 @@ void AlleMeßdienerDrucken()
 void MeßdienergruppeDrucken(const Text &gruppe)
 {
     PersonenlisteDrucken({
+        .Name = "Meßdienerliste " + gruppe,
         // Of the two blank lines after the group, the second belongs to the opening of every
         // report.
         .Titel = {"Meßdiener der Pfarrei " + Konfig.Gemeinde, "", "der Gruppe " + gruppe, ""},
@@ -151,6 +154,7 @@ void MeßdienergruppeDrucken(const Text &gruppe)
 void AlleHelferDrucken()
 {
     PersonenlisteDrucken({
+        .Name = "Helferliste",
         .Titel = {"Meßhelfer der Pfarrei " + Konfig.Gemeinde},
         .TitelZeilen = 3,
         .Anzahl = Helfer.Anzahl,
@@ -166,7 +170,7 @@ void AlleHelferDrucken()
 
 void WunschpartnerlisteDrucken()
 {
-    BerichtDrucken({}, [](int) {
+    BerichtDrucken(Druckanfrage::Für("Wunschpartnerliste"), [](int) {
         Int16 Zeilen;
         for (int i = 0; i < Meßdiener.Anzahl; ++i) {
             if (i == 0) {
@@ -188,7 +192,7 @@ void WunschpartnerlisteDrucken()
 void StandardmessenDrucken()
 {
     constexpr int LetzteZeile = 10; // the last row that their dialog shows
-    BerichtDrucken({}, [](int) {
+    BerichtDrucken(Druckanfrage::Für("Standardmessen"), [](int) {
         BerichtEröffnen({"Standardmessen der Pfarrei " + Konfig.Gemeinde});
         ZeileDrucken("");
         ZeileDrucken("a=Meßdienerzahl, b=Gabenbereitung, c=Leuchter, d=Flambeaus");
@@ -216,7 +220,7 @@ void StandardmessenDrucken()
 
 void EtikettengrößenDrucken()
 {
-    BerichtDrucken({}, [](int) {
+    BerichtDrucken(Druckanfrage::Für("Etikettengrößen"), [](int) {
         BerichtEröffnen({"Etikettengrößen"});
         ZeileDrucken("Etikettenname, Rand O/U, Rand R/L, Höhe, Breite, Steg, Reihen, Spalten");
         ZeileDrucken("");

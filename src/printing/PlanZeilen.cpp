@@ -3,10 +3,27 @@
 
 #include "core/Plätze.h"
 #include "core/Umwandlung.h"
+#include "platform/Uhr.h"
 #include "printing/Druckwerte.h"
+
+#include <optional>
 
 namespace altardienst {
 namespace {
+
+/// "2026-11-28".
+Text JahrMonatTag(Datum tag)
+{
+    const Kalendertag k = KalendertagVon(tag);
+    return FesteStellen(k.Jahr, 4, 0) + "-" + FesteStellen(k.Monat, 2, 0) + "-" +
+           FesteStellen(k.Tag, 2, 0);
+}
+
+/// A file may hold any number; the plan is printed nevertheless.
+bool IstImKalender(Datum tag)
+{
+    return tag > 0 && tag <= DatumAus({9999, 12, 31});
+}
 
 Text Person(int i, int n)
 {
@@ -75,6 +92,15 @@ Text PlanTitel()
 Text PlanZeitraum()
 {
     return "vom " + Druckdatum(Messe.Datum[0]) + "bis " + Druckdatum(Messe.Datum[Messe.Anzahl - 1]);
+}
+
+Text PlanDateiname()
+{
+    std::optional<Datum> erster;
+    for (int i = 0; i < Messe.Anzahl && i <= MesseTabelle::HöchsterIndex; ++i)
+        if (IstImKalender(Messe.Datum[i]) && (!erster || Messe.Datum[i] < *erster))
+            erster = Messe.Datum[i];
+    return "Altardienst " + JahrMonatTag(erster.value_or(Uhr.Heute()));
 }
 
 PlanZeilen PlanZeilenDer(int i)

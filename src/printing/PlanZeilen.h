@@ -21,4 +21,8 @@ PlanZeilen PlanZeilenDer(int i);
 Text PlanTitel();
 Text PlanZeitraum();
 
+/// The name for a file that holds the plan, without extension: with its first day, year first, so
+/// that the plans stand in their order; with today if there are no masses.
+Text PlanDateiname();
+
 } // namespace altardienst

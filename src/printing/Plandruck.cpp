@@ -50,7 +50,9 @@ void Helferformular(int i, Int16 &Zeilen)
 void PlanDrucken()
 {
     DiensteVerteilen();
-    BerichtDrucken({"Plan mit Namen", "Formular für die Helfer"}, [](int modus) {
+    const Druckanfrage anfrage = {"Plan mit Namen", "Formular für die Helfer", "Altardienst",
+                                  PlanDateiname()};
+    BerichtDrucken(anfrage, [](int modus) {
         Int16 Zeilen;
         for (int i = 0; i < Messe.Anzahl; ++i) {
             if (i == 0) {

@@ -29,6 +29,12 @@ std::filesystem::path ZielDatei(const Exportziel &ziel)
     return ordner / PfadAus(Laufwerke.Suchen(ordner, ziel.NurName).value_or(ziel.NurName));
 }
 
+Text ExportSatz(const std::filesystem::path &datei, bool angehängt)
+{
+    return angehängt ? "Plan als Text an " + TextVon(datei) + " angehängt"
+                     : "Plan als Text nach " + TextVon(datei) + " geschrieben";
+}
+
 std::string PlanAlsText()
 {
     std::string bytes;

@@ -25,6 +25,9 @@ bool ZielVorhanden(const Exportziel &ziel);
 /// system; a new one is named as typed.
 std::filesystem::path ZielDatei(const Exportziel &ziel);
 
+/// What there is to say once it is written or appended.
+Text ExportSatz(const std::filesystem::path &datei, bool angehängt);
+
 /// The whole plan in Windows-1252 with CR LF, based on the services as they are.
 std::string PlanAlsText();
 

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "core/Dateien.h"
+#include "core/Ladebericht.h"
 
 #include <filesystem>
+#include <vector>
 
 namespace altardienst {
 
@@ -42,5 +44,39 @@ void DateiKopieren(const Kopierdatei &datei, const std::filesystem::path &von,
 /// copied.
 void AlleDateienKopieren(const std::filesystem::path &von, const std::filesystem::path &nach,
                          NeueDatei neue);
+
+/// A file that is stored under another case of letters than its own.
+struct Schreibung {
+    Text Gespeichert;
+    Text Eigene;
+};
+
+/// Why a directory cannot be copied from. Every file that keeps `AlleDateienVorhanden` from being
+/// true is in one of the lists, in the order in which they are sought.
+struct Dateimängel {
+    std::vector<Text> Fehlend;       // by their own names
+    std::vector<Schreibung> Anders;  // there, but only under another spelling
+    std::vector<Schreibung> Doppelt; // there under both, and the other one is found first
+
+    bool Keine() const { return Fehlend.empty() && Anders.empty() && Doppelt.empty(); }
+
+    /// Whether renaming is all that is needed.
+    bool SindNurNamen() const { return Fehlend.empty() && Doppelt.empty() && !Anders.empty(); }
+};
+
+Dateimängel DateimängelIn(const std::filesystem::path &verzeichnis);
+
+/// The same in one sentence, such as "Hier fehlt: Etiketten.dat"; empty if there are none.
+Text DateimängelSatz(const Dateimängel &mängel);
+
+/// Gives all files that are there under another case of letters their own names and says in one
+/// sentence what became of it. Nothing is ever overwritten; a file that refuses keeps its name.
+Text NamenBerichtigen(const std::filesystem::path &verzeichnis);
+
+/// "8 Dateien nach ... kopiert".
+Text KopiertSatz(int dateien, const std::filesystem::path &ziel);
+
+/// The same for files that were copied into the program's directory and then loaded.
+Text GeholtSatz(int dateien, const std::filesystem::path &quelle, const Ladebericht &bericht);
 
 } // namespace altardienst

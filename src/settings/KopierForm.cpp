@@ -2,6 +2,7 @@
 #include "settings/KopierForm.h"
 
 #include "application/Anwendung.h"
+#include "application/Mitteilung.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
@@ -9,6 +10,7 @@
 #include "platform/Laufwerke.h"
 
 #include <QCloseEvent>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -32,9 +34,13 @@ void Neuladen()
 
 constexpr const char *Holen = "Datendateien kopieren";
 
+constexpr const char *ErsterStart =
+    "Wählen Sie das Laufwerk „Mitgelieferte Daten“ und öffnen Sie mit Doppelklick „leer“ für eine "
+    "neue Gemeinde, „beispiel“ zum Ausprobieren; oder öffnen Sie das Verzeichnis Ihrer Sicherung.";
+
 const Kopierdialog Datensicherung{"Datensicherung", "Daten sichern", true, [] {}};
 const Kopierdialog Dateikopie{"Dateikopie", Holen, false, VonFestplatteLaden};
-const Kopierdialog DateienKopieren{"DateienKopieren", Holen, false, Neuladen};
+const Kopierdialog DateienKopieren{"DateienKopieren", Holen, false, Neuladen, ErsterStart};
 
 /// Makes the control keep its space while it is hidden.
 void PlatzBehalten(QWidget *control)
@@ -62,8 +68,9 @@ KopierForm::KopierForm(const Kopierdialog &dialog, std::function<void(bool)> dan
     : Wahl("Drive1", "Dir1", "Dateien"), EoA(Benannt(new QGroupBox("Daten ?"), "EoA")),
       Alle(Option("Alle", "Alle")), Einzel(Option("Einzel", "Einzel")),
       Welche(Benannt(new QGroupBox("Welche ?"), "Welche")), Datei(Pfadanzeige("Datei")),
-      OKButton(Knopf("OKButton", "OK")), CancelButton(Knopf("CancelButton", "Abbrechen")),
-      dialog(dialog), danach(std::move(danach))
+      Gegenort(new Kurztext("Gegenort", Qt::ElideMiddle)), Hinweis(new Kurztext("Hinweis")),
+      Berichtigen(Knopf("Berichtigen", "Namen berichtigen")), OKButton(Knopf("OKButton", "OK")),
+      CancelButton(Knopf("CancelButton", "Abbrechen")), dialog(dialog), danach(std::move(danach))
 {
     Benannt(this, dialog.Name);
     setWindowTitle(dialog.Titel);
@@ -76,8 +83,12 @@ KopierForm::KopierForm(const Kopierdialog &dialog, std::function<void(bool)> dan
     Anordnen();
     Verbinden();
     OKButton->hide();
+    Berichtigen->hide();
+    Setzen(Gegenort, OrdnerText(Laufwerke.Programmverzeichnis()));
     Alle->setChecked(true);
     Wahl.Beginnen();
+    if (Wahl.Pfad().empty()) // no drive can be read
+        VerzeichnisGewechselt();
 }
 
 void KopierForm::Anordnen()
@@ -114,11 +125,36 @@ void KopierForm::Anordnen()
     PlatzBehalten(OKButton);
 
     auto *spalte = Fensterspalte(this, Luft::Mittel);
+    if (dialog.Anleitung) {
+        QLabel *anleitung = Beschriftung("Anleitung", dialog.Anleitung);
+        anleitung->setWordWrap(true);
+        spalte->addWidget(anleitung);
+    }
     spalte->addLayout(oben, 1);
-    spalte->addWidget(Datei);
+    spalte->addLayout(Wege());
     spalte->addLayout(Knopfreihe({OKButton, CancelButton}));
     resize(660, 440);
     Wahl.Verzeichnis->setFocus();
+}
+
+/// From where to where, and below the source what is the matter with it.
+QLayout *KopierForm::Wege()
+{
+    auto *befund = new QHBoxLayout;
+    befund->addWidget(Hinweis, 1);
+    befund->addWidget(Berichtigen);
+    PlatzBehalten(Berichtigen);
+
+    auto *raster = new QGridLayout;
+    raster->setHorizontalSpacing(10);
+    raster->setVerticalSpacing(4);
+    raster->setColumnStretch(1, 1);
+    raster->addWidget(Beschriftung("QuelleText", "Quelle:"), 0, 0);
+    raster->addWidget(dialog.Hinaus ? Gegenort : Datei, 0, 1);
+    raster->addLayout(befund, 1, 1);
+    raster->addWidget(Beschriftung("ZielText", "Ziel:"), 2, 0);
+    raster->addWidget(dialog.Hinaus ? Datei : Gegenort, 2, 1);
+    return raster;
 }
 
 void KopierForm::Verbinden()
@@ -134,6 +170,7 @@ void KopierForm::Verbinden()
         connect(Verzeichnis, &QPushButton::clicked, this, erstellen);
         BeiEingabetaste(VZ, erstellen);
     }
+    connect(Berichtigen, &QPushButton::clicked, this, Offen([this] { NamenÄndern(); }));
     connect(OKButton, &QPushButton::clicked, this, Offen([this] { Kopieren(); }));
     connect(CancelButton, &QPushButton::clicked, this, [this] { close(); });
 }
@@ -149,6 +186,22 @@ void KopierForm::VerzeichnisGewechselt()
 {
     Setzen(Datei, OrdnerText(Wahl.Pfad()));
     OKButton->setVisible(!Wahl.Pfad().empty() && AlleDateienVorhanden(Quelle()));
+    if (Wahl.Pfad().empty())
+        return Setzen(Hinweis, "Kein Laufwerk läßt sich lesen.");
+    const Dateimängel mängel = DateimängelIn(Quelle());
+    Setzen(Hinweis, DateimängelSatz(mängel));
+    Berichtigen->setVisible(mängel.SindNurNamen());
+}
+
+/// Says beside it what it did, even if not every file could be renamed.
+void KopierForm::NamenÄndern()
+{
+    const Text satz = NamenBerichtigen(Quelle());
+    Wahl.Auffrischen();
+    VerzeichnisGewechselt();
+    Setzen(Hinweis, satz);
+    if (OKButton->isVisible())
+        OKButton->setFocus();
 }
 
 /// The new directory is shown but not entered; if it cannot be made, nothing happens.
@@ -175,7 +228,9 @@ void KopierForm::Kopieren()
         for (std::size_t k = 0; k < O.size(); ++k)
             if (O[k]->isChecked())
                 DateiKopieren(Kopierdateien[k], Quelle(), ziel, neue);
-    dialog.NachKopie();
+    const Ladebericht bericht = LadenMitBericht(dialog.NachKopie);
+    const int anzahl = Alle->isChecked() ? static_cast<int>(Kopierdateien.size()) : 1;
+    Mitteilen(dialog.Hinaus ? KopiertSatz(anzahl, ziel) : GeholtSatz(anzahl, Quelle(), bericht));
     kopiert = true;
     close();
 }

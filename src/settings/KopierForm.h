@@ -1,6 +1,7 @@
 // The three dialogs that copy the eight data files, which are the same except for a few words.
 #pragma once
 
+#include "controls/Kurztext.h"
 #include "controls/Verzeichniswahl.h"
 #include "settings/Dateikopie.h"
 
@@ -22,10 +23,12 @@ struct Kopierdialog {
     const char *Titel;
     bool Hinaus;         // from the program's directory to the one picked, or the reverse
     void (*NachKopie)(); // after the copy, before the form goes
+    const char *Anleitung = nullptr; // for who sees the dialog before any other
 };
 
-/// OK is visible only while the source directory holds all eight files. A copy that fails is shown
-/// and leaves the dialog open.
+/// OK is visible only while the source directory holds all eight files; if not, a line beside the
+/// source says what is missing, and where only the names are wrong a button renames the files. A
+/// copy that fails is shown and leaves the dialog open.
 class KopierForm : public QWidget {
   public:
     /// `danach` runs once the form is gone and is passed whether it has copied.
@@ -40,6 +43,9 @@ class KopierForm : public QWidget {
     QGroupBox *Welche;
     std::array<QRadioButton *, 8> O; // O1 to O8
     QLabel *Datei;
+    Kurztext *Gegenort; // the program's directory, which is the other end of the copy
+    Kurztext *Hinweis;  // why there is no OK, or what was renamed
+    QPushButton *Berichtigen;
     QPushButton *OKButton;
     QPushButton *CancelButton;
 
@@ -53,6 +59,8 @@ class KopierForm : public QWidget {
     void UmfangGewählt();
     void VerzeichnisGewechselt();
     void VerzeichnisErstellen();
+    void NamenÄndern();
+    QLayout *Wege();
     void Kopieren();
     std::filesystem::path Quelle() const;
 

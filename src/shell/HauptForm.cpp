@@ -3,6 +3,7 @@
 
 #include "anniversaries/JubiGebuForm.h"
 #include "application/Anwendung.h"
+#include "application/Mitteilung.h"
 #include "application/Nebenfenster.h"
 #include "application/Wartezeiger.h"
 #include "assignment/Dienste.h"
@@ -12,6 +13,7 @@
 #include "controls/Handler.h"
 #include "controls/Kurztasten.h"
 #include "core/Allgemein.h"
+#include "core/Ladebericht.h"
 #include "core/Sortierbefehle.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
@@ -80,6 +82,16 @@ QAction *Eintrag(QMenu *menü, const char *name, const char *beschriftung,
     return eintrag;
 }
 
+/// An action that gives no message: the status bar tells that it is done.
+void Eintrag(QMenu *menü, const char *name, const char *beschriftung,
+             const std::function<void()> &aktion, const char *mitteilung)
+{
+    Eintrag(menü, name, beschriftung, [aktion, mitteilung] {
+        aktion();
+        Mitteilen(mitteilung);
+    });
+}
+
 /// A load replaces the tables and does not touch the windows that are open: what was typed there is
 /// not written before it, and stays on the screen.
 void Ladeeintrag(QMenu *menü, const char *name, const char *beschriftung,
@@ -105,12 +117,13 @@ bool SpeichernOderEnden()
 {
     try {
         AufFestplatteSpeichern();
-        return true;
     } catch (const Laufzeitfehler &fehler) {
         Meldungen.Zeigen(fehler.Meldung());
         Enden(fehler.Nummer());
         return false;
     }
+    Mitteilen("gespeichert");
+    return true;
 }
 
 /// The exit routine: saves everything and unloads every window.
@@ -118,6 +131,31 @@ void Beenden()
 {
     if (SpeichernOderEnden())
         Enden(0);
+}
+
+/// A load says nothing of itself, even if it has stopped in the middle.
+void FestplatteLaden()
+{
+    Mitteilen(Festplattenbericht(LadenMitBericht(VonFestplatteLaden)));
+}
+
+void DisketteLaden()
+{
+    VorWechselSichern(Vorher::DateienUndTabellen);
+    const Text bericht = Diskettenbericht(LadenMitBericht(VonDisketteLaden));
+    if (!bericht.empty())
+        Mitteilen(bericht);
+}
+
+/// A save to the diskette fails silently.
+void DisketteSpeichern()
+{
+    try {
+        AufDisketteSpeichern();
+        Mitteilen("auf Diskette gespeichert");
+    } catch (const Laufzeitfehler &fehler) {
+        Mitteilen(Text("nicht auf Diskette gespeichert: ") + fehler.what());
+    }
 }
 
 /// The number of a key in the main keyboard's row of digits, whatever Shift or Caps Lock makes of
@@ -147,7 +185,7 @@ HauptForm::HauptForm()
       Messendruck(Knopf("Messendruck", "(7) Druck des Altardienstes")),
       ODER1(Beschriftung("ODER1", "ODER")), Uhriger(Beschriftung("Uhriger", "Uhr")),
       UHRZEITIGES(Beschriftung("UHRZEITIGES", "")), Image1(new Hintergrundbild("Image1")),
-      Timer1(Benannt(new QTimer(this), "Timer1"))
+      Timer1(Benannt(new QTimer(this), "Timer1")), Leiste(new Statuszeile)
 {
     Benannt(this, "Haupt");
     setWindowTitle("Altardienst ");
@@ -158,8 +196,10 @@ HauptForm::HauptForm()
     MenüZusatz();
     MenüÜberblick();
     MenüHilfe();
+    setStatusBar(Leiste);
     Verbinden();
     Takt();
+    ÜberblickZeigen();
 }
 
 std::array<QPushButton *, 7> HauptForm::Schritte() const
@@ -247,36 +287,48 @@ void HauptForm::MenüSortieren()
 {
     QMenu *sortieren = Menü(menuBar(), "mnuSortieren", "S&ortieren");
     QMenu *etiketten = Menü(sortieren, "mnuEtik", "&Etiketten");
-    Eintrag(etiketten, "mnuEtiAUF", "a&ufsteigend sortieren", EtikettenAufsteigendSortieren);
-    Eintrag(etiketten, "mnuEtiAB", "a&bsteigend sortieren", EtikettenAbsteigendSortieren);
+    Eintrag(etiketten, "mnuEtiAUF", "a&ufsteigend sortieren", EtikettenAufsteigendSortieren,
+            "Etikettengrößen aufsteigend sortiert");
+    Eintrag(etiketten, "mnuEtiAB", "a&bsteigend sortieren", EtikettenAbsteigendSortieren,
+            "Etikettengrößen absteigend sortiert");
     Trennstrich(sortieren, "mnufilebar8");
-    Eintrag(sortieren, "mnuVorbMessen", "&Vorbesetzte Messen", VorbesetzteMessenSortieren);
-    Eintrag(sortieren, "mnuGruppensort", "&Gruppen", GruppenSortieren);
+    Eintrag(sortieren, "mnuVorbMessen", "&Vorbesetzte Messen", VorbesetzteMessenSortieren,
+            "vorbesetzte Messen sortiert");
+    Eintrag(sortieren, "mnuGruppensort", "&Gruppen", GruppenSortieren, "Gruppen sortiert");
 
     QMenu *messen = Menü(sortieren, "mnuMess", "&Messen");
-    Eintrag(messen, "mnuSortmessen", "&nach Datum sortieren", MessenNachDatumSortieren);
-    Eintrag(messen, "mnuSortmessenUhr", "nach Datum und &Uhrzeit sortieren", MessenSortieren);
+    Eintrag(messen, "mnuSortmessen", "&nach Datum sortieren", MessenNachDatumSortieren,
+            "Messen nach Datum sortiert");
+    Eintrag(messen, "mnuSortmessenUhr", "nach Datum und &Uhrzeit sortieren", MessenSortieren,
+            "Messen nach Datum und Uhrzeit sortiert");
     QMenu *standard = Menü(sortieren, "mnuStandardmess", "&Standardmessen");
     Eintrag(standard, "mnuWochentag", "nach &Wochentag sortieren",
-            StandardmessenNachWochentagSortieren);
+            StandardmessenNachWochentagSortieren, "Standardmessen nach Wochentag sortiert");
     Trennstrich(sortieren, "mnuFileBar1");
 
     QMenu *diener = Menü(sortieren, "mnuMeßdienersortierung", "M&eßdiener");
-    Eintrag(diener, "mnuMeßdienersort", "nach &Nachname sortieren", MeßdienerNachNachnameSortieren);
-    Eintrag(diener, "mnuMeßdienersort2", "nach &Vorname sortieren", MeßdienerNachVornameSortieren);
-    Eintrag(diener, "mnuMeßdienerGruppe", "nach &Gruppe sortieren", MeßdienerNachGruppeSortieren);
+    Eintrag(diener, "mnuMeßdienersort", "nach &Nachname sortieren", MeßdienerNachNachnameSortieren,
+            "Meßdiener nach Nachname sortiert");
+    Eintrag(diener, "mnuMeßdienersort2", "nach &Vorname sortieren", MeßdienerNachVornameSortieren,
+            "Meßdiener nach Vorname sortiert");
+    Eintrag(diener, "mnuMeßdienerGruppe", "nach &Gruppe sortieren", MeßdienerNachGruppeSortieren,
+            "Meßdiener nach Gruppe sortiert");
     Eintrag(diener, "mnuMeßdienerGebuSort", "nach G&eburtstag sortieren",
-            MeßdienerNachGeburtstagSortieren);
-    Eintrag(diener, "mnuMeßdienerStraßSort", "nach Str&aße sortieren",
-            MeßdienerNachStraßeSortieren);
+            MeßdienerNachGeburtstagSortieren, "Meßdiener nach Geburtstag sortiert");
+    Eintrag(diener, "mnuMeßdienerStraßSort", "nach Str&aße sortieren", MeßdienerNachStraßeSortieren,
+            "Meßdiener nach Straße sortiert");
 
     QMenu *helfer = Menü(sortieren, "mnuMeßhelfer", "Meß&helfer");
     Eintrag(helfer, "mnuMeßhelferNachsort", "nach &Nachnamen sortieren",
-            HelferNachNachnameSortieren);
-    Eintrag(helfer, "mnuMeßhelferNachsort2", "nach &Vorname sortieren", HelferNachVornameSortieren);
-    Eintrag(helfer, "mnuHelfSortDienst", "nach D&ienst sortieren", HelferNachDienstSortieren);
-    Eintrag(helfer, "mnuHelfsortGebu", "nach G&eburtstag sortieren", HelferNachGeburtstagSortieren);
-    Eintrag(helfer, "mnuHelferSortStraße", "nach Str&aße sortieren", HelferNachStraßeSortieren);
+            HelferNachNachnameSortieren, "Helfer nach Nachname sortiert");
+    Eintrag(helfer, "mnuMeßhelferNachsort2", "nach &Vorname sortieren", HelferNachVornameSortieren,
+            "Helfer nach Vorname sortiert");
+    Eintrag(helfer, "mnuHelfSortDienst", "nach D&ienst sortieren", HelferNachDienstSortieren,
+            "Helfer nach Dienst sortiert");
+    Eintrag(helfer, "mnuHelfsortGebu", "nach G&eburtstag sortieren", HelferNachGeburtstagSortieren,
+            "Helfer nach Geburtstag sortiert");
+    Eintrag(helfer, "mnuHelferSortStraße", "nach Str&aße sortieren", HelferNachStraßeSortieren,
+            "Helfer nach Straße sortiert");
 }
 
 void HauptForm::MenüZusatz()
@@ -289,14 +341,11 @@ void HauptForm::MenüZusatz()
     Eintrag(festplatte, "mnuDatenspeichern", "&speichern", [] {
         SpeichernOderEnden();
     })->setShortcut(QKeySequence::Save);
-    Ladeeintrag(festplatte, "mnuDatenladen", "&laden", VonFestplatteLaden);
+    Ladeeintrag(festplatte, "mnuDatenladen", "&laden", FestplatteLaden);
 
     QMenu *diskette = Menü(zusatz, "mnuDatene", "D&aten auf Diskette");
-    Eintrag(diskette, "mnuDatenspeichernD", "&speichern", Abgefangen(AufDisketteSpeichern));
-    Ladeeintrag(diskette, "mnuDatenladenD", "&laden", [] {
-        VorWechselSichern(Vorher::DateienUndTabellen);
-        VonDisketteLaden();
-    });
+    Eintrag(diskette, "mnuDatenspeichernD", "&speichern", DisketteSpeichern);
+    Ladeeintrag(diskette, "mnuDatenladenD", "&laden", DisketteLaden);
 
     QMenu *daten = Menü(zusatz, "mnuDatamenu", "Dat&en");
     Eintrag(daten, "mnuDatenHolen", "Daten &holen", [] {
@@ -309,7 +358,8 @@ void HauptForm::MenüZusatz()
         if (SpeichernOderEnden())
             DialogÖffnen<DatensicherungForm>();
     });
-    Eintrag(zusatz, "DruckML", "Dienste &richtig setzen für Messenlistausdruck", DiensteVerteilen);
+    Eintrag(zusatz, "DruckML", "Dienste &richtig setzen für Messenlistausdruck", DiensteVerteilen,
+            "Dienste richtig gesetzt");
 }
 
 void HauptForm::MenüÜberblick()
@@ -350,12 +400,31 @@ void HauptForm::Verbinden()
 
     connect(Timer1, &QTimer::timeout, this, Nebenbei([this] { Takt(); }));
     Timer1->start(50);
+
+    // Whatever the window's own actions, a load or another window have changed shows in its bar.
+    const auto zeigen = [this] { ÜberblickZeigen(); };
+    NebenDemHauptfenster(
+        this, [] {}, zeigen, zeigen);
 }
 
 void HauptForm::Takt()
 {
     UHRZEITIGES->setText(Anzeige(LangeZeit(ZeitAus(Uhr.Sekunden()))));
     Image1->Zeigen(Konfig.Hintergrund);
+}
+
+/// Trapped: a bad value of the tables must not keep the window from opening.
+void HauptForm::ÜberblickZeigen()
+{
+    Abgefangen([this] { Leiste->Zeigen(ÜberblickAbschnitte()); })();
+}
+
+/// A dialog that leaves has written its screen to the tables.
+void HauptForm::changeEvent(QEvent *ereignis)
+{
+    QMainWindow::changeEvent(ereignis);
+    if (ereignis->type() == QEvent::EnabledChange && isEnabled())
+        ÜberblickZeigen();
 }
 
 void HauptForm::closeEvent(QCloseEvent *ereignis)

@@ -1,6 +1,7 @@
 // The main window: the seven steps of making a plan, the menu, the clock and the picture.
 #pragma once
 
+#include "application/Statuszeile.h"
 #include "settings/Hintergrundbild.h"
 
 #include <QLabel>
@@ -31,8 +32,10 @@ class HauptForm : public QMainWindow {
     QLabel *UHRZEITIGES;
     Hintergrundbild *Image1;
     QTimer *Timer1;
+    Statuszeile *Leiste;
 
   protected:
+    void changeEvent(QEvent *ereignis) override;
     void closeEvent(QCloseEvent *ereignis) override;
     void keyPressEvent(QKeyEvent *taste) override;
 
@@ -48,6 +51,7 @@ class HauptForm : public QMainWindow {
     void MenüHilfe();
 
     void Takt();
+    void ÜberblickZeigen();
 
     std::array<QPushButton *, 7> Schritte() const;
 };

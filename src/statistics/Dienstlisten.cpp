@@ -11,6 +11,7 @@ namespace altardienst {
 namespace {
 
 struct Dienstliste {
+    Text Name;
     Text Titel;
     int Anzahl;
     std::function<Text(int)> Zeile;
@@ -30,7 +31,7 @@ void KopfDrucken(const Text &titel)
 
 void DienstlisteDrucken(const Dienstliste &liste)
 {
-    BerichtDrucken({}, [&](int) {
+    BerichtDrucken(Druckanfrage::Für(liste.Name), [&](int) {
         Drucker->Orientation(Konfig.DiffJahr);
         Int16 Zeilen; // on the page
         for (int i = 0; i < liste.Anzahl; ++i) {
@@ -66,6 +67,7 @@ Text Personenzeile(const Dienstzeile<arten> &person, const std::array<const char
 void MeßdienerdiensteDrucken(Meßdienerzählung &zählung)
 {
     DienstlisteDrucken({
+        .Name = "Dienste der Meßdiener",
         .Titel = "Statistik Meßdiener mit Anzahl Dienste",
         .Anzahl = Meßdiener.Anzahl,
         .Zeile =
@@ -82,6 +84,7 @@ void MeßdienerdiensteDrucken(Meßdienerzählung &zählung)
 void HelferdiensteDrucken(Helferzählung &zählung)
 {
     DienstlisteDrucken({
+        .Name = "Dienste der Helfer",
         .Titel = "Statistik Helfer mit Anzahl Dienste",
         .Anzahl = Helfer.Anzahl,
         .Zeile =

@@ -145,15 +145,16 @@ TEST_F(DruckdialogTest, AlleTexteSindDeutschUndTabFolgtDemAuge)
 {
     Öffnen(ZweiFormen);
     const std::map<const char *, const char *> aufschriften = {
-        {"Papier", "Drucker:"},   {"Einstellungen", "Einstellungen..."},
-        {"Pdf", "PDF-Datei:"},    {"Durchsuchen", "Durchsuchen..."},
-        {"OKButton", "OK"},       {"CancelButton", "Abbrechen"},
-        {"KopienText", "Kopien:"}};
+        {"Papier", "Drucker:"},    {"Einstellungen", "Einstellungen..."},
+        {"Pdf", "PDF-Datei:"},     {"Durchsuchen", "Durchsuchen..."},
+        {"OKButton", "OK"},        {"CancelButton", "Abbrechen"},
+        {"KopienText", "Kopien:"}, {"DanachÖffnen", "danach öffnen"}};
     for (const auto &[name, text] : aufschriften)
         EXPECT_EQ(Zeigt(name), text) << name;
     FokusAuf("Pdf");
-    EXPECT_EQ(Tabfolge(dialog.get()), (std::vector<Text>{"Pdf", "PdfDatei", "Durchsuchen",
-                                                         "ErsteForm", "OKButton", "CancelButton"}));
+    EXPECT_EQ(Tabfolge(dialog.get()),
+              (std::vector<Text>{"Pdf", "PdfDatei", "Durchsuchen", "DanachÖffnen", "ErsteForm",
+                                 "OKButton", "CancelButton"}));
     // The inner box of `Kopien`, which carries the name of the whole control.
     EXPECT_EQ(Stumme(dialog.get()), std::vector<Text>{"qt_spinbox_lineedit"});
     EXPECT_EQ(Finden("Kopien")->accessibleName(), "Kopien");

@@ -1,9 +1,12 @@
 // The machine's own file system.
 #include "platform/Laufwerke.h"
 
+#include "platform/Lebenszeichen.h"
+
 #include "Prüfstand.h"
 
 #include <cstdlib>
+#include <utility>
 
 #ifndef _WIN32
 #include <sys/stat.h>
@@ -176,6 +179,57 @@ TEST_F(LaufwerkeTest, VerzeichnisseEntstehenMitDenenDarüber)
     DateiSchreiben(Festplatte / "datei", "");
     EXPECT_NE(NummerDesFehlers([&] { System.VerzeichnisAnlegen(Festplatte / "datei"); }), 0);
     EXPECT_NE(NummerDesFehlers([&] { System.VerzeichnisAnlegen(Festplatte / "datei" / "x"); }), 0);
+}
+
+TEST_F(LaufwerkeTest, UmbenennenÄndertAuchNurDieSchreibung)
+{
+    const fs::path groß = Festplatte / PfadAus("Größe");
+    DateiSchreiben(Festplatte / "alt", "Inhalt");
+    System.Umbenennen(Festplatte / "alt", Festplatte / PfadAus("größe"));
+    System.Umbenennen(Festplatte / PfadAus("größe"), groß);
+    EXPECT_EQ(System.Auflisten(Festplatte).Dateien, std::vector<Text>{"Größe"});
+    EXPECT_EQ(DateiLesen(groß), "Inhalt");
+    DateiSchreiben(Festplatte / "andere", "bleibt");
+    fs::create_symlink("nirgends", Festplatte / "Verweis");
+    for (const char *ziel : {"andere", "ANDERE", "Verweis"})
+        EXPECT_EQ(NummerDesFehlers([&] { System.Umbenennen(groß, Festplatte / ziel); }), 58)
+            << ziel;
+    EXPECT_EQ(DateiLesen(Festplatte / "andere"), "bleibt");
+    EXPECT_EQ(DateiLesen(groß), "Inhalt");
+    EXPECT_EQ(NummerDesFehlers([&] { System.Umbenennen(groß, Festplatte / "weg" / "x"); }), 76);
+}
+
+TEST_F(LaufwerkeTest, JederZugriffGibtEinLebenszeichen)
+{
+    int zeichen = 0;
+    const auto zuvor = std::exchange(Lebenszeichen, [&] { ++zeichen; });
+    const auto gibtEines = [&](auto tun) { // at least one
+        zeichen = 0;
+        tun();
+        return zeichen > 0;
+    };
+    DateiSchreiben(Festplatte / "x", "");
+    EXPECT_TRUE(gibtEines([&] { System.Lesen(Festplatte / "x"); }));
+    EXPECT_TRUE(gibtEines([&] { System.Schreiben(Festplatte / "x", "1"); }));
+    EXPECT_TRUE(gibtEines([&] { System.Anhängen(Festplatte / "x", "1"); }));
+    EXPECT_TRUE(gibtEines([&] { System.Kopieren(Festplatte / "x", Festplatte / "y"); }));
+    EXPECT_TRUE(gibtEines([&] { System.Umbenennen(Festplatte / "y", Festplatte / "z"); }));
+    EXPECT_TRUE(gibtEines([&] { System.Suchen(Festplatte, "X"); }));
+    EXPECT_TRUE(gibtEines([&] { System.Auflisten(Festplatte); }));
+    DateiSchreiben(Festplatte / "groß", std::string(1000000, 'x'));
+    System.Lesen(Festplatte / "groß");
+    EXPECT_GT(zeichen, 10) << "between the parts of a file too";
+    Lebenszeichen = zuvor;
+}
+
+TEST_F(LaufwerkeTest, EinDateinameGehtAufJedemSystem)
+{
+    EXPECT_EQ(AlsDateiname("Helferliste"), "Helferliste");
+    EXPECT_EQ(AlsDateiname("Meßdienerliste Große & Kleine"), "Meßdienerliste Große & Kleine");
+    EXPECT_EQ(AlsDateiname("a/b\\c:d*e?f\"g<h>i|j\nk"), "a-b-c-d-e-f-g-h-i-j-k");
+    EXPECT_EQ(AlsDateiname(" ..Etiketten St. Martin. "), "Etiketten St. Martin");
+    EXPECT_EQ(AlsDateiname(" . "), "");
+    EXPECT_EQ(AlsDateiname(""), "");
 }
 
 TEST_F(LaufwerkeTest, TexteUndPfadeSindEinUndDasselbe)

@@ -133,6 +133,15 @@ TEST_F(FensterdruckTest, EinDokumentMitEinerSeite)
     EXPECT_FALSE(papier.Anfrage.HatZweiFormen());
 }
 
+TEST_F(FensterdruckTest, DerBerichtHeißtWieDasFenster)
+{
+    Druckprotokoll papier;
+    Drucker = &papier;
+    fenster.setWindowTitle("Statistik (Meßdienergröße)");
+    FensterDrucken(&fenster);
+    EXPECT_EQ(papier.Anfrage.Name, "Statistik (Meßdienergröße)");
+}
+
 TEST_F(FensterdruckTest, WährendDesDialogsStehenDieKnöpfeNoch)
 {
     bool sichtbar = false;

@@ -19,6 +19,8 @@ TEST(Laufzeitfehler, NenntNummerUndText)
               "Laufzeitfehler '11': Division durch Null");
     EXPECT_EQ(Laufzeitfehler(Laufzeitfehler::DateiNichtGefunden).Meldung(),
               "Laufzeitfehler '53': Datei nicht gefunden");
+    EXPECT_EQ(Laufzeitfehler(Laufzeitfehler::DateiVorhanden).Meldung(),
+              "Laufzeitfehler '58': Datei existiert bereits");
     EXPECT_EQ(Laufzeitfehler(Laufzeitfehler::DatenträgerVoll).Meldung(),
               "Laufzeitfehler '61': Datenträger voll");
     EXPECT_EQ(Laufzeitfehler(Laufzeitfehler::HinterDateiende).Meldung(),

@@ -1,0 +1,8 @@
+// A sign of life from whatever reads, writes or prints.
+#include "platform/Lebenszeichen.h"
+
+namespace altardienst {
+
+std::function<void()> Lebenszeichen = [] {};
+
+} // namespace altardienst
