@@ -1,3 +1,3 @@
 # The rooms, from the ground up: each may include itself and those before it.
 set(RÄUME values platform core controls paper application history assignment planning fixed printing
-    people anniversaries settings statistics shell)
+    people anniversaries settings statistics search shell)
