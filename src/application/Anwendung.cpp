@@ -70,6 +70,11 @@ void HauptfensterSetzen(QWidget *haupt)
     Hauptfenster = haupt;
 }
 
+bool HauptfensterBereit()
+{
+    return Hauptfenster && Hauptfenster->isEnabled();
+}
+
 void DialogDanebenÖffnen(QWidget *dialog)
 {
     std::erase_if(vertretungen, [dialog](const Vertretung &v) {

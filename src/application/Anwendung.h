@@ -15,6 +15,9 @@ void AnwendungEinrichten(QApplication &anwendung);
 /// Sets the main window, for the dialogs; null if there is none.
 void HauptfensterSetzen(QWidget *haupt);
 
+/// Whether there is a main window and no dialog has disabled it.
+bool HauptfensterBereit();
+
 /// Disables and minimises the main window and brings the dialog to the front, ready for use however
 /// it was left; it deletes itself when closed.
 void DialogÖffnen(QWidget *dialog);

@@ -2,6 +2,7 @@
 #include "application/Nebenfenster.h"
 
 #include "application/Anwendung.h"
+#include "application/Datensatzliste.h"
 #include "controls/Handler.h"
 #include "controls/Vordergrund.h"
 
@@ -58,7 +59,8 @@ QStringList Gezeigt::Texte(const QWidget *form)
 {
     QStringList texte;
     for (const auto *feld : form->findChildren<QLineEdit *>())
-        texte.append(feld->text());
+        if (!GehörtZurListe(feld))
+            texte.append(feld->text());
     return texte;
 }
 

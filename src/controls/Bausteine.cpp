@@ -142,6 +142,16 @@ QLabel *Beschriftung(const char *name, const char *text, QWidget *zu)
     return label;
 }
 
+QLabel *Überschrift(const char *text, QWidget *zu)
+{
+    auto *label = Beschriftung("", text);
+    label->setBuddy(zu);
+    QFont schrift = label->font();
+    schrift.setBold(true);
+    label->setFont(schrift);
+    return label;
+}
+
 QLineEdit *Textfeld(const char *name)
 {
     auto *feld = Benannt(new QLineEdit, name);
@@ -290,6 +300,13 @@ QWidget *Rollbar(QLayout *inhalt)
     rollbar->setFocusPolicy(Qt::NoFocus);
     rollbar->setWidget(fläche);
     return rollbar;
+}
+
+void InSicht(QWidget *control)
+{
+    for (QWidget *um = control->parentWidget(); um; um = um->parentWidget())
+        if (auto *fläche = qobject_cast<QScrollArea *>(um))
+            fläche->ensureWidgetVisible(control);
 }
 
 void GrößeAnpassen(QWidget *fenster)

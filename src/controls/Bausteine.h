@@ -31,6 +31,9 @@ QPushButton *Knopf(const char *name, const char *beschriftung);
 /// A label; with a control it is that control's buddy and gives it its spoken name.
 QLabel *Beschriftung(const char *name, const char *text, QWidget *zu = nullptr);
 
+/// A heading above some controls, in bold; with a control it is that control's buddy.
+QLabel *Überschrift(const char *text, QWidget *zu = nullptr);
+
 /// A text box. A character that the files cannot hold turns into "?" at once, and a line break into
 /// a blank, so that what is seen is what will be stored.
 QLineEdit *Textfeld(const char *name);
@@ -63,6 +66,9 @@ void Setzen(QLabel *label, const Text &text);
 /// A part of a window that scrolls where the screen is small or strongly enlarged. The parts of a
 /// horizontal box stand one below the other where they do not fit side by side.
 QWidget *Rollbar(QLayout *inhalt);
+
+/// Scrolls a control into view, where it lies in a part of a window that scrolls.
+void InSicht(QWidget *control);
 
 /// The property of a window that says that the user chose its size.
 constexpr const char *EigeneGröße = "eigeneGröße";

@@ -4,9 +4,11 @@
 
 #include <QHBoxLayout>
 
+#include <algorithm>
+
 namespace altardienst {
 
-QVBoxLayout *Fensterspalte(QWidget *fenster, Luft luft)
+QVBoxLayout *Fensterspalte(QWidget *fenster, Luft luft, QWidget *links)
 {
     struct Maße {
         int Rand;
@@ -15,9 +17,20 @@ QVBoxLayout *Fensterspalte(QWidget *fenster, Luft luft)
     const Maße maße = luft == Luft::Viel     ? Maße{20, 18}
                       : luft == Luft::Mittel ? Maße{16, 12}
                                              : Maße{12, 8};
-    auto *spalte = new QVBoxLayout(fenster);
-    spalte->setContentsMargins(maße.Rand, maße.Rand, maße.Rand, maße.Rand);
+    auto *spalte = new QVBoxLayout;
+    QLayout *ganz = spalte;
+    int linkerRand = maße.Rand;
+    if (links) { // stands in the margin as far as it can
+        auto *reihe = new QHBoxLayout;
+        reihe->setSpacing(2);
+        reihe->addWidget(links);
+        reihe->addLayout(spalte, 1);
+        ganz = reihe;
+        linkerRand -= std::min(linkerRand, links->minimumSizeHint().width() + reihe->spacing());
+    }
+    ganz->setContentsMargins(linkerRand, maße.Rand, maße.Rand, maße.Rand);
     spalte->setSpacing(maße.Abstand);
+    fenster->setLayout(ganz);
     return spalte;
 }
 
@@ -25,9 +38,11 @@ QLayout *Datensatzkopf(Datensatzwahl *wahl, QLabel *beschriftung, QLabel *anzahl
 {
     auto *kopf = new QHBoxLayout;
     kopf->addWidget(wahl);
-    kopf->addSpacing(24);
-    kopf->addWidget(beschriftung);
-    kopf->addWidget(anzahl);
+    if (anzahl) {
+        kopf->addSpacing(24);
+        kopf->addWidget(beschriftung);
+        kopf->addWidget(anzahl);
+    }
     kopf->addStretch();
     return kopf;
 }

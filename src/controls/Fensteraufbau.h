@@ -16,11 +16,13 @@ namespace altardienst {
 /// How much space a window leaves at its edges and between its parts: the fuller it is, the less.
 enum class Luft { Viel, Mittel, Wenig };
 
-/// The column that holds everything in a window.
-QVBoxLayout *Fensterspalte(QWidget *fenster, Luft luft);
+/// The column that holds everything in a window, apart from what stands at its left.
+QVBoxLayout *Fensterspalte(QWidget *fenster, Luft luft, QWidget *links = nullptr);
 
-/// The record mover, with the number of records next to it.
-QLayout *Datensatzkopf(Datensatzwahl *wahl, QLabel *beschriftung, QLabel *anzahl);
+/// The record mover, with the number of records next to it where a form shows it. Stands at the
+/// top of every editor.
+QLayout *Datensatzkopf(Datensatzwahl *wahl, QLabel *beschriftung = nullptr,
+                       QLabel *anzahl = nullptr);
 
 /// Buttons that work on the record go on the left, those that leave the form on the far right.
 QLayout *Knopfreihe(std::initializer_list<QPushButton *> rechts,

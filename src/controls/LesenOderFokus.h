@@ -5,8 +5,6 @@
 #include "controls/Verlassen.h"
 #include "values/Laufzeitfehler.h"
 
-#include <QScrollArea>
-
 #include <string_view>
 
 namespace altardienst {
@@ -21,9 +19,7 @@ template <class Wert> Wert LesenOderFokus(QLineEdit *feld, Wert (*lesen)(std::st
     } catch (const Laufzeitfehler &) {
         const OhneVerlassen ruhe;
         feld->setFocus();
-        for (QWidget *um = feld->parentWidget(); um; um = um->parentWidget())
-            if (auto *fläche = qobject_cast<QScrollArea *>(um))
-                fläche->ensureWidgetVisible(feld);
+        InSicht(feld);
         throw;
     }
 }

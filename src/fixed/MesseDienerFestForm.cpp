@@ -148,6 +148,14 @@ void MesseDienerFestForm::Schritt(int richtung)
     Felder.MeßdienerZeilenEinblenden();
 }
 
+void MesseDienerFestForm::Springen(int eintrag)
+{
+    Abgefangen([&] {
+        if (const int weite = eintrag - ZahlIn(Wahl->Nummer))
+            Schritt(weite);
+    })();
+}
+
 /// The spin button leaves everything else to the change of the number.
 void MesseDienerFestForm::Wechseln(int richtung)
 {

@@ -15,6 +15,9 @@ class MesseDienerFestForm : public Dialogfenster {
     /// Brings back the open one, if there is one.
     static void Zurück();
 
+    /// A step to any entry.
+    void Springen(int eintrag);
+
     Datensatzwahl *Wahl; // Index, Plus, Minus, DatensatzWechsel
     QLabel *MaxIndex;
     Zuordnungsfelder Felder; // Messen, DatumD, Zeitd, ME1 to 20, MDiener1 to 20 and their names

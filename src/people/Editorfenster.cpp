@@ -5,9 +5,16 @@
 #include "controls/Handler.h"
 #include "controls/Zahlbox.h"
 
+#include <utility>
+
 namespace altardienst {
 
-Editorfenster::Editorfenster(Datensatzwahl *wahl) : Wahl(wahl), Ende(Knopf("Ende", "Ende")) {}
+Editorfenster::Editorfenster(Datensatzwahl *wahl, Datensatzliste::Quelle quelle)
+    : Wahl(wahl), Liste(nullptr), Ende(Knopf("Ende", "Ende"))
+{
+    quelle.BeiWahl = Offen([this](int satz) { Aufschlagen(satz); });
+    Liste = new Datensatzliste(wahl, std::move(quelle));
+}
 
 void Editorfenster::EndeVerbinden()
 {
@@ -18,9 +25,24 @@ void Editorfenster::EndeVerbinden()
             }));
 }
 
+void Editorfenster::Aufschlagen(int satz)
+{
+    const int i = Sichern();
+    if (satz > i && !IstBenannt(i))
+        return;
+    Zeigen(satz);
+    ZahlSetzen(Wahl->Nummer, satz);
+}
+
 int Editorfenster::Nummer() const
 {
     return ZahlIn(Wahl->Nummer);
+}
+
+void Editorfenster::NullStattLeer() const
+{
+    if (Wahl->Nummer->text().isEmpty())
+        ZahlSetzen(Wahl->Nummer, 0);
 }
 
 void Editorfenster::Speichern()

@@ -1,8 +1,9 @@
-// What the editors of the groups, the servers and the helpers have in common: how a new record is
-// added, and how the window is left.
+// What the editors of the groups, the servers and the helpers have in common: how any record is
+// reached, how a new one is added, and how the window is left.
 #pragma once
 
 #include "application/Anwendung.h"
+#include "application/Datensatzliste.h"
 #include "application/Dialogfenster.h"
 #include "controls/Datensatzwahl.h"
 
@@ -14,14 +15,27 @@ namespace altardienst {
 
 class Editorfenster : public Dialogfenster {
   public:
-    explicit Editorfenster(Datensatzwahl *wahl);
+    /// `quelle` says what the list shows; choosing from it is up to this class.
+    Editorfenster(Datensatzwahl *wahl, Datensatzliste::Quelle quelle);
 
     Datensatzwahl *Wahl;
+    Datensatzliste *Liste;
     QPushButton *Ende;
 
   protected:
     /// Runs before each save, except when the window is closed by its close box.
     virtual void Umbenennen() = 0;
+
+    /// What every step does first: renames and writes the screen. Returns the number of the record.
+    virtual int Sichern() = 0;
+
+    /// A record without its names cannot be left forwards.
+    virtual bool IstBenannt(int i) const = 0;
+
+    virtual void Zeigen(int i) = 0;
+
+    /// A step to any record.
+    virtual void Aufschlagen(int satz);
 
     /// The last save, which writes the screen.
     virtual void Abschließen() = 0;
@@ -42,6 +56,9 @@ class Editorfenster : public Dialogfenster {
 
     /// Failure 13 if the number box does not hold a number.
     int Nummer() const;
+
+    /// An empty number box counts as 0, and shows that record.
+    void NullStattLeer() const;
 
     /// Focus events that still arrive after that are ignored.
     bool IstAbgeschlossen() const { return abgeschlossen; }

@@ -5,6 +5,7 @@
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 #include "controls/Zahlbox.h"
+#include "core/Messenname.h"
 #include "core/tables.h"
 #include "people/NeuGruppeForm.h"
 #include "people/Personenboxen.h"
@@ -12,15 +13,26 @@
 
 #include <QHBoxLayout>
 
+#include <algorithm>
+
 namespace altardienst {
 namespace {
 
 constexpr int LetzterDatensatz = 100;
 
+Datensatzliste::Quelle Listenquelle()
+{
+    return {"Gruppen",
+            "Kommunionkinder 2026",
+            [] { return std::min<int>(Gruppe.Anzahl, LetzterDatensatz + 1); },
+            [](int i) { return Personenzeile("", Gruppe.Bezeichnung[i]); },
+            {}};
+}
+
 } // namespace
 
 GruppeForm::GruppeForm()
-    : Editorfenster(new Datensatzwahl({"Indexi", "PLUS", "MINUS", "DPM"})),
+    : Editorfenster(new Datensatzwahl({"Indexi", "PLUS", "MINUS", "DPM"}), Listenquelle()),
       GBezeichnung(Textfeld("GBezeichnung")), Gruppenzahl(Beschriftung("Gruppenzahl", "")),
       Löschend(Knopf("Löschend", "Gruppe löschen")), NEWGroup(Knopf("NEWGroup", "neue Gruppe"))
 {
@@ -42,12 +54,13 @@ void GruppeForm::Anordnen()
     name->addWidget(Beschriftung("", "Gruppe:", GBezeichnung));
     name->addWidget(GBezeichnung, 1);
 
-    auto *spalte = Fensterspalte(this, Luft::Viel);
+    auto *spalte = Liste->Fensterspalte(this, Luft::Viel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Anzahl Gruppen:"), Gruppenzahl));
     spalte->addLayout(name);
     spalte->addLayout(Knopfreihe({Ende}, {NEWGroup, Löschend}));
     spalte->addStretch();
     setMinimumWidth(500);
+    GrößeAnpassen(this);
     GBezeichnung->setFocus();
 }
 
@@ -77,13 +90,24 @@ void GruppeForm::NummerGeändert()
 /// be left forwards, although the next name is shown.
 void GruppeForm::Schritt(int richtung)
 {
-    Umbenennen();
-    Schreiben();
-    const int i = Nummer();
+    const int i = Sichern();
     if (richtung > 0 ? i < LetzterDatensatz : i > 0)
         Zeigen(i + richtung);
-    if (richtung < 0 || !Gruppe.Bezeichnung[i].empty())
+    if (richtung < 0 || IstBenannt(i))
         ZahlSetzen(Wahl->Nummer, i + richtung);
+    Liste->Folgen();
+}
+
+int GruppeForm::Sichern()
+{
+    Umbenennen();
+    Schreiben();
+    return Nummer();
+}
+
+bool GruppeForm::IstBenannt(int i) const
+{
+    return !Gruppe.Bezeichnung[i].empty();
 }
 
 /// Before each save, except when closing by the close box: a name that another group has is
@@ -107,6 +131,7 @@ void GruppeForm::Löschen()
     AnzahlZeigen();
     if (Nummer() > Gruppe.Anzahl)
         ZahlSetzen(Wahl->Nummer, Gruppe.Anzahl);
+    Liste->Folgen();
 }
 
 void GruppeForm::NeueGruppe()

@@ -25,11 +25,13 @@ class GruppeForm : public Editorfenster {
     void NummerGeändert();
     void Schritt(int richtung);
     void Umbenennen() override;
+    int Sichern() override;
+    bool IstBenannt(int i) const override;
     void Löschen();
     void NeueGruppe();
     void Abschließen() override;
 
-    void Zeigen(int i);
+    void Zeigen(int i) override;
     void Schreiben();
     void AnzahlZeigen();
 };

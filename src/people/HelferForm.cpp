@@ -6,6 +6,7 @@
 #include "controls/Handler.h"
 #include "controls/Terminbox.h"
 #include "controls/Zahlbox.h"
+#include "core/Messenname.h"
 #include "core/Plätze.h"
 #include "people/NeuerHelferForm.h"
 #include "platform/Meldungen.h"
@@ -13,11 +14,22 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace altardienst {
 namespace {
 
 constexpr int LetzterDatensatz = 200;
 constexpr int MeisteLebensjahre = 90;
+
+Datensatzliste::Quelle Listenquelle()
+{
+    return {"Helfer",
+            "Mustermann, Maximiliane",
+            [] { return std::min<int>(Helfer.Anzahl, LetzterDatensatz + 1); },
+            [](int i) { return Personenzeile(Helfer.Vorname[i], Helfer.Nachname[i]); },
+            {}};
+}
 
 auto Zeitspalten()
 {
@@ -47,7 +59,7 @@ void GeburtstagPrüfen(QLineEdit *feld)
 }
 
 HelferForm::HelferForm()
-    : Editorfenster(new Datensatzwahl({"Indexen", "PLUS", "MINUS", "DPM"})),
+    : Editorfenster(new Datensatzwahl({"Indexen", "PLUS", "MINUS", "DPM"}), Listenquelle()),
       Datensätzig(Beschriftung("Datensätzig", "")),
       Person({"Vorne", "Hinten", "Weg", "PLZetus", "Wohort", "Anruf", "Mailen"}),
       Tagen("Tagen", {"Änderung1", "Änderung2", "Änderung3"}, "Geburtstag"),
@@ -101,7 +113,7 @@ void HelferForm::Anordnen()
     mitte->addLayout(person, 1);
     mitte->addLayout(rechts);
 
-    auto *spalte = Fensterspalte(this, Luft::Viel);
+    auto *spalte = Liste->Fensterspalte(this, Luft::Viel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Datensatzanzahl:"), Datensätzig));
     spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(Knopfreihe({Ende}, {NeuHelfer, Datensatzlösch}));
@@ -114,8 +126,7 @@ void HelferForm::Verbinden()
     Wahl->BeiWechsel(Abgefangen([this] { NummerGeändert(); }));
     Wahl->BeiSchritt([this](int richtung) {
         Offen([&] {
-            if (Wahl->Nummer->text().isEmpty())
-                ZahlSetzen(Wahl->Nummer, 0);
+            NullStattLeer();
             Schritt(richtung);
         })();
     });
@@ -153,21 +164,39 @@ void HelferForm::NummerGeändert()
 /// number box is lowered all the same and clipped by its own rule.
 void HelferForm::Schritt(int richtung)
 {
-    Umbenennen();
-    const int i = Nummer();
+    const int i = Sichern();
     const int gespeichert = Helfer.Cursor;
-    Schreiben(gespeichert);
+    Liste->Folgen();
     if (richtung > 0) {
         if (i >= LetzterDatensatz)
             return;
         Zeigen(i + 1);
-        if (!Helfer.Vorname[gespeichert].empty())
+        if (IstBenannt(gespeichert))
             ZahlSetzen(Wahl->Nummer, i + 1);
     } else {
         if (i > 0)
             Zeigen(i - 1);
         ZahlSetzen(Wahl->Nummer, i - 1);
     }
+}
+
+int HelferForm::Sichern()
+{
+    Umbenennen();
+    const int i = Nummer();
+    Schreiben(Helfer.Cursor);
+    return i;
+}
+
+bool HelferForm::IstBenannt(int i) const
+{
+    return !Helfer.Vorname[i].empty();
+}
+
+void HelferForm::Aufschlagen(int satz)
+{
+    NullStattLeer();
+    Editorfenster::Aufschlagen(satz);
 }
 
 /// Before each save, except when closing by the close box: a name that another helper has is
@@ -188,6 +217,7 @@ void HelferForm::Löschen()
     AnzahlZeigen();
     if (Nummer() > Helfer.Anzahl)
         ZahlSetzen(Wahl->Nummer, Helfer.Anzahl);
+    Liste->Folgen();
 }
 
 void HelferForm::NeuerHelfer()

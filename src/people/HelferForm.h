@@ -31,11 +31,14 @@ class HelferForm : public Editorfenster {
     void NummerGeändert();
     void Schritt(int richtung);
     void Umbenennen() override;
+    int Sichern() override;
+    bool IstBenannt(int i) const override;
+    void Aufschlagen(int satz) override;
     void Löschen();
     void NeuerHelfer();
     void Abschließen() override;
 
-    void Zeigen(int i);
+    void Zeigen(int i) override;
     void Schreiben(int i);
     void AnzahlZeigen();
 };

@@ -4,6 +4,7 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
+#include "core/Messenname.h"
 #include "core/Plätze.h"
 #include "people/NeuMeßdienerForm.h"
 #include "platform/Meldungen.h"
@@ -12,10 +13,21 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace altardienst {
 namespace {
 
 constexpr int LetzterDatensatz = 399;
+
+Datensatzliste::Quelle Listenquelle()
+{
+    return {"Meßdiener",
+            "Mustermann, Maximiliane",
+            [] { return std::min<int>(Meßdiener.Anzahl, LetzterDatensatz + 1); },
+            [](int i) { return Personenzeile(Meßdiener.Vorname[i], Meßdiener.Nachname[i]); },
+            {}};
+}
 
 auto Zeitspalten()
 {
@@ -39,7 +51,7 @@ std::vector<Flagname> Qualifikationen()
 } // namespace
 
 MeßdienerForm::MeßdienerForm()
-    : Editorfenster(new Datensatzwahl({"Datensätze", "PLUS", "MINUS", "DPM"})),
+    : Editorfenster(new Datensatzwahl({"Datensätze", "PLUS", "MINUS", "DPM"}), Listenquelle()),
       MaxIndex(Beschriftung("MaxIndex", "")),
       Dienstmittig("Dienstmittig", "Qualifikation", Qualifikationen()),
       Abgewählt("Abgewählt", "Möchte nicht dienen",
@@ -87,7 +99,7 @@ void MeßdienerForm::Anordnen()
     mitte->addLayout(Personenteil(), 1);
     mitte->addLayout(rechts);
 
-    auto *spalte = Fensterspalte(this, Luft::Mittel);
+    auto *spalte = Liste->Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Anzahl Datensätze:"), MaxIndex));
     spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(Knopfreihe({Ende}, {NeuDiener, Lösch, Aufnahmebestätigung}));
@@ -133,8 +145,7 @@ void MeßdienerForm::Verbinden()
     Wahl->BeiWechsel(Abgefangen([this] { NummerGeändert(); }));
     Wahl->BeiSchritt([this](int richtung) {
         Offen([&] {
-            if (Wahl->Nummer->text().isEmpty())
-                ZahlSetzen(Wahl->Nummer, 0);
+            NullStattLeer();
             Schritt(richtung);
         })();
     });
@@ -176,16 +187,35 @@ void MeßdienerForm::NummerGeändert()
 /// number box, whose change has already moved it; closing the form corrects it.
 void MeßdienerForm::Schritt(int richtung)
 {
-    Umbenennen();
-    const int i = Nummer();
-    Schreiben(i);
-    const bool benannt = !Meßdiener.Vorname[i].empty() && !Meßdiener.Nachname[i].empty();
-    if (richtung > 0 ? benannt && i < LetzterDatensatz : i > 0) {
+    const int i = Sichern();
+    if (richtung > 0 ? IstBenannt(i) && i < LetzterDatensatz : i > 0) {
         Zeigen(i + richtung);
         ZahlSetzen(Wahl->Nummer, i + richtung);
         if (richtung > 0 ? Meßdiener.Cursor < LetzterDatensatz : Meßdiener.Cursor >= 1)
             Meßdiener.Cursor += richtung;
     }
+    Wunsch.ListeFüllen();
+    Wunsch.PartnerZeigen();
+    Liste->Folgen();
+}
+
+int MeßdienerForm::Sichern()
+{
+    Umbenennen();
+    const int i = Nummer();
+    Schreiben(i);
+    return i;
+}
+
+bool MeßdienerForm::IstBenannt(int i) const
+{
+    return !Meßdiener.Vorname[i].empty() && !Meßdiener.Nachname[i].empty();
+}
+
+void MeßdienerForm::Aufschlagen(int satz)
+{
+    NullStattLeer();
+    Editorfenster::Aufschlagen(satz);
     Wunsch.ListeFüllen();
     Wunsch.PartnerZeigen();
 }
@@ -244,6 +274,7 @@ void MeßdienerForm::Löschen()
     AnzahlZeigen();
     Wunsch.ListeFüllen();
     Wunsch.PartnerZeigen();
+    Liste->Folgen();
 }
 
 void MeßdienerForm::Bestätigen() const

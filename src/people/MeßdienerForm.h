@@ -39,6 +39,9 @@ class MeßdienerForm : public Editorfenster {
     void NummerGeändert();
     void Schritt(int richtung);
     void Umbenennen() override;
+    int Sichern() override;
+    bool IstBenannt(int i) const override;
+    void Aufschlagen(int satz) override;
     void HäufigkeitGeändert();
     void GruppePrüfen();
     void PartnerPrüfen(bool ausgewählt);
@@ -47,7 +50,7 @@ class MeßdienerForm : public Editorfenster {
     void Bestätigen() const;
     void Abschließen() override;
 
-    void Zeigen(int i);
+    void Zeigen(int i) override;
     void Schreiben(int i);
     void AnzahlZeigen();
 };

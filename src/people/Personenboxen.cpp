@@ -72,14 +72,4 @@ void KnöpfeBeschriften(Datensatzwahl *wahl)
         knopf->setFixedWidth(knopf->fontMetrics().horizontalAdvance("Minus") + 40);
 }
 
-QLabel *Überschrift(const char *text, QWidget *zu)
-{
-    auto *label = Beschriftung("", text);
-    label->setBuddy(zu);
-    QFont schrift = label->font();
-    schrift.setBold(true);
-    label->setFont(schrift);
-    return label;
-}
-
 } // namespace altardienst

@@ -41,10 +41,15 @@ Dienstboxen::Dienstboxen(const Dienstnamen &namen) : texte(Aufschriften(namen))
     Allgemein = box(1 + Dienste.size());
 }
 
-void Dienstboxen::Anordnen(QGridLayout *raster, int zeile) const
+void Dienstboxen::Anordnen(QGridLayout *raster, int zeile, int reihen) const
 {
+    constexpr int Spalten = 4; // of each: label, box, spin button, a gap
     const auto anordnen = [&](std::size_t k, const Zahlbox &box) {
-        ZahlboxAnordnen(raster, zeile + static_cast<int>(k), 0, texte[k].c_str(), box);
+        const int stelle = static_cast<int>(k);
+        const int spalte = stelle / reihen * Spalten;
+        ZahlboxAnordnen(raster, zeile + stelle % reihen, spalte, texte[k].c_str(), box);
+        if (spalte > 0)
+            raster->setColumnMinimumWidth(spalte - 1, 24);
     };
     anordnen(0, Dienerzahl);
     for (std::size_t k = 0; k < Dienste.size(); ++k)

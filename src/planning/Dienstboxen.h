@@ -34,7 +34,9 @@ class Dienstboxen {
     std::array<Zahlbox, BesondereDienste.size()> Dienste;
     Zahlbox Allgemein;
 
-    void Anordnen(QGridLayout *raster, int zeile) const;
+    /// From row `zeile` on, in columns of `reihen` rows.
+    void Anordnen(QGridLayout *raster, int zeile,
+                  int reihen = static_cast<int>(Dienstnamen::Boxzahl)) const;
 
     /// `beiDienerzahl` is the form's own handler for a change of the number of servers.
     /// `nachDienst` runs after a change of one of the five services, unless a box held no number.

@@ -7,6 +7,7 @@
 #include "controls/LesenOderFokus.h"
 #include "controls/Textwahl.h"
 #include "controls/Verlassen.h"
+#include "core/Messenname.h"
 #include "core/Namen.h"
 #include "core/Plätze.h"
 #include "core/Umwandlung.h"
@@ -96,9 +97,10 @@ QComboBox *Namenwahl(const char *name, const Text &wofür)
 } // namespace
 
 LektorrenuswForm::LektorrenuswForm(std::function<void()> danach)
-    : Ende(Knopf("Ende", "Ende")), danach(std::move(danach))
+    : Messenname(Überschrift("")), Ende(Knopf("Ende", "Ende")), danach(std::move(danach))
 {
     Benannt(this, "Lektorrenusw");
+    Benannt(Messenname, "Messenname");
     setWindowTitle("Lektoren usw.");
     for (std::size_t art = 0; art < Zahlen.size(); ++art)
         Zahlen[art] = ZahlboxAnlegen(DieZahlnamen[art].Feld, DieZahlnamen[art].Spin,
@@ -124,8 +126,13 @@ void LektorrenuswForm::Anordnen()
     auto *raster = new QGridLayout;
     raster->setHorizontalSpacing(10);
     raster->setVerticalSpacing(8);
+    raster->addWidget(Überschrift("Anzahl"), 0, 0, 1, 3);
+    raster->addWidget(Überschrift("Platz"), 0, 3);
+    raster->addWidget(Überschrift("Helfer"), 0, 4);
+    raster->addWidget(Überschrift("Vorname"), 0, 5);
+    raster->addWidget(Überschrift("Nachname"), 0, 6);
     for (std::size_t p = 0; p < Plätze.size(); ++p) {
-        const int zeile = static_cast<int>(p);
+        const int zeile = static_cast<int>(p) + 1;
         const Helferart &art = Helferplätze[p].Art;
         if (Helferplätze[p].Nummer == 1)
             ZahlboxAnordnen(raster, zeile, 0, Zahltext(art).c_str(), Zahlen[NummerDer(art)]);
@@ -138,9 +145,10 @@ void LektorrenuswForm::Anordnen()
     }
     raster->setColumnStretch(5, 1);
     raster->setColumnStretch(6, 1);
-    raster->setRowStretch(static_cast<int>(Plätze.size()), 1);
+    raster->setRowStretch(raster->rowCount(), 1);
 
     auto *spalte = Fensterspalte(this, Luft::Viel);
+    spalte->addWidget(Messenname);
     spalte->addWidget(Rollbar(raster), 1);
     spalte->addLayout(Knopfreihe({Ende}));
     GrößeAnpassen(this);
@@ -177,6 +185,7 @@ void LektorrenuswForm::Füllen()
 {
     const OhneVerlassen ruhe; // a place disabled now may lose the focus half filled in
     const int i = Messe.Cursor;
+    Setzen(Messenname, Messenüberschrift(i));
     for (std::size_t art = 0; art < Zahlen.size(); ++art)
         ZahlSetzen(Zahlen[art].Feld, Helferarten[art].Zahl.In(Messe)[i]);
     QStringList liste;

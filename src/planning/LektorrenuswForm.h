@@ -30,6 +30,7 @@ class LektorrenuswForm : public QWidget {
         QLineEdit *Nach;
     };
 
+    QLabel *Messenname;                             // which mass it is
     std::array<Zahlbox, Helferarten.size()> Zahlen; // Lecki, Kommi, Kanto, Kolt, Änderung1 to 4
     std::array<Platz, Helferplätze.size()> Plätze;
     QPushButton *Ende;

@@ -7,6 +7,7 @@
 #include "controls/Handler.h"
 #include "controls/LesenOderFokus.h"
 #include "controls/Terminbox.h"
+#include "core/Messenname.h"
 #include "core/Plätze.h"
 #include "core/Umwandlung.h"
 #include "planning/LektorrenuswForm.h"
@@ -18,6 +19,8 @@
 #include <QScopeGuard>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace altardienst {
 namespace {
@@ -62,6 +65,10 @@ Messenbild Gezeigtes(int i)
 
 MessenlisteForm::MessenlisteForm()
     : Wahl(new Datensatzwahl({"Datensatzus", "Plus", "Minus", "DPM"})),
+      Liste(new Datensatzliste(Wahl,
+                               {"Messen", "Sa 28.11.2026 18:30 Vorabendmesse",
+                                [] { return std::min<int>(Messe.Anzahl, LetzterDatensatz + 1); },
+                                Messenzeile, Abgefangen([this](int satz) { Aufschlagen(satz); })})),
       maxi(Beschriftung("maxi", "")), mt(Minusknopf("mt", "einen Tag früher")),
       pt(Plusknopf("pt", "einen Tag später")), mm(Minusknopf("mm", "einen Monat früher")),
       pm(Plusknopf("pm", "einen Monat später")), mj(Minusknopf("mj", "ein Jahr früher")),
@@ -112,22 +119,18 @@ void MessenlisteForm::Anordnen()
     Termin.Anordnen(termin, 0, Terminknöpfe());
     termin->addWidget(Beschriftung("", "Art:", Messewesen), 6, 0);
     termin->addWidget(Messewesen, 6, 1, 1, 2);
+    termin->setColumnStretch(termin->columnCount(), 1);
     auto *dienste = new QGridLayout;
-    Dienste.Anordnen(dienste, 0);
-    dienste->setColumnStretch(3, 1);
+    Dienste.Anordnen(dienste, 0, 4);
+    dienste->setColumnStretch(dienste->columnCount(), 1);
 
-    auto *links = new QVBoxLayout;
-    links->setSpacing(14);
-    links->addLayout(termin);
-    links->addLayout(dienste);
-    links->addStretch();
-
-    auto *mitte = new QHBoxLayout;
-    mitte->setSpacing(20);
-    mitte->addLayout(links);
+    auto *mitte = new QVBoxLayout;
+    mitte->setSpacing(14);
+    mitte->addLayout(termin);
+    mitte->addLayout(dienste);
     mitte->addLayout(Slots.Anordnen(), 1);
 
-    auto *spalte = Fensterspalte(this, Luft::Mittel);
+    auto *spalte = Liste->Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("NBe", "Anzahl Datensätze:"), maxi));
     spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(Knopfreihe({Ende}, {Löscher, NeuMeß, Lektoren}));
@@ -165,10 +168,12 @@ void MessenlisteForm::Verbinden()
                 Ablegen();
         },
         [this] {
+            Liste->Folgen();
             if (gezeigt.Überholt() || cursor != Messe.Cursor)
                 Laden();
         },
         [this] {
+            Liste->Folgen();
             cursor = Messe.Cursor;
             gezeigt.Belassen();
         });
@@ -192,16 +197,32 @@ void MessenlisteForm::NummerGeändert()
 
 void MessenlisteForm::Schritt(int richtung)
 {
+    const int i = Sichern();
+    if (richtung > 0 ? i < LetzterDatensatz : i > 0) {
+        Zeigen(i + richtung);
+        ZahlSetzen(Wahl->Nummer, i + richtung);
+    }
+}
+
+/// What every step does first.
+int MessenlisteForm::Sichern()
+{
     if (Wahl->Nummer->text().isEmpty())
         ZahlSetzen(Wahl->Nummer, 0); // shows mass 0, so no entries could follow a mass
     else
         Mitziehen();
     const int i = Nummer();
     Schreiben(i);
-    if (richtung > 0 ? i < LetzterDatensatz : i > 0) {
-        Zeigen(i + richtung);
-        ZahlSetzen(Wahl->Nummer, i + richtung);
-    }
+    Liste->Folgen();
+    return i;
+}
+
+/// A step to any mass.
+void MessenlisteForm::Aufschlagen(int satz)
+{
+    Sichern();
+    Zeigen(satz);
+    ZahlSetzen(Wahl->Nummer, satz);
 }
 
 void MessenlisteForm::DatumGeändert()
@@ -254,6 +275,7 @@ void MessenlisteForm::Löschen()
     if (Messe.Anzahl >= 2)
         --Messe.Anzahl;
     Merken(Nummer());
+    Liste->Folgen();
     AnzahlZeigen();
     Beschriften();
 }
@@ -302,6 +324,7 @@ void MessenlisteForm::Ablegen()
 {
     Mitziehen();
     Schreiben(Nummer());
+    Liste->Folgen();
 }
 
 /// A fixed entry follows its mass when the mass is moved.

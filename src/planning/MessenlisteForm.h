@@ -1,6 +1,7 @@
 // The mass list: any mass corrected by hand, one at a time.
 #pragma once
 
+#include "application/Datensatzliste.h"
 #include "application/Nebenfenster.h"
 #include "controls/Datensatzwahl.h"
 #include "planning/Dienstboxen.h"
@@ -15,6 +16,7 @@ class MessenlisteForm : public QWidget {
     MessenlisteForm();
 
     Datensatzwahl *Wahl; // Datensatzus, Plus, Minus, DPM
+    Datensatzliste *Liste;
     QLabel *maxi;
     Terminfelder Termin;      // tagelang, Taga, datendaten, Uhrwerk, Änderung1 to 6
     QPushButton *mt, *pt;     // day
@@ -48,6 +50,8 @@ class MessenlisteForm : public QWidget {
 
     void NummerGeändert();
     void Schritt(int richtung);
+    int Sichern();
+    void Aufschlagen(int satz);
     void DatumGeändert();
     void DienerzahlGeändert();
     void ZeilenZeigen(int diener);

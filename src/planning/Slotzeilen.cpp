@@ -34,16 +34,26 @@ QLayout *Slotzeilen::Anordnen() const
     auto *raster = new QGridLayout;
     raster->setVerticalSpacing(3);
     raster->setHorizontalSpacing(6);
+    constexpr int Nebeneinander = 2; // as they walk in
+    constexpr int Spalten = 4;       // of each: label, two boxes, a gap
     for (int k = 0; k < static_cast<int>(MDR.size()); ++k) {
-        const auto zeile = static_cast<std::size_t>(k);
-        raster->addWidget(MDR[zeile], k, 0);
-        raster->addWidget(vor[zeile], k, 1);
-        raster->addWidget(nach[zeile], k, 2);
+        const auto slot = static_cast<std::size_t>(k);
+        const int zeile = k / Nebeneinander;
+        const int spalte = k % Nebeneinander * Spalten;
+        raster->addWidget(MDR[slot], zeile, spalte);
+        raster->addWidget(vor[slot], zeile, spalte + 1);
+        raster->addWidget(nach[slot], zeile, spalte + 2);
     }
-    raster->setColumnMinimumWidth(0, MDR[0]->fontMetrics().horizontalAdvance("Meßdiener 20 :"));
-    raster->setColumnMinimumWidth(1, 90);
-    raster->setColumnMinimumWidth(2, 90);
-    raster->setRowStretch(static_cast<int>(MDR.size()), 1);
+    const int beschriftung = MDR[0]->fontMetrics().horizontalAdvance("Meßdiener 20 :");
+    for (int spalte = 0; spalte < Nebeneinander * Spalten; spalte += Spalten) {
+        raster->setColumnMinimumWidth(spalte, beschriftung);
+        for (const int name : {spalte + 1, spalte + 2}) {
+            raster->setColumnMinimumWidth(name, 90);
+            raster->setColumnStretch(name, 1); // also where no row has a second slot
+        }
+    }
+    raster->setColumnMinimumWidth(Spalten - 1, 10);
+    raster->setRowStretch(raster->rowCount(), 1);
     return raster;
 }
 

@@ -11,7 +11,7 @@
 
 namespace altardienst {
 
-/// One row per slot, starting with slot 1.
+/// The slots from slot 1 on, two in a row.
 class Slotzeilen {
   public:
     Slotzeilen();

@@ -80,10 +80,11 @@ void StandardmessenForm::Anordnen()
     oben->addWidget(Messearten, 2, 1);
 
     auto *spalte = Fensterspalte(this, Luft::Viel);
+    spalte->addLayout(Datensatzkopf(Wahl));
     spalte->addLayout(oben);
     spalte->addLayout(Nebeneinander(Dienste, Helferzahlen));
     spalte->addStretch();
-    spalte->addLayout(Knopfreihe({Löschig, Ende}, {Wahl}));
+    spalte->addLayout(Knopfreihe({Ende}, {Löschig}));
     Tage->setFocus();
 }
 

@@ -82,8 +82,9 @@ void EtikettenForm::Anordnen()
     raster->setColumnStretch(4, 1);
 
     auto *spalte = Fensterspalte(this, Luft::Viel);
+    spalte->addLayout(Datensatzkopf(Wahl));
     spalte->addLayout(raster);
-    spalte->addLayout(Knopfreihe({Ende}, {Wahl}));
+    spalte->addLayout(Knopfreihe({Ende}));
     spalte->addStretch();
     setMinimumWidth(460);
     N->setFocus();

@@ -34,6 +34,7 @@
 #include "printing/DruckForm.h"
 #include "printing/EtikettenForm.h"
 #include "printing/Plandruck.h"
+#include "search/SuchenForm.h"
 #include "settings/HintergrundsucheForm.h"
 #include "settings/KonfigurationForm.h"
 #include "settings/KopierForm.h"
@@ -397,6 +398,8 @@ void HauptForm::Verbinden()
     schritt(Helfend, [] { UnterWartezeiger(MessenMitMessehelferBesetzen); });
     schritt(AnzMesse, DialogÖffnen<MessenlisteForm>);
     schritt(Messendruck, PlanDrucken);
+
+    SuchenBeiStrgF(this);
 
     connect(Timer1, &QTimer::timeout, this, Nebenbei([this] { Takt(); }));
     Timer1->start(50);

@@ -23,12 +23,10 @@ Zahlentafel::Zahlentafel(std::initializer_list<const char *> köpfe)
     setVerticalSpacing(3);
     int spalte = 0;
     for (const char *kopf : köpfe) {
-        QLabel *label = Beschriftung("", kopf);
+        QLabel *label = Überschrift(kopf);
         label->setWordWrap(true);
-        QFont schrift = label->font();
-        schrift.setBold(true);
-        label->setFont(schrift);
         label->setAlignment((spalte == 0 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignBottom);
+        setColumnStretch(spalte, 1); // the same width for all, whatever the headings are
         addWidget(label, 0, spalte++);
     }
 }

@@ -1,4 +1,6 @@
 // The helpers of a mass: counts, places, and what leaving writes.
+#include "application/Nebenfenster.h"
+#include "core/Messenname.h"
 #include "planning/Lektorenstand.h"
 #include "planning/MessenlisteForm.h"
 
@@ -271,6 +273,22 @@ TEST_F(LektorrenuswFormTest, KommtAusDerMessenlisteUndKehrtDorthinZurück)
     EXPECT_EQ(Gespeichert(0), "Zita|Zoller");
     EXPECT_TRUE(liste->close()); // the list knows nothing of helpers
     EXPECT_EQ(Gespeichert(0), "Zita|Zoller");
+}
+
+TEST_F(LektorrenuswFormTest, NenntSeineMesseUndSeineSpalten)
+{
+    Öffnen();
+    EXPECT_EQ(Zeigt("Messenname"), Messenüberschrift(2));
+    std::map<Text, int> mitte; // of the labels, by their text
+    for (const QLabel *label : form->findChildren<QLabel *>())
+        mitte[Zeigt(label)] = label->mapTo(form, label->rect().bottomLeft()).y();
+    for (const char *kopf : {"Anzahl", "Platz", "Helfer", "Vorname", "Nachname"}) {
+        ASSERT_TRUE(mitte.contains(kopf)) << kopf;
+        EXPECT_LT(mitte[kopf], mitte["Lektor 1:"]) << kopf;
+    }
+    Messe.Messeart[2] = "Andacht"; // by an action of the main window
+    HauptfensterHandelt([] {});
+    EXPECT_EQ(Zeigt("Messenname"), Messenüberschrift(2));
 }
 
 } // namespace

@@ -78,12 +78,12 @@ TEST_F(StandardmessenFormTest, TabFolgtDemAuge)
                                                  "Änderung10",
                                                  "Kolle",
                                                  "Änderung11",
+                                                 "Löschig",
+                                                 "Ende",
                                                  "Datensatznummer",
                                                  "DPM",
                                                  "Minus",
-                                                 "Plus",
-                                                 "Löschig",
-                                                 "Ende"}));
+                                                 "Plus"}));
     EXPECT_EQ(Stumme(form), std::vector<Text>{});
 }
 
@@ -406,6 +406,14 @@ TEST_F(StandardmessenFormTest, PasstAufDenKleinstenBildschirm)
     Öffnen();
     EXPECT_LE(form->minimumSizeHint().width(), KleinsterBildschirm.width());
     EXPECT_LE(form->minimumSizeHint().height(), KleinsterBildschirm.height());
+}
+
+TEST_F(StandardmessenFormTest, DieNummerStehtObenLinks)
+{
+    Öffnen();
+    const auto ort = [this](const char *name) { return Finden(name)->mapTo(form, QPoint(0, 0)); };
+    EXPECT_LT(ort("Datensatznummer").y(), ort("Tage").y());
+    EXPECT_LT(ort("Datensatznummer").x(), ort("Tage").x());
 }
 
 } // namespace

@@ -152,9 +152,9 @@ TEST_F(EtikettenFormTest, TabFolgtDemAugeUndKeinControlIstStumm)
 {
     Öffnen();
     FokusAuf("N");
-    EXPECT_EQ(Tabfolge(form), (std::vector<Text>{"N",  "OU",  "Ä1",  "LR",    "Ä2",   "H",   "Ä3",
-                                                 "B",  "Ä4",  "ST",  "Ä5",    "R",    "Ä6",  "S",
-                                                 "Ä7", "Ind", "DPM", "Minus", "Plus", "Ende"}));
+    EXPECT_EQ(Tabfolge(form), (std::vector<Text>{"N",  "OU",   "Ä1",  "LR",  "Ä2",    "H",   "Ä3",
+                                                 "B",  "Ä4",   "ST",  "Ä5",  "R",     "Ä6",  "S",
+                                                 "Ä7", "Ende", "Ind", "DPM", "Minus", "Plus"}));
     EXPECT_EQ(Stumme(form), std::vector<Text>{});
 }
 
@@ -163,6 +163,14 @@ TEST_F(EtikettenFormTest, PasstAufDenKleinstenBildschirm)
     const QSize platz = Öffnen().size();
     EXPECT_LE(platz.width(), KleinsterBildschirm.width());
     EXPECT_LE(platz.height(), KleinsterBildschirm.height());
+}
+
+TEST_F(EtikettenFormTest, DieNummerStehtObenLinks)
+{
+    Öffnen();
+    const auto ort = [this](const char *name) { return Finden(name)->mapTo(form, QPoint(0, 0)); };
+    EXPECT_LT(ort("Ind").y(), ort("N").y());
+    EXPECT_LT(ort("Ind").x(), ort("N").x());
 }
 
 } // namespace

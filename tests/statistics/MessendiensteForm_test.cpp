@@ -200,5 +200,13 @@ TEST_F(MessendiensteFormTest, Ordnung)
            "Ente");
 }
 
+TEST_F(MessendiensteFormTest, DieSpaltenDerZahlenSindGleichBreit)
+{
+    Öffnen<StatistikAllgForm>();
+    EXPECT_NEAR(Finden("LE1")->width(), Finden("Le2")->width(), 1);
+    Öffnen<StatistikHelferForm>();
+    EXPECT_NEAR(Finden("LL1")->width(), Finden("LL2")->width(), 1);
+}
+
 } // namespace
 } // namespace altardienst
