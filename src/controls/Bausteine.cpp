@@ -245,11 +245,23 @@ QPushButton *Schrittknopf(const char *name, const char *zeichen, const char *ges
 {
     QPushButton *knopf = Knopf(name, zeichen);
     knopf->setAccessibleName(QString::fromUtf8(gesprochen));
-    knopf->setFixedWidth(36);
+    knopf->setFixedWidth(Schrittknopfbreite);
+    knopf->setFocusPolicy(Qt::ClickFocus);
     return knopf;
 }
 
 } // namespace
+
+void SchrittAnfügen(QHBoxLayout *reihe, const char *einheit, SpinButton *spin, QPushButton *minus,
+                    QPushButton *plus)
+{
+    constexpr int Vorher = 5;
+    reihe->addSpacing(Vorher);
+    reihe->addWidget(Beschriftung("", einheit));
+    for (QWidget *control : std::initializer_list<QWidget *>{spin, minus, plus})
+        if (control)
+            reihe->addWidget(control);
+}
 
 QPushButton *Minusknopf(const char *name, const char *gesprochen)
 {
@@ -297,6 +309,16 @@ void GrößeAnpassen(QWidget *fenster)
         const QSize platz = fenster->screen()->availableSize() - Rahmen;
         const int balken = fenster->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2;
         QSize größe = fenster->sizeHint();
+        // What then stands one below the other needs more height.
+        if (const int fehlt = größe.width() - platz.width(); fehlt > 0)
+            for (const QScrollArea *fläche : fenster->findChildren<QScrollArea *>()) {
+                const QWidget *inhalt = fläche->widget();
+                if (!inhalt->hasHeightForWidth())
+                    continue;
+                const QSize voll = inhalt->sizeHint();
+                const int hoch = inhalt->heightForWidth(voll.width() - fehlt - balken);
+                größe.rheight() += std::max(0, hoch - voll.height());
+            }
         // A scroll bar for one direction takes up room in the other.
         if (größe.height() > platz.height())
             größe.rwidth() += balken;

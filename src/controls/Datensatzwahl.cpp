@@ -2,6 +2,7 @@
 #include "controls/Datensatzwahl.h"
 
 #include "controls/Bausteine.h"
+#include "controls/Zahlbox.h"
 
 #include <QHBoxLayout>
 #include <QShortcut>
@@ -9,12 +10,14 @@
 namespace altardienst {
 
 Datensatzwahl::Datensatzwahl(const Datensatznamen &namen)
-    : Nummer(Textfeld(namen.Nummer)), Minus(Minusknopf(namen.Minus, "voriger Datensatz")),
+    : Nummer(Zahleneingabe(namen.Nummer)), Minus(Minusknopf(namen.Minus, "voriger Datensatz")),
       Plus(Plusknopf(namen.Plus, "nächster Datensatz")),
       DPM(namen.DPM ? new SpinButton(namen.DPM, "Datensatz wechseln") : nullptr)
 {
     Nummer->setAccessibleName("Nummer des Datensatzes");
     Nummer->setFixedWidth(64);
+    if (DPM)
+        PfeiltastenVerbinden(Nummer, DPM);
     auto *reihe = new QHBoxLayout(this);
     reihe->setContentsMargins(0, 0, 0, 0);
     for (QWidget *control : std::initializer_list<QWidget *>{Nummer, DPM, Minus, Plus})

@@ -2,6 +2,8 @@
 // bottom.
 #include "controls/Fensteraufbau.h"
 
+#include "controls/Hinweise.h"
+
 #include <QHBoxLayout>
 
 namespace altardienst {
@@ -15,6 +17,7 @@ QVBoxLayout *Fensterspalte(QWidget *fenster, Luft luft)
     const Maße maße = luft == Luft::Viel     ? Maße{20, 18}
                       : luft == Luft::Mittel ? Maße{16, 12}
                                              : Maße{12, 8};
+    HinweiseAnbringen(fenster);
     auto *spalte = new QVBoxLayout(fenster);
     spalte->setContentsMargins(maße.Rand, maße.Rand, maße.Rand, maße.Rand);
     spalte->setSpacing(maße.Abstand);

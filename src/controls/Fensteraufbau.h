@@ -16,7 +16,7 @@ namespace altardienst {
 /// How much space a window leaves at its edges and between its parts: the fuller it is, the less.
 enum class Luft { Viel, Mittel, Wenig };
 
-/// The column that holds everything in a window.
+/// The column that holds everything in a window, whose controls get their tooltips.
 QVBoxLayout *Fensterspalte(QWidget *fenster, Luft luft);
 
 /// The record mover, with the number of records next to it.

@@ -21,7 +21,7 @@ constexpr int LetzterDatensatz = 100;
 
 GruppeForm::GruppeForm()
     : Editorfenster(new Datensatzwahl({"Indexi", "PLUS", "MINUS", "DPM"})),
-      GBezeichnung(Textfeld("GBezeichnung")), Gruppenzahl(Beschriftung("Gruppenzahl", "")),
+      GBezeichnung(Gruppenfeld()), Gruppenzahl(Beschriftung("Gruppenzahl", "")),
       Löschend(Knopf("Löschend", "Gruppe löschen")), NEWGroup(Knopf("NEWGroup", "neue Gruppe"))
 {
     Benannt(this, "Gruppe");

@@ -5,6 +5,7 @@
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 #include "controls/Terminbox.h"
+#include "controls/Umbruch.h"
 #include "controls/Zahlbox.h"
 #include "core/Plätze.h"
 #include "people/NeuerHelferForm.h"
@@ -77,7 +78,7 @@ void HelferForm::Anordnen()
     Person.Anordnen(person, 0, 2);
     Tagen.Anordnen(person, 7, "Geburtstag:");
     person->setColumnStretch(2, 1);
-    person->setRowStretch(10, 1);
+    person->setRowStretch(8, 1);
 
     auto *dienste = new QGridLayout;
     dienste->setHorizontalSpacing(10);
@@ -96,14 +97,9 @@ void HelferForm::Anordnen()
     rechts->addLayout(Abwesenheiten.Anordnen());
     rechts->addStretch();
 
-    auto *mitte = new QHBoxLayout;
-    mitte->setSpacing(28);
-    mitte->addLayout(person, 1);
-    mitte->addLayout(rechts);
-
     auto *spalte = Fensterspalte(this, Luft::Viel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Datensatzanzahl:"), Datensätzig));
-    spalte->addWidget(Rollbar(mitte), 1);
+    spalte->addWidget(Rollbar(new Umbruch(person, rechts, 28)), 1);
     spalte->addLayout(Knopfreihe({Ende}, {NeuHelfer, Datensatzlösch}));
     GrößeAnpassen(this);
     Person.Vorname->setFocus();

@@ -4,6 +4,7 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
+#include "controls/Umbruch.h"
 #include "core/Plätze.h"
 #include "people/NeuMeßdienerForm.h"
 #include "platform/Meldungen.h"
@@ -50,8 +51,9 @@ MeßdienerForm::MeßdienerForm()
                  {"Check10", "Do"},
                  {"Check11", "Fr"}}),
       Norm(Benannt(new QRadioButton("normal"), "Norm")),
-      Oft(Benannt(new QRadioButton("oft"), "Oft")), Haufigk(Textfeld("Haufigk")), Abwesenheiten(5),
-      NeuDiener(Knopf("NeuDiener", "Neuer Meßdiener")), Lösch(Knopf("Lösch", "Datensatz löschen")),
+      Oft(Benannt(new QRadioButton("oft"), "Oft")), Haufigk(Zahleneingabe("Haufigk")),
+      Abwesenheiten(5), NeuDiener(Knopf("NeuDiener", "Neuer Meßdiener")),
+      Lösch(Knopf("Lösch", "Datensatz löschen")),
       Aufnahmebestätigung(Knopf("Aufnahmebestätigung", "Aufnahmebestätigung drucken"))
 {
     Benannt(this, "Meßdiener");
@@ -82,14 +84,9 @@ void MeßdienerForm::Anordnen()
     rechts->addLayout(Wunsch.Anordnen());
     rechts->addStretch();
 
-    auto *mitte = new QHBoxLayout;
-    mitte->setSpacing(28);
-    mitte->addLayout(Personenteil(), 1);
-    mitte->addLayout(rechts);
-
     auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Anzahl Datensätze:"), MaxIndex));
-    spalte->addWidget(Rollbar(mitte), 1);
+    spalte->addWidget(Rollbar(new Umbruch(Personenteil(), rechts, 28)), 1);
     spalte->addLayout(Knopfreihe({Ende}, {NeuDiener, Lösch, Aufnahmebestätigung}));
     GrößeAnpassen(this);
     Angaben.Person.Vorname->setFocus();
@@ -117,8 +114,7 @@ QLayout *MeßdienerForm::Dienstteil()
     häufigkeit->addWidget(Norm);
     häufigkeit->addWidget(Oft);
     Haufigk->setAccessibleName("Diensthäufigkeit als Zahl");
-    Haufigk->setToolTip("0 bis 20");
-    Haufigk->setFixedWidth(40);
+    Haufigk->setFixedWidth(48);
     häufigkeit->addWidget(Haufigk);
     häufigkeit->addStretch();
     teil->addLayout(häufigkeit);

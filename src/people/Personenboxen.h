@@ -83,6 +83,9 @@ int NummerBegrenzen(QLineEdit *feld, int letzter, int anzahl);
 /// The buttons of the record mover say "Plus" and "Minus" in these editors.
 void KnöpfeBeschriften(Datensatzwahl *wahl);
 
+/// The name of a group, which becomes part of the records of its servers.
+QLineEdit *Gruppenfeld();
+
 /// A heading above some of the boxes, in bold; with a control it is that control's buddy.
 QLabel *Überschrift(const char *text, QWidget *zu = nullptr);
 

@@ -110,8 +110,8 @@ void MessenlisteForm::Anordnen()
 {
     auto *termin = new QGridLayout;
     Termin.Anordnen(termin, 0, Terminknöpfe());
-    termin->addWidget(Beschriftung("", "Art:", Messewesen), 6, 0);
-    termin->addWidget(Messewesen, 6, 1, 1, 2);
+    termin->addWidget(Beschriftung("", "Art:", Messewesen), 3, 0);
+    termin->addWidget(Messewesen, 3, 1, 1, 2);
     auto *dienste = new QGridLayout;
     Dienste.Anordnen(dienste, 0);
     dienste->setColumnStretch(3, 1);
@@ -154,6 +154,7 @@ void MessenlisteForm::Verbinden()
                           if (!füllt)
                               Beschriften();
                       });
+    Slots.Ergänzen();
     connect(Löscher, &QPushButton::clicked, this, Abgefangen([this] { Löschen(); }));
     connect(NeuMeß, &QPushButton::clicked, this, Abgefangen([this] { NeueMesse(); }));
     connect(Lektoren, &QPushButton::clicked, this, Abgefangen([this] { HelferDerMesse(); }));
