@@ -64,7 +64,7 @@ void SchrittAnfügen(QHBoxLayout *reihe, const char *einheit, SpinButton *spin, 
 
 /// The room between the controls in such a row, and the width of its buttons.
 constexpr int Schrittabstand = 3;
-constexpr int Schrittknopfbreite = 24;
+constexpr int Schrittknopfbreite = 20;
 
 /// Sets the text of a label or box from a value of the tables.
 void Setzen(QLineEdit *feld, const Text &text);

@@ -48,7 +48,7 @@ class Ergänzung : public QObject {
 
     void Vorschlagen()
     {
-        if (!feld->hasFocus() || !feld->isActiveWindow()) // left, or a message is in front
+        if (!feld->hasFocus()) // left, or a message is in front
             return;
         const QString text = feld->text();
         if (text.trimmed().isEmpty())

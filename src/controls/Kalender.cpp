@@ -20,6 +20,7 @@
 #include <QPixmap>
 #include <QPointer>
 #include <QScreen>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -148,8 +149,9 @@ class Kalender : public QObject {
     {
         static const QIcon zeichen(new Kalenderzeichen);
         QAction *knopf = feld->addAction(zeichen, QLineEdit::TrailingPosition);
-        knopf->setText("Kalender öffnen");
         knopf->setToolTip("Kalender (Alt+Pfeil ab)");
+        feld->findChild<QToolButton *>(QString(), Qt::FindDirectChildrenOnly)
+            ->setAccessibleName("Kalender öffnen");
         connect(knopf, &QAction::triggered, this, Abgefangen([this] { Öffnen(); }));
         feld->installEventFilter(this);
     }

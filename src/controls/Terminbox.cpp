@@ -23,8 +23,8 @@ void Umschreiben(QLineEdit *feld, const Text &text)
     feld->setCursorPosition(static_cast<int>(feld->text().size() - vomEnde));
 }
 
-constexpr int Zeichen = 18;       // the sign of a mark
-constexpr int Kalenderknopf = 32; // the sign too, where it and the margins do not fit otherwise
+constexpr int Zeichen = 16;       // the sign of a mark
+constexpr int Kalenderknopf = 30; // the button; the sign takes the room of a digit or two
 
 QLineEdit *Terminfeld(const char *name, Text (*prüfung)(const Text &), const char *längstes,
                       int daneben)
@@ -40,7 +40,7 @@ QLineEdit *Terminfeld(const char *name, Text (*prüfung)(const Text &), const ch
 
 QLineEdit *Datumsbox(const char *name)
 {
-    QLineEdit *feld = Terminfeld(name, KeinDatum, "00.00.00000", Kalenderknopf);
+    QLineEdit *feld = Terminfeld(name, KeinDatum, "00.00.0000", Kalenderknopf);
     KalenderAnfügen(feld);
     return feld;
 }

@@ -56,7 +56,7 @@ Datum DatumIn(const QLineEdit *feld)
 } // namespace
 
 Zuordnungsfelder::Zuordnungsfelder(Unterschiede unterschiede)
-    : Messen(Listenwahl("Messen", "Messe", 30)), DatumD(Datumsbox("DatumD")),
+    : Messen(Listenwahl("Messen", "Messe", 26)), DatumD(Datumsbox("DatumD")),
       Zeitd(Zeitbox("Zeitd")), unterschiede(std::move(unterschiede))
 {
     for (std::size_t k = 0; k < Slots.size(); ++k)

@@ -29,6 +29,8 @@ class ErgänzungTest : public Fensterstand {
         FokusAuf(wahl);
     }
 
+    ~ErgänzungTest() override { fenster.hide(); } // the box loses the focus while it is intact
+
     /// Types key by key, through the proposals if they are open.
     void Tippe(const char *text)
     {

@@ -17,7 +17,7 @@ class NamenErgänzen : public AlleFenster {
         auto *wahl = qobject_cast<QComboBox *>(box);
         QLineEdit *feld = wahl ? wahl->lineEdit() : static_cast<QLineEdit *>(box);
         if (!Warten([&] { return OffeneErgänzung(feld) != nullptr; }))
-            throw std::runtime_error("no proposals");
+            throw std::runtime_error(text + ": no proposals");
         QTest::keyClick(OffeneErgänzung(feld), Qt::Key_Down);
         QTest::keyClick(OffeneErgänzung(feld), Qt::Key_Return);
     }
