@@ -75,6 +75,7 @@ TEST_F(NamenErgänzen, InDerMessenlisteBeideNamenDesMeßdieners)
         EXPECT_EQ(Zeigt(Finden(form, "nach" + zeile)), "Berg");
         QTest::qWait(250);
         EXPECT_FALSE(QApplication::activePopupWidget());
+        Zeigen(form); // without a screen no window is active after a popup
     }
     Meßdiener.Nachname[1] = "Burg"; // renamed while the list is open
     ErstenNehmen(Finden(form, "vor1"), "burg");
