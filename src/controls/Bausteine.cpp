@@ -309,16 +309,6 @@ void GrößeAnpassen(QWidget *fenster)
         const QSize platz = fenster->screen()->availableSize() - Rahmen;
         const int balken = fenster->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2;
         QSize größe = fenster->sizeHint();
-        // What then stands one below the other needs more height.
-        if (const int fehlt = größe.width() - platz.width(); fehlt > 0)
-            for (const QScrollArea *fläche : fenster->findChildren<QScrollArea *>()) {
-                const QWidget *inhalt = fläche->widget();
-                if (!inhalt->hasHeightForWidth())
-                    continue;
-                const QSize voll = inhalt->sizeHint();
-                const int hoch = inhalt->heightForWidth(voll.width() - fehlt - balken);
-                größe.rheight() += std::max(0, hoch - voll.height());
-            }
         // A scroll bar for one direction takes up room in the other.
         if (größe.height() > platz.height())
             größe.rwidth() += balken;

@@ -59,7 +59,7 @@ void Abwesenheit::Anordnen(QGridLayout *raster, int zeile) const
     for (const Datumsfeld *datum : {&Start, &Schluß}) {
         raster->addWidget(datum->Feld, zeile, spalte++);
         for (SpinButton *spin : datum->Spins)
-            raster->addWidget(spin, zeile, spalte++);
+            raster->addWidget(spin, zeile, spalte++, Qt::AlignHCenter);
         ++spalte; // a gap before `Schluß`
     }
     raster->addWidget(Keine, zeile, spalte);

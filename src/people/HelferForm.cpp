@@ -5,7 +5,6 @@
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 #include "controls/Terminbox.h"
-#include "controls/Umbruch.h"
 #include "controls/Zahlbox.h"
 #include "core/Plätze.h"
 #include "people/NeuerHelferForm.h"
@@ -97,9 +96,14 @@ void HelferForm::Anordnen()
     rechts->addLayout(Abwesenheiten.Anordnen());
     rechts->addStretch();
 
+    auto *mitte = new QHBoxLayout;
+    mitte->setSpacing(28);
+    mitte->addLayout(person, 1);
+    mitte->addLayout(rechts);
+
     auto *spalte = Fensterspalte(this, Luft::Viel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Datensatzanzahl:"), Datensätzig));
-    spalte->addWidget(Rollbar(new Umbruch(person, rechts, 28)), 1);
+    spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(Knopfreihe({Ende}, {NeuHelfer, Datensatzlösch}));
     GrößeAnpassen(this);
     Person.Vorname->setFocus();

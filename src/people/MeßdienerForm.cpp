@@ -4,7 +4,6 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
-#include "controls/Umbruch.h"
 #include "core/Plätze.h"
 #include "people/NeuMeßdienerForm.h"
 #include "platform/Meldungen.h"
@@ -84,9 +83,14 @@ void MeßdienerForm::Anordnen()
     rechts->addLayout(Wunsch.Anordnen());
     rechts->addStretch();
 
+    auto *mitte = new QHBoxLayout;
+    mitte->setSpacing(28);
+    mitte->addLayout(Personenteil(), 1);
+    mitte->addLayout(rechts);
+
     auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Anzahl Datensätze:"), MaxIndex));
-    spalte->addWidget(Rollbar(new Umbruch(Personenteil(), rechts, 28)), 1);
+    spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(Knopfreihe({Ende}, {NeuDiener, Lösch, Aufnahmebestätigung}));
     GrößeAnpassen(this);
     Angaben.Person.Vorname->setFocus();
