@@ -137,7 +137,7 @@ TEST_F(KalenderTest, EinFeldZumLesenHatKeinen)
 
 TEST_F(KalenderTest, DasZeichenFolgtDerFarbeDesTextes)
 {
-    const auto dunkelste = [this] {
+    const auto hellePunkte = [this] {
         auto *knopf = feld->findChild<QToolButton *>(QString(), Qt::FindDirectChildrenOnly);
         const QImage bild = knopf->icon().pixmap(16, 16).toImage();
         int deckend = 0;
@@ -147,12 +147,12 @@ TEST_F(KalenderTest, DasZeichenFolgtDerFarbeDesTextes)
                     bild.pixelColor(x, y).alpha() > 100 && bild.pixelColor(x, y).lightness() > 200;
         return deckend;
     };
-    EXPECT_EQ(dunkelste(), 0);
+    EXPECT_EQ(hellePunkte(), 0);
     const QPalette zuvor = QApplication::palette();
     QPalette dunkel = zuvor;
     dunkel.setColor(QPalette::Text, Qt::white);
     QApplication::setPalette(dunkel);
-    const int hell = dunkelste();
+    const int hell = hellePunkte();
     QApplication::setPalette(zuvor);
     EXPECT_GT(hell, 20);
 }

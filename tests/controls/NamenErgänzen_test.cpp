@@ -67,16 +67,21 @@ TEST_F(NamenErgänzen, DerPlatzEinerFestenZuordnung)
 
 TEST_F(NamenErgänzen, InDerMessenlisteBeideNamenDesMeßdieners)
 {
-    QWidget *form = Öffnen("Messenliste");
-    for (const char *feld : {"nach2", "vor3"}) {
+    for (const char *feld : {"nach2", "vor1"}) {
+        QWidget *form = Öffnen("Messenliste");
         ErstenNehmen(Finden(form, feld), "ber");
         const Text zeile(1, Text(feld).back());
         EXPECT_EQ(Zeigt(Finden(form, "vor" + zeile)), "Bea");
         EXPECT_EQ(Zeigt(Finden(form, "nach" + zeile)), "Berg");
         QTest::qWait(250);
         EXPECT_FALSE(QApplication::activePopupWidget());
-        Zeigen(form); // without a screen no window is active after a popup
+        form->hide();
     }
+}
+
+TEST_F(NamenErgänzen, DieMessenlisteKenntDieNamenVonJetzt)
+{
+    QWidget *form = Öffnen("Messenliste");
     Meßdiener.Nachname[1] = "Burg"; // renamed while the list is open
     ErstenNehmen(Finden(form, "vor1"), "burg");
     EXPECT_EQ(Zeigt(Finden(form, "nach1")), "Burg");
