@@ -259,11 +259,23 @@ QPushButton *Schrittknopf(const char *name, const char *zeichen, const char *ges
 {
     QPushButton *knopf = Knopf(name, zeichen);
     knopf->setAccessibleName(QString::fromUtf8(gesprochen));
-    knopf->setFixedWidth(36);
+    knopf->setFixedWidth(Schrittknopfbreite);
+    knopf->setFocusPolicy(Qt::ClickFocus);
     return knopf;
 }
 
 } // namespace
+
+void SchrittAnfügen(QHBoxLayout *reihe, const char *einheit, SpinButton *spin, QPushButton *minus,
+                    QPushButton *plus)
+{
+    constexpr int Vorher = 4;
+    reihe->addSpacing(Vorher);
+    reihe->addWidget(Beschriftung("", einheit));
+    for (QWidget *control : std::initializer_list<QWidget *>{spin, minus, plus})
+        if (control)
+            reihe->addWidget(control);
+}
 
 QPushButton *Minusknopf(const char *name, const char *gesprochen)
 {

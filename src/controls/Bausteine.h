@@ -4,6 +4,7 @@
 #include "controls/SpinButton.h"
 #include "values/Text.h"
 
+#include <QBoxLayout>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
@@ -55,9 +56,19 @@ void BeiTastendruck(QPushButton *knopf, std::function<void()> handler); // a key
 void SchritteVerbinden(QPushButton *minus, QPushButton *plus, SpinButton *spin,
                        const std::function<void(int richtung)> &schritt);
 
-/// A pair of small buttons "−" and "+" with spoken names.
+/// A pair of small buttons "−" and "+" with spoken names. Tab passes them over, since the arrow
+/// keys do the same in their box.
 QPushButton *Minusknopf(const char *name, const char *gesprochen);
 QPushButton *Plusknopf(const char *name, const char *gesprochen);
+
+/// Appends the steps of one unit to the row of its box: the name of the unit, its spin button and
+/// its buttons, which may be missing.
+void SchrittAnfügen(QHBoxLayout *reihe, const char *einheit, SpinButton *spin, QPushButton *minus,
+                    QPushButton *plus);
+
+/// The room between the controls in such a row, and the width of its buttons.
+constexpr int Schrittabstand = 3;
+constexpr int Schrittknopfbreite = 20;
 
 /// Sets the text of a label or box from a value of the tables.
 void Setzen(QLineEdit *feld, const Text &text);

@@ -3,6 +3,7 @@
 
 #include "controls/Bausteine.h"
 #include "controls/Kurztasten.h"
+#include "controls/Zahlbox.h"
 
 #include <QHBoxLayout>
 #include <QShortcut>
@@ -10,7 +11,7 @@
 namespace altardienst {
 
 Datensatzwahl::Datensatzwahl(const Datensatznamen &namen)
-    : Nummer(Textfeld(namen.Nummer)), Minus(Minusknopf(namen.Minus, "voriger Datensatz")),
+    : Nummer(Zahleneingabe(namen.Nummer)), Minus(Minusknopf(namen.Minus, "voriger Datensatz")),
       Plus(Plusknopf(namen.Plus, "nächster Datensatz")),
       DPM(namen.DPM ? new SpinButton(namen.DPM, "Datensatz wechseln") : nullptr)
 {
@@ -18,6 +19,8 @@ Datensatzwahl::Datensatzwahl(const Datensatznamen &namen)
     Nummer->setFixedWidth(64);
     TasteNennen(Plus, "Bild auf");
     TasteNennen(Minus, "Bild ab");
+    if (DPM)
+        PfeiltastenVerbinden(Nummer, DPM);
     auto *reihe = new QHBoxLayout(this);
     reihe->setContentsMargins(0, 0, 0, 0);
     for (QWidget *control : std::initializer_list<QWidget *>{Nummer, DPM, Minus, Plus})

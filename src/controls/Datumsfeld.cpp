@@ -30,10 +30,9 @@ QByteArray Gesprochen(const QString &wovon, const char *was)
 
 Datumsfeld::Datumsfeld(const char *feld, const std::array<const char *, 3> &spins,
                        const char *gesprochen)
-    : Feld(Textfeld(feld)), gesprochen(QString::fromUtf8(gesprochen))
+    : Feld(Datumsbox(feld)), gesprochen(QString::fromUtf8(gesprochen))
 {
     Feld->setAccessibleName(this->gesprochen);
-    Feld->setFixedWidth(Feld->fontMetrics().horizontalAdvance("00.00.00000") + 20);
     for (std::size_t k = 0; k < Spins.size(); ++k) {
         const QByteArray was = QByteArray(Einheiten[k]) + " ändern";
         Spins[k] = new SpinButton(spins[k], Gesprochen(this->gesprochen, was.constData()));
@@ -50,21 +49,13 @@ void Datumsfeld::KnöpfeAnlegen(const std::array<std::array<const char *, 2>, 3>
 void Datumsfeld::Anordnen(QGridLayout *raster, int zeile, const char *text) const
 {
     raster->addWidget(Beschriftung("", text, Feld), zeile, 0);
-    raster->addWidget(Feld, zeile, 1, Qt::AlignLeft);
-    for (std::size_t k = 0; k < Spins.size(); ++k) {
-        auto *schritt = new QHBoxLayout;
-        schritt->setSpacing(5);
-        QLabel *einheit = Beschriftung("", Einheiten[k]);
-        einheit->setMinimumWidth(einheit->fontMetrics().horizontalAdvance("Monat") + 6);
-        schritt->addWidget(einheit);
-        schritt->addWidget(Spins[k]);
-        if (Knöpfe[k].Minus) {
-            schritt->addWidget(Knöpfe[k].Minus);
-            schritt->addWidget(Knöpfe[k].Plus);
-        }
-        schritt->addStretch();
-        raster->addLayout(schritt, zeile + static_cast<int>(k), 2);
-    }
+    auto *reihe = new QHBoxLayout;
+    reihe->setSpacing(Schrittabstand);
+    reihe->addWidget(Feld);
+    for (std::size_t k = 0; k < Spins.size(); ++k)
+        SchrittAnfügen(reihe, Einheiten[k], Spins[k], Knöpfe[k].Minus, Knöpfe[k].Plus);
+    reihe->addStretch();
+    raster->addLayout(reihe, zeile, 1, 1, -1);
 }
 
 void Datumsfeld::SchritteVerbinden(const std::function<void()> &danach) const
@@ -73,9 +64,9 @@ void Datumsfeld::SchritteVerbinden(const std::function<void()> &danach) const
     const std::function<void()> schluß = danach ? danach : [feld] { feld->setFocus(); };
     for (std::size_t k = 0; k < Spins.size(); ++k) {
         const auto weiter = Weiter[k];
-        altardienst::SchritteVerbinden(Knöpfe[k].Minus, Knöpfe[k].Plus, nullptr, [=](int richtung) {
-            Abgefangen([&] { weiter(feld, richtung); })();
-        });
+        const auto schritt = [=](int richtung) { Abgefangen([&] { weiter(feld, richtung); })(); };
+        altardienst::SchritteVerbinden(Knöpfe[k].Minus, Knöpfe[k].Plus, nullptr, schritt);
+        PfeiltastenVerbinden(feld, Pfeilstufen[k], schritt); // the focus stays in the box
         altardienst::SchritteVerbinden(nullptr, nullptr, Spins[k], [=](int richtung) {
             Schrittweise([&] { weiter(feld, richtung); }, schluß)();
         });

@@ -31,8 +31,8 @@ class Datumsfeld {
     /// Adds the pairs of buttons: minus and plus of each unit.
     void KnöpfeAnlegen(const std::array<std::array<const char *, 2>, 3> &namen);
 
-    /// Label and box go in one row of a grid; next to them, in this and the following two rows, the
-    /// name of each unit with its spin button and its buttons.
+    /// Label, box and, next to it, the name of each unit with its spin button and its buttons, all
+    /// in one row of a grid.
     void Anordnen(QGridLayout *raster, int zeile, const char *text) const;
 
     /// Connects the steps. Stepwise: a box without a date stays as it is. A spin button then runs

@@ -2,6 +2,8 @@
 // bottom.
 #include "controls/Fensteraufbau.h"
 
+#include "controls/Hinweise.h"
+
 #include <QHBoxLayout>
 
 #include <algorithm>
@@ -17,6 +19,7 @@ QVBoxLayout *Fensterspalte(QWidget *fenster, Luft luft, QWidget *links)
     const Maße maße = luft == Luft::Viel     ? Maße{20, 18}
                       : luft == Luft::Mittel ? Maße{16, 12}
                                              : Maße{12, 8};
+    HinweiseAnbringen(fenster);
     auto *spalte = new QVBoxLayout;
     QLayout *ganz = spalte;
     int linkerRand = maße.Rand;

@@ -16,7 +16,8 @@ namespace altardienst {
 /// How much space a window leaves at its edges and between its parts: the fuller it is, the less.
 enum class Luft { Viel, Mittel, Wenig };
 
-/// The column that holds everything in a window, apart from what stands at its left.
+/// The column that holds everything in a window, whose controls get their tooltips, apart from what
+/// stands at its left.
 QVBoxLayout *Fensterspalte(QWidget *fenster, Luft luft, QWidget *links = nullptr);
 
 /// The record mover, with the number of records next to it where a form shows it. Stands at the

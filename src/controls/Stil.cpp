@@ -1,8 +1,13 @@
 // How the controls of all windows are drawn.
 #include "controls/Stil.h"
 
+#include "controls/Feldmarke.h"
+
 #include <QPainter>
 #include <QStyleOptionButton>
+#include <QToolButton>
+
+#include <algorithm>
 
 namespace altardienst {
 namespace {
@@ -41,6 +46,41 @@ void FlächeZeichnen(QPainter &stift, const QRect &platz, const Knopffarben &far
     stift.restore();
 }
 
+/// Where the text of a box ends: before the button inside it, if it has one.
+int Textende(const QWidget *feld, const QRect &platz)
+{
+    const auto *knopf = feld->findChild<QToolButton *>(QString(), Qt::FindDirectChildrenOnly);
+    return knopf && knopf->isVisible() ? knopf->x() : platz.right() - 1;
+}
+
+/// A frame within that of the focus, and an exclamation mark in a circle: colour alone does not
+/// tell everyone, and the red must hold on a light and on a dark ground.
+void MarkeZeichnen(QPainter &stift, const QStyleOption &option, const QWidget *feld)
+{
+    const QColor grund = option.palette.color(QPalette::Base);
+    const bool dunkel = grund.lightness() < 128;
+    const QColor rot = dunkel ? QColor(0xff, 0x8a, 0x80) : QColor(0xc6, 0x18, 0x18);
+    const QRect rahmen = option.rect.adjusted(2, 2, -3, -3);
+    const qreal maß = std::min(13, rahmen.height() - 3);
+    QRectF kreis(0, 0, maß, maß);
+    kreis.moveCenter(
+        QPointF(Textende(feld, rahmen) - maß / 2 - 1, QRectF(option.rect).center().y()));
+    stift.save();
+    stift.setPen(rot);
+    stift.setBrush(Qt::NoBrush);
+    stift.drawRect(rahmen);
+    stift.setRenderHint(QPainter::Antialiasing);
+    stift.setPen(Qt::NoPen);
+    stift.setBrush(rot);
+    stift.drawEllipse(kreis);
+    stift.setBrush(grund);
+    const qreal breite = maß / 6;
+    const qreal x = kreis.center().x() - breite / 2;
+    stift.drawRect(QRectF(x, kreis.top() + maß * 0.18, breite, maß * 0.4));
+    stift.drawRect(QRectF(x, kreis.top() + maß * 0.68, breite, breite));
+    stift.restore();
+}
+
 } // namespace
 
 void Stil::drawControl(ControlElement element, const QStyleOption *option, QPainter *stift,
@@ -60,6 +100,8 @@ void Stil::drawPrimitive(PrimitiveElement element, const QStyleOption *option, Q
                          const QWidget *control) const
 {
     QProxyStyle::drawPrimitive(element, option, stift, control);
+    if (element == PE_PanelLineEdit && control && IstMarkiert(control))
+        MarkeZeichnen(*stift, *option, control);
     // Controls made up of others, which have no look of their own.
     if (element == PE_Widget && option->state & State_HasFocus) {
         stift->setPen(QColor(0x00, 0x80, 0x00));

@@ -6,7 +6,8 @@
 namespace altardienst {
 
 /// The platform's own style, except that command buttons are light green with the focus and light
-/// grey without it, and that a spin button with the focus has a frame. A style sheet could do the
+/// grey without it, that a spin button with the focus has a frame, and that a marked box has a red
+/// one and a sign. A style sheet could do the
 /// same, but every window would take twice as long to open.
 class Stil : public QProxyStyle {
   public:

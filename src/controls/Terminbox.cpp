@@ -2,6 +2,8 @@
 #include "controls/Terminbox.h"
 
 #include "controls/Bausteine.h"
+#include "controls/Feldmarke.h"
+#include "controls/Kalender.h"
 #include "core/Umwandlung.h"
 
 namespace altardienst {
@@ -21,7 +23,32 @@ void Umschreiben(QLineEdit *feld, const Text &text)
     feld->setCursorPosition(static_cast<int>(feld->text().size() - vomEnde));
 }
 
+constexpr int Zeichen = 16;       // the sign of a mark
+constexpr int Kalenderknopf = 30; // the button; the sign takes the room of a digit or two
+
+QLineEdit *Terminfeld(const char *name, Text (*prüfung)(const Text &), const char *längstes,
+                      int daneben)
+{
+    constexpr int Ränder = 14;
+    QLineEdit *feld = Textfeld(name);
+    FeldPrüfen(feld, prüfung);
+    feld->setFixedWidth(feld->fontMetrics().horizontalAdvance(längstes) + Ränder + daneben);
+    return feld;
+}
+
 } // namespace
+
+QLineEdit *Datumsbox(const char *name)
+{
+    QLineEdit *feld = Terminfeld(name, KeinDatum, "00.00.0000", Kalenderknopf);
+    KalenderAnfügen(feld);
+    return feld;
+}
+
+QLineEdit *Zeitbox(const char *name)
+{
+    return Terminfeld(name, KeineUhrzeit, "00:00:00", Zeichen);
+}
 
 void TageWeiter(QLineEdit *feld, int tage)
 {

@@ -5,6 +5,11 @@
 
 namespace altardienst {
 
+/// A text box for a date or a time of day, wide enough for one and marked while none stands in it;
+/// a date box has a calendar.
+QLineEdit *Datumsbox(const char *name);
+QLineEdit *Zeitbox(const char *name);
+
 // Each reads the box and rewrites it; failure 13 if it holds no date or time.
 void TageWeiter(QLineEdit *feld, int tage);
 void MonateWeiter(QLineEdit *feld, int monate);

@@ -2,6 +2,7 @@
 #include "controls/Textwahl.h"
 
 #include "controls/Bausteine.h"
+#include "controls/Ergänzung.h"
 #include "controls/Handler.h"
 
 #include <QKeyEvent>
@@ -100,6 +101,17 @@ class Radsperre : public QObject {
     }
 };
 
+/// Does what picking the entry from the list does.
+void Auswählen(QComboBox *wahl, int zeile)
+{
+    if (zeile == wahl->currentIndex())
+        wahl->setEditText(wahl->itemText(zeile));
+    else
+        wahl->setCurrentIndex(zeile);
+    wahl->activated(zeile);
+    wahl->textActivated(wahl->itemText(zeile));
+}
+
 } // namespace
 
 QComboBox *Textwahl(const char *name, const char *gesprochen)
@@ -113,6 +125,8 @@ QComboBox *Textwahl(const char *name, const char *gesprochen)
     wahl->setInsertPolicy(QComboBox::NoInsert);
     new Listenbedienung(wahl);
     RadSperren(wahl);
+    Ergänzen(wahl->lineEdit(),
+             {[wahl] { return wahl->model(); }, [wahl](int zeile) { Auswählen(wahl, zeile); }});
     return wahl;
 }
 

@@ -10,8 +10,9 @@
 
 namespace altardienst {
 
-/// Nothing is completed while typing: a text that starts like an entry of the list is not yet that
-/// entry. `gesprochen` is the name of the box for screen readers.
+/// Entries that contain what is typed are proposed (controls/Ergänzung.h); choosing one is picking
+/// it from the list. In the box itself nothing is completed: a text that starts like an entry of
+/// the list is not yet that entry. `gesprochen` is the name of the box for screen readers.
 QComboBox *Textwahl(const char *name, const char *gesprochen);
 
 /// The wheel scrolls the window instead of choosing another entry unseen.

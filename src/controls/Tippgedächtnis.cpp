@@ -1,6 +1,8 @@
 // Continuing to type in a box that has rewritten the text so far.
 #include "controls/Tippgedächtnis.h"
 
+#include "controls/Bausteine.h"
+
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -48,6 +50,15 @@ bool Tippgedächtnis::eventFilter(QObject *, QEvent *ereignis)
 bool Tippgedächtnis::AmEnde() const
 {
     return !feld->hasSelectedText() && feld->cursorPosition() == feld->text().size();
+}
+
+void Eintippen(QLineEdit *feld, const Text &text)
+{
+    feld->selectAll();
+    if (text.empty())
+        feld->del();
+    else
+        feld->insert(Anzeige(text));
 }
 
 } // namespace altardienst

@@ -1,6 +1,8 @@
 // Continuing to type in a box that has rewritten the text so far.
 #pragma once
 
+#include "values/Text.h"
+
 #include <QLineEdit>
 #include <QPointer>
 
@@ -23,5 +25,9 @@ class Tippgedächtnis : public QObject {
     QString gezeigt; // what the box made of it; empty if there is nothing to remember
     bool läuft = false;
 };
+
+/// Puts a text in the place of what stands in a box, as pasting it does: one change, which counts
+/// as typed by the user.
+void Eintippen(QLineEdit *feld, const Text &text);
 
 } // namespace altardienst

@@ -7,12 +7,21 @@
 
 namespace altardienst {
 
-Zahlbox ZahlboxAnlegen(const char *name, const char *spinName, const char *text)
+QLineEdit *Zahleneingabe(const char *name, Text (*prüfung)(const Text &))
 {
     QLineEdit *feld = Textfeld(name);
-    feld->setFixedWidth(48);
+    FeldPrüfen(feld, prüfung);
+    return feld;
+}
+
+Zahlbox ZahlboxAnlegen(const char *name, const char *spinName, const char *text)
+{
+    QLineEdit *feld = Zahleneingabe(name);
+    feld->setFixedWidth(56);
     const QByteArray gesprochen = QString::fromUtf8(text).remove(':').toUtf8() + " ändern";
-    return {feld, new SpinButton(spinName, gesprochen.constData())};
+    auto *spin = new SpinButton(spinName, gesprochen.constData());
+    PfeiltastenVerbinden(feld, spin);
+    return {feld, spin};
 }
 
 void ZahlboxAnordnen(QGridLayout *raster, int zeile, int spalte, const char *text,

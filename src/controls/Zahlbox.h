@@ -2,6 +2,7 @@
 // change.
 #pragma once
 
+#include "controls/Feldmarke.h"
 #include "controls/LesenOderFokus.h"
 #include "controls/SpinButton.h"
 #include "core/Umwandlung.h"
@@ -18,7 +19,11 @@ struct Zahlbox {
     SpinButton *Spin;
 };
 
-/// `text` is what the spin button changes, for screen readers.
+/// A text box for a number, marked while `prüfung` has something to say about its text.
+QLineEdit *Zahleneingabe(const char *name, Text (*prüfung)(const Text &) = KeineZahl);
+
+/// A number box, marked while no number stands in it, whose arrow keys do what its spin button
+/// does. `text` is what the spin button changes, for screen readers.
 Zahlbox ZahlboxAnlegen(const char *name, const char *spinName, const char *text);
 
 /// Puts label, box and spin button in one row of a grid, starting at `spalte`.

@@ -56,8 +56,8 @@ Datum DatumIn(const QLineEdit *feld)
 } // namespace
 
 Zuordnungsfelder::Zuordnungsfelder(Unterschiede unterschiede)
-    : Messen(Listenwahl("Messen", "Messe", 30)), DatumD(Textfeld("DatumD")),
-      Zeitd(Textfeld("Zeitd")), unterschiede(std::move(unterschiede))
+    : Messen(Listenwahl("Messen", "Messe", 26)), DatumD(Datumsbox("DatumD")),
+      Zeitd(Zeitbox("Zeitd")), unterschiede(std::move(unterschiede))
 {
     for (std::size_t k = 0; k < Slots.size(); ++k)
         Slots[k] = SlotAnlegen(static_cast<int>(k + 1));
@@ -65,8 +65,6 @@ Zuordnungsfelder::Zuordnungsfelder(Unterschiede unterschiede)
 
 QLayout *Zuordnungsfelder::Messenzeile() const
 {
-    DatumD->setFixedWidth(100);
-    Zeitd->setFixedWidth(80);
     auto *zeile = new QHBoxLayout;
     zeile->setSpacing(8);
     zeile->addWidget(Beschriftung("", "Messe :", Messen));

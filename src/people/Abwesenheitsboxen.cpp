@@ -5,6 +5,9 @@
 #include "controls/Handler.h"
 #include "controls/Terminbox.h"
 #include "core/Umwandlung.h"
+#include "platform/Uhr.h"
+
+#include <QPalette>
 
 #include <cmath>
 #include <string>
@@ -13,6 +16,7 @@ namespace altardienst {
 namespace {
 
 constexpr int MeisteJahreZurück = 2;
+constexpr const char *KeineAbwesenheit = "keine";
 
 Datumsfeld Feld(const char *stamm, int nummer, int ersterSpin, const char *gesprochen)
 {
@@ -42,8 +46,11 @@ void LeeresWirdHeute(QLineEdit *feld)
 
 Abwesenheit::Abwesenheit(int nummer)
     : Start(Feld("Start", nummer, 6 * nummer - 5, "Nicht dienstbereit vom")),
-      Schluß(Feld("Schluß", nummer, 6 * nummer - 2, "Nicht dienstbereit bis")), nummer(nummer)
+      Schluß(Feld("Schluß", nummer, 6 * nummer - 2, "Nicht dienstbereit bis")),
+      Keine(Beschriftung(("Keine" + std::to_string(nummer)).c_str(), "")), nummer(nummer)
 {
+    Keine->setForegroundRole(QPalette::PlaceholderText); // grey, on a dark screen too
+    Keine->setMinimumWidth(Keine->fontMetrics().horizontalAdvance(KeineAbwesenheit));
 }
 
 void Abwesenheit::Anordnen(QGridLayout *raster, int zeile) const
@@ -52,9 +59,10 @@ void Abwesenheit::Anordnen(QGridLayout *raster, int zeile) const
     for (const Datumsfeld *datum : {&Start, &Schluß}) {
         raster->addWidget(datum->Feld, zeile, spalte++);
         for (SpinButton *spin : datum->Spins)
-            raster->addWidget(spin, zeile, spalte++);
+            raster->addWidget(spin, zeile, spalte++, Qt::AlignHCenter);
         ++spalte; // a gap before `Schluß`
     }
+    raster->addWidget(Keine, zeile, spalte);
 }
 
 void Abwesenheit::Verbinden() const
@@ -76,6 +84,13 @@ void Abwesenheit::Verbinden() const
                      Schrittweise([=] { AlsKurzesDatum(schluß); },
                                   [=] { SchlußNachStart(start, schluß); },
                                   [=] { beiLeerem(schluß); }));
+    const auto sagen = [start, schluß, keine = Keine] {
+        const QString heute = Anzeige(KurzesDatum(Uhr.Heute()));
+        const bool beide = start->text() == heute && schluß->text() == heute;
+        keine->setText(beide ? KeineAbwesenheit : "");
+    };
+    for (QLineEdit *feld : {start, schluß})
+        QObject::connect(feld, &QLineEdit::textChanged, Keine, Abgefangen(sagen));
     Start.SchritteVerbinden([=] {
         start->setFocus();
         schluß->setFocus();
@@ -106,7 +121,7 @@ QLayout *Abwesenheitsboxen::Anordnen() const
     kopf("bis", Zeiten.front().Schluß.Feld, 5);
     for (std::size_t k = 0; k < Zeiten.size(); ++k)
         Zeiten[k].Anordnen(raster, static_cast<int>(k) + 2);
-    raster->setColumnStretch(9, 1);
+    raster->setColumnStretch(11, 1);
     return raster;
 }
 

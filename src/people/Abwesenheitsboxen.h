@@ -4,6 +4,7 @@
 #include "controls/Datumsfeld.h"
 
 #include <QGridLayout>
+#include <QLabel>
 
 #include <array>
 #include <vector>
@@ -18,6 +19,8 @@ class Abwesenheit {
 
     Datumsfeld Start;
     Datumsfeld Schluß;
+
+    QLabel *Keine; // says so while both dates are today's, as in a period that is not set
 
     void Anordnen(QGridLayout *raster, int zeile) const;
     void Verbinden() const;

@@ -33,7 +33,7 @@ Datensatzliste::Quelle Listenquelle()
 
 GruppeForm::GruppeForm()
     : Editorfenster(new Datensatzwahl({"Indexi", "PLUS", "MINUS", "DPM"}), Listenquelle()),
-      GBezeichnung(Textfeld("GBezeichnung")), Gruppenzahl(Beschriftung("Gruppenzahl", "")),
+      GBezeichnung(Gruppenfeld()), Gruppenzahl(Beschriftung("Gruppenzahl", "")),
       Löschend(Knopf("Löschend", "Gruppe löschen")), NEWGroup(Knopf("NEWGroup", "neue Gruppe"))
 {
     Benannt(this, "Gruppe");

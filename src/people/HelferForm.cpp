@@ -89,7 +89,7 @@ void HelferForm::Anordnen()
     Person.Anordnen(person, 0, 2);
     Tagen.Anordnen(person, 7, "Geburtstag:");
     person->setColumnStretch(2, 1);
-    person->setRowStretch(10, 1);
+    person->setRowStretch(8, 1);
 
     auto *dienste = new QGridLayout;
     dienste->setHorizontalSpacing(10);

@@ -62,8 +62,9 @@ MeßdienerForm::MeßdienerForm()
                  {"Check10", "Do"},
                  {"Check11", "Fr"}}),
       Norm(Benannt(new QRadioButton("normal"), "Norm")),
-      Oft(Benannt(new QRadioButton("oft"), "Oft")), Haufigk(Textfeld("Haufigk")), Abwesenheiten(5),
-      NeuDiener(Knopf("NeuDiener", "Neuer Meßdiener")), Lösch(Knopf("Lösch", "Datensatz löschen")),
+      Oft(Benannt(new QRadioButton("oft"), "Oft")), Haufigk(Zahleneingabe("Haufigk")),
+      Abwesenheiten(5), NeuDiener(Knopf("NeuDiener", "Neuer Meßdiener")),
+      Lösch(Knopf("Lösch", "Datensatz löschen")),
       Aufnahmebestätigung(Knopf("Aufnahmebestätigung", "Aufnahmebestätigung drucken"))
 {
     Benannt(this, "Meßdiener");
@@ -129,8 +130,7 @@ QLayout *MeßdienerForm::Dienstteil()
     häufigkeit->addWidget(Norm);
     häufigkeit->addWidget(Oft);
     Haufigk->setAccessibleName("Diensthäufigkeit als Zahl");
-    Haufigk->setToolTip("0 bis 20");
-    Haufigk->setFixedWidth(40);
+    Haufigk->setFixedWidth(48);
     häufigkeit->addWidget(Haufigk);
     häufigkeit->addStretch();
     teil->addLayout(häufigkeit);

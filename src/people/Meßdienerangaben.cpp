@@ -30,27 +30,31 @@ Meßdienerangaben::Meßdienerangaben()
       Dieenst(Textwahl("Dieenst", "Gruppe"))
 {
     ListeSetzen(Geschl, {"männlich", "weiblich"});
+    // All that goes into the one file whose values are separated by commas.
+    for (QLineEdit *feld : {Person.Vorname, Person.Nachname, Person.Straße, Person.Ort,
+                            Person.Telefon, Person.EMail, Geschl->lineEdit(), Dieenst->lineEdit()})
+        FeldPrüfen(feld, ZerreißtDieDatei("fehlen alle Meßdiener ab hier"));
 }
 
 void Meßdienerangaben::Anordnen(QGridLayout *raster, int breite) const
 {
     Person.Anordnen(raster, 0, breite);
     Gebutag.Anordnen(raster, 7, "Geburtstag:");
-    raster->addWidget(Beschriftung("", "Geschlecht:", Geschl), 10, 0);
-    raster->addWidget(Geschl, 10, 1, 1, 2, Qt::AlignLeft);
+    raster->addWidget(Beschriftung("", "Geschlecht:", Geschl), 8, 0);
+    raster->addWidget(Geschl, 8, 1, 1, 2, Qt::AlignLeft);
     auto *größe = new QHBoxLayout;
     größe->setSpacing(6);
     größe->addWidget(Groß.Feld);
     größe->addWidget(Beschriftung("", "cm"));
     größe->addWidget(Groß.Spin);
     größe->addStretch();
-    raster->addWidget(Beschriftung("", "Größe:", Groß.Feld), 11, 0);
-    raster->addLayout(größe, 11, 1, 1, 2);
-    Eintritttdatum.Anordnen(raster, 12, "Eintrittsdatum:");
-    raster->addWidget(Beschriftung("", "Gruppe:", Dieenst), 15, 0);
-    raster->addWidget(Dieenst, 15, 1, 1, breite);
+    raster->addWidget(Beschriftung("", "Größe:", Groß.Feld), 9, 0);
+    raster->addLayout(größe, 9, 1, 1, 2);
+    Eintritttdatum.Anordnen(raster, 10, "Eintrittsdatum:");
+    raster->addWidget(Beschriftung("", "Gruppe:", Dieenst), 11, 0);
+    raster->addWidget(Dieenst, 11, 1, 1, breite);
     raster->setColumnStretch(breite, 1);
-    raster->setRowStretch(16, 1);
+    raster->setRowStretch(12, 1);
 }
 
 void Meßdienerangaben::Verbinden() const

@@ -6,6 +6,7 @@
 #include "controls/Handler.h"
 #include "core/tables.h"
 #include "people/Personen.h"
+#include "people/Personenboxen.h"
 #include "platform/Meldungen.h"
 
 #include <QHBoxLayout>
@@ -26,7 +27,7 @@ bool GibtEs(const Text &bezeichnung)
 } // namespace
 
 NeuGruppeForm::NeuGruppeForm(std::function<void(bool)> danach)
-    : Anlegefenster(std::move(danach)), GBezeichnung(Textfeld("GBezeichnung"))
+    : Anlegefenster(std::move(danach)), GBezeichnung(Gruppenfeld())
 {
     Benannt(this, "NeuGruppe");
     setWindowTitle("Neue Gruppe");

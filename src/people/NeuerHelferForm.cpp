@@ -36,12 +36,12 @@ void NeuerHelferForm::Anordnen()
     raster->setVerticalSpacing(6);
     Person.Anordnen(raster, 0, 2);
     Tagen.Anordnen(raster, 7, "Geburtstag:");
-    raster->addWidget(Beschriftung("", "Dienst 1:", Dient), 10, 0);
-    raster->addWidget(Dient, 10, 1, 1, 2);
-    raster->addWidget(Beschriftung("", "Dienst 2:", Dient2), 11, 0);
-    raster->addWidget(Dient2, 11, 1, 1, 2);
+    raster->addWidget(Beschriftung("", "Dienst 1:", Dient), 8, 0);
+    raster->addWidget(Dient, 8, 1, 1, 2);
+    raster->addWidget(Beschriftung("", "Dienst 2:", Dient2), 9, 0);
+    raster->addWidget(Dient2, 9, 1, 1, 2);
     raster->setColumnStretch(2, 1);
-    raster->setRowStretch(12, 1);
+    raster->setRowStretch(10, 1);
     RahmenAnordnen(raster);
     Person.Vorname->setFocus();
 }

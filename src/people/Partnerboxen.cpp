@@ -2,6 +2,7 @@
 #include "people/Partnerboxen.h"
 
 #include "controls/Bausteine.h"
+#include "controls/Feldmarke.h"
 #include "controls/Zahlbox.h"
 #include "core/Namen.h"
 #include "core/tables.h"
@@ -52,6 +53,7 @@ QLayout *Partnerboxen::Anordnen() const
     Partner->setMinimumContentsLength(20);
     // The names are set by choosing the partner.
     for (QLineEdit *feld : {VName, NName}) {
+        FeldPrüfen(feld, ZerreißtDieDatei("fehlen alle Meßdiener ab hier"));
         feld->setReadOnly(true);
         feld->setFocusPolicy(Qt::ClickFocus);
     }

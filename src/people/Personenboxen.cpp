@@ -23,8 +23,8 @@ void PostleitzahlBegrenzen(QLineEdit *feld)
 
 Personenboxen::Personenboxen(const std::array<const char *, 7> &namen)
     : Vorname(Textfeld(namen[0])), Nachname(Textfeld(namen[1])), Straße(Textfeld(namen[2])),
-      PLZ(Textfeld(namen[3])), Ort(Textfeld(namen[4])), Telefon(Textfeld(namen[5])),
-      EMail(Textfeld(namen[6]))
+      PLZ(Zahleneingabe(namen[3], KeinePostleitzahl)), Ort(Textfeld(namen[4])),
+      Telefon(Textfeld(namen[5])), EMail(Textfeld(namen[6]))
 {
 }
 
@@ -42,7 +42,7 @@ void Personenboxen::Anordnen(QGridLayout *raster, int zeile, int breite) const
     reihe("Ort:", Ort);
     reihe("Telefon:", Telefon);
     reihe("EMail:", EMail);
-    PLZ->setMaximumWidth(PLZ->fontMetrics().horizontalAdvance("000000000") + 20);
+    PLZ->setMaximumWidth(PLZ->fontMetrics().horizontalAdvance("000000000") + 36);
 }
 
 void Personenboxen::Verbinden() const
@@ -70,6 +70,14 @@ void KnöpfeBeschriften(Datensatzwahl *wahl)
     wahl->Minus->setText("Minus");
     for (QPushButton *knopf : {wahl->Minus, wahl->Plus})
         knopf->setFixedWidth(knopf->fontMetrics().horizontalAdvance("Minus") + 40);
+}
+
+QLineEdit *Gruppenfeld()
+{
+    QLineEdit *feld = Textfeld("GBezeichnung");
+    FeldPrüfen(
+        feld, ZerreißtDieDatei("fehlen alle Meßdiener ab dem ersten, der zu dieser Gruppe gehört"));
+    return feld;
 }
 
 } // namespace altardienst

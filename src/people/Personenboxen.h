@@ -83,4 +83,7 @@ int NummerBegrenzen(QLineEdit *feld, int letzter, int anzahl);
 /// The buttons of the record mover say "Plus" and "Minus" in these editors.
 void KnöpfeBeschriften(Datensatzwahl *wahl);
 
+/// The name of a group, which becomes part of the records of its servers.
+QLineEdit *Gruppenfeld();
+
 } // namespace altardienst

@@ -117,8 +117,8 @@ void MessenlisteForm::Anordnen()
 {
     auto *termin = new QGridLayout;
     Termin.Anordnen(termin, 0, Terminknöpfe());
-    termin->addWidget(Beschriftung("", "Art:", Messewesen), 6, 0);
-    termin->addWidget(Messewesen, 6, 1, 1, 2);
+    termin->addWidget(Beschriftung("", "Art:", Messewesen), 3, 0);
+    termin->addWidget(Messewesen, 3, 1, 1, 2);
     termin->setColumnStretch(termin->columnCount(), 1);
     auto *dienste = new QGridLayout;
     Dienste.Anordnen(dienste, 0, 4);
@@ -157,6 +157,7 @@ void MessenlisteForm::Verbinden()
                           if (!füllt)
                               Beschriften();
                       });
+    Slots.Ergänzen();
     connect(Löscher, &QPushButton::clicked, this, Abgefangen([this] { Löschen(); }));
     connect(NeuMeß, &QPushButton::clicked, this, Abgefangen([this] { NeueMesse(); }));
     connect(Lektoren, &QPushButton::clicked, this, Abgefangen([this] { HelferDerMesse(); }));

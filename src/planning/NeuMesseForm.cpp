@@ -51,8 +51,8 @@ void NeuMesseForm::Anordnen()
 {
     auto *termin = new QGridLayout;
     Termin.Anordnen(termin, 0, {});
-    termin->addWidget(Beschriftung("", "Art:", Messewesen), 6, 0);
-    termin->addWidget(Messewesen, 6, 1, 1, 2);
+    termin->addWidget(Beschriftung("", "Art:", Messewesen), 3, 0);
+    termin->addWidget(Messewesen, 3, 1, 1, 2);
 
     auto *oben = new QVBoxLayout;
     oben->setSpacing(18);

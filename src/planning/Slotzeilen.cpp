@@ -2,7 +2,12 @@
 #include "planning/Slotzeilen.h"
 
 #include "controls/Bausteine.h"
+#include "controls/Ergänzung.h"
+#include "controls/Tippgedächtnis.h"
+#include "core/Namen.h"
 #include "core/tables.h"
+
+#include <QStringListModel>
 
 #include <string>
 
@@ -72,6 +77,27 @@ void Slotzeilen::Beschriften(const Slottexte &texte) const
 {
     for (std::size_t k = 0; k < MDR.size(); ++k)
         Setzen(MDR[k], texte[k]);
+}
+
+void Slotzeilen::Ergänzen() const
+{
+    auto *liste = new QStringListModel(vor[0]);
+    const auto füllen = [liste]() -> QAbstractItemModel * {
+        QStringList namen;
+        for (int i = 0; i < Meßdiener.Anzahl; ++i)
+            namen << Anzeige(Listenname(Meßdiener.Nachname[i], Meßdiener.Vorname[i]));
+        if (namen != liste->stringList())
+            liste->setStringList(namen);
+        return liste;
+    };
+    for (std::size_t k = 0; k < MDR.size(); ++k) {
+        const auto eintragen = [vor = vor[k], nach = nach[k]](int i) {
+            Eintippen(vor, Meßdiener.Vorname[i]);
+            Eintippen(nach, Meßdiener.Nachname[i]);
+        };
+        for (QLineEdit *feld : {vor[k], nach[k]})
+            altardienst::Ergänzen(feld, {füllen, eintragen});
+    }
 }
 
 void Slotzeilen::Zeigen(int i) const

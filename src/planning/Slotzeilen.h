@@ -27,6 +27,9 @@ class Slotzeilen {
     void Sichtbar(int diener) const;
     void Beschriften(const Slottexte &texte) const;
 
+    /// Proposes the servers while a name is typed; choosing one fills in both boxes of the row.
+    void Ergänzen() const;
+
     /// The names of mass `i`.
     void Zeigen(int i) const;
     void Schreiben(int i) const;

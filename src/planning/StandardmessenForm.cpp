@@ -24,7 +24,7 @@ constexpr int LetzterDatensatz = 10;
 
 StandardmessenForm::StandardmessenForm()
     : Wahl(new Datensatzwahl({"Datensatznummer", "Plus", "Minus", "DPM"})),
-      Tage(Benannt(new QComboBox, "Tage")), Zeitig(Textfeld("Zeitig")),
+      Tage(Benannt(new QComboBox, "Tage")), Zeitig(Zeitbox("Zeitig")),
       Stundenändern(new SpinButton("Stundenändern", "Stunde ändern")),
       mh(Minusknopf("mh", "eine Stunde früher")), ph(Plusknopf("ph", "eine Stunde später")),
       Minutenänderung(new SpinButton("Minutenänderung", "Minuten ändern")),
@@ -56,16 +56,10 @@ StandardmessenForm::StandardmessenForm()
 void StandardmessenForm::Anordnen()
 {
     auto *zeit = new QHBoxLayout;
-    Zeitig->setFixedWidth(80);
+    zeit->setSpacing(Schrittabstand);
     zeit->addWidget(Zeitig);
-    const auto schritte = [&](const char *text, std::initializer_list<QWidget *> controls) {
-        zeit->addSpacing(10);
-        zeit->addWidget(Beschriftung("", text));
-        for (QWidget *control : controls)
-            zeit->addWidget(control);
-    };
-    schritte("Stunde", {Stundenändern, mh, ph});
-    schritte("Minuten", {Minutenänderung, mMin, pMini});
+    SchrittAnfügen(zeit, "Stunde", Stundenändern, mh, ph);
+    SchrittAnfügen(zeit, "Minuten", Minutenänderung, mMin, pMini);
     zeit->addStretch();
 
     auto *oben = new QGridLayout;
@@ -101,6 +95,8 @@ void StandardmessenForm::Verbinden()
     };
     zeit(mh, ph, Stundenändern, StundenWeiter, 1);
     zeit(mMin, pMini, Minutenänderung, MinutenWeiter, 5);
+    PfeiltastenVerbinden(Zeitig, Stundenändern, Pfeilstufen[0]);
+    PfeiltastenVerbinden(Zeitig, Minutenänderung, Pfeilstufen[1]);
     Dienste.Verbinden([this] { DienerzahlGeändert(); });
     Helferzahlen.Verbinden();
     connect(Löschig, &QPushButton::clicked, this, Offen([this] { Löschen(); }));

@@ -8,13 +8,15 @@
 
 #include <QHBoxLayout>
 
+#include <array>
+
 namespace altardienst {
 
 Terminfelder::Terminfelder()
     : tagelang(Textfeld("tagelang")), Taga(Knopf("Taga", "Wochentag bestimmen")),
-      datendaten(Textfeld("datendaten")), Änderung1(new SpinButton("Änderung1", "Tag ändern")),
+      datendaten(Datumsbox("datendaten")), Änderung1(new SpinButton("Änderung1", "Tag ändern")),
       Änderung2(new SpinButton("Änderung2", "Monat ändern")),
-      Änderung4(new SpinButton("Änderung4", "Jahr ändern")), Uhrwerk(Textfeld("Uhrwerk")),
+      Änderung4(new SpinButton("Änderung4", "Jahr ändern")), Uhrwerk(Zeitbox("Uhrwerk")),
       Änderung5(new SpinButton("Änderung5", "Stunde ändern")),
       Änderung6(new SpinButton("Änderung6", "Minuten ändern"))
 {
@@ -24,34 +26,32 @@ void Terminfelder::Anordnen(QGridLayout *raster, int zeile, const Knöpfe &knöp
 {
     raster->setVerticalSpacing(6);
     raster->setHorizontalSpacing(10);
-    for (QLineEdit *feld : {tagelang, datendaten, Uhrwerk})
-        feld->setFixedWidth(100);
-    const auto schritt = [](const char *text, SpinButton *spin, const Knopfpaar &paar) {
-        auto *reihe = new QHBoxLayout;
-        reihe->setSpacing(4);
-        QLabel *label = Beschriftung("", text);
-        label->setMinimumWidth(label->fontMetrics().horizontalAdvance("Minuten") + 8);
-        reihe->addWidget(label);
-        reihe->addWidget(spin);
-        if (paar.Minus)
-            reihe->addWidget(paar.Minus);
-        if (paar.Plus)
-            reihe->addWidget(paar.Plus);
-        reihe->addStretch();
-        return reihe;
+    tagelang->setFixedWidth(datendaten->maximumWidth());
+    struct Einheit {
+        const char *Name;
+        SpinButton *Spin;
+        Knopfpaar Paar;
+    };
+    const auto reihe = [&](const char *text, QLineEdit *feld,
+                           std::initializer_list<Einheit> einheiten) {
+        auto *schritte = new QHBoxLayout;
+        schritte->setSpacing(Schrittabstand);
+        schritte->addWidget(feld);
+        for (const Einheit &e : einheiten)
+            SchrittAnfügen(schritte, e.Name, e.Spin, e.Paar.Minus, e.Paar.Plus);
+        schritte->addStretch();
+        raster->addWidget(Beschriftung("", text, feld), ++zeile, 0);
+        raster->addLayout(schritte, zeile, 1, 1, 2);
     };
     raster->addWidget(Beschriftung("", "Wochentag:", tagelang), zeile, 0);
     raster->addWidget(tagelang, zeile, 1);
     raster->addWidget(Taga, zeile, 2, Qt::AlignLeft);
-    raster->addWidget(Beschriftung("", "Datum:", datendaten), zeile + 1, 0);
-    raster->addWidget(datendaten, zeile + 1, 1);
-    raster->addLayout(schritt("Tag", Änderung1, knöpfe.Tag), zeile + 1, 2);
-    raster->addLayout(schritt("Monat", Änderung2, knöpfe.Monat), zeile + 2, 2);
-    raster->addLayout(schritt("Jahr", Änderung4, knöpfe.Jahr), zeile + 3, 2);
-    raster->addWidget(Beschriftung("", "Uhrzeit:", Uhrwerk), zeile + 4, 0);
-    raster->addWidget(Uhrwerk, zeile + 4, 1);
-    raster->addLayout(schritt("Stunde", Änderung5, knöpfe.Stunde), zeile + 4, 2);
-    raster->addLayout(schritt("Minuten", Änderung6, knöpfe.Minute), zeile + 5, 2);
+    reihe("Datum:", datendaten,
+          {{"Tag", Änderung1, knöpfe.Tag},
+           {"Monat", Änderung2, knöpfe.Monat},
+           {"Jahr", Änderung4, knöpfe.Jahr}});
+    reihe("Uhrzeit:", Uhrwerk,
+          {{"Stunde", Änderung5, knöpfe.Stunde}, {"Minuten", Änderung6, knöpfe.Minute}});
 }
 
 void Terminfelder::Verbinden(const Knöpfe &knöpfe,
@@ -71,6 +71,11 @@ void Terminfelder::Verbinden(const Knöpfe &knöpfe,
             })();
         });
     };
+    const std::array<SpinButton *, 3> amDatum = {Änderung1, Änderung2, Änderung4};
+    for (std::size_t k = 0; k < amDatum.size(); ++k)
+        PfeiltastenVerbinden(datendaten, amDatum[k], Pfeilstufen[k]);
+    PfeiltastenVerbinden(Uhrwerk, Änderung5, Pfeilstufen[0]);
+    PfeiltastenVerbinden(Uhrwerk, Änderung6, Pfeilstufen[1]);
     const std::function<void()> nichts = [] {};
     schritt(knöpfe.Tag, Änderung1, datendaten, TageWeiter, 1, beiDatumsschritt);
     schritt(knöpfe.Monat, Änderung2, datendaten, MonateWeiter, 1, beiDatumsschritt);

@@ -4,6 +4,7 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
+#include "controls/Terminbox.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
 #include "planning/MessenBestimmen.h"
@@ -41,11 +42,11 @@ DruckForm::DruckForm()
       DruckHelfer(Knopf("DruckHelfer", "Druck der Helfer")),
       Erfassungsbogen(Knopf("Erfassungsbogen", "Drucken des Erfassungsbogens für Meßdiener")),
       Erfaßung(Knopf("Erfaßung", "Druck des Erfassungsbogens für Meßhelfer")),
-      Rückgebend(Textfeld("Rückgebend")),
+      Rückgebend(Datumsbox("Rückgebend")),
       Änderung1(new SpinButton("Änderung1", "Rückgabe um einen Tag ändern")),
       Minus1(Minusknopf("Minus1", "Rückgabe einen Tag früher")),
       Plus1(Plusknopf("Plus1", "Rückgabe einen Tag später")), RückTag(Beschriftung("RückTag", "")),
-      Dauernde(Textfeld("Dauernde")),
+      Dauernde(Datumsbox("Dauernde")),
       Änderung2(new SpinButton("Änderung2", "Dauer um einen Tag ändern")),
       Minus2(Minusknopf("Minus2", "Dauer einen Tag kürzer")),
       Plus2(Plusknopf("Plus2", "Dauer einen Tag länger")), DauerTag(Beschriftung("DauerTag", "")),
@@ -105,7 +106,6 @@ QWidget *DruckForm::Erfassung()
     int zeile = 2;
     const auto datum = [&](const char *name, const char *text, QLineEdit *feld, SpinButton *spin,
                            QPushButton *minus, QPushButton *plus, QLabel *tag) {
-        feld->setFixedWidth(90);
         raster->addWidget(Beschriftung(name, text, feld), zeile++, 0, 1, 2);
         auto *reihe = new QHBoxLayout;
         for (QWidget *control : std::initializer_list<QWidget *>{feld, spin, minus, plus, tag})
@@ -169,6 +169,8 @@ void DruckForm::Verbinden()
             DauerFassen();
         })();
     });
+    PfeiltastenVerbinden(Rückgebend, Änderung1);
+    PfeiltastenVerbinden(Dauernde, Änderung2);
     BeiFokusVerlust(Rückgebend, Abgefangen([this] { RückgabeFassen(); }));
     BeiFokusVerlust(Dauernde, Abgefangen([this] { DauerFassen(); }));
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });

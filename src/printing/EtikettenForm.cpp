@@ -36,8 +36,10 @@ void ZahlBegrenzen(QLineEdit *feld, int schritt = 0)
 
 EtikettenForm::EtikettenForm()
     : Wahl(new Datensatzwahl({"Ind", "Plus", "Minus", "DPM"})), N(Textfeld("N")),
-      OU(Textfeld("OU")), LR(Textfeld("LR")), H(Textfeld("H")), B(Textfeld("B")),
-      ST(Textfeld("ST")), R(Textfeld("R")), S(Textfeld("S")), Ende(Knopf("Ende", "Ende"))
+      OU(Zahleneingabe("OU", KeinMaß)), LR(Zahleneingabe("LR", KeinMaß)),
+      H(Zahleneingabe("H", KeinMaß)), B(Zahleneingabe("B", KeinMaß)),
+      ST(Zahleneingabe("ST", KeinMaß)), R(Zahleneingabe("R", KeinMaß)),
+      S(Zahleneingabe("S", KeinMaß)), Ende(Knopf("Ende", "Ende"))
 {
     constexpr std::array<const char *, 7> gesprochen = {"Rand oben und unten ändern",
                                                         "Rand links und rechts ändern",
@@ -67,7 +69,9 @@ void EtikettenForm::Anordnen()
         feld->setFixedWidth(90);
         raster->addWidget(Beschriftung("", text, feld), zeile, 0);
         raster->addWidget(feld, zeile, 1);
-        raster->addWidget(Ä[static_cast<std::size_t>(zeile - 1)], zeile, 2);
+        SpinButton *spin = Ä[static_cast<std::size_t>(zeile - 1)];
+        PfeiltastenVerbinden(feld, spin);
+        raster->addWidget(spin, zeile, 2);
         if (istLänge)
             raster->addWidget(Beschriftung("", "mm"), zeile, 3);
         ++zeile;

@@ -29,8 +29,8 @@ int Stelle(const QLineEdit *feld)
 Etikettenwahl::Etikettenwahl(const char *knopfBeschriftung)
     : EtiGröß(Benannt(new QGroupBox("Etikettengröße"), "EtiGröß")),
       Etik(Benannt(new QGroupBox("Erstes zu bedruckende Etikett in"), "Etik")),
-      Reih(Textfeld("Reih")), ÄReih(new SpinButton("ÄReih", "Reihe ändern")),
-      Spal(Textfeld("Spal")), ÄSpal(new SpinButton("ÄSpal", "Spalte ändern")),
+      Reih(Zahleneingabe("Reih", KeinMaß)), ÄReih(new SpinButton("ÄReih", "Reihe ändern")),
+      Spal(Zahleneingabe("Spal", KeinMaß)), ÄSpal(new SpinButton("ÄSpal", "Spalte ändern")),
       Etiketten(Knopf("Etiketten", knopfBeschriftung))
 {
     for (std::size_t n = 0; n < O.size(); ++n)
@@ -73,8 +73,10 @@ void Etikettenwahl::Verbinden()
                     Etikett.Anzahl = static_cast<int>(n);
                     AufDenBogenHolen();
                 }));
-    DrehenVerbinden({Reih, ÄReih});
-    DrehenVerbinden({Spal, ÄSpal});
+    for (const auto &[feld, spin] : {Zahlbox{Reih, ÄReih}, {Spal, ÄSpal}}) {
+        DrehenVerbinden({feld, spin});
+        PfeiltastenVerbinden(feld, spin);
+    }
 }
 
 void Etikettenwahl::Füllen()

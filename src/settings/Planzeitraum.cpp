@@ -28,7 +28,7 @@ QLayout *Reihe(std::initializer_list<QWidget *> controls)
 } // namespace
 
 Planzeitraum::Planzeitraum()
-    : Datumsen(Textfeld("Datumsen")),
+    : Datumsen(Datumsbox("Datumsen")),
       SpinButton1(new SpinButton("SpinButton1", "Startdatum um einen Tag ändern")),
       tagi(Beschriftung("tagi", "")), tagilein(ZahlboxAnlegen("tagilein", "Änderung1", "Tage")),
       Endet(Beschriftung("Endet", "")), Dayig(Beschriftung("Dayig", ""))
@@ -40,7 +40,6 @@ QLayout *Planzeitraum::Anordnen() const
     auto *raster = new QGridLayout;
     raster->addWidget(Beschriftung("", "Startberechnungsdatum für den Meßdienerplan:", Datumsen), 0,
                       0, 1, 5);
-    Datumsen->setFixedWidth(100);
     raster->addLayout(Reihe({Datumsen, SpinButton1, tagi}), 1, 0, 1, 5);
     ZahlboxAnordnen(raster, 2, 0, "Anzahl Tage: ", tagilein);
     raster->addLayout(Reihe({Beschriftung("", "bis zum:"), Endet, Dayig}), 3, 0, 1, 5);
@@ -52,6 +51,7 @@ void Planzeitraum::Verbinden()
 {
     BeiEingabetaste(Datumsen, Abgefangen([this] { Berechnen(); }));
     SchritteVerbinden(nullptr, nullptr, SpinButton1, [this](int tage) { DatumGedreht(tage); });
+    PfeiltastenVerbinden(Datumsen, SpinButton1);
     SchritteVerbinden(nullptr, nullptr, tagilein.Spin, [this](int tage) { TageGedreht(tage); });
     BeiEingabetaste(tagilein.Feld, Abgefangen([this] { TageBegrenzen(MeisteTage); }));
 }

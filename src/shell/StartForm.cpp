@@ -5,6 +5,7 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
+#include "controls/Terminbox.h"
 #include "controls/Vordergrund.h"
 #include "controls/Zahlbox.h"
 #include "core/Allgemein.h"
@@ -30,9 +31,9 @@
 namespace altardienst {
 
 StartForm::StartForm(std::function<void()> starten)
-    : Datumsen(Textfeld("Datumsen")), Tagchen(Beschriftung("Tagchen", "")),
+    : Datumsen(Datumsbox("Datumsen")), Tagchen(Beschriftung("Tagchen", "")),
       SpinButton1(new SpinButton("SpinButton1", "Startdatum um einen Tag ändern")),
-      Plus(Knopf("Plus", "+")), Minus(Knopf("Minus", "-")), Tagilein(Textfeld("Tagilein")),
+      Plus(Knopf("Plus", "+")), Minus(Knopf("Minus", "-")), Tagilein(Zahleneingabe("Tagilein")),
       Änderung1(new SpinButton("Änderung1", "Anzahl Tage ändern")),
       Endet(Beschriftung("Endet", "")), Dayig(Beschriftung("Dayig", "")),
       UHRZEIT(Beschriftung("UHRZEIT", "")), Starten(Knopf("Starten", "Starten")),
@@ -52,10 +53,11 @@ void StartForm::Anordnen()
 {
     Plus->setAccessibleName("einen Tag vor");
     Minus->setAccessibleName("einen Tag zurück");
-    for (QPushButton *knopf : {Plus, Minus})
-        knopf->setFixedWidth(36);
-    for (QLineEdit *feld : {Datumsen, Tagilein})
-        feld->setFixedWidth(100);
+    for (QPushButton *knopf : {Plus, Minus}) {
+        knopf->setFixedWidth(Schrittknopfbreite);
+        knopf->setFocusPolicy(Qt::ClickFocus); // the arrow keys do the same in the box
+    }
+    Tagilein->setFixedWidth(Datumsen->maximumWidth());
     QFont groß = UHRZEIT->font();
     groß.setPointSizeF(groß.pointSizeF() * 1.6);
     UHRZEIT->setFont(groß);
@@ -117,6 +119,8 @@ void StartForm::Verbinden()
     };
     schrittknopf(Plus, +1);
     schrittknopf(Minus, -1);
+    PfeiltastenVerbinden(Datumsen, SpinButton1);
+    PfeiltastenVerbinden(Tagilein, Änderung1);
     Änderung1->BeiAb(Abgefangen([this] { TageGedreht(-1); }));
     Änderung1->BeiAuf(Abgefangen([this] { TageGedreht(+1); }));
     connect(Starten, &QPushButton::clicked, this, Offen([this] {

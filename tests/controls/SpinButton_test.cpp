@@ -77,7 +77,7 @@ TEST_F(SpinButtonTest, NimmtDenFokusBevorSeinEreignisLäuft)
 
 TEST_F(SpinButtonTest, IstEinHaltFürTab)
 {
-    EXPECT_EQ(Tabfolge(&fenster), (std::vector<Text>{"Feld", "DPM"}));
+    EXPECT_EQ(Tabfolge(&fenster), (std::vector<Text>{"Feld"}));
     EXPECT_EQ(spin->accessibleName(), "Datensatz wechseln");
     EXPECT_FALSE(Finden(spin, "ab")->accessibleName().isEmpty());
     EXPECT_FALSE(Finden(spin, "auf")->accessibleName().isEmpty());
@@ -95,6 +95,47 @@ TEST_F(SpinButtonTest, OhneHandlerGeschiehtNichts)
     SpinButton leer("leer", "leer");
     Klick(Finden(&leer, "ab"));
     Klick(Finden(&leer, "auf"));
+}
+
+TEST_F(SpinButtonTest, DiePfeiltastenWirkenAuchInIhremFeld)
+{
+    PfeiltastenVerbinden(feld, spin);
+    for (const auto taste : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Down, Qt::Key_Left})
+        QTest::keyClick(feld, taste);
+    EXPECT_EQ(ereignisse, "auf ab ab ");
+    EXPECT_TRUE(feld->hasFocus());
+    for (const auto mit : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier})
+        QTest::keyClick(feld, Qt::Key_Up, mit);
+    EXPECT_EQ(ereignisse, "auf ab ab ");
+    feld->setReadOnly(true);
+    QTest::keyClick(feld, Qt::Key_Up);
+    EXPECT_EQ(ereignisse, "auf ab ab ");
+}
+
+TEST_F(SpinButtonTest, MitEinerGehaltenenTasteGehenSieZumNächsten)
+{
+    PfeiltastenVerbinden(feld, spin, Pfeilstufen[1]);
+    PfeiltastenVerbinden(feld, Pfeilstufen[2],
+                         [this](int richtung) { ereignisse += richtung > 0 ? "+ " : "- "; });
+    QTest::keyClick(feld, Qt::Key_Up);
+    EXPECT_EQ(ereignisse, "");
+    QTest::keyClick(feld, Qt::Key_Up, Qt::ShiftModifier);
+    QTest::keyClick(feld, Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(ereignisse, "auf - ");
+}
+
+TEST_F(SpinButtonTest, EinKlickGibtIhmDenFokusTabNicht)
+{
+    EXPECT_EQ(spin->focusPolicy(), Qt::ClickFocus);
+    Klick(Finden(spin, "auf"));
+    EXPECT_TRUE(spin->hasFocus());
+}
+
+TEST_F(SpinButtonTest, DerPfeilNachObenStehtOben)
+{
+    EXPECT_LT(Finden(spin, "auf")->y(), Finden(spin, "ab")->y());
+    EXPECT_LE(spin->height(), feld->height() + 2);
+    EXPECT_LE(spin->width(), 24);
 }
 
 } // namespace

@@ -37,9 +37,9 @@ TEST_F(MesseDienerFestFormTest, TabFolgtDemAuge)
     Fest(0, 1);
     ListeÖffnen();
     EXPECT_TRUE(Finden("Index")->hasFocus());
-    EXPECT_EQ(Tabfolge(form), (Liste{"Index", "DatensatzWechsel", "Minus", "Plus", "Messen",
-                                     "DatumD", "Zeitd", "MDiener1", "MDV1", "MDN1", "MDiener2",
-                                     "MDV2", "MDN2", "Hinzu", "Löschen", "OKbutton"}));
+    EXPECT_EQ(Tabfolge(form),
+              (Liste{"Index", "Messen", "DatumD", "Zeitd", "MDiener1", "MDV1", "MDN1", "MDiener2",
+                     "MDV2", "MDN2", "Hinzu", "Löschen", "OKbutton"}));
     EXPECT_EQ(Stumme(form), Liste{});
     EXPECT_EQ(GezeigteMeldungen, Liste{});
 }

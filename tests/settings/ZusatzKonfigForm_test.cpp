@@ -192,7 +192,7 @@ TEST_F(ZusatzKonfigFormTest, TabFolgtDemAugeUndPasstAufDenKleinstenBildschirm)
 {
     Öffnen();
     FokusAuf("Wer");
-    EXPECT_EQ(Tabfolge(form), (Liste{"Wer", "Kr", "OO1", "WOBO", "UI1", "Ende"}));
+    EXPECT_EQ(Tabfolge(form), (Liste{"Wer", "Kr", "OO1", "WOBO", "Ende"}));
     EXPECT_EQ(Stumme(form), Liste{});
     EXPECT_LE(form->width(), KleinsterBildschirm.width());
     EXPECT_LE(form->height(), KleinsterBildschirm.height());

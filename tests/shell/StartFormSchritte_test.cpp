@@ -140,7 +140,7 @@ TEST_F(StartFormSchritteTest, TabVerschiebtNicht)
     StartForm &start = Öffnen();
     FokusAuf(start.Plus);
     QTest::keyClick(start.windowHandle(), Qt::Key_Tab);
-    EXPECT_TRUE(start.Minus->hasFocus());
+    EXPECT_TRUE(start.Tagilein->hasFocus());
     EXPECT_EQ(Zeigt("Datumsen"), "28.11.2026");
 }
 
