@@ -28,7 +28,7 @@ Text Handbuchseite::Titel() const
 
 int Handbuchseite::Abschnitt(const Text &anker) const
 {
-    const auto überschrift = std::ranges::find(Überschriften, anker, &Überschrift::Anker);
+    const auto überschrift = std::ranges::find(Überschriften, anker, &Titelzeile::Anker);
     return überschrift == Überschriften.end()
                ? -1
                : static_cast<int>(überschrift - Überschriften.begin());

@@ -13,7 +13,7 @@ namespace altardienst {
 struct Handbuchseite {
     Text Name; // of the file
     QString Markdown;
-    std::vector<Überschrift> Überschriften;
+    std::vector<Titelzeile> Überschriften;
 
     Text Titel() const;                     // the first heading, or else the name
     int Abschnitt(const Text &anker) const; // the number of the heading, -1 if there is none

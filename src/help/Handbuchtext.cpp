@@ -124,9 +124,9 @@ Text OhneProzentzeichen(string_view verweis)
 
 } // namespace
 
-std::vector<Überschrift> Überschriften(const Text &markdown)
+std::vector<Titelzeile> Überschriften(const Text &markdown)
 {
-    std::vector<Überschrift> alle;
+    std::vector<Titelzeile> alle;
     std::map<Text, int> gleiche;
     JedeZeile(markdown, [&](string_view zeile) {
         const auto überschrift = AlsÜberschrift(zeile);

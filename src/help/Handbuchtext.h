@@ -17,17 +17,17 @@ struct Handbuchstelle {
     bool operator==(const Handbuchstelle &) const = default;
 };
 
-struct Überschrift {
+struct Titelzeile {
     int Stufe; // from 1, the title of the page
     Text Worte;
     Text Anker;
 
-    bool operator==(const Überschrift &) const = default;
+    bool operator==(const Titelzeile &) const = default;
 };
 
 /// The headings of a page in their order. Each has an anchor of its own: the second of the same
 /// words gets "-1" added, as on the web pages on which the handbook can be read too.
-std::vector<Überschrift> Überschriften(const Text &markdown);
+std::vector<Titelzeile> Überschriften(const Text &markdown);
 
 /// The name of a heading in links: in small letters, without punctuation, blanks as hyphens.
 Text AnkerVon(const Text &worte);

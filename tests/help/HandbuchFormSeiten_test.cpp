@@ -62,7 +62,7 @@ TEST_F(HandbuchFormSeitenTest, JedeSeiteBeginntMitIhremTitel)
     for (const Handbuchseite &seite : seiten) {
         ASSERT_FALSE(seite.Überschriften.empty()) << seite.Name;
         EXPECT_EQ(seite.Überschriften.front().Stufe, 1) << seite.Name;
-        EXPECT_EQ(std::ranges::count(seite.Überschriften, 1, &Überschrift::Stufe), 1) << seite.Name;
+        EXPECT_EQ(std::ranges::count(seite.Überschriften, 1, &Titelzeile::Stufe), 1) << seite.Name;
     }
 }
 
@@ -77,7 +77,7 @@ TEST_F(HandbuchFormSeitenTest, InhaltUndSeiteHabenDieselbenÜberschriften)
             if (const int stufe = block.blockFormat().headingLevel(); stufe > 0)
                 gesetzt.push_back(std::to_string(stufe) + " " + block.text().toStdString());
         Liste gelesen;
-        for (const Überschrift &eine : seite.Überschriften)
+        for (const Titelzeile &eine : seite.Überschriften)
             gelesen.push_back(std::to_string(eine.Stufe) + " " + eine.Worte);
         EXPECT_EQ(gesetzt, gelesen) << seite.Name;
     }
@@ -87,7 +87,7 @@ TEST_F(HandbuchFormSeitenTest, JedeÜberschriftLäßtSichAufschlagen)
 {
     Aufschlagen(ErsteSeite);
     for (const Handbuchseite &seite : seiten)
-        for (const Überschrift &eine : seite.Überschriften) {
+        for (const Titelzeile &eine : seite.Überschriften) {
             form->Aufschlagen({seite.Name, eine.Anker});
             EXPECT_EQ(Gewählt(), eine.Worte) << seite.Name;
             bool zuSehen = false;

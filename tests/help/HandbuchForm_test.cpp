@@ -87,7 +87,7 @@ TEST_F(HandbuchFormTest, DerInhaltFolgtDenÜberschriften)
              ++eintrag)
             inhalt.push_back((*eintrag)->text(0).toStdString());
         Liste überschriften;
-        for (const Überschrift &eine : seiten[i].Überschriften)
+        for (const Titelzeile &eine : seiten[i].Überschriften)
             überschriften.push_back(eine.Worte);
         EXPECT_EQ(inhalt, überschriften) << seiten[i].Name;
     }

@@ -11,7 +11,7 @@ using Liste = std::vector<Text>;
 Liste Worte(const Text &markdown)
 {
     Liste worte;
-    for (const Überschrift &eine : Überschriften(markdown))
+    for (const Titelzeile &eine : Überschriften(markdown))
         worte.push_back(std::to_string(eine.Stufe) + " " + eine.Worte);
     return worte;
 }
