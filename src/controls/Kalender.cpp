@@ -98,19 +98,7 @@ class Kalenderfenster : public QFrame {
         auto *spalte = new QVBoxLayout(this);
         spalte->setContentsMargins(1, 1, 1, 1);
         spalte->addWidget(kalender);
-        for (QWidget *control : findChildren<QWidget *>())
-            control->installEventFilter(this);
         kalender->setFocus();
-    }
-
-    /// Escape, wherever the focus is in the calendar.
-    bool eventFilter(QObject *, QEvent *ereignis) override
-    {
-        if (ereignis->type() != QEvent::KeyPress ||
-            static_cast<QKeyEvent *>(ereignis)->key() != Qt::Key_Escape)
-            return false;
-        close();
-        return true;
     }
 
     /// Below the box, or above it where there is no room.
