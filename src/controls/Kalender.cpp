@@ -45,8 +45,10 @@ class Kalenderzeichen : public QIconEngine {
         const qreal feld = blatt.width() / Spalten;
         stift->fillRect(QRectF(blatt.topLeft(), QSizeF(blatt.width(), feld * 0.8)), farbe);
         for (int k = 0; k < 2 * Spalten; ++k) {
-            const QPointF mitte = blatt.topLeft() + QPointF((k % Spalten + 0.5) * feld,
-                                                            (k / Spalten + 1.35) * feld * 0.95);
+            const int spalte = k % Spalten;
+            const int zeile = k / Spalten;
+            const QPointF mitte =
+                blatt.topLeft() + QPointF((spalte + 0.5) * feld, (zeile + 1.35) * feld * 0.95);
             stift->fillRect(QRectF(mitte.x() - maß / 16, mitte.y() - maß / 16, maß / 8, maß / 8),
                             farbe);
         }
