@@ -23,6 +23,7 @@
 #include "printing/DialogForm.h"
 #include "printing/DruckForm.h"
 #include "printing/EtikettenForm.h"
+#include "search/SuchenForm.h"
 #include "settings/HintergrundsucheForm.h"
 #include "settings/KonfigurationForm.h"
 #include "settings/KopierForm.h"
@@ -88,6 +89,7 @@ JedesFenster::JedesFenster()
              handbuch->Aufschlagen({"plan.md", ""});
              return handbuch;
          }},
+        {"Suchen", Neu<SuchenForm>(nullptr)},
         {"Standardmessen", Neu<StandardmessenForm>()},
         {"Messenliste", Neu<MessenlisteForm>()},
         {"NeuMesse", [] { return new NeuMesseForm(*Darunter<MessenlisteForm>()); }},

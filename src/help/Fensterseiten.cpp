@@ -10,6 +10,7 @@ const std::map<Text, Text> &Fensterseiten()
         {"Haupt", "bedienung.md#das-hauptfenster"},
         {"Haupt/Meldung", "plan.md#wenn-eine-meldung-kommt"},
         {"Handbuch", "README.md"},
+        {"Suchen", "bedienung.md#suchen"},
 
         {"Standardmessen", "plan.md#das-wochenmuster"},
         {"Messenliste", "plan.md#die-messenliste"},

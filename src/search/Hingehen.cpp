@@ -94,7 +94,7 @@ void HelferplatzZeigen(MessenlisteForm *liste, int platz)
         FokusIn(form->Plätze[static_cast<std::size_t>(platz)].LH);
 }
 
-void Zeigen(const Treffer &treffer)
+void Zeigen(const Fund &treffer)
 {
     const auto slot = static_cast<std::size_t>(std::max(treffer.Platz - 1, 0));
     switch (treffer.Wo) {
@@ -142,7 +142,7 @@ QWidget *WasJetztVornIst(QWidget *vorn)
 
 } // namespace
 
-QWidget *Hindernis(const Treffer &treffer, QWidget *vorn)
+QWidget *Hindernis(const Fund &treffer, QWidget *vorn)
 {
     QWidget *form = OffenesZiel(treffer.Wo);
     if (!form)
@@ -158,7 +158,7 @@ bool LäßtSichBeenden(const QWidget *fenster)
     return Endeknopf(fenster) != nullptr;
 }
 
-void Hingehen(const Treffer &treffer, QWidget *vorn)
+void Hingehen(const Fund &treffer, QWidget *vorn)
 {
     constexpr int MeisteFenster = 4; // that stand one in the place of the other
     for (int n = 0; n < MeisteFenster; ++n) {

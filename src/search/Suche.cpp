@@ -141,7 +141,7 @@ class Sammlung {
   public:
     void Beginnen(const char *titel) { gruppen.push_back({titel, {}, 0}); }
 
-    void Aufnehmen(Treffer treffer)
+    void Aufnehmen(Fund treffer)
     {
         Treffergruppe &gruppe = gruppen.back();
         if (gruppe.Zeilen.size() < MeisteTreffer)

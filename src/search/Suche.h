@@ -19,7 +19,7 @@ enum class Fundort {
     FesterEintrag,  // slot `Platz` (1 to 20) of the fixed entry `Satz`
 };
 
-struct Treffer {
+struct Fund {
     Fundort Wo;
     int Satz;
     int Platz;
@@ -28,8 +28,8 @@ struct Treffer {
 
 struct Treffergruppe {
     Text Titel;
-    std::vector<Treffer> Zeilen; // the first ones
-    int Weitere = 0;             // that were found as well
+    std::vector<Fund> Zeilen; // the first ones
+    int Weitere = 0;          // that were found as well
 };
 
 /// More of a group are only counted.

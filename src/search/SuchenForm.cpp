@@ -75,7 +75,7 @@ void SuchenForm::Finden()
     treffer.clear();
     for (const Treffergruppe &gruppe : Suchen(Suchtext->text().toStdString())) {
         Überschriftzeile(gruppe);
-        for (const Treffer &eine : gruppe.Zeilen)
+        for (const Fund &eine : gruppe.Zeilen)
             Trefferzeile(eine);
     }
     Markieren(+1, 1);
@@ -98,7 +98,7 @@ void SuchenForm::Überschriftzeile(const Treffergruppe &gruppe)
 }
 
 /// A hit that cannot be reached from here is shown all the same, and says when it can be.
-void SuchenForm::Trefferzeile(const Treffer &eine)
+void SuchenForm::Trefferzeile(const Fund &eine)
 {
     auto *zeile = new QListWidgetItem("   " + Anzeige(eine.Zeile), Fundstellen);
     zeile->setToolTip(Anzeige(eine.Zeile));
@@ -113,7 +113,7 @@ void SuchenForm::Trefferzeile(const Treffer &eine)
 
 void SuchenForm::Hinweisen()
 {
-    const Treffer *ziel = Markierter();
+    const Fund *ziel = Markierter();
     if (!ziel) {
         const bool leer = Suchtext->text().trimmed().size() < 2;
         Hinweis->setText(leer              ? "Esc geht zurück."
@@ -130,7 +130,7 @@ void SuchenForm::Hinweisen()
 /// Once this window is gone, so that the other ones are as the user knows them.
 void SuchenForm::Gehen()
 {
-    const Treffer *ziel = Markierter();
+    const Fund *ziel = Markierter();
     if (!ziel)
         return;
     QTimer::singleShot(
@@ -153,7 +153,7 @@ void SuchenForm::Markieren(int richtung, int weite)
         Fundstellen->scrollToTop(); // the first heading
 }
 
-const Treffer *SuchenForm::Markierter() const
+const Fund *SuchenForm::Markierter() const
 {
     const QListWidgetItem *zeile = Fundstellen->currentItem();
     if (!zeile || !(zeile->flags() & Qt::ItemIsEnabled))

@@ -35,12 +35,12 @@ class SuchenForm : public QDialog {
     void Hinweisen();
     void Gehen();
     void Überschriftzeile(const Treffergruppe &gruppe);
-    void Trefferzeile(const Treffer &eine);
+    void Trefferzeile(const Fund &eine);
     void Markieren(int richtung, int weite);
-    const Treffer *Markierter() const;
+    const Fund *Markierter() const;
 
     QPointer<QWidget> vorn;
-    std::vector<Treffer> treffer; // in the order of their rows
+    std::vector<Fund> treffer; // in the order of their rows
 };
 
 /// From now on Ctrl+F opens "Suchen" in every window, as long as `eigner` lives, unless a message

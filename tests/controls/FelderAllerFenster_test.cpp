@@ -1,6 +1,7 @@
 // Every box of every window: what it says about a text that it cannot hold, its calendar, its
 // tooltip.
 #include "AlleFenster.h"
+#include "application/Datensatzliste.h"
 #include "controls/Feldmarke.h"
 #include "controls/Hinweise.h"
 
@@ -138,6 +139,8 @@ class FelderAllerFenster : public AlleFenster {
         for (QLineEdit *feld : form->findChildren<QLineEdit *>()) {
             if (feld->isHidden() && feld->parentWidget() == form)
                 continue; // a flag string, which its check boxes stand for
+            if (GehörtZurListe(feld))
+                continue; // no field of the record
             const Text name = Name(feld);
             const QString zuvor = feld->text();
             const QString falsch = SatzNach(feld, "abc");

@@ -17,7 +17,7 @@ Funde Gefunden(std::string_view getippt)
 {
     Funde funde;
     for (const Treffergruppe &gruppe : Suchen(getippt))
-        for (const Treffer &treffer : gruppe.Zeilen)
+        for (const Fund &treffer : gruppe.Zeilen)
             funde[gruppe.Titel].push_back(treffer.Zeile);
     return funde;
 }
@@ -83,7 +83,7 @@ TEST_F(Suche, FindetDenDienstEinerPersonMitMesseUndPlatz)
     EXPECT_EQ(Gefunden("adler")["Dienste in Messen"],
               (Zeilen{M1 + " · Leuchter · Adler, Anna", M1 + " · Meßdiener 3 · Adler, Anna"}));
     const auto gruppen = Suchen("adler");
-    const Treffer &erster = gruppen[2].Zeilen[0];
+    const Fund &erster = gruppen[2].Zeilen[0];
     EXPECT_EQ(erster.Wo, Fundort::Meßdienerplatz);
     EXPECT_EQ(erster.Satz, 1);
     EXPECT_EQ(erster.Platz, 2);
