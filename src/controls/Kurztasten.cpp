@@ -19,7 +19,7 @@ constexpr auto Neu = Qt::CTRL | Qt::Key_N;
 constexpr auto Löschen = QKeyCombination(Qt::Key_F8); // text boxes delete words by Ctrl and Del
 constexpr auto Drucken = Qt::CTRL | Qt::Key_P;
 
-constexpr std::array<Kurztaste, 36> Kurztasten = {{
+constexpr std::array<Kurztaste, 37> Kurztasten = {{
     {"OK", Fertig},
     {"Ende", Fertig},
     {"Starten", Fertig},
@@ -40,6 +40,7 @@ constexpr std::array<Kurztaste, 36> Kurztasten = {{
     {"Aufnahmebestätigung drucken", Drucken},
 
     {"Verzeichnis erstellen", Qt::CTRL | Qt::SHIFT | Qt::Key_N},
+    {"Namen berichtigen", Qt::ALT | Qt::Key_N},
     {"Wochentag bestimmen", Qt::ALT | Qt::Key_W},
     {"Lektoren und ...", Qt::ALT | Qt::Key_L},
     {"Diagramm", Qt::ALT | Qt::Key_D},
@@ -83,7 +84,9 @@ class Tastenhinweis : public QObject {
   private:
     void Ergänzen() const
     {
-        const QString tip = knopf->toolTip();
+        QString tip = knopf->toolTip();
+        if (tip.endsWith("\n" + taste)) // a text was put in front of the key
+            tip.chop(taste.size() + 1);
         const QString amEnde = " (" + taste + ")";
         if (tip.isEmpty())
             knopf->setToolTip(taste);

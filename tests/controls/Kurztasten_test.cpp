@@ -95,6 +95,10 @@ TEST_F(KurztastenTest, DerTipNenntDieTaste)
     EXPECT_EQ(ende->toolTip(), QString::fromUtf8("schreibt und schließt (Strg+Eingabe)"));
     ende->setToolTip("");
     EXPECT_EQ(ende->toolTip(), "Strg+Eingabe");
+    ende->setToolTip("nimmt an\n" + ende->toolTip());
+    EXPECT_EQ(ende->toolTip(), "nimmt an (Strg+Eingabe)");
+    ende->setToolTip("");
+    EXPECT_EQ(ende->toolTip(), "Strg+Eingabe");
     EXPECT_EQ(Knopf("x", "Ohne Taste")->toolTip(), "");
 }
 
