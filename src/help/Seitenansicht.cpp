@@ -131,8 +131,12 @@ Textstelle Seitenansicht::Oberste() const
 
 int Seitenansicht::ObersterAbschnitt() const
 {
+    const QScrollBar *balken = verticalScrollBar();
+    if (balken->value() == 0)
+        return 0; // the title, though more headings may stand near it
+    const bool amEnde = balken->value() == balken->maximum(); // the last one cannot come further up
+    const int nahe = amEnde ? viewport()->height() : viewport()->height() / 4;
     int abschnitt = -1;
-    const int nahe = viewport()->height() / 4;
     for (const QTextBlock &block : Überschriftblöcke(document())) {
         if (cursorRect(QTextCursor(block)).top() > nahe)
             break;

@@ -131,11 +131,11 @@ TEST_F(FensterplätzeTest, WasNichtAufDenSchirmPaßtKommtHinein)
     const QRect schirm = QGuiApplication::primaryScreen()->availableGeometry();
     for (const QRect &platz : {QRect(5000, 4000, 300, 200), QRect(-4000, -300, 300, 200),
                                QRect(0, 0, 9000, 9000), QRect(schirm.right() - 20, 50, 300, 200)}) {
-        const QRect rahmen = platz.adjusted(-1, -20, 1, 5);
+        const QRect rahmen = platz.adjusted(-2, -20, 2, 5);
         Gemerktes().setValue("Fenster/Liste/Platz", platz);
         Gemerktes().setValue("Fenster/Liste/Rahmen", rahmen);
         QWidget *liste = Öffnen();
-        EXPECT_TRUE(schirm.contains(Platz(liste).adjusted(-1, -20, 1, 5)));
+        EXPECT_TRUE(schirm.contains(Platz(liste).adjusted(-2, -20, 2, 5)));
         EXPECT_EQ(liste->width() == 300, platz.width() == 300);
         liste->setObjectName("");
         Schließen(liste);

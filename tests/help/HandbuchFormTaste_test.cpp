@@ -227,6 +227,7 @@ TEST_F(HandbuchFormTasteTest, ÜberEinerMeldungLäßtEsSichLesen)
     EchteMeldungen();
     bool gelesen = false;
     Beantworten([&](QMessageBox *box) {
+        Aktivieren(box);
         F1();
         HandbuchForm *handbuch = Handbuch();
         EXPECT_EQ(Aufgeschlagen(), Fensterseiten().at("Haupt/Meldung"));
@@ -250,6 +251,7 @@ TEST_F(HandbuchFormTasteTest, EsBleibtWennDieMeldungGeht)
 {
     EchteMeldungen();
     Beantworten([](QMessageBox *box) {
+        Aktivieren(box);
         F1();
         Klick(box->button(QMessageBox::Ok));
     });
@@ -271,6 +273,7 @@ TEST_F(HandbuchFormTasteTest, EinOffenesHandbuchKommtÜberDieMeldung)
     const QRect platz = handbuch->geometry();
     Aktivieren(haupt);
     Beantworten([&](QMessageBox *box) {
+        Aktivieren(box);
         handbuch->Suchwort->setFocus();
         QTest::keyClick(handbuch->windowHandle(), Qt::Key_A);
         EXPECT_EQ(Zeigt(handbuch->Suchwort), "") << "the message blocks what was open before";
@@ -290,6 +293,7 @@ TEST_F(HandbuchFormTasteTest, EineFrageBleibtUnbeantwortet)
 {
     EchteMeldungen();
     Beantworten([](QMessageBox *box) {
+        Aktivieren(box);
         F1();
         QTest::keyClick(Handbuch()->windowHandle(), Qt::Key_Escape);
         Warten([] { return OffeneHandbücher() == 0; });
@@ -348,16 +352,16 @@ TEST_F(HandbuchFormTasteTest, DasStartdatumBleibtWieGetippt)
 {
     auto *start = new StartForm([] {});
     Fensterstand::Zeigen(start);
-    Tippen(start->Datumsen, "1.1.");
+    Tippen(start->Datumsen, "1.1.27");
     F1();
     ASSERT_EQ(QApplication::activeWindow(), Handbuch());
-    EXPECT_EQ(Zeigt(start->Datumsen), "1.1.");
+    EXPECT_EQ(Zeigt(start->Datumsen), "1.1.27");
     Handbuch()->close();
-    EXPECT_EQ(Zeigt(start->Datumsen), "1.1.");
+    EXPECT_EQ(Zeigt(start->Datumsen), "1.1.27");
     Aktivieren(start);
-    EXPECT_EQ(Zeigt(start->Datumsen), "1.1.");
+    EXPECT_EQ(Zeigt(start->Datumsen), "1.1.27");
     Aktivieren(haupt);
-    EXPECT_NE(Zeigt(start->Datumsen), "1.1.") << "the box was left";
+    EXPECT_NE(Zeigt(start->Datumsen), "1.1.27") << "the box was left";
 }
 
 TEST_F(HandbuchFormTasteTest, DieMessenlisteWirdBeimLesenNichtGeschrieben)
