@@ -84,8 +84,10 @@ class Fensterordnung : public QObject {
             if (fenster != haupt && fenster->windowType() == Qt::Window && fenster->isVisible() &&
                 fenster->isEnabled() && !fenster->parent() && !IstZumNachlesen(fenster))
                 offene.append(fenster);
-        std::ranges::stable_sort(offene, {},
-                                 [this](QWidget *fenster) { return benutzt.indexOf(fenster); });
+        std::ranges::stable_sort(offene, {}, [this](QWidget *fenster) {
+            const auto stelle = benutzt.indexOf(fenster);
+            return stelle < 0 ? benutzt.size() : stelle; // one that has only just come is the last
+        });
         return offene;
     }
 

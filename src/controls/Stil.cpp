@@ -3,6 +3,8 @@
 
 #include "controls/Feldmarke.h"
 
+#include <QAbstractItemView>
+#include <QEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QToolButton>
@@ -81,14 +83,51 @@ void MarkeZeichnen(QPainter &stift, const QStyleOption &option, const QWidget *f
     stift.restore();
 }
 
+/// An empty list has no line that could show the focus.
+bool IstListe(const QWidget *control)
+{
+    return qobject_cast<const QAbstractItemView *>(control) != nullptr;
+}
+
+void RahmenZeichnen(QPainter &stift, const QRect &platz)
+{
+    stift.setPen(QColor(0x00, 0x80, 0x00));
+    stift.drawRect(platz.adjusted(0, 0, -1, -1));
+}
+
 } // namespace
+
+void Stil::polish(QWidget *control)
+{
+    QProxyStyle::polish(control);
+    if (IstListe(control))
+        control->installEventFilter(this);
+}
+
+void Stil::unpolish(QWidget *control)
+{
+    if (IstListe(control))
+        control->removeEventFilter(this);
+    QProxyStyle::unpolish(control);
+}
+
+bool Stil::eventFilter(QObject *liste, QEvent *ereignis)
+{
+    if (ereignis->type() == QEvent::FocusIn || ereignis->type() == QEvent::FocusOut)
+        static_cast<QWidget *>(liste)->update(); // its frame, too
+    return QProxyStyle::eventFilter(liste, ereignis);
+}
 
 void Stil::drawControl(ControlElement element, const QStyleOption *option, QPainter *stift,
                        const QWidget *control) const
 {
     const auto *knopf = qstyleoption_cast<const QStyleOptionButton *>(option);
-    if (element != CE_PushButton || !knopf)
-        return QProxyStyle::drawControl(element, option, stift, control);
+    if (element != CE_PushButton || !knopf) {
+        QProxyStyle::drawControl(element, option, stift, control);
+        if (element == CE_ShapedFrame && option->state & State_HasFocus && IstListe(control))
+            RahmenZeichnen(*stift, option->rect);
+        return;
+    }
     const Knopffarben farben = FarbenFür(knopf->state);
     FlächeZeichnen(*stift, knopf->rect, farben);
     QStyleOptionButton beschriftung = *knopf;
@@ -103,10 +142,8 @@ void Stil::drawPrimitive(PrimitiveElement element, const QStyleOption *option, Q
     if (element == PE_PanelLineEdit && control && IstMarkiert(control))
         MarkeZeichnen(*stift, *option, control);
     // Controls made up of others, which have no look of their own.
-    if (element == PE_Widget && option->state & State_HasFocus) {
-        stift->setPen(QColor(0x00, 0x80, 0x00));
-        stift->drawRect(option->rect.adjusted(0, 0, -1, -1));
-    }
+    if (element == PE_Widget && option->state & State_HasFocus)
+        RahmenZeichnen(*stift, option->rect);
 }
 
 QSize Stil::sizeFromContents(ContentsType art, const QStyleOption *option, const QSize &inhalt,

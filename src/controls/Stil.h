@@ -6,17 +6,24 @@
 namespace altardienst {
 
 /// The platform's own style, except that command buttons are light green with the focus and light
-/// grey without it, that a spin button with the focus has a frame, and that a marked box has a red
-/// one and a sign. A style sheet could do the
-/// same, but every window would take twice as long to open.
+/// grey without it, that a spin button or a list with the focus has a frame, and that a marked box
+/// has a red one and a sign. A style sheet could do the same, but every window would take twice as
+/// long to open.
 class Stil : public QProxyStyle {
   public:
+    using QProxyStyle::polish;
+    using QProxyStyle::unpolish;
+    void polish(QWidget *control) override;
+    void unpolish(QWidget *control) override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *stift,
                      const QWidget *control) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *stift,
                        const QWidget *control) const override;
     QSize sizeFromContents(ContentsType art, const QStyleOption *option, const QSize &inhalt,
                            const QWidget *control) const override;
+
+  protected:
+    bool eventFilter(QObject *liste, QEvent *ereignis) override;
 };
 
 } // namespace altardienst

@@ -123,6 +123,7 @@ LektorrenuswForm::LektorrenuswForm(std::function<void()> danach)
 
 void LektorrenuswForm::Anordnen()
 {
+    constexpr int SchmalsterName = 96; // the three in a row fit the smallest screen
     auto *raster = new QGridLayout;
     raster->setHorizontalSpacing(10);
     raster->setVerticalSpacing(8);
@@ -140,9 +141,12 @@ void LektorrenuswForm::Anordnen()
         platz.Beschriftung->setBuddy(platz.LH);
         raster->addWidget(platz.Beschriftung, zeile, 3);
         raster->addWidget(platz.LH, zeile, 4);
+        for (QWidget *name : std::initializer_list<QWidget *>{platz.LH, platz.Vor, platz.Nach})
+            name->setMinimumWidth(SchmalsterName);
         raster->addWidget(platz.Vor, zeile, 5);
         raster->addWidget(platz.Nach, zeile, 6);
     }
+    raster->setColumnStretch(4, 1);
     raster->setColumnStretch(5, 1);
     raster->setColumnStretch(6, 1);
     raster->setRowStretch(raster->rowCount(), 1);

@@ -26,16 +26,18 @@ class JedesFensterTest : public JedesFenster {
         return bedienbare;
     }
 
-    /// The controls that Tab reaches, once round.
+    /// The controls that Tab reaches, once round. On a page of the handbook it goes from link to
+    /// link.
     static QWidgetList Tabrunde(QWidget *fenster)
     {
         QWidgetList runde;
         for (int i = 0; i < 400; ++i) {
             QTest::keyClick(fenster->windowHandle(), Qt::Key_Tab);
             QWidget *jetzt = QApplication::focusWidget();
-            if (!jetzt || runde.contains(jetzt))
+            if (!jetzt || (runde.contains(jetzt) && jetzt != runde.last()))
                 break;
-            runde.append(jetzt);
+            if (!runde.contains(jetzt))
+                runde.append(jetzt);
         }
         return runde;
     }
@@ -81,8 +83,11 @@ TEST_F(JedesFensterTest, JedesBedienelementIstMitDerTabtasteErreichbar)
 
 TEST_F(JedesFensterTest, JedesBedienelementHatEinenGesprochenenNamen)
 {
-    InJedemFenster(
-        [](const Text &, QWidget *fenster) { EXPECT_EQ(Stumme(fenster), std::vector<Text>{}); });
+    InJedemFenster([](const Text &, QWidget *fenster) {
+        std::vector<Text> stumme = Stumme(fenster);
+        std::erase(stumme, "qt_spinbox_lineedit"); // the box within a box, which has the name
+        EXPECT_EQ(stumme, std::vector<Text>{});
+    });
 }
 
 TEST_F(JedesFensterTest, DerFokusIstZuSehen)
@@ -117,9 +122,11 @@ TEST_F(JedesFensterTest, AufDemKleinstenBildschirmRolltNichtsSeitwärtsUndJederK
     });
 }
 
+/// Labels, and buttons with words; signs such as "+" or an arrow are drawn as small as they need.
 bool IstBeschriftet(const QWidget *control)
 {
-    return qobject_cast<const QLabel *>(control) || qobject_cast<const QAbstractButton *>(control);
+    const auto *knopf = qobject_cast<const QAbstractButton *>(control);
+    return qobject_cast<const QLabel *>(control) || (knopf && knopf->text().size() > 1);
 }
 
 /// Whether a text stands in its control uncut.
