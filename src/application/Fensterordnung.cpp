@@ -19,13 +19,19 @@ class Fensterordnung : public QObject {
   public:
     explicit Fensterordnung(QWidget *haupt) : QObject(haupt), haupt(haupt)
     {
-        haupt->installEventFilter(this);
+        qApp->installEventFilter(this);
         connect(qApp, &QGuiApplication::focusWindowChanged, this,
                 Abgefangen([this](const QWindow *jetzt) { Merken(jetzt); }));
     }
 
-    bool eventFilter(QObject *, QEvent *ereignis) override
+    bool eventFilter(QObject *wer, QEvent *ereignis) override
     {
+        if (wer != haupt) {
+            if (ereignis->type() == QEvent::Show && !ereignis->spontaneous() &&
+                wer->isWidgetType() && static_cast<QWidget *>(wer)->isWindow())
+                Merken(static_cast<QWidget *>(wer));
+            return false;
+        }
         switch (ereignis->type()) {
         case QEvent::Close:
             // The exit routine closes the window itself.
@@ -84,22 +90,25 @@ class Fensterordnung : public QObject {
             if (fenster != haupt && fenster->windowType() == Qt::Window && fenster->isVisible() &&
                 fenster->isEnabled() && !fenster->parent() && !IstZumNachlesen(fenster))
                 offene.append(fenster);
-        std::ranges::stable_sort(offene, {}, [this](QWidget *fenster) {
-            const auto stelle = benutzt.indexOf(fenster);
-            return stelle < 0 ? benutzt.size() : stelle; // one that has only just come is the last
-        });
+        std::ranges::stable_sort(offene, {},
+                                 [this](QWidget *fenster) { return benutzt.indexOf(fenster); });
         return offene;
     }
 
     void Merken(const QWindow *jetzt)
     {
-        benutzt.removeIf([](const QPointer<QWidget> &eines) { return !eines; });
         const QWidgetList alle = QApplication::topLevelWidgets();
         for (QWidget *fenster : alle)
-            if (jetzt && fenster->windowHandle() == jetzt) {
-                benutzt.removeAll(fenster);
-                benutzt.append(fenster);
-            }
+            if (jetzt && fenster->windowHandle() == jetzt)
+                Merken(fenster);
+    }
+
+    /// A window that has only just come counts as used.
+    void Merken(QWidget *fenster)
+    {
+        benutzt.removeIf(
+            [&](const QPointer<QWidget> &eines) { return !eines || eines == fenster; });
+        benutzt.append(fenster);
     }
 
     QWidget *haupt;

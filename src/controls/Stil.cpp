@@ -3,7 +3,7 @@
 
 #include "controls/Feldmarke.h"
 
-#include <QAbstractItemView>
+#include <QAbstractScrollArea>
 #include <QEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
@@ -83,10 +83,10 @@ void MarkeZeichnen(QPainter &stift, const QStyleOption &option, const QWidget *f
     stift.restore();
 }
 
-/// An empty list has no line that could show the focus.
-bool IstListe(const QWidget *control)
+/// An empty list has no line that could show the focus, and a page to read has no cursor.
+bool IstRollbar(const QWidget *control)
 {
-    return qobject_cast<const QAbstractItemView *>(control) != nullptr;
+    return qobject_cast<const QAbstractScrollArea *>(control) != nullptr;
 }
 
 void RahmenZeichnen(QPainter &stift, const QRect &platz)
@@ -100,22 +100,22 @@ void RahmenZeichnen(QPainter &stift, const QRect &platz)
 void Stil::polish(QWidget *control)
 {
     QProxyStyle::polish(control);
-    if (IstListe(control))
+    if (IstRollbar(control))
         control->installEventFilter(this);
 }
 
 void Stil::unpolish(QWidget *control)
 {
-    if (IstListe(control))
+    if (IstRollbar(control))
         control->removeEventFilter(this);
     QProxyStyle::unpolish(control);
 }
 
-bool Stil::eventFilter(QObject *liste, QEvent *ereignis)
+bool Stil::eventFilter(QObject *control, QEvent *ereignis)
 {
     if (ereignis->type() == QEvent::FocusIn || ereignis->type() == QEvent::FocusOut)
-        static_cast<QWidget *>(liste)->update(); // its frame, too
-    return QProxyStyle::eventFilter(liste, ereignis);
+        static_cast<QWidget *>(control)->update(); // its frame, too
+    return QProxyStyle::eventFilter(control, ereignis);
 }
 
 void Stil::drawControl(ControlElement element, const QStyleOption *option, QPainter *stift,
@@ -124,7 +124,7 @@ void Stil::drawControl(ControlElement element, const QStyleOption *option, QPain
     const auto *knopf = qstyleoption_cast<const QStyleOptionButton *>(option);
     if (element != CE_PushButton || !knopf) {
         QProxyStyle::drawControl(element, option, stift, control);
-        if (element == CE_ShapedFrame && option->state & State_HasFocus && IstListe(control))
+        if (element == CE_ShapedFrame && option->state & State_HasFocus && IstRollbar(control))
             RahmenZeichnen(*stift, option->rect);
         return;
     }

@@ -6,9 +6,9 @@
 namespace altardienst {
 
 /// The platform's own style, except that command buttons are light green with the focus and light
-/// grey without it, that a spin button or a list with the focus has a frame, and that a marked box
-/// has a red one and a sign. A style sheet could do the same, but every window would take twice as
-/// long to open.
+/// grey without it, that a spin button, a list or a page with the focus has a frame, and that a
+/// marked box has a red one and a sign. A style sheet could do the same, but every window would
+/// take twice as long to open.
 class Stil : public QProxyStyle {
   public:
     using QProxyStyle::polish;
@@ -23,7 +23,7 @@ class Stil : public QProxyStyle {
                            const QWidget *control) const override;
 
   protected:
-    bool eventFilter(QObject *liste, QEvent *ereignis) override;
+    bool eventFilter(QObject *control, QEvent *ereignis) override;
 };
 
 } // namespace altardienst

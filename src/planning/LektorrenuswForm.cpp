@@ -123,9 +123,9 @@ LektorrenuswForm::LektorrenuswForm(std::function<void()> danach)
 
 void LektorrenuswForm::Anordnen()
 {
-    constexpr int SchmalsterName = 96; // the three in a row fit the smallest screen
+    constexpr int SchmalsterName = 80; // the three in a row fit the smallest screen
     auto *raster = new QGridLayout;
-    raster->setHorizontalSpacing(10);
+    raster->setHorizontalSpacing(8);
     raster->setVerticalSpacing(8);
     raster->addWidget(Überschrift("Anzahl"), 0, 0, 1, 3);
     raster->addWidget(Überschrift("Platz"), 0, 3);

@@ -219,7 +219,9 @@ TEST_F(FelderAllerFenster, JederHinweisGehörtZuEinemControl)
                 control.back() =
                     Text(hinweis.Control) == "Start#" || control == "Schluß#" ? '2' : '1';
             QWidget *gefunden = Finden(offen[name], control);
-            EXPECT_EQ(EigenerHinweis(gefunden).section('\n', 0, 0).toStdString(), hinweis.Text);
+            const Text zeile = EigenerHinweis(gefunden).section('\n', 0, 0).toStdString();
+            EXPECT_TRUE(zeile == hinweis.Text || zeile.starts_with(Text(hinweis.Text) + " ("))
+                << zeile; // a button's key comes after it
         }
     }
 }
