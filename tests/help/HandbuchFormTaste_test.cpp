@@ -55,7 +55,8 @@ class HandbuchFormTasteTest : public Handbuchstand {
     static void Aktivieren(QWidget *fenster)
     {
         fenster->activateWindow();
-        if (!QTest::qWaitForWindowActive(fenster))
+        if (!QTest::qWaitForWindowActive(fenster) || !QTest::qWaitForWindowExposed(fenster) ||
+            !Warten([&] { return QApplication::activeWindow() == fenster; }))
             throw std::runtime_error("did not become active");
     }
 
