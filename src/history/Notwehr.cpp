@@ -39,7 +39,8 @@ void Ziffern(Pfadtext &ziel, std::size_t stelle, int zahl, std::size_t stellen)
 void ZeitEinsetzen(Pfadtext &ziel, std::size_t namenslänge)
 {
     const std::time_t jetzt = std::time(nullptr) + ortszeit;
-    const Kalendertag tag = KalendertagVon(static_cast<Datum>(jetzt / SekundenProTag));
+    const std::time_t tage = jetzt / SekundenProTag;
+    const Kalendertag tag = KalendertagVon(static_cast<Datum>(tage));
     const int sekunde = static_cast<int>(jetzt % SekundenProTag);
     const std::size_t anfang = ziel.size() - namenslänge; // "2026-11-21 12-00-05 Notfall"
     Ziffern(ziel, anfang, tag.Jahr, 4);

@@ -75,7 +75,7 @@ Standzeit JetzigeZeit(const std::vector<Stand> &stände)
 path StändeverzeichnisAnlegen()
 {
     Laufwerke.Auflisten(Laufwerke.Programmverzeichnis());
-    const path verzeichnis = Ständeverzeichnis();
+    path verzeichnis = Ständeverzeichnis();
     Laufwerke.VerzeichnisAnlegen(verzeichnis);
     return verzeichnis;
 }

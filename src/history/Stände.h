@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <tuple>
 #include <vector>
 
 namespace altardienst {
@@ -25,7 +26,11 @@ struct Standzeit {
     int Sekunde = 0; // of the day
     int Nummer = 1;
 
-    friend auto operator<=>(const Standzeit &, const Standzeit &) = default;
+    friend bool operator==(const Standzeit &, const Standzeit &) = default;
+    friend auto operator<=>(const Standzeit &a, const Standzeit &b)
+    {
+        return std::tie(a.Tag, a.Sekunde, a.Nummer) <=> std::tie(b.Tag, b.Sekunde, b.Nummer);
+    }
 };
 
 struct Stand {
