@@ -345,6 +345,7 @@ void NetzEinholen()
     Laufwerke.Lesen = netz->Laufwerke.Lesen;
     TabellenGeladen = netz->TabellenGeladen;
     netz.reset();
+    NetzlageGeändert();
 }
 
 void ArbeitBeginnt()

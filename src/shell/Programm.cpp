@@ -2,7 +2,7 @@
 #include "shell/Programm.h"
 
 #include "application/Anwendung.h"
-#include "controls/Bausteine.h"
+#include "application/Mitteilung.h"
 #include "core/Allgemein.h"
 #include "help/Hilfetaste.h"
 #include "history/Netz.h"
@@ -13,7 +13,6 @@
 
 #include <QApplication>
 #include <QPointer>
-#include <QStatusBar>
 
 namespace altardienst {
 namespace {
@@ -26,22 +25,9 @@ bool WirdKopiert()
     return OffeneForm<DateienKopierenForm>() != nullptr;
 }
 
-/// At the right end of the status bar, which is there for it if for nothing else.
 void NetzlageZeigen()
 {
-    if (!Haupt)
-        return;
-    const Text hinweis = Dauerhinweis();
-    auto *feld = Haupt->findChild<QLabel *>("Netzhinweis");
-    if (!feld && hinweis.empty())
-        return;
-    if (!feld) {
-        feld = Beschriftung("Netzhinweis", "");
-        Haupt->statusBar()->addPermanentWidget(feld);
-    }
-    Setzen(feld, hinweis);
-    feld->setToolTip(Anzeige(Starthinweis()));
-    feld->setVisible(!hinweis.empty());
+    DauerndMitteilen("Netz", Dauerhinweis());
 }
 
 /// A start dialog that was shown again after a load from the menu leads back to the existing main
@@ -55,7 +41,6 @@ void HauptZeigen()
     Haupt->showMaximized();
     Haupt->activateWindow();
     ArbeitBeginnt();
-    NetzlageZeigen();
 }
 
 /// The start dialog comes back, with what was copied or as it was left.
@@ -82,6 +67,7 @@ void ProgrammStarten()
     HilfetasteEinrichten(*qApp);
     DateienKopierenZeigen = KopierdialogZeigen;
     NetzlageGeändert = NetzlageZeigen;
+    NetzlageZeigen();
     StartNeuZeigen();
 }
 

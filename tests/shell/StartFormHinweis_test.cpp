@@ -72,7 +72,7 @@ TEST_F(StartHinweisTest, DasHauptfensterSagtEsBisZumNächstenVollständigenLaden
     ProgrammStarten();
     Klick(Finden(Fenster("Start"), "Starten"));
     QWidget *haupt = Fenster("Haupt");
-    auto *hinweis = Finden<QLabel>(haupt, "Netzhinweis");
+    auto *hinweis = Finden<QLabel>(haupt, "StatusNetz");
     EXPECT_TRUE(Warten([&] { return hinweis->isVisible(); }));
     EXPECT_EQ(Zeigt(hinweis), "Nicht alles geladen: Meßdiener.dat");
     MenüWählen(haupt, "mnuDatenspeichern");
@@ -88,7 +88,7 @@ TEST_F(StartHinweisTest, EinStandDerSichNichtSchreibenLäßtStehtNurInDerStatusz
     ProgrammStarten();
     EXPECT_FALSE(Finden(Fenster("Start"), "Hinweis")->isVisible());
     Klick(Finden(Fenster("Start"), "Starten"));
-    EXPECT_TRUE(Zeigt(Finden<QLabel>(Fenster("Haupt"), "Netzhinweis"))
+    EXPECT_TRUE(Zeigt(Finden<QLabel>(Fenster("Haupt"), "StatusNetz"))
                     .starts_with("Kein früherer Stand aufgehoben: "));
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
@@ -98,7 +98,7 @@ TEST_F(StartHinweisTest, OhneEtwasZuSagenIstNichtsInDerStatuszeile)
     NetzSpannen();
     ProgrammStarten();
     Klick(Finden(Fenster("Start"), "Starten"));
-    EXPECT_FALSE(Fenster("Haupt")->findChild<QLabel *>("Netzhinweis"));
+    EXPECT_FALSE(Fenster("Haupt")->findChild<QLabel *>("StatusNetz"));
 }
 
 TEST_F(StartHinweisTest, DerHinweisÄndertNichtsAmStarten)
