@@ -2,9 +2,9 @@
 #include "application/Anwendung.h"
 
 #include "application/Deutsch.h"
+#include "application/Druckmitteilung.h"
 #include "application/Fensterordnung.h"
 #include "application/Meldungsfenster.h"
-#include "application/Druckmitteilung.h"
 #include "application/Nebenfenster.h"
 #include "application/Wartezeiger.h"
 #include "controls/Bausteine.h"
