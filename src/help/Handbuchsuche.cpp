@@ -87,6 +87,7 @@ int AnzahlDerWorte(const Gefaltet &text, const std::vector<Gefaltet> &worte)
 std::vector<Gefaltet> Falten(const std::vector<Text> &worte)
 {
     std::vector<Gefaltet> gefaltet;
+    gefaltet.reserve(worte.size());
     for (const Text &wort : worte)
         gefaltet.push_back(Falten(string_view(wort)));
     std::erase_if(gefaltet, [](const Gefaltet &wort) { return wort.Worte.empty(); });
@@ -227,6 +228,7 @@ std::vector<Suchtreffer> Suchen(const std::vector<Absatz> &absätze, const std::
     if (alle == 0)
         return {};
     std::vector<Gefaltet> texte;
+    texte.reserve(absätze.size());
     for (const Absatz &absatz : absätze)
         texte.push_back(Falten(string_view(absatz.Worte)));
 

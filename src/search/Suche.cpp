@@ -169,8 +169,8 @@ void PersonenSuchen(Sammlung &sammlung, Fundort wo, Tabelle &t, const Spalte &da
     for (int i = 0; i < t.Anzahl; ++i)
         if (IstGesucht(t.Vorname[i], t.Nachname[i], wörter))
             gefunden.push_back(i);
-    std::ranges::stable_partition(
-        gefunden, [&](int i) { return BeginntName(t.Vorname[i], t.Nachname[i], wörter); });
+    std::stable_partition(gefunden.begin(), gefunden.end(),
+                          [&](int i) { return BeginntName(t.Vorname[i], t.Nachname[i], wörter); });
     for (const int i : gefunden)
         sammlung.Aufnehmen({wo, i, 0,
                             Personenzeile(t.Vorname[i], t.Nachname[i]) +
