@@ -7,6 +7,7 @@
 #include "anniversaries/GeburtstagsansichtForm.h"
 #include "anniversaries/JubiläumsanzeigeForm.h"
 #include "application/Anwendung.h"
+#include "core/tables.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 #include "shell/HauptForm.h"
@@ -17,6 +18,7 @@
 #include <QLineEdit>
 #include <QPointer>
 
+#include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
 #include <vector>
@@ -68,10 +70,15 @@ void Drücken(const char *knopf)
     throw std::runtime_error(std::string("no button ") + knopf);
 }
 
+/// As full as the windows take it: they leave the last record blank.
 void Bereitmachen()
 {
     AlleSchließen();
     VollerBestand();
+    Meßdiener.Anzahl = 399;
+    Messe.Anzahl = 602;
+    Helfer.Anzahl = 199;
+    Gruppe.Anzahl = 101;
 }
 
 /// Only the last step of the way is timed.
@@ -125,34 +132,34 @@ void Anmelden(const char *fenster, const Arbeit &arbeit, double zuvor)
 }
 
 constexpr Weg Wege[] = {
-    {"Druck", "mnuFilePrint", nullptr, 1},
-    {"Konfiguration", "mnuKonfiguration", nullptr, 1},
-    {"Hintergrundsuche", "mnuHintergrund", nullptr, 1},
-    {"Etiketten", "mnuEtiketten", nullptr, 1},
-    {"Gruppe", "mnuGruppe", nullptr, 1},
-    {"NeuGruppe", "mnuGruppe", "NEWGroup", 1},
-    {"Standardmessen", "mnuStandardmessen", nullptr, 1},
-    {"Helfer", "mnuHelfer", nullptr, 1},
-    {"NeuerHelfer", "mnuHelfer", "NeuHelfer", 1},
-    {"Meßdiener", "mnuMeßdiener", nullptr, 1},
-    {"NeuMeßdiener", "mnuMeßdiener", "NeuDiener", 1},
-    {"MesseDienerFest", "MnuMESSDIENZUMESS", nullptr, 1},
-    {"NeuMesseDienerFest", "MnuMESSDIENZUMESS", "Hinzu", 1},
-    {"Messenliste", "mnuMessen", nullptr, 1},
-    {"NeuMesse", "mnuMessen", "NeuMeß", 1},
-    {"Lektorrenusw", "mnuMessen", "Lektoren", 1},
-    {"JubiGebu", "mnuJubGeb", nullptr, 1},
-    {"Statistik", "mnuStatistik", nullptr, 1},
-    {"Diagramme", "mnuStatistik", "Diagramm", 1},
-    {"Statistik2", "mnuStatistikGröße", nullptr, 1},
-    {"Diagramm2", "mnuStatistikGröße", "Diagramm", 1},
-    {"StatMeßdienst", "mnuMessendienst", nullptr, 1},
-    {"StatDienst", "mnuStatDienst", nullptr, 1},
-    {"StatistikAllg", "mnuStatistikHilfA", nullptr, 1},
-    {"StatistikHelfer", "mnuHelferMessendienst", nullptr, 1},
-    {"StatHelfer", "mnuStatHDienst", nullptr, 1},
-    {"Dialog", "mnuMessenlisteText", nullptr, 1},
-    {"frmAbout", "mnuHelpAbout", nullptr, 1},
+    {"Druck", "mnuFilePrint", nullptr, 2.51},
+    {"Konfiguration", "mnuKonfiguration", nullptr, 2.09},
+    {"Hintergrundsuche", "mnuHintergrund", nullptr, 2.74},
+    {"Etiketten", "mnuEtiketten", nullptr, 0.919},
+    {"Gruppe", "mnuGruppe", nullptr, 0.635},
+    {"NeuGruppe", "mnuGruppe", "NEWGroup", 0.183},
+    {"Standardmessen", "mnuStandardmessen", nullptr, 1.44},
+    {"Helfer", "mnuHelfer", nullptr, 2.75},
+    {"NeuerHelfer", "mnuHelfer", "NeuHelfer", 1.04},
+    {"Meßdiener", "mnuMeßdiener", nullptr, 4.36},
+    {"NeuMeßdiener", "mnuMeßdiener", "NeuDiener", 1.4},
+    {"MesseDienerFest", "MnuMESSDIENZUMESS", nullptr, 6.74},
+    {"NeuMesseDienerFest", "MnuMESSDIENZUMESS", "Hinzu", 4.82},
+    {"Messenliste", "mnuMessen", nullptr, 2.6},
+    {"NeuMesse", "mnuMessen", "NeuMeß", 1.11},
+    {"Lektorrenusw", "mnuMessen", "Lektoren", 4.73},
+    {"JubiGebu", "mnuJubGeb", nullptr, 1.82},
+    {"Statistik", "mnuStatistik", nullptr, 1.64},
+    {"Diagramme", "mnuStatistik", "Diagramm", 3.85},
+    {"Statistik2", "mnuStatistikGröße", nullptr, 0.941},
+    {"Diagramm2", "mnuStatistikGröße", "Diagramm", 1.43},
+    {"StatMeßdienst", "mnuMessendienst", nullptr, 0.985},
+    {"StatDienst", "mnuStatDienst", nullptr, 0.813},
+    {"StatistikAllg", "mnuStatistikHilfA", nullptr, 0.661},
+    {"StatistikHelfer", "mnuHelferMessendienst", nullptr, 1.02},
+    {"StatHelfer", "mnuStatHDienst", nullptr, 0.698},
+    {"Dialog", "mnuMessenlisteText", nullptr, 1.14},
+    {"frmAbout", "mnuHelpAbout", nullptr, 2.25},
 };
 
 } // namespace
@@ -165,19 +172,19 @@ void MessungenAnmelden()
     static char *argv[] = {name, nullptr};
     // Never deleted: at exit Qt has already torn down things that a shown window still refers to.
     AnwendungEinrichten(*new QApplication(argc, argv));
-    // No message may wait for anybody.
-    Meldungen.Zeigen = [](const Text &) {};
+    // No message waits for anybody.
+    Meldungen.Zeigen = [](const Text &meldung) { std::fprintf(stderr, "%s\n", meldung.c_str()); };
     Laufwerke.Programmverzeichnis = [] { return std::filesystem::path(BEISPIELDATEN); };
     VollerBestand();
     haupt = new HauptForm;
     HauptfensterSetzen(haupt);
     haupt->showMaximized();
-    Anmelden("Start", Bauen<StartForm>([] {}), 1);
-    Anmelden("Haupt", Bauen<HauptForm>(), 1);
+    Anmelden("Start", Bauen<StartForm>([] {}), 1.3);
+    Anmelden("Haupt", Bauen<HauptForm>(), 2.16);
     for (const Weg &weg : Wege)
         Anmelden(weg.Fenster, Gehen(weg), weg.Zuvor);
-    Anmelden("Geburtstagsansicht", Bauen<GeburtstagsansichtForm>(), 1);
-    Anmelden("Jubiläumsanzeige", Bauen<JubiläumsanzeigeForm>(), 1);
+    Anmelden("Geburtstagsansicht", Bauen<GeburtstagsansichtForm>(), 0.387);
+    Anmelden("Jubiläumsanzeige", Bauen<JubiläumsanzeigeForm>(), 0.381);
 }
 
 } // namespace altardienst
