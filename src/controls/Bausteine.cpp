@@ -324,10 +324,9 @@ void InSicht(QWidget *control)
 void GrößeAnpassen(QWidget *fenster)
 {
     const auto anpassen = [fenster] {
-        constexpr QSize Rahmen(16, 40); // roughly what the frame and title bar take
         for (QScrollArea *fläche : fenster->findChildren<QScrollArea *>())
             fläche->updateGeometry(); // it doesn't follow its content on its own
-        const QSize platz = fenster->screen()->availableSize() - Rahmen;
+        const QSize platz = fenster->screen()->availableSize() - Fensterrahmen;
         const int balken = fenster->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2;
         QSize größe = fenster->sizeHint();
         // A scroll bar for one direction takes up room in the other.

@@ -81,6 +81,9 @@ QWidget *Rollbar(QLayout *inhalt);
 /// Scrolls a control into view, where it lies in a part of a window that scrolls.
 void InSicht(QWidget *control);
 
+/// Roughly what the frame and the title bar of a window take.
+constexpr QSize Fensterrahmen(2, 28);
+
 /// The property of a window that says that the user chose its size.
 constexpr const char *EigeneGröße = "eigeneGröße";
 

@@ -142,8 +142,7 @@ void HandbuchForm::Anordnen()
     teiler->setSizes({BreiteLinks, Fenstergröße.width() - BreiteLinks});
 
     Fensterspalte(this, Luft::Wenig)->addWidget(teiler);
-    constexpr QSize Rahmen(16, 40); // about what frame and title bar take
-    resize(Fenstergröße.boundedTo(screen()->availableSize() - Rahmen));
+    resize(Fenstergröße.boundedTo(screen()->availableSize() - Fensterrahmen));
     Seite->setFocus();
 }
 

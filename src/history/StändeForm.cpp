@@ -10,6 +10,7 @@
 #include "platform/Meldungen.h"
 
 #include <QHeaderView>
+#include <QScreen>
 #include <QTimer>
 
 #include <algorithm>
@@ -104,7 +105,7 @@ void StändeForm::Anordnen()
     spalte->addWidget(Ansicht, 2);
     spalte->addWidget(Hinweis);
     spalte->addLayout(Knopfreihe({Ende}, {Ansehen, Zurückholen}));
-    resize(900, 520);
+    resize(QSize(900, 520).boundedTo(screen()->availableSize() - Fensterrahmen));
     Liste->setFocus();
 }
 
