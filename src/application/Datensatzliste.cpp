@@ -280,7 +280,8 @@ void Datensatzliste::Umschalten()
     if (!IstOffen() && fenster->focusWidget() && isAncestorOf(fenster->focusWidget()))
         (zuletzt ? zuletzt.data() : nummer)->setFocus();
     inhalt->setVisible(IstOffen());
-    Griff->setArrowType(IstOffen() ? Qt::LeftArrow : Qt::RightArrow);
+    // A letter: the style would paint its arrow as a picture as tall as the window.
+    Griff->setText(IstOffen() ? QStringLiteral("‹") : QStringLiteral("›"));
     const char *was = IstOffen() ? "Liste zuklappen" : "Liste aufklappen";
     Griff->setAccessibleName(was);
     Griff->setToolTip(QString("%1 (Strg+L)").arg(was));
