@@ -125,6 +125,7 @@ Datensatzliste::Datensatzliste(Datensatzwahl *wahl, Quelle woraus)
     Griff->setAutoRaise(true);
     Griff->setFocusPolicy(Qt::NoFocus); // a click on it is no reason to leave a box
     Griff->setFixedWidth(12);
+    Griff->setIconSize({8, 8});
     Griff->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
 
     auto *spalte = new QVBoxLayout(inhalt);
@@ -280,8 +281,9 @@ void Datensatzliste::Umschalten()
     if (!IstOffen() && fenster->focusWidget() && isAncestorOf(fenster->focusWidget()))
         (zuletzt ? zuletzt.data() : nummer)->setFocus();
     inhalt->setVisible(IstOffen());
-    // A letter: the style would paint its arrow as a picture as tall as the window.
-    Griff->setText(IstOffen() ? QStringLiteral("‹") : QStringLiteral("›"));
+    // The arrow of a tool button would be painted as a picture as tall as the window.
+    Griff->setIcon(
+        style()->standardIcon(IstOffen() ? QStyle::SP_ArrowLeft : QStyle::SP_ArrowRight));
     const char *was = IstOffen() ? "Liste zuklappen" : "Liste aufklappen";
     Griff->setAccessibleName(was);
     Griff->setToolTip(QString("%1 (Strg+L)").arg(was));
