@@ -38,8 +38,10 @@ class Listenbedienung : public QObject {
         connect(wahl->model(), &QAbstractItemModel::rowsRemoved, this, [this] { gewählt = -1; });
     }
 
-    bool eventFilter(QObject *, QEvent *ereignis) override
+    bool eventFilter(QObject *wer, QEvent *ereignis) override
     {
+        if (!qobject_cast<QComboBox *>(wer))
+            return false; // it is being deleted, and its opened list gives the focus back
         if (ereignis->type() == QEvent::FocusIn || Blättert(ereignis))
             EintragAngleichen(wahl);
         if (Verläßt(ereignis) || AndereTaste(ereignis))
