@@ -12,6 +12,7 @@
 #include <spawn.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 extern char **environ;
 
@@ -75,8 +76,9 @@ int main()
     constexpr double HöchstesMitStänden = 1.15;
     constexpr int Stände = 100;
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    char muster[] = "/tmp/altardienst-XXXXXX";
-    const fs::path wurzel = mkdtemp(muster);
+    const fs::path wurzel =
+        fs::temp_directory_path() / ("altardienst-start-" + std::to_string(getpid()));
+    fs::create_directory(wurzel);
     const fs::path ohne = Gemeinde(wurzel / "ohne", 1);
     const fs::path mit = Gemeinde(wurzel / "mit", Stände);
     std::vector<double> mitStänden;

@@ -30,19 +30,22 @@ class Ereignisfilter : public QObject {
     using Erkennung = std::function<bool(QEvent *)>;
 
     Ereignisfilter(QObject *control, Erkennung meint, std::function<void()> handler)
-        : QObject(control), meint(std::move(meint)), handler(std::move(handler))
+        : QObject(control), klasse(control->metaObject()), meint(std::move(meint)),
+          handler(std::move(handler))
     {
         control->installEventFilter(this);
     }
 
-    bool eventFilter(QObject *, QEvent *ereignis) override
+    bool eventFilter(QObject *control, QEvent *ereignis) override
     {
-        if (meint(ereignis))
+        // One that is being deleted loses the focus when it is no longer what it was.
+        if (control->metaObject() == klasse && meint(ereignis))
             handler();
         return false;
     }
 
   private:
+    const QMetaObject *klasse;
     Erkennung meint;
     std::function<void()> handler;
 };
