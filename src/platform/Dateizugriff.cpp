@@ -23,6 +23,34 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// The path by which the system finds the file. Windows takes one of more than 260 characters only
+/// in this spelling, which in turn knows no "/" and no "..".
+fs::path Systempfad(const fs::path &pfad)
+{
+#ifdef _WIN32
+    constexpr std::size_t Sicher = 240; // a file beside it may have a longer name
+    std::error_code fehler;
+    const fs::path ganz = fs::absolute(pfad, fehler).lexically_normal().make_preferred();
+    if (fehler || ganz.native().size() < Sicher || ganz.native().starts_with(L"\\\\"))
+        return pfad;
+    return fs::path(LR"(\\?\)" + ganz.native());
+#else
+    return pfad;
+#endif
+}
+
+/// What the machine does not show its users.
+bool IstVerborgen(const fs::path &pfad)
+{
+#ifdef _WIN32
+    const DWORD attribute = GetFileAttributesW(pfad.c_str());
+    if (attribute != INVALID_FILE_ATTRIBUTES &&
+        (attribute & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0)
+        return true;
+#endif
+    return TextVon(pfad.filename()).starts_with('.');
+}
+
 struct Schließer {
     void operator()(std::FILE *datei) const { std::fclose(datei); }
 };
@@ -94,8 +122,9 @@ bool IstDatei(const fs::path &pfad)
 
 } // namespace
 
-std::string Lesen(const fs::path &pfad)
+std::string Lesen(const fs::path &wo)
 {
+    const fs::path pfad = Systempfad(wo);
     // Looked at before it is opened: opening a pipe would wait for someone to write into it.
     std::error_code unbekannt;
     const fs::file_status art = fs::status(pfad, unbekannt);
@@ -128,16 +157,18 @@ std::string Lesen(const fs::path &pfad)
 
 void Schreiben(const fs::path &pfad, std::string_view inhalt)
 {
-    Ausgeben(pfad, "wb", inhalt);
+    Ausgeben(Systempfad(pfad), "wb", inhalt);
 }
 
 void Anhängen(const fs::path &pfad, std::string_view inhalt)
 {
-    Ausgeben(pfad, "ab", inhalt);
+    Ausgeben(Systempfad(pfad), "ab", inhalt);
 }
 
-void Kopieren(const fs::path &von, const fs::path &nach)
+void Kopieren(const fs::path &woher, const fs::path &wohin)
 {
+    const fs::path von = Systempfad(woher);
+    const fs::path nach = Systempfad(wohin);
     std::error_code fehler;
     fs::path ziel = nach;
     std::optional<fs::perms> rechte;
@@ -173,7 +204,8 @@ std::optional<Text> Suchen(const fs::path &verzeichnis, const Text &name)
     Text gesucht = Klein(name);
     std::error_code fehler;
     fs::directory_iterator ende;
-    for (fs::directory_iterator i(verzeichnis, fehler); !fehler && i != ende; i.increment(fehler)) {
+    for (fs::directory_iterator i(Systempfad(verzeichnis), fehler); !fehler && i != ende;
+         i.increment(fehler)) {
         Lebenszeichen();
         Text gespeichert = TextVon(i->path().filename());
         if (Klein(gespeichert) != gesucht || !IstDatei(i->path()))
@@ -191,12 +223,12 @@ Verzeichnisinhalt Auflisten(const fs::path &verzeichnis)
     std::error_code fehler;
     Verzeichnisinhalt inhalt;
     fs::directory_iterator ende;
-    fs::directory_iterator i(verzeichnis, fehler);
+    fs::directory_iterator i(Systempfad(verzeichnis), fehler);
     for (; !fehler && i != ende; i.increment(fehler)) {
         Lebenszeichen();
-        Text name = TextVon(i->path().filename());
-        if (name.starts_with('.'))
+        if (IstVerborgen(i->path()))
             continue;
+        Text name = TextVon(i->path().filename());
         std::error_code unbekannt;
         bool istVerzeichnis = i->is_directory(unbekannt);
         (istVerzeichnis ? inhalt.Verzeichnisse : inhalt.Dateien).push_back(std::move(name));
@@ -212,7 +244,7 @@ void AttributeLöschen(const fs::path &pfad)
 {
 #ifdef _WIN32
     // A hidden or a system file refuses to be written, just like a read-only one.
-    if (SetFileAttributesW(pfad.c_str(), FILE_ATTRIBUTE_NORMAL) == 0)
+    if (SetFileAttributesW(Systempfad(pfad).c_str(), FILE_ATTRIBUTE_NORMAL) == 0)
         Gescheitert(std::error_code(static_cast<int>(GetLastError()), std::system_category()),
                     Laufzeitfehler::DateiNichtGefunden);
 #else
@@ -223,8 +255,9 @@ void AttributeLöschen(const fs::path &pfad)
 #endif
 }
 
-void VerzeichnisAnlegen(const fs::path &pfad)
+void VerzeichnisAnlegen(const fs::path &wo)
 {
+    const fs::path pfad = Systempfad(wo);
     std::error_code fehler;
     fs::create_directories(pfad, fehler);
     if (fehler || !fs::is_directory(pfad, fehler))
@@ -233,8 +266,10 @@ void VerzeichnisAnlegen(const fs::path &pfad)
 
 /// The directory itself is read, as in `Suchen`: what a path leads to may be remembered from
 /// before.
-void Umbenennen(const fs::path &von, const fs::path &nach)
+void Umbenennen(const fs::path &woher, const fs::path &wohin)
 {
+    const fs::path von = Systempfad(woher);
+    const fs::path nach = Systempfad(wohin);
     std::error_code fehler;
     if (!fs::exists(fs::symlink_status(von, fehler)))
         throw Laufzeitfehler(Laufzeitfehler::DateiNichtGefunden);
@@ -254,13 +289,14 @@ void Umbenennen(const fs::path &von, const fs::path &nach)
 void Löschen(const fs::path &pfad)
 {
     std::error_code fehler;
-    fs::remove_all(pfad, fehler);
+    fs::remove_all(Systempfad(pfad), fehler);
     if (fehler)
         Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
 }
 
-void Durchschreiben(const fs::path &pfad)
+void Durchschreiben(const fs::path &wo)
 {
+    const fs::path pfad = Systempfad(wo);
 #ifdef _WIN32
     std::error_code unbekannt;
     if (fs::is_directory(pfad, unbekannt))

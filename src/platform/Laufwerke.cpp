@@ -37,9 +37,10 @@ fs::path Heimverzeichnis()
 fs::path OrtDesProgramms()
 {
 #ifdef _WIN32
-    wchar_t datei[MAX_PATH] = {};
-    return GetModuleFileNameW(nullptr, datei, MAX_PATH) ? fs::path(datei).parent_path()
-                                                        : fs::path();
+    constexpr DWORD LängsterPfad = 32768;
+    std::wstring datei(LängsterPfad, L'\0');
+    datei.resize(GetModuleFileNameW(nullptr, datei.data(), LängsterPfad));
+    return fs::path(datei).parent_path();
 #else
     std::error_code fehler;
     return fs::read_symlink("/proc/self/exe", fehler).parent_path();
@@ -107,10 +108,12 @@ std::vector<Wurzel> Wurzeln()
 {
     std::vector<Wurzel> wurzeln;
 #ifdef _WIN32
-    for (char buchstabe : std::string_view("cabdefghijklmnopqrstuvwxyz")) {
-        std::error_code fehler;
-        Text laufwerk = Text(1, buchstabe) + ":\\";
-        if (buchstabe == 'c' || fs::exists(laufwerk, fehler))
+    // A drive counts without a medium in it, too: its letter is what the user looks for.
+    const DWORD vorhanden = GetLogicalDrives();
+    for (const char buchstabe : std::string_view("cabdefghijklmnopqrstuvwxyz")) {
+        const bool da = (vorhanden >> static_cast<unsigned>(buchstabe - 'a') & 1U) != 0;
+        const Text laufwerk = Text(1, buchstabe) + ":\\";
+        if (buchstabe == 'c' || da)
             wurzeln.push_back({laufwerk, laufwerk});
     }
 #else
@@ -138,7 +141,7 @@ std::filesystem::path PfadAus(std::string_view text)
 
 Text TextVon(const std::filesystem::path &pfad)
 {
-    std::u8string text = pfad.u8string();
+    const std::u8string text = fs::path(pfad).make_preferred().u8string(); // "\\" on Windows
     return Text(text.begin(), text.end());
 }
 
@@ -191,6 +194,9 @@ fs::path MitgelieferteDaten(const fs::path &ort)
 
 LaufwerkeDienst Systemlaufwerke()
 {
+#ifdef _WIN32
+    SetErrorMode(SEM_FAILCRITICALERRORS); // an empty drive is told here, not by a box of the system
+#endif
     LaufwerkeDienst dienst;
     dienst.Programmverzeichnis = Programmverzeichnis;
     dienst.Diskette = Diskette;

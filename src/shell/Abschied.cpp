@@ -11,13 +11,9 @@
 #include <vector>
 
 #ifndef Q_OS_WIN
-#include <QSocketNotifier>
+#include "shell/Signale.h"
 
-#include <array>
 #include <csignal>
-
-#include <fcntl.h>
-#include <unistd.h>
 #endif
 
 namespace altardienst {
@@ -39,36 +35,6 @@ class Stille {
     MeldungenDienst zuvor;
 };
 
-#ifndef Q_OS_WIN
-
-std::array<int, 2> röhre = {-1, -1}; // a signal writes into it, the event loop reads
-
-void BeiSignal(int)
-{
-    const char zeichen = 0;
-    [[maybe_unused]] const auto geschrieben = write(röhre[1], &zeichen, 1);
-}
-
-void SignaleFangen(const std::function<void()> &verlassen)
-{
-    if (röhre[0] < 0 && pipe2(röhre.data(), O_CLOEXEC | O_NONBLOCK) != 0)
-        return;
-    auto *lauscher = new QSocketNotifier(röhre[0], QSocketNotifier::Read, qApp);
-    QObject::connect(lauscher, &QSocketNotifier::activated, qApp, Offen([verlassen] {
-                         char zeichen = 0;
-                         while (read(röhre[0], &zeichen, 1) > 0) {
-                         }
-                         verlassen();
-                     }));
-    struct sigaction handler {};
-    handler.sa_handler = BeiSignal;
-    handler.sa_flags = SA_RESTART;
-    for (const int signal : {SIGTERM, SIGHUP, SIGINT})
-        sigaction(signal, &handler, nullptr);
-}
-
-#endif
-
 } // namespace
 
 void BeiEndeVonAußen(const std::function<void()> &verlassen)
@@ -84,7 +50,7 @@ void BeiEndeVonAußen(const std::function<void()> &verlassen)
                      }),
                      Qt::DirectConnection);
 #ifndef Q_OS_WIN
-    SignaleFangen(still);
+    BeiSignalen({SIGTERM, SIGHUP, SIGINT}, still);
 #endif
 }
 

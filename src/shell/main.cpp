@@ -5,8 +5,10 @@
 #include "controls/Handler.h"
 #include "controls/Unerwartetes.h"
 #include "history/Netz.h"
+#include "platform/Laufwerke.h"
 #include "shell/Abschied.h"
 #include "shell/Programm.h"
+#include "shell/Zweitstart.h"
 
 #include <QIcon>
 
@@ -19,6 +21,9 @@ int main(int argc, char *argv[])
     altardienst::FensterplätzeMerken(anwendung);
     QApplication::setWindowIcon(QIcon(":/altardienst.png"));
     QApplication::setDesktopFileName("altardienst"); // by which the desktop finds name and icon
+    const altardienst::AlleinigerLauf lauf(altardienst::Laufwerke.Programmverzeichnis());
+    if (!lauf.IstErster())
+        return EXIT_SUCCESS;
     altardienst::NetzSpannen();
     altardienst::BeiEndeVonAußen(altardienst::ProgrammVerlassen);
     bool gestartet = false;

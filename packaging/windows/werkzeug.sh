@@ -1,0 +1,92 @@
+# The libraries for Windows, made once from Debian's sources and kept in a cache; for bauen.sh and
+# pruefen.sh, which set WURZEL. Sets WERKZEUG, the cache, and QT, where the libraries are installed.
+
+. "$WURZEL/packaging/pakete.sh"
+
+WERKZEUG=${ALTARDIENST_WINDOWS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/altardienst-windows}
+QT=$WERKZEUG/qt
+MINGW=$WURZEL/packaging/windows/mingw.cmake
+
+WINDOWS_PAKETE=("${PROGRAMM_PAKETE[@]}" g++-mingw-w64-x86-64-posix nsis zip qt6-base-dev-tools
+    librsvg2-bin icoutils dpkg-dev)
+
+# apt-get with a list of its own, which adds the sources to the place that the packages come from.
+apt_quellen() {
+    local apt=$WERKZEUG/apt ort schlüssel
+    mkdir -p "$apt/lists/partial"
+    if [ ! -s "$apt/quellen.list" ]; then
+        read -r ort schlüssel < <(apt-get indextargets \
+            --format '$(SITE) $(SIGNED_BY) $(RELEASE) $(COMPONENT) $(CREATED_BY)' |
+            sed -n 's/ bookworm main Packages$//p' | head -n 1)
+        echo "deb-src ${schlüssel:+[signed-by=$schlüssel] }$ort bookworm main" >"$apt/quellen.list"
+    fi
+    apt-get -qq -o Dir::Etc::sourcelist="$apt/quellen.list" -o Dir::Etc::sourceparts=- \
+        -o Dir::State::lists="$apt/lists" "$@"
+}
+
+# A source package, unpacked with Debian's patches, as quellen/NAME.
+quelle_holen() {
+    [ -d "$WERKZEUG/quellen/$1" ] && return
+    mkdir -p "$WERKZEUG/quellen"
+    (
+        cd "$WERKZEUG/quellen"
+        apt_quellen update
+        apt_quellen source --download-only "$1"
+        dpkg-source --no-check -x "$1"_*.dsc "$1.teil" >/dev/null
+        mv "$1.teil" "$1"
+    )
+}
+
+# bibliothek NAME OPTIONEN...: builds and installs a source package, unless that was done before
+# with the same options.
+bibliothek() {
+    local name=$1 fertig=$WERKZEUG/$1.fertig
+    shift
+    [ "$(cat "$fertig" 2>/dev/null)" = "$*" ] && return
+    echo "Building $name for Windows (once)"
+    quelle_holen "$name"
+    cmake -S "$WERKZEUG/quellen/$name" -B "$WERKZEUG/bau/$name" -G Ninja -Wno-dev \
+        -DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=OFF -DCMAKE_INSTALL_PREFIX="$QT" \
+        "$@" >"$WERKZEUG/$name.log" 2>&1
+    cmake --build "$WERKZEUG/bau/$name" >>"$WERKZEUG/$name.log" 2>&1
+    cmake --install "$WERKZEUG/bau/$name" >>"$WERKZEUG/$name.log" 2>&1
+    echo "$*" >"$fertig"
+    rm -rf "$WERKZEUG/bau/$name"
+}
+
+# For what is built on Qt: its own tool chain, which in turn takes that of the compilers.
+qt_kette() {
+    echo "-DCMAKE_TOOLCHAIN_FILE=$QT/lib/cmake/Qt6/qt.toolchain.cmake" \
+        "-DQT_CHAINLOAD_TOOLCHAIN_FILE=$MINGW"
+}
+
+# Only what the program uses. direct2d draws the fonts on paper; its plugin for the screen is left
+# out. Everything else that Qt needs is inside it.
+bibliotheken() {
+    local fehlt=() merkmal
+    for merkmal in sql network dbus vulkan xml concurrent icu tabletevent pkg_config zstd glib \
+        direct2d1_1 system_zlib system_png system_jpeg system_freetype system_harfbuzz \
+        system_pcre2 system_doubleconversion; do
+        fehlt+=("-DFEATURE_$merkmal=OFF")
+    done
+    bibliothek qt6-base -DCMAKE_TOOLCHAIN_FILE="$MINGW" -DQT_HOST_PATH=/usr \
+        -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake \
+        -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DINPUT_opengl=no -DFEATURE_direct2d=ON \
+        "${fehlt[@]}"
+    quelle_holen qcustomplot
+    sed -i 's/\bSHARED\b/STATIC/' "$WERKZEUG/quellen/qcustomplot/CMakeLists.txt"
+    # shellcheck disable=SC2046 # two options
+    bibliothek qcustomplot $(qt_kette) -DUSE_QT_VERSION=6
+}
+
+# The program, planlauf and, if asked for, their tests: programm_bauen VERZEICHNIS OPTIONEN...
+programm_bauen() {
+    local bau=$1
+    shift
+    # shellcheck disable=SC2046
+    cmake -S "$WURZEL" -B "$bau" -G Ninja $(qt_kette) -DQT_HOST_PATH=/usr \
+        -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake \
+        -DCMAKE_BUILD_TYPE=Release -DCMAKE_EXE_LINKER_FLAGS=-static "$@" >/dev/null
+        -DCMAKE_FIND_ROOT_PATH="/usr/x86_64-w64-mingw32;$QT" "$@" >/dev/null
+    cmake --build "$bau"
+}
