@@ -3,9 +3,9 @@
 
 #include "core/Allgemein.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
 
 namespace altardienst {
@@ -13,13 +13,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// A directory that nobody else uses, whatever else runs.
 fs::path NeuesVerzeichnis()
 {
-    const std::string offen(6, 'X'); // mkdtemp puts letters in their place
-    std::string muster = (fs::temp_directory_path() / ("altardienst-" + offen)).string();
-    if (mkdtemp(muster.data()) == nullptr)
-        throw std::runtime_error("no temporary directory");
-    return muster;
+    std::random_device würfel;
+    for (int versuch = 0; versuch < 100; ++versuch) {
+        fs::path verzeichnis =
+            fs::temp_directory_path() / ("altardienst-" + std::to_string(würfel()));
+        if (fs::create_directory(verzeichnis)) // false if somebody else has it
+            return verzeichnis;
+    }
+    throw std::runtime_error("no temporary directory");
 }
 
 } // namespace

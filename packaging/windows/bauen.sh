@@ -7,7 +7,6 @@ WURZEL=$(cd "$(dirname "$0")/../.." && pwd)
 . "$WURZEL/packaging/windows/werkzeug.sh"
 
 pakete_installieren "${WINDOWS_PAKETE[@]}"
-mkdir -p "$WERKZEUG"
 bibliotheken
 
 bau=$WURZEL/build/windows
@@ -16,9 +15,9 @@ programm_bauen "$bau" -DALTARDIENST_TESTS=OFF
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$bau/CMakeCache.txt")
 name=Altardienst-$version
 rm -rf "${bau:?}/$name" "$bau/$name.zip" "$bau/$name-setup.exe"
-DESTDIR= cmake --install "$bau" --prefix "$bau/$name" --strip >/dev/null
+cmake --install "$bau" --prefix "$bau/$name" --strip >/dev/null
 (cd "$bau" && zip -qr "$name.zip" "$name")
-makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DQUELLE="$bau/$name" \
+LC_ALL=C.UTF-8 makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DQUELLE="$bau/$name" \
     -DSYMBOL="$bau/bau/altardienst.ico" -DZIEL="$bau/$name-setup.exe" \
     "$WURZEL/packaging/windows/altardienst.nsi"
 ls -l "$bau/$name-setup.exe" "$bau/$name.zip"

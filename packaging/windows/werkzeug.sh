@@ -5,20 +5,20 @@
 
 WERKZEUG=${ALTARDIENST_WINDOWS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/altardienst-windows}
 QT=$WERKZEUG/qt
-MINGW=$WURZEL/packaging/windows/mingw.cmake
+MINGW=$WERKZEUG/mingw.cmake # the same for every checkout
 
 WINDOWS_PAKETE=("${PROGRAMM_PAKETE[@]}" g++-mingw-w64-x86-64-posix nsis zip qt6-base-dev-tools
     librsvg2-bin icoutils dpkg-dev)
 
 # apt-get with a list of its own, which adds the sources to the place that the packages come from.
 apt_quellen() {
-    local apt=$WERKZEUG/apt ort schlüssel
+    local apt=$WERKZEUG/apt ort
     mkdir -p "$apt/lists/partial"
     if [ ! -s "$apt/quellen.list" ]; then
-        read -r ort schlüssel < <(apt-get indextargets \
-            --format '$(SITE) $(SIGNED_BY) $(RELEASE) $(COMPONENT) $(CREATED_BY)' |
+        ort=$(apt-get indextargets --format '$(SITE) $(RELEASE) $(COMPONENT) $(CREATED_BY)' |
             sed -n 's/ bookworm main Packages$//p' | head -n 1)
-        echo "deb-src ${schlüssel:+[signed-by=$schlüssel] }$ort bookworm main" >"$apt/quellen.list"
+        echo "deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg]" \
+            "$ort bookworm main" >"$apt/quellen.list"
     fi
     apt-get -qq -o Dir::Etc::sourcelist="$apt/quellen.list" -o Dir::Etc::sourceparts=- \
         -o Dir::State::lists="$apt/lists" "$@"
@@ -64,6 +64,8 @@ qt_kette() {
 # out. Everything else that Qt needs is inside it.
 bibliotheken() {
     local fehlt=() merkmal
+    mkdir -p "$WERKZEUG"
+    cp "$WURZEL/packaging/windows/mingw.cmake" "$MINGW"
     for merkmal in sql network dbus vulkan xml concurrent icu tabletevent pkg_config zstd glib \
         direct2d1_1 system_zlib system_png system_jpeg system_freetype system_harfbuzz \
         system_pcre2 system_doubleconversion; do
@@ -87,6 +89,5 @@ programm_bauen() {
     cmake -S "$WURZEL" -B "$bau" -G Ninja $(qt_kette) -DQT_HOST_PATH=/usr \
         -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake \
         -DCMAKE_BUILD_TYPE=Release -DCMAKE_EXE_LINKER_FLAGS=-static "$@" >/dev/null
-        -DCMAKE_FIND_ROOT_PATH="/usr/x86_64-w64-mingw32;$QT" "$@" >/dev/null
     cmake --build "$bau"
 }
