@@ -14,6 +14,7 @@
 #include <QSocketNotifier>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 
 #include <fcntl.h>
@@ -22,6 +23,8 @@
 
 namespace altardienst {
 namespace {
+
+bool ende = false;
 
 /// While it stands, messages are not shown and questions are answered by no.
 class Stille {
@@ -45,8 +48,10 @@ std::array<int, 2> röhre = {-1, -1}; // a signal writes into it, the event loop
 
 void BeiSignal(int)
 {
+    const int fehler = errno; // of what was interrupted
     const char zeichen = 0;
     [[maybe_unused]] const auto geschrieben = write(röhre[1], &zeichen, 1);
+    errno = fehler;
 }
 
 void SignaleFangen(const std::function<void()> &verlassen)
@@ -63,8 +68,12 @@ void SignaleFangen(const std::function<void()> &verlassen)
     struct sigaction handler {};
     handler.sa_handler = BeiSignal;
     handler.sa_flags = SA_RESTART;
-    for (const int signal : {SIGTERM, SIGHUP, SIGINT})
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
+        struct sigaction bisher {};
+        if (sigaction(signal, nullptr, &bisher) == 0 && bisher.sa_handler == SIG_IGN)
+            continue; // whoever started the program wants it to live on
         sigaction(signal, &handler, nullptr);
+    }
 }
 
 #endif
@@ -75,6 +84,7 @@ void BeiEndeVonAußen(const std::function<void()> &verlassen)
 {
     const auto still = [verlassen] {
         const Stille stille;
+        ende = true;
         verlassen();
     };
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp,
@@ -86,6 +96,11 @@ void BeiEndeVonAußen(const std::function<void()> &verlassen)
 #ifndef Q_OS_WIN
     SignaleFangen(still);
 #endif
+}
+
+bool EndeVonAußen()
+{
+    return ende;
 }
 
 void AndereFensterSchließen(const QWidget *außer)

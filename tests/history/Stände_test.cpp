@@ -1,7 +1,7 @@
 // Earlier states: their names, how they are written, and which of them may go.
-#include "history/Stände.h"
-
+#include "history/Aufräumen.h"
 #include "history/Netzstand.h"
+#include "history/Stände.h"
 
 #include <random>
 
@@ -35,7 +35,8 @@ TEST_F(StändeTest, EinNameNenntTagUndZeitUndKommtZurück)
     EXPECT_EQ(Standname({zeit.Tag, zeit.Sekunde, 12}, Standart::Notfall),
               "2026-11-21 12-00-05 (12) Notfall");
     EXPECT_EQ(Standname(zeit, Standart::NotfallErledigt), "2026-11-21 12-00-05 Notfall erledigt");
-    for (const Standart art : {Standart::Gewöhnlich, Standart::Notfall, Standart::NotfallErledigt})
+    for (const Standart art : {Standart::Gewöhnlich, Standart::Notfall, Standart::NotfallErledigt,
+                               Standart::VorAbbruch, Standart::OhneKomma})
         for (const int nummer : {1, 2, 10}) {
             const Standzeit diese{zeit.Tag, zeit.Sekunde, nummer};
             const auto stand = StandAusName(Standname(diese, art));
@@ -121,9 +122,10 @@ TEST_F(StändeTest, ErstAufDemMediumBekommtErSeinenNamen)
         umbenennen(von, nach);
     };
     StandSichern(AufDerPlatte());
-    EXPECT_EQ(folge, (Liste{"Konfig.cfg", "Standard.dat", "Meßdiener.dat", "Messen.dat",
-                            "Gruppen.dat", "Helfer.dat", "Etiketten.dat", "MeßdienerMesse.dat",
-                            "unfertig", "unfertig -> 2026-11-21 12-00-00", "Stände"}));
+    EXPECT_EQ(folge, (Liste{"Festplatte", "Konfig.cfg", "Standard.dat", "Meßdiener.dat",
+                            "Messen.dat", "Gruppen.dat", "Helfer.dat", "Etiketten.dat",
+                            "MeßdienerMesse.dat", Restname(Rest::InArbeit),
+                            Restname(Rest::InArbeit) + " -> 2026-11-21 12-00-00", "Stände"}));
 }
 
 // The disk becomes full, or is pulled out, at any step.
@@ -168,15 +170,19 @@ TEST_F(StändeTest, ScheitertEinSchrittIstKeinerDaUndNichtsBleibtLiegen)
 TEST_F(StändeTest, WasEinAbgeschossenerLaufLiegenließGehtBeimNächsten)
 {
     GemeindeSpeichern(1);
-    fs::create_directories(Stände() / "unfertig");
-    DateiSchreiben(Stände() / "unfertig" / "Konfig.cfg", "halb");
-    fs::create_directories(Stände() / "geloescht");
-    DateiSchreiben(Stände() / "geloescht" / "Messen.dat", "halb");
+    for (const char *rest : {"unfertig 17", "geloescht 17 3", "Notfall unfertig 18"}) {
+        fs::create_directories(Stände() / rest);
+        DateiSchreiben(Stände() / rest / "Konfig.cfg", "halb");
+    }
+    DateiSchreiben(Stände() / "Reserve 17", "Platz");
     fs::create_directories(Stände() / "Fotos"); // not ours
+    fs::create_directories(Stände() / "unfertig mit Notizen");
+    fs::create_directories(Stände() / "Speichern 17"); // of a save, and not decided yet
     ResteEntfernen();
-    EXPECT_EQ(Namen(), Liste{"Fotos"});
-    fs::create_directories(Stände() / "unfertig");
-    DateiSchreiben(Stände() / "unfertig" / "fremd.txt", "halb");
+    EXPECT_EQ(Namen(), (Liste{"Fotos", "Speichern 17", "unfertig mit Notizen"}));
+    const fs::path unfertig = Stände() / PfadAus(Restname(Rest::InArbeit));
+    fs::create_directories(unfertig);
+    DateiSchreiben(unfertig / "fremd.txt", "halb");
     StandSichern(AufDerPlatte());
     EXPECT_FALSE(fs::exists(AlleStände().back().Ort / "fremd.txt"));
 }
@@ -321,14 +327,14 @@ TEST_F(StändeTest, DerNeuesteDerGanzLädtGehtNie)
     fs::copy(Festplatte, guter); // the files alone
     fs::copy(guter, Stände() / "2014-03-01 10-00-00");
     for (int i = 0; i < 12; ++i) {
-        const fs::path zerrissen = Stände() / Standname({Heute - 3000, i, 1}, Standart::Gewöhnlich);
+        const fs::path zerrissen = Stände() / Standname({Heute, i, 1}, Standart::Gewöhnlich);
         fs::create_directories(zerrissen);
         DateiSchreiben(zerrissen / "Konfig.cfg", "zerrissen " + std::to_string(i));
     }
     StändeAufräumen();
     EXPECT_TRUE(fs::exists(guter));
     EXPECT_FALSE(fs::exists(Stände() / "2014-03-01 10-00-00"));
-    EXPECT_EQ(Namen().size(), 11U) << "the newest ten and this one";
+    EXPECT_EQ(Namen().size(), 13U) << "those of today and this one";
 }
 
 TEST_F(StändeTest, AufräumenLöschtNurStände)
@@ -337,8 +343,9 @@ TEST_F(StändeTest, AufräumenLöschtNurStände)
     fs::create_directories(Stände() / "2001-01-01");
     DateiSchreiben(Stände() / "Notiz.txt", "x");
     for (int i = 0; i < 15; ++i)
-        fs::create_directories(Stände() / Standname({Heute - 4000, i, 1}, Standart::Gewöhnlich));
-    StändeAufräumen();
+        fs::create_directories(
+            Stände() / Standname({Heute - (i < 10 ? 0 : 4000), i, 1}, Standart::Gewöhnlich));
+    EXPECT_EQ(StändeAufräumen(), 5);
     EXPECT_EQ(Namen().size(), 13U);
     EXPECT_TRUE(fs::exists(Stände() / "Fotos"));
     EXPECT_TRUE(fs::exists(Stände() / "2001-01-01"));
