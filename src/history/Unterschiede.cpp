@@ -113,6 +113,8 @@ Text MessenÄnderung(const std::vector<Text> &damals, const std::vector<Text> &j
         teile.emplace_back("andere Meßdiener");
     if (!gleich(Kennung, damals.size()))
         teile.emplace_back("andere Helfer");
+    if (teile.empty()) // what its name does not show, such as the seconds
+        teile.emplace_back("andere Zeit");
     return Reihe(teile, ", ");
 }
 

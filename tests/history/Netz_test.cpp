@@ -9,6 +9,10 @@
 #include "history/Netzstand.h"
 #include "platform/Einzellauf.h"
 
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
 namespace altardienst {
 namespace {
 
@@ -244,9 +248,68 @@ TEST_F(NetzTest, HältDasMediumDieDateienNichtBleibtDieMarke)
             throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
         durchschreiben(pfad);
     };
+    NotfallSichern(InhaltDerGemeinde(3));
     EXPECT_NO_THROW(GemeindeSpeichern(2)) << "as if nothing had been flushed";
     EXPECT_TRUE(MarkeLiegt());
+    EXPECT_EQ(AlleStände().back().Art, Standart::Notfall) << "nothing is decided by it";
+    EXPECT_EQ(Dauerhinweis(), "Nicht fest auf dem Datenträger: Zugriff verweigert");
+    Laufwerke.Durchschreiben = durchschreiben;
+    GemeindeSpeichern(4);
+    EXPECT_FALSE(MarkeLiegt());
+    EXPECT_TRUE(HatStand(InhaltDerGemeinde(1))) << "the last files that the medium surely held";
+    EXPECT_EQ(AlleStände().front().Art, Standart::Gewöhnlich);
+    EXPECT_EQ(Dauerhinweis(), "");
 }
+
+TEST_F(NetzTest, KonnteEineMarkeNichtEntstehenIstEsNachDerNächstenVergessen)
+{
+    NetzSpannen();
+    const auto umbenennen = Laufwerke.Umbenennen;
+    Laufwerke.Umbenennen = [](const fs::path &, const fs::path &) {
+        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
+    };
+    GemeindeSpeichern(2);
+    EXPECT_EQ(Dauerhinweis(), "Kein Stand aufgehoben: Zugriff verweigert");
+    Laufwerke.Umbenennen = umbenennen;
+    GemeindeSpeichern(3);
+    EXPECT_EQ(Dauerhinweis(), "");
+}
+
+TEST_F(NetzTest, AufVollemDatenträgerSagtDerStartDaßErNichtsAufhebt)
+{
+    DatenträgerFüllen(1, true);
+    NetzSpannen();
+    VonFestplatteLaden();
+    EXPECT_EQ(Dauerhinweis(), "Kein Stand aufgehoben: Datenträger voll");
+    EXPECT_EQ(Starthinweis(), "");
+    EXPECT_EQ(Meßdiener.Anzahl, 2) << "it loads as ever";
+    EXPECT_TRUE(Namen().empty());
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+#ifndef _WIN32
+// The superuser may write everywhere, so the test becomes somebody else for a while.
+TEST_F(NetzTest, EinNurLesbaresVerzeichnisWirdGeladenUndDerStartSagtEs)
+{
+    fs::permissions(Festplatte.parent_path(), fs::perms(0755));
+    fs::permissions(Festplatte, fs::perms(0555));
+    const bool alle = geteuid() == 0;
+    if (alle) {
+        ASSERT_EQ(seteuid(65534), 0);
+    }
+    NetzSpannen();
+    VonFestplatteLaden();
+    EXPECT_EQ(Dauerhinweis(), "Kein Stand aufgehoben: Zugriff verweigert");
+    EXPECT_EQ(Starthinweis(), "");
+    EXPECT_EQ(Meßdiener.Anzahl, 2);
+    EXPECT_TRUE(Namen().empty());
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    if (alle) {
+        ASSERT_EQ(seteuid(0), 0);
+    }
+    fs::permissions(Festplatte, fs::perms(0755));
+}
+#endif
 
 // A save that was cut off.
 
@@ -676,6 +739,19 @@ TEST_F(NetzTest, WasAuchOhneKommaNichtLädtIstNichtGeheilt)
     Neustart();
     EXPECT_EQ(Namen().size(), 1U);
     EXPECT_FALSE(Netz().OhneKomma);
+}
+
+// A short file is not the end of the load: the later ones are read.
+TEST_F(NetzTest, WasZuFrühEndetFehltAlleinUndDasSagtDerHinweis)
+{
+    const Text messen = Wort("Messen.dat");
+    DateiSchreiben(Festplatte / "Messen.dat", messen.substr(0, messen.find('\n', 5) + 1));
+    Neustart();
+    EXPECT_TRUE(Starthinweis().starts_with("Messen.dat endet zu früh, nach Zeile "))
+        << Starthinweis();
+    EXPECT_TRUE(Starthinweis().ends_with(
+        ". Was in ihr fehlt, fehlt auch im Programm, und das Beenden speichert es so."));
+    EXPECT_EQ(Helfer.Nachname[0], "Linde");
 }
 
 TEST_F(NetzTest, DerBlickDanachLäßtTabellenUndZählerWieDasLaden)

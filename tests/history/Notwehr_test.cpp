@@ -26,7 +26,7 @@ class NotwehrTest : public Netzstand {
     NotwehrTest() { GemeindeSpeichern(1); }
 
     /// The end of a run in a process of its own that has changed the tables; the signal that ended
-    /// it, or 0.
+    /// it, or its result as a negative number.
     static int Enden(const std::function<void()> &wie)
     {
         const pid_t kind = fork();
@@ -45,7 +45,7 @@ class NotwehrTest : public Netzstand {
         }
         int ausgang = 0;
         waitpid(kind, &ausgang, 0);
-        return WIFSIGNALED(ausgang) ? WTERMSIG(ausgang) : 0;
+        return WIFSIGNALED(ausgang) ? WTERMSIG(ausgang) : -WEXITSTATUS(ausgang);
     }
 
     void GerettetIstDieZweite()
@@ -76,7 +76,7 @@ TEST_F(NotwehrTest, EinFehlerDenNiemandFängt)
 
 TEST_F(NotwehrTest, EinEndeMittenInDerArbeit)
 {
-    EXPECT_EQ(Enden([] { std::exit(1); }), 0);
+    EXPECT_EQ(Enden([] { std::exit(1); }), -1);
     GerettetIstDieZweite();
 }
 
@@ -109,6 +109,17 @@ TEST_F(NotwehrTest, NimmtDasVerzeichnisIhnNichtKommtErInsEigeneDesBenutzers)
     ASSERT_EQ(stände.size(), 1U);
     EXPECT_EQ(stände[0].Ort.parent_path(), Laufwerke.Ausweichverzeichnisse()[0]);
     EXPECT_TRUE(InhaltVon(stände[0].Ort) == InhaltDerGemeinde(2));
+}
+
+// A limit of the size of files is a failed save, not the end of the process.
+TEST_F(NotwehrTest, EineDateiDieZuGroßWirdTötetNicht)
+{
+    EXPECT_EQ(Enden([] {
+                  rlimit klein{1000, 1000};
+                  setrlimit(RLIMIT_FSIZE, &klein);
+                  _exit(NummerDesFehlers([] { AufFestplatteSpeichern(); }) == 61 ? 0 : 1);
+              }),
+              0);
 }
 
 // Only the file with a value that nothing can write is missing.

@@ -235,6 +235,78 @@ TEST_F(StändeTest, GehtAuchDasAusweichenNichtSagtErEs)
     EXPECT_NE(NummerDesFehlers([&] { NotfallSichern(InhaltDerGemeinde(2)); }), 0);
 }
 
+TEST_F(StändeTest, EinAusgewichenerNotfallKommtZuDenAnderenSobaldPlatzIst)
+{
+    GemeindeSpeichern(1);
+    DateiSchreiben(Stände(), "im Weg");
+    NotfallSichern(InhaltDerGemeinde(2));
+    const fs::path ausweg = Laufwerke.Ausweichverzeichnisse()[0];
+    EXPECT_EQ(fs::status(ausweg).permissions(), fs::perms::owner_all);
+    AusweichständeHolen();
+    EXPECT_FALSE(fs::is_empty(ausweg));
+    fs::remove(Stände());
+    Neustart();
+    EXPECT_TRUE(fs::is_empty(ausweg));
+    ASSERT_TRUE(Netz().Notfall);
+    EXPECT_EQ(Netz().Notfall->Ort.parent_path(), Stände());
+    EXPECT_TRUE(InhaltVon(Netz().Notfall->Ort) == InhaltDerGemeinde(2));
+}
+
+TEST_F(StändeTest, WerDieDateienNichtLesenDarfLiestAuchDieStändeNicht)
+{
+    GemeindeSpeichern(1);
+    fs::permissions(Festplatte, fs::perms(0755));
+    StandSichern(AufDerPlatte());
+    EXPECT_EQ(fs::status(Stände()).permissions(), fs::perms(0755));
+    for (const Datei &datei : Dateien)
+        fs::permissions(Festplatte / PfadAus(datei.Name), fs::perms(0640));
+    GemeindeSpeichern(2);
+    StandSichern(AufDerPlatte());
+    EXPECT_EQ(fs::status(Stände()).permissions(), fs::perms(0750));
+    for (const Datei &datei : Dateien)
+        fs::permissions(Festplatte / PfadAus(datei.Name), fs::perms(0600));
+    GemeindeSpeichern(3);
+    StandSichern(AufDerPlatte());
+    EXPECT_EQ(fs::status(Stände()).permissions(), fs::perms(0700));
+}
+
+// Room on the medium.
+
+TEST_F(StändeTest, FehltDerPlatzMachenIhnDieEntbehrlichen)
+{
+    GemeindeSpeichern(1);
+    for (int i = 0; i < 15; ++i)
+        fs::create_directories(
+            Stände() / Standname({Heute - (i < 10 ? 0 : 4000), i, 1}, Standart::Gewöhnlich));
+    Laufwerke.Schreiben = [this, schreiben = Laufwerke.Schreiben](const fs::path &pfad,
+                                                                  std::string_view bytes) {
+        if (AlleStände().size() > 10)
+            throw Laufzeitfehler(Laufzeitfehler::DatenträgerVoll);
+        schreiben(pfad, bytes);
+    };
+    EXPECT_TRUE(StandSichern(AufDerPlatte()));
+    EXPECT_EQ(AlleStände().size(), 11U);
+    const Standinhalt andere = InhaltDerGemeinde(2);
+    EXPECT_EQ(NummerDesFehlers([&] { StandSichern(andere); }), 61) << "no more may go";
+}
+
+// Something on the disk that cannot be deleted.
+TEST_F(StändeTest, WasSichNichtLöschenLäßtStehtKeinemAnderenImWeg)
+{
+    GemeindeSpeichern(1);
+    for (int i = 0; i < 15; ++i)
+        fs::create_directories(
+            Stände() / Standname({Heute - (i < 10 ? 0 : 4000), i, 1}, Standart::Gewöhnlich));
+    Laufwerke.Löschen = [](const fs::path &) {
+        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
+    };
+    EXPECT_EQ(StändeAufräumen(), 5);
+    EXPECT_EQ(AlleStände().size(), 10U);
+    Laufwerke.Löschen = Systemlaufwerke().Löschen;
+    ResteEntfernen();
+    EXPECT_EQ(Namen().size(), 10U);
+}
+
 // Which may go.
 
 TEST_F(StändeTest, VonDenLetztenSiebenTagenBleibenAlle)
@@ -335,6 +407,44 @@ TEST_F(StändeTest, DerNeuesteDerGanzLädtGehtNie)
     EXPECT_TRUE(fs::exists(guter));
     EXPECT_FALSE(fs::exists(Stände() / "2014-03-01 10-00-00"));
     EXPECT_EQ(Namen().size(), 13U) << "those of today and this one";
+}
+
+TEST_F(StändeTest, WasAufEineEntscheidungWartetGehtNie)
+{
+    for (int i = 0; i < 12; ++i)
+        fs::create_directories(Stände() / Standname({Heute, i, 1}, Standart::Gewöhnlich));
+    const auto alter = [&](Standart art) {
+        const fs::path ort = Stände() / Standname({Heute - 4000, static_cast<int>(art), 1}, art);
+        fs::create_directories(ort);
+        return ort;
+    };
+    const fs::path notfall = alter(Standart::Notfall);
+    const fs::path abbruch = alter(Standart::VorAbbruch);
+    const fs::path erledigt = alter(Standart::NotfallErledigt);
+    StändeAufräumen();
+    EXPECT_TRUE(fs::exists(notfall));
+    EXPECT_TRUE(fs::exists(abbruch));
+    EXPECT_FALSE(fs::exists(erledigt));
+}
+
+// An emptied parish loads whole; the one before must not go for it.
+TEST_F(StändeTest, AuchDerNeuesteMitLeutenGehtNie)
+{
+    GemeindeSpeichern(1);
+    fs::create_directories(Stände());
+    const fs::path mitLeuten = Stände() / "2012-03-01 10-00-00";
+    fs::copy(Festplatte, mitLeuten);
+    fs::copy(mitLeuten, Stände() / "2011-03-01 10-00-00");
+    TabellenLeeren();
+    AufFestplatteSpeichern();
+    for (int i = 0; i < 10; ++i) {
+        const fs::path leer = Stände() / Standname({Heute, i, 1}, Standart::Gewöhnlich);
+        fs::create_directories(leer);
+        for (const Datei &datei : Dateien)
+            fs::copy(Festplatte / PfadAus(datei.Name), leer);
+    }
+    EXPECT_EQ(StändeAufräumen(), 1);
+    EXPECT_TRUE(fs::exists(mitLeuten));
 }
 
 TEST_F(StändeTest, AufräumenLöschtNurStände)
