@@ -24,6 +24,7 @@ struct Nebenfenster {
 };
 
 std::vector<Nebenfenster> alle;
+bool handelt = false; // the main window does
 
 void InAllenAusführen(std::function<void()> Nebenfenster::*tun)
 {
@@ -67,13 +68,16 @@ QStringList Gezeigt::Texte(const QWidget *form)
 void HauptfensterHandelt(const std::function<void()> &aktion)
 {
     InAllenAusführen(&Nebenfenster::Ablegen);
+    const bool zuvor = std::exchange(handelt, true);
     Offen(aktion)();
+    handelt = zuvor;
     InAllenAusführen(&Nebenfenster::Erneuern);
 }
 
 void OffeneFormenBelassen()
 {
-    InAllenAusführen(&Nebenfenster::Belassen);
+    if (!handelt)
+        InAllenAusführen(&Nebenfenster::Belassen);
 }
 
 } // namespace altardienst

@@ -2,8 +2,10 @@
 #include "history/Netz.h"
 
 #include "core/Allgemein.h"
-#include "core/Umwandlung.h"
+#include "history/Aufräumen.h"
+#include "history/Marke.h"
 #include "history/Notwehr.h"
+#include "platform/Einzellauf.h"
 #include "platform/Laufwerke.h"
 
 #include <algorithm>
@@ -15,78 +17,61 @@ namespace {
 
 using std::filesystem::path;
 
-constexpr const char *MarkenName = "Speichern";
-
 Netzlage lage;
+
+enum class Wechsel { Keiner, Speichern, Holen, Zurückholen };
 
 /// What hangs on the file system and on the load, and what was there before.
 struct Aufhängung {
     LaufwerkeDienst Laufwerke;
     std::function<void()> TabellenGeladen;
     path ZuletztGelesenAus;
-    bool Speichert = false;  // between the first and the last file of a save
-    bool HoltZurück = false; // the tables are kept already
+    Wechsel Läuft = Wechsel::Keiner;
+    bool MarkeGesetzt = false; // for what is going on
+    bool Gerettet = false;     // the tables, since a save failed
 };
 
 std::unique_ptr<Aufhängung> netz;
+std::unique_ptr<Alleinlauf> alleinlauf;
 
-path Marke()
+bool Allein()
 {
-    return Ständeverzeichnis() / MarkenName;
+    return alleinlauf && alleinlauf->Gilt();
 }
 
-bool MarkeLiegt()
-{
-    try {
-        const auto namen = Laufwerke.Auflisten(Ständeverzeichnis()).Verzeichnisse;
-        return std::ranges::find(namen, MarkenName) != namen.end();
-    } catch (const Laufzeitfehler &) {
-        return false;
-    }
-}
-
-void Gescheitert(const Laufzeitfehler &fehler)
-{
-    lage.Gescheitert = fehler.what();
-}
+constexpr const char *KeinStand = "Kein Stand aufgehoben";
 
 /// Runs a step of the net. What it cannot do is told and changes nothing else.
-template <class F> bool Gelingt(F schritt) noexcept
+template <class F> bool Gelingt(F schritt, const char *sonst = KeinStand) noexcept
 {
+    const auto sagen = [&](const Laufzeitfehler &fehler) {
+        lage.Gescheitert = Text(sonst) + ": " + fehler.what();
+    };
     try {
         schritt();
         return true;
     } catch (const Laufzeitfehler &fehler) {
-        Gescheitert(fehler);
+        sagen(fehler);
     } catch (const std::exception &) {
-        Gescheitert(Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert));
+        sagen(Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert));
     }
     return false;
 }
 
-void Sichern(const Standinhalt &inhalt)
+void Sichern(const Standinhalt &inhalt, Standart art = Standart::Gewöhnlich)
 {
-    if (StandSichern(inhalt))
-        lage.Gescheitert.clear();
+    StandSichern(inhalt, art);
+    lage.Gescheitert.clear();
     StändeAufräumen();
-}
-
-/// Whether the state so many places before the newest holds these files.
-bool LiegtDa(std::size_t vomEnde, const Standinhalt &inhalt)
-{
-    const std::vector<Stand> stände = AlleStände();
-    return stände.size() > vomEnde && InhaltVon(stände[stände.size() - 1 - vomEnde].Ort) == inhalt;
 }
 
 void DateienSichern()
 {
-    const Standinhalt dateien = InhaltVon(Laufwerke.Programmverzeichnis());
-    // The whole of a torn file may have been kept after it.
-    if (!(LiegtDa(1, dateien) && LiegtDa(0, OhneKommas(dateien))))
-        Sichern(dateien);
+    Sichern(InhaltVon(Laufwerke.Programmverzeichnis()));
 }
 
-// One save: the mark lies from before the first file until the last is on the medium.
+// One change of the eight files: the mark lies from before the first one is written until all are
+// on the medium.
 
 bool IstEine(const path &pfad, const Datei &datei)
 {
@@ -99,23 +84,6 @@ bool IstEineDerAcht(const path &pfad)
     return std::ranges::any_of(Dateien, [&](const Datei &datei) { return IstEine(pfad, datei); });
 }
 
-void MarkeSetzen()
-{
-    const path verzeichnis = Laufwerke.Programmverzeichnis();
-    Laufwerke.Auflisten(verzeichnis); // failure 76: to make it is not our part
-    const Standinhalt inhalt = InhaltVon(verzeichnis);
-    if (MarkeLiegt()) // of a save that did not end; the start has kept what is in it
-        VerzeichnisEntfernen(Marke());
-    Laufwerke.VerzeichnisAnlegen(Ständeverzeichnis());
-    VerzeichnisSchreiben(Ständeverzeichnis(), MarkenName, inhalt);
-}
-
-void MarkeLöschen()
-{
-    if (MarkeLiegt())
-        VerzeichnisEntfernen(Marke());
-}
-
 void AlleAchtDurchschreiben()
 {
     const path verzeichnis = Laufwerke.Programmverzeichnis();
@@ -125,52 +93,86 @@ void AlleAchtDurchschreiben()
     Laufwerke.Durchschreiben(verzeichnis);
 }
 
-void WechselBeginnt()
+void WechselBeginnt(Wechsel wechsel)
 {
-    Gelingt(MarkeSetzen);
+    netz->MarkeGesetzt = Gelingt([] {
+        MarkeSetzen();
+        lage.Gescheitert.clear();
+    });
+    if (netz->MarkeGesetzt && wechsel == Wechsel::Speichern)
+        Gelingt([] { UnlesbareBeiseitelegen(); });
+    netz->Läuft = wechsel;
 }
 
 /// The mark stays if the medium does not hold the files.
 void WechselGelungen()
 {
-    Gelingt([] {
-        AlleAchtDurchschreiben();
-        MarkeLöschen();
-    });
-    NotfälleErledigen();
-    lage.SpeichernAbgebrochen = false;
-    lage.Notfall.reset();
+    const Wechsel wechsel = std::exchange(netz->Läuft, Wechsel::Keiner);
+    if (!Gelingt(AlleAchtDurchschreiben, "Nicht fest auf dem Datenträger"))
+        return NetzlageGeändert();
+    const bool aufheben = wechsel == Wechsel::Holen || lage.Befund.Was != Ladebefund::Vollständig;
+    if (std::exchange(netz->MarkeGesetzt, false))
+        Gelingt([&] { MarkeAbnehmen(aufheben); });
+    if (wechsel != Wechsel::Holen) { // what was copied in is not what the program knows
+        if (Allein())
+            Gelingt(LeereMarkenEntfernen);
+        NotfälleErledigen();
+        AbbrücheErledigen();
+        lage.SpeichernAbgebrochen = false;
+        lage.Notfall.reset();
+    }
     NetzlageGeändert();
+}
+
+void WechselGescheitert()
+{
+    netz->Läuft = Wechsel::Keiner;
+    if (std::exchange(netz->MarkeGesetzt, false))
+        Gelingt([] { UnlesbareZurücklegen(Marke()); });
 }
 
 void SpeichernGescheitert()
 {
-    netz->Speichert = false;
-    Gelingt([] { NotfallSichern(InhaltDerTabellen()); });
+    WechselGescheitert();
+    netz->Gerettet = Gelingt([] { NotfallSichern(InhaltDerTabellen()); });
     NetzlageGeändert();
 }
 
 /// A step of a save; its failure stays what it is.
 template <class F> void Speicherschritt(const path &pfad, F schritt)
 {
-    if (!IstEineDerAcht(pfad))
+    if (!IstEineDerAcht(pfad) || netz->Läuft == Wechsel::Zurückholen)
         return schritt();
     try {
         schritt();
     } catch (...) {
-        if (!netz->HoltZurück)
-            SpeichernGescheitert();
+        SpeichernGescheitert();
         throw;
     }
 }
 
 void Schreiben(const path &pfad, std::string_view bytes)
 {
-    if (IstEine(pfad, Dateien.front()) && !std::exchange(netz->Speichert, true))
-        WechselBeginnt();
+    if (IstEine(pfad, Dateien.front()) && netz->Läuft != Wechsel::Speichern)
+        WechselBeginnt(Wechsel::Speichern);
     Speicherschritt(pfad, [&] { netz->Laufwerke.Schreiben(pfad, bytes); });
-    if (IstEine(pfad, Dateien.back()) && std::exchange(netz->Speichert, false))
+    if (IstEine(pfad, Dateien.back()) && netz->Läuft == Wechsel::Speichern)
         WechselGelungen();
+}
+
+/// A copy over one of the eight files. That one may be unreadable, and then there is no other copy.
+void Hereinkopieren(const path &von, const path &nach)
+{
+    if (netz->Läuft != Wechsel::Holen)
+        WechselBeginnt(Wechsel::Holen);
+    if (netz->MarkeGesetzt)
+        Gelingt([&] { UnlesbareBeiseitelegen(nach); });
+    try {
+        netz->Laufwerke.Kopieren(von, nach);
+    } catch (...) {
+        Gelingt([] { UnlesbareZurücklegen(Marke()); });
+        throw;
+    }
 }
 
 // One load.
@@ -181,7 +183,7 @@ void KommaHeilen(const Standinhalt &inhalt)
     const Standinhalt heil = OhneKommas(inhalt);
     if (InhaltLesen(heil).Befund.Was != Ladebefund::Vollständig)
         return;
-    Sichern(heil);
+    Sichern(heil, Standart::OhneKomma);
     lage.OhneKomma = true;
 }
 
@@ -189,12 +191,15 @@ void NachDemLaden()
 {
     if (netz->ZuletztGelesenAus != (Laufwerke.Programmverzeichnis() / "x").parent_path())
         return; // from a diskette, which brings only a part anyway
+    if (netz->Läuft == Wechsel::Holen)
+        WechselGelungen();
     const Standinhalt inhalt = InhaltVon(Laufwerke.Programmverzeichnis());
     lage.Befund = {};
     if (!inhalt.Leer() || !AlleStände().empty()) // else a parish that is just starting
         lage.Befund = InhaltLesen(inhalt).Befund;
     lage.OhneKomma = false;
-    if (lage.Befund.Komma > 0)
+    // A mixture of two saves is not worth it; those from before are there.
+    if (lage.Befund.Komma > 0 && !lage.SpeichernAbgebrochen)
         Gelingt([&] { KommaHeilen(inhalt); });
     NetzlageGeändert();
 }
@@ -208,6 +213,12 @@ void Aufhängen()
     Laufwerke.AttributeLöschen = [](const path &pfad) {
         Speicherschritt(pfad, [&] { netz->Laufwerke.AttributeLöschen(pfad); });
     };
+    Laufwerke.Kopieren = [](const path &von, const path &nach) {
+        if (IstEineDerAcht(nach) && netz->Läuft != Wechsel::Zurückholen)
+            Hereinkopieren(von, nach);
+        else
+            netz->Laufwerke.Kopieren(von, nach);
+    };
     Laufwerke.Lesen = [](const path &pfad) {
         netz->ZuletztGelesenAus = pfad.parent_path();
         return netz->Laufwerke.Lesen(pfad);
@@ -220,27 +231,37 @@ void Aufhängen()
 
 // The start.
 
-/// Of two saves: the files as they lie there become a state, and after it those from before the
-/// save. A start that follows without a save in between finds both already there.
-void AbgebrochenesSpeichernSichern()
+std::optional<Stand> NeuesterDerArt(Standart art)
 {
-    const Standinhalt dateien = InhaltVon(Laufwerke.Programmverzeichnis());
-    const Standinhalt zuvor = InhaltVon(Marke());
-    lage.SpeichernAbgebrochen = true;
-    if (LiegtDa(0, zuvor) && LiegtDa(1, dateien))
-        return;
-    if (!zuvor.Leer())
-        StandSichern(dateien);
-    Sichern(zuvor.Leer() ? dateien : zuvor);
+    const std::vector<Stand> stände = AlleStände();
+    const auto stand =
+        std::find_if(stände.rbegin(), stände.rend(), [&](const Stand &s) { return s.Art == art; });
+    return stand == stände.rend() ? std::nullopt : std::optional(*stand);
+}
+
+/// What is left of runs that were killed.
+void HinterlassenesOrdnen()
+{
+    ResteEntfernen();
+    AusweichständeHolen();
+    Gelingt(MarkenAufheben);
+}
+
+/// Of two saves: the files as they lie there are a state, and the newest one are those from before
+/// the save.
+void AbgebrochenesSpeichernSuchen()
+{
+    const std::optional<Stand> davor = NeuesterDerArt(Standart::VorAbbruch);
+    lage.DavorAufgehoben = davor.has_value();
+    lage.SpeichernAbgebrochen = davor || (Allein() && FremdeMarkeLiegt());
+    if (davor && AlleStände().back().Ort != davor->Ort)
+        AlsNeuestenStand(davor->Ort, Standart::VorAbbruch);
 }
 
 void NotfallSuchen()
 {
-    const std::vector<Stand> stände = AlleStände();
-    const auto notfall = std::find_if(stände.rbegin(), stände.rend(), [](const Stand &stand) {
-        return stand.Art == Standart::Notfall;
-    });
-    if (notfall == stände.rend())
+    const std::optional<Stand> notfall = NeuesterDerArt(Standart::Notfall);
+    if (!notfall)
         return;
     // What lies on the disk anyway is not worth a word.
     if (InhaltVon(notfall->Ort) == InhaltVon(Laufwerke.Programmverzeichnis()))
@@ -248,30 +269,23 @@ void NotfallSuchen()
     lage.Notfall = *notfall;
 }
 
-Text ZeitText(const Stand &stand)
-{
-    return KurzesDatum(stand.Zeit.Tag) + ", " + StundenUndMinuten(ZeitAus(stand.Zeit.Sekunde)) +
-           " Uhr";
-}
-
 // Bringing a state back.
 
-void DateiZurückholen(const Stand &stand, const Standdatei &datei, const Datei &diese)
+void DateiZurückholen(const path &stand, const Standdatei &datei, const Datei &diese)
 {
     const path verzeichnis = Laufwerke.Programmverzeichnis();
     const auto dort = Laufwerke.Suchen(verzeichnis, diese.Name);
     const path ziel = verzeichnis / PfadAus(dort.value_or(datei.Name));
-    if (dort == diese.Name) // read-only as it may be, a save would write it too
-        Laufwerke.AttributeLöschen(ziel);
-    Laufwerke.Kopieren(stand.Ort / PfadAus(datei.Name), ziel);
+    if (dort)
+        Laufwerke.AttributeLöschen(ziel); // read-only as it may be
+    Laufwerke.Kopieren(stand / PfadAus(datei.Name), ziel);
 }
 
-void AlleZurückholen(const Stand &stand, const Standinhalt &inhalt)
+void AlleZurückholen(const path &stand, const Standinhalt &inhalt)
 {
-    MarkeSetzen();
     for (std::size_t i = 0; i < inhalt.Dateien.size(); ++i)
-        DateiZurückholen(stand, inhalt.Dateien[i], Dateien[i]);
-    WechselGelungen();
+        if (inhalt.Dateien[i].Bytes)
+            DateiZurückholen(stand, inhalt.Dateien[i], Dateien[i]);
 }
 
 void NurVollzählige(const Standinhalt &inhalt)
@@ -280,6 +294,21 @@ void NurVollzählige(const Standinhalt &inhalt)
         if (!datei.Bytes)
             throw Laufzeitfehler(datei.Name.empty() ? Laufzeitfehler::DateiNichtGefunden
                                                     : Laufzeitfehler::ZugriffVerweigert);
+}
+
+/// After a failure halfway. If the files cannot be put back either, the mark keeps them.
+void Zurücknehmen()
+{
+    const bool wieZuvor = Gelingt([] {
+        UnlesbareZurücklegen(Marke());
+        AlleZurückholen(Marke(), InhaltVon(Marke()));
+        AlleAchtDurchschreiben();
+        MarkeAbnehmen(false);
+    });
+    if (wieZuvor)
+        return;
+    lage.SpeichernAbgebrochen = true;
+    lage.DavorAufgehoben = true; // before it began
 }
 
 } // namespace
@@ -291,45 +320,14 @@ const Netzlage &Netz()
     return lage;
 }
 
-Text Starthinweis()
-{
-    Text hinweis;
-    const auto absatz = [&](const Text &text) { hinweis += (hinweis.empty() ? "" : "\n") + text; };
-    if (const Text satz = lage.Befund.Satz(); !satz.empty())
-        absatz(satz + " Was danach kommt, fehlt im Programm, und das Beenden speichert es so.");
-    if (lage.OhneKomma)
-        absatz(
-            "Ein Stand mit Semikolon an Stelle des Kommas, in dem nichts fehlt, ist aufgehoben.");
-    if (lage.SpeichernAbgebrochen)
-        absatz("Das letzte Speichern ist nicht zu Ende gekommen: Die acht Dateien können aus zwei "
-               "Speicherungen stammen. Der Stand davor ist aufgehoben.");
-    if (lage.Notfall)
-        absatz("Das Programm hat ein schlechtes Ende genommen. Was es am " +
-               ZeitText(*lage.Notfall) + ", im Speicher hatte, ist als Notfall aufgehoben.");
-    return hinweis;
-}
-
-Text Dauerhinweis()
-{
-    if (lage.Befund.Was != Ladebefund::Vollständig)
-        return "Nicht alles geladen: " + lage.Befund.Datei;
-    if (lage.SpeichernAbgebrochen)
-        return "Letztes Speichern unvollständig";
-    if (!lage.Gescheitert.empty())
-        return "Kein früherer Stand aufgehoben: " + lage.Gescheitert;
-    return "";
-}
-
 void NetzSpannen()
 {
     NetzEinholen();
-    ResteEntfernen();
-    Gelingt([] {
-        if (MarkeLiegt())
-            AbgebrochenesSpeichernSichern();
-        else
-            DateienSichern();
-    });
+    alleinlauf = std::make_unique<Alleinlauf>(Laufwerke.Programmverzeichnis());
+    if (Allein())
+        HinterlassenesOrdnen();
+    Gelingt(DateienSichern);
+    Gelingt(AbgebrochenesSpeichernSuchen);
     Gelingt(NotfallSuchen);
     Gelingt(Aufhängen);
 }
@@ -337,11 +335,13 @@ void NetzSpannen()
 void NetzEinholen()
 {
     lage = {};
+    alleinlauf.reset();
     if (!netz)
         return;
     NotwehrBeenden();
     Laufwerke.Schreiben = netz->Laufwerke.Schreiben;
     Laufwerke.AttributeLöschen = netz->Laufwerke.AttributeLöschen;
+    Laufwerke.Kopieren = netz->Laufwerke.Kopieren;
     Laufwerke.Lesen = netz->Laufwerke.Lesen;
     TabellenGeladen = netz->TabellenGeladen;
     netz.reset();
@@ -354,14 +354,19 @@ void ArbeitBeginnt()
         NotwehrBereitstellen();
 }
 
-void VorWechselSichern(Vorher was)
+void VorWechselSichern()
 {
     if (!netz)
         return;
     Gelingt(DateienSichern);
-    if (was == Vorher::DateienUndTabellen)
-        Gelingt([] { Sichern(InhaltDerTabellen()); });
+    Gelingt([] { Sichern(InhaltDerTabellen()); });
     NetzlageGeändert();
+}
+
+void SpeichernIstGescheitert()
+{
+    if (netz && !std::exchange(netz->Gerettet, false))
+        SpeichernGescheitert();
 }
 
 void StandZurückholen(const Stand &stand)
@@ -370,18 +375,25 @@ void StandZurückholen(const Stand &stand)
     NurVollzählige(inhalt);
     StandSichern(InhaltVon(Laufwerke.Programmverzeichnis()));
     StandSichern(InhaltDerTabellen());
-    const auto melden = [](bool holtZurück) {
-        if (netz)
-            netz->HoltZurück = holtZurück;
-    };
-    melden(true);
+    MarkeSetzen();
+    if (netz)
+        netz->Läuft = Wechsel::Zurückholen;
     try {
-        AlleZurückholen(stand, inhalt);
+        UnlesbareBeiseitelegen();
+        AlleZurückholen(stand.Ort, inhalt);
     } catch (...) {
-        melden(false);
+        Zurücknehmen();
+        if (netz)
+            netz->Läuft = Wechsel::Keiner;
+        NetzlageGeändert();
         throw;
     }
-    melden(false);
+    if (netz) {
+        netz->MarkeGesetzt = true;
+        WechselGelungen();
+    } else {
+        MarkeAbnehmen(false);
+    }
     VonFestplatteLaden();
 }
 

@@ -1,7 +1,9 @@
 // The tables survive a bad end of the program.
 #include "history/Notwehr.h"
 
+#include "history/Aufräumen.h"
 #include "history/Stände.h"
+#include "history/Tabellenstand.h"
 #include "platform/Absturz.h"
 #include "platform/Laufwerke.h"
 #include "platform/Uhr.h"
@@ -19,6 +21,7 @@ using Pfadtext = path::string_type;
 /// All paths of one place to which the tables can go.
 struct Zuflucht {
     std::vector<Pfadtext> Wege; // the directories that lead there, from the root on
+    Pfadtext Verzeichnis;
     Pfadtext InArbeit;
     std::array<Pfadtext, 8> Dateien;
     Pfadtext Ziel; // its last characters are the name of the state, whose time is put in then
@@ -26,7 +29,9 @@ struct Zuflucht {
 
 std::vector<Zuflucht> zufluchten;
 std::string puffer;
-std::time_t ortszeit = 0; // what local time is ahead of the system's
+std::time_t ortszeit = 0;     // what local time is ahead of the system's
+std::time_t spätesteZeit = 0; // of the newest state, in local time
+Pfadtext reserve;
 
 // What runs in the end: no memory is taken.
 
@@ -38,7 +43,7 @@ void Ziffern(Pfadtext &ziel, std::size_t stelle, int zahl, std::size_t stellen)
 
 void ZeitEinsetzen(Pfadtext &ziel, std::size_t namenslänge)
 {
-    const std::time_t jetzt = std::time(nullptr) + ortszeit;
+    const std::time_t jetzt = std::max(std::time(nullptr) + ortszeit, spätesteZeit + 1);
     const std::time_t tage = jetzt / SekundenProTag;
     const Kalendertag tag = KalendertagVon(static_cast<Datum>(tage));
     const int sekunde = static_cast<int>(jetzt % SekundenProTag);
@@ -57,31 +62,42 @@ const Text &Musterzeit()
     return name;
 }
 
+/// Puts a file into the buffer. One that holds a value which cannot be written is left out.
+bool Schreibbar(const Datei &datei)
+{
+    puffer.clear();
+    try {
+        datei.Schreiben(puffer);
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
 bool GelangtNach(Zuflucht &zuflucht)
 {
     for (const Pfadtext &weg : zuflucht.Wege)
         notschrift::VerzeichnisAnlegen(weg.c_str());
     if (!notschrift::VerzeichnisAnlegen(zuflucht.InArbeit.c_str()))
         return false;
-    for (std::size_t i = 0; i < Dateien.size(); ++i) {
-        puffer.clear();
-        Dateien[i].Schreiben(puffer);
-        if (!notschrift::Schreiben(zuflucht.Dateien[i].c_str(), puffer))
+    for (std::size_t i = 0; i < Dateien.size(); ++i)
+        if (Schreibbar(Dateien[i]) && !notschrift::Schreiben(zuflucht.Dateien[i].c_str(), puffer))
             return false;
-    }
+    notschrift::Durchschreiben(zuflucht.InArbeit.c_str());
     ZeitEinsetzen(zuflucht.Ziel, Musterzeit().size());
-    return notschrift::Umbenennen(zuflucht.InArbeit.c_str(), zuflucht.Ziel.c_str());
+    if (!notschrift::Umbenennen(zuflucht.InArbeit.c_str(), zuflucht.Ziel.c_str()))
+        return false;
+    notschrift::Durchschreiben(zuflucht.Verzeichnis.c_str());
+    return true;
 }
 
 void TabellenRetten()
 {
-    try {
-        for (Zuflucht &zuflucht : zufluchten)
-            if (GelangtNach(zuflucht))
-                return;
-    } catch (...) {
-        // Such tables could not be saved either.
-    }
+    TabellenBeiseite::AlleZurück();
+    notschrift::Entfernen(reserve.c_str());
+    for (Zuflucht &zuflucht : zufluchten)
+        if (GelangtNach(zuflucht))
+            return;
 }
 
 // What is prepared.
@@ -96,7 +112,8 @@ Zuflucht ZufluchtIn(const path &verzeichnis, bool mitDenenDarüber)
             break;
     }
     std::ranges::reverse(zuflucht.Wege);
-    const path inArbeit = verzeichnis / NotfallInArbeit;
+    zuflucht.Verzeichnis = verzeichnis.native();
+    const path inArbeit = verzeichnis / PfadAus(Restname(Rest::NotfallInArbeit));
     zuflucht.InArbeit = inArbeit.native();
     std::ranges::transform(Dateien, zuflucht.Dateien.begin(), [&](const Datei &datei) {
         return (inArbeit / PfadAus(datei.Name)).native();
@@ -112,12 +129,17 @@ void NotwehrBereitstellen()
     constexpr std::size_t Reichlich = std::size_t(16) << 20; // for the largest file; untouched
     try {
         puffer.reserve(Reichlich);
+        PlatzReservieren();
+        reserve = Platzreserve().native();
         zufluchten.clear();
         zufluchten.push_back(ZufluchtIn(Ständeverzeichnis(), false));
         for (const path &ausweg : Laufwerke.Ausweichverzeichnisse())
             zufluchten.push_back(ZufluchtIn(ausweg, true));
         const auto tage = static_cast<std::time_t>(Uhr.Heute());
         ortszeit = tage * SekundenProTag + Uhr.Sekunden() - std::time(nullptr);
+        if (const auto stände = AlleStände(); !stände.empty())
+            spätesteZeit = static_cast<std::time_t>(stände.back().Zeit.Tag) * SekundenProTag +
+                           stände.back().Zeit.Sekunde;
         BeiAbsturz(TabellenRetten);
     } catch (...) {
         // Then there is none.
@@ -127,6 +149,7 @@ void NotwehrBereitstellen()
 void NotwehrBeenden()
 {
     BeiAbsturz(nullptr);
+    PlatzFreigeben();
 }
 
 } // namespace altardienst

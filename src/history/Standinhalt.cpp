@@ -177,16 +177,15 @@ Standinhalt InhaltDerTabellen()
 {
     const Int16 zähler = SchleifenZähler;
     Standinhalt inhalt;
-    try {
-        std::ranges::transform(Dateien, inhalt.Dateien.begin(), [](const Datei &datei) {
-            std::string bytes;
-            datei.Schreiben(bytes);
-            return Standdatei{datei.Name, std::move(bytes)};
-        });
-    } catch (...) {
-        SchleifenZähler = zähler;
-        throw;
-    }
+    std::ranges::transform(Dateien, inhalt.Dateien.begin(), [](const Datei &datei) {
+        Standdatei diese{datei.Name, std::string()};
+        try {
+            datei.Schreiben(*diese.Bytes);
+        } catch (const Laufzeitfehler &) {
+            diese.Bytes.reset();
+        }
+        return diese;
+    });
     SchleifenZähler = zähler;
     return inhalt;
 }

@@ -31,7 +31,8 @@ struct Standinhalt {
 /// Never fails: a file that cannot be read, or is not there, is left out.
 Standinhalt InhaltVon(const std::filesystem::path &verzeichnis);
 
-/// What a save would write now. The tables and the shared loop counter stay as they are.
+/// What a save would write now; a file that holds a value which cannot be written is left out. The
+/// tables and the shared loop counter stay as they are.
 Standinhalt InhaltDerTabellen();
 
 /// How far a load gets with the eight files.

@@ -1,38 +1,29 @@
 // Earlier states of the eight files.
 #include "history/Stände.h"
 
+#include "history/Aufräumen.h"
+#include "platform/Einzellauf.h"
 #include "platform/Laufwerke.h"
 #include "platform/Uhr.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
-#include <map>
-#include <set>
+#include <utility>
 
 namespace altardienst {
 namespace {
 
 using std::filesystem::path;
 
-// Directories of these names are no states.
-constexpr const char *InArbeit = "unfertig";
-constexpr const char *ZuLöschen = "geloescht";
-
-constexpr const char *NotfallZusatz = " Notfall";
-constexpr const char *ErledigtZusatz = " Notfall erledigt";
-
-Text Zusatz(Standart art)
-{
-    switch (art) {
-    case Standart::Notfall:
-        return NotfallZusatz;
-    case Standart::NotfallErledigt:
-        return ErledigtZusatz;
-    case Standart::Gewöhnlich:
-        break;
-    }
-    return "";
-}
+/// What stands after the time in the name of a state.
+constexpr std::array<std::pair<Standart, const char *>, 5> Zusätze = {{
+    {Standart::Gewöhnlich, ""},
+    {Standart::Notfall, " Notfall"},
+    {Standart::NotfallErledigt, " Notfall erledigt"},
+    {Standart::VorAbbruch, " vor Abbruch"},
+    {Standart::OhneKomma, " ohne Komma"},
+}};
 
 template <class... Werte> Text Formatiert(const char *muster, Werte... werte)
 {
@@ -61,23 +52,19 @@ void NachZeitOrdnen(std::vector<Stand> &stände)
     std::ranges::sort(stände, {}, &Stand::Zeit);
 }
 
-/// Of now, and later than every state of this second.
-Standzeit JetzigeZeit(const std::vector<Stand> &stände)
+/// Of now, but later than every state, even if the clock went back meanwhile: the newest state
+/// must be the last one.
+Standzeit NächsteZeit(const std::vector<Stand> &stände)
 {
-    Standzeit zeit{Uhr.Heute(), Uhr.Sekunden(), 1};
-    for (const Stand &stand : stände)
-        if (stand.Zeit.Tag == zeit.Tag && stand.Zeit.Sekunde == zeit.Sekunde)
-            zeit.Nummer = std::max(zeit.Nummer, stand.Zeit.Nummer + 1);
+    Standzeit zeit;
+    do { // not over midnight
+        zeit = {Uhr.Heute(), Uhr.Sekunden(), 1};
+    } while (zeit.Tag != Uhr.Heute());
+    if (!stände.empty() && stände.back().Zeit >= zeit) {
+        zeit = stände.back().Zeit;
+        ++zeit.Nummer;
+    }
     return zeit;
-}
-
-/// Raises failure 76 if the program's own directory is not there: to make that is not our part.
-path StändeverzeichnisAnlegen()
-{
-    Laufwerke.Auflisten(Laufwerke.Programmverzeichnis());
-    path verzeichnis = Ständeverzeichnis();
-    Laufwerke.VerzeichnisAnlegen(verzeichnis);
-    return verzeichnis;
 }
 
 void DateienSchreiben(const path &verzeichnis, const Standinhalt &inhalt)
@@ -92,11 +79,6 @@ void DateienSchreiben(const path &verzeichnis, const Standinhalt &inhalt)
     Laufwerke.Durchschreiben(verzeichnis);
 }
 
-bool LädtGanz(const Stand &stand)
-{
-    return InhaltLesen(InhaltVon(stand.Ort)).Befund.Was == Ladebefund::Vollständig;
-}
-
 void Versuchen(const auto &schritt)
 {
     try {
@@ -104,6 +86,16 @@ void Versuchen(const auto &schritt)
     } catch (const Laufzeitfehler &) {
         // It is tried again the next time.
     }
+}
+
+void Umbenennen(Standart von, Standart nach)
+{
+    for (const Stand &stand : AlleStände())
+        if (stand.Art == von)
+            Versuchen([&] {
+                const path ziel = stand.Ort.parent_path() / PfadAus(Standname(stand.Zeit, nach));
+                Laufwerke.Umbenennen(stand.Ort, ziel);
+            });
 }
 
 } // namespace
@@ -115,7 +107,8 @@ Text Standname(const Standzeit &zeit, Standart art)
                            zeit.Sekunde / 3600, zeit.Sekunde / 60 % 60, zeit.Sekunde % 60);
     if (zeit.Nummer > 1)
         name += Formatiert(" (%d)", zeit.Nummer);
-    return name + Zusatz(art);
+    const auto *zusatz = std::ranges::find(Zusätze, art, &std::pair<Standart, const char *>::first);
+    return name + zusatz->second;
 }
 
 std::optional<Stand> StandAusName(const Text &name)
@@ -132,10 +125,9 @@ std::optional<Stand> StandAusName(const Text &name)
     try {
         Stand stand;
         stand.Zeit = {DatumAus(tag), stunde * 3600 + minute * 60 + sekunde, nummer};
-        for (const Standart art :
-             {Standart::Gewöhnlich, Standart::Notfall, Standart::NotfallErledigt}) {
-            stand.Art = art;
-            if (Standname(stand.Zeit, art) == name) // nothing more and nothing less
+        for (const auto &zusatz : Zusätze) {
+            stand.Art = zusatz.first;
+            if (Standname(stand.Zeit, stand.Art) == name) // nothing more and nothing less
                 return stand;
         }
     } catch (const Laufzeitfehler &) {
@@ -158,28 +150,59 @@ std::vector<Stand> AlleStände()
     return stände;
 }
 
-bool StandSichern(const Standinhalt &inhalt)
+bool WartetAufEntscheidung(const Stand &stand)
 {
-    if (inhalt.Leer())
-        return false;
+    return stand.Art == Standart::Notfall || stand.Art == Standart::VorAbbruch;
+}
+
+path StändeverzeichnisAnlegen()
+{
+    const path darüber = Laufwerke.Programmverzeichnis();
+    const auto namen = Laufwerke.Auflisten(darüber).Verzeichnisse;
+    path verzeichnis = Ständeverzeichnis();
+    Laufwerke.VerzeichnisAnlegen(verzeichnis);
+    ZugangWieZurDatei(verzeichnis, darüber / PfadAus(DateiMit(DateiMeßdiener).Name));
+    if (std::ranges::count(namen, TextVon(verzeichnis.filename())) == 0)
+        Laufwerke.Durchschreiben(darüber);
+    return verzeichnis;
+}
+
+bool SchonAufgehoben(const Standinhalt &inhalt)
+{
     const std::vector<Stand> stände = AlleStände();
-    if (!stände.empty() && InhaltVon(stände.back().Ort) == inhalt)
+    for (auto stand = stände.rbegin(); stand != stände.rend(); ++stand) {
+        if (InhaltVon(stand->Ort) == inhalt)
+            return true;
+        if (stand->Art != Standart::OhneKomma && !WartetAufEntscheidung(*stand))
+            break;
+    }
+    return false;
+}
+
+bool StandSichern(const Standinhalt &inhalt, Standart art)
+{
+    if (inhalt.Leer() || SchonAufgehoben(inhalt))
         return false;
-    VerzeichnisSchreiben(StändeverzeichnisAnlegen(),
-                         Standname(JetzigeZeit(stände), Standart::Gewöhnlich), inhalt);
+    const path verzeichnis = StändeverzeichnisAnlegen();
+    MitPlatz([&] {
+        VerzeichnisSchreiben(verzeichnis, Standname(NächsteZeit(AlleStände()), art), inhalt);
+    });
     return true;
 }
 
 void NotfallSichern(const Standinhalt &inhalt)
 {
-    const Text name = Standname(JetzigeZeit(AlleStände()), Standart::Notfall);
+    const Text name = Standname(NächsteZeit(AlleStände()), Standart::Notfall);
     try {
-        return VerzeichnisSchreiben(StändeverzeichnisAnlegen(), name, inhalt);
+        PlatzFreigeben();
+        const path verzeichnis = StändeverzeichnisAnlegen();
+        return MitPlatz([&] { VerzeichnisSchreiben(verzeichnis, name, inhalt); });
     } catch (const Laufzeitfehler &) {
         const std::vector<path> auswege = Laufwerke.Ausweichverzeichnisse();
         for (const path &ausweg : auswege) {
             try {
                 Laufwerke.VerzeichnisAnlegen(ausweg);
+                ZugangWieZurDatei(ausweg, {});
                 return VerzeichnisSchreiben(ausweg, name, inhalt);
             } catch (const Laufzeitfehler &) {
                 if (ausweg == auswege.back())
@@ -190,61 +213,37 @@ void NotfallSichern(const Standinhalt &inhalt)
     }
 }
 
+void AlsNeuestenStand(const path &verzeichnis, Standart art)
+{
+    const Text name = Standname(NächsteZeit(AlleStände()), art);
+    Laufwerke.Umbenennen(verzeichnis, Ständeverzeichnis() / PfadAus(name));
+    Laufwerke.Durchschreiben(Ständeverzeichnis());
+}
+
 void NotfälleErledigen()
 {
+    Umbenennen(Standart::Notfall, Standart::NotfallErledigt);
+}
+
+void AbbrücheErledigen()
+{
+    Umbenennen(Standart::VorAbbruch, Standart::Gewöhnlich);
+}
+
+void AusweichständeHolen()
+{
     for (const Stand &stand : AlleStände())
-        if (stand.Art == Standart::Notfall)
+        if (stand.Ort.parent_path() != Ständeverzeichnis())
             Versuchen([&] {
-                const Text name = Standname(stand.Zeit, Standart::NotfallErledigt);
-                Laufwerke.Umbenennen(stand.Ort, stand.Ort.parent_path() / PfadAus(name));
+                VerzeichnisSchreiben(StändeverzeichnisAnlegen(), Standname(stand.Zeit, stand.Art),
+                                     InhaltVon(stand.Ort));
+                VerzeichnisEntfernen(stand.Ort);
             });
-}
-
-std::vector<Stand> Entbehrliche(std::vector<Stand> stände, Datum heute)
-{
-    constexpr int AlleTage = 7;
-    constexpr int LetzterDesTages = 60;      // days
-    constexpr int LetzterDesMonats = 5 * 12; // months
-    constexpr std::size_t Wenigste = 10;
-
-    const auto monat = [](Datum tag) {
-        const Kalendertag k = KalendertagVon(tag);
-        return k.Jahr * 12 + k.Monat;
-    };
-    NachZeitOrdnen(stände);
-    std::set<Datum> tage;
-    std::set<int> monate;
-    std::vector<Stand> entbehrlich;
-    std::size_t behalten = 0;
-    for (auto stand = stände.rbegin(); stand != stände.rend(); ++stand) {
-        const Datum alter = heute - stand->Zeit.Tag;
-        const bool letzterDesTages = tage.insert(stand->Zeit.Tag).second;
-        const bool letzterDesMonats = monate.insert(monat(stand->Zeit.Tag)).second;
-        if (behalten < Wenigste || alter < AlleTage ||
-            (letzterDesTages && alter < LetzterDesTages) ||
-            (letzterDesMonats && monat(heute) - monat(stand->Zeit.Tag) < LetzterDesMonats))
-            ++behalten;
-        else
-            entbehrlich.push_back(*stand);
-    }
-    return entbehrlich;
-}
-
-void StändeAufräumen()
-{
-    const std::vector<Stand> alle = AlleStände();
-    const std::vector<Stand> entbehrlich = Entbehrliche(alle, Uhr.Heute());
-    if (entbehrlich.empty())
-        return;
-    const auto ganz = std::find_if(alle.rbegin(), alle.rend(), LädtGanz);
-    for (const Stand &stand : entbehrlich)
-        if (ganz == alle.rend() || stand.Ort != ganz->Ort)
-            Versuchen([&] { VerzeichnisEntfernen(stand.Ort); });
 }
 
 void VerzeichnisSchreiben(const path &verzeichnis, const Text &name, const Standinhalt &inhalt)
 {
-    const path daneben = verzeichnis / InArbeit;
+    const path daneben = verzeichnis / PfadAus(Restname(Rest::InArbeit));
     const path ziel = verzeichnis / PfadAus(name);
     Laufwerke.Löschen(daneben);
     try {
@@ -258,21 +257,15 @@ void VerzeichnisSchreiben(const path &verzeichnis, const Text &name, const Stand
     Laufwerke.Durchschreiben(verzeichnis);
 }
 
+/// What cannot be deleted then, the next start deletes.
 void VerzeichnisEntfernen(const path &verzeichnis)
 {
-    const path weg = verzeichnis.parent_path() / ZuLöschen;
-    Laufwerke.Löschen(weg);
+    static int zahl = 0; // what was not deleted is not in the way of the next
+    const path weg = verzeichnis.parent_path() /
+                     PfadAus(Restname(Rest::ZuLöschen) + " " + std::to_string(++zahl));
     Laufwerke.Umbenennen(verzeichnis, weg);
-    Laufwerke.Löschen(weg);
-}
-
-void ResteEntfernen()
-{
-    std::vector<path> orte = Laufwerke.Ausweichverzeichnisse();
-    orte.push_back(Ständeverzeichnis());
-    for (const path &ort : orte)
-        for (const char *rest : {InArbeit, ZuLöschen, NotfallInArbeit})
-            Versuchen([&] { Laufwerke.Löschen(ort / rest); });
+    Laufwerke.Durchschreiben(weg.parent_path());
+    Versuchen([&] { Laufwerke.Löschen(weg); });
 }
 
 } // namespace altardienst

@@ -12,11 +12,13 @@
 
 namespace altardienst {
 
-/// What a state is: the files as they lay there, or the tables of a program that came to a bad end.
+/// What a state is: the files as they lay there, or something that was kept beside them.
 enum class Standart {
     Gewöhnlich,
-    Notfall,        // nobody has decided about it yet
-    NotfallErledigt // it was brought back, or the work went on without it
+    Notfall,         // the tables of a program that came to a bad end; nobody has decided yet
+    NotfallErledigt, // it was brought back, or the work went on without it
+    VorAbbruch,      // the files before a save that did not end; nobody has decided yet
+    OhneKomma        // files that a comma has torn, as a whole
 };
 
 /// When it was taken, in local time; the directory is named after it: "2026-11-21 12-00-05". Of
@@ -39,6 +41,8 @@ struct Stand {
     std::filesystem::path Ort; // its directory
 };
 
+bool WartetAufEntscheidung(const Stand &stand);
+
 /// The name of the directory of a state, and back; nothing for a directory that is none.
 Text Standname(const Standzeit &zeit, Standart art);
 std::optional<Stand> StandAusName(const Text &name);
@@ -49,23 +53,32 @@ std::filesystem::path Ständeverzeichnis();
 /// All states, oldest first, also those in the places to which they give way.
 std::vector<Stand> AlleStände();
 
-/// Keeps these files as a state of now, unless they are those of the newest or there is none;
-/// returns whether there is a new one. Failures 61, 75, 76: then nothing has changed.
-bool StandSichern(const Standinhalt &inhalt);
+/// Whether these files are in the newest state, not counting what was kept beside the files.
+bool SchonAufgehoben(const Standinhalt &inhalt);
+
+/// Keeps these files as a state of now, unless they are kept already or there is none; returns
+/// whether there is a new one. Its time is never before that of the newest, whatever the clock
+/// says. If there is no room, states that may go make some. Failures 61, 75, 76: then nothing else
+/// has changed.
+bool StandSichern(const Standinhalt &inhalt, Standart art = Standart::Gewöhnlich);
 
 /// Keeps these files as an emergency: in the place of the states, or where that fails, in the
 /// user's own places. The failure of the last one if all fail.
 void NotfallSichern(const Standinhalt &inhalt);
 
-/// No emergency waits for a decision any more. Never fails.
+/// A directory in the place of the states, or a state, becomes the newest state, which takes no
+/// room. Failures 53, 75.
+void AlsNeuestenStand(const std::filesystem::path &verzeichnis, Standart art);
+
+/// No emergency, or no interrupted save, waits for a decision any more. Never fails.
 void NotfälleErledigen();
+void AbbrücheErledigen();
 
-/// The states that may go: all but those of the last 7 days, the last of each day for 60 days, the
-/// last of each month for 5 years, and the newest 10. Their order does not matter.
-std::vector<Stand> Entbehrliche(std::vector<Stand> stände, Datum heute);
+/// Emergencies that had to give way come to the other states, if these have room now. Never fails.
+void AusweichständeHolen();
 
-/// Removes the states that may go, but never the newest one whose files load whole. Never fails.
-void StändeAufräumen();
+/// Raises failure 76 if the program's own directory is not there: to make that is not our part.
+std::filesystem::path StändeverzeichnisAnlegen();
 
 /// Writes files into a new directory of this name in the place of the states: complete, on the
 /// medium, or not at all. Failures 58 (the name is there), 61, 75, 76.
@@ -73,13 +86,7 @@ void VerzeichnisSchreiben(const std::filesystem::path &verzeichnis, const Text &
                           const Standinhalt &inhalt);
 
 /// Makes a directory in the place of the states disappear at once and then deletes it. Failures 53,
-/// 75.
+/// 75: it is still there.
 void VerzeichnisEntfernen(const std::filesystem::path &verzeichnis);
-
-/// The directory in which an emergency is written while the process dies.
-constexpr const char *NotfallInArbeit = "Notfall unfertig";
-
-/// Removes what a run that was killed has left half written or half deleted. Never fails.
-void ResteEntfernen();
 
 } // namespace altardienst

@@ -1,6 +1,7 @@
 // "Frühere Stände": the list of earlier states, what differs from now, and bringing one back.
 #include "history/StändeForm.h"
 
+#include "application/Nebenfenster.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
@@ -61,8 +62,18 @@ QTableWidget *Ständeliste()
 
 Text StandText(const Stand &stand)
 {
-    const Text text = ZeitText(stand);
-    return stand.Art == Standart::Gewöhnlich ? text : text + " Notfall";
+    switch (stand.Art) {
+    case Standart::Gewöhnlich:
+        break;
+    case Standart::Notfall:
+    case Standart::NotfallErledigt:
+        return ZeitText(stand) + " Notfall";
+    case Standart::VorAbbruch:
+        return ZeitText(stand) + " vor dem Abbruch";
+    case Standart::OhneKomma:
+        return ZeitText(stand) + " ohne Komma";
+    }
+    return ZeitText(stand);
 }
 
 StändeForm::StändeForm(std::function<void()> zurückgeholt)
@@ -140,12 +151,15 @@ Text StändeForm::Satz(const Gelesenes &gelesenes) const
                           : "unvollständig: " + befund;
 }
 
+/// A row that cannot be filled does not keep the later ones from it.
 void StändeForm::NächsteZeile()
 {
     if (gefüllt >= Liste->rowCount())
-        return;
+        return Vorwählen(ersatz);
+    QTimer::singleShot(0, this, Nebenbei([this] { NächsteZeile(); }));
     const int zeile = gefüllt++;
-    const Gelesenes gelesenes = InhaltLesen(InhaltVon(stände[static_cast<std::size_t>(zeile)].Ort));
+    const Stand &stand = stände[static_cast<std::size_t>(zeile)];
+    const Gelesenes gelesenes = InhaltLesen(InhaltVon(stand.Ort));
     const Standübersicht übersicht = ÜbersichtVon(gelesenes.Tabellen);
     Liste->setItem(zeile, Diener, Zelle(ZahlText(übersicht.Diener), true));
     Liste->setItem(zeile, Helferspalte, Zelle(ZahlText(übersicht.Messehelfer), true));
@@ -154,18 +168,26 @@ void StändeForm::NächsteZeile()
     Liste->setItem(zeile, Seither, Zelle(Satz(gelesenes)));
     if (zeile == Zeile())
         Setzen(Hinweis, SeitherIn(zeile));
-    Vorwählen(zeile, gelesenes.Befund.Was == Ladebefund::Vollständig);
-    QTimer::singleShot(0, this, Nebenbei([this] { NächsteZeile(); }));
+    Beurteilen(zeile, gelesenes.Befund.Was == Ladebefund::Vollständig, übersicht.Leer());
 }
 
-/// The one that whoever comes here from a warning needs: the emergency that waits, else the newest
-/// whose files load whole.
-void StändeForm::Vorwählen(int zeile, bool ganz)
+/// Looks for the one that whoever comes here from a warning needs: the emergency that waits, else
+/// the newest whose files load whole and are not those of an emptied parish.
+void StändeForm::Beurteilen(int zeile, bool ganz, bool leer)
 {
-    if (vorgewählt || !ganz)
-        return;
-    const auto &notfall = Netz().Notfall;
-    if (notfall && stände[static_cast<std::size_t>(zeile)].Ort != notfall->Ort)
+    if (const auto &notfall = Netz().Notfall) {
+        if (stände[static_cast<std::size_t>(zeile)].Ort == notfall->Ort)
+            return Vorwählen(zeile);
+    } else if (ganz && !leer) {
+        return Vorwählen(zeile);
+    }
+    if (ganz && ersatz < 0)
+        ersatz = zeile;
+}
+
+void StändeForm::Vorwählen(int zeile)
+{
+    if (vorgewählt || zeile < 0)
         return;
     Liste->selectRow(zeile);
     Liste->setCurrentCell(zeile, StandSpalte);
@@ -216,14 +238,29 @@ void StändeForm::StandHolen()
                 "Stand aufgehoben.",
             "Zurückholen"))
         return;
-    try {
-        StandZurückholen(stand);
-    } catch (const Laufzeitfehler &fehler) {
-        return Setzen(Hinweis,
-                      Text("Dieser Stand läßt sich nicht zurückholen: ") + fehler.what() + ".");
-    }
+    if (!Geholt(stand))
+        return;
     close();
     zurückgeholt();
+}
+
+/// What stands typed in other windows belongs to what is kept; then they show what came back.
+bool StändeForm::Geholt(const Stand &stand)
+{
+    bool geholt = false;
+    HauptfensterHandelt([&] {
+        try {
+            StandZurückholen(stand);
+            geholt = true;
+        } catch (const Laufzeitfehler &fehler) {
+            Text satz = Text("Dieser Stand läßt sich nicht zurückholen: ") + fehler.what() + ".";
+            if (Netz().SpeichernAbgebrochen)
+                satz += " Die acht Dateien können aus zwei Speicherungen stammen; was das Programm "
+                        "jetzt weiß, ist aufgehoben.";
+            Setzen(Hinweis, satz);
+        }
+    });
+    return geholt;
 }
 
 } // namespace altardienst

@@ -34,10 +34,12 @@ class StändeForm : public Dialogfenster {
     void Verbinden();
 
     void NächsteZeile();
-    void Vorwählen(int zeile, bool ganz);
+    void Beurteilen(int zeile, bool ganz, bool leer);
+    void Vorwählen(int zeile);
     void Gewählt();
     void AnsichtZeigen();
     void StandHolen();
+    bool Geholt(const Stand &stand);
 
     int Zeile() const;
     Text SeitherIn(int zeile) const;
@@ -47,6 +49,7 @@ class StändeForm : public Dialogfenster {
     std::vector<Stand> stände; // newest first
     Tabellenstand jetzt;
     int gefüllt = 0;
+    int ersatz = -1;         // the row to choose if no other is worth it
     bool vorgewählt = false; // by the window or by the user
 };
 

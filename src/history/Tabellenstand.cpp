@@ -27,6 +27,8 @@ template <class T> std::shared_ptr<T> Verschoben(T &tabelle)
     return std::make_shared<T>(std::move(tabelle)); // a table is too large for the stack
 }
 
+TabellenBeiseite *innerste = nullptr;
+
 } // namespace
 
 Tabellenstand TabellenAufnehmen()
@@ -38,20 +40,33 @@ Tabellenstand TabellenAufnehmen()
     return stand;
 }
 
-TabellenBeiseite::TabellenBeiseite() : zähler(SchleifenZähler)
+TabellenBeiseite::TabellenBeiseite() : zähler(SchleifenZähler), darüber(innerste)
 {
     // All the memory first: from then on nothing can fail.
     FürJedeTabelle(beiseite, [](auto &teil, auto &tabelle) {
         teil = std::make_shared<std::remove_reference_t<decltype(tabelle)>>();
     });
     FürJedeTabelle(beiseite, [](auto &teil, auto &tabelle) { *teil = std::move(tabelle); });
+    innerste = this;
     TabellenLeeren();
 }
 
 TabellenBeiseite::~TabellenBeiseite()
 {
+    Zurück();
+}
+
+void TabellenBeiseite::Zurück() noexcept
+{
     FürJedeTabelle(beiseite, [](auto &teil, auto &tabelle) { tabelle = std::move(*teil); });
     SchleifenZähler = zähler;
+    innerste = darüber;
+}
+
+void TabellenBeiseite::AlleZurück() noexcept
+{
+    while (innerste)
+        innerste->Zurück();
 }
 
 Tabellenstand TabellenBeiseite::Herausnehmen()

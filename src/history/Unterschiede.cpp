@@ -95,7 +95,8 @@ Text HelferÄnderung(const std::vector<Text> &damals, const std::vector<Text> &j
 /// Places of a mass are told as a whole: there are sixty-three of servers alone.
 Text MessenÄnderung(const std::vector<Text> &damals, const std::vector<Text> &jetzt)
 {
-    constexpr std::size_t Zahlen = 4; // lines of the file, from 0
+    constexpr std::size_t Wochentag = 0; // lines of the file, from 0
+    constexpr std::size_t Zahlen = 4;
     constexpr std::size_t Diener = 11;
     constexpr std::size_t Kennung = 74;
     const auto gleich = [&](std::size_t von, std::size_t bis) {
@@ -104,12 +105,16 @@ Text MessenÄnderung(const std::vector<Text> &damals, const std::vector<Text> &j
                           jetzt.begin() + static_cast<long>(von));
     };
     std::vector<Text> teile;
+    if (damals[Wochentag] != jetzt[Wochentag])
+        teile.emplace_back("anderer Wochentag");
     if (!gleich(Zahlen, Diener))
         teile.emplace_back("andere Zahlen der Dienste");
     if (!gleich(Diener, Kennung))
         teile.emplace_back("andere Meßdiener");
     if (!gleich(Kennung, damals.size()))
         teile.emplace_back("andere Helfer");
+    if (teile.empty()) // what its name does not show, such as the seconds
+        teile.emplace_back("andere Zeit");
     return Reihe(teile, ", ");
 }
 

@@ -14,6 +14,8 @@ struct Standübersicht {
     int Messehelfer = 0;
     int Messen = 0;
     Text Zeitraum; // from the first mass to the last; empty if there are none
+
+    bool Leer() const { return Diener == 0 && Messehelfer == 0 && Messen == 0; }
 };
 
 Standübersicht ÜbersichtVon(const Tabellenstand &stand);

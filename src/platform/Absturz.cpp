@@ -46,15 +46,23 @@ void BeiAbbruch(int)
 
 void SignaleFangen()
 {
+    ULONG platz = ULONG(1) << 16; // for the filter, when the stack is used up
+    SetThreadStackGuarantee(&platz);
     SetUnhandledExceptionFilter(BeiAusnahme);
     std::signal(SIGABRT, BeiAbbruch);
 }
 
 #else
 
-/// A second fault, in here, takes the default way, as the handler is gone by then.
+/// A second fault, in here, takes the default way, as the handler is gone by then. What waits for
+/// something that the fault has left locked is ended by the alarm.
 void BeiSignal(int signal)
 {
+    constexpr unsigned Geduld = 10; // seconds
+    struct sigaction tödlich {};
+    tödlich.sa_handler = SIG_DFL;
+    sigaction(SIGALRM, &tödlich, nullptr);
+    alarm(Geduld);
     Retten();
     raise(signal);
 }
@@ -69,8 +77,10 @@ void SignaleFangen()
     struct sigaction handler {};
     handler.sa_handler = BeiSignal;
     handler.sa_flags = SA_RESETHAND | SA_NODEFER | SA_ONSTACK;
-    for (const int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT})
+    for (const int signal :
+         {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGSYS, SIGTRAP, SIGQUIT, SIGXCPU})
         sigaction(signal, &handler, nullptr);
+    std::signal(SIGXFSZ, SIG_IGN); // a file that grows too large is a failed write
 }
 
 #endif
@@ -102,6 +112,13 @@ bool Umbenennen(const Zeichen *von, const Zeichen *nach)
     return _wrename(von, nach) == 0;
 }
 
+void Entfernen(const Zeichen *datei)
+{
+    _wunlink(datei);
+}
+
+void Durchschreiben(const Zeichen *) {} // the system flushes names by itself
+
 bool Schreiben(const Zeichen *pfad, std::string_view bytes)
 {
     const int datei =
@@ -117,7 +134,7 @@ bool Schreiben(const Zeichen *pfad, std::string_view bytes)
 
 bool VerzeichnisAnlegen(const Zeichen *pfad)
 {
-    return mkdir(pfad, 0777) == 0 || errno == EEXIST;
+    return mkdir(pfad, S_IRWXU) == 0 || errno == EEXIST;
 }
 
 bool Umbenennen(const Zeichen *von, const Zeichen *nach)
@@ -125,9 +142,23 @@ bool Umbenennen(const Zeichen *von, const Zeichen *nach)
     return rename(von, nach) == 0;
 }
 
+void Entfernen(const Zeichen *datei)
+{
+    unlink(datei);
+}
+
+void Durchschreiben(const Zeichen *verzeichnis)
+{
+    const int namen = open(verzeichnis, O_RDONLY | O_CLOEXEC);
+    if (namen < 0)
+        return;
+    fsync(namen);
+    close(namen);
+}
+
 bool Schreiben(const Zeichen *pfad, std::string_view bytes)
 {
-    const int datei = open(pfad, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    const int datei = open(pfad, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (datei < 0)
         return false;
     bool ganz = true;

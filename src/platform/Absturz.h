@@ -17,9 +17,11 @@ namespace notschrift {
 
 using Zeichen = std::filesystem::path::value_type;
 
-bool VerzeichnisAnlegen(const Zeichen *pfad);                // may exist
-bool Schreiben(const Zeichen *pfad, std::string_view bytes); // onto the medium
+bool VerzeichnisAnlegen(const Zeichen *pfad);                // may exist; for the user alone
+bool Schreiben(const Zeichen *pfad, std::string_view bytes); // onto the medium; the same
 bool Umbenennen(const Zeichen *von, const Zeichen *nach);
+void Entfernen(const Zeichen *datei);            // may be gone
+void Durchschreiben(const Zeichen *verzeichnis); // its names onto the medium
 
 } // namespace notschrift
 

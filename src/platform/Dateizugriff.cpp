@@ -103,6 +103,9 @@ bool Durchschreiben(std::FILE *datei)
 void Ausgeben(const fs::path &pfad, const char *art, std::string_view inhalt,
               bool durchschreiben = false)
 {
+    std::error_code unbekannt;
+    if (fs::is_fifo(pfad, unbekannt)) // opening it would wait for someone to read from it
+        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
     OffeneDatei datei = Öffnen(pfad, art);
     if (!datei)
         Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);

@@ -68,19 +68,22 @@ fs::path Diskette()
 }
 
 /// The user's own place for what a program keeps, and, as that may be on the same full disk, the
-/// one that the machine keeps in its memory while he is logged in. Nobody else may read them.
+/// one that the machine keeps in its memory while he is logged in. In each, the path of the
+/// program's directory follows once more: several parishes have nothing to do with each other.
 std::vector<fs::path> Ausweichverzeichnisse()
 {
     std::vector<fs::path> verzeichnisse;
+    std::error_code fehler;
+    const fs::path dieses = fs::absolute(Programmverzeichnis(), fehler).lexically_normal();
+    const fs::path name = fs::path("Altardienst") / (dieses / "x").relative_path().parent_path();
 #ifdef _WIN32
     if (const wchar_t *eigene = _wgetenv(L"LOCALAPPDATA"))
-        verzeichnisse.push_back(fs::path(eigene) / "Altardienst");
+        verzeichnisse.push_back(fs::path(eigene) / name);
 #else
     const fs::path eigene = AusUmgebung("XDG_STATE_HOME");
-    verzeichnisse.push_back((eigene.empty() ? Heimverzeichnis() / ".local/state" : eigene) /
-                            "Altardienst");
+    verzeichnisse.push_back((eigene.empty() ? Heimverzeichnis() / ".local/state" : eigene) / name);
     if (const fs::path sitzung = AusUmgebung("XDG_RUNTIME_DIR"); !sitzung.empty())
-        verzeichnisse.push_back(sitzung / "Altardienst");
+        verzeichnisse.push_back(sitzung / name);
 #endif
     return verzeichnisse;
 }

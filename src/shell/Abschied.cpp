@@ -19,6 +19,8 @@
 namespace altardienst {
 namespace {
 
+bool ende = false;
+
 /// While it stands, messages are not shown and questions are answered by no.
 class Stille {
   public:
@@ -41,6 +43,7 @@ void BeiEndeVonAußen(const std::function<void()> &verlassen)
 {
     const auto still = [verlassen] {
         const Stille stille;
+        ende = true;
         verlassen();
     };
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp,
@@ -52,6 +55,11 @@ void BeiEndeVonAußen(const std::function<void()> &verlassen)
 #ifndef Q_OS_WIN
     BeiSignalen({SIGTERM, SIGHUP, SIGINT}, still);
 #endif
+}
+
+bool EndeVonAußen()
+{
+    return ende;
 }
 
 void AndereFensterSchließen(const QWidget *außer)

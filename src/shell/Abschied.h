@@ -11,6 +11,9 @@ namespace altardienst {
 /// desktop session ends.
 void BeiEndeVonAußen(const std::function<void()> &verlassen);
 
+/// Whether that has happened: the event loop of the program may not have been entered by then.
+bool EndeVonAußen();
+
 /// Closes every open window but this one, without a message or a question that nobody could answer:
 /// what was typed there is written as if the user had closed it.
 void AndereFensterSchließen(const QWidget *außer);

@@ -29,6 +29,7 @@
 #include "planning/MessenBestimmen.h"
 #include "planning/MessenlisteForm.h"
 #include "planning/StandardmessenForm.h"
+#include "platform/Meldungen.h"
 #include "platform/Uhr.h"
 #include "printing/DialogForm.h"
 #include "printing/DruckForm.h"
@@ -119,6 +120,7 @@ bool SpeichernOderEnden()
     try {
         AufFestplatteSpeichern();
     } catch (const Laufzeitfehler &fehler) {
+        SpeichernIstGescheitert();
         Meldungen.Zeigen(fehler.Meldung());
         Enden(fehler.Nummer());
         return false;
@@ -140,9 +142,30 @@ void FestplatteLaden()
     Mitteilen(Festplattenbericht(LadenMitBericht(VonFestplatteLaden)));
 }
 
+/// While it stands, `vorher` runs as soon as a question is answered by yes.
+class BeiJa {
+  public:
+    explicit BeiJa(const std::function<void()> &vorher) : fragen(Meldungen.Fragen)
+    {
+        Meldungen.Fragen = [this, vorher](const Text &text, const Text &titel) {
+            const bool ja = fragen(text, titel);
+            if (ja)
+                vorher();
+            return ja;
+        };
+    }
+    ~BeiJa() { Meldungen.Fragen = fragen; }
+    BeiJa(const BeiJa &) = delete;
+    BeiJa &operator=(const BeiJa &) = delete;
+
+  private:
+    decltype(Meldungen.Fragen) fragen;
+};
+
+/// Nothing is kept for a load that the answer to its question prevents.
 void DisketteLaden()
 {
-    VorWechselSichern(Vorher::DateienUndTabellen);
+    const BeiJa sichern(VorWechselSichern);
     const Text bericht = Diskettenbericht(LadenMitBericht(VonDisketteLaden));
     if (!bericht.empty())
         Mitteilen(bericht);
@@ -350,10 +373,8 @@ void HauptForm::MenüZusatz()
 
     QMenu *daten = Menü(zusatz, "mnuDatamenu", "Dat&en");
     Eintrag(daten, "mnuDatenHolen", "Daten &holen", [] {
-        if (!SpeichernOderEnden())
-            return;
-        VorWechselSichern(Vorher::Dateien);
-        DialogÖffnen<DateikopieForm>();
+        if (SpeichernOderEnden())
+            DialogÖffnen<DateikopieForm>();
     });
     Eintrag(daten, "mnuDatenSichern", "Daten &sichern", [] {
         if (SpeichernOderEnden())

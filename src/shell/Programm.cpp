@@ -6,6 +6,7 @@
 #include "core/Allgemein.h"
 #include "help/Hilfetaste.h"
 #include "history/Netz.h"
+#include "history/StändeForm.h"
 #include "settings/KopierForm.h"
 #include "shell/Abschied.h"
 #include "shell/HauptForm.h"
@@ -34,6 +35,8 @@ void NetzlageZeigen()
 /// window.
 void HauptZeigen()
 {
+    if (auto *stände = OffeneForm<StändeForm>()) // what it compares with will change now
+        stände->close();
     if (!Haupt) {
         Haupt = new HauptForm;
         HauptfensterSetzen(Haupt);
@@ -54,7 +57,6 @@ void NachErstkopie(bool kopiert)
 
 void KopierdialogZeigen()
 {
-    VorWechselSichern(Vorher::Dateien);
     DialogDanebenÖffnen<DateienKopierenForm>(NachErstkopie);
     if (Start)
         Start->hide();

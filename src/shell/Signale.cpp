@@ -7,6 +7,7 @@
 #include <QSocketNotifier>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <map>
 #include <set>
@@ -22,8 +23,10 @@ std::map<int, std::function<void()>> handlungen;
 
 void BeiSignal(int signal)
 {
+    const int fehler = errno; // of what was interrupted
     const auto nummer = static_cast<char>(signal);
     [[maybe_unused]] const auto geschrieben = write(röhre[1], &nummer, 1);
+    errno = fehler;
 }
 
 void Abholen()
@@ -57,6 +60,9 @@ void BeiSignalen(const std::vector<int> &signale, const std::function<void()> &f
     handler.sa_handler = BeiSignal;
     handler.sa_flags = SA_RESTART;
     for (const int signal : signale) {
+        struct sigaction bisher {};
+        if (sigaction(signal, nullptr, &bisher) == 0 && bisher.sa_handler == SIG_IGN)
+            continue; // whoever started the program wants it to live on
         handlungen[signal] = f;
         sigaction(signal, &handler, nullptr);
     }

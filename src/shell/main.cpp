@@ -32,7 +32,7 @@ int main(int argc, char *argv[])
         gestartet = true;
     })();
     if (gestartet) {
-        const int ergebnis = QApplication::exec();
+        const int ergebnis = altardienst::EndeVonAußen() ? 0 : QApplication::exec();
         altardienst::NetzEinholen();
         return ergebnis;
     }

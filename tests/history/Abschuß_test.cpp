@@ -1,5 +1,6 @@
 // The program killed at random moments of a save, and while a state is written: nothing is lost.
 // ALTARDIENST_ABSCHUESSE sets how many kills there are of each kind, and prints what was found.
+#include "history/Marke.h"
 #include "history/Netzstand.h"
 
 #ifndef _WIN32
@@ -103,7 +104,7 @@ TEST_F(AbschußTest, EinSpeichernVerliertNichtsWannImmerEsAbbricht)
         VolleTabellen(2);
         Abschießen([] { AufFestplatteSpeichern(); }, Zufällig(dauer * 5 / 4));
         const Standinhalt dort = AufDerPlatte();
-        const bool marke = fs::exists(Stände() / "Speichern");
+        const bool marke = FremdeMarkeLiegt();
         Neustart();
         EXPECT_EQ(Netz().SpeichernAbgebrochen, marke);
         if (dort == neu && !marke) {
@@ -116,8 +117,7 @@ TEST_F(AbschußTest, EinSpeichernVerliertNichtsWannImmerEsAbbricht)
             EXPECT_TRUE(da) << "kill " << lauf;
             EXPECT_TRUE(dort == alt || Netz().SpeichernAbgebrochen);
         }
-        EXPECT_FALSE(fs::exists(Stände() / "unfertig"));
-        EXPECT_FALSE(fs::exists(Stände() / "geloescht"));
+        EXPECT_EQ(Namen().size(), AlleStände().size()) << "no leftovers";
         VolleTabellen(1);
         AufFestplatteSpeichern();
         EXPECT_TRUE(AufDerPlatte() == alt);
@@ -128,6 +128,48 @@ TEST_F(AbschußTest, EinSpeichernVerliertNichtsWannImmerEsAbbricht)
         std::printf("%d kills of a save: %d left files that are not those before, %d came after "
                     "its end, %d lost anything\n",
                     abschüsse, zerrissen, fertig, verloren);
+}
+
+TEST_F(AbschußTest, EinZurückholenVerliertNichtsWannImmerEsAbbricht)
+{
+    VolleTabellen(1);
+    AufFestplatteSpeichern();
+    const Standinhalt alt = InhaltDerTabellen();
+    VolleTabellen(2);
+    const Standinhalt jetzt = InhaltDerTabellen();
+    NetzSpannen(); // keeps what is to be brought back
+    const Stand stand = AlleStände().back();
+    AufFestplatteSpeichern();
+    const auto dauer = Dauer([&] { StandZurückholen(stand); });
+    int gemischt = 0;
+    int verloren = 0;
+    for (int lauf = 0; lauf < abschüsse; ++lauf) {
+        VolleTabellen(2);
+        AufFestplatteSpeichern();
+        for (const Stand &anderer : AlleStände())
+            if (anderer.Ort != stand.Ort)
+                fs::remove_all(anderer.Ort);
+        Abschießen([&] { StandZurückholen(stand); }, Zufällig(dauer * 5 / 4));
+        const Standinhalt dort = AufDerPlatte();
+        Neustart();
+        const bool mischung = !(dort == alt) && !(dort == jetzt);
+        gemischt += mischung ? 1 : 0;
+        const auto stände = AlleStände();
+        const auto da = [&](const Standinhalt &inhalt) {
+            return std::ranges::any_of(stände,
+                                       [&](const Stand &s) { return InhaltVon(s.Ort) == inhalt; });
+        };
+        verloren += da(alt) && da(jetzt) ? 0 : 1;
+        EXPECT_TRUE(da(alt) && da(jetzt)) << "kill " << lauf;
+        if (mischung) {
+            EXPECT_TRUE(Netz().SpeichernAbgebrochen);
+            EXPECT_TRUE(ImNeuesten() == jetzt);
+        }
+    }
+    if (std::getenv("ALTARDIENST_ABSCHUESSE"))
+        std::printf("%d kills while a state is brought back: %d left files of both, %d lost "
+                    "anything\n",
+                    abschüsse, gemischt, verloren);
 }
 
 TEST_F(AbschußTest, EinStandIstGanzDaOderGarNicht)

@@ -2,8 +2,16 @@
 // before something else takes its place.
 #include "history/Netz.h"
 
+#include "core/Ladebericht.h"
 #include "core/SchleifenZähler.h"
+#include "history/Aufräumen.h"
+#include "history/Marke.h"
 #include "history/Netzstand.h"
+#include "platform/Einzellauf.h"
+
+#ifndef _WIN32
+#include <unistd.h>
+#endif
 
 namespace altardienst {
 namespace {
@@ -17,19 +25,70 @@ class NetzTest : public Netzstand {
 
     Text Wort(const char *name) const { return DateiLesen(Festplatte / PfadAus(name)); }
 
-    /// From the nth write into one of the eight files on, the disk is full.
-    void DatenträgerFüllen(int ab)
+    /// From the nth write into one of the eight files on, or into any, the disk is full.
+    void DatenträgerFüllen(int ab, bool überall = false)
     {
         const auto schreiben = Laufwerke.Schreiben;
-        Laufwerke.Schreiben = [this, schreiben, ab, zahl = 0](const fs::path &pfad,
-                                                              std::string_view bytes) mutable {
-            if (pfad.parent_path() == Festplatte && ++zahl >= ab) {
+        Laufwerke.Schreiben = [this, schreiben, ab, überall,
+                               zahl = 0](const fs::path &pfad, std::string_view bytes) mutable {
+            if ((überall || pfad.parent_path() == Festplatte) && ++zahl >= ab) {
                 schreiben(pfad, bytes.substr(0, bytes.size() / 3));
                 throw Laufzeitfehler(Laufzeitfehler::DatenträgerVoll);
             }
             schreiben(pfad, bytes);
         };
     }
+
+    /// It has room again, for this run and for the next.
+    void PlatzSchaffen()
+    {
+        NetzEinholen();
+        Laufwerke.Schreiben = Systemlaufwerke().Schreiben;
+        ++Sekunden;
+        NetzSpannen();
+    }
+
+    /// The mark of this run becomes that of one that was killed.
+    void MarkeVonEinemAnderen() const { fs::rename(Marke(), Stände() / "Speichern 17"); }
+
+    /// A run that was killed at the nth file of a save; before it the disk held this issue.
+    void AbbrechenBei(int n, int davor = 2)
+    {
+        NetzSpannen();
+        GemeindeSpeichern(davor);
+        Gemeinde(davor + 1);
+        DatenträgerFüllen(n); // in front of the net, which sees no failure
+        EXPECT_EQ(NummerDesFehlers([] { AufFestplatteSpeichern(); }), 61);
+        MarkeVonEinemAnderen();
+        NetzEinholen();
+        Laufwerke.Schreiben = Systemlaufwerke().Schreiben;
+    }
+
+    static bool HatStand(const Standinhalt &inhalt)
+    {
+        const auto stände = AlleStände();
+        return std::ranges::any_of(
+            stände, [&](const Stand &stand) { return InhaltVon(stand.Ort) == inhalt; });
+    }
+
+    /// While it stands, the masses' file cannot be read, wherever it is.
+    class Unlesbar {
+      public:
+        Unlesbar() : lesen(Laufwerke.Lesen)
+        {
+            Laufwerke.Lesen = [this](const fs::path &pfad) {
+                if (pfad.filename() == "Messen.dat")
+                    throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
+                return lesen(pfad);
+            };
+        }
+        ~Unlesbar() { Laufwerke.Lesen = lesen; }
+        Unlesbar(const Unlesbar &) = delete;
+        Unlesbar &operator=(const Unlesbar &) = delete;
+
+      private:
+        std::function<std::string(const fs::path &)> lesen;
+    };
 };
 
 // The start.
@@ -92,14 +151,14 @@ TEST_F(NetzTest, WährendDesSpeichernsLiegenDieAltenDateienDaneben)
         int geschrieben = 0;
         Laufwerke.Schreiben = [&](const fs::path &pfad, std::string_view bytes) {
             if (pfad.parent_path() == Festplatte && geschrieben++ > 0) {
-                EXPECT_TRUE(InhaltVon(Stände() / "Speichern") == InhaltDerGemeinde(ausgabe - 1));
+                EXPECT_TRUE(InhaltVon(Marke()) == InhaltDerGemeinde(ausgabe - 1));
             }
             schreiben(pfad, bytes);
         };
         GemeindeSpeichern(ausgabe);
         Laufwerke.Schreiben = schreiben;
         EXPECT_EQ(geschrieben, 8);
-        EXPECT_FALSE(fs::exists(Stände() / "Speichern"));
+        EXPECT_FALSE(MarkeLiegt());
     }
 }
 
@@ -129,13 +188,17 @@ TEST_F(NetzTest, DieMarkeLiegtBevorDieErsteDateiGeschriebenWird)
     folge.clear();
     abHier = false;
     GemeindeSpeichern(2);
-    Liste erwartet = {"unfertig -> Speichern"};
+    const Text unfertig = Restname(Rest::InArbeit);
+    const Text marke = Restname(Rest::Marke);
+    Liste erwartet = {unfertig + " -> " + marke};
     for (const Datei &datei : Dateien)
         erwartet.push_back("schreiben " + Text(datei.Name));
     for (const Datei &datei : Dateien) // once, after the last one
         erwartet.push_back("durch " + Text(datei.Name));
-    erwartet.insert(erwartet.end(), {"durch Festplatte", "Speichern -> geloescht"});
-    EXPECT_EQ(folge, erwartet);
+    erwartet.insert(erwartet.end(), {"durch Festplatte", marke + " -> ", "durch Stände"});
+    ASSERT_EQ(folge.size(), erwartet.size());
+    for (std::size_t i = 0; i < folge.size(); ++i)
+        EXPECT_TRUE(folge[i].starts_with(erwartet[i])) << folge[i];
 }
 
 TEST_F(NetzTest, AndereDateienUndAndereVerzeichnisseGehenDasNetzNichtsAn)
@@ -152,7 +215,7 @@ TEST_F(NetzTest, KannDieMarkeNichtEntstehenWirdTrotzdemGespeichert)
 {
     DateiSchreiben(Stände(), "im Weg");
     NetzSpannen();
-    EXPECT_TRUE(Dauerhinweis().starts_with("Kein früherer Stand aufgehoben: "));
+    EXPECT_TRUE(Dauerhinweis().starts_with("Kein Stand aufgehoben: "));
     EXPECT_EQ(Starthinweis(), "");
     GemeindeSpeichern(2);
     EXPECT_TRUE(AufDerPlatte() == InhaltDerGemeinde(2));
@@ -185,9 +248,68 @@ TEST_F(NetzTest, HältDasMediumDieDateienNichtBleibtDieMarke)
             throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
         durchschreiben(pfad);
     };
+    NotfallSichern(InhaltDerGemeinde(3));
     EXPECT_NO_THROW(GemeindeSpeichern(2)) << "as if nothing had been flushed";
-    EXPECT_TRUE(fs::exists(Stände() / "Speichern"));
+    EXPECT_TRUE(MarkeLiegt());
+    EXPECT_EQ(AlleStände().back().Art, Standart::Notfall) << "nothing is decided by it";
+    EXPECT_EQ(Dauerhinweis(), "Nicht fest auf dem Datenträger: Zugriff verweigert");
+    Laufwerke.Durchschreiben = durchschreiben;
+    GemeindeSpeichern(4);
+    EXPECT_FALSE(MarkeLiegt());
+    EXPECT_TRUE(HatStand(InhaltDerGemeinde(1))) << "the last files that the medium surely held";
+    EXPECT_EQ(AlleStände().front().Art, Standart::Gewöhnlich);
+    EXPECT_EQ(Dauerhinweis(), "");
 }
+
+TEST_F(NetzTest, KonnteEineMarkeNichtEntstehenIstEsNachDerNächstenVergessen)
+{
+    NetzSpannen();
+    const auto umbenennen = Laufwerke.Umbenennen;
+    Laufwerke.Umbenennen = [](const fs::path &, const fs::path &) {
+        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
+    };
+    GemeindeSpeichern(2);
+    EXPECT_EQ(Dauerhinweis(), "Kein Stand aufgehoben: Zugriff verweigert");
+    Laufwerke.Umbenennen = umbenennen;
+    GemeindeSpeichern(3);
+    EXPECT_EQ(Dauerhinweis(), "");
+}
+
+TEST_F(NetzTest, AufVollemDatenträgerSagtDerStartDaßErNichtsAufhebt)
+{
+    DatenträgerFüllen(1, true);
+    NetzSpannen();
+    VonFestplatteLaden();
+    EXPECT_EQ(Dauerhinweis(), "Kein Stand aufgehoben: Datenträger voll");
+    EXPECT_EQ(Starthinweis(), "");
+    EXPECT_EQ(Meßdiener.Anzahl, 2) << "it loads as ever";
+    EXPECT_TRUE(Namen().empty());
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+#ifndef _WIN32
+// The superuser may write everywhere, so the test becomes somebody else for a while.
+TEST_F(NetzTest, EinNurLesbaresVerzeichnisWirdGeladenUndDerStartSagtEs)
+{
+    fs::permissions(Festplatte.parent_path(), fs::perms(0755));
+    fs::permissions(Festplatte, fs::perms(0555));
+    const bool alle = geteuid() == 0;
+    if (alle) {
+        ASSERT_EQ(seteuid(65534), 0);
+    }
+    NetzSpannen();
+    VonFestplatteLaden();
+    EXPECT_EQ(Dauerhinweis(), "Kein Stand aufgehoben: Zugriff verweigert");
+    EXPECT_EQ(Starthinweis(), "");
+    EXPECT_EQ(Meßdiener.Anzahl, 2);
+    EXPECT_TRUE(Namen().empty());
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    if (alle) {
+        ASSERT_EQ(seteuid(0), 0);
+    }
+    fs::permissions(Festplatte, fs::perms(0755));
+}
+#endif
 
 // A save that was cut off.
 
@@ -231,7 +353,7 @@ TEST_F(NetzTest, NachEinemAbgebrochenenSpeichernIstDerStandDavorDerNeueste)
 TEST_F(NetzTest, EinVollständigesSpeichernNimmtDenHinweisWeg)
 {
     NetzSpannen();
-    VerzeichnisSchreiben(Stände(), "Speichern", AufDerPlatte());
+    VerzeichnisSchreiben(Stände(), "Speichern 17", AufDerPlatte());
     Neustart();
     EXPECT_TRUE(Netz().SpeichernAbgebrochen);
     EXPECT_EQ(Dauerhinweis(), "Letztes Speichern unvollständig");
@@ -239,6 +361,256 @@ TEST_F(NetzTest, EinVollständigesSpeichernNimmtDenHinweisWeg)
     EXPECT_EQ(Starthinweis(), "");
     Neustart();
     EXPECT_EQ(Starthinweis(), "");
+}
+
+// The disk is still full when the program starts again: what is there already needs no room.
+TEST_F(NetzTest, AufVollemDatenträgerIstDerStandDavorTrotzdemDerNeuesteUndBleibt)
+{
+    AbbrechenBei(4);
+    DatenträgerFüllen(1, true);
+    Neustart();
+    EXPECT_TRUE(ImNeuesten() == InhaltDerGemeinde(2));
+    EXPECT_EQ(AlleStände().back().Art, Standart::VorAbbruch);
+    EXPECT_NE(Starthinweis().find("Der Stand davor ist aufgehoben."), Text::npos);
+    EXPECT_EQ(Dauerhinweis(),
+              "Nicht alles geladen: Messen.dat. Kein Stand aufgehoben: Datenträger voll");
+    // The work goes on and is saved, when there is room again or when there is none.
+    EXPECT_EQ(NummerDesFehlers([&] { GemeindeSpeichern(4); }), 61);
+    EXPECT_TRUE(HatStand(InhaltDerGemeinde(2)));
+    PlatzSchaffen();
+    GemeindeSpeichern(5);
+    EXPECT_TRUE(HatStand(InhaltDerGemeinde(2)));
+    EXPECT_EQ(Dauerhinweis(), "");
+    Neustart();
+    EXPECT_TRUE(HatStand(InhaltDerGemeinde(2)));
+    EXPECT_EQ(Starthinweis(), "");
+}
+
+// What lies in the mark is never thrown away, even where no name can be changed.
+TEST_F(NetzTest, LäßtSichDieMarkeNichtAufhebenIstNichtsVersprochenUndNichtsVerloren)
+{
+    AbbrechenBei(4);
+    const auto umbenennen = Laufwerke.Umbenennen;
+    Laufwerke.Umbenennen = [](const fs::path &, const fs::path &) {
+        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
+    };
+    Neustart();
+    EXPECT_TRUE(Netz().SpeichernAbgebrochen);
+    EXPECT_EQ(Starthinweis().find("aufgehoben"), Text::npos) << Starthinweis();
+    GemeindeSpeichern(4);
+    Laufwerke.Umbenennen = umbenennen;
+    Neustart();
+    EXPECT_TRUE(HatStand(InhaltDerGemeinde(2)));
+}
+
+TEST_F(NetzTest, EinKommaImAbgebrochenenSpeichernVerdrängtDenStandDavorNicht)
+{
+    NetzSpannen();
+    GemeindeSpeichern(2);
+    Gemeinde(3);
+    Meßdiener.Straße[0] = "Am Markt 3, Hinterhaus";
+    DatenträgerFüllen(5); // the file with the comma is already the new one
+    EXPECT_EQ(NummerDesFehlers([] { AufFestplatteSpeichern(); }), 61);
+    MarkeVonEinemAnderen();
+    PlatzSchaffen();
+    VonFestplatteLaden();
+    EXPECT_GT(Netz().Befund.Komma, 0);
+    const auto zahl = AlleStände().size();
+    for (int start = 0; start < 3; ++start) {
+        EXPECT_TRUE(ImNeuesten() == InhaltDerGemeinde(2)) << start;
+        EXPECT_EQ(AlleStände().size(), zahl) << start;
+        Neustart();
+    }
+}
+
+// The clock.
+
+TEST_F(NetzTest, GehtDieUhrZurückIstDerNeuesteStandDochDerLetzte)
+{
+    Neustart();
+    Sekunden -= 3600; // the end of summer time
+    for (int start = 0; start < 3; ++start)
+        Neustart();
+    EXPECT_EQ(Namen().size(), 1U) << "nothing has changed";
+    GemeindeSpeichern(2);
+    Neustart();
+    EXPECT_TRUE(ImNeuesten() == InhaltDerGemeinde(2));
+    EXPECT_EQ(Namen().back(), "2026-11-21 12-00-01 (2)");
+    Heute = DatumAus({2000, 1, 1}); // an empty battery
+    GemeindeSpeichern(3);
+    Neustart();
+    Neustart();
+    EXPECT_TRUE(ImNeuesten() == InhaltDerGemeinde(3));
+    EXPECT_EQ(Namen().size(), 3U);
+    Heute = DatumAus({2026, 12, 1});
+    GemeindeSpeichern(4);
+    Neustart();
+    EXPECT_EQ(Namen().size(), 4U);
+    EXPECT_TRUE(ImNeuesten() == InhaltDerGemeinde(4));
+    AbbrechenBei(4, 5);
+    Heute -= 30;
+    Neustart();
+    EXPECT_TRUE(ImNeuesten() == InhaltDerGemeinde(5));
+    const auto zahl = AlleStände().size();
+    Neustart();
+    EXPECT_EQ(AlleStände().size(), zahl);
+}
+
+TEST_F(NetzTest, EineUhrInDerZukunftKostetKeinenStand)
+{
+    NetzSpannen();
+    for (int monat = 0; monat < 30; ++monat)
+        fs::copy(AlleStände().front().Ort,
+                 Stände() / Standname({Heute - 31 * monat, 5, 1}, Standart::Gewöhnlich));
+    const auto zahl = AlleStände().size();
+    Heute = DatumAus({2040, 1, 1});
+    for (int ausgabe = 2; ausgabe < 6; ++ausgabe) {
+        GemeindeSpeichern(ausgabe);
+        Neustart();
+    }
+    EXPECT_EQ(AlleStände().size(), zahl + 4);
+}
+
+// Two runs at the same time.
+
+TEST_F(NetzTest, EinZweiterLaufLäßtLiegenWasDerErsteGeradeTut)
+{
+    const Alleinlauf erster(Festplatte);
+    ASSERT_TRUE(erster.Gilt());
+    for (const char *rest : {"unfertig 17", "Speichern 17", "geloescht 17"}) {
+        fs::create_directories(Stände() / rest);
+        DateiSchreiben(Stände() / rest / "Konfig.cfg", "halb");
+    }
+    Neustart();
+    EXPECT_EQ(Starthinweis(), "");
+    GemeindeSpeichern(2);
+    EXPECT_EQ(Namen(),
+              (Liste{"2026-11-21 12-00-01", "Speichern 17", "geloescht 17", "unfertig 17"}));
+}
+
+TEST_F(NetzTest, IstDerErsteNichtMehrDaSindSeineResteWelche)
+{
+    {
+        const Alleinlauf erster(Festplatte);
+        EXPECT_FALSE(Alleinlauf(Festplatte).Gilt());
+    }
+    fs::create_directories(Stände() / "unfertig 17");
+    Neustart();
+    EXPECT_EQ(Namen(), Liste{"2026-11-21 12-00-01"});
+    EXPECT_FALSE(Alleinlauf(Festplatte).Gilt());
+    NetzEinholen();
+    EXPECT_TRUE(Alleinlauf(Festplatte).Gilt());
+}
+
+// A file that cannot be read.
+
+TEST_F(NetzTest, WasSichNichtLesenLäßtWirdNichtÜberschrieben)
+{
+    NetzSpannen();
+    GemeindeSpeichern(2);
+    const std::string messen = DateiLesen(Festplatte / "Messen.dat");
+    Neustart();
+    const Unlesbar unlesbar;
+    GemeindeSpeichern(3);
+    EXPECT_TRUE(DateiLesen(Festplatte / "Messen.dat") ==
+                *InhaltDerGemeinde(3).Dateien[DateiMesse].Bytes);
+    EXPECT_TRUE(DateiLesen(AlleStände().back().Ort / "Messen.dat") == messen);
+    EXPECT_FALSE(MarkeLiegt());
+}
+
+TEST_F(NetzTest, KommtDasSpeichernNichtBisZuIhrLiegtSieWiederAnIhremOrt)
+{
+    DatenträgerFüllen(2);
+    NetzSpannen();
+    const std::string messen = DateiLesen(Festplatte / "Messen.dat");
+    const Unlesbar unlesbar;
+    EXPECT_EQ(NummerDesFehlers([&] { GemeindeSpeichern(3); }), 61);
+    EXPECT_TRUE(DateiLesen(Festplatte / "Messen.dat") == messen);
+    EXPECT_TRUE(DateiLesen(Festplatte / "Gruppen.dat") ==
+                *InhaltDerGemeinde(1).Dateien[DateiGruppe].Bytes);
+}
+
+TEST_F(NetzTest, AuchHereinkopiertesÜberschreibtSieNicht)
+{
+    DateiSchreiben(Diskette / "neu.dat", "neu");
+    NetzSpannen();
+    const std::string messen = DateiLesen(Festplatte / "Messen.dat");
+    const Unlesbar unlesbar;
+    EXPECT_EQ(
+        NummerDesFehlers([&] { Laufwerke.Kopieren(Diskette / "x", Festplatte / "Messen.dat"); }),
+        53);
+    EXPECT_TRUE(DateiLesen(Festplatte / "Messen.dat") == messen);
+    Laufwerke.Kopieren(Diskette / "neu.dat", Festplatte / "Messen.dat");
+    EXPECT_EQ(DateiLesen(Festplatte / "Messen.dat"), "neu");
+    EXPECT_TRUE(DateiLesen(Marke() / "Messen.dat") == messen);
+}
+
+// Copying in.
+
+TEST_F(NetzTest, VorDemErstenHereinkopiertenLiegenDieDateienDaneben)
+{
+    for (const auto &datei : fs::directory_iterator(Festplatte))
+        fs::copy(datei, Diskette / datei.path().filename());
+    NetzSpannen();
+    GemeindeSpeichern(2); // is not a state yet
+    EXPECT_FALSE(MarkeLiegt());
+    for (const Datei &datei : Dateien) {
+        Laufwerke.Kopieren(Diskette / PfadAus(datei.Name), Festplatte / PfadAus(datei.Name));
+        EXPECT_TRUE(InhaltVon(Marke()) == InhaltDerGemeinde(2));
+    }
+    VonFestplatteLaden();
+    EXPECT_FALSE(MarkeLiegt());
+    EXPECT_TRUE(ImNeuesten() == InhaltDerGemeinde(2));
+    EXPECT_TRUE(AufDerPlatte() == InhaltDerGemeinde(1));
+    EXPECT_EQ(Dauerhinweis(), "");
+    Laufwerke.Kopieren(Diskette / "Konfig.cfg", Diskette / "andere.cfg");
+    EXPECT_FALSE(MarkeLiegt()) << "elsewhere";
+}
+
+TEST_F(NetzTest, EinAbgebrochenesHolenSagtDerNächsteStart)
+{
+    DateiSchreiben(Diskette / "Helfer.dat", "andere");
+    NetzSpannen();
+    GemeindeSpeichern(2);
+    Laufwerke.Kopieren(Diskette / "Helfer.dat", Festplatte / "Helfer.dat");
+    MarkeVonEinemAnderen();
+    Neustart();
+    EXPECT_TRUE(ImNeuesten() == InhaltDerGemeinde(2));
+    EXPECT_NE(Starthinweis().find("Speichern oder Holen ist nicht zu Ende gekommen"), Text::npos);
+}
+
+TEST_F(NetzTest, NachEinemGescheitertenHolenBehältDasSpeichernDieDateienDavor)
+{
+    DateiSchreiben(Diskette / "Helfer.dat", "andere");
+    NetzSpannen();
+    GemeindeSpeichern(2);
+    Laufwerke.Kopieren(Diskette / "Helfer.dat", Festplatte / "Helfer.dat");
+    GemeindeSpeichern(3);
+    EXPECT_TRUE(AufDerPlatte() == InhaltDerGemeinde(3));
+    EXPECT_TRUE(HatStand(InhaltDerGemeinde(2)));
+    EXPECT_FALSE(MarkeLiegt());
+}
+
+// A load of a file that has broken meanwhile, and the save that writes what it left.
+TEST_F(NetzTest, NachEinemHalbenLadenBehältDasSpeichernDieGutenDateien)
+{
+    NetzSpannen();
+    GemeindeSpeichern(2);
+    DateiSchreiben(Festplatte / "Helfer.dat", "kaputt");
+    const Standinhalt halb = AufDerPlatte();
+    VonFestplatteLaden();
+    AufFestplatteSpeichern();
+    EXPECT_TRUE(HatStand(halb));
+}
+
+TEST_F(NetzTest, DasLadenNenntMitDemNetzDieselbeDatei)
+{
+    NetzSpannen();
+    DateiSchreiben(Festplatte / "Helfer.dat", "kaputt");
+    EXPECT_EQ(Festplattenbericht(LadenMitBericht(VonFestplatteLaden)),
+              "nicht alles geladen: bei Helfer.dat abgebrochen");
+    GemeindeSpeichern(2);
+    EXPECT_EQ(LadenMitBericht(VonFestplatteLaden).Gelesen.size(), 8U);
 }
 
 // A save that fails.
@@ -369,6 +741,19 @@ TEST_F(NetzTest, WasAuchOhneKommaNichtLädtIstNichtGeheilt)
     EXPECT_FALSE(Netz().OhneKomma);
 }
 
+// A short file is not the end of the load: the later ones are read.
+TEST_F(NetzTest, WasZuFrühEndetFehltAlleinUndDasSagtDerHinweis)
+{
+    const Text messen = Wort("Messen.dat");
+    DateiSchreiben(Festplatte / "Messen.dat", messen.substr(0, messen.find('\n', 5) + 1));
+    Neustart();
+    EXPECT_TRUE(Starthinweis().starts_with("Messen.dat endet zu früh, nach Zeile "))
+        << Starthinweis();
+    EXPECT_TRUE(Starthinweis().ends_with(
+        ". Was in ihr fehlt, fehlt auch im Programm, und das Beenden speichert es so."));
+    EXPECT_EQ(Helfer.Nachname[0], "Linde");
+}
+
 TEST_F(NetzTest, DerBlickDanachLäßtTabellenUndZählerWieDasLaden)
 {
     DateiSchreiben(Festplatte / "Helfer.dat", " 0 \r\n 7 \r\nMaria\r\n");
@@ -397,18 +782,19 @@ TEST_F(NetzTest, EinLadenVonDisketteÄndertDenBefundNicht)
 
 TEST_F(NetzTest, VorDemWechselSindDateienUndTabellenAufgehoben)
 {
-    VorWechselSichern(Vorher::DateienUndTabellen);
+    VorWechselSichern();
     EXPECT_TRUE(Namen().empty()) << "without the net";
     Neustart();
-    VorWechselSichern(Vorher::DateienUndTabellen);
+    VorWechselSichern();
     EXPECT_EQ(Namen().size(), 1U) << "nothing new";
     DateiSchreiben(Festplatte / "Messen.dat", "anders");
     Meßdiener.Vorname[0] = "getippt";
     const Standinhalt tabellen = InhaltDerTabellen();
-    VorWechselSichern(Vorher::Dateien);
-    EXPECT_TRUE(ImNeuesten() == AufDerPlatte());
-    VorWechselSichern(Vorher::DateienUndTabellen);
-    EXPECT_EQ(Namen().size(), 3U);
+    const Standinhalt dateien = AufDerPlatte();
+    VorWechselSichern();
+    const auto stände = AlleStände();
+    ASSERT_EQ(stände.size(), 3U);
+    EXPECT_TRUE(InhaltVon(stände[1].Ort) == dateien);
     EXPECT_TRUE(ImNeuesten() == tabellen);
 }
 
@@ -424,7 +810,7 @@ TEST_F(NetzTest, ZurückgeholtIstJedesByteUndDasZurückholenLäßtSichZurückhol
     StandZurückholen(AlleStände().front());
     EXPECT_TRUE(AufDerPlatte() == InhaltDerGemeinde(1));
     EXPECT_EQ(Konfig.Gemeinde, "St. Ägid 1");
-    EXPECT_FALSE(fs::exists(Stände() / "Speichern"));
+    EXPECT_FALSE(MarkeLiegt());
     EXPECT_TRUE(ImNeuesten() == speicher);
     StandZurückholen(AlleStände().back());
     EXPECT_EQ(Meßdiener.Vorname[0], "nur im Speicher");

@@ -5,6 +5,8 @@
 #include "core/Allgemein.h"
 #include "history/Netz.h"
 
+#include <algorithm>
+
 namespace altardienst {
 namespace {
 
@@ -176,6 +178,105 @@ TEST_F(StändeFormTest, EinNotfallDerWartetIstVorgewählt)
     Öffnen();
     EXPECT_EQ(form->Liste->currentRow(), 1);
     EXPECT_EQ(Zelle(1, 0), "21.11.2026, 12:03:00 Notfall");
+}
+
+// A comma typed before the crash: it does not load whole, but it is what the user knows.
+TEST_F(StändeFormTest, EinNotfallIstVorgewähltAuchWennErNichtGanzLädt)
+{
+    Meßdiener.Straße[0] = "Am Markt 3, Hinterhaus";
+    NotfallSichern(InhaltDerTabellen());
+    NetzSpannen();
+    ASSERT_TRUE(Netz().Notfall);
+    Öffnen();
+    EXPECT_EQ(form->Liste->currentRow(), 0);
+    EXPECT_TRUE(form->Zurückholen->isEnabled());
+}
+
+// A start that could read nothing, left with "Starten", saves an empty parish, which loads whole.
+TEST_F(StändeFormTest, EineLeereGemeindeIstNichtVorgewählt)
+{
+    TabellenLeeren();
+    Aufheben();
+    Öffnen();
+    EXPECT_EQ(Zeile(0)[1], "0");
+    EXPECT_EQ(form->Liste->currentRow(), 1);
+}
+
+TEST_F(StändeFormTest, GibtEsNurLeereIstDerNeuesteVorgewählt)
+{
+    fs::remove_all(Festplatte / PfadAus("Stände"));
+    TabellenLeeren();
+    Aufheben();
+    Öffnen();
+    EXPECT_TRUE(Warten([this] { return form->Liste->currentRow() == 0; }));
+}
+
+TEST_F(StändeFormTest, EineZeileDieScheitertHältDieAnderenNichtAuf)
+{
+    const fs::path neuester = AlleStände().back().Ort;
+    Laufwerke.Suchen = [suchen = Laufwerke.Suchen, neuester](const fs::path &ort,
+                                                             const Text &name) {
+        if (ort == neuester)
+            throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
+        return suchen(ort, name);
+    };
+    Öffnen();
+    EXPECT_EQ(Zelle(0, 5), "-");
+    EXPECT_EQ(Zelle(1, 1), "1");
+    EXPECT_EQ(form->Liste->currentRow(), 1);
+}
+
+TEST_F(StändeFormTest, BrichtEsAbSindDieDateienWieZuvorUndEsIstKeinAbbruch)
+{
+    const Standinhalt zuvor = InhaltVon(Festplatte);
+    Öffnen();
+    form->Liste->selectRow(1);
+    Laufwerke.Kopieren = [kopieren = Laufwerke.Kopieren, zahl = 0](const fs::path &von,
+                                                                   const fs::path &nach) mutable {
+        if (++zahl == 4)
+            throw Laufzeitfehler(Laufzeitfehler::DatenträgerVoll);
+        kopieren(von, nach);
+    };
+    Antworten = {true};
+    Klick("Zurückholen");
+    EXPECT_EQ(Zeigt("Hinweis"), "Dieser Stand läßt sich nicht zurückholen: Datenträger voll.");
+    EXPECT_TRUE(InhaltVon(Festplatte) == zuvor);
+    EXPECT_FALSE(Netz().SpeichernAbgebrochen);
+    EXPECT_EQ(zurückgeholt, 0);
+}
+
+TEST_F(StändeFormTest, LassenSieSichNichtZurücklegenSagtEsDasFenster)
+{
+    const Standinhalt zuvor = InhaltVon(Festplatte);
+    Öffnen();
+    form->Liste->selectRow(1);
+    Laufwerke.Kopieren = [kopieren = Laufwerke.Kopieren, zahl = 0](const fs::path &von,
+                                                                   const fs::path &nach) mutable {
+        if (++zahl > 3)
+            throw Laufzeitfehler(Laufzeitfehler::DatenträgerVoll);
+        kopieren(von, nach);
+    };
+    Antworten = {true};
+    Klick("Zurückholen");
+    EXPECT_EQ(Zeigt("Hinweis"),
+              "Dieser Stand läßt sich nicht zurückholen: Datenträger voll. Die acht Dateien können "
+              "aus zwei Speicherungen stammen; was das Programm jetzt weiß, ist aufgehoben.");
+    EXPECT_TRUE(Netz().SpeichernAbgebrochen);
+    const auto stände = AlleStände();
+    EXPECT_TRUE(std::ranges::any_of(
+        stände, [&](const Stand &stand) { return InhaltVon(stand.Ort) == zuvor; }));
+}
+
+TEST_F(StändeFormTest, AuchÜberEineSchreibgeschützteDateiAnderenNamensKommtErZurück)
+{
+    fs::rename(Festplatte / "Helfer.dat", Festplatte / "helfer.dat");
+    fs::permissions(Festplatte / "helfer.dat", fs::perms::owner_read);
+    Öffnen();
+    form->Liste->selectRow(1);
+    Antworten = {true};
+    Klick("Zurückholen");
+    EXPECT_EQ(zurückgeholt, 1);
+    EXPECT_EQ(Meßdiener.Anzahl, 1);
 }
 
 TEST_F(StändeFormTest, WasDerBenutzerWähltBleibtGewählt)

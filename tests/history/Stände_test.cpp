@@ -1,7 +1,7 @@
 // Earlier states: their names, how they are written, and which of them may go.
-#include "history/Stände.h"
-
+#include "history/Aufräumen.h"
 #include "history/Netzstand.h"
+#include "history/Stände.h"
 
 #include <random>
 
@@ -35,7 +35,8 @@ TEST_F(StändeTest, EinNameNenntTagUndZeitUndKommtZurück)
     EXPECT_EQ(Standname({zeit.Tag, zeit.Sekunde, 12}, Standart::Notfall),
               "2026-11-21 12-00-05 (12) Notfall");
     EXPECT_EQ(Standname(zeit, Standart::NotfallErledigt), "2026-11-21 12-00-05 Notfall erledigt");
-    for (const Standart art : {Standart::Gewöhnlich, Standart::Notfall, Standart::NotfallErledigt})
+    for (const Standart art : {Standart::Gewöhnlich, Standart::Notfall, Standart::NotfallErledigt,
+                               Standart::VorAbbruch, Standart::OhneKomma})
         for (const int nummer : {1, 2, 10}) {
             const Standzeit diese{zeit.Tag, zeit.Sekunde, nummer};
             const auto stand = StandAusName(Standname(diese, art));
@@ -121,9 +122,10 @@ TEST_F(StändeTest, ErstAufDemMediumBekommtErSeinenNamen)
         umbenennen(von, nach);
     };
     StandSichern(AufDerPlatte());
-    EXPECT_EQ(folge, (Liste{"Konfig.cfg", "Standard.dat", "Meßdiener.dat", "Messen.dat",
-                            "Gruppen.dat", "Helfer.dat", "Etiketten.dat", "MeßdienerMesse.dat",
-                            "unfertig", "unfertig -> 2026-11-21 12-00-00", "Stände"}));
+    EXPECT_EQ(folge, (Liste{"Festplatte", "Konfig.cfg", "Standard.dat", "Meßdiener.dat",
+                            "Messen.dat", "Gruppen.dat", "Helfer.dat", "Etiketten.dat",
+                            "MeßdienerMesse.dat", Restname(Rest::InArbeit),
+                            Restname(Rest::InArbeit) + " -> 2026-11-21 12-00-00", "Stände"}));
 }
 
 // The disk becomes full, or is pulled out, at any step.
@@ -168,15 +170,19 @@ TEST_F(StändeTest, ScheitertEinSchrittIstKeinerDaUndNichtsBleibtLiegen)
 TEST_F(StändeTest, WasEinAbgeschossenerLaufLiegenließGehtBeimNächsten)
 {
     GemeindeSpeichern(1);
-    fs::create_directories(Stände() / "unfertig");
-    DateiSchreiben(Stände() / "unfertig" / "Konfig.cfg", "halb");
-    fs::create_directories(Stände() / "geloescht");
-    DateiSchreiben(Stände() / "geloescht" / "Messen.dat", "halb");
+    for (const char *rest : {"unfertig 17", "geloescht 17 3", "Notfall unfertig 18"}) {
+        fs::create_directories(Stände() / rest);
+        DateiSchreiben(Stände() / rest / "Konfig.cfg", "halb");
+    }
+    DateiSchreiben(Stände() / "Reserve 17", "Platz");
     fs::create_directories(Stände() / "Fotos"); // not ours
+    fs::create_directories(Stände() / "unfertig mit Notizen");
+    fs::create_directories(Stände() / "Speichern 17"); // of a save, and not decided yet
     ResteEntfernen();
-    EXPECT_EQ(Namen(), Liste{"Fotos"});
-    fs::create_directories(Stände() / "unfertig");
-    DateiSchreiben(Stände() / "unfertig" / "fremd.txt", "halb");
+    EXPECT_EQ(Namen(), (Liste{"Fotos", "Speichern 17", "unfertig mit Notizen"}));
+    const fs::path unfertig = Stände() / PfadAus(Restname(Rest::InArbeit));
+    fs::create_directories(unfertig);
+    DateiSchreiben(unfertig / "fremd.txt", "halb");
     StandSichern(AufDerPlatte());
     EXPECT_FALSE(fs::exists(AlleStände().back().Ort / "fremd.txt"));
 }
@@ -227,6 +233,78 @@ TEST_F(StändeTest, GehtAuchDasAusweichenNichtSagtErEs)
     DateiSchreiben(Stände(), "im Weg");
     DateiSchreiben(Laufwerke.Ausweichverzeichnisse()[0], "auch im Weg");
     EXPECT_NE(NummerDesFehlers([&] { NotfallSichern(InhaltDerGemeinde(2)); }), 0);
+}
+
+TEST_F(StändeTest, EinAusgewichenerNotfallKommtZuDenAnderenSobaldPlatzIst)
+{
+    GemeindeSpeichern(1);
+    DateiSchreiben(Stände(), "im Weg");
+    NotfallSichern(InhaltDerGemeinde(2));
+    const fs::path ausweg = Laufwerke.Ausweichverzeichnisse()[0];
+    EXPECT_EQ(fs::status(ausweg).permissions(), fs::perms::owner_all);
+    AusweichständeHolen();
+    EXPECT_FALSE(fs::is_empty(ausweg));
+    fs::remove(Stände());
+    Neustart();
+    EXPECT_TRUE(fs::is_empty(ausweg));
+    ASSERT_TRUE(Netz().Notfall);
+    EXPECT_EQ(Netz().Notfall->Ort.parent_path(), Stände());
+    EXPECT_TRUE(InhaltVon(Netz().Notfall->Ort) == InhaltDerGemeinde(2));
+}
+
+TEST_F(StändeTest, WerDieDateienNichtLesenDarfLiestAuchDieStändeNicht)
+{
+    GemeindeSpeichern(1);
+    fs::permissions(Festplatte, fs::perms(0755));
+    StandSichern(AufDerPlatte());
+    EXPECT_EQ(fs::status(Stände()).permissions(), fs::perms(0755));
+    for (const Datei &datei : Dateien)
+        fs::permissions(Festplatte / PfadAus(datei.Name), fs::perms(0640));
+    GemeindeSpeichern(2);
+    StandSichern(AufDerPlatte());
+    EXPECT_EQ(fs::status(Stände()).permissions(), fs::perms(0750));
+    for (const Datei &datei : Dateien)
+        fs::permissions(Festplatte / PfadAus(datei.Name), fs::perms(0600));
+    GemeindeSpeichern(3);
+    StandSichern(AufDerPlatte());
+    EXPECT_EQ(fs::status(Stände()).permissions(), fs::perms(0700));
+}
+
+// Room on the medium.
+
+TEST_F(StändeTest, FehltDerPlatzMachenIhnDieEntbehrlichen)
+{
+    GemeindeSpeichern(1);
+    for (int i = 0; i < 15; ++i)
+        fs::create_directories(
+            Stände() / Standname({Heute - (i < 10 ? 0 : 4000), i, 1}, Standart::Gewöhnlich));
+    Laufwerke.Schreiben = [this, schreiben = Laufwerke.Schreiben](const fs::path &pfad,
+                                                                  std::string_view bytes) {
+        if (AlleStände().size() > 10)
+            throw Laufzeitfehler(Laufzeitfehler::DatenträgerVoll);
+        schreiben(pfad, bytes);
+    };
+    EXPECT_TRUE(StandSichern(AufDerPlatte()));
+    EXPECT_EQ(AlleStände().size(), 11U);
+    const Standinhalt andere = InhaltDerGemeinde(2);
+    EXPECT_EQ(NummerDesFehlers([&] { StandSichern(andere); }), 61) << "no more may go";
+}
+
+// Something on the disk that cannot be deleted.
+TEST_F(StändeTest, WasSichNichtLöschenLäßtStehtKeinemAnderenImWeg)
+{
+    GemeindeSpeichern(1);
+    for (int i = 0; i < 15; ++i)
+        fs::create_directories(
+            Stände() / Standname({Heute - (i < 10 ? 0 : 4000), i, 1}, Standart::Gewöhnlich));
+    Laufwerke.Löschen = [](const fs::path &) {
+        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
+    };
+    EXPECT_EQ(StändeAufräumen(), 5);
+    EXPECT_EQ(AlleStände().size(), 10U);
+    Laufwerke.Löschen = Systemlaufwerke().Löschen;
+    ResteEntfernen();
+    EXPECT_EQ(Namen().size(), 10U);
 }
 
 // Which may go.
@@ -321,14 +399,52 @@ TEST_F(StändeTest, DerNeuesteDerGanzLädtGehtNie)
     fs::copy(Festplatte, guter); // the files alone
     fs::copy(guter, Stände() / "2014-03-01 10-00-00");
     for (int i = 0; i < 12; ++i) {
-        const fs::path zerrissen = Stände() / Standname({Heute - 3000, i, 1}, Standart::Gewöhnlich);
+        const fs::path zerrissen = Stände() / Standname({Heute, i, 1}, Standart::Gewöhnlich);
         fs::create_directories(zerrissen);
         DateiSchreiben(zerrissen / "Konfig.cfg", "zerrissen " + std::to_string(i));
     }
     StändeAufräumen();
     EXPECT_TRUE(fs::exists(guter));
     EXPECT_FALSE(fs::exists(Stände() / "2014-03-01 10-00-00"));
-    EXPECT_EQ(Namen().size(), 11U) << "the newest ten and this one";
+    EXPECT_EQ(Namen().size(), 13U) << "those of today and this one";
+}
+
+TEST_F(StändeTest, WasAufEineEntscheidungWartetGehtNie)
+{
+    for (int i = 0; i < 12; ++i)
+        fs::create_directories(Stände() / Standname({Heute, i, 1}, Standart::Gewöhnlich));
+    const auto alter = [&](Standart art) {
+        const fs::path ort = Stände() / Standname({Heute - 4000, static_cast<int>(art), 1}, art);
+        fs::create_directories(ort);
+        return ort;
+    };
+    const fs::path notfall = alter(Standart::Notfall);
+    const fs::path abbruch = alter(Standart::VorAbbruch);
+    const fs::path erledigt = alter(Standart::NotfallErledigt);
+    StändeAufräumen();
+    EXPECT_TRUE(fs::exists(notfall));
+    EXPECT_TRUE(fs::exists(abbruch));
+    EXPECT_FALSE(fs::exists(erledigt));
+}
+
+// An emptied parish loads whole; the one before must not go for it.
+TEST_F(StändeTest, AuchDerNeuesteMitLeutenGehtNie)
+{
+    GemeindeSpeichern(1);
+    fs::create_directories(Stände());
+    const fs::path mitLeuten = Stände() / "2012-03-01 10-00-00";
+    fs::copy(Festplatte, mitLeuten);
+    fs::copy(mitLeuten, Stände() / "2011-03-01 10-00-00");
+    TabellenLeeren();
+    AufFestplatteSpeichern();
+    for (int i = 0; i < 10; ++i) {
+        const fs::path leer = Stände() / Standname({Heute, i, 1}, Standart::Gewöhnlich);
+        fs::create_directories(leer);
+        for (const Datei &datei : Dateien)
+            fs::copy(Festplatte / PfadAus(datei.Name), leer);
+    }
+    EXPECT_EQ(StändeAufräumen(), 1);
+    EXPECT_TRUE(fs::exists(mitLeuten));
 }
 
 TEST_F(StändeTest, AufräumenLöschtNurStände)
@@ -337,8 +453,9 @@ TEST_F(StändeTest, AufräumenLöschtNurStände)
     fs::create_directories(Stände() / "2001-01-01");
     DateiSchreiben(Stände() / "Notiz.txt", "x");
     for (int i = 0; i < 15; ++i)
-        fs::create_directories(Stände() / Standname({Heute - 4000, i, 1}, Standart::Gewöhnlich));
-    StändeAufräumen();
+        fs::create_directories(
+            Stände() / Standname({Heute - (i < 10 ? 0 : 4000), i, 1}, Standart::Gewöhnlich));
+    EXPECT_EQ(StändeAufräumen(), 5);
     EXPECT_EQ(Namen().size(), 13U);
     EXPECT_TRUE(fs::exists(Stände() / "Fotos"));
     EXPECT_TRUE(fs::exists(Stände() / "2001-01-01"));

@@ -89,6 +89,11 @@ TEST_F(UnterschiedeTest, EineMesseSagtWasAnIhrAndersIst)
     Messe.DienerDienst[0][20] = "Leuchter"; // the last line of the places
     EXPECT_EQ(Jetzt().Zeilen, Liste{"Messe 22.11.2026, 10:00, Messe: andere Zahlen der Dienste, "
                                     "andere Meßdiener"});
+    damals = TabellenAufnehmen();
+    Messe.Wochentag[0] = "Sonntag   ";
+    Messe.Uhrzeit[1] += 1.0 / SekundenProTag;
+    EXPECT_EQ(Jetzt().Zeilen, (Liste{"Messe 22.11.2026, 10:00, Messe: anderer Wochentag",
+                                     "Messe 29.11.2026, 10:00, Hochamt: andere Zeit"}));
 }
 
 TEST_F(UnterschiedeTest, AuchWasKeineNamenHat)

@@ -113,6 +113,18 @@ TEST_F(LaufwerkeTest, NurDateienWerdenGelesen)
     EXPECT_NE(System.Lesen("/proc/self/mounts"), "") << "tells no size, but is a file";
 }
 
+/// Nor does a write wait for someone who reads.
+TEST_F(LaufwerkeTest, InEineRöhreWirdNichtGeschrieben)
+{
+    const fs::path röhre = Festplatte / "Konfig.cfg";
+    ASSERT_EQ(mkfifo(röhre.c_str(), 0600), 0);
+    alarm(20);
+    EXPECT_EQ(NummerDesFehlers([&] { System.Schreiben(röhre, "x"); }), 75);
+    EXPECT_EQ(NummerDesFehlers([&] { System.Anhängen(röhre, "x"); }), 75);
+    alarm(0);
+    EXPECT_EQ(NummerDesFehlers([&] { System.Schreiben("/dev/null", "x"); }), 0);
+}
+
 TEST_F(LaufwerkeTest, EineÜbergroßeDateiWirdNichtGelesen)
 {
     System.Schreiben(Festplatte / "groß", "");
@@ -298,6 +310,24 @@ TEST_F(LaufwerkeTest, OhneAngabeLiegenDieDatenBeimBenutzer)
     EXPECT_EQ(wurzeln[0].Pfad, "/home/küster");
     EXPECT_EQ(wurzeln[1].Pfad, "/media/floppy");
     EXPECT_EQ(wurzeln.back().Pfad, "/");
+}
+
+TEST_F(LaufwerkeTest, JedesProgrammverzeichnisHatSeineEigenenAusweichverzeichnisse)
+{
+    const Umgebung heim("HOME", "/heim");
+    const Umgebung ort("XDG_STATE_HOME", nullptr);
+    const Umgebung sitzung("XDG_RUNTIME_DIR", "/sitzung");
+    {
+        const Umgebung daten("ALTARDIENST_DATEN", nullptr);
+        EXPECT_EQ(
+            System.Ausweichverzeichnisse(),
+            (std::vector<fs::path>{"/heim/.local/state/Altardienst/heim/.local/share/Altardienst",
+                                   "/sitzung/Altardienst/heim/.local/share/Altardienst"}));
+    }
+    for (const char *daten : {"/srv/proben", "/srv/proben/", "/srv/x/../proben"}) {
+        const Umgebung diese("ALTARDIENST_DATEN", daten);
+        EXPECT_EQ(System.Ausweichverzeichnisse()[0], "/heim/.local/state/Altardienst/srv/proben");
+    }
 }
 
 TEST_F(LaufwerkeTest, EingehängteDatenträgerSindWurzelnAndereDateisystemeNicht)

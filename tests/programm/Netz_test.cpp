@@ -69,6 +69,27 @@ TEST_F(ProgrammnetzTest, EinSignalVorDemHauptfensterSpeichertNichts)
     EXPECT_FALSE(fs::exists(daten / "Helfer.dat"));
 }
 
+// The message of the first start comes before the event loop of the program.
+TEST_F(ProgrammnetzTest, EinSignalWährendDerErstenMeldungEndetAuch)
+{
+    fs::remove(daten / "Helfer.dat");
+    Programmlauf lauf(daten);
+    EXPECT_EQ(lauf.Fenster("DateienKopieren Meldung"), "DateienKopieren Meldung");
+    lauf.Signal(SIGTERM);
+    EXPECT_EQ(lauf.Ende(), 0);
+    EXPECT_FALSE(fs::exists(daten / "Helfer.dat"));
+}
+
+TEST_F(ProgrammnetzTest, EinSignalDasNichtGeltenSollGiltNicht)
+{
+    Programmlauf lauf(daten, PROGRAMM, SIGHUP); // as under nohup
+    InsHauptfenster(lauf);
+    lauf.Signal(SIGHUP);
+    EXPECT_EQ(lauf.Befehl("fenster"), "Haupt");
+    lauf.Signal(SIGTERM);
+    EXPECT_EQ(lauf.Ende(), 0);
+}
+
 TEST_F(ProgrammnetzTest, EinSignalWährendEinerMeldungEndetAuch)
 {
     Programmlauf lauf(daten);

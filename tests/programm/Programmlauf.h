@@ -18,9 +18,14 @@ namespace altardienst {
 class Programmlauf {
   public:
     /// Starts the program on a directory; `programm` may be elsewhere than in the build directory.
+    /// Of the signals from outside it starts with `überhört` ignored and no other.
     explicit Programmlauf(const std::filesystem::path &daten,
-                          const std::filesystem::path &programm = PROGRAMM)
+                          const std::filesystem::path &programm = PROGRAMM, int überhört = 0)
     {
+        prozess.setChildProcessModifier([überhört] {
+            for (const int signal : {SIGTERM, SIGHUP, SIGINT})
+                std::signal(signal, signal == überhört ? SIG_IGN : SIG_DFL);
+        });
         QProcessEnvironment umgebung = QProcessEnvironment::systemEnvironment();
         umgebung.insert("LD_PRELOAD", FERNSTEUERUNG);
         umgebung.insert("QT_QPA_PLATFORM", "offscreen");

@@ -89,7 +89,7 @@ TEST_F(StartHinweisTest, EinStandDerSichNichtSchreibenLäßtStehtNurInDerStatusz
     EXPECT_FALSE(Finden(Fenster("Start"), "Hinweis")->isVisible());
     Klick(Finden(Fenster("Start"), "Starten"));
     EXPECT_TRUE(Zeigt(Finden<QLabel>(Fenster("Haupt"), "StatusNetz"))
-                    .starts_with("Kein früherer Stand aufgehoben: "));
+                    .starts_with("Kein Stand aufgehoben: "));
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
