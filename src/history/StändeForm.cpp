@@ -209,7 +209,7 @@ void StändeForm::StandHolen()
     if (!inhalt.Vollzählig())
         return Setzen(Hinweis, "Dieser Stand läßt sich nicht zurückholen: " +
                                    InhaltLesen(inhalt).Befund.Satz());
-    if (!Meldungen.Fragen(
+    if (!Meldungen.FragenVorVerlust(
             (stand.Art == Standart::Gewöhnlich ? "Den Stand vom " : "Den Notfall vom ") +
                 ZeitText(stand) +
                 " zurückholen? Was das Programm jetzt weiß, wird vorher als eigener "

@@ -196,9 +196,9 @@ void DruckdialogForm::Bestätigen()
 {
     const QString pfad = PdfPfad();
     if (Pdf->isChecked() && pfad != ersetzbar && QFileInfo::exists(pfad) &&
-        !Meldungen.Fragen("Die Datei " + pfad.toStdString() +
-                              " gibt es schon. Soll sie ersetzt werden?",
-                          "Drucken"))
+        !Meldungen.FragenVorVerlust("Die Datei " + pfad.toStdString() +
+                                        " gibt es schon. Soll sie ersetzt werden?",
+                                    "Drucken"))
         return;
     accept();
 }

@@ -122,7 +122,7 @@ void GruppeForm::Umbenennen()
 
 void GruppeForm::Löschen()
 {
-    if (!Meldungen.Fragen("Wirklich?", "Löschen einer Gruppe"))
+    if (!Meldungen.FragenVorVerlust("Wirklich?", "Löschen einer Gruppe"))
         return;
     const int vorher = Gruppe.Anzahl;
     GruppeLöschen(Nummer());

@@ -210,7 +210,7 @@ void HelferForm::Umbenennen()
 
 void HelferForm::Löschen()
 {
-    if (!Meldungen.Fragen("Wirklich?", "Löschen eines Helfers") || Helfer.Anzahl < 3)
+    if (!Meldungen.FragenVorVerlust("Wirklich?", "Löschen eines Helfers") || Helfer.Anzahl < 3)
         return;
     HelferLöschen(Helfer.Cursor);
     Zeigen(Helfer.Cursor);

@@ -265,7 +265,8 @@ void MeßdienerForm::NeuerMeßdiener()
 /// With two servers or fewer nothing happens. On the blank slot the last server is deleted.
 void MeßdienerForm::Löschen()
 {
-    if (!Meldungen.Fragen("Wirklich?", "Löschen eines Meßdieners") || Meßdiener.Anzahl <= 2)
+    if (!Meldungen.FragenVorVerlust("Wirklich?", "Löschen eines Meßdieners") ||
+        Meßdiener.Anzahl <= 2)
         return;
     if (Nummer() == Meßdiener.Anzahl)
         ZahlSetzen(Wahl->Nummer, Meßdiener.Anzahl - 1);

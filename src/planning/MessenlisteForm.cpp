@@ -262,7 +262,7 @@ void MessenlisteForm::Beschriften()
 
 void MessenlisteForm::Löschen()
 {
-    if (!Meldungen.Fragen("Wirklich?", "Löschen einer Messe") || Messe.Anzahl <= 2)
+    if (!Meldungen.FragenVorVerlust("Wirklich?", "Löschen einer Messe") || Messe.Anzahl <= 2)
         return;
     const auto zurückInDieTabelle = [this] {
         if (Nummer() >= Messe.Anzahl)
