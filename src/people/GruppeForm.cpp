@@ -110,6 +110,11 @@ bool GruppeForm::IstBenannt(int i) const
     return !Gruppe.Bezeichnung[i].empty();
 }
 
+QWidget *GruppeForm::Fehlendes(int) const
+{
+    return nullptr;
+}
+
 /// Before each save, except when closing by the close box: a name that another group has is
 /// silently undone, a new one is passed on to the servers.
 void GruppeForm::Umbenennen()

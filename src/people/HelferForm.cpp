@@ -193,6 +193,11 @@ bool HelferForm::IstBenannt(int i) const
     return !Helfer.Vorname[i].empty();
 }
 
+QWidget *HelferForm::Fehlendes(int i) const
+{
+    return Helfer.Nachname[i].empty() ? nullptr : Person.Vorname;
+}
+
 void HelferForm::Aufschlagen(int satz)
 {
     NullStattLeer();

@@ -212,6 +212,13 @@ bool MeßdienerForm::IstBenannt(int i) const
     return !Meßdiener.Vorname[i].empty() && !Meßdiener.Nachname[i].empty();
 }
 
+QWidget *MeßdienerForm::Fehlendes(int i) const
+{
+    if (Meßdiener.Vorname[i].empty() == Meßdiener.Nachname[i].empty())
+        return nullptr;
+    return Meßdiener.Vorname[i].empty() ? Angaben.Person.Vorname : Angaben.Person.Nachname;
+}
+
 void MeßdienerForm::Aufschlagen(int satz)
 {
     NullStattLeer();
