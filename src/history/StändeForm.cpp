@@ -207,7 +207,7 @@ void StändeForm::StandHolen()
     const Stand stand = stände[static_cast<std::size_t>(Zeile())];
     const Standinhalt inhalt = InhaltVon(stand.Ort);
     if (!inhalt.Vollzählig())
-        return Setzen(Hinweis, "Dieser Stand läßt sich nicht zurückholen: " +
+        return Setzen(Hinweis, "Dieser Stand lässt sich nicht zurückholen: " +
                                    InhaltLesen(inhalt).Befund.Satz());
     if (!Meldungen.FragenVorVerlust(
             (stand.Art == Standart::Gewöhnlich ? "Den Stand vom " : "Den Notfall vom ") +
@@ -220,7 +220,7 @@ void StändeForm::StandHolen()
         StandZurückholen(stand);
     } catch (const Laufzeitfehler &fehler) {
         return Setzen(Hinweis,
-                      Text("Dieser Stand läßt sich nicht zurückholen: ") + fehler.what() + ".");
+                      Text("Dieser Stand lässt sich nicht zurückholen: ") + fehler.what() + ".");
     }
     close();
     zurückgeholt();
