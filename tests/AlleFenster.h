@@ -22,6 +22,7 @@
 #include "printing/Druckprotokoll.h"
 #include "printing/EtikettenForm.h"
 #include "settings/KonfigurationForm.h"
+#include "settings/KopierForm.h"
 #include "settings/SkalierungForm.h"
 #include "settings/ZusatzKonfigForm.h"
 #include "shell/StartForm.h"
@@ -57,10 +58,12 @@ class AlleFenster : public Fensterstand {
     static const std::vector<Text> &Namen()
     {
         static const std::vector<Text> namen = {
-            "Meßdiener",       "NeuMeßdiener",       "Helfer",      "NeuerHelfer",   "Gruppe",
-            "NeuGruppe",       "Standardmessen",     "Messenliste", "NeuMesse",      "Lektorrenusw",
-            "MesseDienerFest", "NeuMesseDienerFest", "Start",       "Konfiguration", "ZusatzKonfig",
-            "Skalierung",      "Etiketten",          "Druck",       "JubiGebu"};
+            "Meßdiener",  "NeuMeßdiener",   "Helfer",          "NeuerHelfer",
+            "Gruppe",     "NeuGruppe",      "Standardmessen",  "Messenliste",
+            "NeuMesse",   "Lektorrenusw",   "MesseDienerFest", "NeuMesseDienerFest",
+            "Start",      "Konfiguration",  "ZusatzKonfig",    "Skalierung",
+            "Etiketten",  "Druck",          "JubiGebu",        "Datensicherung",
+            "Dateikopie", "DateienKopieren"};
         return namen;
     }
 
@@ -116,6 +119,12 @@ class AlleFenster : public Fensterstand {
             return new DruckForm;
         if (name == "JubiGebu")
             return new JubiGebuForm;
+        if (name == "Datensicherung")
+            return new DatensicherungForm;
+        if (name == "Dateikopie")
+            return new DateikopieForm;
+        if (name == "DateienKopieren")
+            return new DateienKopierenForm(nichts);
         throw std::runtime_error("no window " + name);
     }
 

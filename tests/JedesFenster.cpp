@@ -2,6 +2,7 @@
 #include "JedesFenster.h"
 
 #include "anniversaries/GeburtstagsansichtForm.h"
+#include "anniversaries/JubiGebu.h"
 #include "anniversaries/JubiGebuForm.h"
 #include "anniversaries/JubiläumsanzeigeForm.h"
 #include "application/Anwendung.h"
@@ -48,7 +49,9 @@ namespace {
 void GemeindeAnlegen(Datum heute)
 {
     for (const char *name : {"Adler", "Busch", "Clausen", "Dorn", "Eich", "Fuchs"})
-        MeßdienerAnlegen("Kim", name);
+        Meßdiener.Geburtstag[MeßdienerAnlegen("Kim", name)] = DatumAus({2012, 1, 6});
+    for (int i = 0; i < Meßdiener.Anzahl; ++i)
+        Meßdiener.Eintrittsdatum[i] = heute;
     HelferAnlegen("Maria", "Linde", "Lektor");
     HelferAnlegen("Paul", "Quast", "Kantor");
     Gruppe.Anzahl = 2;
@@ -58,8 +61,12 @@ void GemeindeAnlegen(Datum heute)
     Konfig.Tage = 7;
     Standardmesse.Wochentag[0] = "Sonntag";
     Standardmesse.Dienerzahl[0] = 20;
-    for (int tag = 1; tag <= 3; ++tag)
-        MesseMitDienern(heute + tag, 20);
+    for (int tag = 1; tag <= 3; ++tag) {
+        const int i = MesseMitDienern(heute + tag, 20);
+        MesseDienerFest.Datum[i] = Messe.Datum[i];
+        MesseDienerFest.Uhrzeit[i] = Messe.Uhrzeit[i];
+        MesseDienerFest.Anzahl = i + 1;
+    }
     Etikett.Name[0] = "Blatt";
 }
 
@@ -105,13 +112,23 @@ JedesFenster::JedesFenster()
         {"Druck", Neu<DruckForm>()},
         {"CommonDialog1",
          [] {
-             return new DruckdialogForm(Druckanfrage{}, {{"Erster", "Zweiter"}, "Erster"});
+             const Druckanfrage anfrage = {
+                 .ErsteForm = "Plan als Liste", .ZweiteForm = "Plan als Tabelle", .Name = "Plan"};
+             return new DruckdialogForm(anfrage, {{"Erster", "Zweiter"}, "Erster"});
          }},
         {"Etiketten", Neu<EtikettenForm>()},
         {"Dialog", Neu<DialogForm>()},
         {"JubiGebu", Neu<JubiGebuForm>()},
-        {"Geburtstagsansicht", Neu<GeburtstagsansichtForm>()},
-        {"Jubiläumsanzeige", Neu<JubiläumsanzeigeForm>()},
+        {"Geburtstagsansicht",
+         [] {
+             GeburtstageSuchen(Gruppende::Alle, 1);
+             return new GeburtstagsansichtForm;
+         }},
+        {"Jubiläumsanzeige",
+         [] {
+             JubiläenSuchen(0);
+             return new JubiläumsanzeigeForm;
+         }},
         {"Statistik", Neu<StatistikForm>()},
         {"Statistik2", Neu<Statistik2Form>()},
         {"StatistikAllg", Neu<StatistikAllgForm>()},
@@ -147,6 +164,25 @@ void JedesFenster::InJedemFenster(
             delete fenster;
         }
     }
+}
+
+void JedesFenster::InJedemVollenFenster(
+    const std::function<void(const Text &name, QWidget *fenster)> &prüfen)
+{
+    const std::map<Text, std::vector<const char *>> zeitweise = {
+        {"Start", {"Hinweis", "FrühereStände"}},
+        {"Datensicherung", {"OKButton"}},
+        {"Dateikopie", {"OKButton", "Berichtigen", "Welche"}},
+        {"DateienKopieren", {"OKButton", "Berichtigen"}},
+        {"Stände", {"Ansicht"}},
+    };
+    InJedemFenster([&](const Text &name, QWidget *fenster) {
+        if (const auto verborgene = zeitweise.find(name); verborgene != zeitweise.end())
+            for (const char *control : verborgene->second)
+                Finden(fenster, control)->show();
+        QCoreApplication::processEvents();
+        prüfen(name, fenster);
+    });
 }
 
 } // namespace altardienst

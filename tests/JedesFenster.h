@@ -20,6 +20,10 @@ class JedesFenster : public Fensterstand {
     /// Shows one window after the other and runs `prüfen` on each.
     void InJedemFenster(const std::function<void(const Text &name, QWidget *fenster)> &prüfen);
 
+    /// The same, with all that a window shows only at times, such as the offer to put names right.
+    void
+    InJedemVollenFenster(const std::function<void(const Text &name, QWidget *fenster)> &prüfen);
+
   private:
     std::map<Text, std::function<QWidget *()>> öffner;
 };

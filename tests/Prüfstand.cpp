@@ -57,6 +57,9 @@ Prüfstand::Prüfstand()
         Antworten.pop_front();
         return antwort;
     };
+    Meldungen.FragenVorVerlust = [](const Text &text, const Text &titel) {
+        return Meldungen.Fragen(text, titel);
+    };
     Betrachter.Öffnen = [this](const fs::path &datei) {
         GeöffneteDateien.push_back(datei);
         return ZumÖffnenGibtEsEtwas;

@@ -77,7 +77,7 @@ class Datensatzzeilen : public QAbstractListModel {
     void Erneuern(const std::vector<Text> &wörter, int jetztGezeigter)
     {
         gezeigter = jetztGezeigter;
-        int anzahl = quelle.Anzahl();
+        int anzahl = std::max(quelle.Anzahl(), 0); // a file may claim anything
         if (gezeigter == anzahl)
             ++anzahl;
         std::vector<int> neue;

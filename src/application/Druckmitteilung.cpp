@@ -36,8 +36,8 @@ void DruckMitteilen(const Druckausgang &ausgang)
     case Druckausgang::OhneInhalt:
         return Mitteilen("nichts gedruckt: der Bericht ist leer");
     case Druckausgang::Gescheitert:
-        return Mitteilen(datei.empty() ? "nicht gedruckt: Druckerfehler"
-                                       : "PDF nicht geschrieben: " + datei);
+        if (!datei.empty()) // a report that fails on paper ends without a word
+            Mitteilen("PDF nicht geschrieben: " + datei);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QPointer>
+#include <QPushButton>
 #include <QTimer>
 #include <QWindow>
 
@@ -26,26 +27,34 @@ class Fensterordnung : public QObject {
 
     bool eventFilter(QObject *wer, QEvent *ereignis) override
     {
-        if (wer != haupt) {
-            if (ereignis->type() == QEvent::Show && !ereignis->spontaneous() &&
-                wer->isWidgetType() && static_cast<QWidget *>(wer)->isWindow())
-                Merken(static_cast<QWidget *>(wer));
+        switch (ereignis->type()) {
+        case QEvent::Show:
+        case QEvent::Close:
+        case QEvent::WindowActivate:
+        case QEvent::WindowStateChange:
+            break;
+        default:
             return false;
         }
+        auto *fenster = wer->isWidgetType() ? static_cast<QWidget *>(wer) : nullptr;
+        if (!fenster || !fenster->isWindow())
+            return false;
+        const bool gesperrt = !fenster->isEnabled() && fenster->windowType() == Qt::Window;
         switch (ereignis->type()) {
+        case QEvent::Show:
+            if (fenster != haupt && !ereignis->spontaneous())
+                Merken(fenster);
+            return false;
         case QEvent::Close:
-            // The exit routine closes the window itself.
-            if (haupt->isEnabled() || !ereignis->spontaneous())
+            // The exit routine closes the windows itself.
+            if (!gesperrt || !ereignis->spontaneous())
                 return false;
             ereignis->ignore();
             Planen();
             return true;
-        case QEvent::WindowActivate:
-        case QEvent::WindowStateChange:
-            if (!haupt->isMinimized())
-                Planen();
-            return false;
         default:
+            if ((gesperrt || fenster == haupt) && !fenster->isMinimized())
+                Planen();
             return false;
         }
     }
@@ -67,7 +76,7 @@ class Fensterordnung : public QObject {
         const QWidgetList offene = Offene();
         if (haupt->isEnabled() && !haupt->isActiveWindow())
             return;
-        for (QWidget *fenster : offene)
+        for (QWidget *fenster : offene + Danebengelegte())
             if (!fenster->isMinimized())
                 fenster->raise();
         if (!haupt->isEnabled() && !offene.empty())
@@ -93,6 +102,28 @@ class Fensterordnung : public QObject {
         std::ranges::stable_sort(offene, {},
                                  [this](QWidget *fenster) { return benutzt.indexOf(fenster); });
         return offene;
+    }
+
+    /// What one reads stays in front of the main window, unless it covers its buttons: one presses
+    /// these while reading about them.
+    QWidgetList Danebengelegte() const
+    {
+        QWidgetList gelegte;
+        const QWidgetList alle = QApplication::topLevelWidgets();
+        for (QWidget *fenster : alle)
+            if (haupt->isEnabled() && fenster->isVisible() && IstZumNachlesen(fenster) &&
+                LäßtKnöpfeFrei(fenster))
+                gelegte.append(fenster);
+        return gelegte;
+    }
+
+    bool LäßtKnöpfeFrei(const QWidget *fenster) const
+    {
+        const auto knöpfe = haupt->findChildren<QPushButton *>();
+        return std::ranges::none_of(knöpfe, [&](const QPushButton *knopf) {
+            const QRect platz(knopf->mapToGlobal(QPoint(0, 0)), knopf->size());
+            return knopf->isVisible() && fenster->frameGeometry().intersects(platz);
+        });
     }
 
     void Merken(const QWindow *jetzt)

@@ -108,8 +108,10 @@ void MeldungsfensterEinrichten()
         MeldungZeigen(IstFehler(text) ? Fehler : Mitteilung, text, "Altardienst");
     };
     Meldungen.Fragen = [](const Text &text, const Text &titel) {
-        const Meldungsart &art = FragtVorVerlust(text) ? FrageVorVerlust : Frage;
-        return MeldungZeigen(art, text, titel) == QMessageBox::Yes;
+        return MeldungZeigen(Frage, text, titel) == QMessageBox::Yes;
+    };
+    Meldungen.FragenVorVerlust = [](const Text &text, const Text &titel) {
+        return MeldungZeigen(FrageVorVerlust, text, titel) == QMessageBox::Yes;
     };
 }
 

@@ -22,13 +22,18 @@ class Dateizugriffe {
   public:
     void Lebenszeichen()
     {
-        if (!beginn) {
-            beginn = Uhr.Stoppuhr();
-            QTimer::singleShot(0, qApp, Nebenbei([this] { Vorbei(); })); // after this event
-        } else if (!zeiger && Uhr.Stoppuhr() - *beginn >= Geduld) {
-            zeiger = true;
-            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-        }
+        if (!beginn)
+            Beginnen();
+        else if (Uhr.Stoppuhr() - *beginn >= Geduld)
+            Zeigen();
+    }
+
+    /// Nothing can be shown any more while the step runs.
+    void VorLangemSchritt()
+    {
+        if (!beginn)
+            Beginnen();
+        Zeigen();
     }
 
     void Vorbei()
@@ -39,6 +44,18 @@ class Dateizugriffe {
     }
 
   private:
+    void Beginnen()
+    {
+        beginn = Uhr.Stoppuhr();
+        QTimer::singleShot(0, qApp, Nebenbei([this] { Vorbei(); })); // after this event
+    }
+
+    void Zeigen()
+    {
+        if (!std::exchange(zeiger, true))
+            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+
     std::optional<std::int64_t> beginn;
     bool zeiger = false;
 };
@@ -50,6 +67,7 @@ Dateizugriffe zugriffe;
 void DateiwartezeigerEinrichten()
 {
     Lebenszeichen = [] { zugriffe.Lebenszeichen(); };
+    VorLangemSchritt = [] { zugriffe.VorLangemSchritt(); };
 }
 
 void UnterWartezeiger(const std::function<void()> &aktion)

@@ -71,9 +71,10 @@ void GrößenRechnen()
 
 void MessenMitMeßdienerBesetzen(Übertragung übertragen)
 {
-    if (!Meldungen.Fragen("Sicherer ist ~(4)Meßdiener-Wunschpartner berücksichtigen~ und ohne "
-                          "Probleme. Wollen Sie Wirklich diese Funktion ausführen?",
-                          "Wirklich?"))
+    if (!Meldungen.FragenVorVerlust(
+            "Sicherer ist ~(4)Meßdiener-Wunschpartner berücksichtigen~ und ohne "
+            "Probleme. Wollen Sie Wirklich diese Funktion ausführen?",
+            "Wirklich?"))
         return;
     MessenSortieren();
     DienstProDienerRechnen();

@@ -272,7 +272,7 @@ QPushButton *Schrittknopf(const char *name, const char *zeichen, const char *ges
 void SchrittAnfügen(QHBoxLayout *reihe, const char *einheit, SpinButton *spin, QPushButton *minus,
                     QPushButton *plus)
 {
-    constexpr int Vorher = 4;
+    constexpr int Vorher = 2;
     reihe->addSpacing(Vorher);
     reihe->addWidget(Beschriftung("", einheit));
     for (QWidget *control : std::initializer_list<QWidget *>{spin, minus, plus})

@@ -24,6 +24,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 
 namespace altardienst {
 namespace {
@@ -66,11 +67,13 @@ class Kalenderzeichen : public QIconEngine {
     QIconEngine *clone() const override { return new Kalenderzeichen; }
 };
 
+/// Today, where no day stands: "00:00:00" is none, nor is a time.
 QDate TagIn(const QLineEdit *feld)
 {
     Datum datum = Uhr.Heute();
     try {
-        datum = DatumLesen(TextVon(feld));
+        if (const Datum getippt = DatumLesen(TextVon(feld)); std::abs(getippt) >= 1)
+            datum = getippt;
     } catch (const Laufzeitfehler &) {
         // Whoever has typed something else starts with today.
     }

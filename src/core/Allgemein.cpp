@@ -113,10 +113,11 @@ void AufFestplatteSpeichern()
 
 void VonDisketteLaden()
 {
-    if (!Meldungen.Fragen("Das Laden der Daten von Diskette kann zu Problemen und Fehlern führen, "
-                          "denn es könnte sich z.B. um alte Daten handeln! Wollen Sie die Daten "
-                          "wirklich laden??",
-                          "Laden der Daten von Diskette"))
+    if (!Meldungen.FragenVorVerlust(
+            "Das Laden der Daten von Diskette kann zu Problemen und Fehlern führen, "
+            "denn es könnte sich z.B. um alte Daten handeln! Wollen Sie die Daten "
+            "wirklich laden??",
+            "Laden der Daten von Diskette"))
         return;
     path verzeichnis = Laufwerke.Diskette();
     try {

@@ -30,7 +30,7 @@ void FesteMeßdienerÜbertragen()
 
 void ÜbertragenAufWunsch()
 {
-    if (Meldungen.Fragen("Übertragen in die Messenliste?", "Meßdiener zu Messen"))
+    if (Meldungen.FragenVorVerlust("Übertragen in die Messenliste?", "Meßdiener zu Messen"))
         FesteMeßdienerÜbertragen();
 }
 

@@ -175,7 +175,7 @@ void MesseDienerFestForm::Hinzufügen()
 void MesseDienerFestForm::EintragLöschen()
 {
     if (MesseDienerFest.Anzahl < 2 ||
-        !Meldungen.Fragen("Wirklich?", "Löschen der Zuordnung Meßdiener Messe"))
+        !Meldungen.FragenVorVerlust("Wirklich?", "Löschen der Zuordnung Meßdiener Messe"))
         return;
     FestenEintragLöschen(ZahlIn(Wahl->Nummer));
     if (ZahlIn(Wahl->Nummer) > MesseDienerFest.Anzahl)

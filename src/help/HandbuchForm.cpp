@@ -25,6 +25,8 @@ namespace altardienst {
 namespace {
 
 constexpr QSize Fenstergröße(1060, 740);
+constexpr int WenigsteBreite = 760;
+constexpr int Knopfspalte = 350; // of the main window
 constexpr int BreiteLinks = 280;
 constexpr std::array Schriftgrade = {70, 80, 90, 100, 110, 125, 150, 175, 200, 250, 300};
 
@@ -142,7 +144,14 @@ void HandbuchForm::Anordnen()
     teiler->setSizes({BreiteLinks, Fenstergröße.width() - BreiteLinks});
 
     Fensterspalte(this, Luft::Wenig)->addWidget(teiler);
-    resize(Fenstergröße.boundedTo(screen()->availableSize() - Fensterrahmen));
+    const QRect schirm = screen()->availableGeometry();
+    // The buttons one reads about stand at the left, and stay free where the screen has the room.
+    const int frei = schirm.width() - Knopfspalte;
+    const QSize größe(std::clamp(frei, WenigsteBreite, Fenstergröße.width()),
+                      Fenstergröße.height());
+    resize(größe.boundedTo(schirm.size() - Fensterrahmen));
+    const QSize mitRahmen = size() + Fensterrahmen;
+    move(schirm.right() + 1 - mitRahmen.width(), schirm.bottom() + 1 - mitRahmen.height());
     Seite->setFocus();
 }
 

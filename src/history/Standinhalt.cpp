@@ -198,7 +198,7 @@ Text Ladebefund::Satz() const
     case Fehlt:
         return Datei + " fehlt.";
     case Unlesbar:
-        return Datei + " läßt sich nicht lesen.";
+        return Datei + " lässt sich nicht lesen.";
     case EndetVorher:
         return Datei + " endet zu früh, nach Zeile " + ZahlText(Zeile) + ".";
     case Unpassend:

@@ -229,9 +229,9 @@ void StändeForm::StandHolen()
     const Stand stand = stände[static_cast<std::size_t>(Zeile())];
     const Standinhalt inhalt = InhaltVon(stand.Ort);
     if (!inhalt.Vollzählig())
-        return Setzen(Hinweis, "Dieser Stand läßt sich nicht zurückholen: " +
+        return Setzen(Hinweis, "Dieser Stand lässt sich nicht zurückholen: " +
                                    InhaltLesen(inhalt).Befund.Satz());
-    if (!Meldungen.Fragen(
+    if (!Meldungen.FragenVorVerlust(
             (stand.Art == Standart::Gewöhnlich ? "Den Stand vom " : "Den Notfall vom ") +
                 ZeitText(stand) +
                 " zurückholen? Was das Programm jetzt weiß, wird vorher als eigener "

@@ -178,15 +178,15 @@ void DruckdialogForm::ZielGewählt()
     OKButton->setEnabled(aufPapier || beschreibbar);
     Hinweis->setText(aufPapier || pfad.isEmpty() || beschreibbar
                          ? ""
-                         : "In dieses Verzeichnis läßt sich nichts schreiben.");
+                         : "In dieses Verzeichnis lässt sich nichts schreiben.");
 }
 
 /// The file as it will be written; empty without a name.
 QString DruckdialogForm::PdfPfad() const
 {
     QString name = PdfDatei->text().trimmed();
-    if (name.isEmpty() || name.endsWith('/'))
-        return {};
+    if (name.isEmpty() || name.endsWith('/') || name.endsWith('\\'))
+        return {}; // a directory
     if (!name.endsWith(".pdf", Qt::CaseInsensitive))
         name += ".pdf";
     return QDir::cleanPath(Ablage().absoluteFilePath(name));
@@ -196,9 +196,9 @@ void DruckdialogForm::Bestätigen()
 {
     const QString pfad = PdfPfad();
     if (Pdf->isChecked() && pfad != ersetzbar && QFileInfo::exists(pfad) &&
-        !Meldungen.Fragen("Die Datei " + pfad.toStdString() +
-                              " gibt es schon. Soll sie ersetzt werden?",
-                          "Drucken"))
+        !Meldungen.FragenVorVerlust("Die Datei " + pfad.toStdString() +
+                                        " gibt es schon. Soll sie ersetzt werden?",
+                                    "Drucken"))
         return;
     accept();
 }

@@ -10,7 +10,7 @@
 namespace altardienst {
 
 Editorfenster::Editorfenster(Datensatzwahl *wahl, Datensatzliste::Quelle quelle)
-    : Wahl(wahl), Liste(nullptr), Ende(Knopf("Ende", "Ende"))
+    : Wahl(wahl), Liste(nullptr), Ende(Knopf("Ende", "Ende")), anzahl(quelle.Anzahl)
 {
     quelle.BeiWahl = Offen([this](int satz) { Aufschlagen(satz); });
     Liste = new Datensatzliste(wahl, std::move(quelle));
@@ -28,10 +28,25 @@ void Editorfenster::EndeVerbinden()
 void Editorfenster::Aufschlagen(int satz)
 {
     const int i = Sichern();
-    if (satz > i && !IstBenannt(i))
+    const bool kannWeg = i == anzahl() ? LeerenPlatzVerlassen(i) : satz <= i || IstBenannt(i);
+    if (!kannWeg)
         return;
     Zeigen(satz);
     ZahlSetzen(Wahl->Nummer, satz);
+}
+
+/// A record typed into the place after the last one is added, as by "Plus". Where that is not
+/// possible yet, it is not left: the next new record would take its place.
+bool Editorfenster::LeerenPlatzVerlassen(int i) const
+{
+    if (IstBenannt(i)) {
+        ZahlSetzen(Wahl->Nummer, i + 1);
+        return anzahl() > i;
+    }
+    QWidget *feld = Fehlendes(i);
+    if (feld)
+        feld->setFocus();
+    return !feld;
 }
 
 int Editorfenster::Nummer() const

@@ -34,6 +34,10 @@ class Editorfenster : public Dialogfenster {
 
     virtual void Zeigen(int i) = 0;
 
+    /// The box that is still empty although part of the name stands in record `i`; null if there is
+    /// none.
+    virtual QWidget *Fehlendes(int i) const = 0;
+
     /// A step to any record.
     virtual void Aufschlagen(int satz);
 
@@ -66,7 +70,9 @@ class Editorfenster : public Dialogfenster {
   private:
     void VorDemSchließen() override;
     void Speichern();
+    bool LeerenPlatzVerlassen(int i) const;
 
+    std::function<int()> anzahl; // of records
     bool abgeschlossen = false;
 };
 

@@ -110,6 +110,11 @@ bool GruppeForm::IstBenannt(int i) const
     return !Gruppe.Bezeichnung[i].empty();
 }
 
+QWidget *GruppeForm::Fehlendes(int) const
+{
+    return nullptr;
+}
+
 /// Before each save, except when closing by the close box: a name that another group has is
 /// silently undone, a new one is passed on to the servers.
 void GruppeForm::Umbenennen()
@@ -122,7 +127,7 @@ void GruppeForm::Umbenennen()
 
 void GruppeForm::Löschen()
 {
-    if (!Meldungen.Fragen("Wirklich?", "Löschen einer Gruppe"))
+    if (!Meldungen.FragenVorVerlust("Wirklich?", "Löschen einer Gruppe"))
         return;
     const int vorher = Gruppe.Anzahl;
     GruppeLöschen(Nummer());

@@ -27,6 +27,7 @@ class GruppeForm : public Editorfenster {
     void Umbenennen() override;
     int Sichern() override;
     bool IstBenannt(int i) const override;
+    QWidget *Fehlendes(int i) const override;
     void Löschen();
     void NeueGruppe();
     void Abschließen() override;

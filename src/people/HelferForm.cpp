@@ -193,6 +193,11 @@ bool HelferForm::IstBenannt(int i) const
     return !Helfer.Vorname[i].empty();
 }
 
+QWidget *HelferForm::Fehlendes(int i) const
+{
+    return Helfer.Nachname[i].empty() ? nullptr : Person.Vorname;
+}
+
 void HelferForm::Aufschlagen(int satz)
 {
     NullStattLeer();
@@ -210,7 +215,7 @@ void HelferForm::Umbenennen()
 
 void HelferForm::Löschen()
 {
-    if (!Meldungen.Fragen("Wirklich?", "Löschen eines Helfers") || Helfer.Anzahl < 3)
+    if (!Meldungen.FragenVorVerlust("Wirklich?", "Löschen eines Helfers") || Helfer.Anzahl < 3)
         return;
     HelferLöschen(Helfer.Cursor);
     Zeigen(Helfer.Cursor);

@@ -33,6 +33,7 @@ class HelferForm : public Editorfenster {
     void Umbenennen() override;
     int Sichern() override;
     bool IstBenannt(int i) const override;
+    QWidget *Fehlendes(int i) const override;
     void Aufschlagen(int satz) override;
     void Löschen();
     void NeuerHelfer();

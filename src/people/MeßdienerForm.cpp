@@ -212,6 +212,13 @@ bool MeßdienerForm::IstBenannt(int i) const
     return !Meßdiener.Vorname[i].empty() && !Meßdiener.Nachname[i].empty();
 }
 
+QWidget *MeßdienerForm::Fehlendes(int i) const
+{
+    if (Meßdiener.Vorname[i].empty() == Meßdiener.Nachname[i].empty())
+        return nullptr;
+    return Meßdiener.Vorname[i].empty() ? Angaben.Person.Vorname : Angaben.Person.Nachname;
+}
+
 void MeßdienerForm::Aufschlagen(int satz)
 {
     NullStattLeer();
@@ -265,7 +272,8 @@ void MeßdienerForm::NeuerMeßdiener()
 /// With two servers or fewer nothing happens. On the blank slot the last server is deleted.
 void MeßdienerForm::Löschen()
 {
-    if (!Meldungen.Fragen("Wirklich?", "Löschen eines Meßdieners") || Meßdiener.Anzahl <= 2)
+    if (!Meldungen.FragenVorVerlust("Wirklich?", "Löschen eines Meßdieners") ||
+        Meßdiener.Anzahl <= 2)
         return;
     if (Nummer() == Meßdiener.Anzahl)
         ZahlSetzen(Wahl->Nummer, Meßdiener.Anzahl - 1);

@@ -41,6 +41,7 @@ class MeßdienerForm : public Editorfenster {
     void Umbenennen() override;
     int Sichern() override;
     bool IstBenannt(int i) const override;
+    QWidget *Fehlendes(int i) const override;
     void Aufschlagen(int satz) override;
     void HäufigkeitGeändert();
     void GruppePrüfen();

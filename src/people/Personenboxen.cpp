@@ -4,6 +4,8 @@
 #include "controls/Handler.h"
 #include "controls/Zahlbox.h"
 
+#include <algorithm>
+
 namespace altardienst {
 namespace {
 
@@ -59,6 +61,7 @@ void Personenboxen::OrtVorschlagen() const
 int NummerBegrenzen(QLineEdit *feld, int letzter, int anzahl)
 {
     Begrenzen(feld, 0, letzter);
+    anzahl = std::max(anzahl, 0);                // a file may claim anything
     if (SingleLesen(TextVon(feld)) > anzahl + 1) // before it is rounded
         ZahlSetzen(feld, anzahl);
     return ZahlIn(feld);

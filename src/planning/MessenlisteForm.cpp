@@ -61,6 +61,13 @@ Messenbild Gezeigtes(int i)
     return bild;
 }
 
+/// Its weekday does not count: it follows from the date by itself.
+bool IstLeer(int i)
+{
+    return Messe.Datum[i] == 0 && Messe.Uhrzeit[i] == 0 && Messe.Messeart[i].empty() &&
+           Messe.Dienerzahl[i] == 0;
+}
+
 } // namespace
 
 MessenlisteForm::MessenlisteForm()
@@ -186,7 +193,7 @@ void MessenlisteForm::NummerGeändert()
     int nummer = Begrenzen(Wahl->Nummer, 0, LetzterDatensatz);
     AnzahlZeigen();
     if (nummer > Messe.Anzahl + 1) {
-        nummer = Messe.Anzahl;
+        nummer = std::max<int>(Messe.Anzahl, 0); // a file may claim anything
         ZahlSetzen(Wahl->Nummer, nummer);
     }
     if (nummer > Messe.Anzahl)
@@ -218,10 +225,13 @@ int MessenlisteForm::Sichern()
     return i;
 }
 
-/// A step to any mass.
+/// A step to any mass. One that was typed in after the last is added, as by "Plus"; where nothing
+/// was typed, none is.
 void MessenlisteForm::Aufschlagen(int satz)
 {
-    Sichern();
+    const int i = Sichern();
+    if (i == Messe.Anzahl && !IstLeer(i))
+        ZahlSetzen(Wahl->Nummer, i + 1);
     Zeigen(satz);
     ZahlSetzen(Wahl->Nummer, satz);
 }
@@ -262,7 +272,7 @@ void MessenlisteForm::Beschriften()
 
 void MessenlisteForm::Löschen()
 {
-    if (!Meldungen.Fragen("Wirklich?", "Löschen einer Messe") || Messe.Anzahl <= 2)
+    if (!Meldungen.FragenVorVerlust("Wirklich?", "Löschen einer Messe") || Messe.Anzahl <= 2)
         return;
     const auto zurückInDieTabelle = [this] {
         if (Nummer() >= Messe.Anzahl)

@@ -9,7 +9,9 @@
 
 #include <QStringListModel>
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 namespace altardienst {
 namespace {
@@ -17,6 +19,17 @@ namespace {
 QString Nummeriert(const char *stamm, std::size_t k)
 {
     return QString::fromUtf8(stamm) + QString::number(k + 1);
+}
+
+/// The servers that can be proposed, in the order of their records.
+std::vector<int> BenannteDiener()
+{
+    std::vector<int> diener;
+    diener.reserve(static_cast<std::size_t>(std::max<int>(Meßdiener.Anzahl, 0)));
+    for (int i = 0; i < Meßdiener.Anzahl; ++i)
+        if (!Meßdiener.Vorname[i].empty() && !Meßdiener.Nachname[i].empty())
+            diener.push_back(i);
+    return diener;
 }
 
 } // namespace
@@ -84,14 +97,15 @@ void Slotzeilen::Ergänzen() const
     auto *liste = new QStringListModel(vor[0]);
     const auto füllen = [liste]() -> QAbstractItemModel * {
         QStringList namen;
-        for (int i = 0; i < Meßdiener.Anzahl; ++i)
+        for (const int i : BenannteDiener())
             namen << Anzeige(Listenname(Meßdiener.Nachname[i], Meßdiener.Vorname[i]));
         if (namen != liste->stringList())
             liste->setStringList(namen);
         return liste;
     };
     for (std::size_t k = 0; k < MDR.size(); ++k) {
-        const auto eintragen = [vor = vor[k], nach = nach[k]](int i) {
+        const auto eintragen = [vor = vor[k], nach = nach[k]](int zeile) {
+            const int i = BenannteDiener()[static_cast<std::size_t>(zeile)];
             Eintippen(vor, Meßdiener.Vorname[i]);
             Eintippen(nach, Meßdiener.Nachname[i]);
         };

@@ -138,7 +138,7 @@ void StandardmessenForm::DienerzahlGeändert()
 /// Changes the screen only; the weekday stays.
 void StandardmessenForm::Löschen()
 {
-    if (!Meldungen.Fragen("Wirklich?", "Löschen einer Standardmesse"))
+    if (!Meldungen.FragenVorVerlust("Wirklich?", "Löschen einer Standardmesse"))
         return;
     Zeitig->setText("00:00:00");
     Messearten->clear();

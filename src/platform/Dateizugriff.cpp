@@ -92,7 +92,7 @@ OffeneDatei Öffnen(const fs::path &pfad, const char *art)
 /// Returns only when the medium itself holds what was written.
 bool Durchschreiben(std::FILE *datei)
 {
-    Lebenszeichen();
+    VorLangemSchritt();
 #ifdef _WIN32
     return std::fflush(datei) == 0 && _commit(_fileno(datei)) == 0;
 #else
@@ -115,6 +115,7 @@ void Ausgeben(const fs::path &pfad, const char *art, std::string_view inhalt,
         Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
     if (std::fclose(datei.release()) != 0) // what is still buffered may fail here
         Gescheitert(errno, Laufzeitfehler::PfadNichtGefunden);
+    Lebenszeichen();
 }
 
 bool IstDatei(const fs::path &pfad)
@@ -300,6 +301,7 @@ void Löschen(const fs::path &pfad)
 void Durchschreiben(const fs::path &wo)
 {
     const fs::path pfad = Systempfad(wo);
+    VorLangemSchritt();
 #ifdef _WIN32
     std::error_code unbekannt;
     if (fs::is_directory(pfad, unbekannt))

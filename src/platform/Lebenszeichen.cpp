@@ -4,5 +4,6 @@
 namespace altardienst {
 
 std::function<void()> Lebenszeichen = [] {};
+std::function<void()> VorLangemSchritt = [] {};
 
 } // namespace altardienst

@@ -10,4 +10,8 @@ namespace altardienst {
 /// program is busy; without windows it does nothing. Cheap.
 extern std::function<void()> Lebenszeichen;
 
+/// Called before a single step that may take seconds by itself, with no part of it done before
+/// another: waiting until a medium holds what was written.
+extern std::function<void()> VorLangemSchritt;
+
 } // namespace altardienst

@@ -11,7 +11,6 @@
 #include "planning/LektorrenuswForm.h"
 #include "planning/MessenlisteForm.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QPointer>
 
@@ -20,13 +19,12 @@
 namespace altardienst {
 namespace {
 
-QAbstractButton *Endeknopf(const QWidget *fenster)
+QAbstractButton *MitAufschrift(const QWidget *fenster, const char *text)
 {
     const auto knöpfe = fenster->findChildren<QAbstractButton *>();
-    const auto ende = std::ranges::find_if(knöpfe, [](const QAbstractButton *knopf) {
-        return knopf->text() == "Ende" && knopf->isEnabled();
-    });
-    return ende == knöpfe.end() ? nullptr : *ende;
+    const auto knopf = std::ranges::find_if(
+        knöpfe, [text](const QAbstractButton *einer) { return einer->text() == text; });
+    return knopf == knöpfe.end() ? nullptr : *knopf;
 }
 
 /// Where a kind of hit stands: the form, the cursor on which it opens, the step to a record.
@@ -135,7 +133,7 @@ QWidget *WasJetztVornIst(QWidget *vorn)
         return vorn;
     const QWidgetList alle = QApplication::topLevelWidgets();
     const auto offen = std::ranges::find_if(alle, [](const QWidget *fenster) {
-        return fenster->isVisible() && fenster->isEnabled() && LäßtSichBeenden(fenster);
+        return fenster->isVisible() && fenster->isEnabled() && Endeknopf(fenster);
     });
     return offen == alle.end() ? nullptr : *offen;
 }
@@ -153,9 +151,12 @@ QWidget *Hindernis(const Fund &treffer, QWidget *vorn)
     return form->isEnabled() ? nullptr : vorn;
 }
 
-bool LäßtSichBeenden(const QWidget *fenster)
+QAbstractButton *Endeknopf(const QWidget *fenster)
 {
-    return Endeknopf(fenster) != nullptr;
+    QAbstractButton *ende = MitAufschrift(fenster, "Ende");
+    if (!ende && !MitAufschrift(fenster, "Abbrechen"))
+        ende = MitAufschrift(fenster, "OK");
+    return ende && ende->isEnabled() ? ende : nullptr;
 }
 
 void Hingehen(const Fund &treffer, QWidget *vorn)

@@ -3,6 +3,7 @@
 
 #include "search/Suche.h"
 
+#include <QAbstractButton>
 #include <QWidget>
 
 namespace altardienst {
@@ -11,12 +12,13 @@ namespace altardienst {
 /// window in which one is.
 QWidget *Hindernis(const Fund &treffer, QWidget *vorn);
 
-/// Whether the window can be left from here: it has a button "Ende". Others take or drop what was
-/// typed, which is for the user to decide.
-bool LäßtSichBeenden(const QWidget *fenster);
+/// The button by which the window can be left from here: "Ende", or "OK" where there is no
+/// "Abbrechen". Null for the others: they take or drop what was typed, which is for the user to
+/// decide.
+QAbstractButton *Endeknopf(const QWidget *fenster);
 
-/// Shows the record of the hit and gives the focus to its place. What is open is left like by
-/// "Ende", and a form that is open at another record makes a step like PLUS; where one of the two
+/// Shows the record of the hit and gives the focus to its place. What is open is left by its
+/// button, and a form that is open at another record makes a step like PLUS; where one of the two
 /// does not succeed, it stays as it is. Otherwise the form opens as from the menu.
 void Hingehen(const Fund &treffer, QWidget *vorn);
 

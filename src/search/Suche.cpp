@@ -123,6 +123,12 @@ bool IstGesuchteMesse(int i, const std::vector<Messenwort> &wörter)
     }
 }
 
+/// A file may claim more records than there can be.
+template <class Tabelle> int Anzahl(const Tabelle &t)
+{
+    return std::min<int>(t.Anzahl, Tabelle::HöchsterIndex + 1);
+}
+
 bool IstGesucht(const Text &vorname, const Text &nachname, const Wörter &wörter)
 {
     return EnthältAlle(vorname + " " + nachname, wörter);
@@ -139,12 +145,14 @@ bool BeginntName(const Text &vorname, const Text &nachname, const Wörter &wört
 
 class Sammlung {
   public:
+    explicit Sammlung(const std::set<Text> &ganze) : ganze(ganze) {}
+
     void Beginnen(const char *titel) { gruppen.push_back({titel, {}, 0}); }
 
     void Aufnehmen(Fund treffer)
     {
         Treffergruppe &gruppe = gruppen.back();
-        if (gruppe.Zeilen.size() < MeisteTreffer)
+        if (gruppe.Zeilen.size() < MeisteTreffer || ganze.contains(gruppe.Titel))
             gruppe.Zeilen.push_back(std::move(treffer));
         else
             ++gruppe.Weitere;
@@ -157,6 +165,7 @@ class Sammlung {
     }
 
   private:
+    const std::set<Text> &ganze;
     std::vector<Treffergruppe> gruppen;
 };
 
@@ -166,7 +175,7 @@ void PersonenSuchen(Sammlung &sammlung, Fundort wo, Tabelle &t, const Spalte &da
                     const Wörter &wörter)
 {
     std::vector<int> gefunden;
-    for (int i = 0; i < t.Anzahl; ++i)
+    for (int i = 0; i < Anzahl(t); ++i)
         if (IstGesucht(t.Vorname[i], t.Nachname[i], wörter))
             gefunden.push_back(i);
     std::stable_partition(gefunden.begin(), gefunden.end(),
@@ -179,7 +188,7 @@ void PersonenSuchen(Sammlung &sammlung, Fundort wo, Tabelle &t, const Spalte &da
 
 void WünscheSuchen(Sammlung &sammlung, const Wörter &wörter)
 {
-    for (int i = 0; i < Meßdiener.Anzahl; ++i) {
+    for (int i = 0; i < Anzahl(Meßdiener); ++i) {
         const Text &vor = Meßdiener.WunschVorname[i];
         const Text &nach = Meßdiener.WunschNachname[i];
         if (IstGesucht(vor, nach, wörter))
@@ -192,7 +201,7 @@ void WünscheSuchen(Sammlung &sammlung, const Wörter &wörter)
 void MessenSuchen(Sammlung &sammlung, const Wörter &wörter)
 {
     const std::vector<Messenwort> messenwörter(wörter.begin(), wörter.end());
-    for (int i = 0; i < Messe.Anzahl; ++i)
+    for (int i = 0; i < Anzahl(Messe); ++i)
         if (IstGesuchteMesse(i, messenwörter))
             sammlung.Aufnehmen({Fundort::Messe, i, 0, Messenzeile(i)});
 }
@@ -214,7 +223,7 @@ void PlätzeSuchen(Sammlung &sammlung, const Wörter &wörter)
         return Messenzeile(i) + Text(Dazwischen) + platz + Text(Dazwischen) +
                Personenzeile(vor, nach);
     };
-    for (int i = 0; i < Messe.Anzahl; ++i) {
+    for (int i = 0; i < Anzahl(Messe); ++i) {
         const int slots = std::min<int>(Messe.Dienerzahl[i], MesseTabelle::HöchsterSlot);
         for (int n = 1; n <= slots; ++n) {
             const Text &vor = Messe.DienerVor[i][n];
@@ -234,10 +243,22 @@ void PlätzeSuchen(Sammlung &sammlung, const Wörter &wörter)
     }
 }
 
+/// The places that the mass of a fixed entry has, which are those that its window shows.
+int Festplätze(int k)
+{
+    int plätze = 0;
+    for (int i = 0; i < Anzahl(Messe); ++i)
+        if (Messe.Datum[i] == MesseDienerFest.Datum[k] &&
+            Messe.Uhrzeit[i] == MesseDienerFest.Uhrzeit[k])
+            plätze = std::min<int>(Messe.Dienerzahl[i], MesseDienerFestTabelle::HöchsterSlot);
+    return plätze;
+}
+
 void FesteSuchen(Sammlung &sammlung, const Wörter &wörter)
 {
-    for (int k = 0; k < MesseDienerFest.Anzahl; ++k)
-        for (int n = 1; n <= MesseDienerFestTabelle::HöchsterSlot; ++n) {
+    for (int k = 0; k < Anzahl(MesseDienerFest); ++k) {
+        const int plätze = Festplätze(k);
+        for (int n = 1; n <= plätze; ++n) {
             const Text &vor = MesseDienerFest.Vorname[k][n];
             const Text &nach = MesseDienerFest.Nachname[k][n];
             if (IstGesucht(vor, nach, wörter))
@@ -246,11 +267,12 @@ void FesteSuchen(Sammlung &sammlung, const Wörter &wörter)
                      Terminzeile(MesseDienerFest.Datum[k], MesseDienerFest.Uhrzeit[k]) +
                          Text(Dazwischen) + Personenzeile(vor, nach)});
         }
+    }
 }
 
 } // namespace
 
-std::vector<Treffergruppe> Suchen(std::string_view getippt)
+std::vector<Treffergruppe> Suchen(std::string_view getippt, const std::set<Text> &ganze)
 {
     const Wörter wörter = Suchwörter(getippt);
     int zeichen = 0;
@@ -258,7 +280,7 @@ std::vector<Treffergruppe> Suchen(std::string_view getippt)
         zeichen += Länge(wort);
     if (zeichen < WenigsteZeichen)
         return {};
-    Sammlung sammlung;
+    Sammlung sammlung(ganze);
     sammlung.Beginnen("Meßdiener");
     PersonenSuchen(sammlung, Fundort::Meßdiener, Meßdiener, Meßdiener.Gruppe, wörter);
     sammlung.Beginnen("Helfer");

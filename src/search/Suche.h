@@ -3,6 +3,7 @@
 
 #include "values/Text.h"
 
+#include <set>
 #include <string_view>
 #include <vector>
 
@@ -32,13 +33,14 @@ struct Treffergruppe {
     int Weitere = 0;          // that were found as well
 };
 
-/// More of a group are only counted.
+/// More of a group are only counted, unless all of it is wanted.
 constexpr std::size_t MeisteTreffer = 50;
 
 /// Every word typed must be found. A person is found by parts of the names, capitals or not: as a
-/// record, as a wish, in the places that a mass wants filled and in fixed entries. A mass is found
-/// by its date ("8.12.", "8. Dezember", "8.12.2026", "2026-12-08" and with "/" or "-"), its
-/// weekday, time or kind. Below two characters nothing is found; groups without a hit are left out.
-std::vector<Treffergruppe> Suchen(std::string_view getippt);
+/// record, as a wish, in the places that a mass wants filled and in fixed entries for such places.
+/// A mass is found by its date ("8.12.", "8. Dezember", "8.12.2026", "2026-12-08" and with "/" or
+/// "-"), its weekday, time or kind. Below two characters nothing is found; groups without a hit are
+/// left out. Those whose titles are in `ganze` are complete.
+std::vector<Treffergruppe> Suchen(std::string_view getippt, const std::set<Text> &ganze = {});
 
 } // namespace altardienst

@@ -15,7 +15,8 @@
 namespace altardienst {
 namespace {
 
-constexpr int Trefferrolle = Qt::UserRole; // the number of the hit of a row
+constexpr int Trefferrolle = Qt::UserRole;  // the number of the hit of a row
+constexpr int Restrolle = Qt::UserRole + 1; // the group of which a row would show the rest
 
 QString Genannt(const QWidget *fenster)
 {
@@ -59,7 +60,10 @@ void SuchenForm::Anordnen()
 void SuchenForm::Verbinden()
 {
     Suchtext->installEventFilter(this);
-    connect(Suchtext, &QLineEdit::textChanged, this, Abgefangen([this] { Finden(); }));
+    connect(Suchtext, &QLineEdit::textChanged, this, Abgefangen([this] {
+                ganze.clear();
+                Finden();
+            }));
     connect(Fundstellen, &QListWidget::currentRowChanged, this,
             Abgefangen([this] { Hinweisen(); }));
     connect(Fundstellen, &QListWidget::itemClicked, this,
@@ -73,10 +77,12 @@ void SuchenForm::Finden()
 {
     Fundstellen->clear();
     treffer.clear();
-    for (const Treffergruppe &gruppe : Suchen(Suchtext->text().toStdString())) {
+    for (const Treffergruppe &gruppe : Suchen(Suchtext->text().toStdString(), ganze)) {
         Überschriftzeile(gruppe);
         for (const Fund &eine : gruppe.Zeilen)
             Trefferzeile(eine);
+        if (gruppe.Weitere > 0)
+            Restzeile(gruppe);
     }
     Markieren(+1, 1);
     Hinweisen();
@@ -105,14 +111,25 @@ void SuchenForm::Trefferzeile(const Fund &eine)
     zeile->setData(Trefferrolle, static_cast<int>(treffer.size()));
     treffer.push_back(eine);
     const QWidget *davor = Hindernis(eine, vorn);
-    if (davor && !LäßtSichBeenden(davor)) {
+    if (davor && !Endeknopf(davor)) {
         zeile->setText(zeile->text() + " – erst nach Beenden von " + Genannt(davor));
         zeile->setFlags(Qt::NoItemFlags);
     }
 }
 
+void SuchenForm::Restzeile(const Treffergruppe &gruppe)
+{
+    auto *zeile =
+        new QListWidgetItem(QString("   %1 weitere zeigen").arg(gruppe.Weitere), Fundstellen);
+    zeile->setData(Restrolle, Anzeige(gruppe.Titel));
+}
+
 void SuchenForm::Hinweisen()
 {
+    if (!Gruppe().isEmpty()) {
+        Hinweis->setText("Eingabe zeigt auch die übrigen, Esc geht zurück.");
+        return;
+    }
     const Fund *ziel = Markierter();
     if (!ziel) {
         const bool leer = Suchtext->text().trimmed().size() < 2;
@@ -122,14 +139,26 @@ void SuchenForm::Hinweisen()
         return;
     }
     const QWidget *davor = Hindernis(*ziel, vorn);
-    Hinweis->setText(davor ? "Eingabe geht hin; " + Genannt(davor) +
-                                 " wird dabei wie mit „Ende“ verlassen."
-                           : QString("Eingabe geht hin, Esc zurück."));
+    const QAbstractButton *ende = davor ? Endeknopf(davor) : nullptr;
+    Hinweis->setText(ende ? "Eingabe geht hin; " + Genannt(davor) + " wird dabei wie mit „" +
+                                ende->text() + "“ verlassen."
+                          : QString("Eingabe geht hin, Esc zurück."));
+}
+
+/// The first of those that come is marked then.
+void SuchenForm::Ausbreiten(const QString &gruppe)
+{
+    const int zeile = Fundstellen->currentRow();
+    ganze.insert(gruppe.toStdString());
+    Finden();
+    Fundstellen->setCurrentRow(zeile);
 }
 
 /// Once this window is gone, so that the other ones are as the user knows them.
 void SuchenForm::Gehen()
 {
+    if (const QString gruppe = Gruppe(); !gruppe.isEmpty())
+        return Ausbreiten(gruppe);
     const Fund *ziel = Markierter();
     if (!ziel)
         return;
@@ -156,9 +185,16 @@ void SuchenForm::Markieren(int richtung, int weite)
 const Fund *SuchenForm::Markierter() const
 {
     const QListWidgetItem *zeile = Fundstellen->currentItem();
-    if (!zeile || !(zeile->flags() & Qt::ItemIsEnabled))
+    if (!zeile || !(zeile->flags() & Qt::ItemIsEnabled) || !Gruppe().isEmpty())
         return nullptr;
     return &treffer[static_cast<std::size_t>(zeile->data(Trefferrolle).toInt())];
+}
+
+/// The group whose rest the marked row would show; empty for a hit.
+QString SuchenForm::Gruppe() const
+{
+    const QListWidgetItem *zeile = Fundstellen->currentItem();
+    return zeile ? zeile->data(Restrolle).toString() : QString();
 }
 
 bool SuchenForm::eventFilter(QObject *, QEvent *ereignis)

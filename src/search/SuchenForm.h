@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QPointer>
 
+#include <set>
 #include <vector>
 
 namespace altardienst {
@@ -36,11 +37,15 @@ class SuchenForm : public QDialog {
     void Gehen();
     void Überschriftzeile(const Treffergruppe &gruppe);
     void Trefferzeile(const Fund &eine);
+    void Restzeile(const Treffergruppe &gruppe);
+    void Ausbreiten(const QString &gruppe);
     void Markieren(int richtung, int weite);
     const Fund *Markierter() const;
+    QString Gruppe() const;
 
     QPointer<QWidget> vorn;
     std::vector<Fund> treffer; // in the order of their rows
+    std::set<Text> ganze;      // the groups that are shown to their ends
 };
 
 /// From now on Ctrl+F opens "Suchen" in every window, as long as `eigner` lives, unless a message

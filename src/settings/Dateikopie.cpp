@@ -104,7 +104,7 @@ Text DateimängelSatz(const Dateimängel &mängel)
         return FehltSatz(mängel.Fehlend);
     if (!mängel.Doppelt.empty())
         return "Hier liegen " + mängel.Doppelt.front().Gespeichert + " und " +
-               mängel.Doppelt.front().Eigene + " nebeneinander; eine von beiden muß weg.";
+               mängel.Doppelt.front().Eigene + " nebeneinander; eine von beiden muss weg.";
     return mängel.Anders.empty() ? "" : AndersSatz(mängel.Anders);
 }
 

@@ -187,7 +187,7 @@ void KopierForm::VerzeichnisGewechselt()
     Setzen(Datei, OrdnerText(Wahl.Pfad()));
     OKButton->setVisible(!Wahl.Pfad().empty() && AlleDateienVorhanden(Quelle()));
     if (Wahl.Pfad().empty())
-        return Setzen(Hinweis, "Kein Laufwerk läßt sich lesen.");
+        return Setzen(Hinweis, "Kein Laufwerk lässt sich lesen.");
     const Dateimängel mängel = DateimängelIn(Quelle());
     Setzen(Hinweis, DateimängelSatz(mängel));
     Berichtigen->setVisible(mängel.SindNurNamen());

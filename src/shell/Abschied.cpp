@@ -27,7 +27,8 @@ class Stille {
     Stille() : zuvor(Meldungen)
     {
         Meldungen.Zeigen = [](const Text &) {};
-        Meldungen.Fragen = [](const Text &, const Text &) { return false; };
+        Meldungen.Fragen =
+            Meldungen.FragenVorVerlust = [](const Text &, const Text &) { return false; };
     }
     ~Stille() { Meldungen = zuvor; }
     Stille(const Stille &) = delete;

@@ -42,6 +42,7 @@
 #include "settings/SkalierungForm.h"
 #include "settings/ZusatzKonfigForm.h"
 #include "settings/frmAboutForm.h"
+#include "shell/Hauptfenstertasten.h"
 #include "statistics/StatDienstForm.h"
 #include "statistics/StatHelferForm.h"
 #include "statistics/StatMeßdienstForm.h"
@@ -171,15 +172,14 @@ void DisketteLaden()
         Mitteilen(bericht);
 }
 
-/// A save to the diskette fails silently.
+/// A save to the diskette fails silently: nothing is said of one that does not hold all eight
+/// files.
 void DisketteSpeichern()
 {
-    try {
+    Abgefangen([] {
         AufDisketteSpeichern();
         Mitteilen("auf Diskette gespeichert");
-    } catch (const Laufzeitfehler &fehler) {
-        Mitteilen(Text("nicht auf Diskette gespeichert: ") + fehler.what());
-    }
+    })();
 }
 
 /// The number of a key in the main keyboard's row of digits, whatever Shift or Caps Lock makes of
@@ -245,6 +245,7 @@ void HauptForm::Anordnen()
         TasteNennen(knopf,
                     knopf == Messendruck ? QString("7 oder Strg+P") : knopf->text().mid(1, 1));
     TasteDrückt(Qt::CTRL | Qt::Key_P, Messendruck);
+    TasteAuchDaneben(this, Qt::CTRL | Qt::Key_P, [this] { Messendruck->click(); });
     ODER1->setAlignment(Qt::AlignCenter);
     links->addStretch();
     auto *uhr = new QHBoxLayout;
@@ -362,9 +363,10 @@ void HauptForm::MenüZusatz()
             DialogÖffnen<DialogForm>);
 
     QMenu *festplatte = Menü(zusatz, "mnuDatend", "Date&n auf Festplatte");
-    Eintrag(festplatte, "mnuDatenspeichern", "&speichern", [] {
-        SpeichernOderEnden();
-    })->setShortcut(QKeySequence::Save);
+    QAction *speichern =
+        Eintrag(festplatte, "mnuDatenspeichern", "&speichern", [] { SpeichernOderEnden(); });
+    speichern->setShortcut(QKeySequence::Save);
+    TasteAuchDaneben(this, speichern->shortcut(), [speichern] { speichern->trigger(); });
     Ladeeintrag(festplatte, "mnuDatenladen", "&laden", FestplatteLaden);
 
     QMenu *diskette = Menü(zusatz, "mnuDatene", "D&aten auf Diskette");

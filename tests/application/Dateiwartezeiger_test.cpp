@@ -3,6 +3,7 @@
 
 #include "Fensterstand.h"
 #include "core/Allgemein.h"
+#include "platform/Dateizugriff.h"
 
 #include <QApplication>
 
@@ -64,6 +65,26 @@ TEST_F(DateiwartezeigerTest, JedesEreignisFängtVonVornAn)
         EXPECT_FALSE(Wartet());
         QCoreApplication::processEvents();
     }
+}
+
+TEST_F(DateiwartezeigerTest, VorDemWartenAufDasMediumKommtErSofort)
+{
+    const auto datei = Festplatte / "Helfer.dat";
+    std::function<void()> schritte[] = {[&] { Laufwerke.Kopieren(datei, Diskette / "Helfer.dat"); },
+                                        [&] { dateizugriff::Durchschreiben(datei); }};
+    for (const auto &schritt : schritte) {
+        schritt();
+        EXPECT_TRUE(Wartet()) << "who knows how long it takes";
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(Wartet());
+    }
+}
+
+TEST_F(DateiwartezeigerTest, AuchEineEinzigeDateiDieLangeDauertHatIhn)
+{
+    Uhr.Stoppuhr = [this] { return zeit += 600; };
+    dateizugriff::Schreiben(Festplatte / "Plan.txt", "eine Zeile");
+    EXPECT_TRUE(Wartet()) << "until the event is over";
 }
 
 TEST_F(DateiwartezeigerTest, EineMeldungNimmtIhnWegUndEsBleibtKeinerStehen)

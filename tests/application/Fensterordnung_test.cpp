@@ -68,19 +68,29 @@ class FensterordnungTest : public Fensterstand {
     }
 
     /// As the task bar does it.
-    void Hervorholen() const
+    static void Hervorholen(QWidget *fenster)
     {
-        haupt->showMaximized();
-        haupt->activateWindow();
+        fenster->showMaximized();
+        fenster->activateWindow();
         QCoreApplication::processEvents();
         QCoreApplication::processEvents();
     }
+    void Hervorholen() const { Hervorholen(haupt); }
 
     /// A request that comes to the window from outside.
-    void SchließenVomSchreibtisch() const
+    static void SchließenVomSchreibtisch(const QWidget *fenster)
     {
         QCloseEvent ereignis;
-        QApplication::sendEvent(haupt->windowHandle(), &ereignis);
+        QApplication::sendEvent(fenster->windowHandle(), &ereignis);
+    }
+    void SchließenVomSchreibtisch() const { SchließenVomSchreibtisch(haupt); }
+
+    /// A form disabled below the dialog that it has opened.
+    static QWidget *DialogÜber(QWidget *form)
+    {
+        form->setEnabled(false);
+        form->showMinimized();
+        return Daneben("Dialog");
     }
 
     QPointer<Hauptfenster> haupt = new Hauptfenster;
@@ -120,13 +130,37 @@ TEST_F(FensterordnungTest, VonZweienKommtDerZuletztBenutzte)
 TEST_F(FensterordnungTest, EinDialogDerFürEinenAnderenGesperrtIstKommtNicht)
 {
     QWidget *liste = Dialog("Liste");
-    liste->setEnabled(false);
-    liste->showMinimized();
-    QWidget *dialog = Daneben("Dialog");
+    QWidget *dialog = DialogÜber(liste);
     Hervorholen();
     EXPECT_TRUE(Warten([&] { return dialog->isActiveWindow(); }));
     EXPECT_TRUE(liste->isMinimized());
     EXPECT_FALSE(liste->isEnabled());
+}
+
+TEST_F(FensterordnungTest, WerDenGesperrtenHoltBekommtDenAnderen)
+{
+    QWidget *liste = Dialog("Liste");
+    QWidget *dialog = DialogÜber(liste);
+    Zähler zähler(dialog);
+    Hervorholen(liste);
+    EXPECT_TRUE(Warten([&] { return dialog->isActiveWindow(); }));
+    EXPECT_GT(zähler.Gehoben, 0);
+    EXPECT_FALSE(liste->isEnabled());
+}
+
+TEST_F(FensterordnungTest, DerGesperrteLäßtSichNichtSchließen)
+{
+    QPointer<QWidget> liste = Dialog("Liste");
+    QPointer<QWidget> dialog = DialogÜber(liste);
+    dialog->showMinimized();
+    SchließenVomSchreibtisch(liste);
+    ASSERT_TRUE(liste);
+    EXPECT_TRUE(liste->isVisible());
+    EXPECT_FALSE(haupt->isEnabled());
+    EXPECT_TRUE(Warten([&] { return dialog->isActiveWindow(); }));
+    liste->setEnabled(true);
+    SchließenVomSchreibtisch(liste);
+    EXPECT_FALSE(liste && liste->isVisible());
 }
 
 TEST_F(FensterordnungTest, DasGesperrteHauptfensterLäßtSichNichtSchließen)
@@ -156,19 +190,41 @@ TEST_F(FensterordnungTest, WasDanebenStehtBleibtVorDemHauptfenster)
 {
     QWidget *liste = Daneben("Liste");
     QWidget *weg = Daneben("Weg");
-    QWidget *handbuch = Daneben("Handbuch");
     weg->showMinimized();
-    ZumNachlesen(handbuch);
     Zähler beiListe(liste);
     Zähler beiWeg(weg);
-    Zähler beiHandbuch(handbuch);
     Hervorholen();
     EXPECT_GT(beiListe.Gehoben, 0);
     EXPECT_TRUE(haupt->isActiveWindow()) << "it is in use all the same";
     EXPECT_TRUE(haupt->isEnabled());
     EXPECT_EQ(beiWeg.Gehoben, 0);
     EXPECT_TRUE(weg->isMinimized());
-    EXPECT_EQ(beiHandbuch.Gehoben, 0) << "it would cover the buttons that one reads about";
+}
+
+TEST_F(FensterordnungTest, DasHandbuchBleibtVornWoEsDieKnöpfeFreiLäßt)
+{
+    auto *knopf = new QPushButton("(1)", haupt);
+    knopf->setGeometry(10, 10, 100, 30);
+    knopf->show();
+    QWidget *handbuch = Daneben("Handbuch");
+    ZumNachlesen(handbuch);
+    const QPoint ecke = knopf->mapToGlobal(QPoint(0, 0));
+    handbuch->setGeometry(QRect(ecke, QSize(300, 200)));
+    QCoreApplication::processEvents();
+    Zähler zähler(handbuch);
+    Hervorholen();
+    EXPECT_EQ(zähler.Gehoben, 0) << "it would cover the button that one reads about";
+    Zeigen(handbuch);
+    handbuch->setGeometry(QRect(ecke + QPoint(150, 0), QSize(300, 200)));
+    QCoreApplication::processEvents();
+    zähler.Gehoben = 0;
+    Hervorholen();
+    EXPECT_GT(zähler.Gehoben, 0);
+    EXPECT_TRUE(haupt->isActiveWindow()) << "it is in use all the same";
+    zähler.Gehoben = 0;
+    Dialog("Dialog");
+    Hervorholen();
+    EXPECT_EQ(zähler.Gehoben, 0) << "a dialog comes before it";
 }
 
 TEST_F(FensterordnungTest, NachEinemDialogStehtDieListeWiederVorn)

@@ -115,6 +115,8 @@ const std::map<Text, Felder> &Erwartet()
         f["Etiketten"] = {{}, {}, {"Ind", "OU", "LR", "H", "B", "ST", "R", "S"}, {}, {"N"}};
         f["Druck"] = {{"Rückgebend", "Dauernde"}, {}, {"Reih", "Spal"}, {}, {}};
         f["JubiGebu"] = {{}, {}, {"Reih", "Spal"}, {}, {}};
+        f["Datensicherung"] = {{}, {}, {}, {}, {"VZ"}};
+        f["Dateikopie"] = f["DateienKopieren"] = {};
         return f;
     }();
     return erwartet;

@@ -66,6 +66,17 @@ TEST_F(KalenderTest, OhneLesbaresDatumBeginntErHeute)
     EXPECT_EQ(Öffnen()->selectedDate(), QDate(2026, 11, 21));
 }
 
+TEST_F(KalenderTest, WoKeinTagStehtBeginntErBeiHeute)
+{
+    for (const char *text : {"", "00:00:00", "18:30:00", "30.12.1899"}) {
+        Einsetzen(feld, text);
+        EXPECT_EQ(Öffnen()->selectedDate(), QDate(2026, 11, 21)) << text;
+        KalenderTaste(Qt::Key_Escape);
+    }
+    Einsetzen(feld, "29.12.1899");
+    EXPECT_EQ(Öffnen()->selectedDate(), QDate(1899, 12, 29));
+}
+
 TEST_F(KalenderTest, DerKnopfImFeldÖffnetIhn)
 {
     FokusAuf(anderes);

@@ -79,6 +79,16 @@ TEST_F(NamenErgänzen, InDerMessenlisteBeideNamenDesMeßdieners)
     }
 }
 
+TEST_F(NamenErgänzen, WerKeinenNamenHatWirdNichtVorgeschlagen)
+{
+    Meßdiener.Vorname[0].clear();
+    Meßdiener.Nachname[0].clear();
+    QWidget *form = Öffnen("Messenliste");
+    ErstenNehmen(Finden(form, "vor1"), ","); // which every proposal has
+    EXPECT_EQ(Zeigt(Finden(form, "vor1")), "Bea");
+    EXPECT_EQ(Zeigt(Finden(form, "nach1")), "Berg");
+}
+
 TEST_F(NamenErgänzen, DieMessenlisteKenntDieNamenVonJetzt)
 {
     QWidget *form = Öffnen("Messenliste");

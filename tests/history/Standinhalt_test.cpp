@@ -192,7 +192,7 @@ TEST_F(StandinhaltTest, FehltOderUnlesbarIstZweierlei)
     EXPECT_EQ(Befund().Satz(), "Helfer.dat fehlt.");
     EXPECT_FALSE(InhaltVon(Festplatte).Vollzählig());
     fs::create_symlink("/dev/zero", Festplatte / "Helfer.dat");
-    EXPECT_EQ(Befund().Satz(), "Helfer.dat läßt sich nicht lesen.");
+    EXPECT_EQ(Befund().Satz(), "Helfer.dat lässt sich nicht lesen.");
 }
 
 TEST_F(StandinhaltTest, GelesenIstWasBisDahinStandUndDieTabellenBleiben)

@@ -142,14 +142,14 @@ TEST_F(StändeFormTest, EinUnvollständigerSagtEsInWortenUndBleibtLiegen)
     EXPECT_EQ(form->Liste->currentRow(), 1) << "the newest that is whole";
     form->Liste->selectRow(0);
     Klick("Zurückholen");
-    EXPECT_EQ(Zeigt("Hinweis"), "Dieser Stand läßt sich nicht zurückholen: Helfer.dat fehlt.");
+    EXPECT_EQ(Zeigt("Hinweis"), "Dieser Stand lässt sich nicht zurückholen: Helfer.dat fehlt.");
     EXPECT_TRUE(GestellteFragen.empty());
     EXPECT_TRUE(GezeigteMeldungen.empty());
     EXPECT_TRUE(InhaltVon(Festplatte) == zuvor);
     fs::create_symlink("/dev/zero", neuester / "Helfer.dat");
     Klick("Zurückholen");
     EXPECT_EQ(Zeigt("Hinweis"),
-              "Dieser Stand läßt sich nicht zurückholen: Helfer.dat läßt sich nicht lesen.");
+              "Dieser Stand lässt sich nicht zurückholen: Helfer.dat lässt sich nicht lesen.");
     EXPECT_TRUE(form->isVisible());
 }
 
@@ -161,7 +161,7 @@ TEST_F(StändeFormTest, LäßtSichDasJetzigeNichtAufhebenSagtEsDasFenster)
     };
     Antworten = {true};
     Klick("Zurückholen");
-    EXPECT_EQ(Zeigt("Hinweis"), "Dieser Stand läßt sich nicht zurückholen: Datenträger voll.");
+    EXPECT_EQ(Zeigt("Hinweis"), "Dieser Stand lässt sich nicht zurückholen: Datenträger voll.");
     EXPECT_EQ(Meßdiener.Anzahl, 3);
     EXPECT_EQ(zurückgeholt, 0);
 }

@@ -92,9 +92,17 @@ TEST_F(DruckausgangTest, PapierNenntSeinenDrucker)
     WunschpartnerlisteDrucken();
     EXPECT_EQ(papier->Werk.Aufträge, 1);
     EXPECT_EQ(Gesagt(), "12:00 gedruckt");
+}
+
+TEST_F(DruckausgangTest, EinFehlerDesDruckersEndetOhneEinWort)
+{
+    auto papier = std::make_shared<Papierdrucker>();
+    ziel = papier;
     papier->Werk.Gestört = true;
     WunschpartnerlisteDrucken();
-    EXPECT_EQ(Gesagt(), "12:00 nicht gedruckt: Druckerfehler");
+    EXPECT_EQ(ausgänge, std::vector{Druckausgang::Gescheitert});
+    EXPECT_EQ(Gesagt(), "");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
 TEST_F(DruckausgangTest, AbbrechenSagtNichts)

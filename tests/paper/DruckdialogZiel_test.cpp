@@ -189,7 +189,7 @@ TEST_F(DruckdialogZielTest, WoNichtGeschriebenWerdenKannGibtEsKeinOk)
     Öffnen();
     for (const char *name : {"fehlt/Plan.pdf", "Ordner.pdf", "Ordner", "Datei/Plan.pdf"}) {
         EXPECT_FALSE(Geht(Pfad(name))) << name;
-        EXPECT_EQ(Zeigt("Hinweis"), "In dieses Verzeichnis läßt sich nichts schreiben.");
+        EXPECT_EQ(Zeigt("Hinweis"), "In dieses Verzeichnis lässt sich nichts schreiben.");
         EXPECT_FALSE(Genommen());
     }
     for (const char *name : {"", "   ", "/"}) {

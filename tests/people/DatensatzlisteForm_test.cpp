@@ -118,6 +118,94 @@ TEST_F(DatensatzlisteForm, EinNeuerNameGehtDenselbenWegWieBeiPlus)
     EXPECT_EQ(Zeilen(), (std::vector<Text>{"Purpur", "Blau", "Grün"}));
 }
 
+TEST_F(DatensatzlisteForm, WasNachDemLetztenGetipptIstKommtDazuWieBeiPlus)
+{
+    Öffnen("Meßdiener");
+    Einsetzen("Datensätze", "3");
+    Einsetzen("Vornamen", "Dora");
+    Einsetzen("Nachnamen", "Dorn");
+    Einsetzen("Straßen", "Gasse 4");
+    Wählen(1);
+    EXPECT_EQ(Meßdiener.Anzahl, 4);
+    EXPECT_EQ(Meßdiener.Vorname[3], "Dora");
+    EXPECT_EQ(Meßdiener.Straße[3], "Gasse 4");
+    EXPECT_EQ(Zeigt("MaxIndex"), "4");
+    EXPECT_EQ(Zeigt("Datensätze"), "1");
+    EXPECT_EQ(Zeigt("Vornamen"), "Bea");
+    EXPECT_EQ(Meßdiener.Cursor, 1);
+    EXPECT_EQ(Zeilen(), (std::vector<Text>{"Adler, Anna", "Berg, Bea", "Cohn, Cem", "Dorn, Dora"}));
+    EXPECT_EQ(Liste("Partner").back(), "Dorn,Dora");
+
+    Öffnen("Helfer");
+    Einsetzen("Indexen", "3");
+    Einsetzen("Vorne", "Dora");
+    Wählen(0);
+    EXPECT_EQ(Helfer.Anzahl, 4);
+    EXPECT_EQ(Helfer.Vorname[3], "Dora");
+    EXPECT_EQ(Zeigt("Datensätzig"), "4");
+    EXPECT_EQ(Zeigt("Vorne"), "Anna");
+    EXPECT_EQ(Helfer.Cursor, 0);
+
+    Öffnen("Gruppe");
+    Einsetzen("Indexi", "3");
+    Einsetzen("GBezeichnung", "Gelb");
+    Wählen(2);
+    EXPECT_EQ(Gruppe.Anzahl, 4);
+    EXPECT_EQ(Gruppe.Bezeichnung[3], "Gelb");
+    EXPECT_EQ(Zeigt("Gruppenzahl"), "4");
+    EXPECT_EQ(Zeigt("GBezeichnung"), "Grün");
+    EXPECT_EQ(Zeilen(), (std::vector<Text>{"Rot", "Blau", "Grün", "Gelb"}));
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(DatensatzlisteForm, VomLeerenSatzGehtEsZurückOhneDaßEinerDazukommt)
+{
+    for (const auto &[fenster, nummer] :
+         {std::pair("Meßdiener", "Datensätze"), {"Helfer", "Indexen"}, {"Gruppe", "Indexi"}}) {
+        SCOPED_TRACE(fenster);
+        Öffnen(fenster);
+        Einsetzen(nummer, "3");
+        Wählen(1);
+        EXPECT_EQ(Zeigt(nummer), "1");
+        EXPECT_EQ(Zeilen().size(), 3U);
+    }
+    EXPECT_EQ(Meßdiener.Anzahl, 3);
+    EXPECT_EQ(Helfer.Anzahl, 3);
+    EXPECT_EQ(Gruppe.Anzahl, 3);
+}
+
+TEST_F(DatensatzlisteForm, EinHalberNameNachDemLetztenWirdNichtVerlassen)
+{
+    for (const auto &[fenster, nummer, getippt, fehlt] :
+         {std::tuple("Meßdiener", "Datensätze", "Vornamen", "Nachnamen"),
+          {"Meßdiener", "Datensätze", "Nachnamen", "Vornamen"},
+          {"Helfer", "Indexen", "Hinten", "Vorne"}}) {
+        SCOPED_TRACE(getippt);
+        Meßdiener.Vorname[3].clear(); // of the round before
+        Meßdiener.Nachname[3].clear();
+        Öffnen(fenster);
+        Einsetzen(nummer, "3");
+        Einsetzen(getippt, "Dorn");
+        Wählen(0);
+        EXPECT_EQ(Zeigt(nummer), "3") << "what was typed would be lost";
+        EXPECT_EQ(Zeigt(getippt), "Dorn");
+        EXPECT_TRUE(Finden(fehlt)->hasFocus());
+        Einsetzen(getippt, "");
+    }
+}
+
+TEST_F(DatensatzlisteForm, WoKeinerMehrDazukommtBleibtManStehen)
+{
+    Meßdiener.Anzahl = 399;
+    Öffnen("Meßdiener");
+    Einsetzen("Datensätze", "399");
+    Einsetzen("Vornamen", "Dora");
+    Einsetzen("Nachnamen", "Dorn");
+    Wählen(0);
+    EXPECT_EQ(Zeigt("Datensätze"), "399") << "like PLUS; closing the window adds it";
+    EXPECT_EQ(Zeigt("Nachnamen"), "Dorn");
+}
+
 TEST_F(DatensatzlisteForm, EinVergebenerNameKommtStillZurück)
 {
     Öffnen("Meßdiener");
@@ -255,6 +343,16 @@ TEST_F(DatensatzlisteForm, DerErsteFokusBleibtUndDieFensterPassenAufDenKleinsten
                               fläche->width();
             EXPECT_TRUE(paßt || !Finden("Liste")->isVisible()) << "the list gives way first";
         }
+    }
+}
+
+TEST_F(DatensatzlisteForm, WenigerAlsKeinDatensatzÖffnetDasFensterTrotzdem)
+{
+    Meßdiener.Anzahl = Helfer.Anzahl = Gruppe.Anzahl = -3;
+    for (const char *fenster : {"Meßdiener", "Helfer", "Gruppe"}) {
+        Öffnen(fenster);
+        EXPECT_TRUE(GezeigteMeldungen.empty()) << fenster;
+        EXPECT_LE(Zeilen().size(), 1U);
     }
 }
 

@@ -84,6 +84,50 @@ TEST_F(MessenlisteFormListe, EineWahlSchreibtDenSchirmUndNimmtFesteEinträgeMit)
     EXPECT_EQ(Markiert(), 3);
 }
 
+TEST_F(MessenlisteFormListe, EineMesseNachDerLetztenKommtDazuWieBeiPlus)
+{
+    for (const auto &[feld, text] : {std::pair("datendaten", "24.12.2026"),
+                                     {"Uhrwerk", "23:45:00"},
+                                     {"Messewesen", "Christmette"},
+                                     {"Dienster2", "2"}}) {
+        SCOPED_TRACE(feld);
+        Messe.Datum[5] = Messe.Uhrzeit[5] = 0;
+        Messe.Messeart[5].clear();
+        Öffnen(0, 5);
+        Einsetzen("Datensatzus", "5");
+        Einsetzen(feld, text);
+        const Satz schirm = Schirm();
+        Wählen(2);
+        EXPECT_EQ(Messe.Anzahl, 6);
+        EXPECT_EQ(Zeigt("maxi"), "6");
+        EXPECT_EQ(Zeigt("Datensatzus"), "2");
+        EXPECT_EQ(Schirm(), Gezeigter(2));
+        EXPECT_EQ(Zeilen(), Messen());
+        Einsetzen("Datensatzus", "5");
+        EXPECT_EQ(Schirm(), schirm);
+        delete form;
+    }
+}
+
+TEST_F(MessenlisteFormListe, WenigerAlsKeineMesseÖffnetDasFensterTrotzdem)
+{
+    Messe.Anzahl = -3;
+    ListeZeigen(0);
+    Verbreitern();
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    EXPECT_LE(Zeilen().size(), 1U);
+}
+
+TEST_F(MessenlisteFormListe, EineLeereMesseNachDerLetztenKommtNichtDazu)
+{
+    Öffnen(0, 5);
+    Einsetzen("Datensatzus", "5");
+    Wählen(2);
+    EXPECT_EQ(Messe.Anzahl, 5);
+    EXPECT_EQ(Zeigt("Datensatzus"), "2");
+    EXPECT_EQ(Zeilen(), Messen());
+}
+
 TEST_F(MessenlisteFormListe, EinFeldDasNichtZuLesenIstHältDieMesseFest)
 {
     Öffnen(12);

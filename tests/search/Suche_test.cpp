@@ -116,7 +116,7 @@ TEST_F(Suche, FindetHelferInDenPlätzenDieNötigSind)
 TEST_F(Suche, FindetFesteZuordnungenUndWünsche)
 {
     MesseDienerFest.Datum[1] = DatumAus({2026, 12, 8});
-    MesseDienerFest.Uhrzeit[1] = ZeitAus(18 * 3600);
+    MesseDienerFest.Uhrzeit[1] = ZeitAus(18 * 3600 + 30 * 60);
     MesseDienerFest.Vorname[1][3] = Meßdiener.WunschVorname[0] = "Zita";
     MesseDienerFest.Nachname[1][3] = Meßdiener.WunschNachname[0] = "Zoller";
     MesseDienerFest.Anzahl = 1; // the entry lies past the last one
@@ -125,13 +125,44 @@ TEST_F(Suche, FindetFesteZuordnungenUndWünsche)
     MesseDienerFest.Anzahl = 2;
     EXPECT_EQ(Gefunden("zoller"),
               (Funde{{"Wunschpartner", wunsch},
-                     {"Feste Zuordnungen", {"Di 08.12.2026 18:00 · Zoller, Zita"}}}));
+                     {"Feste Zuordnungen", {"Di 08.12.2026 18:30 · Zoller, Zita"}}}));
     const auto gruppen = Suchen("zoller");
     EXPECT_EQ(gruppen[0].Zeilen[0].Wo, Fundort::FesterEintrag);
     EXPECT_EQ(gruppen[0].Zeilen[0].Satz, 1);
     EXPECT_EQ(gruppen[0].Zeilen[0].Platz, 3);
     EXPECT_EQ(gruppen[1].Zeilen[0].Wo, Fundort::Wunschpartner);
     EXPECT_EQ(gruppen[1].Zeilen[0].Satz, 0);
+}
+
+TEST_F(Suche, VonEinerFestenZuordnungZählenDiePlätzeIhrerMesse)
+{
+    MesseDienerFest.Anzahl = 2;
+    for (const int k : {0, 1})
+        MesseDienerFest.Datum[k] = DatumAus({2026, 12, 8});
+    MesseDienerFest.Uhrzeit[0] = ZeitAus(18 * 3600 + 30 * 60);
+    MesseDienerFest.Uhrzeit[1] = ZeitAus(7 * 3600); // there is no such mass
+    for (const int k : {0, 1})
+        for (const int n : {4, 5}) {
+            MesseDienerFest.Vorname[k][n] = "Zita";
+            MesseDienerFest.Nachname[k][n] = "Zoller";
+        }
+    const auto gruppen = Suchen("zoller");
+    ASSERT_EQ(gruppen.size(), 1U);
+    ASSERT_EQ(gruppen[0].Zeilen.size(), 1U) << "of four places, and of none";
+    EXPECT_EQ(gruppen[0].Zeilen[0].Satz, 0);
+    EXPECT_EQ(gruppen[0].Zeilen[0].Platz, 4);
+    Messe.Dienerzahl[0] = 30; // no more than there are slots
+    EXPECT_EQ(Suchen("zoller")[0].Zeilen.size(), 2U);
+}
+
+TEST_F(Suche, MehrDatensätzeAlsEsGebenKannVerderbenDieSucheNicht)
+{
+    Meßdiener.Anzahl = Helfer.Anzahl = Messe.Anzahl = MesseDienerFest.Anzahl = 700;
+    EXPECT_EQ(Gefunden("adler"),
+              (Funde{{"Meßdiener", {"Adler, Anna"}}, {"Helfer", {"Adler, Anna · Lektor"}}}));
+    EXPECT_EQ(Gefunden("hochamt"), (Funde{{"Messen", {M1, M2}}}));
+    Meßdiener.Anzahl = Helfer.Anzahl = Messe.Anzahl = MesseDienerFest.Anzahl = -1;
+    EXPECT_EQ(Gefunden("adler"), Funde{});
 }
 
 TEST_F(Suche, EinDatumFindetSeineMessenWieEsAuchGeschriebenWird)
@@ -171,6 +202,9 @@ TEST_F(Suche, VonVielenWerdenDieWeiterenGezählt)
     ASSERT_EQ(gruppen.size(), 1U);
     EXPECT_EQ(gruppen[0].Zeilen.size(), MeisteTreffer);
     EXPECT_EQ(gruppen[0].Weitere, 10);
+    EXPECT_EQ(Suchen("zoller", {"Messen"})[0].Weitere, 10);
+    EXPECT_EQ(Suchen("zoller", {"Helfer"})[0].Weitere, 0);
+    EXPECT_EQ(Suchen("zoller", {"Helfer"})[0].Zeilen.size(), 60U);
     EXPECT_EQ(gruppen[0].Zeilen[0].Zeile, "Zoller 0, Zita · Lektor");
 }
 

@@ -117,6 +117,38 @@ TEST_F(SuchenFormTest, DiePfeileGehenÜberDieTrefferUndLassenÜberschriftenAus)
     EXPECT_TRUE(suchen->Suchtext->hasFocus()) << "typing goes on";
 }
 
+TEST_F(SuchenFormTest, VonVielenSindAuchDieÜbrigenZuErreichen)
+{
+    for (int tag = 0; tag < 60; ++tag) {
+        const int i = MesseMitDienern(DatumAus({2027, 1, 1}) + tag, 4);
+        Messe.DienerVor[i][1] = "Cem";
+        Messe.DienerNach[i][1] = "Cohn";
+    }
+    SuchenForm *suchen = Suchen("cohn");
+    EXPECT_EQ(Zeilen(suchen)[2], "Dienste in Messen (die ersten 50 von 61)");
+    EXPECT_EQ(Zeilen(suchen).back(), "11 weitere zeigen");
+    for (int n = 0; n < 6; ++n)
+        Taste(Qt::Key_PageDown);
+    EXPECT_EQ(Markiert(suchen), "11 weitere zeigen");
+    EXPECT_EQ(Zeigt(suchen->Hinweis), "Eingabe zeigt auch die übrigen, Esc geht zurück.");
+    const Text letzte = Zeilen(suchen)[52];
+    Taste(Qt::Key_Return);
+    EXPECT_TRUE(suchen->isVisible());
+    EXPECT_EQ(Zeilen(suchen).size(), 64U);
+    EXPECT_EQ(Zeilen(suchen)[2], "Dienste in Messen");
+    EXPECT_EQ(Zeilen(suchen)[52], letzte);
+    EXPECT_EQ(Markiert(suchen), Zeilen(suchen)[53]) << "the first of the others";
+    Tippen(suchen->Suchtext, "cohn,");
+    EXPECT_EQ(Zeilen(suchen).back(), "11 weitere zeigen") << "what is typed anew begins anew";
+    for (int n = 0; n < 6; ++n)
+        Taste(Qt::Key_PageDown);
+    Taste(Qt::Key_Return);
+    for (int n = 0; n < 2; ++n)
+        Taste(Qt::Key_PageDown);
+    Taste(Qt::Key_Return);
+    EXPECT_EQ(Im(Vorn("Messenliste"), "datendaten"), "01.03.2027") << "the last of all";
+}
+
 TEST_F(SuchenFormTest, EscGehtZurückUndÄndertNichts)
 {
     SuchenForm *suchen = Suchen("cohn");
@@ -286,6 +318,26 @@ TEST_F(SuchenFormTest, AusEinemDialogMitAbbrechenGehtEsNichtHinaus)
     EXPECT_TRUE(Warten([] { return !IstOffen("Suchen"); }));
     EXPECT_EQ(Im(neu, "Vornamen"), "Dora") << "nothing is lost";
     EXPECT_TRUE(neu->close());
+}
+
+TEST_F(SuchenFormTest, AusDenFestenZuordnungenGehtEsÜberOk)
+{
+    MesseDienerFest.Anzahl = 1;
+    MesseDienerFest.Datum[0] = Messe.Datum[0];
+    MesseDienerFest.Uhrzeit[0] = Messe.Uhrzeit[0];
+    MenüWählen("MnuMESSDIENZUMESS");
+    QWidget *form = Vorn("MesseDienerFest");
+    Einsetzen(Finden(form, "MDiener1"), "Berg,Bea");
+    SuchenForm *suchen = Suchen("cohn");
+    EXPECT_EQ(Zeilen(suchen)[1], "Cohn, Cem");
+    EXPECT_EQ(Zeigt(suchen->Hinweis), "Eingabe geht hin; „Meßdiener fest zu einer Messe zuordnen“ "
+                                      "wird dabei wie mit „OK“ verlassen.");
+    Taste(Qt::Key_Return);
+    EXPECT_EQ(Im(Vorn("Meßdiener"), "Nachnamen"), "Cohn");
+    EXPECT_FALSE(IstOffen("MesseDienerFest"));
+    EXPECT_EQ(MesseDienerFest.Nachname[0][1], "Berg") << "what was chosen is stored";
+    ASSERT_EQ(GestellteFragen.size(), 1U);
+    EXPECT_EQ(GestellteFragen[0].Wortlaut, "Übertragen in die Messenliste?");
 }
 
 TEST_F(SuchenFormTest, DieMessenlisteNebenDemHauptfensterNimmtDenTreffer)

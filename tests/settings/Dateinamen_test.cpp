@@ -94,7 +94,7 @@ TEST_F(DateinamenTest, EineZweiteSchreibungDanebenWirdNieÜberschrieben)
     EXPECT_FALSE(AlleDateienVorhanden(Diskette));
     EXPECT_FALSE(DateimängelIn(Diskette).SindNurNamen());
     EXPECT_EQ(Satz(),
-              "Hier liegen konfig.cfg und Konfig.cfg nebeneinander; eine von beiden muß weg.");
+              "Hier liegen konfig.cfg und Konfig.cfg nebeneinander; eine von beiden muss weg.");
     Berichtigt();
     EXPECT_EQ(DateiLesen(Diskette / "konfig.cfg"), "andere");
     EXPECT_EQ(DateiLesen(Diskette / "Konfig.cfg"), "Konfig.cfg");

@@ -82,7 +82,7 @@ TEST_F(KopierFormWegeTest, BeimSichernIstEsDasVerzeichnisDesProgrammsDemEtwasFeh
     Laufwerke.Wurzeln = [] { return std::vector<Wurzel>{}; };
     form->close();
     Öffnen<DatensicherungForm>();
-    EXPECT_EQ(Hinweis(), "Kein Laufwerk läßt sich lesen.");
+    EXPECT_EQ(Hinweis(), "Kein Laufwerk lässt sich lesen.");
 }
 
 TEST_F(KopierFormWegeTest, KleingeschriebenesLässtSichBerichtigenUndHolen)

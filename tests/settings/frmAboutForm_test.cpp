@@ -56,7 +56,7 @@ TEST_F(frmAboutFormTest, ZeigtNameVersionLizenzUndWarnung)
                                "GNU General Public License, Version 3 oder später.");
     EXPECT_EQ(Zeigt("lblDisclaimer"),
               "Warnung: Für dieses Programm besteht keine Gewährleistung, soweit das Gesetz es "
-              "zuläßt. Prüfen Sie jeden Plan vor dem Aushang und sichern Sie Ihre Daten.");
+              "zulässt. Prüfen Sie jeden Plan vor dem Aushang und sichern Sie Ihre Daten.");
     EXPECT_EQ(Zeigt("cmdOK"), "OK");
     EXPECT_EQ(Zeigt("cmdSysInfo"), "&Systeminfo...");
     EXPECT_TRUE(Finden("picIcon")->isVisible());

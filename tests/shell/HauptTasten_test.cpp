@@ -1,4 +1,5 @@
 // The keys of the main window.
+#include "planning/MessenlisteForm.h"
 #include "shell/Hauptstand.h"
 
 namespace altardienst {
@@ -144,6 +145,31 @@ TEST_F(HauptTastenTest, StrgSSpeichertUndDasMenüZeigtDieTasten)
                                          {"mnuFileExit", "Ctrl+Q"},
                                          {"mnuHandbuch", "F1"}})
         EXPECT_EQ(Finden<QAction>(haupt, eintrag)->shortcut().toString(), taste);
+}
+
+TEST_F(HauptTastenTest, StrgSUndStrgPGeltenAuchInWasDanebenSteht)
+{
+    MesseMitDienern(Heute + 1, 1);
+    auto *liste = new MessenlisteForm; // as (1) leaves it
+    DialogDanebenÖffnen(liste);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(liste));
+    FokusAuf(liste->Messewesen);
+    Einsetzen(liste->Messewesen, "Andacht");
+    const auto taste = [&](Qt::Key welche) {
+        QTest::keyClick(liste->windowHandle(), welche, Qt::ControlModifier);
+    };
+    taste(Qt::Key_S);
+    EXPECT_NE(DateiLesen(Festplatte / "Messen.dat").find("Andacht"), Text::npos)
+        << "with what was typed last";
+    EXPECT_TRUE(liste->isActiveWindow());
+    taste(Qt::Key_P);
+    EXPECT_EQ(gedrückt, "7");
+    haupt->setEnabled(false); // for a dialog
+    std::filesystem::remove(Festplatte / "Messen.dat");
+    taste(Qt::Key_S);
+    taste(Qt::Key_P);
+    EXPECT_FALSE(std::filesystem::exists(Festplatte / "Messen.dat"));
+    EXPECT_EQ(gedrückt, "7");
 }
 
 TEST_F(HauptTastenTest, GesperrtHatDasHauptfensterKeineTasten)

@@ -1,27 +1,54 @@
-// What holds for every window: it can be used with the keyboard alone, by those who do not see it,
-// and on the smallest screen.
+// What holds for every window: it can be used with the keyboard alone, and by those who do not see
+// it.
 #include "JedesFenster.h"
 
+#include "controls/SpinButton.h"
+#include "controls/Textwahl.h"
+
 #include <QAbstractItemView>
+#include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QRadioButton>
-#include <QScrollArea>
-#include <QScrollBar>
+#include <QTextEdit>
+#include <QToolButton>
 
 #include <algorithm>
+#include <array>
 
 namespace altardienst {
 namespace {
 
+using Schirmtexte = std::vector<std::pair<QWidget *, Text>>;
+
 class JedesFensterTest : public JedesFenster {
   protected:
-    /// What can be used in a window as it stands, without what such a control is made of.
+    template <class... Arten> static bool IstEinsVon(const QWidget *control)
+    {
+        return (qobject_cast<const Arten *>(control) || ...);
+    }
+
+    /// A part of another control: the box in a list to choose from, the button in a box.
+    static bool IstTeil(const QWidget *control, const QWidget *fenster)
+    {
+        for (const QWidget *um = control->parentWidget(); um && um != fenster;
+             um = um->parentWidget())
+            if (IstEinsVon<QComboBox, QAbstractSpinBox, QLineEdit, QAbstractItemView>(um) ||
+                dynamic_cast<const SpinButton *>(um))
+                return true;
+        return false;
+    }
+
+    /// All that can be used in a window as it stands, whether Tab goes there or not.
     static QWidgetList Bedienbare(const QWidget *fenster)
     {
         QWidgetList bedienbare;
         for (QWidget *control : fenster->findChildren<QWidget *>())
             if (control->isVisibleTo(fenster) && control->isEnabled() &&
-                control->focusPolicy() & Qt::TabFocus && control->focusProxy() == nullptr)
+                !IstTeil(control, fenster) &&
+                (IstEinsVon<QAbstractButton, QLineEdit, QComboBox, QAbstractSpinBox,
+                            QAbstractItemView, QTextEdit>(control) ||
+                 dynamic_cast<SpinButton *>(control)))
                 bedienbare.append(control);
         return bedienbare;
     }
@@ -52,38 +79,141 @@ class JedesFensterTest : public JedesFenster {
                });
     }
 
-    static Text Name(const QWidget *control) { return control->objectName().toStdString(); }
-
-    /// As large as the smallest screen allows.
-    static void Verkleinern(QWidget *fenster)
+    /// Reached by a key of its own, which the tests of that control are about.
+    static bool HatEigeneTaste(const QWidget *control)
     {
-        fenster->showNormal();
-        fenster->resize(KleinsterBildschirm);
-        QCoreApplication::processEvents();
+        static const std::map<Text, const char *> tasten = {
+            {"Listengriff", "Ctrl+L"},
+            {"Fundstellen", "the arrow keys, from the box"},
+            {"VName", "follows the list of partners"},
+            {"NName", "follows the list of partners"},
+        };
+        return tasten.contains(Name(control));
     }
 
-    static bool LiegtInRollbarem(const QWidget *control)
+    template <class Art> static Schirmtexte Schirm(const QWidget *fenster)
     {
-        for (const QWidget *w = control; w; w = w->parentWidget())
-            if (qobject_cast<const QScrollArea *>(w))
-                return true;
+        Schirmtexte texte;
+        for (QWidget *control : fenster->findChildren<Art *>())
+            texte.emplace_back(control, Zeigt(control));
+        return texte;
+    }
+
+    /// Puts the boxes back; twice, since some follow others.
+    static void Zurücksetzen(const Schirmtexte &texte)
+    {
+        for (int mal = 0; mal < 2; ++mal)
+            for (const auto &[control, text] : texte)
+                if (Zeigt(control) != text)
+                    Einsetzen(control, text);
+    }
+
+    /// Whether a key in one of the boxes does to them what the press of a button does.
+    static bool TutEineTasteDasselbe(QWidget *fenster, const std::function<void()> &drücken)
+    {
+        constexpr std::array Tasten = {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown};
+        constexpr std::array Dabei = {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier};
+        const Schirmtexte vorher = Schirm<QLineEdit>(fenster);
+        drücken();
+        const Schirmtexte gedrückt = Schirm<QLineEdit>(fenster);
+        Zurücksetzen(vorher);
+        for (std::size_t k = 0; k < vorher.size(); ++k) {
+            QWidget *feld = vorher[k].first;
+            if (gedrückt[k] == vorher[k] || !feld->isVisible())
+                continue;
+            for (const auto mit : Dabei)
+                for (const auto taste : Tasten) {
+                    FokusAuf(feld);
+                    Zurücksetzen(vorher);
+                    QTest::keyClick(feld, taste, mit);
+                    const bool gleich = Schirm<QLineEdit>(fenster) == gedrückt;
+                    Zurücksetzen(vorher);
+                    if (gleich)
+                        return true;
+                }
+        }
         return false;
     }
+
+    /// The same where only labels change: one key takes it back, the other does it again.
+    static bool BlätternTasten(QWidget *fenster, const std::function<void()> &drücken)
+    {
+        const Schirmtexte vorher = Schirm<QLabel>(fenster);
+        drücken();
+        const Schirmtexte gedrückt = Schirm<QLabel>(fenster);
+        if (gedrückt == vorher)
+            return false;
+        for (const auto &[zurück, noch] :
+             {std::pair(Qt::Key_PageUp, Qt::Key_PageDown), {Qt::Key_PageDown, Qt::Key_PageUp}}) {
+            QTest::keyClick(fenster, zurück);
+            if (Schirm<QLabel>(fenster) != vorher)
+                continue;
+            QTest::keyClick(fenster, noch);
+            if (Schirm<QLabel>(fenster) == gedrückt)
+                return true;
+        }
+        return false;
+    }
+
+    static bool ErsetztEineTaste(QWidget *fenster, QWidget *control)
+    {
+        if (auto *spin = dynamic_cast<SpinButton *>(control))
+            return TutEineTasteDasselbe(fenster, [spin] { spin->Drehen(+1); }) ||
+                   TutEineTasteDasselbe(fenster, [spin] { spin->Drehen(-1); });
+        auto *knopf = qobject_cast<QAbstractButton *>(control);
+        if (!knopf)
+            return false;
+        const auto drücken = [knopf] { knopf->click(); };
+        const auto mitDerMaus = [knopf] { Klick(knopf); }; // some act when they are pressed
+        if (TutEineTasteDasselbe(fenster, drücken) || TutEineTasteDasselbe(fenster, mitDerMaus) ||
+            BlätternTasten(fenster, drücken))
+            return true;
+        QTest::keyClick(fenster, Qt::Key_PageDown); // it may have stood at the end
+        return BlätternTasten(fenster, drücken);
+    }
+
+    static Text Name(const QWidget *control) { return control->objectName().toStdString(); }
 };
 
-TEST_F(JedesFensterTest, JedesBedienelementIstMitDerTabtasteErreichbar)
+TEST_F(JedesFensterTest, JedesBedienelementIstMitDerTastaturErreichbar)
 {
-    InJedemFenster([](const Text &, QWidget *fenster) {
+    int ohneTab = 0;
+    InJedemVollenFenster([&](const Text &, QWidget *fenster) {
         const QWidgetList runde = Tabrunde(fenster);
-        for (const QWidget *control : Bedienbare(fenster))
-            EXPECT_TRUE(runde.contains(control) || IstInErreichterGruppe(control, runde))
-                << Name(control);
+        QTest::keyClick(fenster, Qt::Key_PageUp); // to a record with one before it
+        for (QWidget *control : Bedienbare(fenster)) {
+            if (runde.contains(control) || IstInErreichterGruppe(control, runde) ||
+                HatEigeneTaste(control))
+                continue;
+            ++ohneTab;
+            EXPECT_TRUE(ErsetztEineTaste(fenster, control)) << Name(control);
+        }
     });
+    EXPECT_GT(ohneTab, 200);
+}
+
+TEST_F(JedesFensterTest, AltUndPfeilÖffnenDenKalenderJedesDatums)
+{
+    int kalender = 0;
+    InJedemFenster([&](const Text &, const QWidget *fenster) {
+        for (QToolButton *knopf : fenster->findChildren<QToolButton *>()) {
+            auto *feld = qobject_cast<QLineEdit *>(knopf->parentWidget());
+            if (!feld || !feld->isVisible() || knopf->accessibleName() != "Kalender öffnen")
+                continue;
+            QTest::keyClick(feld, Qt::Key_Down, Qt::AltModifier);
+            QWidget *offen = QApplication::activePopupWidget();
+            ASSERT_TRUE(offen) << Name(feld);
+            EXPECT_EQ(Name(offen), "Kalender") << Name(feld);
+            offen->close();
+            ++kalender;
+        }
+    });
+    EXPECT_GT(kalender, 20);
 }
 
 TEST_F(JedesFensterTest, JedesBedienelementHatEinenGesprochenenNamen)
 {
-    InJedemFenster([](const Text &, QWidget *fenster) {
+    InJedemVollenFenster([](const Text &, QWidget *fenster) {
         std::vector<Text> stumme = Stumme(fenster);
         std::erase(stumme, "qt_spinbox_lineedit"); // the box within a box, which has the name
         EXPECT_EQ(stumme, std::vector<Text>{});
@@ -92,63 +222,20 @@ TEST_F(JedesFensterTest, JedesBedienelementHatEinenGesprochenenNamen)
 
 TEST_F(JedesFensterTest, DerFokusIstZuSehen)
 {
-    InJedemFenster([](const Text &, QWidget *fenster) {
-        const QWidgetList runde = Tabrunde(fenster);
-        for (qsizetype i = 0; i + 1 < runde.size(); ++i) {
-            FokusAuf(runde[i]);
-            const QImage mit = runde[i]->grab().toImage();
-            FokusAuf(runde[i + 1]);
-            EXPECT_NE(runde[i]->grab().toImage(), mit) << Name(runde[i]);
+    InJedemVollenFenster([](const Text &, QWidget *fenster) {
+        QWidgetList alle = Tabrunde(fenster);
+        for (QWidget *option : fenster->findChildren<QRadioButton *>())
+            if (option->isVisible() && option->isEnabled() && !alle.contains(option))
+                alle.append(option);
+        ASSERT_FALSE(alle.empty());
+        if (alle.size() == 1)
+            return; // it has nowhere else to go
+        for (qsizetype i = 0; i < alle.size(); ++i) {
+            FokusAuf(alle[i]);
+            const QImage mit = alle[i]->grab().toImage();
+            FokusAuf(alle[(i + 1) % alle.size()]);
+            EXPECT_NE(alle[i]->grab().toImage(), mit) << Name(alle[i]);
         }
-    });
-}
-
-TEST_F(JedesFensterTest, AufDemKleinstenBildschirmRolltNichtsSeitwärtsUndJederKnopfIstZuSehen)
-{
-    InJedemFenster([](const Text &, QWidget *fenster) {
-        Verkleinern(fenster);
-        EXPECT_LE(fenster->width(), KleinsterBildschirm.width());
-        EXPECT_LE(fenster->height(), KleinsterBildschirm.height());
-        for (const QScrollArea *fläche : fenster->findChildren<QScrollArea *>())
-            EXPECT_TRUE(!fläche->isVisibleTo(fenster) ||
-                        fläche->horizontalScrollBar()->maximum() == 0)
-                << Name(fläche);
-        for (const QPushButton *knopf : fenster->findChildren<QPushButton *>()) {
-            const QRect ort(knopf->mapTo(fenster, QPoint()), knopf->size());
-            EXPECT_TRUE(!knopf->isVisibleTo(fenster) || LiegtInRollbarem(knopf) ||
-                        fenster->rect().contains(ort))
-                << Name(knopf);
-        }
-    });
-}
-
-/// Labels, and buttons with words; signs such as "+" or an arrow are drawn as small as they need.
-bool IstBeschriftet(const QWidget *control)
-{
-    const auto *knopf = qobject_cast<const QAbstractButton *>(control);
-    return qobject_cast<const QLabel *>(control) || (knopf && knopf->text().size() > 1);
-}
-
-/// Whether a text stands in its control uncut.
-bool IstGanz(const QWidget *control)
-{
-    if (const auto *label = qobject_cast<const QLabel *>(control))
-        return !label->pixmap(Qt::ReturnByValue).isNull() ||
-               (label->wordWrap() ? label->height() >= label->heightForWidth(label->width())
-                                  : label->width() >= label->minimumSizeHint().width() &&
-                                        label->height() >= label->minimumSizeHint().height());
-    return control->width() >= control->minimumSizeHint().width() &&
-           control->height() >= control->minimumSizeHint().height();
-}
-
-TEST_F(JedesFensterTest, KeineBeschriftungIstAbgeschnitten)
-{
-    InJedemFenster([](const Text &, QWidget *fenster) {
-        Verkleinern(fenster);
-        for (const QWidget *control : fenster->findChildren<QWidget *>())
-            EXPECT_TRUE(!control->isVisibleTo(fenster) || !IstBeschriftet(control) ||
-                        IstGanz(control))
-                << Name(control) << " " << control->width() << " x " << control->height();
     });
 }
 
@@ -162,6 +249,44 @@ TEST_F(JedesFensterTest, WerAbbrechenKannVerläßtDasFensterAuchMitEscape)
         const QPointer<QWidget> noch = fenster;
         QTest::keyClick(fenster->windowHandle(), Qt::Key_Escape);
         EXPECT_TRUE(!kannAbbrechen || !noch || !noch->isVisible());
+    });
+}
+
+/// Enter presses the button that has the focus. In a box it presses none but "OK", and that only in
+/// the print dialog: elsewhere it ends the box.
+TEST_F(JedesFensterTest, DieEingabetasteDrücktInEinemFeldNurDasOkDesDruckdialogs)
+{
+    InJedemVollenFenster([](const Text &name, QWidget *fenster) {
+        std::vector<Text> gedrückt;
+        for (QPushButton *knopf : fenster->findChildren<QPushButton *>()) {
+            EXPECT_EQ(knopf->isDefault() && !knopf->hasFocus(),
+                      name == "CommonDialog1" && Name(knopf) == "OKButton" && !knopf->hasFocus())
+                << Name(knopf);
+            QObject::disconnect(knopf, &QPushButton::clicked, nullptr, nullptr);
+            QObject::connect(knopf, &QPushButton::clicked, fenster,
+                             [&gedrückt, knopf] { gedrückt.push_back(Name(knopf)); });
+        }
+        if (name == "Suchen")
+            return; // there Enter goes to what was found
+        for (auto *feld : fenster->findChildren<QLineEdit *>())
+            if (feld->isVisible() && feld->isEnabled()) {
+                gedrückt.clear();
+                FokusAuf(feld);
+                QTest::keyClick(feld, Qt::Key_Return);
+                EXPECT_EQ(gedrückt, (name == "CommonDialog1" ? std::vector<Text>{"OKButton"}
+                                                             : std::vector<Text>{}))
+                    << Name(feld);
+            }
+    });
+}
+
+/// A desktop hides a window together with the one that owns it, and a dialog minimises the main
+/// window.
+TEST_F(JedesFensterTest, KeinFensterGehörtEinemAnderen)
+{
+    InJedemFenster([](const Text &name, const QWidget *fenster) {
+        EXPECT_FALSE(fenster->parentWidget()) << name;
+        EXPECT_FALSE(fenster->windowHandle()->transientParent()) << name;
     });
 }
 

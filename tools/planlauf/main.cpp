@@ -121,7 +121,7 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     if (ja != "ja" && ja != "nein")
         throw std::invalid_argument("--antwort takes ja or nein");
     Meldungen.Zeigen = [](const Text &meldung) { std::printf("Meldung: %s\n", meldung.c_str()); };
-    Meldungen.Fragen = [ja](const Text &frage, const Text &) {
+    Meldungen.Fragen = Meldungen.FragenVorVerlust = [ja](const Text &frage, const Text &) {
         std::printf("Frage: %s\n", frage.c_str());
         return ja == "ja";
     };
