@@ -18,6 +18,10 @@ namespace altardienst {
 void NebenDemHauptfenster(QWidget *form, std::function<void()> ablegen,
                           std::function<void()> erneuern, std::function<void()> belassen);
 
+/// Whether this window is one of these forms, and whether one is open beside another.
+bool IstNebenfenster(const QWidget *fenster);
+bool SindMehrereOffen();
+
 /// Runs an action of the main window as described above. Open.
 void HauptfensterHandelt(const std::function<void()> &aktion);
 

@@ -6,6 +6,7 @@
 #include "controls/Handler.h"
 #include "core/Umwandlung.h"
 #include "history/Netz.h"
+#include "history/Rückgängig.h"
 #include "history/Unterschiede.h"
 #include "platform/Meldungen.h"
 
@@ -217,7 +218,7 @@ void StändeForm::StandHolen()
             "Zurückholen"))
         return;
     try {
-        StandZurückholen(stand);
+        Schritt("Stand vom " + StandText(stand) + " zurückholen", [&] { StandZurückholen(stand); });
     } catch (const Laufzeitfehler &fehler) {
         return Setzen(Hinweis,
                       Text("Dieser Stand läßt sich nicht zurückholen: ") + fehler.what() + ".");

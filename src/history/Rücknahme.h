@@ -1,0 +1,23 @@
+// Undo and redo at the screen.
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+
+namespace altardienst {
+
+/// From now on, as long as `eigner` lives, the steps of the program are kept: the tables are looked
+/// at while the program waits for the user, or else before his next key or click. `zeigen` runs
+/// whenever another step is the one to be taken back or repeated.
+///
+/// Ctrl+Z and Ctrl+Y work in the forms that stand beside the main window as they do there, but a
+/// box that has something to take back itself comes first.
+void SchritteMitschreiben(QObject *eigner, const std::function<void()> &zeigen);
+
+/// Take back or repeat a step. The forms that are open show what the tables then hold, and the
+/// status bar tells what was done.
+void RückgängigMachen();
+void Wiederholen();
+
+} // namespace altardienst
