@@ -29,10 +29,10 @@ Anlaß AnlaßVon(const QEvent &ereignis)
     }
 }
 
-/// The focus of a button or a menu concerns nobody.
+/// The focus of a button, a menu or a window as such concerns nobody.
 bool HatInhalt(const QObject *empfänger)
 {
-    return !qobject_cast<const QAbstractButton *>(empfänger) &&
+    return empfänger->isWidgetType() && !qobject_cast<const QAbstractButton *>(empfänger) &&
            !qobject_cast<const QMenu *>(empfänger) && !qobject_cast<const QMenuBar *>(empfänger);
 }
 

@@ -45,9 +45,10 @@ class Gezeigt {
     bool Überholt() const { return überholt(); } // the record is another by now
     bool Getippt() const { return getippt(); }   // the screen is
 
-  private:
+    /// The texts of all boxes of a form.
     static QStringList Texte(const QWidget *form);
 
+  private:
     std::function<std::function<bool()>()> vergleich = [] { return [] { return false; }; };
     std::function<bool()> überholt = [] { return false; };
     std::function<bool()> getippt = [] { return false; };

@@ -12,6 +12,7 @@
 #include <new>
 #include <optional>
 #include <set>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -38,6 +39,7 @@ struct Mitschrift {
     Aufnahme Bekannt; // at the last look
     std::vector<Geschehenes> Schritte;
     std::size_t Stelle = 0; // those before it can be taken back, the others repeated
+    std::size_t Vergessene = 0;
     std::optional<Text> Ausstehend;
     bool InSchritt = false;
 };
@@ -58,12 +60,51 @@ Aufnahme Jetzt(const Aufnahme &zuvor)
     return jetzt;
 }
 
+Text OhneLeerzeichen(const Text &text)
+{
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+/// The masses as they were, to be compared with those of now: what makes no difference is as now.
+std::shared_ptr<MesseTabelle> DamaligeMessen(const Aufnahme &damals)
+{
+    Tabellenstand stand;
+    stand.Messen = std::make_shared<MesseTabelle>();
+    Auspacken(Teil::Messen, *damals.Paket(Teil::Messen), stand);
+    Auspacken(Teil::Wochentage, *damals.Paket(Teil::Wochentage), stand);
+    MesseTabelle &messen = *stand.Messen;
+    for (int i = 0; i <= MesseTabelle::HöchsterIndex; ++i)
+        if (OhneLeerzeichen(messen.Wochentag[i]) == OhneLeerzeichen(Messe.Wochentag[i]))
+            messen.Wochentag[i] = Messe.Wochentag[i];
+    messen.DienerDienst = Messe.DienerDienst;
+    return stand.Messen;
+}
+
+bool Verschieden(const Aufnahme &damals, const Aufnahme &jetzt, Teil teil)
+{
+    return damals.Paket(teil) != jetzt.Paket(teil);
+}
+
+bool AndererWochentag(const Aufnahme &damals, const Aufnahme &jetzt)
+{
+    if (!Verschieden(damals, jetzt, Teil::Wochentage))
+        return false;
+    const auto messen = DamaligeMessen(damals);
+    for (int i = 0; i <= MesseTabelle::HöchsterIndex; ++i)
+        if (messen->Wochentag[i] != Messe.Wochentag[i])
+            return true;
+    return false;
+}
+
 /// By hand nobody changes what is worked out anyway.
 bool VonHandGeändert(const Aufnahme &damals, const Aufnahme &jetzt)
 {
-    return std::ranges::any_of(AlleTeile, [&](Teil teil) {
-        return teil != Teil::Abgeleitetes && damals.Paket(teil) != jetzt.Paket(teil);
-    });
+    return std::ranges::any_of(AlleTeile,
+                               [&](Teil teil) {
+                                   return teil != Teil::Wochentage && teil != Teil::Abgeleitetes &&
+                                          Verschieden(damals, jetzt, teil);
+                               }) ||
+           AndererWochentag(damals, jetzt);
 }
 
 /// The tables in which the two differ, as they were.
@@ -71,20 +112,21 @@ Tabellenstand Damalige(const Aufnahme &damals, const Aufnahme &jetzt)
 {
     Tabellenstand stand;
     const auto auspacken = [&](Teil teil, auto &tabelle) {
-        if (damals.Paket(teil) == jetzt.Paket(teil))
+        using Tabelle = typename std::remove_reference_t<decltype(tabelle)>::element_type;
+        if (!Verschieden(damals, jetzt, teil))
             return;
-        tabelle =
-            std::make_shared<typename std::remove_reference_t<decltype(tabelle)>::element_type>();
+        tabelle = std::make_shared<Tabelle>();
         Auspacken(teil, *damals.Paket(teil), stand);
     };
     auspacken(Teil::Einstellungen, stand.Einstellungen);
     auspacken(Teil::Standardmessen, stand.Standardmessen);
     auspacken(Teil::Diener, stand.Diener);
-    auspacken(Teil::Messen, stand.Messen);
     auspacken(Teil::Gruppen, stand.Gruppen);
     auspacken(Teil::Messehelfer, stand.Messehelfer);
     auspacken(Teil::Etiketten, stand.Etiketten);
     auspacken(Teil::FesteDiener, stand.FesteDiener);
+    if (Verschieden(damals, jetzt, Teil::Messen) || AndererWochentag(damals, jetzt))
+        stand.Messen = DamaligeMessen(damals);
     return stand;
 }
 
@@ -104,8 +146,10 @@ void Vergessen()
 {
     auto &schritte = mitschrift->Schritte;
     while (schritte.size() > MeisteSchritte ||
-           (schritte.size() > WenigsteSchritte && Platz(schritte) > PlatzFürSchritte))
+           (schritte.size() > WenigsteSchritte && Platz(schritte) > PlatzFürSchritte)) {
         schritte.erase(schritte.begin());
+        ++mitschrift->Vergessene;
+    }
 }
 
 void Anfügen(Geschehenes schritt)
@@ -258,6 +302,11 @@ Text NächsterSchritt()
     return Bereit() && mitschrift->Stelle < mitschrift->Schritte.size()
                ? mitschrift->Schritte[mitschrift->Stelle].Name
                : "";
+}
+
+std::size_t Schrittstelle()
+{
+    return mitschrift ? mitschrift->Vergessene + mitschrift->Stelle : 0;
 }
 
 Text SchrittZurücknehmen()

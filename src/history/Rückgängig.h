@@ -43,6 +43,10 @@ bool SchrittAusstehend();
 Text LetzterSchritt();
 Text NächsterSchritt();
 
+/// How many steps there have been until the one that would be taken back, also those that are
+/// forgotten: so a window knows which steps are its own.
+std::size_t Schrittstelle();
+
 /// Runs whenever one of these names may be another.
 extern std::function<void()> SchritteGeändert;
 

@@ -11,9 +11,14 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
+#include <QStringList>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <utility>
+#include <vector>
 
 namespace altardienst {
 namespace {
@@ -32,6 +37,47 @@ bool HatEigenes(const QObject *empfänger, bool zurück)
 {
     const auto *feld = qobject_cast<const QLineEdit *>(empfänger);
     return feld && (zurück ? feld->isUndoAvailable() : feld->isRedoAvailable());
+}
+
+/// A form that blocks the main window, and which steps are its own.
+struct Einzelform {
+    QPointer<QWidget> Form;
+    std::function<void()> Ablegen;
+    std::function<void()> Erneuern;
+    std::size_t Beginn = 0; // there were so many before
+    std::size_t Ende = 0;   // and so many at most since
+};
+
+std::vector<Einzelform> einzelformen;
+
+Einzelform *EinzelformIn(const QWidget *fenster)
+{
+    const auto eine = std::ranges::find(einzelformen, fenster, &Einzelform::Form);
+    return eine == einzelformen.end() || !fenster ? nullptr : &*eine;
+}
+
+bool EinSchritt(Einzelform &eine, bool zurück)
+{
+    const bool eigener = zurück ? Schrittstelle() > eine.Beginn : Schrittstelle() < eine.Ende;
+    if (!eigener)
+        return false;
+    (zurück ? SchrittZurücknehmen : SchrittWiederholen)();
+    eine.Erneuern();
+    return true;
+}
+
+/// Writing what is on the screen may put a record in order without the user's seeing it; to take
+/// only that back would be no answer to his key.
+void GehenIn(Einzelform &eine, bool zurück)
+{
+    const std::size_t zuvor = Schrittstelle();
+    const QStringList schirm = Gezeigt::Texte(eine.Form);
+    eine.Ablegen();
+    TabellenBeobachten();
+    eine.Ende = std::max(eine.Ende, Schrittstelle());
+    const bool geschrieben = Schrittstelle() > zuvor;
+    if (EinSchritt(eine, zurück) && geschrieben && Gezeigt::Texte(eine.Form) == schirm)
+        EinSchritt(eine, zurück);
 }
 
 class Mitschreiber : public QObject {
@@ -82,10 +128,15 @@ class Mitschreiber : public QObject {
     {
         const bool zurück = taste.keyCombination() == Zurück;
         if ((!zurück && taste.keyCombination() != Vor) || HatEigenes(empfänger, zurück) ||
-            QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
-            !IstNebenfenster(QApplication::activeWindow()))
+            QApplication::activeModalWidget() || QApplication::activePopupWidget())
             return false;
-        (zurück ? RückgängigMachen : Wiederholen)();
+        const QWidget *fenster = QApplication::activeWindow();
+        if (IstNebenfenster(fenster))
+            (zurück ? RückgängigMachen : Wiederholen)();
+        else if (Einzelform *eine = EinzelformIn(fenster))
+            Offen([&] { GehenIn(*eine, zurück); })();
+        else
+            return false;
         return true;
     }
 
@@ -109,6 +160,14 @@ void Gehen(Text (*schritt)(), const char *was)
 void SchritteMitschreiben(QObject *eigner, const std::function<void()> &zeigen)
 {
     new Mitschreiber(eigner, zeigen);
+}
+
+void SchritteZurückIn(QWidget *form, const std::function<void()> &ablegen,
+                      const std::function<void()> &erneuern)
+{
+    std::erase_if(einzelformen, [](const Einzelform &eine) { return !eine.Form; });
+    TabellenBeobachten();
+    einzelformen.push_back({form, ablegen, Abgefangen(erneuern), Schrittstelle(), Schrittstelle()});
 }
 
 void RückgängigMachen()

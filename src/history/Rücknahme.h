@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QWidget>
 
 #include <functional>
 
@@ -14,6 +15,12 @@ namespace altardienst {
 /// Ctrl+Z and Ctrl+Y work in the forms that stand beside the main window as they do there, but a
 /// box that has something to take back itself comes first.
 void SchritteMitschreiben(QObject *eigner, const std::function<void()> &zeigen);
+
+/// From now on the two keys take back and repeat in this form too, which blocks the main window,
+/// but only what was done since. `ablegen` writes what is typed, which is the first thing to be
+/// taken back; its failure is shown. `erneuern` shows what the tables then hold, trapped.
+void SchritteZurückIn(QWidget *form, const std::function<void()> &ablegen,
+                      const std::function<void()> &erneuern);
 
 /// Take back or repeat a step. The forms that are open show what the tables then hold, and the
 /// status bar tells what was done.

@@ -147,7 +147,7 @@ template <class G> void Durchgehen(Teil teil, const Tabellenstand &t, G &gang)
     case Teil::Diener:
         return Datensätze(*t.Diener, gang);
     case Teil::Messen:
-        return Datensätze(*t.Messen, gang, {&t.Messen->DienerDienst});
+        return Datensätze(*t.Messen, gang, {&t.Messen->DienerDienst, &t.Messen->Wochentag});
     case Teil::Gruppen:
         gang(t.Gruppen->Anzahl);
         return gang(t.Gruppen->Bezeichnung);
@@ -163,6 +163,8 @@ template <class G> void Durchgehen(Teil teil, const Tabellenstand &t, G &gang)
         gang(t.Diener->DienstZähler);
         gang(t.Messehelfer->Belegt);
         return gang(t.Messehelfer->LetzterDienst);
+    case Teil::Wochentage:
+        return gang(t.Messen->Wochentag);
     case Teil::Abgeleitetes:
         gang(t.Messen->DienerDienst);
         return gang(t.FesteDiener->Index);

@@ -9,8 +9,8 @@
 
 namespace altardienst {
 
-/// What is packed by itself: the eight tables, and apart from them what assignments note for their
-/// next run, and what is worked out anew before each use.
+/// What is packed by itself: the eight tables, and apart from them what is not a matter of the user
+/// alone.
 enum class Teil {
     Einstellungen,
     Standardmessen,
@@ -20,13 +20,15 @@ enum class Teil {
     Messehelfer,
     Etiketten,
     FesteDiener,
-    Läufe,       // who counts as taken, and since when
+    Läufe,       // who counts as taken, and since when: for the next assignment
+    Wochentage,  // of the masses: the list fills them up with blanks when it shows them
     Abgeleitetes // the services of the slots, the servers of the mass of an entry
 };
 
-constexpr std::array<Teil, 10> AlleTeile = {
-    Teil::Einstellungen, Teil::Standardmessen, Teil::Diener,      Teil::Messen, Teil::Gruppen,
-    Teil::Messehelfer,   Teil::Etiketten,      Teil::FesteDiener, Teil::Läufe,  Teil::Abgeleitetes};
+constexpr std::array<Teil, 11> AlleTeile = {
+    Teil::Einstellungen, Teil::Standardmessen, Teil::Diener,      Teil::Messen,
+    Teil::Gruppen,       Teil::Messehelfer,    Teil::Etiketten,   Teil::FesteDiener,
+    Teil::Läufe,         Teil::Wochentage,     Teil::Abgeleitetes};
 
 /// Where the user is in the tables: which record was last shown or is selected.
 struct Stellungen {

@@ -4,16 +4,34 @@
 #include "controls/Bausteine.h"
 #include "controls/Handler.h"
 #include "controls/Zahlbox.h"
+#include "history/Rücknahme.h"
 
+#include <QSignalBlocker>
+
+#include <algorithm>
 #include <utility>
 
 namespace altardienst {
 
 Editorfenster::Editorfenster(Datensatzwahl *wahl, Datensatzliste::Quelle quelle)
-    : Wahl(wahl), Liste(nullptr), Ende(Knopf("Ende", "Ende"))
+    : Wahl(wahl), Liste(nullptr), Ende(Knopf("Ende", "Ende")), anzahl(quelle.Anzahl)
 {
     quelle.BeiWahl = Offen([this](int satz) { Aufschlagen(satz); });
     Liste = new Datensatzliste(wahl, std::move(quelle));
+    SchritteZurückIn(
+        this, [this] { Sichern(); }, [this] { Erneuern(); });
+}
+
+/// The number counts as changed, so that all that belongs to the record follows.
+void Editorfenster::Erneuern()
+{
+    const int satz = std::min(Nummer(), anzahl());
+    {
+        const QSignalBlocker still(Wahl->Nummer);
+        Wahl->Nummer->clear();
+    }
+    ZahlSetzen(Wahl->Nummer, satz);
+    Liste->Folgen();
 }
 
 void Editorfenster::EndeVerbinden()

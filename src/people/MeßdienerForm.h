@@ -42,6 +42,7 @@ class MeßdienerForm : public Editorfenster {
     int Sichern() override;
     bool IstBenannt(int i) const override;
     void Aufschlagen(int satz) override;
+    void Erneuern() override;
     void HäufigkeitGeändert();
     void GruppePrüfen();
     void PartnerPrüfen(bool ausgewählt);

@@ -1,6 +1,8 @@
 // Undo and redo of whole steps.
 #include "history/Rückgängig.h"
 
+#include "core/Messenname.h"
+#include "core/SchleifenZähler.h"
 #include "history/Schrittstand.h"
 #include "history/Tabellenpaket.h"
 #include "people/Personen.h"
@@ -234,6 +236,23 @@ TEST_F(RückgängigTest, BlätternUndSpeichernSindKeineÄnderung)
     EXPECT_EQ(LetzterSchritt(), "");
     EXPECT_EQ(SchrittWiederholen(), "(3) Messen mit Meßdiener besetzen");
     EXPECT_TRUE(Bild() == besetzt);
+}
+
+/// The list of masses fills the weekday up with blanks when it shows a mass.
+TEST_F(RückgängigTest, LeerzeichenNachDemWochentagSindKeineÄnderung)
+{
+    MessenBesetzen();
+    Warten();
+    const Text tag = Messe.Wochentag[0];
+    Messe.Wochentag[0] += "   ";
+    Messe.Wochentag[1] += "  ";
+    Warten();
+    EXPECT_EQ(LetzterSchritt(), "(3) Messen mit Meßdiener besetzen");
+    Messe.Wochentag[0] = "Heiligabend";
+    Warten();
+    EXPECT_EQ(SchrittZurücknehmen(), "Messe " + Messenzeile(0) + " ändern");
+    EXPECT_EQ(Messe.Wochentag[0], tag + "   ");
+    EXPECT_EQ(LetzterSchritt(), "(3) Messen mit Meßdiener besetzen");
 }
 
 /// The services are worked out whenever a dialog that shows them opens.

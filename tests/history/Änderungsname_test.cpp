@@ -18,6 +18,8 @@ class ÄnderungsnameTest : public Schrittstand {
         Meßdiener.WunschNachname[5] = "Adler";
         Messe.DienerVor[2][1] = "Kim";
         Messe.DienerNach[2][1] = "Adler";
+        for (int i = 0; i < Messe.Anzahl; ++i) // as after any plan
+            Messe.DienerDienst[i][0] = "Leuchter";
         SchritteBeginnen();
     }
 
