@@ -29,7 +29,7 @@ Anlaß AnlaßVon(const QEvent &ereignis)
     }
 }
 
-/// The focus of a button, a menu or a window as such concerns nobody.
+/// The focus of a button concerns nobody, nor does a menu that closes.
 bool HatInhalt(const QObject *empfänger)
 {
     return empfänger->isWidgetType() && !qobject_cast<const QAbstractButton *>(empfänger) &&
@@ -54,13 +54,13 @@ bool KannÄndern(const QObject *empfänger, QEvent::Type art)
     case QEvent::MouseButtonDblClick:
     case QEvent::Wheel:
     case QEvent::Drop:
-    case QEvent::Close:
     case QEvent::WindowActivate:
     case QEvent::WindowDeactivate:
     case QEvent::MetaCall:
     case QEvent::SockAct:
     case QEvent::DeferredDelete:
         return true;
+    case QEvent::Close:
     case QEvent::FocusIn:
     case QEvent::FocusOut:
         return HatInhalt(empfänger);

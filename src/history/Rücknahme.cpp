@@ -42,10 +42,14 @@ bool HatEigenes(const QObject *empfänger, bool zurück)
 /// A form that blocks the main window, and which steps are its own.
 struct Einzelform {
     QPointer<QWidget> Form;
-    std::function<void()> Ablegen;
-    std::function<void()> Erneuern;
+    Schrittform Handler;
     std::size_t Beginn = 0; // there were so many before
     std::size_t Ende = 0;   // and so many at most since
+
+    // What was on the screen when the record was shown, before anything was typed.
+    QString Satz;
+    std::size_t Stelle = 0;
+    QStringList Schirm;
 };
 
 std::vector<Einzelform> einzelformen;
@@ -56,28 +60,34 @@ Einzelform *EinzelformIn(const QWidget *fenster)
     return eine == einzelformen.end() || !fenster ? nullptr : &*eine;
 }
 
-bool EinSchritt(Einzelform &eine, bool zurück)
+void Merken(Einzelform &eine)
 {
-    const bool eigener = zurück ? Schrittstelle() > eine.Beginn : Schrittstelle() < eine.Ende;
-    if (!eigener)
-        return false;
-    (zurück ? SchrittZurücknehmen : SchrittWiederholen)();
-    eine.Erneuern();
-    return true;
+    eine.Satz = eine.Handler.Satz();
+    eine.Stelle = Schrittstelle();
+    eine.Ende = std::max(eine.Ende, eine.Stelle);
+    eine.Schirm = Gezeigt::Texte(eine.Form);
 }
 
-/// Writing what is on the screen may put a record in order without the user's seeing it; to take
-/// only that back would be no answer to his key.
+/// A record is shown anew when another one is chosen and when the tables have changed.
+void ObNeuGezeigt(Einzelform &eine)
+{
+    if (eine.Form->isVisible() && (eine.Schirm.isEmpty() || eine.Satz != eine.Handler.Satz() ||
+                                   eine.Stelle != Schrittstelle()))
+        Merken(eine);
+}
+
 void GehenIn(Einzelform &eine, bool zurück)
 {
-    const std::size_t zuvor = Schrittstelle();
-    const QStringList schirm = Gezeigt::Texte(eine.Form);
-    eine.Ablegen();
+    if (Gezeigt::Texte(eine.Form) != eine.Schirm)
+        eine.Handler.Ablegen();
     TabellenBeobachten();
     eine.Ende = std::max(eine.Ende, Schrittstelle());
-    const bool geschrieben = Schrittstelle() > zuvor;
-    if (EinSchritt(eine, zurück) && geschrieben && Gezeigt::Texte(eine.Form) == schirm)
-        EinSchritt(eine, zurück);
+    const bool eigener = zurück ? Schrittstelle() > eine.Beginn : Schrittstelle() < eine.Ende;
+    if (!eigener)
+        return;
+    (zurück ? SchrittZurücknehmen : SchrittWiederholen)();
+    eine.Handler.Erneuern();
+    Merken(eine);
 }
 
 class Mitschreiber : public QObject {
@@ -122,6 +132,8 @@ class Mitschreiber : public QObject {
             return;
         TabellenBeobachten();
         gesehen = ereignisse;
+        if (Einzelform *eine = EinzelformIn(QApplication::activeWindow()))
+            ObNeuGezeigt(*eine);
     }
 
     bool Taste(const QObject *empfänger, const QKeyEvent &taste) const
@@ -162,12 +174,15 @@ void SchritteMitschreiben(QObject *eigner, const std::function<void()> &zeigen)
     new Mitschreiber(eigner, zeigen);
 }
 
-void SchritteZurückIn(QWidget *form, const std::function<void()> &ablegen,
-                      const std::function<void()> &erneuern)
+void SchritteZurückIn(QWidget *form, const Schrittform &handler)
 {
     std::erase_if(einzelformen, [](const Einzelform &eine) { return !eine.Form; });
     TabellenBeobachten();
-    einzelformen.push_back({form, ablegen, Abgefangen(erneuern), Schrittstelle(), Schrittstelle()});
+    Einzelform eine;
+    eine.Form = form;
+    eine.Handler = {handler.Satz, handler.Ablegen, Abgefangen(handler.Erneuern)};
+    eine.Beginn = eine.Ende = Schrittstelle();
+    einzelformen.push_back(std::move(eine));
 }
 
 void RückgängigMachen()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 #include <QWidget>
 
 #include <functional>
@@ -16,11 +17,16 @@ namespace altardienst {
 /// box that has something to take back itself comes first.
 void SchritteMitschreiben(QObject *eigner, const std::function<void()> &zeigen);
 
-/// From now on the two keys take back and repeat in this form too, which blocks the main window,
-/// but only what was done since. `ablegen` writes what is typed, which is the first thing to be
-/// taken back; its failure is shown. `erneuern` shows what the tables then hold, trapped.
-void SchritteZurückIn(QWidget *form, const std::function<void()> &ablegen,
-                      const std::function<void()> &erneuern);
+/// A form that blocks the main window.
+struct Schrittform {
+    std::function<QString()> Satz;  // which record it shows
+    std::function<void()> Ablegen;  // writes what is typed; its failure is shown
+    std::function<void()> Erneuern; // shows what the tables hold; trapped
+};
+
+/// From now on the two keys take back and repeat in this form too, but only what was done since.
+/// What is typed is written first, and so is the first thing to be taken back.
+void SchritteZurückIn(QWidget *form, const Schrittform &handler);
 
 /// Take back or repeat a step. The forms that are open show what the tables then hold, and the
 /// status bar tells what was done.

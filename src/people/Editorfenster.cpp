@@ -18,8 +18,8 @@ Editorfenster::Editorfenster(Datensatzwahl *wahl, Datensatzliste::Quelle quelle)
 {
     quelle.BeiWahl = Offen([this](int satz) { Aufschlagen(satz); });
     Liste = new Datensatzliste(wahl, std::move(quelle));
-    SchritteZurückIn(
-        this, [this] { Sichern(); }, [this] { Erneuern(); });
+    SchritteZurückIn(this, {[this] { return Wahl->Nummer->text(); }, [this] { Sichern(); },
+                            [this] { Erneuern(); }});
 }
 
 /// The number counts as changed, so that all that belongs to the record follows.
