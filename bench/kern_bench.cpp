@@ -11,6 +11,7 @@ void MessungenAnmelden()
     SortierenMessungen();
     StatistikMessungen();
     ZuweisungMessungen();
+    RückgängigMessungen(); // last, since its messages are to be answered
 }
 
 } // namespace altardienst

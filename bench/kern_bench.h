@@ -4,6 +4,7 @@
 namespace altardienst {
 
 void DateienMessungen();
+void RückgängigMessungen();
 void SortierenMessungen();
 void StatistikMessungen();
 void ZuweisungMessungen();

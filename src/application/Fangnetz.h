@@ -3,6 +3,8 @@
 
 #include <QApplication>
 
+#include <cstdint>
+
 namespace altardienst {
 
 /// Handlers are wrapped in their kind (controls/Handler.h); this catches what none of them caught.
@@ -14,10 +16,18 @@ class Fangnetz : public QApplication {
 
     bool notify(QObject *empfänger, QEvent *ereignis) override;
 
+    /// How many events have ended so far that may have changed something: whoever has seen the
+    /// tables since the last of them knows them. What is only drawn or pointed at does not count,
+    /// nor does the tick of a clock.
+    static std::uint64_t Ereignisse() { return ereignisse; }
+
   protected:
     /// Called in a `catch` block around an event: does all of the above. The event counts as
     /// handled.
     virtual bool Auffangen(QEvent *ereignis);
+
+  private:
+    static std::uint64_t ereignisse;
 };
 
 } // namespace altardienst

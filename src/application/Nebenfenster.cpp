@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -63,6 +64,18 @@ QStringList Gezeigt::Texte(const QWidget *form)
         if (!GehörtZurListe(feld))
             texte.append(feld->text());
     return texte;
+}
+
+bool IstNebenfenster(const QWidget *fenster)
+{
+    return fenster && std::ranges::find(alle, fenster, &Nebenfenster::Form) != alle.end();
+}
+
+bool SindMehrereOffen()
+{
+    return std::ranges::count_if(alle, [](const Nebenfenster &fenster) {
+               return fenster.Form && AufDemSchirm(fenster.Form);
+           }) > 1;
 }
 
 void HauptfensterHandelt(const std::function<void()> &aktion)

@@ -18,6 +18,10 @@ namespace altardienst {
 void NebenDemHauptfenster(QWidget *form, std::function<void()> ablegen,
                           std::function<void()> erneuern, std::function<void()> belassen);
 
+/// Whether this window is one of these forms, and whether one is open beside another.
+bool IstNebenfenster(const QWidget *fenster);
+bool SindMehrereOffen();
+
 /// Runs an action of the main window as described above. Open.
 void HauptfensterHandelt(const std::function<void()> &aktion);
 
@@ -41,9 +45,10 @@ class Gezeigt {
     bool Überholt() const { return überholt(); } // the record is another by now
     bool Getippt() const { return getippt(); }   // the screen is
 
-  private:
+    /// The texts of all boxes of a form.
     static QStringList Texte(const QWidget *form);
 
+  private:
     std::function<std::function<bool()>()> vergleich = [] { return [] { return false; }; };
     std::function<bool()> überholt = [] { return false; };
     std::function<bool()> getippt = [] { return false; };

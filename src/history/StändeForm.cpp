@@ -7,6 +7,7 @@
 #include "controls/Handler.h"
 #include "core/Umwandlung.h"
 #include "history/Netz.h"
+#include "history/Rückgängig.h"
 #include "history/Unterschiede.h"
 #include "platform/Meldungen.h"
 
@@ -250,10 +251,11 @@ bool StändeForm::Geholt(const Stand &stand)
     bool geholt = false;
     HauptfensterHandelt([&] {
         try {
-            StandZurückholen(stand);
+            Schritt("Stand vom " + StandText(stand) + " zurückholen",
+                    [&] { StandZurückholen(stand); });
             geholt = true;
         } catch (const Laufzeitfehler &fehler) {
-            Text satz = Text("Dieser Stand läßt sich nicht zurückholen: ") + fehler.what() + ".";
+            Text satz = Text("Dieser Stand lässt sich nicht zurückholen: ") + fehler.what() + ".";
             if (Netz().SpeichernAbgebrochen)
                 satz += " Die acht Dateien können aus zwei Speicherungen stammen; was das Programm "
                         "jetzt weiß, ist aufgehoben.";

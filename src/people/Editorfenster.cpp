@@ -4,7 +4,11 @@
 #include "controls/Bausteine.h"
 #include "controls/Handler.h"
 #include "controls/Zahlbox.h"
+#include "history/Rücknahme.h"
 
+#include <QSignalBlocker>
+
+#include <algorithm>
 #include <utility>
 
 namespace altardienst {
@@ -14,6 +18,20 @@ Editorfenster::Editorfenster(Datensatzwahl *wahl, Datensatzliste::Quelle quelle)
 {
     quelle.BeiWahl = Offen([this](int satz) { Aufschlagen(satz); });
     Liste = new Datensatzliste(wahl, std::move(quelle));
+    SchritteZurückIn(this, {[this] { return Wahl->Nummer->text(); }, [this] { Sichern(); },
+                            [this] { Erneuern(); }});
+}
+
+/// The number counts as changed, so that all that belongs to the record follows.
+void Editorfenster::Erneuern()
+{
+    const int satz = std::min(Nummer(), anzahl());
+    {
+        const QSignalBlocker still(Wahl->Nummer);
+        Wahl->Nummer->clear();
+    }
+    ZahlSetzen(Wahl->Nummer, satz);
+    Liste->Folgen();
 }
 
 void Editorfenster::EndeVerbinden()

@@ -44,6 +44,9 @@ class Editorfenster : public Dialogfenster {
     /// The last save, which writes the screen.
     virtual void Abschließen() = 0;
 
+    /// Shows the record again, after the tables have changed under it.
+    virtual void Erneuern();
+
     /// `Ende` renames, writes and closes. A failure is shown and the window stays open.
     void EndeVerbinden();
 
@@ -72,7 +75,7 @@ class Editorfenster : public Dialogfenster {
     void Speichern();
     bool LeerenPlatzVerlassen(int i) const;
 
-    std::function<int()> anzahl; // of records
+    std::function<int()> anzahl; // of the records in use
     bool abgeschlossen = false;
 };
 

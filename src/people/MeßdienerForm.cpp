@@ -207,6 +207,13 @@ int MeßdienerForm::Sichern()
     return i;
 }
 
+void MeßdienerForm::Erneuern()
+{
+    Editorfenster::Erneuern();
+    Wunsch.ListeFüllen();
+    Wunsch.PartnerZeigen();
+}
+
 bool MeßdienerForm::IstBenannt(int i) const
 {
     return !Meßdiener.Vorname[i].empty() && !Meßdiener.Nachname[i].empty();

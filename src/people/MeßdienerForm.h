@@ -43,6 +43,7 @@ class MeßdienerForm : public Editorfenster {
     bool IstBenannt(int i) const override;
     QWidget *Fehlendes(int i) const override;
     void Aufschlagen(int satz) override;
+    void Erneuern() override;
     void HäufigkeitGeändert();
     void GruppePrüfen();
     void PartnerPrüfen(bool ausgewählt);

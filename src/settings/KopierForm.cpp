@@ -7,6 +7,7 @@
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 #include "core/Allgemein.h"
+#include "history/Rückgängig.h"
 #include "platform/Laufwerke.h"
 
 #include <QCloseEvent>
@@ -228,7 +229,8 @@ void KopierForm::Kopieren()
         for (std::size_t k = 0; k < O.size(); ++k)
             if (O[k]->isChecked())
                 DateiKopieren(Kopierdateien[k], Quelle(), ziel, neue);
-    const Ladebericht bericht = LadenMitBericht(dialog.NachKopie);
+    Ladebericht bericht;
+    Schritt("Daten holen", [&] { bericht = LadenMitBericht(dialog.NachKopie); });
     const int anzahl = Alle->isChecked() ? static_cast<int>(Kopierdateien.size()) : 1;
     Mitteilen(dialog.Hinaus ? KopiertSatz(anzahl, ziel) : GeholtSatz(anzahl, Quelle(), bericht));
     kopiert = true;

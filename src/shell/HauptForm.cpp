@@ -22,6 +22,8 @@
 #include "fixed/NeuMesseDienerFestForm.h"
 #include "help/Hilfetaste.h"
 #include "history/Netz.h"
+#include "history/Rückgängig.h"
+#include "history/Rücknahme.h"
 #include "history/StändeForm.h"
 #include "people/GruppeForm.h"
 #include "people/HelferForm.h"
@@ -85,13 +87,13 @@ QAction *Eintrag(QMenu *menü, const char *name, const char *beschriftung,
     return eintrag;
 }
 
-/// An action that gives no message: the status bar tells that it is done.
-void Eintrag(QMenu *menü, const char *name, const char *beschriftung,
-             const std::function<void()> &aktion, const char *mitteilung)
+/// Sorting gives no message: the status bar tells what is sorted.
+void Sortiereintrag(QMenu *menü, const char *name, const char *beschriftung,
+                    const std::function<void()> &sortieren, const char *was)
 {
-    Eintrag(menü, name, beschriftung, [aktion, mitteilung] {
-        aktion();
-        Mitteilen(mitteilung);
+    Eintrag(menü, name, beschriftung, [sortieren, was] {
+        Schritt(was + Text(" sortieren"), sortieren);
+        Mitteilen(was + Text(" sortiert"));
     });
 }
 
@@ -140,7 +142,8 @@ void Beenden()
 /// A load says nothing of itself, even if it has stopped in the middle.
 void FestplatteLaden()
 {
-    Mitteilen(Festplattenbericht(LadenMitBericht(VonFestplatteLaden)));
+    Schritt("Daten von der Festplatte laden",
+            [] { Mitteilen(Festplattenbericht(LadenMitBericht(VonFestplatteLaden))); });
 }
 
 /// While it stands, `vorher` runs as soon as a question is answered by yes.
@@ -167,9 +170,11 @@ class BeiJa {
 void DisketteLaden()
 {
     const BeiJa sichern(VorWechselSichern);
-    const Text bericht = Diskettenbericht(LadenMitBericht(VonDisketteLaden));
-    if (!bericht.empty())
-        Mitteilen(bericht);
+    Schritt("Daten von der Diskette laden", [] {
+        const Text bericht = Diskettenbericht(LadenMitBericht(VonDisketteLaden));
+        if (!bericht.empty())
+            Mitteilen(bericht);
+    });
 }
 
 /// A save to the diskette fails silently: nothing is said of one that does not hold all eight
@@ -312,48 +317,48 @@ void HauptForm::MenüSortieren()
 {
     QMenu *sortieren = Menü(menuBar(), "mnuSortieren", "S&ortieren");
     QMenu *etiketten = Menü(sortieren, "mnuEtik", "&Etiketten");
-    Eintrag(etiketten, "mnuEtiAUF", "a&ufsteigend sortieren", EtikettenAufsteigendSortieren,
-            "Etikettengrößen aufsteigend sortiert");
-    Eintrag(etiketten, "mnuEtiAB", "a&bsteigend sortieren", EtikettenAbsteigendSortieren,
-            "Etikettengrößen absteigend sortiert");
+    Sortiereintrag(etiketten, "mnuEtiAUF", "a&ufsteigend sortieren", EtikettenAufsteigendSortieren,
+                   "Etikettengrößen aufsteigend");
+    Sortiereintrag(etiketten, "mnuEtiAB", "a&bsteigend sortieren", EtikettenAbsteigendSortieren,
+                   "Etikettengrößen absteigend");
     Trennstrich(sortieren, "mnufilebar8");
-    Eintrag(sortieren, "mnuVorbMessen", "&Vorbesetzte Messen", VorbesetzteMessenSortieren,
-            "vorbesetzte Messen sortiert");
-    Eintrag(sortieren, "mnuGruppensort", "&Gruppen", GruppenSortieren, "Gruppen sortiert");
+    Sortiereintrag(sortieren, "mnuVorbMessen", "&Vorbesetzte Messen", VorbesetzteMessenSortieren,
+                   "vorbesetzte Messen");
+    Sortiereintrag(sortieren, "mnuGruppensort", "&Gruppen", GruppenSortieren, "Gruppen");
 
     QMenu *messen = Menü(sortieren, "mnuMess", "&Messen");
-    Eintrag(messen, "mnuSortmessen", "&nach Datum sortieren", MessenNachDatumSortieren,
-            "Messen nach Datum sortiert");
-    Eintrag(messen, "mnuSortmessenUhr", "nach Datum und &Uhrzeit sortieren", MessenSortieren,
-            "Messen nach Datum und Uhrzeit sortiert");
+    Sortiereintrag(messen, "mnuSortmessen", "&nach Datum sortieren", MessenNachDatumSortieren,
+                   "Messen nach Datum");
+    Sortiereintrag(messen, "mnuSortmessenUhr", "nach Datum und &Uhrzeit sortieren", MessenSortieren,
+                   "Messen nach Datum und Uhrzeit");
     QMenu *standard = Menü(sortieren, "mnuStandardmess", "&Standardmessen");
-    Eintrag(standard, "mnuWochentag", "nach &Wochentag sortieren",
-            StandardmessenNachWochentagSortieren, "Standardmessen nach Wochentag sortiert");
+    Sortiereintrag(standard, "mnuWochentag", "nach &Wochentag sortieren",
+                   StandardmessenNachWochentagSortieren, "Standardmessen nach Wochentag");
     Trennstrich(sortieren, "mnuFileBar1");
 
     QMenu *diener = Menü(sortieren, "mnuMeßdienersortierung", "M&eßdiener");
-    Eintrag(diener, "mnuMeßdienersort", "nach &Nachname sortieren", MeßdienerNachNachnameSortieren,
-            "Meßdiener nach Nachname sortiert");
-    Eintrag(diener, "mnuMeßdienersort2", "nach &Vorname sortieren", MeßdienerNachVornameSortieren,
-            "Meßdiener nach Vorname sortiert");
-    Eintrag(diener, "mnuMeßdienerGruppe", "nach &Gruppe sortieren", MeßdienerNachGruppeSortieren,
-            "Meßdiener nach Gruppe sortiert");
-    Eintrag(diener, "mnuMeßdienerGebuSort", "nach G&eburtstag sortieren",
-            MeßdienerNachGeburtstagSortieren, "Meßdiener nach Geburtstag sortiert");
-    Eintrag(diener, "mnuMeßdienerStraßSort", "nach Str&aße sortieren", MeßdienerNachStraßeSortieren,
-            "Meßdiener nach Straße sortiert");
+    Sortiereintrag(diener, "mnuMeßdienersort", "nach &Nachname sortieren",
+                   MeßdienerNachNachnameSortieren, "Meßdiener nach Nachname");
+    Sortiereintrag(diener, "mnuMeßdienersort2", "nach &Vorname sortieren",
+                   MeßdienerNachVornameSortieren, "Meßdiener nach Vorname");
+    Sortiereintrag(diener, "mnuMeßdienerGruppe", "nach &Gruppe sortieren",
+                   MeßdienerNachGruppeSortieren, "Meßdiener nach Gruppe");
+    Sortiereintrag(diener, "mnuMeßdienerGebuSort", "nach G&eburtstag sortieren",
+                   MeßdienerNachGeburtstagSortieren, "Meßdiener nach Geburtstag");
+    Sortiereintrag(diener, "mnuMeßdienerStraßSort", "nach Str&aße sortieren",
+                   MeßdienerNachStraßeSortieren, "Meßdiener nach Straße");
 
     QMenu *helfer = Menü(sortieren, "mnuMeßhelfer", "Meß&helfer");
-    Eintrag(helfer, "mnuMeßhelferNachsort", "nach &Nachnamen sortieren",
-            HelferNachNachnameSortieren, "Helfer nach Nachname sortiert");
-    Eintrag(helfer, "mnuMeßhelferNachsort2", "nach &Vorname sortieren", HelferNachVornameSortieren,
-            "Helfer nach Vorname sortiert");
-    Eintrag(helfer, "mnuHelfSortDienst", "nach D&ienst sortieren", HelferNachDienstSortieren,
-            "Helfer nach Dienst sortiert");
-    Eintrag(helfer, "mnuHelfsortGebu", "nach G&eburtstag sortieren", HelferNachGeburtstagSortieren,
-            "Helfer nach Geburtstag sortiert");
-    Eintrag(helfer, "mnuHelferSortStraße", "nach Str&aße sortieren", HelferNachStraßeSortieren,
-            "Helfer nach Straße sortiert");
+    Sortiereintrag(helfer, "mnuMeßhelferNachsort", "nach &Nachnamen sortieren",
+                   HelferNachNachnameSortieren, "Helfer nach Nachname");
+    Sortiereintrag(helfer, "mnuMeßhelferNachsort2", "nach &Vorname sortieren",
+                   HelferNachVornameSortieren, "Helfer nach Vorname");
+    Sortiereintrag(helfer, "mnuHelfSortDienst", "nach D&ienst sortieren", HelferNachDienstSortieren,
+                   "Helfer nach Dienst");
+    Sortiereintrag(helfer, "mnuHelfsortGebu", "nach G&eburtstag sortieren",
+                   HelferNachGeburtstagSortieren, "Helfer nach Geburtstag");
+    Sortiereintrag(helfer, "mnuHelferSortStraße", "nach Str&aße sortieren",
+                   HelferNachStraßeSortieren, "Helfer nach Straße");
 }
 
 void HauptForm::MenüZusatz()
@@ -382,13 +387,24 @@ void HauptForm::MenüZusatz()
         if (SpeichernOderEnden())
             DialogÖffnen<DatensicherungForm>();
     });
-    Eintrag(zusatz, "DruckML", "Dienste &richtig setzen für Messenlistausdruck", DiensteVerteilen,
-            "Dienste richtig gesetzt");
+    Eintrag(zusatz, "DruckML", "Dienste &richtig setzen für Messenlistausdruck", [] {
+        Schritt("Dienste richtig setzen", DiensteVerteilen);
+        Mitteilen("Dienste richtig gesetzt");
+    });
 }
 
 void HauptForm::MenüÜberblick()
 {
     QMenu *überblick = Menü(menuBar(), "mnuÜberblick", "Ü&berblick");
+    const auto schritt = [überblick](const char *name, Qt::Key taste, void (*gehen)()) {
+        QAction *eintrag = NeuerEintrag(überblick, name, "");
+        eintrag->setShortcut(Qt::CTRL | taste);
+        connect(eintrag, &QAction::triggered, überblick, Offen(gehen));
+        return eintrag;
+    };
+    mnuRückgängig = schritt("mnuRückgängig", Qt::Key_Z, RückgängigMachen);
+    mnuWiederholen = schritt("mnuWiederholen", Qt::Key_Y, Wiederholen);
+    Trennstrich(überblick, "mnuÜberblickBar1");
     Eintrag(überblick, "mnuStände", "&Frühere Stände", DialogÖffnen<StändeForm>);
 }
 
@@ -404,25 +420,28 @@ void HauptForm::MenüHilfe()
 
 void HauptForm::Verbinden()
 {
-    auto schritt = [this](QPushButton *knopf, const std::function<void()> &aktion) {
-        connect(knopf, &QPushButton::clicked, this, [aktion] { HauptfensterHandelt(aktion); });
+    const auto knopf = [this](QPushButton *einer, const std::function<void()> &aktion) {
+        connect(einer, &QPushButton::clicked, this, [aktion] { HauptfensterHandelt(aktion); });
     };
-    schritt(Messenorgani, [] {
-        UnterWartezeiger(MessenNeuBestimmen);
-        // The one case in which the main window stays enabled beside a dialog.
-        MessenlisteForm::NeuenPlanZeigen();
-    });
-    schritt(Meßdienernern, DialogÖffnen<NeuMesseDienerFestForm>);
-    schritt(Dienstus,
-            [] { UnterWartezeiger([] { MessenMitMeßdienerBesetzen(FesteMeßdienerÜbertragen); }); });
-    schritt(MeßdienerMessen, [] {
-        UnterWartezeiger([] { WunschpartnerBerücksichtigen(FesteMeßdienerÜbertragen); });
-    });
-    schritt(Helfend, [] { UnterWartezeiger(MessenMitMessehelferBesetzen); });
-    schritt(AnzMesse, DialogÖffnen<MessenlisteForm>);
-    schritt(Messendruck, PlanDrucken);
+    const auto schritt = [knopf](
+                             QPushButton *einer, const std::function<void()> &rechnen,
+                             const std::function<void()> &danach = [] {}) {
+        knopf(einer, [=, name = einer->text().toStdString()] {
+            Schritt(name, [&] { UnterWartezeiger(rechnen); });
+            danach();
+        });
+    };
+    // The one case in which the main window stays enabled beside a dialog.
+    schritt(Messenorgani, MessenNeuBestimmen, MessenlisteForm::NeuenPlanZeigen);
+    knopf(Meßdienernern, DialogÖffnen<NeuMesseDienerFestForm>);
+    schritt(Dienstus, [] { MessenMitMeßdienerBesetzen(FesteMeßdienerÜbertragen); });
+    schritt(MeßdienerMessen, [] { WunschpartnerBerücksichtigen(FesteMeßdienerÜbertragen); });
+    schritt(Helfend, MessenMitMessehelferBesetzen);
+    knopf(AnzMesse, DialogÖffnen<MessenlisteForm>);
+    knopf(Messendruck, PlanDrucken);
 
     SuchenBeiStrgF(this);
+    SchritteMitschreiben(this, Nebenbei([this] { SchritteZeigen(); }));
 
     connect(Timer1, &QTimer::timeout, this, Nebenbei([this] { Takt(); }));
     Timer1->start(50);
@@ -445,12 +464,27 @@ void HauptForm::ÜberblickZeigen()
     Abgefangen([this] { Leiste->Zeigen(ÜberblickAbschnitte()); })();
 }
 
-/// A dialog that leaves has written its screen to the tables.
+/// What is taken back or repeated stands in the menu by its name.
+void HauptForm::SchritteZeigen()
+{
+    const auto zeigen = [](QAction *eintrag, const char *wort, const Text &name) {
+        const QString was = Anzeige(name).replace("&", "&&");
+        eintrag->setText(QString::fromUtf8(wort) + (name.empty() ? "" : ": " + was));
+        eintrag->setEnabled(!name.empty());
+    };
+    zeigen(mnuRückgängig, "&Rückgängig", LetzterSchritt());
+    zeigen(mnuWiederholen, "&Wiederholen", NächsterSchritt());
+}
+
+/// A dialog that leaves has written its screen to the tables; what is typed in the next one is a
+/// step of its own.
 void HauptForm::changeEvent(QEvent *ereignis)
 {
     QMainWindow::changeEvent(ereignis);
-    if (ereignis->type() == QEvent::EnabledChange && isEnabled())
-        ÜberblickZeigen();
+    if (ereignis->type() != QEvent::EnabledChange || !isEnabled())
+        return;
+    ÜberblickZeigen();
+    Nebenbei(ÄnderungAbschließen)();
 }
 
 void HauptForm::closeEvent(QCloseEvent *ereignis)

@@ -4,6 +4,7 @@
 #include "application/Statuszeile.h"
 #include "settings/Hintergrundbild.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
@@ -31,6 +32,8 @@ class HauptForm : public QMainWindow {
     QLabel *Uhriger;
     QLabel *UHRZEITIGES;
     Hintergrundbild *Image1;
+    QAction *mnuRückgängig;
+    QAction *mnuWiederholen;
     QTimer *Timer1;
     Statuszeile *Leiste;
 
@@ -52,6 +55,7 @@ class HauptForm : public QMainWindow {
 
     void Takt();
     void ÜberblickZeigen();
+    void SchritteZeigen();
 
     std::array<QPushButton *, 7> Schritte() const;
 };

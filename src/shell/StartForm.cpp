@@ -15,6 +15,7 @@
 #include "core/tables.h"
 #include "fixed/FesteEinträge.h"
 #include "history/Netz.h"
+#include "history/Rückgängig.h"
 #include "history/StändeForm.h"
 #include "planning/MessenBestimmen.h"
 #include "platform/Uhr.h"
@@ -45,7 +46,7 @@ StartForm::StartForm(std::function<void()> starten)
     setWindowTitle("Altardienst");
     Anordnen();
     Verbinden();
-    Offen([this] { Laden(); })();
+    Offen([this] { Schritt("Daten laden", [this] { Laden(); }); })();
     HinweisZeigen();
 }
 
