@@ -9,6 +9,7 @@ void MessungenAnmelden()
 {
     DateienMessungen();
     SortierenMessungen();
+    PlanprüfungMessungen();
     StatistikMessungen();
     ZuweisungMessungen();
     RückgängigMessungen(); // last, since its messages are to be answered

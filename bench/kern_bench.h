@@ -6,6 +6,7 @@ namespace altardienst {
 void DateienMessungen();
 void RückgängigMessungen();
 void SortierenMessungen();
+void PlanprüfungMessungen();
 void StatistikMessungen();
 void ZuweisungMessungen();
 

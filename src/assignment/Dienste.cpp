@@ -18,6 +18,11 @@ template <class F> void Abzählen(int messe, F wieOft)
             DienstDesSlots(messe, ++slot) = art.Name;
 }
 
+int SlotsFür(const Dienstart &art, int zahl)
+{
+    return std::min(zahl, art.Höchstens);
+}
+
 } // namespace
 
 void DiensteVerteilen()
@@ -27,7 +32,7 @@ void DiensteVerteilen()
         for (int k = 0; k <= MesseTabelle::HöchsterSlot; ++k)
             Messe.DienerDienst[i][k] = Allgemein.Name;
     for (i = 0; i <= Messe.Anzahl; ++i)
-        Abzählen(i, [](const Dienstart &art, int zahl) { return std::min(zahl, art.Höchstens); });
+        Abzählen(i, SlotsFür);
 }
 
 void LaufDiensteVerteilen()
@@ -38,8 +43,19 @@ void LaufDiensteVerteilen()
             // kept.
             if ((&art == &Weihrauch || &art == &Kreuzträger) && zahl >= 1)
                 return art.Höchstens;
-            return std::min(zahl, art.Höchstens);
+            return SlotsFür(art, zahl);
         });
+}
+
+Slotdienste DiensteNachZahl(const MesseTabelle &messen, int messe)
+{
+    Slotdienste dienste;
+    auto slot = dienste.begin();
+    for (const Dienstart &art : BesondereDienste)
+        for (int k = SlotsFür(art, art.Zahl.In(messen)[messe]); k > 0; --k)
+            *slot++ = &art;
+    std::fill(slot, dienste.end(), &Allgemein);
+    return dienste;
 }
 
 } // namespace altardienst
