@@ -8,6 +8,7 @@
 #include "controls/Zahlbox.h"
 #include "core/Messenname.h"
 #include "core/Plätze.h"
+#include "people/ImPlan.h"
 #include "people/NeuerHelferForm.h"
 #include "platform/Meldungen.h"
 
@@ -116,7 +117,8 @@ void HelferForm::Anordnen()
     auto *spalte = Liste->Fensterspalte(this, Luft::Viel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Datensatzanzahl:"), Datensätzig));
     spalte->addWidget(Rollbar(mitte), 1);
-    spalte->addLayout(Knopfreihe({Ende}, {NeuHelfer, Datensatzlösch}));
+    QPushButton *imPlan = ImPlanKnopf(this, Ende, [this] { return Person.Name(); });
+    spalte->addLayout(Knopfreihe({Ende}, {NeuHelfer, Datensatzlösch, imPlan}));
     GrößeAnpassen(this);
     Person.Vorname->setFocus();
 }

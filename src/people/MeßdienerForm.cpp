@@ -6,6 +6,7 @@
 #include "controls/Handler.h"
 #include "core/Messenname.h"
 #include "core/Plätze.h"
+#include "people/ImPlan.h"
 #include "people/NeuMeßdienerForm.h"
 #include "platform/Meldungen.h"
 #include "printing/Aufnahmebestätigung.h"
@@ -103,7 +104,8 @@ void MeßdienerForm::Anordnen()
     auto *spalte = Liste->Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Anzahl Datensätze:"), MaxIndex));
     spalte->addWidget(Rollbar(mitte), 1);
-    spalte->addLayout(Knopfreihe({Ende}, {NeuDiener, Lösch, Aufnahmebestätigung}));
+    QPushButton *imPlan = ImPlanKnopf(this, Ende, [this] { return Angaben.Person.Name(); });
+    spalte->addLayout(Knopfreihe({Ende}, {NeuDiener, Lösch, Aufnahmebestätigung, imPlan}));
     GrößeAnpassen(this);
     Angaben.Person.Vorname->setFocus();
 }
