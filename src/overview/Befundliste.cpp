@@ -132,7 +132,7 @@ void Befundliste::Verbinden()
                 modell->Gliedern(person ? Gliederung::NachPerson : Gliederung::NachMesse);
             }));
     connect(Drucken, &QPushButton::clicked, this,
-            Offen([this] { PrüflisteDrucken(prüfung, modell->Gegliedert()); }));
+            Offen([this] { PrüflisteDrucken(prüfung, modell->Gegliedert(), regeln); }));
     connect(modell, &QAbstractItemModel::modelReset, this, Abgefangen([this] { Aufklappen(); }));
     connect(Befunde, &QTreeView::collapsed, this, Abgefangen([this](const QModelIndex &gruppe) {
                 zugeklappte.insert(modell->Titel(gruppe.row()));
@@ -148,7 +148,7 @@ void Befundliste::Verbinden()
 
 void Befundliste::Nachziehen()
 {
-    Setzen(Zahlen, Befundzahl(prüfung.Verstöße(), prüfung.Hinweise()));
+    Setzen(Zahlen, Gezählt());
     const int oben = Befunde->verticalScrollBar()->value();
     const Befund *gewählter = modell->BefundIn(Befunde->currentIndex());
     const std::optional<Planplatz> ort = gewählter ? std::optional(gewählter->Wo) : std::nullopt;
@@ -159,6 +159,13 @@ void Befundliste::Nachziehen()
                                                    QItemSelectionModel::ClearAndSelect |
                                                        QItemSelectionModel::Rows);
     Befunde->verticalScrollBar()->setValue(oben);
+}
+
+void Befundliste::Beachten(const Regelwahl &welche)
+{
+    regeln = welche;
+    modell->Beachten(welche);
+    Nachziehen();
 }
 
 /// Open unless the user folded it.

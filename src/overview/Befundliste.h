@@ -30,6 +30,10 @@ class Befundliste : public QWidget {
     /// was.
     void Nachziehen();
 
+    /// Only findings of these rules are listed, counted and printed.
+    void Beachten(const Regelwahl &welche);
+    Text Gezählt() const { return Befundzahlen(prüfung, regeln); }
+
   private:
     void Anordnen();
     void Verbinden();
@@ -38,6 +42,7 @@ class Befundliste : public QWidget {
 
     const Planprüfung &prüfung;
     Befundmodell *modell;
+    Regelwahl regeln = AlleRegeln;
     QSet<QString> zugeklappte; // titles
 };
 

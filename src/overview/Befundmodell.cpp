@@ -30,7 +30,7 @@ Befundmodell::Befundmodell(QObject *eigner, const Planprüfung &prüfung)
 std::vector<Befundmodell::Gruppe> Befundmodell::Lesen() const
 {
     std::vector<Gruppe> neue;
-    for (Befundgruppe &gruppe : Befundgruppen(prüfung, gliederung)) {
+    for (Befundgruppe &gruppe : Befundgruppen(prüfung, gliederung, regeln)) {
         const int verstöße = Zahl(gruppe.Befunde, Stufe::Verstoß);
         neue.push_back({std::move(gruppe.Titel), std::move(gruppe.Befunde), verstöße,
                         static_cast<int>(neue.size())});

@@ -21,6 +21,7 @@ class Befundmodell : public QAbstractItemModel {
     /// Takes over what the check has found by now; true if that is something else.
     bool Nachziehen();
     void Gliedern(Gliederung wie);
+    void Beachten(const Regelwahl &welche) { regeln = welche; } // with the next `Nachziehen`
     Gliederung Gegliedert() const { return gliederung; }
 
     /// Null for a heading.
@@ -55,6 +56,7 @@ class Befundmodell : public QAbstractItemModel {
 
     const Planprüfung &prüfung;
     Gliederung gliederung = Gliederung::NachMesse;
+    Regelwahl regeln = AlleRegeln;
     int sortiert = -1; // the column; -1: as they come
     Qt::SortOrder folge = Qt::AscendingOrder;
     std::vector<Gruppe> gruppen;

@@ -22,7 +22,34 @@ QString Tag(Datum datum)
 
 Text Suchzeile(const Kandidat &wer)
 {
-    return wer.Name + " " + wer.Gruppe + " " + wer.Wunschpartner;
+    return wer.Vorname + " " + wer.Nachname + " " + wer.Gruppe + " " + wer.Wunschpartner;
+}
+
+QString Zelltext(const Kandidat &wer, int spalte)
+{
+    switch (spalte) {
+    case Kandidatenmodell::Name:
+        return Anzeige(VollerName(wer.Vorname, wer.Nachname));
+    case Kandidatenmodell::Gruppe:
+        return Anzeige(wer.Gruppe);
+    case Kandidatenmodell::Zuletzt:
+        return Tag(wer.Zuletzt);
+    case Kandidatenmodell::Danach:
+        return Tag(wer.Danach);
+    case Kandidatenmodell::Dienste:
+        return QString::number(wer.Dienste);
+    case Kandidatenmodell::Häufigkeit:
+        return QString::number(wer.Häufigkeit);
+    case Kandidatenmodell::Partner:
+        return Anzeige(wer.Wunschpartner) + (wer.PartnerDaneben ? " (daneben)" : "");
+    default: {
+        QStringList wörter;
+        for (const Gegengrund &grund : wer.Gegengründe)
+            if (const QString wort = Anzeige(Regelname(grund.Was.Gegen)); !wörter.contains(wort))
+                wörter.append(wort);
+        return wörter.join(", ");
+    }
+    }
 }
 
 bool IstZahl(int spalte)
@@ -34,11 +61,10 @@ bool IstZahl(int spalte)
 
 Kandidatenmodell::Kandidatenmodell(QObject *eigner) : QAbstractTableModel(eigner) {}
 
-void Kandidatenmodell::Zeigen(std::vector<Kandidat> neue, const Plantabellen &von)
+void Kandidatenmodell::Zeigen(std::vector<Kandidat> neue)
 {
     beginResetModel();
     alle = std::move(neue);
-    tabellen = &von;
     Ordnen();
     endResetModel();
 }
@@ -109,8 +135,8 @@ QStringList Kandidatenmodell::Gründe(int zeile) const
 {
     const Kandidat &wer = In(zeile);
     QStringList gründe;
-    for (const Befund &grund : wer.Gegengründe)
-        gründe.append(Anzeige(Satz(*tabellen, grund, wer.Name)));
+    for (const Gegengrund &grund : wer.Gegengründe)
+        gründe.append(Anzeige(grund.Satz));
     return gründe;
 }
 
@@ -122,33 +148,6 @@ int Kandidatenmodell::rowCount(const QModelIndex &über) const
 int Kandidatenmodell::columnCount(const QModelIndex &über) const
 {
     return über.isValid() ? 0 : Spalten;
-}
-
-QString Kandidatenmodell::Zelltext(const Kandidat &wer, int spalte) const
-{
-    switch (spalte) {
-    case Name:
-        return Anzeige(wer.Name);
-    case Gruppe:
-        return Anzeige(wer.Gruppe);
-    case Zuletzt:
-        return Tag(wer.Zuletzt);
-    case Danach:
-        return Tag(wer.Danach);
-    case Dienste:
-        return QString::number(wer.Dienste);
-    case Häufigkeit:
-        return QString::number(wer.Häufigkeit);
-    case Partner:
-        return Anzeige(wer.Wunschpartner) + (wer.PartnerDaneben ? " (daneben)" : "");
-    default: {
-        QStringList wörter;
-        for (const Befund &grund : wer.Gegengründe)
-            if (const QString wort = Anzeige(Regelname(grund.Gegen)); !wörter.contains(wort))
-                wörter.append(wort);
-        return wörter.join(", ");
-    }
-    }
 }
 
 /// The sign says what the order says: nothing is against those without one.

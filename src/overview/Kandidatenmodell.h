@@ -15,8 +15,8 @@ class Kandidatenmodell : public QAbstractTableModel {
 
     explicit Kandidatenmodell(QObject *eigner);
 
-    /// `tabellen` must live on: sentences are made when they are shown.
-    void Zeigen(std::vector<Kandidat> neue, const Plantabellen &tabellen);
+    /// The best first.
+    void Zeigen(std::vector<Kandidat> neue);
     /// Only rows in whose name, group or wish partner every word stands.
     void Filtern(std::vector<Text> wörter);
 
@@ -35,12 +35,10 @@ class Kandidatenmodell : public QAbstractTableModel {
   private:
     void Ordnen();
     bool Früher(const Kandidat &a, const Kandidat &b) const;
-    QString Zelltext(const Kandidat &wer, int spalte) const;
 
-    std::vector<Kandidat> alle; // best first
+    std::vector<Kandidat> alle;
     std::vector<std::size_t> reihen;
     std::vector<Text> filter;
-    const Plantabellen *tabellen = nullptr;
     int sortiert = -1; // the column; -1: best first
     Qt::SortOrder folge = Qt::AscendingOrder;
 };

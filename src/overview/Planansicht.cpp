@@ -10,6 +10,7 @@
 #include "overview/Personenblick.h"
 #include "overview/Planwege.h"
 #include "overview/Platzschreiben.h"
+#include "overview/Regelauswahl.h"
 #include "overview/WerKannHierForm.h"
 #include "search/Hingehen.h"
 
@@ -31,18 +32,16 @@ bool IstBedienung(QEvent::Type art)
            art == QEvent::FocusOut;
 }
 
-/// "28.11. Leuchter · nach 7 Tagen 05.12.": the short date is enough within a plan.
+/// "28.11. Leuchter · nach 7 Tagen 05.12. Allgemein".
 Text Dienstfolge(const Personenblick &blick)
 {
-    constexpr std::size_t TagUndMonat = 6;
     Text folge;
     for (const Personendienst &dienst : blick.Dienste) {
         if (!folge.empty())
             folge += " · ";
         if (dienst.Pause)
-            folge += *dienst.Pause == 1 ? Text("nach 1 Tag ")
-                                        : "nach " + ZahlText(*dienst.Pause) + " Tagen ";
-        folge += Links(KurzesDatum(dienst.Tag), TagUndMonat) + " " + dienst.Dienst;
+            folge += "nach " + ZahlText(*dienst.Pause) + (*dienst.Pause == 1 ? " Tag " : " Tagen ");
+        folge += TagImSatz(dienst.Tag) + " " + dienst.Dienst;
     }
     return folge;
 }
@@ -51,7 +50,8 @@ Text Dienstfolge(const Personenblick &blick)
 
 Planansicht::Planansicht()
     : NurAuffälliges(Benannt(new QCheckBox("nur Au&ffälliges"), "NurAuffälliges")),
-      WerKannHier(Knopf("WerKannHierKnopf", "&Wer kann hier?")), Person(new Kurztext("PlanPerson")),
+      WerKannHier(Knopf("WerKannHierKnopf", "&Wer kann hier?")),
+      Regeln(Knopf("Regelwahl", "&Regeln")), Person(new Kurztext("PlanPerson")),
       Abstände(new Kurztext("PlanAbstände")),
       Teiler(Benannt(new QSplitter(Qt::Vertical), "PlanTeiler")), modell(new Planmodell(this)),
       später(new QTimer(this))
@@ -62,7 +62,7 @@ Planansicht::Planansicht()
     Liste = new Befundliste(modell->Prüfung());
     Anordnen();
     Verbinden();
-    Liste->Nachziehen();
+    Beachten(Regelauswahl::Gemerkte());
     Gewählt();
 }
 
@@ -70,11 +70,16 @@ void Planansicht::Anordnen()
 {
     später->setSingleShot(true);
     NurAuffälliges->setToolTip("Zeigt nur die Messen, bei denen etwas auffällt");
+    Regeln->setToolTip("Worauf geachtet wird");
+    Regeln->setMenu(
+        new Regelauswahl(this, modell->Prüfung(),
+                         Abgefangen([this](const Regelwahl &regeln) { Beachten(regeln); })));
     TasteNennen(WerKannHier, "Eingabe auf einem Platz");
     auto *kopf = new QHBoxLayout;
     kopf->addWidget(WerKannHier);
     kopf->addStretch();
     kopf->addWidget(NurAuffälliges);
+    kopf->addWidget(Regeln);
     QFont fett = Person->font();
     fett.setBold(true);
     Person->setFont(fett);
@@ -124,9 +129,14 @@ void Planansicht::Nachziehen()
 
 void Planansicht::BefundeZählen() const
 {
-    const Planprüfung &prüfung = modell->Prüfung();
-    DauerndMitteilen(Abschnittsname,
-                     isVisible() ? Befundzahl(prüfung.Verstöße(), prüfung.Hinweise()) : Text());
+    DauerndMitteilen(Abschnittsname, isVisible() ? Liste->Gezählt() : Text());
+}
+
+void Planansicht::Beachten(const Regelwahl &regeln)
+{
+    modell->Beachten(regeln);
+    Liste->Beachten(regeln);
+    BefundeZählen();
 }
 
 /// The one whose name was chosen last stays marked while one looks at places without a name.

@@ -21,6 +21,7 @@ class Planansicht : public QWidget {
 
     QCheckBox *NurAuffälliges;
     QPushButton *WerKannHier;
+    QPushButton *Regeln; // which rules are looked at
     Plantafel *Tafel;
     Kurztext *Person;   // whose places are marked, and the services by kind
     Kurztext *Abstände; // their dates, and the days between them
@@ -45,6 +46,7 @@ class Planansicht : public QWidget {
     void Gewählt();
     void PersonAngeben(const Text &vorname, const Text &nachname);
     void BefundeZählen() const;
+    void Beachten(const Regelwahl &regeln);
     void Fragen();
     void PlatzLeeren();
     void Hingehen();

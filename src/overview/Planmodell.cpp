@@ -16,11 +16,12 @@ namespace {
 constexpr int Wochentage = 7;
 constexpr int TagUndMonat = 6; // "28.11.": no plan is longer than half a year
 
-/// Weeks begin with the weekday on which plans do, so that a vigil stands with its Sunday.
+/// Weeks begin with the weekday on which plans do, so that a vigil stands with its Sunday. Day 0 is a
+/// Saturday, the seventh weekday.
 int WocheVon(Datum tag)
 {
     const int erster = std::clamp<int>(Konfig.StartWochentag, 1, Wochentage);
-    return static_cast<int>(std::floor((std::floor(tag) - erster + 1) / Wochentage));
+    return static_cast<int>(std::floor((std::floor(tag) - erster) / Wochentage));
 }
 
 /// A date that no calendar has must not keep the plan from being shown.
@@ -159,6 +160,8 @@ void Planmodell::ZeichenSetzen(Reihe &reihe, int messe) const
         zelle.Zeichen.reset();
     reihe.Gravierendstes.reset();
     for (const Befund &befund : prüfung.Von(messe)) {
+        if (!Gilt(regeln, befund))
+            continue;
         Erschweren(reihe.Gravierendstes, befund.Grad);
         const auto spalte = std::ranges::find(spalten, Spalte{befund.Wo.Was, befund.Wo.Nr});
         if (spalte != spalten.end())
@@ -243,6 +246,17 @@ void Planmodell::ÄnderungenMelden(const std::vector<Reihe> &alte)
     }
     if (erste >= 0)
         Q_EMIT dataChanged(index(erste, 0), index(letzte, columnCount() - 1));
+}
+
+void Planmodell::Beachten(const Regelwahl &welche)
+{
+    if (welche == regeln)
+        return;
+    regeln = welche;
+    std::vector<Reihe> neue = reihen;
+    for (std::size_t i = 0; i < neue.size(); ++i)
+        ZeichenSetzen(neue[i], static_cast<int>(i));
+    Übernehmen(std::move(neue), spalten);
 }
 
 void Planmodell::NurAuffälliges(bool nur)
@@ -403,7 +417,7 @@ QString Planmodell::Hinweis(const QModelIndex &zelle) const
         zeilen.append(Anzeige(Messenüberschrift(ort.Messe)));
     }
     for (const Befund &befund : prüfung.Von(ort.Messe))
-        if (befund.Wo == ort)
+        if (befund.Wo == ort && Gilt(regeln, befund))
             zeilen.append(Anzeige(Satz(prüfung.Tabellen(), befund)));
     return zeilen.join('\n');
 }

@@ -3,7 +3,7 @@
 
 #include "overview/Abdruck.h"
 #include "overview/Kurznamen.h"
-#include "overview/Planprüfung.h"
+#include "overview/Prüfliste.h"
 
 #include <QAbstractTableModel>
 #include <QString>
@@ -52,6 +52,10 @@ class Planmodell : public QAbstractTableModel {
     bool BeginntWoche(int zeile) const;                   // and is not the first row
     bool HatFesteEinträge() const { return hatFeste; }
     bool HatDienstwörter() const { return hatDienste; } // any place shows a service
+
+    /// Which rules have signs.
+    void Beachten(const Regelwahl &welche);
+    const Regelwahl &Beachtete() const { return regeln; }
 
     /// Hides the masses without any finding.
     void NurAuffälliges(bool nur);
@@ -122,6 +126,7 @@ class Planmodell : public QAbstractTableModel {
     std::vector<Person> personen;
     std::unordered_map<Text, int> nummern; // of the persons, by both names
     int markiert = -1;
+    Regelwahl regeln = AlleRegeln;
     bool nurAuffällige = false;
     bool hatFeste = false;
     bool hatDienste = false;

@@ -34,6 +34,8 @@ class Plantafel : public QTableView {
     void Zoomen(int prozent);
     void Kopieren() const;
 
+    void scrollTo(const QModelIndex &zelle, ScrollHint wie = EnsureVisible) override;
+
     QTableView *Vorn; // the columns that stay
 
   protected:
@@ -46,7 +48,6 @@ class Plantafel : public QTableView {
     void keyPressEvent(QKeyEvent *taste) override;
     QModelIndex moveCursor(CursorAction wohin, Qt::KeyboardModifiers tasten) override;
     void resizeEvent(QResizeEvent *ereignis) override;
-    void scrollTo(const QModelIndex &zelle, ScrollHint wie = EnsureVisible) override;
     int sizeHintForColumn(int spalte) const override;
     void updateGeometries() override;
     void wheelEvent(QWheelEvent *rad) override;

@@ -40,6 +40,11 @@ QTableView *Kandidatentafel(QAbstractItemModel *modell)
     return tafel;
 }
 
+QString Name(const Kandidat &wer)
+{
+    return Anzeige(VollerName(wer.Vorname, wer.Nachname));
+}
+
 Text Ortsangabe(const Planplatz &platz)
 {
     const Text aufschrift = Platzaufschrift(platz);
@@ -122,7 +127,7 @@ void WerKannHierForm::NeuLesen()
                       ? Text("Der Platz ist frei.")
                       : "Jetzt steht hier " + VollerName(name.Vorname, name.Nachname) + ".");
     Leeren->setEnabled(!name.IstFrei());
-    modell->Zeigen(WerKannHier(prüfung, platz), prüfung.Tabellen());
+    modell->Zeigen(WerKannHier(prüfung, platz));
 }
 
 void WerKannHierForm::Filtern()
@@ -156,9 +161,8 @@ void WerKannHierForm::Markiert()
                                    ? "Es gibt niemanden, der hier stehen könnte."
                                    : "Niemand heißt so.");
     const QStringList gründe = modell->Gründe(Zeile());
-    Gründe->setText(gründe.isEmpty()
-                        ? "Nichts spricht gegen " + Anzeige(modell->In(Zeile()).Name) + "."
-                        : gründe.join(' '));
+    Gründe->setText(gründe.isEmpty() ? "Nichts spricht gegen " + Name(modell->In(Zeile())) + "."
+                                     : gründe.join(' '));
 }
 
 void WerKannHierForm::Besetzen(bool mitPartner)
@@ -166,16 +170,10 @@ void WerKannHierForm::Besetzen(bool mitPartner)
     if (Zeile() < 0)
         return;
     const Kandidat &wer = modell->In(Zeile());
-    const auto namen = [&](int nr) -> Platzwechsel {
-        if (platz.Was == Planplatz::Art::Helfer)
-            return {platz, Helfer.Vorname[nr], Helfer.Nachname[nr]};
-        return {platz, Meßdiener.Vorname[nr], Meßdiener.Nachname[nr]};
-    };
-    std::vector<Platzwechsel> wechsel{namen(wer.Nr)};
-    if (mitPartner && wer.Partnerplatz > 0) {
-        wechsel.push_back(namen(wer.Partner));
-        wechsel.back().Wo.Nr = wer.Partnerplatz;
-    }
+    std::vector<Platzwechsel> wechsel{{platz, wer.Vorname, wer.Nachname}};
+    if (mitPartner && wer.Partnerplatz > 0)
+        wechsel.push_back({Dienerplatznr(platz.Messe, wer.Partnerplatz),
+                           Meßdiener.Vorname[wer.Partner], Meßdiener.Nachname[wer.Partner]});
     PlätzeSchreiben(wechsel);
     accept();
 }

@@ -115,10 +115,11 @@ void HelferForm::Anordnen()
     mitte->addLayout(rechts);
 
     auto *spalte = Liste->Fensterspalte(this, Luft::Viel);
-    spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Datensatzanzahl:"), Datensätzig));
+    QLayout *kopf = Datensatzkopf(Wahl, Beschriftung("", "Datensatzanzahl:"), Datensätzig);
+    kopf->addWidget(ImPlanKnopf(this, Ende, [this] { return Person.Name(); }));
+    spalte->addLayout(kopf);
     spalte->addWidget(Rollbar(mitte), 1);
-    QPushButton *imPlan = ImPlanKnopf(this, Ende, [this] { return Person.Name(); });
-    spalte->addLayout(Knopfreihe({Ende}, {NeuHelfer, Datensatzlösch, imPlan}));
+    spalte->addLayout(Knopfreihe({Ende}, {NeuHelfer, Datensatzlösch}));
     GrößeAnpassen(this);
     Person.Vorname->setFocus();
 }

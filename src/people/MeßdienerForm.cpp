@@ -102,10 +102,11 @@ void MeßdienerForm::Anordnen()
     mitte->addLayout(rechts);
 
     auto *spalte = Liste->Fensterspalte(this, Luft::Mittel);
-    spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Anzahl Datensätze:"), MaxIndex));
+    QLayout *kopf = Datensatzkopf(Wahl, Beschriftung("", "Anzahl Datensätze:"), MaxIndex);
+    kopf->addWidget(ImPlanKnopf(this, Ende, [this] { return Angaben.Person.Name(); }));
+    spalte->addLayout(kopf);
     spalte->addWidget(Rollbar(mitte), 1);
-    QPushButton *imPlan = ImPlanKnopf(this, Ende, [this] { return Angaben.Person.Name(); });
-    spalte->addLayout(Knopfreihe({Ende}, {NeuDiener, Lösch, Aufnahmebestätigung, imPlan}));
+    spalte->addLayout(Knopfreihe({Ende}, {NeuDiener, Lösch, Aufnahmebestätigung}));
     GrößeAnpassen(this);
     Angaben.Person.Vorname->setFocus();
 }

@@ -24,6 +24,7 @@
 #include "help/Hilfetaste.h"
 #include "history/Netz.h"
 #include "history/StändeForm.h"
+#include "overview/Planansicht.h"
 #include "people/GruppeForm.h"
 #include "people/HelferForm.h"
 #include "people/ImPlan.h"

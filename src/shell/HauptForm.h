@@ -2,7 +2,6 @@
 #pragma once
 
 #include "application/Statuszeile.h"
-#include "overview/Planansicht.h"
 #include "settings/Hintergrundbild.h"
 
 #include <QAction>
@@ -17,6 +16,8 @@
 #include <functional>
 
 namespace altardienst {
+
+class Planansicht;
 
 /// Closing it runs the exit routine: everything is saved and every window unloaded.
 class HauptForm : public QMainWindow {

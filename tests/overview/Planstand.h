@@ -64,6 +64,14 @@ class Planstand : public Hauptstand {
         return *plan;
     }
 
+    /// The next run of the program, with the plan as it was left.
+    void Wiederkommen()
+    {
+        delete haupt;
+        Öffnen();
+        plan = haupt->Plan;
+    }
+
     QModelIndex Zelle(int zeile, int spalte) const
     {
         return plan->Tafel->model()->index(zeile, spalte);
