@@ -5,6 +5,7 @@
 #include "settings/Hintergrundbild.h"
 
 #include <QAction>
+#include <QBoxLayout>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
@@ -16,10 +17,13 @@
 
 namespace altardienst {
 
+class Planansicht;
+
 /// Closing it runs the exit routine: everything is saved and every window unloaded.
 class HauptForm : public QMainWindow {
   public:
     HauptForm();
+    ~HauptForm() override;
 
     QPushButton *Messenorgani;    // (1)
     QPushButton *Meßdienernern;   // (2)
@@ -35,6 +39,7 @@ class HauptForm : public QMainWindow {
     QAction *mnuRückgängig;
     QAction *mnuWiederholen;
     QTimer *Timer1;
+    Planansicht *Plan = nullptr; // made when it is shown for the first time
     Statuszeile *Leiste;
 
   protected:
@@ -56,6 +61,10 @@ class HauptForm : public QMainWindow {
     void Takt();
     void ÜberblickZeigen();
     void SchritteZeigen();
+    void PlanAnzeigen(bool plan);
+
+    QHBoxLayout *seiten; // the steps at the left, the picture or the plan at the right
+    QAction *planEintrag = nullptr;
 
     std::array<QPushButton *, 7> Schritte() const;
 };

@@ -103,6 +103,7 @@ TEST_F(HauptMenüTest, HatSeineEinträgeInIhrerFolge)
                           "  mnuRückgängig | &Rückgängig",
                           "  mnuWiederholen | &Wiederholen",
                           "  mnuÜberblickBar1 | ---",
+                          "  mnuPlanAnzeigen | &Plan anzeigen",
                           "  mnuStände | &Frühere Stände",
                           "mnuHelp | &?",
                           "  mnuHandbuch | &Handbuch",
@@ -138,6 +139,7 @@ TEST_F(HauptMenüTest, WasOhneDialogAuskommtIstWählbar)
                              "mnuHintergrund",
                              "mnuDatenHolen",
                              "mnuDatenSichern",
+                             "mnuPlanAnzeigen",
                              "mnuStände",
                              "mnuHelpAbout",
                              "DruckML"})
