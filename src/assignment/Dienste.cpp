@@ -18,6 +18,11 @@ template <class F> void Abzählen(int messe, F wieOft)
             DienstDesSlots(messe, ++slot) = art.Name;
 }
 
+int SlotsFür(const Dienstart &art, int zahl)
+{
+    return std::min(zahl, art.Höchstens);
+}
+
 } // namespace
 
 void DiensteVerteilen()
@@ -27,7 +32,7 @@ void DiensteVerteilen()
         for (int k = 0; k <= MesseTabelle::HöchsterSlot; ++k)
             Messe.DienerDienst[i][k] = Allgemein.Name;
     for (i = 0; i <= Messe.Anzahl; ++i)
-        Abzählen(i, [](const Dienstart &art, int zahl) { return std::min(zahl, art.Höchstens); });
+        Abzählen(i, SlotsFür);
 }
 
 void LaufDiensteVerteilen()
@@ -38,8 +43,18 @@ void LaufDiensteVerteilen()
             // kept.
             if ((&art == &Weihrauch || &art == &Kreuzträger) && zahl >= 1)
                 return art.Höchstens;
-            return std::min(zahl, art.Höchstens);
+            return SlotsFür(art, zahl);
         });
+}
+
+const Dienstart &DienstNachZahl(const MesseTabelle &messen, int messe, int n)
+{
+    for (const Dienstart &art : BesondereDienste) {
+        n -= std::max(0, SlotsFür(art, art.Zahl.In(messen)[messe]));
+        if (n < 1)
+            return art;
+    }
+    return Allgemein;
 }
 
 } // namespace altardienst

@@ -1,0 +1,26 @@
+// Names where there is little room.
+#pragma once
+
+#include "overview/Plantabellen.h"
+#include "values/Text.h"
+
+#include <unordered_map>
+
+namespace altardienst {
+
+/// "Anna M.": the first name and so much of the surname that nobody else is shortened to the same.
+/// Servers, helpers and whoever else stands in a mass are told apart; who is server and helper is
+/// one person.
+class Kurznamen {
+  public:
+    /// Reads all names.
+    void Neu(const Plantabellen &tabellen = GemeinsameTabellen());
+
+    /// A name that was in no table is shortened to one letter of the surname.
+    Text Von(const Text &vorname, const Text &nachname) const;
+
+  private:
+    std::unordered_map<Text, Text> kurz; // by both names, with a line break between them
+};
+
+} // namespace altardienst
