@@ -47,14 +47,15 @@ void LaufDiensteVerteilen()
         });
 }
 
-const Dienstart &DienstNachZahl(const MesseTabelle &messen, int messe, int n)
+Slotdienste DiensteNachZahl(const MesseTabelle &messen, int messe)
 {
-    for (const Dienstart &art : BesondereDienste) {
-        n -= std::max(0, SlotsFür(art, art.Zahl.In(messen)[messe]));
-        if (n < 1)
-            return art;
-    }
-    return Allgemein;
+    Slotdienste dienste;
+    auto slot = dienste.begin();
+    for (const Dienstart &art : BesondereDienste)
+        for (int k = SlotsFür(art, art.Zahl.In(messen)[messe]); k > 0; --k)
+            *slot++ = &art;
+    std::fill(slot, dienste.end(), &Allgemein);
+    return dienste;
 }
 
 } // namespace altardienst

@@ -3,6 +3,8 @@
 
 #include "core/Plätze.h"
 
+#include <array>
+
 namespace altardienst {
 
 /// Rewrites `Messe.DienerDienst` of all masses, including the blank one after the last: the wanted
@@ -13,7 +15,16 @@ void DiensteVerteilen();
 /// "Weihrauch" and "Kreuzträger" are written twice as soon as one is wanted.
 void LaufDiensteVerteilen();
 
-/// The service that slot `n` (1 to 20) gets from `DiensteVerteilen`, whatever stands in it now.
-const Dienstart &DienstNachZahl(const MesseTabelle &messen, int messe, int n);
+/// One service per slot, starting with slot 1.
+using Slotdienste = std::array<const Dienstart *, MesseTabelle::HöchsterSlot>;
+
+/// The services that the slots of a mass get from `DiensteVerteilen`, whatever stands there now.
+Slotdienste DiensteNachZahl(const MesseTabelle &messen, int messe);
+
+/// The same for one slot, 1 to 20.
+inline const Dienstart &DienstNachZahl(const MesseTabelle &messen, int messe, int n)
+{
+    return *DiensteNachZahl(messen, messe).at(static_cast<std::size_t>(n - 1));
+}
 
 } // namespace altardienst

@@ -103,6 +103,39 @@ inline bool HatWunschpartner(const MeßdienerTabelle &t, int j)
     return !t.WunschVorname[j].empty() && !t.WunschNachname[j].empty();
 }
 
+/// A service that has no position among the qualifications is open to everybody.
+inline bool DarfDienst(const MeßdienerTabelle &t, int j, const Dienstart &art)
+{
+    return art.Stelle == 0 || IstJa(t.Qualifikation[j], art.Stelle);
+}
+
+// In the weekly wishes a "j" is the wish to be left out.
+
+inline bool LehntWochendienstAb(const MeßdienerTabelle &t, int j)
+{
+    return IstJa(t.Wochendienst[j], 1);
+}
+
+inline bool IstWochendienst(const MesseTabelle &messen, int messe)
+{
+    return messen.Messeart[messe] == "Wochendienst";
+}
+
+/// The position among the weekly wishes that applies to a mass because of its weekday, 0 if none
+/// does. The wishes by weekday apply only to masses that come from the week pattern, and not on
+/// Saturday and Sunday. A padded weekday name matches none of them.
+inline int Wunschstelle(const MesseTabelle &messen, int messe)
+{
+    constexpr int Montag = 2; // weekday, and its position among the wishes
+    constexpr int Freitag = 6;
+    if (messen.Kennung[messe] != "s")
+        return 0;
+    for (int tag = Montag; tag <= Freitag; ++tag)
+        if (messen.Wochentag[messe] == Wochentagsnamen[static_cast<std::size_t>(tag - 1)])
+            return tag;
+    return 0;
+}
+
 inline bool IstVonHand(const KonfigDatensatz &einstellungen, std::string_view dienst)
 {
     return (dienst == Weihrauch.Name && einstellungen.ManuellWeihrauch == 1) ||
@@ -150,15 +183,13 @@ inline Grund GrößePrüfen(const Dienerperson &person, const Dienerplatz &platz
     return Falls(!passt, Grund::FalscheGröße);
 }
 
-/// A service that has no position among the qualifications is open to everybody.
 inline Grund QualifikationPrüfen(const Dienerperson &person, const Dienerplatz &platz,
                                  const Laufstand &)
 {
     const Text &dienst = DienstDesSlots(platz.Messen, platz.Messe, platz.Slot);
     for (const Dienstart &art : BesondereDienste)
         if (dienst == art.Name)
-            return Falls(!IstJa(person.Personen.Qualifikation[person.Nr], art.Stelle),
-                         Grund::OhneQualifikation);
+            return Falls(!DarfDienst(person.Personen, person.Nr, art), Grund::OhneQualifikation);
     return Grund::Keiner;
 }
 
@@ -186,31 +217,20 @@ inline Grund GeschlechtPrüfen(const Dienerperson &person, const Dienerplatz &pl
                  Grund::AnderesGeschlecht);
 }
 
-// In the weekly wishes a "j" is the wish to be left out.
-
 inline Grund WochendienstPrüfen(const Dienerperson &person, const Dienerplatz &platz,
                                 const Laufstand &)
 {
-    return Falls(IstJa(person.Personen.Wochendienst[person.Nr], 1) &&
-                     platz.Messen.Messeart[platz.Messe] == "Wochendienst",
+    return Falls(LehntWochendienstAb(person.Personen, person.Nr) &&
+                     IstWochendienst(platz.Messen, platz.Messe),
                  Grund::GegenWochendienst);
 }
 
-/// The wishes by weekday apply only to masses that come from the week pattern, and not on Saturday
-/// and Sunday. A padded weekday name matches none of them.
 inline Grund WochentagPrüfen(const Dienerperson &person, const Dienerplatz &platz,
                              const Laufstand &)
 {
-    constexpr int Montag = 2; // weekday, and its position among the wishes
-    constexpr int Freitag = 6;
-    if (platz.Messen.Kennung[platz.Messe] != "s")
-        return Grund::Keiner;
-    const Text &wunsch = person.Personen.Wochendienst[person.Nr];
-    for (int tag = Montag; tag <= Freitag; ++tag)
-        if (IstJa(wunsch, tag) && platz.Messen.Wochentag[platz.Messe] ==
-                                      Wochentagsnamen[static_cast<std::size_t>(tag - 1)])
-            return Grund::GegenWochentag;
-    return Grund::Keiner;
+    const int stelle = Wunschstelle(platz.Messen, platz.Messe);
+    return Falls(stelle != 0 && IstJa(person.Personen.Wochendienst[person.Nr], stelle),
+                 Grund::GegenWochentag);
 }
 
 /// Failure 6 if the sum of frequency and share does not fit into an Int16.
@@ -230,17 +250,23 @@ inline Grund LetztenPlatzPrüfen(const Dienerperson &person, const Dienerplatz &
 
 // The test for helpers.
 
+/// Whether one of the two fields of a helper names the service.
+inline bool HatDienst(const HelferTabelle &t, int j, const Helferart &art)
+{
+    return t.Dienst1[j] == art.Name || t.Dienst2[j] == art.Name;
+}
+
 /// A Lektor needs the service in one of the two fields. For all other places it is the other way
 /// round: only helpers who have the service in both fields are refused.
 inline Grund HelferdienstPrüfen(const Helferperson &person, const Helferstelle &stelle,
                                 const Laufstand &)
 {
     const Helferart &art = stelle.Platz.Art;
-    const bool erster = person.Personen.Dienst1[person.Nr] == art.Name;
-    const bool zweiter = person.Personen.Dienst2[person.Nr] == art.Name;
     if (&art == &Lektor)
-        return Falls(!erster && !zweiter, Grund::OhneDienst);
-    return Falls(erster && zweiter, Grund::DienstInBeidenFeldern);
+        return Falls(!HatDienst(person.Personen, person.Nr, art), Grund::OhneDienst);
+    return Falls(person.Personen.Dienst1[person.Nr] == art.Name &&
+                     person.Personen.Dienst2[person.Nr] == art.Name,
+                 Grund::DienstInBeidenFeldern);
 }
 
 // The lists.

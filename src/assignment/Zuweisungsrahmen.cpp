@@ -37,12 +37,17 @@ void WegNachAnzahl()
 
 void DienstProDienerRechnen()
 {
+    DienstProDiener = Dienstanteil(Messe, Meßdiener.Anzahl);
+}
+
+Int16 Dienstanteil(const MesseTabelle &messen, Int16 diener)
+{
     Int16 plätze;
-    for (int i = 0; i <= Messe.Anzahl; ++i)
-        plätze += Messe.Dienerzahl[i];
-    if (Meßdiener.Anzahl == 0)
+    for (int i = 0; i <= messen.Anzahl; ++i)
+        plätze += messen.Dienerzahl[i];
+    if (diener == 0)
         throw Laufzeitfehler(Laufzeitfehler::DivisionDurchNull);
-    DienstProDiener = plätze / Meßdiener.Anzahl + 1;
+    return plätze / diener + 1;
 }
 
 Int16 GrößteTagessumme(MesseTabelle::Spalte<Int16> &zahl)

@@ -14,6 +14,9 @@ extern Int16 DienstProDiener; // whole share of places per server, plus 1
 /// an Int16.
 void DienstProDienerRechnen();
 
+/// The same for a plan of its own.
+Int16 Dienstanteil(const MesseTabelle &messen, Int16 diener);
+
 /// Sets `GrößteMesse` and `GrößterTag`; the masses must be sorted.
 void GrößenRechnen();
 

@@ -1,13 +1,16 @@
 // Who belongs to a group.
 #include "core/Gruppen.h"
 
-#include "core/tables.h"
-
 namespace altardienst {
 
 bool IstInGruppe(int diener, const Text &gruppe)
 {
-    return !gruppe.empty() && Meßdiener.Gruppe[diener] == gruppe;
+    return IstInGruppe(Meßdiener, diener, gruppe);
+}
+
+bool IstInGruppe(const MeßdienerTabelle &tabelle, int diener, const Text &gruppe)
+{
+    return !gruppe.empty() && tabelle.Gruppe[diener] == gruppe;
 }
 
 } // namespace altardienst

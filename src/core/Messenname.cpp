@@ -2,7 +2,6 @@
 #include "core/Messenname.h"
 
 #include "core/Umwandlung.h"
-#include "core/tables.h"
 
 namespace altardienst {
 namespace {
@@ -26,23 +25,23 @@ Text Terminzeile(Datum datum, Datum uhrzeit)
     });
 }
 
-Text Messenzeile(int messe)
+Text Messenzeile(const MesseTabelle &messen, int messe)
 {
-    const Datum datum = Messe.Datum[messe];
-    const Datum uhrzeit = Messe.Uhrzeit[messe];
-    const Text &art = Messe.Messeart[messe];
+    const Datum datum = messen.Datum[messe];
+    const Datum uhrzeit = messen.Uhrzeit[messe];
+    const Text &art = messen.Messeart[messe];
     if (datum == 0 && uhrzeit == 0 && art.empty())
         return "(leer)";
     return Terminzeile(datum, uhrzeit) + (art.empty() ? "" : " " + art);
 }
 
-Text Messenüberschrift(int messe)
+Text Messenüberschrift(const MesseTabelle &messen, int messe)
 {
-    const Datum datum = Messe.Datum[messe];
-    const Text &art = Messe.Messeart[messe];
+    const Datum datum = messen.Datum[messe];
+    const Text &art = messen.Messeart[messe];
     return OderFragezeichen([&] {
                return WochentagName(datum) + ", " + KurzesDatum(datum) + ", " +
-                      StundenUndMinuten(Messe.Uhrzeit[messe]) + " Uhr";
+                      StundenUndMinuten(messen.Uhrzeit[messe]) + " Uhr";
            }) +
            (art.empty() ? "" : ", " + art);
 }

@@ -2,6 +2,7 @@
 // with uses these texts.
 #pragma once
 
+#include "core/tables.h"
 #include "values/Datum.h"
 #include "values/Text.h"
 
@@ -9,10 +10,18 @@ namespace altardienst {
 
 /// "Sa 28.11.2026 18:30 Vorabendmesse", with the weekday of the date; "(leer)" for a record with
 /// neither date nor time nor kind. Never fails: a date that no calendar has becomes "?".
-Text Messenzeile(int messe);
+Text Messenzeile(const MesseTabelle &messen, int messe);
+inline Text Messenzeile(int messe)
+{
+    return Messenzeile(Messe, messe);
+}
 
 /// "Samstag, 28.11.2026, 18:30 Uhr, Vorabendmesse".
-Text Messenüberschrift(int messe);
+Text Messenüberschrift(const MesseTabelle &messen, int messe);
+inline Text Messenüberschrift(int messe)
+{
+    return Messenüberschrift(Messe, messe);
+}
 
 /// "Sa 28.11.2026 18:30".
 Text Terminzeile(Datum datum, Datum uhrzeit);

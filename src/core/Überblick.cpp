@@ -3,7 +3,6 @@
 
 #include "core/Plätze.h"
 #include "core/Umwandlung.h"
-#include "core/tables.h"
 
 #include <algorithm>
 
@@ -19,11 +18,6 @@ int LetzteMesse()
 void Zählen(Platzzahl &plätze, const Text &vorname, const Text &nachname)
 {
     ++(vorname.empty() && nachname.empty() ? plätze.Offen : plätze.Besetzt);
-}
-
-bool LiegtImZeitraum(Datum tag)
-{
-    return tag >= Konfig.StartDatum && tag <= Konfig.StartDatum + Konfig.Tage;
 }
 
 /// "1 Messe", "2 Messen".
@@ -99,12 +93,17 @@ Abschnitt Leute()
 
 } // namespace
 
+bool LiegtImZeitraum(const KonfigDatensatz &einstellungen, Datum tag)
+{
+    return tag >= einstellungen.StartDatum && tag <= einstellungen.StartDatum + einstellungen.Tage;
+}
+
 Überblick ÜberblickZählen()
 {
     Überblick stand;
     for (int i = 0; i <= LetzteMesse(); ++i) {
         ++stand.Messen;
-        stand.ImZeitraum += LiegtImZeitraum(Messe.Datum[i]) ? 1 : 0;
+        stand.ImZeitraum += LiegtImZeitraum(Konfig, Messe.Datum[i]) ? 1 : 0;
         const int slots = std::min<int>(Messe.Dienerzahl[i], MesseTabelle::HöchsterSlot);
         for (int n = 1; n <= slots; ++n)
             Zählen(stand.Dienerplätze, Messe.DienerVor[i][n], Messe.DienerNach[i][n]);

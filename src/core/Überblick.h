@@ -1,6 +1,7 @@
 // How far the plan is, in figures: what the main window counts beside the seven steps.
 #pragma once
 
+#include "core/tables.h"
 #include "values/Text.h"
 
 #include <vector>
@@ -21,6 +22,9 @@ struct Überblick {
     Platzzahl Dienerplätze;
     Platzzahl Helferplätze; // only those that a mass wants
 };
+
+/// Whether a day belongs to the plan period.
+bool LiegtImZeitraum(const KonfigDatensatz &einstellungen, Datum tag);
 
 /// Counts all masses; far below a millisecond even for the largest plan.
 Überblick ÜberblickZählen();

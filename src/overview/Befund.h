@@ -42,7 +42,7 @@ struct Befund {
     Regel Gegen;
     Planplatz Wo;
     Planplatz Bezug = {}; // the other place or mass that the sentence names
-    int Zahl = 0;         // the record or number that it names
+    int Zahl = 0;         // the number or fixed entry that it names
 
     friend bool operator==(const Befund &, const Befund &) = default;
 };
@@ -50,15 +50,15 @@ struct Befund {
 /// "Größe", "Wunschpartner": the rule in a word, for columns and filters.
 Text Regelname(Regel regel);
 
-/// Of whom the sentence speaks: who stands in the place, whom a fixed entry wants there; empty if
-/// nobody. "Vorname Nachname".
+/// Of whom a finding speaks, as "Vorname Nachname": who stands in the place, whom a fixed entry
+/// wants there; empty if nobody.
 Text Betroffener(const Plantabellen &tabellen, const Befund &befund);
 
 /// What is wrong, in a German sentence with names and dates.
 Text Satz(const Plantabellen &tabellen, const Befund &befund);
 
-/// The same as a reason against somebody who does not stand there yet.
-Text Satz(const Plantabellen &tabellen, const Befund &befund, const Text &person);
+/// The same as a reason against a server or helper who does not stand there.
+Text SatzGegen(const Plantabellen &tabellen, const Befund &befund, int nr);
 
 /// "3 Verstöße, 1 Hinweis"; "nichts Auffälliges".
 Text Befundzahl(int verstöße, int hinweise);

@@ -7,26 +7,32 @@
 
 namespace altardienst {
 
+struct Gegengrund {
+    Befund Was;
+    Text Satz;
+};
+
 struct Kandidat {
-    int Nr;                          // record of `Meßdiener` or `Helfer`
-    Text Name;                       // "Vorname Nachname"
-    Text Gruppe;                     // of a server
-    std::vector<Befund> Gegengründe; // in the order of the rules; `Satz` with `Name`
-    Datum Zuletzt = 0;               // date of the last service before this mass, 0 none
-    Datum Danach = 0;                // of the next one after it
-    int Dienste = 0;                 // in the plan, without this place
-    int Häufigkeit = 0;              // of a server
-    Text Wunschpartner;              // "Vorname Nachname"
-    bool PartnerDaneben = false;     // the wish partner stands beside already
-    int Partnerplatz = 0;            // the slot beside in which the partner could stand, 0 none
-    int Partner = -1;                // record of the wish partner
+    int Nr; // record of `Meßdiener` or `Helfer`
+    Text Vorname, Nachname;
+    Text Gruppe = {};                         // of a server
+    std::vector<Gegengrund> Gegengründe = {}; // in the order of the rules
+    Datum Zuletzt = 0;                        // date of the last service before this mass, 0 none
+    Datum Danach = 0;                         // of the next one after it
+    int Dienste = 0;                          // in the plan, without this place
+    int Häufigkeit = 0;                       // of a server
+    Text Wunschpartner = {};                  // "Vorname Nachname"
+    int Partner = -1;                         // the wish partner's record, below 0 if there is none
+    bool PartnerDaneben = false;              // stands beside already
+    int Partnerplatz = 0; // the slot beside in which the partner could stand, 0 none; a free one if
+                          // there is one, otherwise somebody stands there now
 
     /// 0 nothing is against him, 1 only things worth a look, 2 a rule.
     int Rang() const;
 };
 
-/// All servers or helpers with a name: those with nothing against them first, then by number of
-/// services, then by how long ago the last one was.
+/// All servers, or for a helper's place all helpers, who have a name: those with nothing against
+/// them first, then by number of services, then by how long ago the last one was.
 std::vector<Kandidat> WerKannHier(const Planprüfung &prüfung, Planplatz platz);
 
 } // namespace altardienst

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "overview/Befund.h"
-#include "overview/Namensregister.h"
+#include "overview/Messenprüfung.h"
+#include "overview/Planregister.h"
 
 #include <array>
 #include <vector>
@@ -13,38 +14,45 @@ namespace altardienst {
 /// `Neu` or `MesseGeändert`.
 class Planprüfung {
   public:
-    explicit Planprüfung(Plantabellen tabellen = GemeinsameTabellen());
+    explicit Planprüfung(const Plantabellen &tabellen = GemeinsameTabellen());
+    Planprüfung(const Planprüfung &) = delete; // its parts refer to each other
+    Planprüfung &operator=(const Planprüfung &) = delete;
 
     /// Checks everything: after a load, a draw, a change of records, fixed entries or settings. Far
     /// below a millisecond.
     void Neu();
 
-    /// Checks again what a change in this mass can affect. Also right if its date or counts have
+    /// Checks again what other names in this mass can affect. Also right if its date or counts have
     /// changed: then everything is checked.
     void MesseGeändert(int messe);
 
-    /// Of a mass and its places, in the order of the places.
+    /// Of a mass, then of its places in their order. Empty for a mass that is not in the plan.
     const std::vector<Befund> &Von(int messe) const;
     /// Of all masses, in the order of the table.
     std::vector<Befund> Alle() const;
     int Verstöße() const { return zahlen[0]; }
     int Hinweise() const { return zahlen[1]; }
 
-    /// The record of the person in a place, or one of the values of `Namensregister`.
+    /// The record of who stands in a place that the mass wants, or one of the values of
+    /// `Namensregister`.
     int WerSteht(Planplatz platz) const;
-    /// The places of a person in the order of time; only those that a mass wants.
-    std::vector<Planplatz> PlätzeVon(Planplatz::Art was, int nr) const;
+    /// The services of a server or a helper in the order of time.
+    std::vector<Planplatz> Dienste(Planplatz::Art was, int nr) const;
+    /// The record of a server's wish partner, below 0 if there is none.
+    int Wunschpartner(int diener) const { return plan.Partner(diener); }
 
     /// What would be wrong with the server or helper `nr` in this place, whoever stands there now,
-    /// and what he would make wrong elsewhere. In the order of the rules; `Satz` with his name.
+    /// in the order of the rules, and what that would break in a place beside.
     std::vector<Befund> GegenPerson(Planplatz platz, int nr) const;
 
     const Plantabellen &Tabellen() const { return tabellen; }
 
   private:
+    void Zählen(int messe, int vorzeichen);
+
     Plantabellen tabellen;
-    Namensregister diener;
-    Namensregister helfer;
+    Planregister plan;
+    Messenprüfung prüfung;
     std::array<int, 2> zahlen{};
     std::vector<std::vector<Befund>> befunde; // one list a mass
 };

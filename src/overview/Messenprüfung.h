@@ -1,0 +1,103 @@
+// The rules of the plan, mass by mass.
+#pragma once
+
+#include "assignment/Dienste.h"
+#include "assignment/Gründe.h"
+#include "overview/Befund.h"
+#include "overview/Planregister.h"
+
+#include <array>
+#include <optional>
+#include <vector>
+
+namespace altardienst {
+
+/// Every condition is the one that the draw tests (assignment/Gründe.h). What a test has to know
+/// about the run is read from the finished plan: the height reference and the sex of the server
+/// before from the slots before, who is taken from the services of the same and the day before.
+class Messenprüfung {
+  public:
+    Messenprüfung(const Plantabellen &tabellen, const Planregister &plan)
+        : tabellen(tabellen), plan(plan)
+    {
+    }
+
+    /// Reads what is the same for all masses. Needed after `Planregister::Neu`.
+    void Neu();
+
+    /// Appends the findings of a mass: its own, then those of its places in their order.
+    void Prüfen(int messe, std::vector<Befund> &befunde) const;
+
+    /// Appends what would be wrong if this record stood in the place, in the order of the rules,
+    /// then what would only then be wrong with others.
+    void GegenPersonPrüfen(Planplatz platz, int nr, std::vector<Befund> &befunde) const;
+
+  private:
+    static constexpr int Slots = MesseTabelle::HöchsterSlot;
+
+    /// What the slots of a mass share.
+    struct Messenblick {
+        int Messe;
+        Datum Tag;
+        int Plätze;
+        std::array<int, Slots + 2>
+            Wer; // by slot; nobody stands before the first and after the last
+        Slotdienste Dienste;
+        bool IstWochendienst;
+        int Wunschstelle;
+        bool HatVonHand;                                   // a service that is set by hand
+        std::array<std::optional<Int16>, 5> Bezugsgröße{}; // by slot, from 4 on the same
+
+        const Dienstart &Dienst(int slot) const
+        {
+            return *Dienste[static_cast<std::size_t>(slot - 1)];
+        }
+        int &Am(int slot) { return Wer[static_cast<std::size_t>(slot)]; }
+        int Am(int slot) const { return Wer[static_cast<std::size_t>(slot)]; }
+    };
+
+    /// What the tables say of a server, ready to be looked up for each of his places.
+    struct Kenntnis {
+        std::array<bool, Dienstarten.size()> Darf{};
+        std::array<bool, 7> Ungern{}; // by the position of the weekly wish
+        bool IstManchmalAbwesend = false;
+    };
+
+    using Befunde = std::vector<Befund>;
+    using FesteSlots = std::array<int, Slots + 1>; // entry by slot, -1 none
+
+    void FesteLesen();
+    Messenblick Ansehen(int messe) const;
+    void BezugsgrößenRechnen(Messenblick &blick) const;
+    bool IstSlotVonHand(const Messenblick &blick, int slot) const;
+    const FesteSlots *FesteDer(int messe) const;
+
+    void MessePrüfen(const Messenblick &blick, Befunde &befunde) const;
+    void SlotPrüfen(const Messenblick &blick, int slot, Befunde &befunde) const;
+    void NamenlosenPrüfen(Planplatz platz, int wer, Befunde &befunde) const;
+    void FrühereDienstePrüfen(Stelle stelle, Stufe nachbarn, Befunde &befunde) const;
+    void AndereDienstePrüfen(Planplatz platz, int person, Stufe nachbarn, Befunde &befunde) const;
+    void DienerPrüfen(const Messenblick &blick, int slot, Befunde &befunde) const;
+    static bool IstFalscheGröße(const Dienerperson &person, const Dienerplatz &platz, Int16 bezug);
+    std::optional<Stufe> GeschlechtGrad(const Messenblick &blick, int slot) const;
+    void PartnerPrüfen(const Messenblick &blick, int slot, Befunde &befunde) const;
+    void HäufigkeitPrüfen(const Messenblick &blick, int slot, Befunde &befunde) const;
+    bool SindZuVielePaare(Planplatz platz, int diener, int paare) const;
+    bool IstFestErfüllt(int eintrag, int slot, int diener, Platzname name) const;
+    void DienergründePrüfen(Planplatz platz, int nr, Befunde &befunde) const;
+    void HelferplätzePrüfen(int messe, Befunde &befunde) const;
+    void HelferPrüfen(Planplatz platz, int nr, Befunde &befunde) const;
+    void GeschlechterDanachPrüfen(const Messenblick &jetzt, const Messenblick &dann, int slot,
+                                  Befunde &befunde) const;
+
+    const Plantabellen &tabellen;
+    const Planregister &plan;
+    std::vector<Kenntnis> kenntnisse;
+    std::vector<int> zurSelbenZeit; // another mass before it in the order of time, -1 none
+    std::vector<int> festeDer;      // index in `feste`, -1 none
+    std::vector<FesteSlots> feste;
+    std::optional<Int16> anteil; // pairs for a server with normal frequency
+    bool allesAußerhalb = false; // no mass is in the period
+};
+
+} // namespace altardienst

@@ -1,0 +1,220 @@
+// Who stands where in the plan.
+#include "overview/Planregister.h"
+
+#include "assignment/Gründe.h"
+
+#include <algorithm>
+#include <numeric>
+#include <tuple>
+
+namespace altardienst {
+
+void Planregister::Neu()
+{
+    diener.Neu(tabellen.Diener);
+    helfer.Neu(tabellen.Helferinnen);
+    WünscheLesen();
+    FolgeBestimmen();
+    const std::size_t stellen = folge.size() * JeMesse;
+    wer.assign(stellen, Namensregister::Frei);
+    imPaar.assign(stellen, false);
+    davor.resize(stellen);
+    danach.resize(stellen);
+    letzte.fill(Keine);
+    paare.fill(0);
+    letztesPaar.fill(Keine);
+    for (const int messe : folge) {
+        FürJedenGewünschten(messe, [this](Planplatz platz) {
+            const int person = NachschlagenAn(platz);
+            const Stelle stelle = StelleVon(platz);
+            wer[Nr(stelle)] = static_cast<std::int16_t>(person);
+            if (person >= 0)
+                Anhängen(stelle, person);
+        });
+        FürJedesPaar(messe, [this](Stelle stelle) {
+            imPaar[Nr(stelle)] = true;
+            ++paare[Nr(Wer(stelle))];
+            letztesPaar[Nr(Wer(stelle))] = stelle;
+        });
+    }
+}
+
+bool Planregister::Nachlesen(int messe, std::vector<int> &berührt)
+{
+    if (tabellen.Messenzahl() != Messenzahl() || MerkmaleVon(messe) != merkmale[Nr(messe)])
+        return false;
+    struct Paarstand {
+        int Diener;
+        int Paare;
+        Stelle Letztes;
+    };
+    std::vector<Paarstand> vorher;
+    const auto merken = [&](Stelle stelle) {
+        const int j = Wer(stelle);
+        vorher.push_back({j, Paare(j), LetztesPaar(j)});
+    };
+    FürJedesPaar(messe, merken);
+    for (const Paarstand &stand : vorher)
+        --paare[Nr(stand.Diener)];
+    FürJedenGewünschten(messe, [&](Planplatz platz) {
+        const Stelle stelle = StelleVon(platz);
+        const int person = NachschlagenAn(platz);
+        imPaar[Nr(stelle)] = false;
+        if (person == Wer(stelle))
+            return;
+        if (Wer(stelle) >= 0)
+            Lösen(stelle, berührt);
+        wer[Nr(stelle)] = static_cast<std::int16_t>(person);
+        if (person >= 0)
+            Einfügen(stelle, person, berührt);
+    });
+    FürJedesPaar(messe, merken);
+    FürJedesPaar(messe, [this](Stelle stelle) {
+        imPaar[Nr(stelle)] = true;
+        ++paare[Nr(Wer(stelle))];
+    });
+    for (const Paarstand &stand : vorher) {
+        letztesPaar[Nr(stand.Diener)] = LetztesPaarSuchen(stand.Diener);
+        for (const Stelle stelle : {stand.Letztes, LetztesPaar(stand.Diener)})
+            if (stelle != Keine)
+                berührt.push_back(MesseVon(stelle));
+    }
+    berührt.push_back(messe);
+    return true;
+}
+
+Planregister::Merkmale Planregister::MerkmaleVon(int messe) const
+{
+    const MesseTabelle &messen = tabellen.Messen;
+    Merkmale m = {messen.Datum[messe], messen.Uhrzeit[messe], Dienerplätze(messen, messe), {}};
+    for (const Helferart &art : Helferarten)
+        m.Helfer[NummerDer(art)] = art.Zahl.In(messen)[messe];
+    return m;
+}
+
+void Planregister::FolgeBestimmen()
+{
+    const int messen = tabellen.Messenzahl();
+    merkmale.clear();
+    merkmale.reserve(Nr(messen));
+    for (int i = 0; i < messen; ++i)
+        merkmale.push_back(MerkmaleVon(i));
+    folge.resize(Nr(messen));
+    std::iota(folge.begin(), folge.end(), 0);
+    const auto früher = [this](int a, int b) {
+        const Merkmale &x = merkmale[Nr(a)];
+        const Merkmale &y = merkmale[Nr(b)];
+        return std::tie(x.Tag, x.Uhrzeit) < std::tie(y.Tag, y.Uhrzeit);
+    };
+    if (!std::is_sorted(folge.begin(), folge.end(), früher)) // the draws sort the table
+        std::stable_sort(folge.begin(), folge.end(), früher);
+    rang.resize(Nr(messen));
+    for (int i = 0; i < messen; ++i)
+        rang[Nr(folge[Nr(i)])] = i;
+}
+
+void Planregister::WünscheLesen()
+{
+    const MeßdienerTabelle &t = tabellen.Diener;
+    partner.fill(Namensregister::Frei);
+    for (int j = 0; j < std::min<int>(t.Anzahl, ErsterHelfer); ++j)
+        if (HatWunschpartner(t, j))
+            partner[Nr(j)] = diener.Finden(t.WunschVorname[j], t.WunschNachname[j]);
+}
+
+int Planregister::NachschlagenAn(Planplatz platz) const
+{
+    const auto &[vorname, nachname] = NameAm(tabellen.Messen, platz);
+    if (platz.Was == Planplatz::Art::Diener)
+        return diener.Finden(vorname, nachname);
+    const int nr = helfer.Finden(vorname, nachname);
+    return nr < 0 ? nr : ErsterHelfer + nr;
+}
+
+template <class F> void Planregister::FürJedenGewünschten(int messe, F f) const
+{
+    const Merkmale &m = merkmale[Nr(messe)];
+    for (int slot = 1; slot <= m.Dienerplätze; ++slot)
+        f(Dienerplatznr(messe, slot));
+    for (int nr = 0; nr < static_cast<int>(Helferplätze.size()); ++nr)
+        if (Helferplätze[Nr(nr)].Nummer <= m.Helfer[NummerDer(Helferplätze[Nr(nr)].Art)])
+            f(Helferplatznr(messe, nr));
+}
+
+/// As the partner way places them: a server, and in the next slot the one he wishes for, whose own
+/// wish then does not count. Calls `f` with both slots.
+template <class F> void Planregister::FürJedesPaar(int messe, F f) const
+{
+    const int letzterSlot = merkmale[Nr(messe)].Dienerplätze;
+    for (int slot = 1; slot < letzterSlot; ++slot) {
+        const Stelle stelle = StelleVon(Dienerplatznr(messe, slot));
+        const int j = Wer(stelle);
+        if (j < 0 || Partner(j) < 0 || Wer(stelle + 1) != Partner(j))
+            continue;
+        f(stelle);
+        f(stelle + 1);
+        ++slot;
+    }
+}
+
+bool Planregister::IstSpäter(Stelle a, Stelle b) const
+{
+    const int rangA = rang[Nr(MesseVon(a))];
+    const int rangB = rang[Nr(MesseVon(b))];
+    return rangA != rangB ? rangA > rangB : a > b;
+}
+
+void Planregister::Anhängen(Stelle stelle, int person)
+{
+    const Stelle vorige = letzte[Nr(person)];
+    davor[Nr(stelle)] = vorige;
+    danach[Nr(stelle)] = Keine;
+    if (vorige != Keine)
+        danach[Nr(vorige)] = stelle;
+    letzte[Nr(person)] = stelle;
+}
+
+void Planregister::Lösen(Stelle stelle, std::vector<int> &berührt)
+{
+    const Stelle vor = davor[Nr(stelle)];
+    const Stelle nach = danach[Nr(stelle)];
+    (nach == Keine ? letzte[Nr(Wer(stelle))] : davor[Nr(nach)]) = vor;
+    if (vor != Keine)
+        danach[Nr(vor)] = nach;
+    NächsteMesseBerühren(nach, MesseVon(stelle), berührt);
+}
+
+void Planregister::Einfügen(Stelle stelle, int person, std::vector<int> &berührt)
+{
+    Stelle nach = Keine;
+    Stelle vor = letzte[Nr(person)];
+    while (vor != Keine && IstSpäter(vor, stelle)) {
+        nach = vor;
+        vor = davor[Nr(vor)];
+    }
+    davor[Nr(stelle)] = vor;
+    danach[Nr(stelle)] = nach;
+    if (vor != Keine)
+        danach[Nr(vor)] = stelle;
+    (nach == Keine ? letzte[Nr(person)] : davor[Nr(nach)]) = stelle;
+    NächsteMesseBerühren(nach, MesseVon(stelle), berührt);
+}
+
+/// The person's next service in another mass: what came before it has changed.
+void Planregister::NächsteMesseBerühren(Stelle ab, int messe, std::vector<int> &berührt) const
+{
+    while (ab != Keine && MesseVon(ab) == messe)
+        ab = danach[Nr(ab)];
+    if (ab != Keine)
+        berührt.push_back(MesseVon(ab));
+}
+
+Stelle Planregister::LetztesPaarSuchen(int diener) const
+{
+    Stelle stelle = Letzte(diener);
+    while (stelle != Keine && !imPaar[Nr(stelle)])
+        stelle = Davor(stelle);
+    return stelle;
+}
+
+} // namespace altardienst

@@ -1,0 +1,236 @@
+// The rules of the plan: what applies to a server or helper in a place.
+#include "assignment/Gründe.h"
+#include "fixed/FesteMeßdienerÜbertragen.h"
+#include "overview/Messenprüfung.h"
+
+#include <algorithm>
+
+namespace altardienst {
+namespace {
+
+/// What a reason of the draw for refusing somebody is called in a finished plan.
+void Melden(Grund grund, Stufe grad, Regel regel, Planplatz wo, std::vector<Befund> &befunde,
+            int zahl = 0)
+{
+    if (grund != Grund::Keiner)
+        befunde.push_back({grad, regel, wo, {}, zahl});
+}
+
+} // namespace
+
+/// Somebody's service before this one: in the same mass, on the same or on the previous day.
+void Messenprüfung::FrühereDienstePrüfen(Stelle stelle, Stufe nachbarn, Befunde &befunde) const
+{
+    const Stelle vorige = plan.Davor(stelle);
+    if (vorige == Planregister::Keine)
+        return;
+    const Planplatz platz = Planregister::PlatzVon(stelle);
+    const Planplatz bezug = Planregister::PlatzVon(vorige);
+    if (bezug.Messe == platz.Messe) {
+        befunde.push_back({Stufe::Verstoß, Regel::Doppelt, platz, bezug});
+        return; // that place is asked for the days before
+    }
+    const Datum zuletzt = tabellen.Messen.Datum[bezug.Messe];
+    const Datum tag = tabellen.Messen.Datum[platz.Messe];
+    if (IstGesperrt(zuletzt, tag))
+        befunde.push_back(
+            {nachbarn, zuletzt == tag ? Regel::SelberTag : Regel::Nachbartag, platz, bezug});
+}
+
+/// The same when somebody might come to stand here: all other services count, also those after it.
+void Messenprüfung::AndereDienstePrüfen(Planplatz platz, int person, Stufe nachbarn,
+                                        Befunde &befunde) const
+{
+    const Datum tag = tabellen.Messen.Datum[platz.Messe];
+    enum Lage { InDerMesse, AmTag, AmVortag, AmFolgetag };
+    std::array<std::optional<Planplatz>, 4> gefunden;
+    for (Stelle stelle = plan.Letzte(person); stelle != Planregister::Keine;
+         stelle = plan.Davor(stelle)) {
+        const Planplatz dort = Planregister::PlatzVon(stelle);
+        const Datum anderer = tabellen.Messen.Datum[dort.Messe];
+        if (dort == platz)
+            continue;
+        if (dort.Messe == platz.Messe)
+            gefunden[InDerMesse] = dort;
+        else if (IstGesperrt(anderer, tag))
+            gefunden[anderer == tag ? AmTag : AmVortag] = dort;
+        else if (IstGesperrt(tag, anderer))
+            gefunden[AmFolgetag] = dort;
+    }
+    constexpr std::array Regeln = {Regel::Doppelt, Regel::SelberTag, Regel::Nachbartag,
+                                   Regel::Nachbartag};
+    for (std::size_t lage = 0; lage < gefunden.size(); ++lage)
+        if (gefunden[lage])
+            befunde.push_back({lage == InDerMesse ? Stufe::Verstoß : nachbarn, Regeln[lage], platz,
+                               *gefunden[lage]});
+}
+
+void Messenprüfung::DienerPrüfen(const Messenblick &blick, int slot, Befunde &befunde) const
+{
+    const int j = blick.Am(slot);
+    const Kenntnis &kenntnis = kenntnisse[static_cast<std::size_t>(j)];
+    const Planplatz platz = Dienerplatznr(blick.Messe, slot);
+    const Dienerperson person = {tabellen.Diener, j};
+    const Dienerplatz stelle = {tabellen.Messen, tabellen.Einstellungen, blick.Messe, slot};
+    const std::optional<Int16> bezug =
+        blick.Bezugsgröße[static_cast<std::size_t>(std::min(slot, 4))];
+    if (bezug && IstFalscheGröße(person, stelle, *bezug))
+        befunde.push_back({Stufe::Hinweis, Regel::Größe, platz, {}, *bezug});
+    if (!kenntnis.Darf[static_cast<std::size_t>(&blick.Dienst(slot) - Dienstarten.data())])
+        befunde.push_back({Stufe::Verstoß, Regel::Qualifikation, platz});
+    // A mass without a date is on no day.
+    if (kenntnis.IstManchmalAbwesend && blick.Tag != 0)
+        Melden(AnwesenheitPrüfen(person, stelle, {}), Stufe::Verstoß, Regel::Abwesend, platz,
+               befunde);
+    if (const std::optional<Stufe> grad = GeschlechtGrad(blick, slot))
+        befunde.push_back({*grad, Regel::Geschlecht, platz, Dienerplatznr(blick.Messe, slot - 1)});
+    if (blick.IstWochendienst && kenntnis.Ungern[1])
+        befunde.push_back({Stufe::Verstoß, Regel::Wochendienst, platz});
+    if (blick.Wunschstelle != 0 && kenntnis.Ungern[static_cast<std::size_t>(blick.Wunschstelle)])
+        befunde.push_back({Stufe::Verstoß, Regel::Wochentag, platz});
+    PartnerPrüfen(blick, slot, befunde);
+}
+
+bool Messenprüfung::IstFalscheGröße(const Dienerperson &person, const Dienerplatz &platz,
+                                    Int16 bezug)
+{
+    try {
+        return GrößePrüfen(person, platz, {.MittelGröße = bezug}) != Grund::Keiner;
+    } catch (const Laufzeitfehler &) { // a tolerance without limits
+        return false;
+    }
+}
+
+/// Of the pair that the slot closes. Where the program itself puts the two sexes together, it is
+/// only worth a look: wish partners, services set by hand, and the server after a pair of wish
+/// partners that does not begin at an odd slot, who is compared with the first of them.
+std::optional<Stufe> Messenprüfung::GeschlechtGrad(const Messenblick &blick, int slot) const
+{
+    const int j = blick.Am(slot);
+    const int nachbar = blick.Am(slot - 1);
+    if (j < 0 || nachbar < 0)
+        return std::nullopt;
+    const auto passtZu = [&](int anderer) {
+        return GeschlechtPrüfen({tabellen.Diener, j},
+                                {tabellen.Messen, tabellen.Einstellungen, blick.Messe, slot},
+                                {.LetztesGeschlecht = tabellen.Diener.Geschlecht[anderer]}) ==
+               Grund::Keiner;
+    };
+    if (passtZu(nachbar))
+        return std::nullopt;
+    const int vorNachbar = slot > 2 ? blick.Am(slot - 2) : Namensregister::Frei;
+    const bool gewollt =
+        plan.Partner(j) == nachbar || plan.Partner(nachbar) == j || IstSlotVonHand(blick, slot) ||
+        IstSlotVonHand(blick, slot - 1) ||
+        (vorNachbar >= 0 && plan.Partner(vorNachbar) == nachbar && passtZu(vorNachbar));
+    return gewollt ? Stufe::Hinweis : Stufe::Verstoß;
+}
+
+/// Not if the partner is away on this day, or is nobody.
+void Messenprüfung::PartnerPrüfen(const Messenblick &blick, int slot, Befunde &befunde) const
+{
+    const int partner = plan.Partner(blick.Am(slot));
+    if (partner < 0 || blick.Am(slot - 1) == partner || blick.Am(slot + 1) == partner)
+        return;
+    const Planplatz platz = Dienerplatznr(blick.Messe, slot);
+    const auto dort = std::ranges::find(blick.Wer, partner);
+    if (dort != blick.Wer.end())
+        befunde.push_back({Stufe::Hinweis, Regel::Wunschpartner, platz,
+                           Dienerplatznr(blick.Messe, static_cast<int>(dort - blick.Wer.begin()))});
+    else if (!kenntnisse[static_cast<std::size_t>(partner)].IstManchmalAbwesend ||
+             !IstAbwesend(tabellen.Diener, partner, blick.Tag))
+        befunde.push_back({Stufe::Hinweis, Regel::Wunschpartner, platz, platz});
+}
+
+void Messenprüfung::HelferplätzePrüfen(int messe, Befunde &befunde) const
+{
+    for (int nr = 0; nr < static_cast<int>(Helferplätze.size()); ++nr) {
+        const Planplatz platz = Helferplatznr(messe, nr);
+        if (!IstGewünscht(tabellen.Messen, platz))
+            continue;
+        const Stelle stelle = Planregister::StelleVon(platz);
+        const int wer = plan.Wer(stelle);
+        if (wer >= 0) {
+            FrühereDienstePrüfen(stelle, Stufe::Hinweis, befunde);
+            HelferPrüfen(platz, wer - Planregister::ErsterHelfer, befunde);
+        } else if (wer != Namensregister::Frei) {
+            NamenlosenPrüfen(platz, wer, befunde);
+        } else {
+            befunde.push_back({Stufe::Verstoß, Regel::Frei, platz});
+        }
+    }
+}
+
+/// The draw puts any helper in the place of any service but the Lektor's, unless he has entered it
+/// twice: whoever has not entered it is only worth a look there.
+void Messenprüfung::HelferPrüfen(Planplatz platz, int nr, Befunde &befunde) const
+{
+    const Helferplatz &art = Helferplätze[static_cast<std::size_t>(platz.Nr)];
+    const Helferperson person = {tabellen.Helferinnen, nr};
+    const Helferstelle stelle = {tabellen.Messen, platz.Messe, art};
+    if (tabellen.Messen.Datum[platz.Messe] != 0)
+        Melden(AnwesenheitPrüfen(person, stelle, {}), Stufe::Verstoß, Regel::Abwesend, platz,
+               befunde);
+    const Grund grund = HelferdienstPrüfen(person, stelle, {});
+    if (grund != Grund::Keiner || !HatDienst(tabellen.Helferinnen, nr, art.Art))
+        befunde.push_back({grund == Grund::OhneDienst ? Stufe::Verstoß : Stufe::Hinweis,
+                           Regel::Helferdienst, platz});
+}
+
+void Messenprüfung::GegenPersonPrüfen(Planplatz platz, int nr, Befunde &befunde) const
+{
+    if (platz.Was == Planplatz::Art::Helfer) {
+        AndereDienstePrüfen(platz, Planregister::ErsterHelfer + nr, Stufe::Hinweis, befunde);
+        HelferPrüfen(platz, nr, befunde);
+    } else {
+        DienergründePrüfen(platz, nr, befunde);
+    }
+}
+
+void Messenprüfung::DienergründePrüfen(Planplatz platz, int nr, Befunde &befunde) const
+{
+    const Messenblick jetzt = Ansehen(platz.Messe);
+    Messenblick dann = jetzt;
+    dann.Am(platz.Nr) = nr;
+    BezugsgrößenRechnen(dann);
+    AndereDienstePrüfen(platz, nr, Stufe::Verstoß, befunde);
+    const std::size_t vorher = befunde.size();
+    DienerPrüfen(dann, platz.Nr, befunde);
+    const bool partnerGemeldet =
+        std::any_of(befunde.begin() + static_cast<std::ptrdiff_t>(vorher), befunde.end(),
+                    [](const Befund &b) { return b.Gegen == Regel::Wunschpartner; });
+    // The draw keeps the last place for somebody without a partner, even if the partner is away.
+    if (!partnerGemeldet && platz.Nr == dann.Plätze && HatWunschpartner(tabellen.Diener, nr) &&
+        dann.Am(platz.Nr - 1) != plan.Partner(nr))
+        befunde.push_back({Stufe::Hinweis, Regel::Wunschpartner, platz, GanzeMesse(platz.Messe)});
+    const int paare = plan.Paare(nr);
+    if (SindZuVielePaare(platz, nr, paare))
+        befunde.push_back({Stufe::Hinweis, Regel::Häufigkeit, platz, {}, paare});
+    const FesteSlots *fest = FesteDer(platz.Messe);
+    const int eintrag = fest ? (*fest)[static_cast<std::size_t>(platz.Nr)] : -1;
+    if (eintrag >= 0 && platz.Nr <= dann.Plätze &&
+        !IstFestErfüllt(eintrag, platz.Nr, nr,
+                        {tabellen.Diener.Vorname[nr], tabellen.Diener.Nachname[nr]}))
+        befunde.push_back({Stufe::Verstoß, Regel::FesterEintrag, platz, {}, eintrag});
+    GeschlechterDanachPrüfen(jetzt, dann, platz.Nr, befunde);
+}
+
+/// Pairs that another server in a slot would break: the one that it begins, and the next one, if
+/// that was compared with this slot.
+void Messenprüfung::GeschlechterDanachPrüfen(const Messenblick &jetzt, const Messenblick &dann,
+                                             int slot, Befunde &befunde) const
+{
+    const int geschlossen = slot % 2 == 1 ? slot + 1 : slot + 2; // the even slot
+    if (geschlossen > dann.Plätze || GeschlechtGrad(dann, geschlossen) != Stufe::Verstoß ||
+        (slot % 2 == 0 && GeschlechtGrad(jetzt, geschlossen) == Stufe::Verstoß))
+        return;
+    const Planplatz platz = Dienerplatznr(dann.Messe, slot);
+    const Planplatz bezug = Dienerplatznr(dann.Messe, geschlossen);
+    if (slot % 2 == 1)
+        befunde.push_back({Stufe::Verstoß, Regel::Geschlecht, platz, bezug});
+    else
+        befunde.push_back(
+            {Stufe::Verstoß, Regel::Geschlecht, bezug, Dienerplatznr(dann.Messe, geschlossen - 1)});
+}
+
+} // namespace altardienst
