@@ -9,6 +9,7 @@ void MessungenAnmelden()
 {
     DateienMessungen();
     SortierenMessungen();
+    PlanprüfungMessungen();
     StatistikMessungen();
     ZuweisungMessungen();
 }

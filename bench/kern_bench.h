@@ -5,6 +5,7 @@ namespace altardienst {
 
 void DateienMessungen();
 void SortierenMessungen();
+void PlanprüfungMessungen();
 void StatistikMessungen();
 void ZuweisungMessungen();
 

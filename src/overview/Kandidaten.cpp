@@ -16,7 +16,7 @@ bool StehtVor(const MesseTabelle &messen, int a, int b)
            std::tie(messen.Datum[b], messen.Uhrzeit[b]);
 }
 
-void DiensteZählen(const Planprüfung &prüfung, Planplatz platz, Kandidat &kandidat)
+void DiensteZählen(const Planprüfung &prüfung, Planplatz platz, Platzkandidat &kandidat)
 {
     const MesseTabelle &messen = prüfung.Tabellen().Messen;
     for (const Planplatz dienst : prüfung.Dienste(platz.Was, kandidat.Nr)) {
@@ -30,7 +30,7 @@ void DiensteZählen(const Planprüfung &prüfung, Planplatz platz, Kandidat &kan
     }
 }
 
-void GründeSammeln(const Planprüfung &prüfung, Planplatz platz, Kandidat &kandidat)
+void GründeSammeln(const Planprüfung &prüfung, Planplatz platz, Platzkandidat &kandidat)
 {
     for (const Befund &befund : prüfung.GegenPerson(platz, kandidat.Nr))
         kandidat.Gegengründe.push_back(
@@ -47,7 +47,7 @@ bool KannStehen(const Planprüfung &prüfung, Planplatz platz, int nr)
     });
 }
 
-void PartnerSuchen(const Planprüfung &prüfung, Planplatz platz, Kandidat &kandidat)
+void PartnerSuchen(const Planprüfung &prüfung, Planplatz platz, Platzkandidat &kandidat)
 {
     const Plantabellen &t = prüfung.Tabellen();
     kandidat.Partner = prüfung.Wunschpartner(kandidat.Nr);
@@ -76,10 +76,10 @@ void PartnerSuchen(const Planprüfung &prüfung, Planplatz platz, Kandidat &kand
         kandidat.Partnerplatz = 0;
 }
 
-Kandidat Diener(const Planprüfung &prüfung, Planplatz platz, int nr)
+Platzkandidat Diener(const Planprüfung &prüfung, Planplatz platz, int nr)
 {
     const MeßdienerTabelle &t = prüfung.Tabellen().Diener;
-    Kandidat kandidat{
+    Platzkandidat kandidat{
         .Nr = nr, .Vorname = t.Vorname[nr], .Nachname = t.Nachname[nr], .Gruppe = t.Gruppe[nr]};
     kandidat.Häufigkeit = t.Häufigkeit[nr];
     kandidat.Wunschpartner = VollerName(t.WunschVorname[nr], t.WunschNachname[nr]);
@@ -89,9 +89,9 @@ Kandidat Diener(const Planprüfung &prüfung, Planplatz platz, int nr)
 }
 
 template <class Tabelle, class F>
-std::vector<Kandidat> AlleMitNamen(const Tabelle &personen, F kandidat)
+std::vector<Platzkandidat> AlleMitNamen(const Tabelle &personen, F kandidat)
 {
-    std::vector<Kandidat> alle;
+    std::vector<Platzkandidat> alle;
     for (int nr = 0; nr < personen.Anzahl && nr <= Tabelle::HöchsterIndex; ++nr)
         if (!personen.Vorname[nr].empty() && !personen.Nachname[nr].empty())
             alle.push_back(kandidat(nr));
@@ -100,7 +100,7 @@ std::vector<Kandidat> AlleMitNamen(const Tabelle &personen, F kandidat)
 
 } // namespace
 
-int Kandidat::Rang() const
+int Platzkandidat::Rang() const
 {
     if (Gegengründe.empty())
         return 0;
@@ -111,22 +111,22 @@ int Kandidat::Rang() const
                : 1;
 }
 
-std::vector<Kandidat> WerKannHier(const Planprüfung &prüfung, Planplatz platz)
+std::vector<Platzkandidat> WerKannHier(const Planprüfung &prüfung, Planplatz platz)
 {
     const HelferTabelle &helfer = prüfung.Tabellen().Helferinnen;
-    std::vector<Kandidat> alle =
+    std::vector<Platzkandidat> alle =
         platz.Was == Planplatz::Art::Diener
             ? AlleMitNamen(prüfung.Tabellen().Diener,
                            [&](int nr) { return Diener(prüfung, platz, nr); })
             : AlleMitNamen(helfer, [&](int nr) {
-                  return Kandidat{
+                  return Platzkandidat{
                       .Nr = nr, .Vorname = helfer.Vorname[nr], .Nachname = helfer.Nachname[nr]};
               });
-    for (Kandidat &kandidat : alle) {
+    for (Platzkandidat &kandidat : alle) {
         DiensteZählen(prüfung, platz, kandidat);
         GründeSammeln(prüfung, platz, kandidat);
     }
-    std::stable_sort(alle.begin(), alle.end(), [](const Kandidat &a, const Kandidat &b) {
+    std::stable_sort(alle.begin(), alle.end(), [](const Platzkandidat &a, const Platzkandidat &b) {
         return std::tuple(a.Rang(), a.Dienste, a.Zuletzt) <
                std::tuple(b.Rang(), b.Dienste, b.Zuletzt);
     });

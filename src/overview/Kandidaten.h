@@ -12,7 +12,7 @@ struct Gegengrund {
     Text Satz;
 };
 
-struct Kandidat {
+struct Platzkandidat {
     int Nr; // record of `Meßdiener` or `Helfer`
     Text Vorname, Nachname;
     Text Gruppe = {};                         // of a server
@@ -33,6 +33,6 @@ struct Kandidat {
 
 /// All servers, or for a helper's place all helpers, who have a name: those with nothing against
 /// them first, then by number of services, then by how long ago the last one was.
-std::vector<Kandidat> WerKannHier(const Planprüfung &prüfung, Planplatz platz);
+std::vector<Platzkandidat> WerKannHier(const Planprüfung &prüfung, Planplatz platz);
 
 } // namespace altardienst

@@ -40,6 +40,8 @@ class Planprüfung {
     std::vector<Planplatz> Dienste(Planplatz::Art was, int nr) const;
     /// The record of a server's wish partner, below 0 if there is none.
     int Wunschpartner(int diener) const { return plan.Partner(diener); }
+    /// How often a server stands beside his wish partner.
+    int Paare(int diener) const { return plan.Paare(diener); }
 
     /// What would be wrong with the server or helper `nr` in this place, whoever stands there now,
     /// in the order of the rules, and what that would break in a place beside.

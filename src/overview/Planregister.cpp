@@ -45,21 +45,20 @@ bool Planregister::Nachlesen(int messe, std::vector<int> &berührt)
         return false;
     struct Paarstand {
         int Diener;
-        int Paare;
         Stelle Letztes;
     };
-    std::vector<Paarstand> vorher;
-    const auto merken = [&](Stelle stelle) {
-        const int j = Wer(stelle);
-        vorher.push_back({j, Paare(j), LetztesPaar(j)});
-    };
-    FürJedesPaar(messe, merken);
-    for (const Paarstand &stand : vorher)
-        --paare[Nr(stand.Diener)];
+    std::vector<Paarstand> vorher; // of everybody in a pair of this mass, before or after
+    FürJedenGewünschten(messe, [&](Planplatz platz) {
+        const Stelle stelle = StelleVon(platz);
+        if (!imPaar[Nr(stelle)])
+            return;
+        vorher.push_back({Wer(stelle), LetztesPaar(Wer(stelle))});
+        --paare[Nr(Wer(stelle))];
+        imPaar[Nr(stelle)] = false;
+    });
     FürJedenGewünschten(messe, [&](Planplatz platz) {
         const Stelle stelle = StelleVon(platz);
         const int person = NachschlagenAn(platz);
-        imPaar[Nr(stelle)] = false;
         if (person == Wer(stelle))
             return;
         if (Wer(stelle) >= 0)
@@ -68,10 +67,10 @@ bool Planregister::Nachlesen(int messe, std::vector<int> &berührt)
         if (person >= 0)
             Einfügen(stelle, person, berührt);
     });
-    FürJedesPaar(messe, merken);
-    FürJedesPaar(messe, [this](Stelle stelle) {
-        imPaar[Nr(stelle)] = true;
+    FürJedesPaar(messe, [&](Stelle stelle) {
+        vorher.push_back({Wer(stelle), LetztesPaar(Wer(stelle))});
         ++paare[Nr(Wer(stelle))];
+        imPaar[Nr(stelle)] = true;
     });
     for (const Paarstand &stand : vorher) {
         letztesPaar[Nr(stand.Diener)] = LetztesPaarSuchen(stand.Diener);
@@ -142,19 +141,31 @@ template <class F> void Planregister::FürJedenGewünschten(int messe, F f) cons
 }
 
 /// As the partner way places them: a server, and in the next slot the one he wishes for, whose own
-/// wish then does not count. Calls `f` with both slots.
+/// wish then does not count. Calls `f` with both slots, or with the first if the second holds the
+/// name of nobody.
 template <class F> void Planregister::FürJedesPaar(int messe, F f) const
 {
     const int letzterSlot = merkmale[Nr(messe)].Dienerplätze;
     for (int slot = 1; slot < letzterSlot; ++slot) {
-        const Stelle stelle = StelleVon(Dienerplatznr(messe, slot));
-        const int j = Wer(stelle);
-        if (j < 0 || Partner(j) < 0 || Wer(stelle + 1) != Partner(j))
+        if (!StehtDerGewünschteNach(messe, slot))
             continue;
+        const Stelle stelle = StelleVon(Dienerplatznr(messe, slot));
         f(stelle);
-        f(stelle + 1);
         ++slot;
+        if (Wer(stelle + 1) >= 0)
+            f(stelle + 1);
     }
+}
+
+bool Planregister::StehtDerGewünschteNach(int messe, int slot) const
+{
+    const Stelle stelle = StelleVon(Dienerplatznr(messe, slot));
+    const int j = Wer(stelle);
+    if (j < 0 || Partner(j) == Namensregister::Frei || Wer(stelle + 1) != Partner(j))
+        return false;
+    return Partner(j) >= 0 ||
+           (tabellen.Messen.DienerNach[messe][slot + 1] == tabellen.Diener.WunschNachname[j] &&
+            tabellen.Messen.DienerVor[messe][slot + 1] == tabellen.Diener.WunschVorname[j]);
 }
 
 bool Planregister::IstSpäter(Stelle a, Stelle b) const

@@ -84,6 +84,7 @@ class Planregister {
     int NachschlagenAn(Planplatz platz) const;
     template <class F> void FürJedenGewünschten(int messe, F f) const;
     template <class F> void FürJedesPaar(int messe, F f) const;
+    bool StehtDerGewünschteNach(int messe, int slot) const;
     bool IstSpäter(Stelle a, Stelle b) const;
     void Anhängen(Stelle stelle, int person);
     void Lösen(Stelle stelle, std::vector<int> &berührt);

@@ -7,6 +7,7 @@
 #include <QProcess>
 
 #include <algorithm>
+#include <cstdio>
 #include <map>
 
 namespace altardienst {
@@ -105,6 +106,29 @@ TEST_F(PlanlaufTest, EinsVierFünfMeldetSichOhneFrage)
                                 "Meldung: Fertig mit Meßdiener Messen zuweisen unter "
                                 "Berücksichtigung des Wunschpartners\n"
                                 "Meldung: Fertig mit Helfer Messen zuordnen\n");
+}
+
+TEST_F(PlanlaufTest, PruefenNenntDieBefundeUndIhreZahl)
+{
+    const Ergebnis leer = Lauf({"1", "pruefen"});
+    EXPECT_EQ(leer.Wert, 0) << leer.Fehler;
+    EXPECT_NE(leer.Ausgabe.find("Befund: Verstoß, Sa 28.11.2026 "), Text::npos) << leer.Ausgabe;
+    EXPECT_NE(leer.Ausgabe.find(": Diener 1 ist frei.\n"), Text::npos);
+    const Ergebnis voll = Lauf({"1", "4", "5", "pruefen"});
+    EXPECT_EQ(voll.Wert, 0) << voll.Fehler;
+    EXPECT_EQ(voll.Ausgabe.find(" ist frei."), Text::npos) << voll.Ausgabe;
+    // The last line counts those before it.
+    int befunde = 0;
+    for (std::size_t ab = 0; (ab = voll.Ausgabe.find("Befund: ", ab)) != Text::npos; ++ab)
+        ++befunde;
+    const std::size_t zahlen = voll.Ausgabe.find("Befunde: ");
+    ASSERT_NE(zahlen, Text::npos);
+    int verstöße = 0;
+    int hinweise = 0;
+    const Text zeile = voll.Ausgabe.substr(zahlen);
+    if (std::sscanf(zeile.c_str(), "Befunde: %d Verst%*[^0-9,\n], %d", &verstöße, &hinweise) < 1)
+        std::sscanf(zeile.c_str(), "Befunde: %d Hinweis", &hinweise);
+    EXPECT_EQ(verstöße + hinweise, befunde) << zeile;
 }
 
 TEST_F(PlanlaufTest, MenüeinträgeÖffnenIhreFensterInDerFolge)
@@ -224,7 +248,7 @@ TEST_F(PlanlaufTest, EinLeeresVerzeichnisWirdWieBeimErstenStartGefüllt)
 TEST_F(PlanlaufTest, FalscheAngabenEndenMitEinemGrundUndÄndernNichts)
 {
     const std::map<Text, QStringList> fälle = {
-        {"--schritte takes numbers from 1 to 7", {"--schritte", "1,8"}},
+        {"--schritte takes numbers from 1 to 7 and pruefen", {"--schritte", "1,8"}},
         {"unexpected argument 4,", {"4,", "5"}},
         {"--saat takes a number", {"--saat", "x"}},
         {"--antwort takes ja or nein", {"--antwort", "vielleicht"}},

@@ -4,7 +4,9 @@
 #include "application/Fangnetz.h"
 #include "application/Gemerktes.h"
 #include "controls/Bausteine.h"
+#include "core/Messenname.h"
 #include "core/Umwandlung.h"
+#include "overview/Planprüfung.h"
 #include "paper/DruckerQt.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
@@ -28,6 +30,9 @@
 namespace {
 
 using namespace altardienst;
+
+/// Among the steps: checks the plan as it is then.
+constexpr int Prüfschritt = 0;
 
 /// What the command line asks for; an empty text or path asks for nothing.
 struct Auftrag {
@@ -64,7 +69,8 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption start("start", "first day of the plan", "TT.MM.JJJJ");
     const QCommandLineOption tage("tage", "days of the plan", "N");
     const QCommandLineOption saat("saat", "seed of the draw, in place of the clock's", "N");
-    const QCommandLineOption schritte("schritte", "buttons to press, such as 1,4,5", "LISTE");
+    const QCommandLineOption schritte(
+        "schritte", "buttons to press, such as 1,4,5; pruefen checks the plan", "LISTE");
     const QCommandLineOption menü(
         "menue", "menu entries to choose after the steps, such as mnuHelfer,mnuGruppe", "LISTE");
     const QCommandLineOption text("text", "write the plan as text", "FILE");
@@ -98,9 +104,12 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     for (const QString &nummer : nummern) {
         bool istZahl = false;
         const int schritt = nummer.toInt(&istZahl);
-        if (!istZahl || schritt < 1 || schritt > 7)
-            throw std::invalid_argument("--schritte takes numbers from 1 to 7");
-        auftrag.Schritte.append(schritt);
+        if (nummer == "pruefen")
+            auftrag.Schritte.append(Prüfschritt);
+        else if (istZahl && schritt >= 1 && schritt <= 7)
+            auftrag.Schritte.append(schritt);
+        else
+            throw std::invalid_argument("--schritte takes numbers from 1 to 7 and pruefen");
     }
     auftrag.Einträge = zeile.value(menü).split(',', Qt::SkipEmptyParts);
     auftrag.Text = Pfad(zeile.value(text));
@@ -145,6 +154,15 @@ template <class Form> Form *Fenster()
     throw std::runtime_error("a window did not open");
 }
 
+void BefundeNennen()
+{
+    const Planprüfung prüfung;
+    for (const Befund &befund : prüfung.Alle())
+        std::printf("Befund: %s, %s: %s\n", befund.Grad == Stufe::Verstoß ? "Verstoß" : "Hinweis",
+                    Messenzeile(befund.Wo.Messe).c_str(), Satz(prüfung.Tabellen(), befund).c_str());
+    std::printf("Befunde: %s\n", Befundzahl(prüfung.Verstöße(), prüfung.Hinweise()).c_str());
+}
+
 class Lauf {
   public:
     explicit Lauf(Auftrag auftrag) : auftrag(std::move(auftrag)) { Drucker = &drucker; }
@@ -175,6 +193,10 @@ class Lauf {
                                    haupt->MeßdienerMessen, haupt->Helfend,       haupt->AnzMesse,
                                    haupt->Messendruck};
         for (const int schritt : auftrag.Schritte) {
+            if (schritt == Prüfschritt) {
+                BefundeNennen();
+                continue;
+            }
             QPushButton *knopf = knöpfe.at(static_cast<std::size_t>(schritt - 1));
             if (!knopf->isEnabled())
                 throw std::runtime_error("button " + std::to_string(schritt) + " is disabled");
