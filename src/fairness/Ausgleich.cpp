@@ -185,10 +185,8 @@ class Ausgleich {
     /// The breaches are those that the check finds.
     void Prüfen()
     {
-        Planprüfung vorher(original);
-        Planprüfung nachher(eigene);
-        vorher.Neu();
-        nachher.Neu();
+        const Planprüfung vorher(original);
+        const Planprüfung nachher(eigene);
         for (const auto &[art, gruppe] : {std::pair(Planplatz::Art::Diener, &ergebnis.Diener),
                                           std::pair(Planplatz::Art::Helfer, &ergebnis.Helfer)}) {
             if (!gruppe->Dabei)

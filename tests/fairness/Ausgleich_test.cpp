@@ -35,8 +35,7 @@ std::vector<Text> AlleNamen()
 
 int Verstöße(Planplatz::Art art)
 {
-    Planprüfung prüfung;
-    prüfung.Neu();
+    const Planprüfung prüfung;
     int zahl = 0;
     for (const Befund &befund : prüfung.Alle())
         zahl += befund.Grad == Stufe::Verstoß && befund.Wo.Was == art;
