@@ -131,6 +131,15 @@ TEST_F(PlanlaufTest, PruefenNenntDieBefundeUndIhreZahl)
     EXPECT_EQ(verstöße + hinweise, befunde) << zeile;
 }
 
+TEST_F(PlanlaufTest, AusgleichenNenntDieZahlenDesGerechtenPlans)
+{
+    const Ergebnis ergebnis = Lauf({"1", "3", "ausgleichen", "pruefen"});
+    EXPECT_EQ(ergebnis.Wert, 0) << ergebnis.Fehler;
+    EXPECT_NE(ergebnis.Ausgabe.find("\nVerstöße: 0\nDienste: 2..3\nUngleichheit: "), Text::npos)
+        << ergebnis.Ausgabe;
+    EXPECT_EQ(ergebnis.Ausgabe.find("Befund: Verstoß"), Text::npos) << ergebnis.Ausgabe;
+}
+
 TEST_F(PlanlaufTest, MenüeinträgeÖffnenIhreFensterInDerFolge)
 {
     fs::create_directory(Festplatte / "bilder");
@@ -248,7 +257,7 @@ TEST_F(PlanlaufTest, EinLeeresVerzeichnisWirdWieBeimErstenStartGefüllt)
 TEST_F(PlanlaufTest, FalscheAngabenEndenMitEinemGrundUndÄndernNichts)
 {
     const std::map<Text, QStringList> fälle = {
-        {"--schritte takes numbers from 1 to 7 and pruefen", {"--schritte", "1,8"}},
+        {"--schritte takes numbers from 1 to 7, pruefen and ausgleichen", {"--schritte", "1,8"}},
         {"unexpected argument 4,", {"4,", "5"}},
         {"--saat takes a number", {"--saat", "x"}},
         {"--antwort takes ja or nein", {"--antwort", "vielleicht"}},

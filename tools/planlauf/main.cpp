@@ -6,6 +6,7 @@
 #include "controls/Bausteine.h"
 #include "core/Messenname.h"
 #include "core/Umwandlung.h"
+#include "fairness/Ausgleich.h"
 #include "overview/Planprüfung.h"
 #include "paper/DruckerQt.h"
 #include "platform/Laufwerke.h"
@@ -33,6 +34,8 @@ using namespace altardienst;
 
 /// Among the steps: checks the plan as it is then.
 constexpr int Prüfschritt = 0;
+/// Balances it.
+constexpr int Ausgleichsschritt = -1;
 
 /// What the command line asks for; an empty text or path asks for nothing.
 struct Auftrag {
@@ -40,6 +43,7 @@ struct Auftrag {
     QString Start;
     QString Tage;
     QList<int> Schritte;
+    std::uint32_t Saat = 1;
     QStringList Einträge;
     std::filesystem::path Text;
     QString Pdf;
@@ -70,7 +74,9 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption tage("tage", "days of the plan", "N");
     const QCommandLineOption saat("saat", "seed of the draw, in place of the clock's", "N");
     const QCommandLineOption schritte(
-        "schritte", "buttons to press, such as 1,4,5; pruefen checks the plan", "LISTE");
+        "schritte",
+        "buttons to press, such as 1,4,5; ausgleichen balances the plan, pruefen checks it",
+        "LISTE");
     const QCommandLineOption menü(
         "menue", "menu entries to choose after the steps, such as mnuHelfer,mnuGruppe", "LISTE");
     const QCommandLineOption text("text", "write the plan as text", "FILE");
@@ -106,10 +112,13 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
         const int schritt = nummer.toInt(&istZahl);
         if (nummer == "pruefen")
             auftrag.Schritte.append(Prüfschritt);
+        else if (nummer == "ausgleichen")
+            auftrag.Schritte.append(Ausgleichsschritt);
         else if (istZahl && schritt >= 1 && schritt <= 7)
             auftrag.Schritte.append(schritt);
         else
-            throw std::invalid_argument("--schritte takes numbers from 1 to 7 and pruefen");
+            throw std::invalid_argument(
+                "--schritte takes numbers from 1 to 7, pruefen and ausgleichen");
     }
     auftrag.Einträge = zeile.value(menü).split(',', Qt::SkipEmptyParts);
     auftrag.Text = Pfad(zeile.value(text));
@@ -122,7 +131,8 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
         Uhr.Heute = [tag = DatumVon(zeile, heute)] { return tag; };
     if (zeile.isSet(saat)) {
         bool istZahl = false;
-        Zufall = ZufallMitSaat(zeile.value(saat).toUInt(&istZahl));
+        auftrag.Saat = zeile.value(saat).toUInt(&istZahl);
+        Zufall = ZufallMitSaat(auftrag.Saat);
         if (!istZahl)
             throw std::invalid_argument("--saat takes a number");
     }
@@ -163,6 +173,16 @@ void BefundeNennen()
     std::printf("Befunde: %s\n", Befundzahl(prüfung.Verstöße(), prüfung.Hinweise()).c_str());
 }
 
+void PlanGerechtMachen(std::uint32_t saat)
+{
+    const Ausgleichsergebnis ergebnis = PlanAusgleichen(GemeinsameTabellen(), {.Saat = saat});
+    AusgleichÜbernehmen(ergebnis);
+    const Ausgleichszahlen &diener = ergebnis.Diener.Nachher;
+    std::printf("Verstöße: %d\n", diener.Verstöße + ergebnis.Helfer.Nachher.Verstöße);
+    std::printf("Dienste: %d..%d\n", diener.Wenigste, diener.Meiste);
+    std::printf("Ungleichheit: %.2f\n", diener.Ungleichheit);
+}
+
 class Lauf {
   public:
     explicit Lauf(Auftrag auftrag) : auftrag(std::move(auftrag)) { Drucker = &drucker; }
@@ -195,6 +215,10 @@ class Lauf {
         for (const int schritt : auftrag.Schritte) {
             if (schritt == Prüfschritt) {
                 BefundeNennen();
+                continue;
+            }
+            if (schritt == Ausgleichsschritt) {
+                PlanGerechtMachen(auftrag.Saat);
                 continue;
             }
             QPushButton *knopf = knöpfe.at(static_cast<std::size_t>(schritt - 1));
