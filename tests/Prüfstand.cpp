@@ -133,4 +133,27 @@ int HelferAnlegen(const Text &vorname, const Text &nachname, const Text &dienst1
     return h;
 }
 
+bool Kann(Fähigkeit fähigkeit)
+{
+    const fs::path ort = NeuesVerzeichnis();
+    std::ofstream(ort / "datei") << "x";
+    std::error_code fehler;
+    bool kann = false;
+    switch (fähigkeit) {
+    case Fähigkeit::Schreibungen:
+        kann = !fs::exists(ort / "DATEI");
+        break;
+    case Fähigkeit::Verweise:
+        fs::create_symlink("datei", ort / "verweis", fehler);
+        kann = !fehler;
+        break;
+    case Fähigkeit::Rechte:
+        fs::permissions(ort / "datei", fs::perms(0640), fehler);
+        kann = fs::status(ort / "datei").permissions() == fs::perms(0640);
+        break;
+    }
+    fs::remove_all(ort);
+    return kann;
+}
+
 } // namespace altardienst

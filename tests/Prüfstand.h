@@ -82,4 +82,17 @@ int MesseMitDienern(Datum datum, int dienerzahl, Datum uhrzeit = ZeitAus(10 * 36
 int HelferAnlegen(const Text &vorname, const Text &nachname, const Text &dienst1,
                   const Text &dienst2 = "");
 
+/// What a file system can do that not every one can; found out by trying.
+enum class Fähigkeit {
+    Schreibungen, // two spellings of a name beside each other, each found by its own
+    Verweise,     // links
+    Rechte,       // of the group and of others
+};
+bool Kann(Fähigkeit fähigkeit);
+
 } // namespace altardienst
+
+/// Ends a test that needs what this file system does not have.
+#define NUR_WO_ES_GIBT(fähigkeit)                                                                  \
+    if (!altardienst::Kann(altardienst::Fähigkeit::fähigkeit))                                     \
+    GTEST_SKIP() << "this file system has no " #fähigkeit

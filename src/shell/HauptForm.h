@@ -63,10 +63,10 @@ class HauptForm : public QMainWindow {
     void SchritteZeigen();
     void PlanAnzeigen(bool plan);
 
+    std::array<QPushButton *, 7> Schritte() const;
+
     QHBoxLayout *seiten; // the steps at the left, the picture or the plan at the right
     QAction *planEintrag = nullptr;
-
-    std::array<QPushButton *, 7> Schritte() const;
 };
 
 } // namespace altardienst

@@ -28,7 +28,7 @@ class SchleifenZählerTest : public Prüfstand {
     {
         AufFestplatteSpeichern();
         for (const auto &datei : std::filesystem::directory_iterator(Festplatte))
-            std::filesystem::copy(datei, Diskette);
+            std::filesystem::copy_file(datei.path(), Diskette / datei.path().filename());
     }
 
     static int Nach(void (*routine)())

@@ -819,6 +819,7 @@ TEST_F(NetzTest, ZurückgeholtIstJedesByteUndDasZurückholenLäßtSichZurückhol
 
 TEST_F(NetzTest, DieDateienBehaltenDieNamenDieSieHaben)
 {
+    NUR_WO_ES_GIBT(Schreibungen);
     Neustart();
     GemeindeSpeichern(2);
     fs::rename(Festplatte / "Helfer.dat", Festplatte / "HELFER.DAT");
@@ -832,6 +833,7 @@ TEST_F(NetzTest, DieDateienBehaltenDieNamenDieSieHaben)
 
 TEST_F(NetzTest, EinStandDemEineDateiFehltÄndertNichts)
 {
+    NUR_WO_ES_GIBT(Verweise);
     Neustart();
     GemeindeSpeichern(2);
     const Stand stand = AlleStände().front();

