@@ -2,32 +2,20 @@
 #include "history/Rückgängig.h"
 
 #include "core/SchleifenZähler.h"
-#include "history/Tabellenpaket.h"
+#include "history/Aufnahme.h"
 #include "history/Änderungsname.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <memory>
 #include <new>
 #include <optional>
 #include <set>
-#include <type_traits>
 #include <utility>
 #include <vector>
 
 namespace altardienst {
 namespace {
-
-/// All tables at one moment. Two of them share the parts in which nothing differs.
-struct Aufnahme {
-    std::array<std::shared_ptr<const std::string>, AlleTeile.size()> Teile;
-    Stellungen Wo;
-    Int16 Schleife;
-
-    auto &Paket(Teil teil) { return Teile[static_cast<std::size_t>(teil)]; }
-    const auto &Paket(Teil teil) const { return Teile[static_cast<std::size_t>(teil)]; }
-};
 
 struct Geschehenes {
     Text Name;
@@ -45,90 +33,6 @@ struct Mitschrift {
 };
 
 std::unique_ptr<Mitschrift> mitschrift; // null while no steps are kept
-
-Aufnahme Jetzt(const Aufnahme &zuvor)
-{
-    const Tabellenstand tabellen = DieTabellen();
-    Aufnahme jetzt = zuvor;
-    for (const Teil teil : AlleTeile) {
-        auto &paket = jetzt.Paket(teil);
-        if (!paket || !StehtIn(teil, *paket, tabellen))
-            paket = std::make_shared<const std::string>(Packen(teil, tabellen));
-    }
-    jetzt.Wo = StellungenJetzt();
-    jetzt.Schleife = SchleifenZähler;
-    return jetzt;
-}
-
-Text OhneLeerzeichen(const Text &text)
-{
-    return text.substr(0, text.find_last_not_of(' ') + 1);
-}
-
-/// The masses as they were, to be compared with those of now: what makes no difference is as now.
-std::shared_ptr<MesseTabelle> DamaligeMessen(const Aufnahme &damals)
-{
-    Tabellenstand stand;
-    stand.Messen = std::make_shared<MesseTabelle>();
-    Auspacken(Teil::Messen, *damals.Paket(Teil::Messen), stand);
-    Auspacken(Teil::Wochentage, *damals.Paket(Teil::Wochentage), stand);
-    MesseTabelle &messen = *stand.Messen;
-    for (int i = 0; i <= MesseTabelle::HöchsterIndex; ++i)
-        if (OhneLeerzeichen(messen.Wochentag[i]) == OhneLeerzeichen(Messe.Wochentag[i]))
-            messen.Wochentag[i] = Messe.Wochentag[i];
-    messen.DienerDienst = Messe.DienerDienst;
-    return stand.Messen;
-}
-
-bool Verschieden(const Aufnahme &damals, const Aufnahme &jetzt, Teil teil)
-{
-    return damals.Paket(teil) != jetzt.Paket(teil);
-}
-
-bool AndererWochentag(const Aufnahme &damals, const Aufnahme &jetzt)
-{
-    if (!Verschieden(damals, jetzt, Teil::Wochentage))
-        return false;
-    const auto messen = DamaligeMessen(damals);
-    for (int i = 0; i <= MesseTabelle::HöchsterIndex; ++i)
-        if (messen->Wochentag[i] != Messe.Wochentag[i])
-            return true;
-    return false;
-}
-
-/// By hand nobody changes what is worked out anyway.
-bool VonHandGeändert(const Aufnahme &damals, const Aufnahme &jetzt)
-{
-    return std::ranges::any_of(AlleTeile,
-                               [&](Teil teil) {
-                                   return teil != Teil::Wochentage && teil != Teil::Abgeleitetes &&
-                                          Verschieden(damals, jetzt, teil);
-                               }) ||
-           AndererWochentag(damals, jetzt);
-}
-
-/// The tables in which the two differ, as they were.
-Tabellenstand Damalige(const Aufnahme &damals, const Aufnahme &jetzt)
-{
-    Tabellenstand stand;
-    const auto auspacken = [&](Teil teil, auto &tabelle) {
-        using Tabelle = typename std::remove_reference_t<decltype(tabelle)>::element_type;
-        if (!Verschieden(damals, jetzt, teil))
-            return;
-        tabelle = std::make_shared<Tabelle>();
-        Auspacken(teil, *damals.Paket(teil), stand);
-    };
-    auspacken(Teil::Einstellungen, stand.Einstellungen);
-    auspacken(Teil::Standardmessen, stand.Standardmessen);
-    auspacken(Teil::Diener, stand.Diener);
-    auspacken(Teil::Gruppen, stand.Gruppen);
-    auspacken(Teil::Messehelfer, stand.Messehelfer);
-    auspacken(Teil::Etiketten, stand.Etiketten);
-    auspacken(Teil::FesteDiener, stand.FesteDiener);
-    if (Verschieden(damals, jetzt, Teil::Messen) || AndererWochentag(damals, jetzt))
-        stand.Messen = DamaligeMessen(damals);
-    return stand;
-}
 
 std::size_t Platz(const std::vector<Geschehenes> &schritte)
 {
@@ -312,7 +216,7 @@ std::size_t Schrittstelle()
 Text SchrittZurücknehmen()
 {
     TabellenBeobachten();
-    const Text name = LetzterSchritt();
+    Text name = LetzterSchritt();
     if (name.empty())
         return "";
     const Geschehenes &schritt = mitschrift->Schritte[--mitschrift->Stelle];
@@ -324,7 +228,7 @@ Text SchrittZurücknehmen()
 Text SchrittWiederholen()
 {
     TabellenBeobachten();
-    const Text name = NächsterSchritt();
+    Text name = NächsterSchritt();
     if (name.empty())
         return "";
     const Geschehenes &schritt = mitschrift->Schritte[mitschrift->Stelle++];

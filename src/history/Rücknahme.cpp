@@ -1,6 +1,7 @@
 // Undo and redo at the screen.
 #include "history/Rücknahme.h"
 
+#include "application/Anwendung.h"
 #include "application/Fangnetz.h"
 #include "application/Mitteilung.h"
 #include "application/Nebenfenster.h"
@@ -9,6 +10,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
@@ -32,19 +34,41 @@ bool IstEingabe(QEvent::Type art)
            art == QEvent::MouseButtonRelease || art == QEvent::Wheel || art == QEvent::Shortcut;
 }
 
-/// Typing has an undo of its own.
-bool HatEigenes(const QObject *empfänger, bool zurück)
+/// While a form blocks the main window, only what was done since is in sight.
+struct Blickfeld {
+    std::size_t Beginn = 0; // there were so many steps before
+    std::size_t Ende = 0;   // and so many at most since
+
+    void Folgen()
+    {
+        Ende = HauptfensterBereit() ? Schrittstelle() : std::max(Ende, Schrittstelle());
+        if (HauptfensterBereit())
+            Beginn = Ende;
+    }
+    bool Erlaubt(bool zurück) const
+    {
+        return HauptfensterBereit() || (zurück ? Schrittstelle() > Beginn : Schrittstelle() < Ende);
+    }
+};
+
+Blickfeld blickfeld;
+
+/// Returns the name of the step that was taken back or repeated; empty: there was none in sight.
+Text Gegangen(bool zurück)
 {
-    const auto *feld = qobject_cast<const QLineEdit *>(empfänger);
-    return feld && (zurück ? feld->isUndoAvailable() : feld->isRedoAvailable());
+    TabellenBeobachten();
+    blickfeld.Folgen();
+    Text name;
+    if (blickfeld.Erlaubt(zurück))
+        name = zurück ? SchrittZurücknehmen() : SchrittWiederholen();
+    blickfeld.Folgen();
+    return name;
 }
 
-/// A form that blocks the main window, and which steps are its own.
+/// A form that blocks the main window.
 struct Einzelform {
     QPointer<QWidget> Form;
     Schrittform Handler;
-    std::size_t Beginn = 0; // there were so many before
-    std::size_t Ende = 0;   // and so many at most since
 
     // What was on the screen when the record was shown, before anything was typed.
     QString Satz;
@@ -64,7 +88,6 @@ void Merken(Einzelform &eine)
 {
     eine.Satz = eine.Handler.Satz();
     eine.Stelle = Schrittstelle();
-    eine.Ende = std::max(eine.Ende, eine.Stelle);
     eine.Schirm = Gezeigt::Texte(eine.Form);
 }
 
@@ -80,12 +103,8 @@ void GehenIn(Einzelform &eine, bool zurück)
 {
     if (Gezeigt::Texte(eine.Form) != eine.Schirm)
         eine.Handler.Ablegen();
-    TabellenBeobachten();
-    eine.Ende = std::max(eine.Ende, Schrittstelle());
-    const bool eigener = zurück ? Schrittstelle() > eine.Beginn : Schrittstelle() < eine.Ende;
-    if (!eigener)
+    if (Gegangen(zurück).empty())
         return;
-    (zurück ? SchrittZurücknehmen : SchrittWiederholen)();
     eine.Handler.Erneuern();
     Merken(eine);
 }
@@ -113,12 +132,11 @@ class Mitschreiber : public QObject {
         SchritteBeenden();
     }
 
-    bool eventFilter(QObject *empfänger, QEvent *ereignis) override
+    bool eventFilter(QObject *, QEvent *ereignis) override
     {
         if (IstEingabe(ereignis->type()))
             Nebenbei([this] { Hinsehen(); })();
-        return ereignis->type() == QEvent::KeyPress &&
-               Taste(empfänger, *static_cast<QKeyEvent *>(ereignis));
+        return ereignis->type() == QEvent::KeyPress && Taste(*static_cast<QKeyEvent *>(ereignis));
     }
 
   private:
@@ -132,17 +150,41 @@ class Mitschreiber : public QObject {
             return;
         TabellenBeobachten();
         gesehen = ereignisse;
+        blickfeld.Folgen();
         if (Einzelform *eine = EinzelformIn(QApplication::activeWindow()))
             ObNeuGezeigt(*eine);
     }
 
-    bool Taste(const QObject *empfänger, const QKeyEvent &taste) const
+    static bool Taste(const QKeyEvent &taste)
     {
         const bool zurück = taste.keyCombination() == Zurück;
-        if ((!zurück && taste.keyCombination() != Vor) || HatEigenes(empfänger, zurück) ||
-            QApplication::activeModalWidget() || QApplication::activePopupWidget())
+        if ((!zurück && taste.keyCombination() != Vor) || QApplication::activeModalWidget() ||
+            QApplication::activePopupWidget())
             return false;
-        const QWidget *fenster = QApplication::activeWindow();
+        return ImFeld(FeldMitFokus(), zurück) || ImFenster(QApplication::activeWindow(), zurück);
+    }
+
+    static QLineEdit *FeldMitFokus()
+    {
+        QWidget *fokus = QApplication::focusWidget();
+        const auto *liste = qobject_cast<QComboBox *>(fokus);
+        return liste ? liste->lineEdit() : qobject_cast<QLineEdit *>(fokus);
+    }
+
+    /// Typing has an undo of its own, whose keys differ from desktop to desktop.
+    static bool ImFeld(QLineEdit *feld, bool zurück)
+    {
+        if (!feld || !(zurück ? feld->isUndoAvailable() : feld->isRedoAvailable()))
+            return false;
+        if (zurück)
+            feld->undo();
+        else
+            feld->redo();
+        return true;
+    }
+
+    static bool ImFenster(const QWidget *fenster, bool zurück)
+    {
         if (IstNebenfenster(fenster))
             (zurück ? RückgängigMachen : Wiederholen)();
         else if (Einzelform *eine = EinzelformIn(fenster))
@@ -159,11 +201,11 @@ class Mitschreiber : public QObject {
 
 Mitschreiber *Mitschreiber::jetziger = nullptr;
 
-void Gehen(Text (*schritt)(), const char *was)
+void Gehen(bool zurück)
 {
-    HauptfensterHandelt([=] {
-        if (const Text name = schritt(); !name.empty())
-            Mitteilen(was + name);
+    HauptfensterHandelt([zurück] {
+        if (const Text name = Gegangen(zurück); !name.empty())
+            Mitteilen((zurück ? "rückgängig gemacht: " : "wiederholt: ") + name);
     });
 }
 
@@ -177,22 +219,20 @@ void SchritteMitschreiben(QObject *eigner, const std::function<void()> &zeigen)
 void SchritteZurückIn(QWidget *form, const Schrittform &handler)
 {
     std::erase_if(einzelformen, [](const Einzelform &eine) { return !eine.Form; });
-    TabellenBeobachten();
     Einzelform eine;
     eine.Form = form;
     eine.Handler = {handler.Satz, handler.Ablegen, Abgefangen(handler.Erneuern)};
-    eine.Beginn = eine.Ende = Schrittstelle();
     einzelformen.push_back(std::move(eine));
 }
 
 void RückgängigMachen()
 {
-    Gehen(SchrittZurücknehmen, "rückgängig gemacht: ");
+    Gehen(true);
 }
 
 void Wiederholen()
 {
-    Gehen(SchrittWiederholen, "wiederholt: ");
+    Gehen(false);
 }
 
 } // namespace altardienst

@@ -14,7 +14,8 @@ namespace altardienst {
 /// whenever another step is the one to be taken back or repeated.
 ///
 /// Ctrl+Z and Ctrl+Y work in the forms that stand beside the main window as they do there, but a
-/// box that has something to take back itself comes first.
+/// box that has something to take back itself comes first. While a form blocks the main window,
+/// they take back only what was done since.
 void SchritteMitschreiben(QObject *eigner, const std::function<void()> &zeigen);
 
 /// A form that blocks the main window.

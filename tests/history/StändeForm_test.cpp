@@ -4,6 +4,7 @@
 #include "Formstand.h"
 #include "core/Allgemein.h"
 #include "history/Netz.h"
+#include "history/Rückgängig.h"
 
 #include <algorithm>
 
@@ -132,6 +133,25 @@ TEST_F(StändeFormTest, ZurückgeholtSchließtSieUndDasJetzigeIstEinStand)
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
 
+TEST_F(StändeFormTest, ZurückholenIstEinSchrittDenManZurücknimmt)
+{
+    SchritteBeginnen();
+    MeßdienerAnlegen("Max", "Dorn");
+    Öffnen();
+    Antworten = {true};
+    Klick("Zurückholen");
+    EXPECT_EQ(Meßdiener.Anzahl, 2);
+    const Standinhalt dateien = InhaltVon(Festplatte);
+    TabellenBeobachten();
+    EXPECT_TRUE(LetzterSchritt().starts_with("Stand vom 21.11.2026, 12:")) << LetzterSchritt();
+    EXPECT_TRUE(LetzterSchritt().ends_with(" zurückholen"));
+    SchrittZurücknehmen();
+    EXPECT_EQ(Meßdiener.Anzahl, 4);
+    EXPECT_EQ(LetzterSchritt(), "Meßdiener Dorn, Max anlegen");
+    EXPECT_TRUE(InhaltVon(Festplatte) == dateien);
+    SchritteBeenden();
+}
+
 TEST_F(StändeFormTest, EinUnvollständigerSagtEsInWortenUndBleibtLiegen)
 {
     const fs::path neuester = AlleStände().back().Ort;
@@ -150,6 +170,14 @@ TEST_F(StändeFormTest, EinUnvollständigerSagtEsInWortenUndBleibtLiegen)
     Klick("Zurückholen");
     EXPECT_EQ(Zeigt("Hinweis"),
               "Dieser Stand lässt sich nicht zurückholen: Helfer.dat lässt sich nicht lesen.");
+    fs::remove(neuester / "Helfer.dat");
+    fs::create_directory(neuester / "Helfer.dat");
+    Klick("Zurückholen");
+    EXPECT_TRUE(
+        Zeigt("Hinweis").starts_with("Dieser Stand lässt sich nicht zurückholen: Helfer.dat "))
+        << Zeigt("Hinweis");
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    EXPECT_TRUE(InhaltVon(Festplatte) == zuvor);
     EXPECT_TRUE(form->isVisible());
 }
 
@@ -239,7 +267,7 @@ TEST_F(StändeFormTest, BrichtEsAbSindDieDateienWieZuvorUndEsIstKeinAbbruch)
     };
     Antworten = {true};
     Klick("Zurückholen");
-    EXPECT_EQ(Zeigt("Hinweis"), "Dieser Stand läßt sich nicht zurückholen: Datenträger voll.");
+    EXPECT_EQ(Zeigt("Hinweis"), "Dieser Stand lässt sich nicht zurückholen: Datenträger voll.");
     EXPECT_TRUE(InhaltVon(Festplatte) == zuvor);
     EXPECT_FALSE(Netz().SpeichernAbgebrochen);
     EXPECT_EQ(zurückgeholt, 0);
@@ -259,7 +287,7 @@ TEST_F(StändeFormTest, LassenSieSichNichtZurücklegenSagtEsDasFenster)
     Antworten = {true};
     Klick("Zurückholen");
     EXPECT_EQ(Zeigt("Hinweis"),
-              "Dieser Stand läßt sich nicht zurückholen: Datenträger voll. Die acht Dateien können "
+              "Dieser Stand lässt sich nicht zurückholen: Datenträger voll. Die acht Dateien können "
               "aus zwei Speicherungen stammen; was das Programm jetzt weiß, ist aufgehoben.");
     EXPECT_TRUE(Netz().SpeichernAbgebrochen);
     const auto stände = AlleStände();

@@ -8,7 +8,8 @@
 //   laufwerk NAME TEXT   chooses an entry of a drop-down list
 //   öffne NAME TEXT      opens an entry of a list, as a double click does
 //   schließe FENSTER     closes a window
-// scheitere makes an event fail unexpectedly
+//   scheitere            makes an event fail unexpectedly
+//   sitzungsende         what the desktop does when its session ends
 //   bild FENSTER DATEI   saves a picture of a window
 //
 // The answer to a command that cannot be carried out begins with "Fehler".
@@ -19,6 +20,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QSessionManager>
 #include <QSocketNotifier>
 #include <QTimer>
 
@@ -112,6 +114,13 @@ QString Ausführen(const QString &zeile)
     }
     if (befehl == "scheitere") {
         QTimer::singleShot(0, qApp, [] { throw std::logic_error("probe"); });
+        return "ok";
+    }
+    if (befehl == "sitzungsende") {
+        auto *sitzung = qApp->findChild<QSessionManager *>();
+        if (!sitzung)
+            return "Fehler: keine Sitzung";
+        QTimer::singleShot(0, qApp, [sitzung] { Q_EMIT qApp->commitDataRequest(*sitzung); });
         return "ok";
     }
     QWidget *control = Control(name);

@@ -59,6 +59,22 @@ TEST_F(ProgrammnetzTest, EinSignalEndetWieBeenden)
         EXPECT_EQ(stand.Art, Standart::Gewöhnlich);
 }
 
+TEST_F(ProgrammnetzTest, DasEndeDerSitzungEndetWieBeenden)
+{
+    Programmlauf lauf(daten);
+    InsHauptfenster(lauf);
+    EXPECT_EQ(lauf.Befehl("klick Messenorgani"), "ok");
+    EXPECT_EQ(lauf.Warten("meldungen", "1"), "1");
+    EXPECT_EQ(lauf.Befehl("klick OK"), "ok");
+    EXPECT_EQ(lauf.Fenster("Haupt Messenliste"), "Haupt Messenliste");
+    EXPECT_EQ(lauf.Befehl("sitzungsende"), "ok");
+    EXPECT_EQ(lauf.Ende(), 0);
+    EXPECT_FALSE(InhaltVon(daten) == InhaltVon(BEISPIELDATEN)) << "the new plan is saved";
+    EXPECT_EQ(InhaltLesen(InhaltVon(daten)).Befund.Was, Ladebefund::Vollständig);
+    for (const Stand &stand : AlleStände())
+        EXPECT_EQ(stand.Art, Standart::Gewöhnlich);
+}
+
 TEST_F(ProgrammnetzTest, EinSignalVorDemHauptfensterSpeichertNichts)
 {
     Programmlauf lauf(daten);

@@ -2,6 +2,7 @@
 #include "settings/Kopierstand.h"
 
 #include "core/Allgemein.h"
+#include "history/Rückgängig.h"
 
 namespace altardienst {
 namespace {
@@ -63,6 +64,22 @@ TEST_F(DateikopieFormTest, AlleAchtWerdenKopiertUndGeladen)
     EXPECT_EQ(DateienIn(Festplatte).size(), 8U) << "they keep their stored names";
     EXPECT_TRUE(GezeigteMeldungen.empty());
     EXPECT_EQ(NachKopie, 0);
+}
+
+TEST_F(DateikopieFormTest, HolenIstEinSchrittDenManZurücknimmt)
+{
+    Konfig.Gemeinde = Gruppe.Bezeichnung[0] = "im Speicher";
+    SchritteBeginnen();
+    Öffnen();
+    NächstesLaufwerk();
+    Klick(form->OKButton);
+    EXPECT_TRUE(Warten([&] { return ZurückImHauptfenster(); }));
+    TabellenBeobachten();
+    EXPECT_EQ(Geladen(), (Liste{"neu", "neu"}));
+    EXPECT_EQ(SchrittZurücknehmen(), "Daten holen");
+    EXPECT_EQ(Geladen(), (Liste{"im Speicher", "im Speicher"}));
+    EXPECT_TRUE(Gleich("Gruppen.dat")) << "the files stay as they were fetched";
+    SchritteBeenden();
 }
 
 TEST_F(DateikopieFormTest, WasDemProgrammFehlteHeißtDanachWieInDerQuelle)

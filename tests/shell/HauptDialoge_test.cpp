@@ -50,7 +50,7 @@ class HauptDialogeTest : public Hauptstand {
     {
         std::vector<Weg> wege;
         Einträge(haupt->menuBar(), wege);
-        EXPECT_EQ(wege.size(), 46U);
+        EXPECT_EQ(wege.size(), 48U);
         for (QPushButton *knopf :
              {haupt->Messenorgani, haupt->Meßdienernern, haupt->Dienstus, haupt->MeßdienerMessen,
               haupt->Helfend, haupt->AnzMesse, haupt->Messendruck})

@@ -53,8 +53,8 @@ class HauptRückgängigTest : public MessenlisteImProgramm {
 
     static void Strg(QWidget *fenster, Qt::Key taste)
     {
-        QWidget *empfänger = fenster->focusWidget() ? fenster->focusWidget() : fenster;
-        QTest::keyClick(empfänger, taste, Qt::ControlModifier);
+        Zeigen(fenster);
+        QTest::keyClick(fenster->windowHandle(), taste, Qt::ControlModifier);
         Ruhe();
     }
     void FensterStrg(Qt::Key taste) const
@@ -451,6 +451,34 @@ TEST_F(HauptRückgängigTest, InDenAnderenEditorenKommtGelöschtesGenausoZurück
         editor->close();
         Ruhe();
     }
+}
+
+TEST_F(HauptRückgängigTest, SperrtDieListeDasHauptfensterGiltEsNurIhremTun)
+{
+    Wählen(NachNachname);
+    const Text sortiert = Tabellen();
+    Klick(haupt->AnzMesse);
+    form = Fenster("Messenliste");
+    Ruhe();
+    EXPECT_FALSE(haupt->isEnabled());
+    Strg(form, Qt::Key_Z);
+    EXPECT_TRUE(Tabellen() == sortiert);
+    Antworten.push_back(true);
+    Klick("Löscher");
+    Ruhe();
+    EXPECT_EQ(Messe.Anzahl, 4);
+    FokusAuf("Plus");
+    Strg(form, Qt::Key_Z);
+    EXPECT_TRUE(Tabellen() == sortiert);
+    ListeStimmt();
+    Strg(form, Qt::Key_Z);
+    EXPECT_TRUE(Tabellen() == sortiert);
+    Strg(form, Qt::Key_Y);
+    EXPECT_EQ(Messe.Anzahl, 4);
+    Strg(form, Qt::Key_Z);
+    ListeZurück();
+    Wählen("mnuRückgängig");
+    EXPECT_FALSE(Tabellen() == sortiert);
 }
 
 TEST_F(HauptRückgängigTest, InAnderenFensternGeltenDieTastenNicht)
