@@ -115,8 +115,8 @@ Text Partnersatz(const Plantabellen &t, const Befund &b, const Mensch &m)
         return "Nach dem letzten Platz ist für " + partner + ", den Wunschpartner von " + m.Name +
                ", kein Platz mehr.";
     if (b.Bezug != b.Wo)
-        return m.Name + " steht nicht neben dem Wunschpartner " + partner + ", der auf " +
-               Platzaufschrift(b.Bezug) + " steht.";
+        return m.Name + " steht nicht neben dem Wunschpartner " + partner + " (" +
+               Platzaufschrift(b.Bezug) + ").";
     return m.Name + " dient ohne den Wunschpartner " + partner + ".";
 }
 
@@ -167,7 +167,7 @@ Text SatzOderFehler(const Plantabellen &t, const Befund &b, const Mensch &m)
                              ? " ist unter den Meßdienern nicht zu finden."
                              : " ist unter den Helfern nicht zu finden.");
     case Regel::Mehrdeutig:
-        return "Mehrere heißen " + m.Name + "; wer hier steht, lässt sich nicht prüfen.";
+        return "Mehrere heißen " + m.Name + "; wer hier steht, läßt sich nicht prüfen.";
     case Regel::Doppelt:
         return m.Name + " steht in dieser Messe auch auf " + Platzaufschrift(b.Bezug) + ".";
     case Regel::SelberTag:
