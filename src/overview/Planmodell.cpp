@@ -16,8 +16,8 @@ namespace {
 constexpr int Wochentage = 7;
 constexpr int TagUndMonat = 6; // "28.11.": no plan is longer than half a year
 
-/// Weeks begin with the weekday on which plans do, so that a vigil stands with its Sunday. Day 0 is a
-/// Saturday, the seventh weekday.
+/// Weeks begin with the weekday on which plans do, so that a vigil stands with its Sunday. Day 0 is
+/// a Saturday, the seventh weekday.
 int WocheVon(Datum tag)
 {
     const int erster = std::clamp<int>(Konfig.StartWochentag, 1, Wochentage);
