@@ -50,7 +50,7 @@ Text FesterName(const Plantabellen &t, const Befund &b)
 /// "vom 01.12. bis 05.12.", with only one end "bis 05.12.".
 template <class Tabelle> Text Zeitraumsatz(const Tabelle &personen, int j, Datum tag)
 {
-    for (const Abwesenheitszeit &a : Abwesenheiten(personen, j))
+    for (const Fehlzeit &a : Abwesenheiten(personen, j))
         if (a.IstEingetragen() && LiegtIn(tag, a.Von, a.Bis))
             return (a.Von == 0 ? Text() : "vom " + TagImSatz(a.Von) + " ") + "bis " +
                    TagImSatz(a.Bis);

@@ -27,7 +27,7 @@ template <class Kenntnis, class Tabelle>
 void AbwesenheitenLesen(Kenntnis &kenntnis, const Tabelle &personen, int nr)
 {
     kenntnis.Abwesend = 0;
-    for (const Abwesenheitszeit &abwesenheit : Abwesenheiten(personen, nr))
+    for (const Fehlzeit &abwesenheit : Abwesenheiten(personen, nr))
         if (abwesenheit.IstEingetragen())
             kenntnis.Abwesenheiten[static_cast<std::size_t>(kenntnis.Abwesend++)] = abwesenheit;
 }
@@ -91,7 +91,7 @@ void Messenprüfung::HelferLesen()
 bool Messenprüfung::Kenntnis::IstAbwesend(Datum tag) const
 {
     for (int k = 0; k < Abwesend; ++k) {
-        const Abwesenheitszeit &a = Abwesenheiten[static_cast<std::size_t>(k)];
+        const Fehlzeit &a = Abwesenheiten[static_cast<std::size_t>(k)];
         if (LiegtIn(tag, a.Von, a.Bis))
             return tag != 0;
     }

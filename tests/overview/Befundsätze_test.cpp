@@ -59,7 +59,7 @@ class BefundsätzeTest : public Prüfungsstand {
     {
         Meßdiener.WunschVorname[2] = "Vor3";
         Meßdiener.WunschNachname[2] = "Nach3";
-        Meßdiener.Häufigkeit[2] = -9;
+        Meßdiener.Häufigkeit[2] = -3;
         int i = NächsteMesse(2);
         Einsetzen(i, 1, 2);
         Einsetzen(i, 2, 3);
