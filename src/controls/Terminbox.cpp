@@ -24,7 +24,7 @@ void Umschreiben(QLineEdit *feld, const Text &text)
 }
 
 constexpr int Zeichen = 16;       // the sign of a mark
-constexpr int Kalenderknopf = 30; // the button; the sign takes the room of a digit or two
+constexpr int Kalenderknopf = 36; // the button, beside which the sign just fits
 
 QLineEdit *Terminfeld(const char *name, Text (*prüfung)(const Text &), const char *längstes,
                       int daneben)
