@@ -5,6 +5,8 @@
 
 #include <QApplication>
 
+#include <utility>
+
 namespace altardienst {
 namespace {
 
@@ -75,6 +77,20 @@ TEST_F(NamenErgänzen, InDerMessenlisteBeideNamenDesMeßdieners)
         EXPECT_EQ(Zeigt(Finden(form, "nach" + zeile)), "Berg");
         QTest::qWait(250);
         EXPECT_FALSE(QApplication::activePopupWidget());
+        form->hide();
+    }
+}
+
+TEST_F(NamenErgänzen, DanachGehtDieTabtasteInsNächsteFeld)
+{
+    for (const auto &[feld, nächstes] : {std::pair{"vor3", "nach3"}, {"nach1", "vor2"}}) {
+        QWidget *form = Öffnen("Messenliste");
+        ErstenNehmen(Finden(form, feld), "ber");
+        ASSERT_TRUE(QApplication::focusWidget());
+        EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), feld);
+        QTest::keyClick(form->windowHandle(), Qt::Key_Tab);
+        ASSERT_TRUE(QApplication::focusWidget());
+        EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), nächstes);
         form->hide();
     }
 }
