@@ -1,6 +1,7 @@
 // Opening each window until it is on the screen, with full tables, against an ordinary window of
 // forty text boxes. No window may take more than one and a half times of what it took before lists,
-// marks, calendars and hints came into the windows.
+// marks, calendars and hints came into the windows; those without a former value no more than six
+// of the ordinary ones.
 #include "Bestand.h"
 #include "Messung.h"
 
@@ -8,8 +9,14 @@
 #include "anniversaries/JubiläumsanzeigeForm.h"
 #include "application/Anwendung.h"
 #include "core/tables.h"
+#include "history/StändeForm.h"
+#include "paper/Druckdialog.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
+#include "search/SuchenForm.h"
+#include "settings/KopierForm.h"
+#include "settings/SkalierungForm.h"
+#include "settings/ZusatzKonfigForm.h"
 #include "shell/HauptForm.h"
 #include "shell/StartForm.h"
 
@@ -31,7 +38,7 @@ struct Weg {
     const char *Fenster;
     const char *Eintrag;
     const char *Knopf; // null: the entry alone
-    double Zuvor;      // the ratio of the windows as they were
+    double Zuvor;      // the ratio of the windows as they were; 0: not known
 };
 
 HauptForm *haupt = nullptr;
@@ -121,13 +128,16 @@ void GewöhnlichesFenster()
     QCoreApplication::processEvents();
 }
 
+/// For windows that there were not, or that nobody measured.
+constexpr double OhneVorher = 6;
+
 void Anmelden(const char *fenster, const Arbeit &arbeit, double zuvor)
 {
     MessungAnmelden({.Name = fenster,
                      .Maßstabname = "Fenster mit vierzig Feldern",
                      .Gemessen = arbeit,
                      .Maßstab = {AlleSchließen, GewöhnlichesFenster},
-                     .Ziel = 1.5 * zuvor,
+                     .Ziel = zuvor > 0 ? 1.5 * zuvor : OhneVorher,
                      .Durchläufe = 15});
 }
 
@@ -160,6 +170,7 @@ constexpr Weg Wege[] = {
     {"StatHelfer", "mnuStatHDienst", nullptr, 0.698},
     {"Dialog", "mnuMessenlisteText", nullptr, 1.14},
     {"frmAbout", "mnuHelpAbout", nullptr, 2.25},
+    {"Handbuch", "mnuHandbuch", nullptr, 0},
 };
 
 } // namespace
@@ -183,6 +194,16 @@ void MessungenAnmelden()
     Anmelden("Haupt", Bauen<HauptForm>(), 2.16);
     for (const Weg &weg : Wege)
         Anmelden(weg.Fenster, Gehen(weg), weg.Zuvor);
+    // Not by the menu, which would save first.
+    Anmelden("Datensicherung", Bauen<DatensicherungForm>(), 0);
+    Anmelden("Dateikopie", Bauen<DateikopieForm>(), 0);
+    Anmelden("Stände", Bauen<StändeForm>(), 0);
+    const std::function<void(bool)> danach = [](bool) {};
+    Anmelden("DateienKopieren", Bauen<DateienKopierenForm>(danach), 0);
+    Anmelden("ZusatzKonfig", Bauen<ZusatzKonfigForm>(), 0);
+    Anmelden("Skalierung", Bauen<SkalierungForm>(), 0);
+    Anmelden("CommonDialog1", Bauen<DruckdialogForm>(Druckanfrage::Für("Helferliste")), 0);
+    Anmelden("Suchen", Bauen<SuchenForm>(nullptr), 0);
     Anmelden("Geburtstagsansicht", Bauen<GeburtstagsansichtForm>(), 0.387);
     Anmelden("Jubiläumsanzeige", Bauen<JubiläumsanzeigeForm>(), 0.381);
 }

@@ -11,7 +11,8 @@ mkdir -p "$arbeit/bilder" "$arbeit/pfarrbuero/"{Bilder,Dokumente,Sicherung}
 export HOME=$arbeit/pfarrbuero
 env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --saat 1 \
     --schritte 1,4,5,6,2 \
-    --menue mnuStandardmessen,mnuGruppe,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern,mnuDatenHolen,mnuHintergrund,mnuHelpAbout \
+    --menue mnuStandardmessen,mnuGruppe,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern,mnuDatenHolen,mnuHintergrund,mnuHelpAbout,mnuMessen/NeuMeß,mnuMessen/Lektoren,mnuMeßdiener/NeuDiener,mnuFilePrint/Messendruck,mnuStände \
+    --suche adler \
     --bilder "$arbeit/bilder" >/dev/null 2>&1
 
 # The last picture of a window is the one with the finished plan.
@@ -34,6 +35,12 @@ bild Datensicherung sichern
 bild Dateikopie holen
 bild Hintergrundsuche hintergrund
 bild frmAbout info
+bild NeuMesse neuemesse
+bild Lektorrenusw lektoren
+bild NeuMeßdiener neuermessdiener
+bild CommonDialog1 drucken
+bild Stände staende
+bild Suchen suchen
 
 # The plan in place of the picture.
 mkdir "$arbeit/plan"

@@ -1,13 +1,13 @@
 // The list of all records at the left of an editor, with a box that filters it.
 #include "application/Datensatzliste.h"
 
+#include "application/Datensatzzeilen.h"
 #include "application/Gemerktes.h"
 #include "controls/Bausteine.h"
 #include "controls/Handler.h"
 #include "core/Suchwörter.h"
 #include "core/Umwandlung.h"
 
-#include <QAbstractListModel>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -17,7 +17,6 @@
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 namespace altardienst {
 namespace {
@@ -39,73 +38,11 @@ int Mindestbreite(const QWidget *inhalt)
 
 } // namespace
 
-/// The rows that pass the filter. Their texts stay in the tables.
-class Datensatzzeilen : public QAbstractListModel {
-  public:
-    Datensatzzeilen(QObject *eigner, const Datensatzliste::Quelle &quelle)
-        : QAbstractListModel(eigner), quelle(quelle)
-    {
-    }
-
-    int rowCount(const QModelIndex &) const override { return static_cast<int>(sätze.size()); }
-
-    QVariant data(const QModelIndex &zeile, int rolle) const override
-    {
-        const int satz = Satz(zeile.row());
-        if (rolle == Qt::DisplayRole || rolle == Qt::ToolTipRole)
-            return Anzeige(quelle.Zeile(satz));
-        if (rolle == Qt::FontRole && satz == gezeigter) {
-            QFont fett;
-            fett.setBold(true);
-            return fett;
-        }
-        return {};
-    }
-
-    int Satz(int zeile) const { return sätze[static_cast<std::size_t>(zeile)]; }
-
-    /// The row of a record; invalid if the filter hides it.
-    QModelIndex ZeileVon(int satz) const
-    {
-        const auto stelle = std::ranges::lower_bound(sätze, satz);
-        if (stelle == sätze.end() || *stelle != satz)
-            return {};
-        return index(static_cast<int>(stelle - sätze.begin()));
-    }
-
-    /// The record that is shown is listed even past the last one: the slot for a new one.
-    void Erneuern(const std::vector<Text> &wörter, int jetztGezeigter)
-    {
-        gezeigter = jetztGezeigter;
-        int anzahl = std::max(quelle.Anzahl(), 0); // a file may claim anything
-        if (gezeigter == anzahl)
-            ++anzahl;
-        std::vector<int> neue;
-        neue.reserve(static_cast<std::size_t>(anzahl));
-        for (int satz = 0; satz < anzahl; ++satz)
-            if (wörter.empty() || EnthältAlle(quelle.Zeile(satz), wörter))
-                neue.push_back(satz);
-        if (neue == sätze) {
-            if (!sätze.empty())
-                Q_EMIT dataChanged(index(0), index(static_cast<int>(sätze.size()) - 1));
-            return;
-        }
-        beginResetModel();
-        sätze = std::move(neue);
-        endResetModel();
-    }
-
-  private:
-    const Datensatzliste::Quelle &quelle;
-    std::vector<int> sätze; // ascending
-    int gezeigter = -1;
-};
-
 Datensatzliste::Datensatzliste(Datensatzwahl *wahl, Quelle woraus)
     : Filter(Benannt(new QLineEdit, "Listenfilter")), Liste(Benannt(new QListView, "Liste")),
-      Griff(Benannt(new QToolButton, "Listengriff")), quelle(std::move(woraus)),
-      nummer(wahl->Nummer), zeilen(new Datensatzzeilen(this, quelle)), später(new QTimer(this)),
-      inhalt(new QWidget)
+      Griff(Benannt(new Klappgriff, "Listengriff")), quelle(std::move(woraus)),
+      nummer(wahl->Nummer), zeilen(new Datensatzzeilen(this, quelle.Anzahl, quelle.Zeile)),
+      später(new QTimer(this)), inhalt(new QWidget)
 {
     Benannt(this, "Datensatzliste");
     später->setSingleShot(true);
@@ -116,17 +53,12 @@ Datensatzliste::Datensatzliste(Datensatzwahl *wahl, Quelle woraus)
     Filter->installEventFilter(this);
     Liste->setAccessibleName(QString("Liste: %1").arg(quelle.Wer));
     Liste->setModel(zeilen);
+    Liste->setItemDelegate(new Zeilenzeichner(Liste));
     Liste->setUniformItemSizes(true);
     Liste->setEditTriggers(QAbstractItemView::NoEditTriggers);
     Liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    Liste->setTextElideMode(Qt::ElideRight);
     Liste->installEventFilter(this);
     Liste->viewport()->installEventFilter(this);
-    Griff->setAutoRaise(true);
-    Griff->setFocusPolicy(Qt::NoFocus); // a click on it is no reason to leave a box
-    Griff->setFixedWidth(12);
-    Griff->setIconSize({8, 8});
-    Griff->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
 
     auto *spalte = new QVBoxLayout(inhalt);
     spalte->setContentsMargins(Abstand, 0, 0, 0);
@@ -149,8 +81,12 @@ QVBoxLayout *Datensatzliste::Fensterspalte(QWidget *form, Luft luft)
 {
     fenster = form;
     rest = altardienst::Fensterspalte(form, luft, this);
+    QFont schrift = Liste->font();
+    schrift.setBold(true); // as the record shown
+    wunschbreite = QFontMetrics(schrift).horizontalAdvance(quelle.Muster) +
+                   style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 12 + Abstand;
     auf = Gemerktes().value(Schlüssel(), true).toBool();
-    breite = auf ? Wunschbreite() : 0;
+    breite = auf ? wunschbreite : 0;
     Umschalten();
     form->installEventFilter(this);
     connect(nummer, &QLineEdit::textChanged, this, Abgefangen([this] { Folgen(); }));
@@ -170,7 +106,8 @@ void Datensatzliste::Wählen(int satz)
 void Datensatzliste::Nachziehen()
 {
     if (!Liste->isVisible())
-        return; // it reads the tables when it is opened
+        return;     // it reads the tables when it is opened
+    später->stop(); // or all rows would be drawn twice
     const int gezeigter = Gezeigter();
     zeilen->Erneuern(Suchwörter(Filter->text().toStdString()), gezeigter);
     const QModelIndex zeile = zeilen->ZeileVon(gezeigter);
@@ -248,8 +185,8 @@ void Datensatzliste::Klappen(bool offen)
     Gemerktes().setValue(Schlüssel(), auf);
     if (!fenster->isMaximized()) {
         const int platz = fenster->screen()->availableSize().width() - Rahmen;
-        const int ziel = offen ? std::max(fenster->width(), Bedarf() + Wunschbreite())
-                               : fenster->width() - jetzt;
+        const int ziel =
+            offen ? std::max(fenster->width(), Bedarf() + wunschbreite) : fenster->width() - jetzt;
         if (ziel <= platz)
             fenster->resize(ziel, fenster->height());
     }
@@ -259,11 +196,10 @@ void Datensatzliste::Klappen(bool offen)
 /// The list takes what the rest of the window leaves it, so that nothing has to roll sideways.
 void Datensatzliste::Einpassen()
 {
-    const int wunsch = Wunschbreite();
-    const int mindestens = wunsch * 2 / 3;
-    int neu = auf ? wunsch : 0;
+    const int mindestens = wunschbreite * 2 / 3;
+    int neu = auf ? wunschbreite : 0;
     if (auf && fenster->isVisible()) {
-        neu = std::min(wunsch, fenster->width() - Bedarf());
+        neu = std::min(wunschbreite, fenster->width() - Bedarf());
         if (neu < mindestens)
             neu = trotzdem ? mindestens : 0;
     }
@@ -281,19 +217,11 @@ void Datensatzliste::Umschalten()
     if (!IstOffen() && fenster->focusWidget() && isAncestorOf(fenster->focusWidget()))
         (zuletzt ? zuletzt.data() : nummer)->setFocus();
     inhalt->setVisible(IstOffen());
-    // The arrow of a tool button would be painted as a picture as tall as the window.
-    Griff->setIcon(
-        style()->standardIcon(IstOffen() ? QStyle::SP_ArrowLeft : QStyle::SP_ArrowRight));
+    Griff->setArrowType(IstOffen() ? Qt::LeftArrow : Qt::RightArrow);
     const char *was = IstOffen() ? "Liste zuklappen" : "Liste aufklappen";
     Griff->setAccessibleName(was);
     Griff->setToolTip(QString("%1 (Strg+L)").arg(was));
     Nachziehen();
-}
-
-int Datensatzliste::Wunschbreite() const
-{
-    return Liste->fontMetrics().horizontalAdvance(quelle.Muster) +
-           style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 12 + Abstand;
 }
 
 /// The width of the window without the list in which all the rest is seen.
@@ -366,7 +294,7 @@ void Datensatzliste::showEvent(QShowEvent *ereignis)
     QWidget::showEvent(ereignis);
     rollbare = fenster->findChildren<QScrollArea *>();
     Einpassen();
-    Nachziehen();
+    Folgen(); // first comes what the window is opened for
 }
 
 bool GehörtZurListe(const QWidget *control)

@@ -71,7 +71,6 @@ class Datensatzliste : public QWidget {
     void Einpassen();
     void Umschalten();
     void Nachziehen();
-    int Wunschbreite() const;
     int Bedarf() const;
     int Gezeigter() const;
     QString Schlüssel() const;
@@ -87,6 +86,7 @@ class Datensatzliste : public QWidget {
     QPointer<QWidget> zuletzt; // had the focus before the list was called
     bool auf = true;           // as the user wants it
     bool trotzdem = false;     // opened where there is no room, until the next choice
+    int wunschbreite = 0;      // of the list, where there is the room
     int breite = 0;            // of the list; 0 while it is folded
 };
 

@@ -53,13 +53,13 @@ class Ereignisfilter : public QObject {
 /// Wants as much room as its content, unlike its base.
 class Rollfläche : public QScrollArea {
   public:
-    /// The parts side by side, if the content has such.
+    /// The parts side by side, if the content has such: the whole of it, or some of its rows.
     explicit Rollfläche(QHBoxLayout *teile) : teile(teile) {}
 
     QSize sizeHint() const override
     {
         constexpr QSize Rundung(4, 4); // some controls grow by a pixel or two when they are drawn
-        return (teile ? Nebeneinander(&QLayoutItem::sizeHint) : widget()->sizeHint()) + Rundung;
+        return (teile ? Ganz(&QLayoutItem::sizeHint) : widget()->sizeHint()) + Rundung;
     }
 
   protected:
@@ -83,15 +83,27 @@ class Rollfläche : public QScrollArea {
     {
         if (!teile)
             return;
-        const QSize nötig = Nebeneinander(&QLayoutItem::minimumSize);
         QSize platz = maximumViewportSize();
-        if (nötig.height() > platz.height())
+        if (Ganz(&QLayoutItem::minimumSize).height() > platz.height())
             platz.rwidth() -= style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-        teile->setDirection(nötig.width() <= platz.width() ? QBoxLayout::LeftToRight
-                                                           : QBoxLayout::TopToBottom);
+        const int nötig = Nebeneinander(&QLayoutItem::minimumSize).width();
+        teile->setDirection(nötig <= platz.width() ? QBoxLayout::LeftToRight
+                                                   : QBoxLayout::TopToBottom);
     }
 
-    /// The room that all parts take side by side, however they stand.
+    /// The room that the content takes with its parts side by side, however they stand.
+    QSize Ganz(QSize (QLayoutItem::*maß)() const) const
+    {
+        const QSize nebeneinander = Nebeneinander(maß);
+        const QLayout *inhalt = widget()->layout();
+        if (inhalt == teile)
+            return nebeneinander;
+        const QSize jetzt = (inhalt->*maß)();
+        return {std::max(jetzt.width(), nebeneinander.width()),
+                jetzt.height() - (teile->*maß)().height() + nebeneinander.height()};
+    }
+
+    /// The room of the parts alone.
     QSize Nebeneinander(QSize (QLayoutItem::*maß)() const) const
     {
         QSize größe(0, 0);
@@ -309,7 +321,8 @@ QWidget *Rollbar(QLayout *inhalt)
     fläche->setLayout(inhalt);
     for (auto *wahl : fläche->findChildren<QComboBox *>())
         RadSperren(wahl);
-    auto *rollbar = new Rollfläche(qobject_cast<QHBoxLayout *>(inhalt));
+    auto *teile = qobject_cast<QHBoxLayout *>(inhalt);
+    auto *rollbar = new Rollfläche(teile ? teile : inhalt->findChild<QHBoxLayout *>("Teile"));
     rollbar->setWidgetResizable(true);
     rollbar->setFrameShape(QFrame::NoFrame);
     rollbar->setFocusPolicy(Qt::NoFocus);

@@ -93,6 +93,10 @@ constexpr Hinweis Tafel[] = {
      "die Nummer der gezeigten Zuordnung, von 0 an; eine getippte "
      "Nummer springt dorthin, ohne zu übernehmen"},
     {"MesseDienerFest NeuMesseDienerFest", "Messen", "die Messe, zu der die Zuordnung gehört"},
+    {"MesseDienerFest NeuMesseDienerFest", "DatumD", "folgt aus der gewählten Messe"},
+    {"MesseDienerFest NeuMesseDienerFest", "Zeitd", "folgt aus der gewählten Messe"},
+    {"MesseDienerFest NeuMesseDienerFest", "MDV#", "folgt aus der Liste daneben"},
+    {"MesseDienerFest NeuMesseDienerFest", "MDN#", "folgt aus der Liste daneben"},
     {"MesseDienerFest NeuMesseDienerFest", "MDiener#",
      "ein Messdiener oder eine ganze Gruppe aus der Liste, oder leer"},
     // settings

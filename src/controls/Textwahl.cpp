@@ -103,6 +103,13 @@ class Radsperre : public QObject {
     }
 };
 
+/// A name too long for its box is seen from its beginning, unless it is just being typed.
+void VonVornZeigen(QComboBox *wahl)
+{
+    if (wahl->window()->focusWidget() != wahl)
+        wahl->lineEdit()->setCursorPosition(0);
+}
+
 /// Does what picking the entry from the list does.
 void Auswählen(QComboBox *wahl, int zeile)
 {
@@ -146,6 +153,7 @@ void ListeSetzen(QComboBox *wahl, const QStringList &liste)
     wahl->addItems(liste);
     wahl->setCurrentIndex(-1);
     wahl->setEditText(text);
+    VonVornZeigen(wahl);
 }
 
 void ListeTeilen(const std::vector<QComboBox *> &wahlen, const QStringList &liste)
@@ -157,6 +165,7 @@ void ListeTeilen(const std::vector<QComboBox *> &wahlen, const QStringList &list
         wahl->setModel(modell);
         wahl->setCurrentIndex(-1);
         wahl->setEditText(text);
+        VonVornZeigen(wahl);
     }
 }
 
@@ -168,6 +177,7 @@ Text TextVon(const QComboBox *wahl)
 void Setzen(QComboBox *wahl, const Text &text)
 {
     wahl->setEditText(Anzeige(text));
+    VonVornZeigen(wahl);
 }
 
 void BeiAuswahl(QComboBox *wahl, std::function<void()> handler)

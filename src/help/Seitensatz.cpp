@@ -61,6 +61,18 @@ std::vector<Textstück> Textstücke(const QTextDocument &dokument)
     return alle;
 }
 
+/// While it lives, the changes count as one, after which the document is laid out once.
+class EineÄnderung {
+  public:
+    explicit EineÄnderung(QTextDocument &dokument) : stelle(&dokument) { stelle.beginEditBlock(); }
+    ~EineÄnderung() { stelle.endEditBlock(); }
+    EineÄnderung(const EineÄnderung &) = delete;
+    EineÄnderung &operator=(const EineÄnderung &) = delete;
+
+  private:
+    QTextCursor stelle;
+};
+
 void Formatieren(QTextDocument &dokument, const Textstück &stück, const QTextCharFormat &format)
 {
     QTextCursor stelle(&dokument);
@@ -171,7 +183,11 @@ void SeiteSetzen(QTextDocument &dokument, const QString &markdown, const QPalett
     dokument.setUndoRedoEnabled(false);
     dokument.setDocumentMargin(Seitenrand);
     dokument.setIndentWidth(zeile * 1.5); // of lists
-    dokument.setMarkdown(markdown);
+    {
+        const EineÄnderung eine(dokument);
+        dokument.setMarkdown(markdown);
+    }
+    const EineÄnderung eine(dokument);
     for (QTextBlock block = dokument.begin(); block.isValid(); block = block.next())
         BlockSetzen(block, zeile);
     for (const Textstück &stück : Textstücke(dokument)) {
@@ -201,6 +217,7 @@ void BreiteEinrichten(QTextDocument &dokument, int breite, qreal dichte,
     const double zeile = std::clamp(breite - 2.0 * Seitenrand, 1.0, buchstabe * BuchstabenJeZeile);
     QTextFrameFormat seite = dokument.rootFrame()->frameFormat();
     seite.setRightMargin(std::max<double>(Seitenrand, breite - Seitenrand - zeile));
+    const EineÄnderung eine(dokument);
     dokument.rootFrame()->setFrameFormat(seite);
 
     for (const Textstück &stück : Textstücke(dokument)) {

@@ -146,7 +146,7 @@ void LektorrenuswForm::Anordnen()
         raster->addWidget(platz.Vor, zeile, 5);
         raster->addWidget(platz.Nach, zeile, 6);
     }
-    raster->setColumnStretch(4, 1);
+    raster->setColumnStretch(4, 2); // both names
     raster->setColumnStretch(5, 1);
     raster->setColumnStretch(6, 1);
     raster->setRowStretch(raster->rowCount(), 1);

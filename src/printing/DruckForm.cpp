@@ -23,6 +23,17 @@
 namespace altardienst {
 namespace {
 
+constexpr QMargins Rahmenrand(8, 4, 8, 6);
+
+/// The column within a frame, so tight that all commands fit the smallest screen.
+QVBoxLayout *Rahmenspalte(QGroupBox *rahmen)
+{
+    auto *spalte = new QVBoxLayout(rahmen);
+    spalte->setContentsMargins(Rahmenrand);
+    spalte->setSpacing(3);
+    return spalte;
+}
+
 /// A day and its weekday.
 void TagZeigen(QLineEdit *feld, QLabel *wochentag, Datum datum)
 {
@@ -50,11 +61,11 @@ DruckForm::DruckForm()
       Änderung2(new SpinButton("Änderung2", "Dauer um einen Tag ändern")),
       Minus2(Minusknopf("Minus2", "Dauer einen Tag kürzer")),
       Plus2(Plusknopf("Plus2", "Dauer einen Tag länger")), DauerTag(Beschriftung("DauerTag", "")),
-      Etikettenrahmen(new Etikettenwahl("Druck von Adressetiketten")),
+      EtikGross(Knopf("EtikGross", "Druck der Etikettengröße")),
+      Etikettenrahmen(new Etikettenwahl("Druck von Adressetiketten", EtikGross)),
       Alles(Benannt(new QRadioButton("Alle"), "Alles")),
       GRP(Benannt(new QRadioButton("Meßdienergruppe"), "GRP")),
-      Messhelfer(Benannt(new QRadioButton("Meßhelfer"), "Messhelfer")),
-      EtikGross(Knopf("EtikGross", "Druck der Etikettengröße")), Ende(Knopf("Ende", "Ende"))
+      Messhelfer(Benannt(new QRadioButton("Meßhelfer"), "Messhelfer")), Ende(Knopf("Ende", "Ende"))
 {
     Benannt(this, "Druck");
     setWindowTitle("Druck");
@@ -66,18 +77,19 @@ DruckForm::DruckForm()
 
 void DruckForm::Anordnen()
 {
-    auto *links = new QVBoxLayout;
-    links->setSpacing(12);
-    links->addWidget(Listen());
-    links->addWidget(Erfassung());
-    links->addStretch();
     auto *oben = new QHBoxLayout;
-    oben->setSpacing(14);
-    oben->addLayout(links);
-    oben->addWidget(Adressetiketten(), 1);
+    oben->setObjectName("Teile"); // one below the other where there is no room
+    oben->setSpacing(10);
+    oben->addWidget(Listen(), 1);
+    oben->addWidget(Erfassung(), 1);
+    auto *inhalt = new QVBoxLayout;
+    inhalt->setSpacing(8);
+    inhalt->addLayout(oben);
+    inhalt->addWidget(Adressetiketten());
+    inhalt->addStretch();
 
-    auto *spalte = Fensterspalte(this, Luft::Mittel);
-    spalte->addWidget(Rollbar(oben), 1);
+    auto *spalte = Fensterspalte(this, Luft::Wenig);
+    spalte->addWidget(Rollbar(inhalt), 1);
     spalte->addLayout(Knopfreihe({Ende}));
     Messendruck->setFocus();
 }
@@ -85,7 +97,7 @@ void DruckForm::Anordnen()
 QWidget *DruckForm::Listen()
 {
     auto *rahmen = Benannt(new QGroupBox("Plan und Listen"), "Listen");
-    auto *spalte = new QVBoxLayout(rahmen);
+    auto *spalte = Rahmenspalte(rahmen);
     for (QPushButton *knopf : {Messendruck, Standarddruck, Meßdienerdruck, DruckiMeßdieneri})
         spalte->addWidget(knopf);
     auto *gruppe = new QHBoxLayout;
@@ -94,6 +106,7 @@ QWidget *DruckForm::Listen()
     spalte->addLayout(gruppe);
     for (QPushButton *knopf : {Wunschpartner, DruckHelfer})
         spalte->addWidget(knopf);
+    spalte->addStretch();
     return rahmen;
 }
 
@@ -101,6 +114,8 @@ QWidget *DruckForm::Erfassung()
 {
     auto *rahmen = Benannt(new QGroupBox("Erfassungsbögen"), "Erfassung");
     auto *raster = new QGridLayout(rahmen);
+    raster->setContentsMargins(Rahmenrand);
+    raster->setRowStretch(6, 1);
     raster->addWidget(Erfassungsbogen, 0, 0, 1, 2);
     raster->addWidget(Erfaßung, 1, 0, 1, 2);
     int zeile = 2;
@@ -131,11 +146,9 @@ QWidget *DruckForm::Adressetiketten()
     }
     leute->addStretch();
     GRP->setToolTip("die Gruppe, die unter \"Plan und Listen\" gewählt ist");
-    auto *spalte = new QVBoxLayout(rahmen);
+    auto *spalte = Rahmenspalte(rahmen);
     spalte->addLayout(leute);
     spalte->addWidget(Etikettenrahmen);
-    spalte->addWidget(EtikGross, 0, Qt::AlignLeft);
-    spalte->addStretch();
     return rahmen;
 }
 

@@ -33,11 +33,11 @@ class DruckForm : public Dialogfenster {
     QPushButton *Minus2;
     QPushButton *Plus2;
     QLabel *DauerTag;
+    QPushButton *EtikGross;
     Etikettenwahl *Etikettenrahmen; // EtiGröß with O1 to O10, Etik with Reih, Spal, Etiketten
     QRadioButton *Alles;
     QRadioButton *GRP;
     QRadioButton *Messhelfer;
-    QPushButton *EtikGross;
     QPushButton *Ende;
 
   private:

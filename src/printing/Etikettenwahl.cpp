@@ -26,7 +26,7 @@ int Stelle(const QLineEdit *feld)
 
 } // namespace
 
-Etikettenwahl::Etikettenwahl(const char *knopfBeschriftung)
+Etikettenwahl::Etikettenwahl(const char *knopfBeschriftung, QWidget *darunter)
     : EtiGröß(Benannt(new QGroupBox("Etikettengröße"), "EtiGröß")),
       Etik(Benannt(new QGroupBox("Erstes zu bedruckende Etikett in"), "Etik")),
       Reih(Zahleneingabe("Reih", KeinMaß)), ÄReih(new SpinButton("ÄReih", "Reihe ändern")),
@@ -35,23 +35,23 @@ Etikettenwahl::Etikettenwahl(const char *knopfBeschriftung)
 {
     for (std::size_t n = 0; n < O.size(); ++n)
         O[n] = Benannt(new QRadioButton, ("O" + std::to_string(n + 1)).c_str());
-    Anordnen();
+    Anordnen(darunter);
     Verbinden();
 }
 
-void Etikettenwahl::Anordnen()
+void Etikettenwahl::Anordnen(QWidget *darunter)
 {
     auto *formate = new QGridLayout(EtiGröß);
     for (int n = 0; n < static_cast<int>(O.size()); ++n)
         formate->addWidget(O[static_cast<std::size_t>(n)], n % 5, n / 5);
 
     for (QLineEdit *feld : {Reih, Spal})
-        feld->setFixedWidth(48);
+        feld->setFixedWidth(darunter ? 40 : 48);
     auto *platz = new QHBoxLayout;
     platz->addWidget(Beschriftung("ReihText", "Reihe :", Reih));
     platz->addWidget(Reih);
     platz->addWidget(ÄReih);
-    platz->addSpacing(12);
+    platz->addSpacing(darunter ? 4 : 12);
     platz->addWidget(Beschriftung("SpalText", "Spalte :", Spal));
     platz->addWidget(Spal);
     platz->addWidget(ÄSpal);
@@ -60,10 +60,19 @@ void Etikettenwahl::Anordnen()
     etik->addLayout(platz);
     etik->addWidget(Etiketten, 0, Qt::AlignLeft);
 
-    auto *spalte = new QVBoxLayout(this);
-    spalte->setContentsMargins(0, 0, 0, 0);
-    spalte->addWidget(EtiGröß);
-    spalte->addWidget(Etik);
+    auto *ganz = new QBoxLayout(darunter ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, this);
+    ganz->setContentsMargins(0, 0, 0, 0);
+    ganz->addWidget(EtiGröß);
+    if (!darunter)
+        return ganz->addWidget(Etik);
+    formate->setVerticalSpacing(2);
+    for (QLayout *tafel : {static_cast<QLayout *>(formate), static_cast<QLayout *>(etik)})
+        tafel->setContentsMargins(6, 4, 6, 6);
+    auto *rechts = new QVBoxLayout;
+    rechts->addWidget(Etik);
+    rechts->addWidget(darunter, 0, Qt::AlignLeft);
+    rechts->addStretch();
+    ganz->addLayout(rechts, 1);
 }
 
 void Etikettenwahl::Verbinden()

@@ -19,8 +19,9 @@ namespace altardienst {
 /// as typed.
 class Etikettenwahl : public QWidget {
   public:
-    /// The caption of the button that prints differs from form to form.
-    explicit Etikettenwahl(const char *knopfBeschriftung);
+    /// The caption of the button that prints differs from form to form. The formats stand above the
+    /// first label, or, with a control that goes below that, at its left.
+    explicit Etikettenwahl(const char *knopfBeschriftung, QWidget *darunter = nullptr);
 
     QGroupBox *EtiGröß;
     std::array<QRadioButton *, 10> O; // O1 to O10
@@ -39,7 +40,7 @@ class Etikettenwahl : public QWidget {
     void Drucken(const Etikettenleute &leute);
 
   private:
-    void Anordnen();
+    void Anordnen(QWidget *darunter);
     void Verbinden();
     void AufDenBogenHolen();
     Etikettenplatz Platz() const;

@@ -33,6 +33,16 @@ void TextVerbinden(QLineEdit *feld, Text &wert)
                      Abgefangen([feld, &wert] { wert = TextVon(feld); }));
 }
 
+/// What belongs together, under a heading.
+QLayout *Abschnitt(const char *titel, QLayout *inhalt)
+{
+    auto *spalte = new QVBoxLayout;
+    spalte->setSpacing(4);
+    spalte->addWidget(Benannt(Überschrift(titel), "Abschnitt"));
+    spalte->addLayout(inhalt);
+    return spalte;
+}
+
 QGroupBox *Rahmen(const char *titel, QLayout *inhalt)
 {
     auto *rahmen = new QGroupBox(QString::fromUtf8(titel));
@@ -81,23 +91,23 @@ KonfigurationForm::KonfigurationForm()
 void KonfigurationForm::Anordnen()
 {
     auto *links = new QVBoxLayout;
-    links->addLayout(Gemeinde());
-    links->addLayout(Zeitraum.Anordnen());
-    links->addLayout(Zuweisung());
+    links->addLayout(Abschnitt("Anschrift", Gemeinde()));
+    links->addLayout(Abschnitt("Zeitraum", Zeitraum.Anordnen()));
+    links->addLayout(Abschnitt("Verlosung", Zuweisung()));
     links->addStretch();
     auto *rechts = new QVBoxLayout;
-    rechts->addLayout(Schrift());
+    rechts->addLayout(Abschnitt("Schrift und Ränder", Schrift()));
     rechts->addWidget(Ausrichtung());
     rechts->addStretch();
     for (QVBoxLayout *spalte : {links, rechts})
-        spalte->setSpacing(12);
+        spalte->setSpacing(8);
     auto *oben = new QHBoxLayout;
     oben->setSpacing(20);
     oben->addLayout(links, 1);
     oben->addLayout(rechts);
 
     auto *inhalt = new QVBoxLayout;
-    inhalt->setSpacing(10);
+    inhalt->setSpacing(8);
     inhalt->addLayout(oben);
     inhalt->addLayout(Flags());
     inhalt->addStretch();

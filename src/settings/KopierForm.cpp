@@ -98,7 +98,8 @@ void KopierForm::Anordnen()
     links->addWidget(Wahl.Laufwerk);
     links->addWidget(Wahl.Verzeichnis);
     if (VZ) {
-        VZ->setStyleSheet("QLineEdit { background-color: #ffffff; }"
+        // Light on a dark screen, too, and its text dark.
+        VZ->setStyleSheet("QLineEdit { background-color: #ffffff; color: #000000; }"
                           "QLineEdit:focus { background-color: #00ff00; }");
         links->addWidget(VZ);
         links->addWidget(Verzeichnis);

@@ -49,6 +49,7 @@ StatistikForm::StatistikForm()
 QLayout *StatistikForm::Alterstafel()
 {
     auto *tafel = new Zahlentafel({"Alter (Jahre)", "Anzahl absolut", "Anzahl relativ"});
+    tafel->ZweizeiligerKopf();
     for (std::size_t k = 0; k < a.size(); ++k) {
         const Text jahre = std::to_string(k + 9);
         const bool inDerMitte = k > 0 && k + 1 < a.size();
@@ -62,6 +63,7 @@ QLayout *StatistikForm::Alterstafel()
 QLayout *StatistikForm::Zugehörigkeitstafel()
 {
     auto *tafel = new Zahlentafel({"Zugehörigkeit (Jahre)", "Anzahl absolut", "Anzahl relativ"});
+    tafel->ZweizeiligerKopf();
     for (std::size_t k = 0; k < d.size(); ++k) {
         const Text jahre = std::to_string(k);
         const bool letzte = k + 1 == d.size();
@@ -77,6 +79,7 @@ QLayout *StatistikForm::Zusammensetzungstafel()
         "männlich",  "weiblich",  "Gaben- bereitung", "Leuchter",
         "Flammbeau", "Weihrauch", "Kreuzträger",      "Meßdiener insgesamt"};
     auto *tafel = new Zahlentafel({"Meßdiener", "absolut", "relativ"});
+    tafel->ZweizeiligerKopf();
     for (std::size_t k = 0; k < e.size(); ++k) {
         QLabel *was = Beschriftung("", Zeilen[k]);
         was->setWordWrap(true);

@@ -48,6 +48,12 @@ void Zahlentafel::Zeile(const char *was, std::initializer_list<QLabel *> zahlen)
     Zeile(Beschriftung("", was), zahlen);
 }
 
+void Zahlentafel::ZweizeiligerKopf()
+{
+    const QWidget *kopf = itemAtPosition(0, 0)->widget();
+    setRowMinimumHeight(0, 2 * kopf->fontMetrics().lineSpacing());
+}
+
 QLayout *Satz(std::initializer_list<QWidget *> teile)
 {
     auto *reihe = new QHBoxLayout;

@@ -45,6 +45,9 @@ class Zahlentafel : public QGridLayout {
     /// A null pointer among the figures leaves its place empty.
     void Zeile(QLabel *was, std::initializer_list<QLabel *> zahlen);
     void Zeile(const char *was, std::initializer_list<QLabel *> zahlen);
+
+    /// Room for headings of two lines, so that the rows of tables side by side are level.
+    void ZweizeiligerKopf();
 };
 
 /// Text and figures side by side, such as "Durchschnitt", a figure, "Jahre".

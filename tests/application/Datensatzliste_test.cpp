@@ -5,6 +5,11 @@
 #include "application/Gemerktes.h"
 #include "controls/Handler.h"
 
+#include <QImage>
+
+#include <algorithm>
+#include <utility>
+
 namespace altardienst {
 namespace {
 
@@ -223,6 +228,74 @@ TEST_F(DatensatzlisteTest, ZugeklapptBleibtEsBisZumNächstenMal)
     delete form;
     Öffnen();
     EXPECT_TRUE(Finden("Liste")->isVisible());
+}
+
+/// Where the ink of a picture lies, from the left to the right.
+std::pair<int, int> Tinte(const QImage &bild)
+{
+    int links = bild.width();
+    int rechts = -1;
+    for (int y = 0; y < bild.height(); ++y)
+        for (int x = 0; x < bild.width(); ++x)
+            if (bild.pixelColor(x, y).lightness() < 160) {
+                links = std::min(links, x);
+                rechts = std::max(rechts, x);
+            }
+    return {links, rechts};
+}
+
+TEST_F(DatensatzlisteTest, EineZuLangeZeileEndetVorDemRandEineKurzeWieSieIst)
+{
+    Öffnen();
+    form->Namen[0] = "Mustermann-Musterfrau, Maximiliana Eleonore Friederike";
+    form->Namen[1] = "Ode, Jo";
+    form->Liste->Folgen();
+    QCoreApplication::processEvents();
+    QListView *liste = form->Liste->Liste;
+    liste->selectionModel()->clear();
+    const auto zeile = [&](int nummer) {
+        return Tinte(
+            liste->viewport()->grab(liste->visualRect(liste->model()->index(nummer, 0))).toImage());
+    };
+    const int breite = liste->viewport()->width();
+    EXPECT_GT(zeile(0).second, breite - 16); // "…", in the last bit of room
+    EXPECT_LT(zeile(0).second, breite - 1);
+    const int schrift = liste->fontMetrics().horizontalAdvance("Ode, Jo");
+    EXPECT_NEAR(zeile(1).second - zeile(1).first, schrift, 4);
+}
+
+TEST_F(DatensatzlisteTest, DerGezeigteSatzStehtFettUndDerGewählteInDenFarbenDerWahl)
+{
+    Öffnen();
+    QCoreApplication::processEvents();
+    QListView *liste = form->Liste->Liste;
+    const QRect ort = liste->visualRect(liste->model()->index(2, 0));
+    const QImage gewählt = liste->viewport()->grab(ort).toImage();
+    EXPECT_EQ(gewählt.pixelColor(gewählt.width() - 3, gewählt.height() / 2),
+              liste->palette().color(QPalette::Highlight));
+    liste->selectionModel()->clear();
+    const auto [links, rechts] = Tinte(liste->viewport()->grab(ort).toImage());
+    EXPECT_GT(rechts - links, liste->fontMetrics().horizontalAdvance(Anzeige(form->Namen[2])));
+}
+
+TEST_F(DatensatzlisteTest, DerPfeilAmGriffZeigtWohinErKlappt)
+{
+    Öffnen();
+    const auto spitze = [this] { // the column with the least ink
+        QToolButton *griff = form->Liste->Griff;
+        const QImage bild = griff->grab().toImage();
+        const auto [links, rechts] = Tinte(bild);
+        const auto höhe = [&](int x) {
+            int anzahl = 0;
+            for (int y = 0; y < bild.height(); ++y)
+                anzahl += bild.pixelColor(x, y).lightness() < 160;
+            return anzahl;
+        };
+        return höhe(links) < höhe(rechts) ? "links" : "rechts";
+    };
+    EXPECT_EQ(Text(spitze()), "links");
+    Klick(form->Liste->Griff);
+    EXPECT_EQ(Text(spitze()), "rechts");
 }
 
 TEST_F(DatensatzlisteTest, DerGriffNimmtKeinemFeldDenFokus)

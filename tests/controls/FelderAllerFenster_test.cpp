@@ -270,6 +270,80 @@ TEST_F(FelderAllerFenster, WasSeinWortAlleinNichtSagtHatEinenHinweis)
     EXPECT_EQ(HinweisFür("Meßdiener", "Start12x"), "");
 }
 
+/// Boxes and options whose label says all there is to say, by their windows. Whoever adds a control
+/// gives it a hint, or lists it here.
+const std::map<Text, std::set<Text>> &SprechenFürSich()
+{
+    static const std::map<Text, std::set<Text>> nachFenster = [] {
+        const std::set<Text> person = {"Vornamen", "Nachnamen", "Straßen", "Postleit",
+                                       "Gemeinde", "Teflon",    "Emeil",   "Gebutag"};
+        const std::set<Text> helfer = {"Vorne",  "Hinten", "Weg",    "PLZetus",
+                                       "Wohort", "Anruf",  "Mailen", "Tagen"};
+        const std::set<Text> messe = {"tagelang",   "datendaten", "Uhrwerk",
+                                      "Messewesen", "Dienster1",  "Dienster2",
+                                      "Dienster3",  "Dienster4",  "Dienster5"};
+        const auto mit = [](std::set<Text> namen, const std::set<Text> &weitere) {
+            namen.insert(weitere.begin(), weitere.end());
+            return namen;
+        };
+        const auto reihe = [](const Text &stamm, int anzahl) {
+            std::set<Text> namen;
+            for (int n = 1; n <= anzahl; ++n)
+                namen.insert(stamm + std::to_string(n));
+            return namen;
+        };
+        std::map<Text, std::set<Text>> f;
+        f["Meßdiener"] = mit(person, reihe("Check", 5));
+        f["NeuMeßdiener"] = person;
+        f["Helfer"] = f["NeuerHelfer"] = helfer;
+        f["Gruppe"] = f["NeuGruppe"] = {"GBezeichnung"};
+        f["Standardmessen"] = {"Tage",    "Zeitig", "DienstA", "DienstB", "DienstC", "DienstD",
+                               "Dienste", "Leck",   "Komu",    "Kanto",   "Kolle"};
+        f["Messenliste"] = mit(mit(messe, reihe("vor", 3)), reihe("nach", 3));
+        f["NeuMesse"] = mit(messe, {"Lecki", "Kommi", "Kanto", "Kolt"});
+        f["Lektorrenusw"] = {"Lecki1Vor", "Lecki1nach", "Lecki2Vor", "Lecki2Nach",
+                             "Komm1Vor",  "Komm1Nach",  "Kommt2Vor", "Kommt2Nach",
+                             "Kant1Vor",  "Kant1Nach",  "Kant2Vor",  "Kant2Nach",
+                             "Ko1Vor",    "Ko1Nach",    "Ko2Vor",    "Ko2Nach"};
+        f["Konfiguration"] = {"Bezeichnung", "Straß", "Schriftartig"};
+        f["Etiketten"] = {"N"};
+        f["Druck"] = mit({"Alles", "Gruppend", "Messhelfer"}, reihe("O", 10));
+        f["JubiGebu"] = mit(
+            {"Alle",    "Messdien", "Meßhelfer", "Geburtstage", "Jubiläum", "Januar", "Februar",
+             "März",    "April",    "Mai",       "Juni",        "Juli",     "August", "September",
+             "Oktober", "November", "Dezember",  "NullE",       "Einse",    "Zweie",  "Dreie",
+             "Viere",   "fünfE",    "Sechse",    "Siebene",     "Achte",    "Neune",  "Zehene",
+             "Elfe",    "Zwölfe",   "Dreizehne", "Vierzehne",   "Fünfzehne"},
+            reihe("O", 10));
+        f["Datensicherung"] = {"Drive1", "VZ"};
+        f["Dateikopie"] = f["DateienKopieren"] = {"Drive1"};
+        return f;
+    }();
+    return nachFenster;
+}
+
+TEST_F(FelderAllerFenster, WasKeinenHinweisHatSprichtFürSich)
+{
+    for (const Text &name : AlleFenster::Namen()) {
+        const QWidget *form = Öffnen(name);
+        std::set<Text> ohne;
+        for (const QWidget *control : form->findChildren<QWidget *>()) {
+            const bool einTeil = qobject_cast<QComboBox *>(control->parentWidget());
+            const bool nimmtEingaben = qobject_cast<const QLineEdit *>(control) ||
+                                       qobject_cast<const QComboBox *>(control) ||
+                                       qobject_cast<const QCheckBox *>(control) ||
+                                       qobject_cast<const QRadioButton *>(control);
+            if (nimmtEingaben && !einTeil && control->isVisibleTo(form) &&
+                !GehörtZurListe(control) && EigenerHinweis(control).isEmpty())
+                ohne.insert(control->objectName().toStdString());
+        }
+        const auto sprechende = SprechenFürSich().find(name);
+        EXPECT_EQ(ohne,
+                  sprechende == SprechenFürSich().end() ? std::set<Text>{} : sprechende->second)
+            << name;
+    }
+}
+
 TEST_F(FelderAllerFenster, DieHinweiseStehenSoImHandbuch)
 {
     Text handbuch; // all pages, whatever breaks their lines

@@ -2,6 +2,7 @@
 #include "controls/Kalender.h"
 
 #include "Fensterstand.h"
+#include "controls/Feldmarke.h"
 #include "controls/Handler.h"
 #include "controls/Terminbox.h"
 
@@ -36,6 +37,13 @@ class KalenderTest : public Fensterstand {
         if (!offen || offen->objectName() != "Kalender")
             throw std::runtime_error("no calendar opened");
         return Finden<QCalendarWidget>(offen, "Tage");
+    }
+
+    /// Where the cursor is, once the box has scrolled to it, which it does when it is drawn.
+    QRect Stelle() const
+    {
+        feld->grab();
+        return feld->inputMethodQuery(Qt::ImCursorRectangle).toRect();
     }
 
     static void KalenderTaste(Qt::Key taste)
@@ -75,6 +83,18 @@ TEST_F(KalenderTest, WoKeinTagStehtBeginntErBeiHeute)
     }
     Einsetzen(feld, "29.12.1899");
     EXPECT_EQ(Öffnen()->selectedDate(), QDate(1899, 12, 29));
+}
+
+TEST_F(KalenderTest, AuchMarkiertStehtDasDatumGanzDa)
+{
+    Einsetzen(feld, "31.13.2026");
+    ASSERT_TRUE(IstMarkiert(feld));
+    feld->setCursorPosition(0);
+    const int anfang = Stelle().x();
+    feld->setCursorPosition(static_cast<int>(feld->text().size()));
+    EXPECT_EQ(Stelle().x() - anfang, feld->fontMetrics().horizontalAdvance(feld->text()));
+    const auto *knopf = feld->findChild<QToolButton *>(QString(), Qt::FindDirectChildrenOnly);
+    EXPECT_LE(Stelle().center().x(), knopf->x());
 }
 
 TEST_F(KalenderTest, DerKnopfImFeldÖffnetIhn)

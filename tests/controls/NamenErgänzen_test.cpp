@@ -5,6 +5,8 @@
 
 #include <QApplication>
 
+#include <utility>
+
 namespace altardienst {
 namespace {
 
@@ -87,6 +89,20 @@ TEST_F(NamenErgänzen, WerKeinenNamenHatWirdNichtVorgeschlagen)
     ErstenNehmen(Finden(form, "vor1"), ","); // which every proposal has
     EXPECT_EQ(Zeigt(Finden(form, "vor1")), "Bea");
     EXPECT_EQ(Zeigt(Finden(form, "nach1")), "Berg");
+}
+
+TEST_F(NamenErgänzen, DanachGehtDieTabtasteInsNächsteFeld)
+{
+    for (const auto &[feld, nächstes] : {std::pair{"vor3", "nach3"}, {"nach1", "vor2"}}) {
+        QWidget *form = Öffnen("Messenliste");
+        ErstenNehmen(Finden(form, feld), "ber");
+        ASSERT_TRUE(QApplication::focusWidget());
+        EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), feld);
+        QTest::keyClick(form->windowHandle(), Qt::Key_Tab);
+        ASSERT_TRUE(QApplication::focusWidget());
+        EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), nächstes);
+        form->hide();
+    }
 }
 
 TEST_F(NamenErgänzen, DieMessenlisteKenntDieNamenVonJetzt)

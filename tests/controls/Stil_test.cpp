@@ -3,7 +3,11 @@
 
 #include "Fensterstand.h"
 
+#include <QListView>
+#include <QMessageBox>
 #include <QVBoxLayout>
+
+#include <cstdlib>
 
 namespace altardienst {
 namespace {
@@ -78,6 +82,32 @@ TEST_F(StilTest, UmDieSchriftBleibtPlatz)
 {
     const QSize schrift = knopf->fontMetrics().size(Qt::TextShowMnemonic, knopf->text());
     EXPECT_EQ(knopf->sizeHint(), schrift + QSize(26, 10));
+}
+
+TEST_F(StilTest, DerRahmenEinerListeMitFokusIstAuchAufDunklemGrundZuSehen)
+{
+    auto *liste = new QListView;
+    fenster.layout()->addWidget(liste);
+    liste->show();
+    const auto abstand = [&](const QColor &grund) {
+        QPalette farben;
+        farben.setColor(QPalette::Window, grund);
+        farben.setColor(QPalette::Base, grund);
+        liste->setPalette(farben);
+        FokusAuf(liste);
+        const QColor rahmen = liste->grab().toImage().pixelColor(0, liste->height() / 2);
+        return std::abs(qGray(rahmen.rgb()) - qGray(grund.rgb()));
+    };
+    EXPECT_GT(abstand(Qt::white), 100);
+    EXPECT_GT(abstand(QColor(0x28, 0x28, 0x28)), 80);
+}
+
+TEST_F(StilTest, DieKnöpfeEinerMeldungTragenKeineBilder)
+{
+    QMessageBox meldung(QMessageBox::Question, "Frage", "Wirklich?",
+                        QMessageBox::Yes | QMessageBox::No);
+    for (const QAbstractButton *antwort : meldung.buttons())
+        EXPECT_TRUE(antwort->icon().isNull()) << Zeigt(antwort);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // The helpers of a mass: counts, places, and what leaving writes.
 #include "application/Nebenfenster.h"
 #include "core/Messenname.h"
+#include "core/Namen.h"
 #include "planning/Lektorenstand.h"
 #include "planning/MessenlisteForm.h"
 
@@ -254,6 +255,19 @@ TEST_F(LektorrenuswFormTest, PasstAufDenKleinstenBildschirm)
     Öffnen();
     EXPECT_LE(form->minimumSizeHint().width(), KleinsterBildschirm.width());
     EXPECT_LE(form->minimumSizeHint().height(), KleinsterBildschirm.height());
+}
+
+TEST_F(LektorrenuswFormTest, EinLangerNameIstVonVornZuSehen)
+{
+    const Text lang = "Bärenfänger-Großmann-Wiesenthal,Heinrich Maximilian";
+    NameTeilen(lang, (Messe.*Helferplätze[0].Nach)[2], (Messe.*Helferplätze[0].Vor)[2]);
+    Öffnen();
+    const QLineEdit *feld = LH(0)->lineEdit();
+    EXPECT_EQ(Zeigt(LH(0)), lang);
+    EXPECT_EQ(feld->cursorPosition(), 0);
+    EXPECT_GT(LH(0)->width(), Finden("Lecki1nach")->width()); // it holds two names
+    Tippen(LH(0), "Zoll");                                    // while it is typed, its end
+    EXPECT_EQ(feld->cursorPosition(), 4);
 }
 
 TEST_F(LektorrenuswFormTest, KommtAusDerMessenlisteUndKehrtDorthinZurück)

@@ -3,6 +3,11 @@
 
 #include "core/Allgemein.h"
 
+#include <QApplication>
+#include <QImage>
+#include <QPalette>
+#include <QScopeGuard>
+
 namespace altardienst {
 namespace {
 
@@ -55,6 +60,29 @@ TEST_F(DatensicherungFormTest, AlleAchtEntstehenInKleinbuchstabenUndDasHauptfens
     for (const auto &[name, klein] : AchtNamen)
         EXPECT_EQ(DateiLesen(Diskette / PfadAus(klein)), "neu " + Text(name));
     EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+TEST_F(DatensicherungFormTest, DasVerzeichnisIstAuchAufEinemDunklenBildschirmZuLesen)
+{
+    const QPalette hell = QApplication::palette();
+    QPalette dunkel = hell;
+    dunkel.setColor(QPalette::Text, Qt::white);
+    dunkel.setColor(QPalette::Base, Qt::black);
+    QApplication::setPalette(dunkel);
+    const auto zurück = qScopeGuard([&] { QApplication::setPalette(hell); });
+    Öffnen();
+    for (const bool mitFokus : {true, false}) {
+        Tippen(form->VZ, "Sicherung");
+        if (!mitFokus)
+            FokusAuf(form->Einzel);
+        const QImage bild = form->VZ->grab(form->VZ->rect().adjusted(5, 5, -5, -5)).toImage();
+        int dunkle = 0;
+        for (int y = 0; y < bild.height(); ++y)
+            for (int x = 0; x < bild.width(); ++x)
+                dunkle += bild.pixelColor(x, y).lightness() < 60;
+        EXPECT_GT(dunkle, 40) << mitFokus;
+        EXPECT_LT(dunkle, bild.width() * bild.height() / 2) << mitFokus;
+    }
 }
 
 TEST_F(DatensicherungFormTest, SichernLädtNichts)

@@ -71,9 +71,7 @@ TEST_F(JedesFensterPlatz, NichtsRolltSeitwärts)
 /// that, and roll with it.
 TEST_F(JedesFensterPlatz, JederKnopfIstZuSehen)
 {
-    InJederGröße([](const Text &name, const QWidget *fenster) {
-        if (name == "Druck")
-            return; // a wall of them, which rolls
+    InJederGröße([](const Text &, const QWidget *fenster) {
         for (const QPushButton *knopf : fenster->findChildren<QPushButton *>()) {
             const bool nebenFeld = knopf->text().size() == 1 && LiegtInRollbarem(knopf);
             if (!knopf->isVisibleTo(fenster) || nebenFeld)

@@ -170,6 +170,26 @@ TEST_F(StatistikFormTest, DrucktSichOhneKnöpfe)
         EXPECT_TRUE(Finden(knopf)->isVisible()) << knopf;
 }
 
+TEST_F(StatistikFormTest, DieTafelnStehenAufEinerHöheUndKeinKopfIstAbgeschnitten)
+{
+    Gemeinde();
+    Öffnen<StatistikForm>();
+    for (const QSize &größe : {form->sizeHint(), KleinsterBildschirm, form->minimumSizeHint()}) {
+        SCOPED_TRACE(größe.width());
+        form->resize(größe);
+        QCoreApplication::processEvents();
+        const auto oben = [this](const char *name) {
+            return Finden(name)->mapTo(form, QPoint()).y();
+        };
+        EXPECT_EQ(oben("a9"), oben("d0"));
+        EXPECT_EQ(oben("a9"), oben("e0"));
+        for (const QLabel *label : form->findChildren<QLabel *>())
+            EXPECT_TRUE(!label->wordWrap() ||
+                        label->height() >= label->heightForWidth(label->width()))
+                << label->text().toStdString();
+    }
+}
+
 TEST_F(StatistikFormTest, Ordnung)
 {
     Gemeinde();
