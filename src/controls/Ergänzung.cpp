@@ -8,9 +8,12 @@
 #include <QAbstractProxyModel>
 #include <QComboBox>
 #include <QCompleter>
+#include <QFontMetrics>
 #include <QListView>
+#include <QStyle>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace altardienst {
@@ -61,7 +64,7 @@ class Ergänzung : public QObject {
         ergänzer->setCompletionPrefix(text);
         if (ergänzer->completionCount() == 0 || StehtSchonDa(text))
             return Schließen();
-        ergänzer->complete();
+        ergänzer->complete({0, 0, Breite(), Träger(feld)->height()});
         ergänzer->popup()->setCurrentIndex({}); // so that Enter chooses nothing unasked
     }
 
@@ -80,6 +83,22 @@ class Ergänzung : public QObject {
         ergänzer->setPopup(liste);
         connect(ergänzer, qOverload<const QModelIndex &>(&QCompleter::activated), this,
                 Abgefangen([this](const QModelIndex &index) { Wählen(index); }));
+    }
+
+    /// That of the box, or more where its proposals are longer.
+    int Breite() const
+    {
+        const auto *liste = static_cast<const QListView *>(ergänzer->popup());
+        const QStyle *stil = liste->style();
+        constexpr int Ränder = 12;
+        const QAbstractItemModel *zeilen = ergänzer->completionModel();
+        const QFontMetrics maß = liste->fontMetrics();
+        int breite = Träger(feld)->width();
+        for (int zeile = 0; zeile < zeilen->rowCount(); ++zeile)
+            breite =
+                std::max(breite, maß.horizontalAdvance(zeilen->index(zeile, 0).data().toString()) +
+                                     stil->pixelMetric(QStyle::PM_ScrollBarExtent) + Ränder);
+        return breite;
     }
 
     bool StehtSchonDa(const QString &text) const

@@ -20,6 +20,7 @@
 #include <QPixmap>
 #include <QPointer>
 #include <QScreen>
+#include <QTextCharFormat>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -81,6 +82,17 @@ QDate TagIn(const QLineEdit *feld)
     return {tag.Jahr, tag.Monat, tag.Tag};
 }
 
+/// The red that the platform gives to the weekend does not hold on a dark ground.
+void WochenendeFärben(QCalendarWidget &kalender)
+{
+    if (kalender.palette().color(QPalette::Base).lightness() >= 128)
+        return;
+    QTextCharFormat frei;
+    frei.setForeground(QColor(0xff, 0x8a, 0x80));
+    for (const Qt::DayOfWeek tag : {Qt::Saturday, Qt::Sunday})
+        kalender.setWeekdayTextFormat(tag, frei);
+}
+
 class Kalenderfenster : public QFrame {
   public:
     explicit Kalenderfenster(QLineEdit *feld) : QFrame(feld, Qt::Popup), feld(feld)
@@ -96,6 +108,7 @@ class Kalenderfenster : public QFrame {
         kalender->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31)); // those of a `Datum`
         kalender->setDateEditEnabled(false);                           // digits belong into the box
         kalender->setSelectedDate(TagIn(feld));
+        WochenendeFärben(*kalender);
         connect(kalender, &QCalendarWidget::clicked, this,
                 Abgefangen([this](QDate tag) { Wählen(tag); }));
         connect(kalender, &QCalendarWidget::activated, this,

@@ -209,5 +209,18 @@ TEST_F(ErgänzungTest, EineGeteilteListeGiltAuchHier)
     EXPECT_EQ(Vorgeschlagen(), std::vector<Text>{"Abel,Zoran"});
 }
 
+TEST_F(ErgänzungTest, EinLangerVorschlagStehtGanzDaAuchWoDasFeldSchmalIst)
+{
+    const QString lang = "Bergmann-Großmann,Maximiliana Eleonore";
+    ListeSetzen(wahl, {lang});
+    fenster.resize(fenster.minimumSizeHint());
+    wahl->setFixedWidth(80);
+    QCoreApplication::processEvents();
+    Tippe("max");
+    ASSERT_TRUE(Warten([&] { return OffeneErgänzung(wahl->lineEdit()) != nullptr; }));
+    const QWidget *liste = OffeneErgänzung(wahl->lineEdit());
+    EXPECT_GE(liste->width(), liste->fontMetrics().horizontalAdvance(lang));
+}
+
 } // namespace
 } // namespace altardienst

@@ -8,6 +8,8 @@
 
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QScopeGuard>
+#include <QTextCharFormat>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -66,6 +68,22 @@ TEST_F(KalenderTest, ZeigtDenTagDesFeldesAufDeutschUndBeginntMitMontag)
     EXPECT_EQ(kalender->firstDayOfWeek(), Qt::Monday);
     EXPECT_EQ(kalender->locale().monthName(3), "März");
     EXPECT_EQ(kalender->accessibleName(), "Kalender");
+}
+
+TEST_F(KalenderTest, DasWochenendeIstAuchAufDunklemGrundZuLesen)
+{
+    const auto sonntag = [this] {
+        const QCalendarWidget *kalender = Öffnen();
+        return kalender->weekdayTextFormat(Qt::Sunday).foreground().color();
+    };
+    EXPECT_EQ(sonntag(), QColor(Qt::red));
+    KalenderTaste(Qt::Key_Escape);
+    const QPalette hell = QApplication::palette();
+    QPalette dunkel = hell;
+    dunkel.setColor(QPalette::Base, QColor(0x24, 0x24, 0x24));
+    QApplication::setPalette(dunkel);
+    const auto zurück = qScopeGuard([&] { QApplication::setPalette(hell); });
+    EXPECT_GT(qGray(sonntag().rgb()), 0x24 + 100);
 }
 
 TEST_F(KalenderTest, OhneLesbaresDatumBeginntErHeute)
