@@ -244,6 +244,7 @@ void HinterlassenesOrdnen()
 {
     ResteEntfernen();
     AusweichständeHolen();
+    ZukünftigeUmbenennen();
     Gelingt(MarkenAufheben);
 }
 
@@ -350,8 +351,11 @@ void NetzEinholen()
 
 void ArbeitBeginnt()
 {
-    if (netz)
-        NotwehrBereitstellen();
+    if (!netz)
+        return;
+    if (!Allein()) // the directory may not have been there at the start
+        alleinlauf = std::make_unique<Alleinlauf>(Laufwerke.Programmverzeichnis());
+    NotwehrBereitstellen();
 }
 
 void VorWechselSichern()

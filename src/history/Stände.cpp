@@ -230,6 +230,23 @@ void AbbrücheErledigen()
     Umbenennen(Standart::VorAbbruch, Standart::Gewöhnlich);
 }
 
+void ZukünftigeUmbenennen()
+{
+    constexpr int Wenige = 10;
+    const std::vector<Stand> stände = AlleStände();
+    const Datum morgen = Uhr.Heute() + 1; // a clock of another country is no wrong one
+    const auto erster =
+        std::ranges::find_if(stände, [&](const Stand &stand) { return stand.Zeit.Tag > morgen; });
+    if (erster == stände.begin() || stände.end() - erster >= Wenige)
+        return;
+    Standzeit zeit = NächsteZeit({stände.begin(), erster});
+    for (auto stand = erster; stand != stände.end(); ++stand, ++zeit.Nummer)
+        Versuchen([&] {
+            const Text name = Standname(zeit, stand->Art);
+            Laufwerke.Umbenennen(stand->Ort, stand->Ort.parent_path() / PfadAus(name));
+        });
+}
+
 void AusweichständeHolen()
 {
     for (const Stand &stand : AlleStände())

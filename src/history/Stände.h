@@ -74,6 +74,11 @@ void AlsNeuestenStand(const std::filesystem::path &verzeichnis, Standart art);
 void NotfälleErledigen();
 void AbbrücheErledigen();
 
+/// A few states of days to come were named by a clock that was wrong then: they become those of
+/// today, in their order. If most are of days to come, it is today's clock that is wrong, and
+/// nothing happens. Never fails.
+void ZukünftigeUmbenennen();
+
 /// Emergencies that had to give way come to the other states, if these have room now. Never fails.
 void AusweichständeHolen();
 

@@ -286,6 +286,13 @@ void Umbenennen(const fs::path &woher, const fs::path &wohin)
             throw Laufzeitfehler(Laufzeitfehler::DateiVorhanden);
     }
     fs::rename(von, nach, fehler);
+#ifdef _WIN32
+    constexpr int Versuche = 10; // a virus scanner holds for a moment what was just written
+    for (int versuch = 0; fehler && versuch < Versuche; ++versuch) {
+        Sleep(50);
+        fs::rename(von, nach, fehler);
+    }
+#endif
     if (fehler)
         Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
 }

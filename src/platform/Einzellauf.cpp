@@ -6,6 +6,8 @@
 #include <process.h>
 #include <windows.h>
 #else
+#include <cerrno>
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -55,7 +57,9 @@ int Prozessnummer()
 Alleinlauf::Alleinlauf(const fs::path &verzeichnis)
     : griff(open(verzeichnis.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
 {
-    if (griff >= 0 && flock(static_cast<int>(griff), LOCK_EX | LOCK_NB) != 0) {
+    // A medium that knows no claims leaves it to the user not to open the program twice.
+    if (griff >= 0 && flock(static_cast<int>(griff), LOCK_EX | LOCK_NB) != 0 &&
+        errno == EWOULDBLOCK) {
         close(static_cast<int>(griff));
         griff = -1;
     }

@@ -71,13 +71,13 @@ class NetzTest : public Netzstand {
             stände, [&](const Stand &stand) { return InhaltVon(stand.Ort) == inhalt; });
     }
 
-    /// While it stands, the masses' file cannot be read, wherever it is.
+    /// While it stands, the groups' file cannot be read, wherever it is.
     class Unlesbar {
       public:
         Unlesbar() : lesen(Laufwerke.Lesen)
         {
             Laufwerke.Lesen = [this](const fs::path &pfad) {
-                if (pfad.filename() == "Messen.dat")
+                if (pfad.filename() == "Gruppen.dat")
                     throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
                 return lesen(pfad);
             };
@@ -471,6 +471,27 @@ TEST_F(NetzTest, EineUhrInDerZukunftKostetKeinenStand)
     EXPECT_EQ(AlleStände().size(), zahl + 4);
 }
 
+TEST_F(NetzTest, WasEineFalscheUhrBenannteWirdVonHeute)
+{
+    for (int ausgabe = 2; ausgabe < 5; ++ausgabe, Heute += ausgabe == 3 ? 5000 : 0) {
+        GemeindeSpeichern(ausgabe);
+        Neustart();
+    }
+    Heute -= 5000;
+    GemeindeSpeichern(5);
+    Neustart();
+    const auto stände = AlleStände();
+    ASSERT_EQ(stände.size(), 4U);
+    for (int i = 0; i < 4; ++i) {
+        const Stand &stand = stände[static_cast<std::size_t>(i)];
+        EXPECT_EQ(stand.Zeit.Tag, Heute) << i;
+        EXPECT_TRUE(InhaltVon(stand.Ort) == InhaltDerGemeinde(i + 2)) << i;
+    }
+    Heute -= 5000; // now it is this clock that is wrong
+    Neustart();
+    EXPECT_EQ(AlleStände().front().Zeit.Tag, Heute + 5000);
+}
+
 // Two runs at the same time.
 
 TEST_F(NetzTest, EinZweiterLaufLäßtLiegenWasDerErsteGeradeTut)
@@ -507,14 +528,13 @@ TEST_F(NetzTest, IstDerErsteNichtMehrDaSindSeineResteWelche)
 TEST_F(NetzTest, WasSichNichtLesenLäßtWirdNichtÜberschrieben)
 {
     NetzSpannen();
-    GemeindeSpeichern(2);
-    const std::string messen = DateiLesen(Festplatte / "Messen.dat");
-    Neustart();
+    GemeindeSpeichern(2); // is in no state yet
+    const std::string gruppen = DateiLesen(Festplatte / "Gruppen.dat");
     const Unlesbar unlesbar;
     GemeindeSpeichern(3);
-    EXPECT_TRUE(DateiLesen(Festplatte / "Messen.dat") ==
-                *InhaltDerGemeinde(3).Dateien[DateiMesse].Bytes);
-    EXPECT_TRUE(DateiLesen(AlleStände().back().Ort / "Messen.dat") == messen);
+    EXPECT_TRUE(DateiLesen(Festplatte / "Gruppen.dat") ==
+                *InhaltDerGemeinde(3).Dateien[DateiGruppe].Bytes);
+    EXPECT_TRUE(DateiLesen(AlleStände().back().Ort / "Gruppen.dat") == gruppen);
     EXPECT_FALSE(MarkeLiegt());
 }
 
@@ -522,27 +542,26 @@ TEST_F(NetzTest, KommtDasSpeichernNichtBisZuIhrLiegtSieWiederAnIhremOrt)
 {
     DatenträgerFüllen(2);
     NetzSpannen();
-    const std::string messen = DateiLesen(Festplatte / "Messen.dat");
+    const std::string gruppen = DateiLesen(Festplatte / "Gruppen.dat");
     const Unlesbar unlesbar;
     EXPECT_EQ(NummerDesFehlers([&] { GemeindeSpeichern(3); }), 61);
-    EXPECT_TRUE(DateiLesen(Festplatte / "Messen.dat") == messen);
-    EXPECT_TRUE(DateiLesen(Festplatte / "Gruppen.dat") ==
-                *InhaltDerGemeinde(1).Dateien[DateiGruppe].Bytes);
+    EXPECT_TRUE(fs::exists(Festplatte / "Gruppen.dat"));
+    EXPECT_TRUE(DateiLesen(Festplatte / "Gruppen.dat") == gruppen);
 }
 
 TEST_F(NetzTest, AuchHereinkopiertesÜberschreibtSieNicht)
 {
     DateiSchreiben(Diskette / "neu.dat", "neu");
     NetzSpannen();
-    const std::string messen = DateiLesen(Festplatte / "Messen.dat");
+    const std::string gruppen = DateiLesen(Festplatte / "Gruppen.dat");
     const Unlesbar unlesbar;
     EXPECT_EQ(
-        NummerDesFehlers([&] { Laufwerke.Kopieren(Diskette / "x", Festplatte / "Messen.dat"); }),
+        NummerDesFehlers([&] { Laufwerke.Kopieren(Diskette / "x", Festplatte / "Gruppen.dat"); }),
         53);
-    EXPECT_TRUE(DateiLesen(Festplatte / "Messen.dat") == messen);
-    Laufwerke.Kopieren(Diskette / "neu.dat", Festplatte / "Messen.dat");
-    EXPECT_EQ(DateiLesen(Festplatte / "Messen.dat"), "neu");
-    EXPECT_TRUE(DateiLesen(Marke() / "Messen.dat") == messen);
+    EXPECT_TRUE(DateiLesen(Festplatte / "Gruppen.dat") == gruppen);
+    Laufwerke.Kopieren(Diskette / "neu.dat", Festplatte / "Gruppen.dat");
+    EXPECT_EQ(DateiLesen(Festplatte / "Gruppen.dat"), "neu");
+    EXPECT_TRUE(DateiLesen(Marke() / "Gruppen.dat") == gruppen);
 }
 
 // Copying in.

@@ -40,7 +40,11 @@ class NotwehrTest : public Netzstand {
             ArbeitBeginnt();
             Gemeinde(2);
             alarm(20);
-            wie();
+            try {
+                wie();
+            } catch (const std::exception &) {
+                _exit(2);
+            }
             _exit(0);
         }
         int ausgang = 0;

@@ -5,6 +5,10 @@
 #include "core/Allgemein.h"
 #include "shell/Programm.h"
 
+#include <QSessionManager>
+
+#include <csignal>
+
 namespace altardienst {
 namespace {
 
@@ -35,6 +39,32 @@ TEST_F(AbschiedTest, WasInEinemOffenenDialogStehtIstGeschrieben)
               0);
     EXPECT_TRUE(Gespeichert("Gruppen.dat", "Blau"));
     EXPECT_TRUE(GezeigteMeldungen.empty());
+}
+
+/// Whoever ends the desktop session asks every program first to save what it has.
+TEST_F(AbschiedTest, DasEndeDerSitzungIstEinBeenden)
+{
+    auto *sitzung = qApp->findChild<QSessionManager *>();
+    ASSERT_TRUE(sitzung);
+    EXPECT_EQ(Programmlauf([sitzung] {
+                  ProgrammStarten();
+                  BeiEndeVonAußen(ProgrammVerlassen);
+                  Klick(Finden(Fenster("Start"), "Starten"));
+                  MenüWählen(Fenster("Haupt"), "mnuGruppe");
+                  Einsetzen(Finden(Fenster("Gruppe"), "GBezeichnung"), "Blau");
+                  Q_EMIT qApp->commitDataRequest(*sitzung);
+              }),
+              0);
+    EXPECT_TRUE(Gespeichert("Gruppen.dat", "Blau"));
+    EXPECT_EQ(sitzung->restartHint(), QSessionManager::RestartNever);
+    EXPECT_TRUE(EndeVonAußen());
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+    QObject::disconnect(qApp, &QGuiApplication::commitDataRequest, nullptr, nullptr);
+    for (const int signal : {SIGTERM, SIGINT})
+        std::signal(signal, SIG_DFL);
+#ifndef _WIN32
+    std::signal(SIGHUP, SIG_DFL);
+#endif
 }
 
 TEST_F(AbschiedTest, EinDialogDerSichNichtSchließenLäßtHältDasEndeNichtAuf)
