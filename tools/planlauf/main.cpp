@@ -213,6 +213,8 @@ class Lauf {
                 throw std::runtime_error("no menu entry " + name.toStdString());
             eintrag->trigger();
             AndereSchließen();
+            if (eintrag->isCheckable()) // changes the main window itself
+                Bild(haupt);
         }
     }
 
