@@ -272,8 +272,10 @@ TEST_F(HauptRückgängigTest, GetipptesGehtMitKeinemSchrittVerloren)
     Zeigen(form);
     Tippen("Messewesen", "Taufe");
     Zeigen(haupt); // leaving the list writes it
-    Ruhe();
-    EXPECT_EQ(Rückgängig().substr(0, 21), "&Rückgängig: Messe ");
+    EXPECT_TRUE(Warten([&] {
+        Ruhe();
+        return Rückgängig().starts_with("&Rückgängig: Messe ");
+    })) << Rückgängig();
     Wählen("mnuRückgängig");
     EXPECT_EQ(Zeigt("Messewesen"), "Messe");
     EXPECT_EQ(Rückgängig(), "&Rückgängig: (3) Messen mit Meßdiener besetzen");
@@ -324,8 +326,11 @@ TEST_F(HauptRückgängigTest, EinLangerGangMitOffenerListeFührtZurückUndWieder
         case 2:
             Zeigen(form);
             Tippen("Messewesen", "Art" + std::to_string(k));
-            Zeigen(haupt);
-            Ruhe();
+            Zeigen(haupt); // leaving the list writes it
+            EXPECT_TRUE(Warten([&] {
+                Ruhe();
+                return Messe.Messeart[Messe.Cursor] == Zeigt("Messewesen");
+            }));
             break;
         case 3:
             Klick(wurf(2) == 0 ? "Plus" : "Minus");
