@@ -284,6 +284,22 @@ TEST_F(HauptRückgängigTest, GetipptesGehtMitKeinemSchrittVerloren)
     ListeStimmt();
 }
 
+/// The list writes each mass that it leaves.
+TEST_F(HauptRückgängigTest, BlätternInDerListeIstKeinSchritt)
+{
+    ListeDaneben(0);
+    MessenBesetzen();
+    for (int k = 0; k < 4; ++k) {
+        Klick("Plus");
+        Ruhe();
+    }
+    EXPECT_EQ(Rückgängig(), "&Rückgängig: (3) Messen mit Meßdiener besetzen");
+    Wählen("mnuRückgängig");
+    EXPECT_EQ(Messe.DienerVor[0][1], "");
+    EXPECT_EQ(Zeigt("Datensatzus"), "4") << "one stays where one is";
+    ListeStimmt();
+}
+
 TEST_F(HauptRückgängigTest, NachEinemLadenZeigtDieListeErstDurchDasZurücknehmenDieTabelle)
 {
     Messe.Messeart[1] = "Rorate";
