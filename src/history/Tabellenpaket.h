@@ -21,7 +21,7 @@ enum class Teil {
     Etiketten,
     FesteDiener,
     Läufe,       // who counts as taken, and since when: for the next assignment
-    Wochentage,  // of the masses: the list fills them up with blanks when it shows them
+    Wochentage,  // of the masses: the list may fill them up with blanks when it shows them
     Abgeleitetes // the services of the slots, the servers of the mass of an entry
 };
 

@@ -238,7 +238,7 @@ TEST_F(RückgängigTest, BlätternUndSpeichernSindKeineÄnderung)
     EXPECT_TRUE(Bild() == besetzt);
 }
 
-/// The list of masses fills the weekday up with blanks when it shows a mass.
+/// The list of masses may fill the weekday up with blanks when it shows a mass.
 TEST_F(RückgängigTest, LeerzeichenNachDemWochentagSindKeineÄnderung)
 {
     MessenBesetzen();

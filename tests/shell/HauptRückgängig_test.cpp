@@ -272,13 +272,31 @@ TEST_F(HauptRückgängigTest, GetipptesGehtMitKeinemSchrittVerloren)
     Zeigen(form);
     Tippen("Messewesen", "Taufe");
     Zeigen(haupt); // leaving the list writes it
-    Ruhe();
-    EXPECT_EQ(Rückgängig().substr(0, 21), "&Rückgängig: Messe ");
+    EXPECT_TRUE(Warten([&] {
+        Ruhe();
+        return Rückgängig().starts_with("&Rückgängig: Messe ");
+    })) << Rückgängig();
     Wählen("mnuRückgängig");
     EXPECT_EQ(Zeigt("Messewesen"), "Messe");
     EXPECT_EQ(Rückgängig(), "&Rückgängig: (3) Messen mit Meßdiener besetzen");
     Wählen("mnuWiederholen");
     EXPECT_EQ(Zeigt("Messewesen"), "Taufe");
+    ListeStimmt();
+}
+
+/// The list writes each mass that it leaves.
+TEST_F(HauptRückgängigTest, BlätternInDerListeIstKeinSchritt)
+{
+    ListeDaneben(0);
+    MessenBesetzen();
+    for (int k = 0; k < 4; ++k) {
+        Klick("Plus");
+        Ruhe();
+    }
+    EXPECT_EQ(Rückgängig(), "&Rückgängig: (3) Messen mit Meßdiener besetzen");
+    Wählen("mnuRückgängig");
+    EXPECT_EQ(Messe.DienerVor[0][1], "");
+    EXPECT_EQ(Zeigt("Datensatzus"), "4") << "one stays where one is";
     ListeStimmt();
 }
 
@@ -324,8 +342,11 @@ TEST_F(HauptRückgängigTest, EinLangerGangMitOffenerListeFührtZurückUndWieder
         case 2:
             Zeigen(form);
             Tippen("Messewesen", "Art" + std::to_string(k));
-            Zeigen(haupt);
-            Ruhe();
+            Zeigen(haupt); // leaving the list writes it
+            EXPECT_TRUE(Warten([&] {
+                Ruhe();
+                return Messe.Messeart[Messe.Cursor] == Zeigt("Messewesen");
+            }));
             break;
         case 3:
             Klick(wurf(2) == 0 ? "Plus" : "Minus");
