@@ -163,7 +163,7 @@ void Planansicht::PersonAngeben(const Text &vorname, const Text &nachname)
     modell->Markieren(vorname, nachname);
     if (vorname.empty() && nachname.empty()) {
         Setzen(Person, "");
-        Setzen(Abstände, "");
+        Setzen(Abstände, "Ein Klick auf einen Namen zeigt hier alle Dienste der Person.");
         return;
     }
     const Personenblick blick = PersonImPlan(tabellen, vorname, nachname);

@@ -71,6 +71,7 @@ TEST_F(ImPlanFormTest, LäßtSichDasFensterNichtVerlassenSoBleibtEs)
     Klick(Finden(form, "ImPlan"));
     EXPECT_TRUE(form->isVisible());
     EXPECT_FALSE(haupt->isEnabled());
+    EXPECT_EQ(Zeigt(plan->Person), "");
 }
 
 TEST_F(ImPlanFormTest, OhneHauptfensterGibtEsDenKnopfNicht)

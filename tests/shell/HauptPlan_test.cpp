@@ -3,6 +3,7 @@
 
 #include "application/Mitteilung.h"
 #include "core/Allgemein.h"
+#include "help/Hilfetaste.h"
 #include "planning/MessenlisteForm.h"
 
 #include <QAbstractButton>
@@ -133,6 +134,24 @@ TEST_F(HauptPlanTest, WasDieMessenlisteDanebenSchreibtZeigtSichSofort)
     EXPECT_EQ(Steht(0, Plätze), "Anna Ad.");
     Klick(liste->Wahl->Plus);
     EXPECT_TRUE(Warten([&] { return Steht(0, Plätze) == "Zoe A."; }));
+}
+
+TEST_F(HauptPlanTest, F1SchlägtAusDemPlanDessenSeiteAuf)
+{
+    HilfetasteEinrichten(*qApp);
+    PlanÖffnen();
+    const auto aufgeschlagen = [this](QWidget *wo) {
+        haupt->activateWindow();
+        EXPECT_TRUE(Warten([&] { return QApplication::activeWindow() == haupt; }));
+        FokusAuf(wo);
+        QTest::keyClick(haupt->windowHandle(), Qt::Key_F1);
+        const Text titel = Fenster("Handbuch")->windowTitle().toStdString();
+        Fenster("Handbuch")->close();
+        return titel;
+    };
+    EXPECT_NE(aufgeschlagen(plan->Tafel).find("Der Plan auf einen Blick"), Text::npos);
+    EXPECT_NE(aufgeschlagen(plan->Liste->Befunde).find("Der Plan auf einen Blick"), Text::npos);
+    EXPECT_EQ(aufgeschlagen(haupt->Helfend).find("Der Plan auf einen Blick"), Text::npos);
 }
 
 TEST_F(HauptPlanTest, PasstAuchMitDemPlanAufDenKleinstenBildschirm)
