@@ -25,7 +25,8 @@ bool SindMehrereOffen();
 /// Runs an action of the main window as described above. Open.
 void HauptfensterHandelt(const std::function<void()> &aktion);
 
-/// After a load, but for one that an action of the main window makes: the screens stay as they are, and are written by what is done on them.
+/// After a load, but for one that an action of the main window makes: the screens stay as they are,
+/// and are written by what is done on them.
 void OffeneFormenBelassen();
 
 /// What a form last showed or wrote of its record.
