@@ -7,12 +7,16 @@ arbeit=/tmp/altardienst-bilder # stands on some of them
 rm -rf "$arbeit" && mkdir "$arbeit"
 trap 'rm -rf "$arbeit"' EXIT
 cp -r ../data/beispiel "$arbeit/daten"
+for tag in 2026-11-07 2026-11-14; do # earlier states
+    mkdir -p "$arbeit/daten/Stände/$tag 18-30-00"
+    cp ../data/beispiel/* "$arbeit/daten/Stände/$tag 18-30-00"
+done
 mkdir -p "$arbeit/bilder" "$arbeit/pfarrbuero/"{Bilder,Dokumente,Sicherung}
 export HOME=$arbeit/pfarrbuero
 env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --saat 1 \
     --schritte 1,4,5,6,2 \
     --menue mnuStandardmessen,mnuGruppe,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern,mnuDatenHolen,mnuHintergrund,mnuHelpAbout,mnuMessen/NeuMeß,mnuMessen/Lektoren,mnuMeßdiener/NeuDiener,mnuFilePrint/Messendruck,mnuStände \
-    --suche adler \
+    --suche brückner \
     --bilder "$arbeit/bilder" >/dev/null 2>&1
 
 # The last picture of a window is the one with the finished plan.

@@ -17,7 +17,7 @@ QLineEdit *Zahleneingabe(const char *name, Text (*prüfung)(const Text &))
 Zahlbox ZahlboxAnlegen(const char *name, const char *spinName, const char *text)
 {
     QLineEdit *feld = Zahleneingabe(name);
-    feld->setFixedWidth(64); // five digits beside the sign of a mark
+    feld->setFixedWidth(56);
     const QByteArray gesprochen = QString::fromUtf8(text).remove(':').toUtf8() + " ändern";
     auto *spin = new SpinButton(spinName, gesprochen.constData());
     PfeiltastenVerbinden(feld, spin);

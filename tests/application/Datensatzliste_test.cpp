@@ -8,6 +8,7 @@
 #include <QImage>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace altardienst {
@@ -18,14 +19,15 @@ class Kleineditor : public QWidget {
   public:
     explicit Kleineditor(int breite)
         : Wahl(new Datensatzwahl({"Nummer", "Plus", "Minus"})),
-          Liste(new Datensatzliste(Wahl, {"Namen", "Mustermann, Max",
-                                          [this] { return static_cast<int>(Namen.size()); },
-                                          [this](int i) {
-                                              ++Gelesen;
-                                              const auto n = static_cast<std::size_t>(i);
-                                              return n < Namen.size() ? Namen[n] : Text("(leer)");
-                                          },
-                                          Abgefangen([this](int i) { Gewählt.push_back(i); })}))
+          Liste(new Datensatzliste(
+              Wahl, {"Namen", "Mustermann, Max",
+                     [this] { return Anzahl.value_or(static_cast<int>(Namen.size())); },
+                     [this](int i) {
+                         ++Gelesen;
+                         const auto n = static_cast<std::size_t>(i);
+                         return n < Namen.size() ? Namen[n] : Text("(leer)");
+                     },
+                     Abgefangen([this](int i) { Gewählt.push_back(i); })}))
     {
         Benannt(this, "Kleineditor");
         auto *inhalt = new QVBoxLayout;
@@ -44,6 +46,7 @@ class Kleineditor : public QWidget {
     std::vector<Text> Namen = {"Adler, Anna", "Berg, Bea",   "Cohn, Cem",  "Dorn, Dora",
                                "Ems, Emil",   "Frei, Franz", "Groß, Gabi", "Haas, Hanna",
                                "Ihde, Ina",   "Jung, Jan"};
+    std::optional<int> Anzahl; // as a file claims it
     std::vector<int> Gewählt;
     int Gelesen = 0;
 };
@@ -86,6 +89,16 @@ class DatensatzlisteTest : public Formstand<Kleineditor> {
 
     using Liste = std::vector<int>;
 };
+
+TEST_F(DatensatzlisteTest, WenigerAlsKeinDatensatzIstKeiner)
+{
+    Öffnen();
+    ASSERT_EQ(Zeilen().size(), 10U);
+    form->Anzahl = -3;
+    form->Liste->Folgen();
+    EXPECT_EQ(Zeilen(), std::vector<Text>{});
+    EXPECT_TRUE(GezeigteMeldungen.empty());
+}
 
 TEST_F(DatensatzlisteTest, ZeigtAlleZeilenUndMarkiertDenGezeigten)
 {

@@ -119,6 +119,27 @@ TEST_F(MeldungsfensterTest, DerTitelPaßtHinein)
             [] { Meldungen.Fragen("Wirklich?", "Kurz"); });
 }
 
+TEST_F(MeldungsfensterTest, DieLängsteFragePaßtAufDenKleinstenBildschirmUndIstMitTabZuBedienen)
+{
+    Ansehen(
+        [](QMessageBox *box) {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(box));
+            EXPECT_LE(box->width(), KleinsterBildschirm.width());
+            EXPECT_LE(box->height(), KleinsterBildschirm.height());
+            for (const auto &[knopf, nächster] : {std::pair(QMessageBox::No, QMessageBox::Yes),
+                                                  {QMessageBox::Yes, QMessageBox::No}}) {
+                QAbstractButton *hat = box->button(knopf);
+                EXPECT_TRUE(box->rect().contains(hat->geometry()));
+                EXPECT_TRUE(hat->hasFocus());
+                const QImage mit = hat->grab().toImage();
+                QTest::keyClick(box, Qt::Key_Tab);
+                EXPECT_TRUE(box->button(nächster)->hasFocus());
+                EXPECT_NE(hat->grab().toImage(), mit) << "the focus is seen";
+            }
+        },
+        VonDisketteLaden);
+}
+
 TEST_F(MeldungsfensterTest, LäßtSichWederVerkleinernNochMaximieren)
 {
     Ansehen(

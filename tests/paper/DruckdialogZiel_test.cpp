@@ -192,7 +192,7 @@ TEST_F(DruckdialogZielTest, WoNichtGeschriebenWerdenKannGibtEsKeinOk)
         EXPECT_EQ(Zeigt("Hinweis"), "In dieses Verzeichnis lässt sich nichts schreiben.");
         EXPECT_FALSE(Genommen());
     }
-    for (const char *name : {"", "   ", "/"}) {
+    for (const char *name : {"", "   ", "/", "C:\\Pläne\\"}) {
         EXPECT_FALSE(Geht(name)) << name;
         EXPECT_EQ(Zeigt("Hinweis"), "");
         EXPECT_FALSE(Genommen());

@@ -139,7 +139,8 @@ Text Unlesbares(const Text &inhalt)
         return "31.13.2026";
     if (inhalt.find(':') != Text::npos)
         return "25:00:00";
-    return !inhalt.empty() && inhalt.find_first_not_of("0123456789") == Text::npos ? "12x" : "";
+    const bool istZahl = !inhalt.empty() && inhalt.find_first_not_of("0123456789") == Text::npos;
+    return istZahl ? inhalt + "x" : "";
 }
 
 TEST_F(JedesFensterPlatz, AuchNebenEinerMarkeIstDasGetippteGanzZuLesen)

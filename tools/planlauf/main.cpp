@@ -8,6 +8,7 @@
 #include "core/Umwandlung.h"
 #include "fairness/Ausgleich.h"
 #include "overview/Planprüfung.h"
+#include "paper/Druckdialog.h"
 #include "paper/DruckerQt.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
@@ -15,18 +16,21 @@
 #include "platform/Zufall.h"
 #include "printing/DialogForm.h"
 #include "printing/DruckForm.h"
+#include "search/SuchenForm.h"
 #include "settings/KopierForm.h"
 #include "shell/HauptForm.h"
 #include "shell/Programm.h"
 #include "shell/StartForm.h"
 
 #include <QCommandLineParser>
+#include <QPointer>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTimer>
 
 #include <cstdio>
 #include <stdexcept>
+#include <vector>
 
 namespace {
 
@@ -45,6 +49,7 @@ struct Auftrag {
     QList<int> Schritte;
     std::uint32_t Saat = 1;
     QStringList Einträge;
+    QString Suche;
     std::filesystem::path Text;
     QString Pdf;
     QString Berichte;
@@ -78,7 +83,11 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
         "buttons to press, such as 1,4,5; ausgleichen balances the plan, pruefen checks it",
         "LISTE");
     const QCommandLineOption menü(
-        "menue", "menu entries to choose after the steps, such as mnuHelfer,mnuGruppe", "LISTE");
+        "menue",
+        "menu entries to choose after the steps, such as mnuHelfer,mnuMessen/NeuMeß: with a button "
+        "of what they open",
+        "LISTE");
+    const QCommandLineOption suche("suche", "look for this with \"Suchen\"", "TEXT");
     const QCommandLineOption text("text", "write the plan as text", "FILE");
     const QCommandLineOption pdf("pdf", "print the plan to a PDF file", "FILE");
     const QCommandLineOption berichte(
@@ -87,8 +96,8 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption bilder("bilder", "save a picture of every window passed", "DIR");
     const QCommandLineOption antwort("antwort", "answer to every question", "ja|nein", "ja");
     zeile.addHelpOption();
-    zeile.addOptions(
-        {daten, heute, start, tage, saat, schritte, menü, text, pdf, berichte, bilder, antwort});
+    zeile.addOptions({daten, heute, start, tage, saat, schritte, menü, suche, text, pdf, berichte,
+                      bilder, antwort});
     zeile.process(*QCoreApplication::instance());
     const QStringList übrig = zeile.positionalArguments();
     if (!übrig.isEmpty()) // such as the rest of "1, 4, 5"
@@ -121,6 +130,7 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
                 "--schritte takes numbers from 1 to 7, pruefen and ausgleichen");
     }
     auftrag.Einträge = zeile.value(menü).split(',', Qt::SkipEmptyParts);
+    auftrag.Suche = zeile.value(suche);
     auftrag.Text = Pfad(zeile.value(text));
     auftrag.Pdf = zeile.value(pdf);
     auftrag.Berichte = zeile.value(berichte);
@@ -231,15 +241,29 @@ class Lauf {
 
     void Menü()
     {
-        for (const QString &name : auftrag.Einträge) {
+        for (const QString &weg : auftrag.Einträge) {
+            const QString name = weg.section('/', 0, 0);
             auto *eintrag = haupt->findChild<QAction *>(name);
             if (!eintrag || !eintrag->isEnabled())
                 throw std::runtime_error("no menu entry " + name.toStdString());
             eintrag->trigger();
+            if (const QString knopf = weg.section('/', 1); !knopf.isEmpty())
+                Drücken(knopf);
             AndereSchließen();
             if (eintrag->isCheckable()) // changes the main window itself
                 Bild(haupt);
         }
+    }
+
+    void Suchen()
+    {
+        if (auftrag.Suche.isEmpty())
+            return;
+        auto *suchen = new SuchenForm(haupt);
+        suchen->show();
+        suchen->Suchtext->setText(auftrag.Suche);
+        Bild(suchen);
+        suchen->close();
     }
 
     void TextSchreiben()
@@ -276,6 +300,17 @@ class Lauf {
     void Beenden() { haupt->close(); }
 
   private:
+    void Drücken(const QString &knopf)
+    {
+        QCoreApplication::processEvents();
+        const QWidgetList offen = QApplication::topLevelWidgets();
+        for (QWidget *fenster : offen)
+            if (auto *gefunden = fenster->findChild<QPushButton *>(knopf);
+                gefunden && fenster != haupt && fenster->isVisible())
+                return gefunden->click();
+        throw std::runtime_error("no button " + knopf.toStdString());
+    }
+
     void BerichteDrucken()
     {
         haupt->findChild<QAction *>("mnuFilePrint")->trigger();
@@ -300,9 +335,10 @@ class Lauf {
     void AndereSchließen()
     {
         QCoreApplication::processEvents();
-        const QWidgetList offen = QApplication::topLevelWidgets();
-        for (QWidget *fenster : offen) {
-            if (fenster == haupt || !fenster->isVisible() || fenster->parent())
+        const QWidgetList alle = QApplication::topLevelWidgets();
+        const std::vector<QPointer<QWidget>> offen(alle.begin(), alle.end());
+        for (const auto &fenster : offen) { // one may go with another
+            if (!fenster || fenster == haupt || !fenster->isVisible() || fenster->parent())
                 continue;
             Bild(fenster);
             fenster->close();
@@ -333,6 +369,11 @@ class Lauf {
     bool hatZweiteForm = false;
     DruckerQt drucker{[this](const Druckanfrage &anfrage) -> std::optional<Druckauswahl> {
         hatZweiteForm = anfrage.HatZweiFormen();
+        if (!auftrag.Bilder.isEmpty()) {
+            DruckdialogForm dialog(anfrage);
+            dialog.show();
+            Bild(&dialog);
+        }
         if (datei.isEmpty())
             return std::nullopt;
         return Druckauswahl{modus, PdfDrucker(datei)};
@@ -377,6 +418,7 @@ int main(int argc, char *argv[])
                 lauf.Starten();
                 lauf.Schritte();
                 lauf.Menü();
+                lauf.Suchen();
                 lauf.TextSchreiben();
                 lauf.Drucken();
                 lauf.Beenden();
