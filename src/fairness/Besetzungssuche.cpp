@@ -50,8 +50,8 @@ class Los {
 /// How steeply each kind of cost counts during the annealing.
 double Energie(const Plankosten &kosten)
 {
-    return 4.0 * static_cast<double>(kosten.Verstöße) + 0.05 * static_cast<double>(kosten.Schwere) +
-           1.5 * static_cast<double>(kosten.Hinweise) +
+    return 5.0 * static_cast<double>(kosten.Verstöße) + 0.05 * static_cast<double>(kosten.Schwere) +
+           0.7 * static_cast<double>(kosten.Hinweise) +
            1e-6 * static_cast<double>(kosten.Ungleich) +
            0.15 * static_cast<double>(kosten.Getrennt) + 2e-5 * static_cast<double>(kosten.Unruhe);
 }
@@ -83,10 +83,16 @@ class Suche {
         const double plätze = static_cast<double>(freie.size()) * auftrag.Aufwand;
         Füllen();
         Abkühlen(0.3, 1000 * plätze);
-        for (int runde = 0; runde < 4 && !AmZiel() && !abgebrochen; ++runde) {
-            if (runde > 0 && runde % 2 == 1)
+        // Where the goal is not in sight: again from the best plan and from anew, longer each time
+        // as far as that is bearable.
+        constexpr int Runden = 8;
+        constexpr double Erträglich = 600'000;
+        for (int runde = 0; runde < Runden && !AmZiel() && !abgebrochen; ++runde) {
+            if (runde % 2 == 1)
                 plan.Stellen(beste);
-            Abkühlen(runde % 2 == 0 ? 1.5 : 0.7, 1500 * plätze);
+            const double schritte = (runde < Runden / 2 ? 1500 : 4000) * plätze;
+            if (runde < 2 || schritte < Erträglich * auftrag.Aufwand)
+                Abkühlen(runde % 2 == 0 ? 1.5 : 0.7, schritte);
         }
         plan.Stellen(beste);
         Glätten(600 * plätze);
