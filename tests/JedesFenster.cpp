@@ -9,6 +9,7 @@
 #include "fixed/NeuMesseDienerFestForm.h"
 #include "help/HandbuchForm.h"
 #include "history/StändeForm.h"
+#include "overview/WerKannHierForm.h"
 #include "paper/Druckdialog.h"
 #include "people/GruppeForm.h"
 #include "people/HelferForm.h"
@@ -129,6 +130,7 @@ JedesFenster::JedesFenster()
         {"Datensicherung", Neu<DatensicherungForm>()},
         {"Dateikopie", Neu<DateikopieForm>()},
         {"Stände", Neu<StändeForm>()},
+        {"WerKannHier", Neu<WerKannHierForm>(nullptr, Dienerplatznr(0, 1))},
         {"DateienKopieren", Neu<DateienKopierenForm>(danach)},
     };
 }

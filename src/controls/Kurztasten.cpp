@@ -19,7 +19,7 @@ constexpr auto Neu = Qt::CTRL | Qt::Key_N;
 constexpr auto Löschen = QKeyCombination(Qt::Key_F8); // text boxes delete words by Ctrl and Del
 constexpr auto Drucken = Qt::CTRL | Qt::Key_P;
 
-constexpr std::array<Kurztaste, 37> Kurztasten = {{
+constexpr std::array<Kurztaste, 38> Kurztasten = {{
     {"OK", Fertig},
     {"Ende", Fertig},
     {"Starten", Fertig},
@@ -43,6 +43,7 @@ constexpr std::array<Kurztaste, 37> Kurztasten = {{
     {"Namen berichtigen", Qt::ALT | Qt::Key_N},
     {"Wochentag bestimmen", Qt::ALT | Qt::Key_W},
     {"Lektoren und ...", Qt::ALT | Qt::Key_L},
+    {"Im Plan zeigen", Qt::ALT | Qt::Key_I},
     {"Diagramm", Qt::ALT | Qt::Key_D},
     {"Einstellungen...", Qt::ALT | Qt::Key_E},
     {"Durchsuchen...", Qt::ALT | Qt::Key_D},

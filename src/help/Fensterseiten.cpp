@@ -19,6 +19,9 @@ const std::map<Text, Text> &Fensterseiten()
         {"MesseDienerFest", "plan.md#zuordnungen-ansehen-und-ändern"},
         {"NeuMesseDienerFest", "plan.md#messdiener-einer-messe-zuordnen-schritt-2"},
 
+        {"Haupt/Planansicht", "auf-einen-blick.md"},
+        {"WerKannHier", "auf-einen-blick.md#wer-kann-hier"},
+
         {"Meßdiener", "leute.md#messdiener"},
         {"NeuMeßdiener", "leute.md#neuer-messdiener"},
         {"Gruppe", "leute.md#gruppen"},

@@ -14,10 +14,22 @@ namespace {
 
 QPointer<HandbuchForm> Handbuch;
 
+/// The part of a window in which one is, if it has a place of its own in the handbook.
+std::vector<Text> TeilMitFokus(const QWidget *fenster)
+{
+    const Text davor = fenster ? fenster->objectName().toStdString() + "/" : Text();
+    for (const QWidget *teil = QApplication::focusWidget(); teil && !teil->isWindow();
+         teil = teil->parentWidget())
+        if (const Text name = teil->objectName().toStdString();
+            Fensterseiten().contains(davor + name))
+            return {name};
+    return {};
+}
+
 /// The names of a window and of those over which it stands.
 std::vector<Text> Namen(const QWidget *fenster)
 {
-    std::vector<Text> namen;
+    std::vector<Text> namen = TeilMitFokus(fenster);
     for (; fenster; fenster = fenster->parentWidget())
         if (fenster->isWindow())
             namen.push_back(fenster->objectName().toStdString());

@@ -76,18 +76,42 @@ Text Druckzeile(const Planprüfung &prüfung, const Befund &befund, Gliederung g
 
 } // namespace
 
-std::vector<Befundgruppe> Befundgruppen(const Planprüfung &prüfung, Gliederung gliederung)
+Text Befundzahlen(const Planprüfung &prüfung, const Regelwahl &regeln)
 {
-    return gliederung == Gliederung::NachMesse ? NachMessen(prüfung) : NachPersonen(prüfung);
+    int verstöße = 0;
+    int hinweise = 0;
+    for (int messe = 0; messe < prüfung.Tabellen().Messenzahl(); ++messe)
+        for (const Befund &befund : prüfung.Von(messe))
+            if (Gilt(regeln, befund))
+                ++(befund.Grad == Stufe::Verstoß ? verstöße : hinweise);
+    Text text = Befundzahl(verstöße, hinweise);
+    const char *davor = ", ohne ";
+    for (std::size_t nr = 0; nr < regeln.size(); ++nr)
+        if (!regeln[nr]) {
+            text += davor + Regelname(static_cast<Regel>(nr));
+            davor = ", ";
+        }
+    return text;
 }
 
-void PrüflisteDrucken(const Planprüfung &prüfung, Gliederung gliederung)
+std::vector<Befundgruppe> Befundgruppen(const Planprüfung &prüfung, Gliederung gliederung,
+                                        const Regelwahl &regeln)
+{
+    std::vector<Befundgruppe> gruppen =
+        gliederung == Gliederung::NachMesse ? NachMessen(prüfung) : NachPersonen(prüfung);
+    for (Befundgruppe &gruppe : gruppen)
+        std::erase_if(gruppe.Befunde, [&](const Befund &b) { return !Gilt(regeln, b); });
+    std::erase_if(gruppen, [](const Befundgruppe &gruppe) { return gruppe.Befunde.empty(); });
+    return gruppen;
+}
+
+void PrüflisteDrucken(const Planprüfung &prüfung, Gliederung gliederung, const Regelwahl &regeln)
 {
     BerichtDrucken(Druckanfrage::Für("Prüfliste"), [&](int) {
-        BerichtEröffnen({"Prüfliste der Pfarrei " + Konfig.Gemeinde,
-                         Befundzahl(prüfung.Verstöße(), prüfung.Hinweise())});
+        BerichtEröffnen(
+            {"Prüfliste der Pfarrei " + Konfig.Gemeinde, Befundzahlen(prüfung, regeln)});
         Int16 Zeilen = 4;
-        for (const Befundgruppe &gruppe : Befundgruppen(prüfung, gliederung)) {
+        for (const Befundgruppe &gruppe : Befundgruppen(prüfung, gliederung, regeln)) {
             Drucker->FontBold(true);
             ZeileDrucken(gruppe.Titel);
             Drucker->FontBold(false);

@@ -8,6 +8,7 @@
 #include "controls/Zahlbox.h"
 #include "core/Messenname.h"
 #include "core/Plätze.h"
+#include "people/ImPlan.h"
 #include "people/NeuerHelferForm.h"
 #include "platform/Meldungen.h"
 
@@ -114,7 +115,9 @@ void HelferForm::Anordnen()
     mitte->addLayout(rechts);
 
     auto *spalte = Liste->Fensterspalte(this, Luft::Viel);
-    spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Datensatzanzahl:"), Datensätzig));
+    QLayout *kopf = Datensatzkopf(Wahl, Beschriftung("", "Datensatzanzahl:"), Datensätzig);
+    kopf->addWidget(ImPlanKnopf(this, Ende, [this] { return Person.Name(); }));
+    spalte->addLayout(kopf);
     spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(Knopfreihe({Ende}, {NeuHelfer, Datensatzlösch}));
     GrößeAnpassen(this);

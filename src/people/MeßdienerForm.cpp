@@ -6,6 +6,7 @@
 #include "controls/Handler.h"
 #include "core/Messenname.h"
 #include "core/Plätze.h"
+#include "people/ImPlan.h"
 #include "people/NeuMeßdienerForm.h"
 #include "platform/Meldungen.h"
 #include "printing/Aufnahmebestätigung.h"
@@ -101,7 +102,9 @@ void MeßdienerForm::Anordnen()
     mitte->addLayout(rechts);
 
     auto *spalte = Liste->Fensterspalte(this, Luft::Mittel);
-    spalte->addLayout(Datensatzkopf(Wahl, Beschriftung("", "Anzahl Datensätze:"), MaxIndex));
+    QLayout *kopf = Datensatzkopf(Wahl, Beschriftung("", "Anzahl Datensätze:"), MaxIndex);
+    kopf->addWidget(ImPlanKnopf(this, Ende, [this] { return Angaben.Person.Name(); }));
+    spalte->addLayout(kopf);
     spalte->addWidget(Rollbar(mitte), 1);
     spalte->addLayout(Knopfreihe({Ende}, {NeuDiener, Lösch, Aufnahmebestätigung}));
     GrößeAnpassen(this);

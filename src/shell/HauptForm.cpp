@@ -3,6 +3,7 @@
 
 #include "anniversaries/JubiGebuForm.h"
 #include "application/Anwendung.h"
+#include "application/Gemerktes.h"
 #include "application/Mitteilung.h"
 #include "application/Nebenfenster.h"
 #include "application/Wartezeiger.h"
@@ -23,8 +24,10 @@
 #include "help/Hilfetaste.h"
 #include "history/Netz.h"
 #include "history/StändeForm.h"
+#include "overview/Planansicht.h"
 #include "people/GruppeForm.h"
 #include "people/HelferForm.h"
+#include "people/ImPlan.h"
 #include "people/MeßdienerForm.h"
 #include "planning/MessenBestimmen.h"
 #include "planning/MessenlisteForm.h"
@@ -101,6 +104,8 @@ void Ladeeintrag(QMenu *menü, const char *name, const char *beschriftung,
     QObject::connect(NeuerEintrag(menü, name, beschriftung), &QAction::triggered, menü,
                      Offen(aktion));
 }
+
+constexpr const char *Planschlüssel = "Plan/Angezeigt";
 
 void Trennstrich(QMenu *menü, const char *name)
 {
@@ -186,7 +191,7 @@ HauptForm::HauptForm()
       Messendruck(Knopf("Messendruck", "(7) Druck des Altardienstes")),
       ODER1(Beschriftung("ODER1", "ODER")), Uhriger(Beschriftung("Uhriger", "Uhr")),
       UHRZEITIGES(Beschriftung("UHRZEITIGES", "")), Image1(new Hintergrundbild("Image1")),
-      Timer1(Benannt(new QTimer(this), "Timer1")), Leiste(new Statuszeile)
+      Timer1(Benannt(new QTimer(this), "Timer1")), Leiste(new Statuszeile), seiten(new QHBoxLayout)
 {
     Benannt(this, "Haupt");
     setWindowTitle("Altardienst ");
@@ -201,6 +206,12 @@ HauptForm::HauptForm()
     Verbinden();
     Takt();
     ÜberblickZeigen();
+    planEintrag->setChecked(Gemerktes().value(Planschlüssel).toBool());
+}
+
+HauptForm::~HauptForm()
+{
+    ImPlanZeigen = nullptr;
 }
 
 std::array<QPushButton *, 7> HauptForm::Schritte() const
@@ -236,11 +247,10 @@ void HauptForm::Anordnen()
     links->addLayout(uhr);
 
     auto *mitte = new QWidget;
-    auto *reihe = new QHBoxLayout;
-    Fensterspalte(mitte, Luft::Mittel)->addLayout(reihe);
-    reihe->setSpacing(16);
-    reihe->addLayout(links);
-    reihe->addWidget(Image1, 1);
+    Fensterspalte(mitte, Luft::Mittel)->addLayout(seiten);
+    seiten->setSpacing(16);
+    seiten->addLayout(links);
+    seiten->addWidget(Image1, 1);
     setCentralWidget(mitte);
     Messenorgani->setFocus();
 }
@@ -366,6 +376,10 @@ void HauptForm::MenüZusatz()
 void HauptForm::MenüÜberblick()
 {
     QMenu *überblick = Menü(menuBar(), "mnuÜberblick", "Ü&berblick");
+    planEintrag = NeuerEintrag(überblick, "mnuPlanAnzeigen", "&Plan anzeigen");
+    planEintrag->setCheckable(true);
+    planEintrag->setShortcut(Qt::Key_F5);
+    connect(planEintrag, &QAction::toggled, this, Offen([this](bool plan) { PlanAnzeigen(plan); }));
     Eintrag(überblick, "mnuStände", "&Frühere Stände", DialogÖffnen<StändeForm>);
 }
 
@@ -400,6 +414,10 @@ void HauptForm::Verbinden()
     schritt(Messendruck, PlanDrucken);
 
     SuchenBeiStrgF(this);
+    ImPlanZeigen = [this](const Text &vorname, const Text &nachname) {
+        planEintrag->setChecked(true);
+        Plan->PersonZeigen(vorname, nachname);
+    };
 
     connect(Timer1, &QTimer::timeout, this, Nebenbei([this] { Takt(); }));
     Timer1->start(50);
@@ -420,6 +438,28 @@ void HauptForm::Takt()
 void HauptForm::ÜberblickZeigen()
 {
     Abgefangen([this] { Leiste->Zeigen(ÜberblickAbschnitte()); })();
+    if (Plan && Plan->isVisible())
+        Abgefangen([this] { Plan->Nachziehen(); })();
+}
+
+/// The picture stays as it is below the plan, which is made only now: whoever does not want it
+/// waits for nothing.
+void HauptForm::PlanAnzeigen(bool plan)
+{
+    Gemerktes().setValue(Planschlüssel, plan);
+    if (plan && !Plan) {
+        Plan = new Planansicht;
+        seiten->addWidget(Plan, 1);
+    }
+    if (!Plan)
+        return;
+    const bool warImPlan = focusWidget() && Plan->isAncestorOf(focusWidget());
+    Image1->setVisible(!plan);
+    Plan->setVisible(plan);
+    if (plan)
+        Plan->Tafel->setFocus();
+    else if (warImPlan)
+        Messenorgani->setFocus();
 }
 
 /// A dialog that leaves has written its screen to the tables.

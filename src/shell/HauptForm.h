@@ -4,6 +4,8 @@
 #include "application/Statuszeile.h"
 #include "settings/Hintergrundbild.h"
 
+#include <QAction>
+#include <QBoxLayout>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
@@ -15,10 +17,13 @@
 
 namespace altardienst {
 
+class Planansicht;
+
 /// Closing it runs the exit routine: everything is saved and every window unloaded.
 class HauptForm : public QMainWindow {
   public:
     HauptForm();
+    ~HauptForm() override;
 
     QPushButton *Messenorgani;    // (1)
     QPushButton *Meßdienernern;   // (2)
@@ -32,6 +37,7 @@ class HauptForm : public QMainWindow {
     QLabel *UHRZEITIGES;
     Hintergrundbild *Image1;
     QTimer *Timer1;
+    Planansicht *Plan = nullptr; // made when it is shown for the first time
     Statuszeile *Leiste;
 
   protected:
@@ -52,6 +58,10 @@ class HauptForm : public QMainWindow {
 
     void Takt();
     void ÜberblickZeigen();
+    void PlanAnzeigen(bool plan);
+
+    QHBoxLayout *seiten; // the steps at the left, the picture or the plan at the right
+    QAction *planEintrag = nullptr;
 
     std::array<QPushButton *, 7> Schritte() const;
 };

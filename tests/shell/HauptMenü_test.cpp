@@ -100,6 +100,7 @@ TEST_F(HauptMenüTest, HatSeineEinträgeInIhrerFolge)
                           "    mnuDatenSichern | Daten &sichern",
                           "  DruckML | Dienste &richtig setzen für Messenlistausdruck",
                           "mnuÜberblick | Ü&berblick",
+                          "  mnuPlanAnzeigen | &Plan anzeigen",
                           "  mnuStände | &Frühere Stände",
                           "mnuHelp | &?",
                           "  mnuHandbuch | &Handbuch",
@@ -135,6 +136,7 @@ TEST_F(HauptMenüTest, WasOhneDialogAuskommtIstWählbar)
                              "mnuHintergrund",
                              "mnuDatenHolen",
                              "mnuDatenSichern",
+                             "mnuPlanAnzeigen",
                              "mnuStände",
                              "mnuHelpAbout",
                              "DruckML"})

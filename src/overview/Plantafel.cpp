@@ -1,0 +1,401 @@
+// The plan in one grid.
+#include "overview/Plantafel.h"
+
+#include "application/Gemerktes.h"
+#include "controls/Bausteine.h"
+#include "controls/Handler.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace altardienst {
+namespace {
+
+constexpr int KleinsterZoom = 60;
+constexpr int GrößterZoom = 200;
+constexpr int Zoomschritt = 10;
+constexpr const char *Zoomschlüssel = "Plan/Zoom";
+
+QString Breitenschlüssel(const QString &spalte)
+{
+    return "Plan/Breite/" + spalte;
+}
+
+bool MitStrg(Qt::KeyboardModifiers tasten)
+{
+    return (tasten & ~(Qt::KeypadModifier | Qt::ShiftModifier)) == Qt::ControlModifier;
+}
+
+} // namespace
+
+Plantafel::Plantafel(Planmodell *modell)
+    : Vorn(Benannt(new QTableView(this), "PlanVorn")), modell(modell),
+      maler(new Planmaler(this, modell))
+{
+    Benannt(this, "Plan");
+    setAccessibleName("Plan: eine Zeile je Messe");
+    Anordnen();
+    Verbinden();
+    Zoomen(Gemerktes().value(Zoomschlüssel, 100).toInt());
+}
+
+void Plantafel::AnsichtEinrichten(QTableView *ansicht)
+{
+    ansicht->setModel(modell);
+    ansicht->setItemDelegate(maler);
+    ansicht->setShowGrid(false);
+    ansicht->setWordWrap(false);
+    ansicht->setEditTriggers(NoEditTriggers);
+    ansicht->setTabKeyNavigation(false);
+    ansicht->setSelectionMode(ExtendedSelection);
+    ansicht->setHorizontalScrollMode(ScrollPerPixel);
+    ansicht->setVerticalScrollMode(ScrollPerPixel);
+    ansicht->verticalHeader()->hide();
+    ansicht->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    ansicht->verticalHeader()->setMinimumSectionSize(1);
+    QHeaderView *kopf = ansicht->horizontalHeader();
+    kopf->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    kopf->setHighlightSections(false);
+    kopf->setMinimumSectionSize(1);
+}
+
+void Plantafel::Anordnen()
+{
+    AnsichtEinrichten(this);
+    AnsichtEinrichten(Vorn);
+    Vorn->setSelectionModel(selectionModel());
+    Vorn->setFocusPolicy(Qt::ClickFocus);
+    Vorn->setFocusProxy(this);
+    Vorn->setFrameShape(NoFrame);
+    Vorn->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    Vorn->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    Vorn->setAccessibleName("Plan: Tag und Art der Messen");
+    Vorn->viewport()->installEventFilter(this);
+    setCornerButtonEnabled(false);
+}
+
+void Plantafel::Verbinden()
+{
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, Vorn->verticalScrollBar(),
+            &QScrollBar::setValue);
+    connect(Vorn->verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(),
+            &QScrollBar::setValue);
+    const auto gezogen = [this](int spalte, int, int breite) { SpalteGezogen(spalte, breite); };
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, Abgefangen(gezogen));
+    connect(Vorn->horizontalHeader(), &QHeaderView::sectionResized, this, Abgefangen(gezogen));
+    const auto hin = [this] {
+        if (BeiHingehen)
+            BeiHingehen();
+    };
+    connect(this, &QTableView::doubleClicked, this, Abgefangen(hin));
+    connect(Vorn, &QTableView::doubleClicked, this, Abgefangen(hin));
+    connect(modell, &QAbstractItemModel::modelAboutToBeReset, this,
+            Abgefangen([this] { StandMerken(); }));
+    connect(modell, &QAbstractItemModel::modelReset, this, Abgefangen([this] {
+                SpaltenEinpassen();
+                StandZurück();
+            }));
+    connect(modell, &QAbstractItemModel::dataChanged, this,
+            Abgefangen([this](const QModelIndex &von, const QModelIndex &bis) {
+                SpaltenEinpassen();
+                const QModelIndex wo = currentIndex();
+                if (BeiWahl && wo.row() >= von.row() && wo.row() <= bis.row())
+                    BeiWahl();
+            }));
+}
+
+std::optional<Planplatz> Plantafel::Gewählter() const
+{
+    if (!currentIndex().isValid())
+        return std::nullopt;
+    return modell->Ort(currentIndex());
+}
+
+void Plantafel::Wählen(const Planplatz &ort)
+{
+    QModelIndex zelle = modell->Stelle(ort);
+    if (!zelle.isValid())
+        zelle = modell->Stelle({ort.Messe, Planplatz::Art::Messe, 0});
+    if (zelle.isValid()) {
+        setCurrentIndex(zelle);
+        scrollTo(zelle);
+    }
+}
+
+void Plantafel::Zoomen(int prozent)
+{
+    zoom = std::clamp(prozent, KleinsterZoom, GrößterZoom);
+    Gemerktes().setValue(Zoomschlüssel, zoom);
+    QFont schrift = parentWidget() ? parentWidget()->font() : QApplication::font();
+    schrift.setPointSizeF(schrift.pointSizeF() * zoom / 100);
+    setFont(schrift);
+    Vorn->setFont(schrift);
+    maler->SchriftSetzen(schrift);
+    SpaltenEinpassen();
+}
+
+/// Rows, too: they are all of one height.
+void Plantafel::SpaltenEinpassen()
+{
+    const QScopedValueRollback merken(paßtEin, true);
+    const int höhe = maler->Größen().Reihe(modell->HatDienstwörter());
+    for (QTableView *ansicht : {static_cast<QTableView *>(this), Vorn})
+        if (ansicht->verticalHeader()->defaultSectionSize() != höhe)
+            ansicht->verticalHeader()->setDefaultSectionSize(höhe);
+    for (int spalte = 0; spalte < modell->columnCount(); ++spalte) {
+        const int gemerkt = Gemerktes().value(Breitenschlüssel(Spaltenname(spalte)), 0).toInt();
+        const int breite = gemerkt > 0 ? gemerkt * zoom / 100 : sizeHintForColumn(spalte);
+        const bool weg = spalte == Planmodell::Fest && !modell->HatFesteEinträge();
+        for (QTableView *ansicht : {static_cast<QTableView *>(this), Vorn}) {
+            const bool versteckt = weg || (ansicht == Vorn && spalte >= Planmodell::Kopfspalten);
+            if (ansicht->isColumnHidden(spalte) != versteckt)
+                ansicht->setColumnHidden(spalte, versteckt);
+            if (!versteckt && ansicht->columnWidth(spalte) != breite)
+                ansicht->setColumnWidth(spalte, breite);
+        }
+    }
+    VorderesEinpassen();
+}
+
+/// One view follows the other; what the user chose is remembered, unless it is what the content
+/// needs anyway.
+void Plantafel::SpalteGezogen(int spalte, int breite)
+{
+    if (paßtEin)
+        return;
+    const QScopedValueRollback merken(paßtEin, true);
+    setColumnWidth(spalte, breite);
+    if (spalte < Planmodell::Kopfspalten)
+        Vorn->setColumnWidth(spalte, breite);
+    const QString schlüssel = Breitenschlüssel(Spaltenname(spalte));
+    if (breite == sizeHintForColumn(spalte))
+        Gemerktes().remove(schlüssel);
+    else if (breite > 0)
+        Gemerktes().setValue(schlüssel, breite * 100 / zoom);
+    VorderesEinpassen();
+}
+
+/// Where they would leave less than half of the width to the places, all columns scroll.
+void Plantafel::VorderesEinpassen()
+{
+    int breite = 0;
+    for (int spalte = 0; spalte < Planmodell::Kopfspalten; ++spalte)
+        breite += columnWidth(spalte);
+    Vorn->setVisible(2 * breite <= viewport()->width());
+    Vorn->setGeometry(frameWidth(), frameWidth(), breite,
+                      viewport()->height() + horizontalHeader()->height());
+}
+
+int Plantafel::sizeHintForColumn(int spalte) const
+{
+    return std::max(maler->Breite(spalte), horizontalHeader()->sectionSizeHint(spalte));
+}
+
+bool Plantafel::IstFest(const QModelIndex &zelle) const
+{
+    return Vorn->isVisible() && zelle.column() < Planmodell::Kopfspalten;
+}
+
+/// A cell below the columns that stay is not in sight.
+void Plantafel::scrollTo(const QModelIndex &zelle, ScrollHint wie)
+{
+    const int seitlich = horizontalScrollBar()->value();
+    QTableView::scrollTo(zelle, wie);
+    if (IstFest(zelle)) {
+        horizontalScrollBar()->setValue(seitlich);
+        return;
+    }
+    const int verdeckt = Vorn->isVisible() ? Vorn->width() - visualRect(zelle).left() : 0;
+    if (verdeckt > 0)
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() - verdeckt);
+}
+
+QModelIndex Plantafel::moveCursor(CursorAction wohin, Qt::KeyboardModifiers tasten)
+{
+    const QModelIndex jetzt = currentIndex();
+    const bool leer = !jetzt.isValid() && modell->rowCount() > 0;
+    return leer ? modell->index(0, Planmodell::Tag) : QTableView::moveCursor(wohin, tasten);
+}
+
+void Plantafel::currentChanged(const QModelIndex &jetzt, const QModelIndex &zuvor)
+{
+    QTableView::currentChanged(jetzt, zuvor);
+    if (BeiWahl)
+        BeiWahl();
+}
+
+void Plantafel::focusInEvent(QFocusEvent *ereignis)
+{
+    QTableView::focusInEvent(ereignis);
+    Vorn->viewport()->update();
+}
+
+void Plantafel::focusOutEvent(QFocusEvent *ereignis)
+{
+    QTableView::focusOutEvent(ereignis);
+    Vorn->viewport()->update();
+}
+
+void Plantafel::resizeEvent(QResizeEvent *ereignis)
+{
+    QTableView::resizeEvent(ereignis);
+    VorderesEinpassen();
+}
+
+void Plantafel::updateGeometries()
+{
+    QTableView::updateGeometries();
+    VorderesEinpassen();
+}
+
+void Plantafel::changeEvent(QEvent *ereignis)
+{
+    QTableView::changeEvent(ereignis);
+    if (ereignis->type() == QEvent::PaletteChange)
+        viewport()->update();
+}
+
+void Plantafel::keyPressEvent(QKeyEvent *taste)
+{
+    const bool allein = (taste->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const bool eingabe = taste->key() == Qt::Key_Return || taste->key() == Qt::Key_Enter;
+    if (taste->matches(QKeySequence::Copy))
+        Kopieren();
+    else if (allein && eingabe && BeiEingabe)
+        BeiEingabe();
+    else if (allein && taste->key() == Qt::Key_Delete && BeiEntfernen)
+        BeiEntfernen();
+    else if (MitStrg(taste->modifiers()) && TasteMitStrg(taste->key()))
+        taste->accept();
+    else if (!taste->text().isEmpty() && taste->text().front().isPrint())
+        taste->ignore(); // nothing is looked for by typing
+    else
+        QTableView::keyPressEvent(taste);
+}
+
+bool Plantafel::TasteMitStrg(int taste)
+{
+    switch (taste) {
+    case Qt::Key_Plus:
+        Zoomen(zoom + Zoomschritt);
+        return true;
+    case Qt::Key_Minus:
+        Zoomen(zoom - Zoomschritt);
+        return true;
+    case Qt::Key_0:
+        Zoomen(100);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void Plantafel::wheelEvent(QWheelEvent *rad)
+{
+    if (rad->modifiers() != Qt::ControlModifier)
+        return QTableView::wheelEvent(rad);
+    if (rad->angleDelta().y() != 0)
+        Zoomen(zoom + (rad->angleDelta().y() > 0 ? Zoomschritt : -Zoomschritt));
+    rad->accept();
+}
+
+void Plantafel::contextMenuEvent(QContextMenuEvent *ereignis)
+{
+    QPoint ort = ereignis->globalPos();
+    if (ereignis->reason() == QContextMenuEvent::Keyboard) {
+        const QTableView *ansicht = IstFest(currentIndex()) ? Vorn : this;
+        ort = ansicht->viewport()->mapToGlobal(visualRect(currentIndex()).center());
+    }
+    if (currentIndex().isValid() && BeiMenü)
+        BeiMenü(ort);
+}
+
+/// What happens on the columns that stay belongs to the whole grid.
+bool Plantafel::eventFilter(QObject *wer, QEvent *ereignis)
+{
+    if (wer == Vorn->viewport() && ereignis->type() == QEvent::ContextMenu) {
+        contextMenuEvent(static_cast<QContextMenuEvent *>(ereignis));
+        return true;
+    }
+    if (wer == Vorn->viewport() && ereignis->type() == QEvent::Wheel) {
+        QApplication::sendEvent(viewport(), ereignis);
+        return true;
+    }
+    return QTableView::eventFilter(wer, ereignis);
+}
+
+/// The smallest rectangle around the selection, tab-separated, as spreadsheets take it.
+void Plantafel::Kopieren() const
+{
+    const QModelIndexList gewählte = selectionModel()->selectedIndexes();
+    if (gewählte.isEmpty())
+        return;
+    QRect rahmen(QPoint(gewählte.front().column(), gewählte.front().row()), QSize(1, 1));
+    for (const QModelIndex &zelle : gewählte)
+        rahmen |= QRect(QPoint(zelle.column(), zelle.row()), QSize(1, 1));
+    QString text;
+    for (int zeile = rahmen.top(); zeile <= rahmen.bottom(); ++zeile) {
+        QStringList felder;
+        for (int spalte = rahmen.left(); spalte <= rahmen.right(); ++spalte) {
+            const QModelIndex zelle = modell->index(zeile, spalte);
+            if (!isColumnHidden(spalte))
+                felder.append(selectionModel()->isSelected(zelle) ? modell->Ganz(zelle)
+                                                                  : QString());
+        }
+        text += felder.join('\t') + '\n';
+    }
+    text.chop(1);
+    QApplication::clipboard()->setText(text);
+}
+
+QString Plantafel::Zeilenname(int zeile) const
+{
+    if (zeile < 0 || zeile >= modell->rowCount())
+        return {};
+    return modell->Kopf(zeile, Planmodell::Datumspalte) + modell->Kopf(zeile, Planmodell::Uhrzeit) +
+           modell->Kopf(zeile, Planmodell::Art);
+}
+
+QString Plantafel::Spaltenname(int spalte) const
+{
+    if (spalte < Planmodell::Kopfspalten) // some have no caption
+        return QString::number(spalte);
+    return modell->headerData(spalte, Qt::Horizontal, Qt::DisplayRole).toString();
+}
+
+void Plantafel::StandMerken()
+{
+    stand = {Zeilenname(rowAt(0)), Zeilenname(currentIndex().row()),
+             Spaltenname(currentIndex().column()), horizontalScrollBar()->value()};
+}
+
+void Plantafel::StandZurück()
+{
+    const auto zeileVon = [this](const QString &name) {
+        int zeile = name.isEmpty() ? -1 : modell->rowCount() - 1;
+        while (zeile >= 0 && Zeilenname(zeile) != name)
+            --zeile;
+        return zeile;
+    };
+    updateGeometries();
+    Vorn->updateGeometry();
+    if (const int zeile = zeileVon(stand.Messe); zeile >= 0)
+        for (int spalte = 0; spalte < modell->columnCount(); ++spalte)
+            if (Spaltenname(spalte) == stand.Spalte)
+                setCurrentIndex(modell->index(zeile, spalte));
+    if (const int zeile = zeileVon(stand.Oberste); zeile >= 0)
+        QTableView::scrollTo(modell->index(zeile, Planmodell::Tag), PositionAtTop);
+    horizontalScrollBar()->setValue(stand.Seitlich);
+    if (BeiWahl)
+        BeiWahl();
+}
+
+} // namespace altardienst
