@@ -54,7 +54,7 @@ void GuterPlan()
     }
 }
 
-Planprüfung &Prüfung()
+Planprüfung &Laufende()
 {
     static Planprüfung prüfung;
     return prüfung;
@@ -75,19 +75,19 @@ void PlanprüfungMessungen()
 {
     GuterPlan();
     AufFestplatteSpeichern();
-    Prüfung().Neu();
+    Laufende().Neu();
     std::printf("The plan that is checked: %s\n",
-                Befundzahl(Prüfung().Verstöße(), Prüfung().Hinweise()).c_str());
+                Befundzahl(Laufende().Verstöße(), Laufende().Hinweise()).c_str());
     const Arbeit laden = {TabellenLeeren, VonFestplatteLaden};
     MessungAnmelden({.Name = "Plan prüfen",
                      .Maßstabname = "Laden der acht Dateien",
-                     .Gemessen = {GuterPlan, [] { Prüfung().Neu(); }},
+                     .Gemessen = {GuterPlan, [] { Laufende().Neu(); }},
                      .Maßstab = laden,
                      .Ziel = ZielGanz,
                      .Durchläufe = 200});
     MessungAnmelden({.Name = "Einer Änderung folgen",
                      .Maßstabname = "Laden der acht Dateien",
-                     .Gemessen = {EinenPlatzÄndern, [] { Prüfung().MesseGeändert(300); }},
+                     .Gemessen = {EinenPlatzÄndern, [] { Laufende().MesseGeändert(300); }},
                      .Maßstab = laden,
                      .Ziel = ZielÄnderung,
                      .Durchläufe = 200});

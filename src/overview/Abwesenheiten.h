@@ -7,14 +7,14 @@
 
 namespace altardienst {
 
-struct Abwesenheit {
+struct Fehlzeit {
     Datum Von; // 0: not set
     Datum Bis;
 
     bool IstEingetragen() const { return Von != 0 || Bis != 0; }
 };
 
-inline std::array<Abwesenheit, 5> Abwesenheiten(const MeßdienerTabelle &t, int j)
+inline std::array<Fehlzeit, 5> Abwesenheiten(const MeßdienerTabelle &t, int j)
 {
     return {{{t.Von1[j], t.Bis1[j]},
              {t.Von2[j], t.Bis2[j]},
@@ -23,7 +23,7 @@ inline std::array<Abwesenheit, 5> Abwesenheiten(const MeßdienerTabelle &t, int 
              {t.Von5[j], t.Bis5[j]}}};
 }
 
-inline std::array<Abwesenheit, 3> Abwesenheiten(const HelferTabelle &t, int j)
+inline std::array<Fehlzeit, 3> Abwesenheiten(const HelferTabelle &t, int j)
 {
     return {{{t.Von1[j], t.Bis1[j]}, {t.Von2[j], t.Bis2[j]}, {t.Von3[j], t.Bis3[j]}}};
 }

@@ -50,7 +50,7 @@ Text FesterName(const Plantabellen &t, const Befund &b)
 /// "vom 01.12. bis 05.12.", with only one end "bis 05.12.".
 template <class Tabelle> Text Zeitraumsatz(const Tabelle &personen, int j, Datum tag)
 {
-    for (const Abwesenheit &a : Abwesenheiten(personen, j))
+    for (const Fehlzeit &a : Abwesenheiten(personen, j))
         if (a.IstEingetragen() && LiegtIn(tag, a.Von, a.Bis))
             return (a.Von == 0 ? Text() : "vom " + TagImSatz(a.Von) + " ") + "bis " +
                    TagImSatz(a.Bis);
@@ -115,8 +115,8 @@ Text Partnersatz(const Plantabellen &t, const Befund &b, const Mensch &m)
         return "Nach dem letzten Platz ist für " + partner + ", den Wunschpartner von " + m.Name +
                ", kein Platz mehr.";
     if (b.Bezug != b.Wo)
-        return m.Name + " steht nicht neben dem Wunschpartner " + partner + ", der auf " +
-               Platzaufschrift(b.Bezug) + " steht.";
+        return m.Name + " steht nicht neben dem Wunschpartner " + partner + " (" +
+               Platzaufschrift(b.Bezug) + ").";
     return m.Name + " dient ohne den Wunschpartner " + partner + ".";
 }
 
@@ -167,7 +167,7 @@ Text SatzOderFehler(const Plantabellen &t, const Befund &b, const Mensch &m)
                              ? " ist unter den Meßdienern nicht zu finden."
                              : " ist unter den Helfern nicht zu finden.");
     case Regel::Mehrdeutig:
-        return "Mehrere heißen " + m.Name + "; wer hier steht, lässt sich nicht prüfen.";
+        return "Mehrere heißen " + m.Name + "; wer hier steht, läßt sich nicht prüfen.";
     case Regel::Doppelt:
         return m.Name + " steht in dieser Messe auch auf " + Platzaufschrift(b.Bezug) + ".";
     case Regel::SelberTag:

@@ -20,12 +20,12 @@ QString Tag(Datum datum)
     return datum == 0 ? QString("–") : Anzeige(KurzesDatum(datum));
 }
 
-Text Suchzeile(const Kandidat &wer)
+Text Suchzeile(const Platzkandidat &wer)
 {
     return wer.Vorname + " " + wer.Nachname + " " + wer.Gruppe + " " + wer.Wunschpartner;
 }
 
-QString Zelltext(const Kandidat &wer, int spalte)
+QString Zelltext(const Platzkandidat &wer, int spalte)
 {
     switch (spalte) {
     case Kandidatenmodell::Name:
@@ -61,7 +61,7 @@ bool IstZahl(int spalte)
 
 Kandidatenmodell::Kandidatenmodell(QObject *eigner) : QAbstractTableModel(eigner) {}
 
-void Kandidatenmodell::Zeigen(std::vector<Kandidat> neue)
+void Kandidatenmodell::Zeigen(std::vector<Platzkandidat> neue)
 {
     beginResetModel();
     alle = std::move(neue);
@@ -99,7 +99,7 @@ void Kandidatenmodell::Ordnen()
     });
 }
 
-bool Kandidatenmodell::Früher(const Kandidat &a, const Kandidat &b) const
+bool Kandidatenmodell::Früher(const Platzkandidat &a, const Platzkandidat &b) const
 {
     switch (sortiert) {
     case Zuletzt:
@@ -118,7 +118,7 @@ bool Kandidatenmodell::Früher(const Kandidat &a, const Kandidat &b) const
     }
 }
 
-const Kandidat &Kandidatenmodell::In(int zeile) const
+const Platzkandidat &Kandidatenmodell::In(int zeile) const
 {
     return alle[reihen[static_cast<std::size_t>(zeile)]];
 }
@@ -133,7 +133,7 @@ int Kandidatenmodell::ZeileVon(int nr) const
 
 QStringList Kandidatenmodell::Gründe(int zeile) const
 {
-    const Kandidat &wer = In(zeile);
+    const Platzkandidat &wer = In(zeile);
     QStringList gründe;
     for (const Gegengrund &grund : wer.Gegengründe)
         gründe.append(Anzeige(grund.Satz));
@@ -153,7 +153,7 @@ int Kandidatenmodell::columnCount(const QModelIndex &über) const
 /// The sign says what the order says: nothing is against those without one.
 QVariant Kandidatenmodell::data(const QModelIndex &zelle, int rolle) const
 {
-    const Kandidat &wer = In(zelle.row());
+    const Platzkandidat &wer = In(zelle.row());
     switch (rolle) {
     case Qt::DisplayRole:
         return Zelltext(wer, zelle.column());

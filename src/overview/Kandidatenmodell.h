@@ -16,11 +16,11 @@ class Kandidatenmodell : public QAbstractTableModel {
     explicit Kandidatenmodell(QObject *eigner);
 
     /// The best first.
-    void Zeigen(std::vector<Kandidat> neue);
+    void Zeigen(std::vector<Platzkandidat> neue);
     /// Only rows in whose name, group or wish partner every word stands.
     void Filtern(std::vector<Text> wörter);
 
-    const Kandidat &In(int zeile) const;
+    const Platzkandidat &In(int zeile) const;
     /// The row of a record; -1 if the filter hides it.
     int ZeileVon(int nr) const;
     /// Everything against somebody, sentence by sentence; empty if nothing is.
@@ -34,9 +34,9 @@ class Kandidatenmodell : public QAbstractTableModel {
 
   private:
     void Ordnen();
-    bool Früher(const Kandidat &a, const Kandidat &b) const;
+    bool Früher(const Platzkandidat &a, const Platzkandidat &b) const;
 
-    std::vector<Kandidat> alle;
+    std::vector<Platzkandidat> alle;
     std::vector<std::size_t> reihen;
     std::vector<Text> filter;
     int sortiert = -1; // the column; -1: best first

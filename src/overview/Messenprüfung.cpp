@@ -23,21 +23,21 @@ int Dienstsumme(const MesseTabelle &messen, int messe)
     return summe;
 }
 
+template <class Kenntnis, class Tabelle>
+void AbwesenheitenLesen(Kenntnis &kenntnis, const Tabelle &personen, int nr)
+{
+    kenntnis.Abwesend = 0;
+    for (const Fehlzeit &abwesenheit : Abwesenheiten(personen, nr))
+        if (abwesenheit.IstEingetragen())
+            kenntnis.Abwesenheiten[static_cast<std::size_t>(kenntnis.Abwesend++)] = abwesenheit;
+}
+
 } // namespace
 
 void Messenprüfung::Neu()
 {
-    const MeßdienerTabelle &diener = tabellen.Diener;
-    kenntnisse.assign(static_cast<std::size_t>(Planregister::ErsterHelfer), {});
-    for (int j = 0; j < std::min<int>(diener.Anzahl, Planregister::ErsterHelfer); ++j) {
-        Kenntnis &k = kenntnisse[static_cast<std::size_t>(j)];
-        for (std::size_t art = 0; art < Dienstarten.size(); ++art)
-            k.Darf[art] = DarfDienst(diener, j, Dienstarten[art]);
-        for (std::size_t stelle = 1; stelle < k.Ungern.size(); ++stelle)
-            k.Ungern[stelle] = IstJa(diener.Wochendienst[j], static_cast<int>(stelle));
-        k.IstManchmalAbwesend =
-            std::ranges::any_of(Abwesenheiten(diener, j), &Abwesenheit::IstEingetragen);
-    }
+    DienerLesen();
+    HelferLesen();
     const std::vector<int> &folge = plan.Folge();
     const MesseTabelle &messen = tabellen.Messen;
     zurSelbenZeit.assign(folge.size(), -1);
@@ -48,11 +48,54 @@ void Messenprüfung::Neu()
     allesAußerhalb = std::ranges::none_of(
         folge, [&](int i) { return LiegtImZeitraum(tabellen.Einstellungen, messen.Datum[i]); });
     try {
-        anteil = Dienstanteil(messen, diener.Anzahl);
+        anteil = Dienstanteil(messen, tabellen.Diener.Anzahl);
     } catch (const Laufzeitfehler &) { // without servers, or with too many places to count
         anteil.reset();
     }
     FesteLesen();
+}
+
+void Messenprüfung::DienerLesen()
+{
+    const MeßdienerTabelle &t = tabellen.Diener;
+    std::vector<std::string_view> geschlechter; // few, as a rule two
+    for (int j = 0; j < std::min<int>(t.Anzahl, Planregister::ErsterHelfer); ++j) {
+        Dienerkenntnis &k = diener[static_cast<std::size_t>(j)];
+        AbwesenheitenLesen(k, t, j);
+        for (std::size_t art = 0; art < Dienstarten.size(); ++art)
+            k.Darf[art] = DarfDienst(t, j, Dienstarten[art]);
+        for (std::size_t stelle = 1; stelle < k.Ungern.size(); ++stelle)
+            k.Ungern[stelle] = IstJa(t.Wochendienst[j], static_cast<int>(stelle));
+        const auto geschlecht = std::ranges::find(geschlechter, std::string_view(t.Geschlecht[j]));
+        k.Geschlecht = static_cast<int>(geschlecht - geschlechter.begin());
+        if (geschlecht == geschlechter.end())
+            geschlechter.push_back(t.Geschlecht[j]);
+    }
+}
+
+void Messenprüfung::HelferLesen()
+{
+    const HelferTabelle &t = tabellen.Helferinnen;
+    for (int h = 0; h <= std::min<int>(t.Anzahl - 1, HelferTabelle::HöchsterIndex); ++h) {
+        Helferkenntnis &k = helfer[static_cast<std::size_t>(h)];
+        AbwesenheitenLesen(k, t, h);
+        for (const Helferplatz &platz : Helferplätze) {
+            const std::size_t art = NummerDer(platz.Art);
+            k.Hat[art] = HatDienst(t, h, platz.Art);
+            k.Gegen[art] = HelferdienstPrüfen({t, h}, {tabellen.Messen, 0, platz}, {});
+        }
+    }
+}
+
+/// A mass without a date is on no day.
+bool Messenprüfung::Kenntnis::IstAbwesend(Datum tag) const
+{
+    for (int k = 0; k < Abwesend; ++k) {
+        const Fehlzeit &a = Abwesenheiten[static_cast<std::size_t>(k)];
+        if (LiegtIn(tag, a.Von, a.Bis))
+            return tag != 0;
+    }
+    return false;
 }
 
 /// Which entry wants a slot: the last one that means the mass and names somebody for the slot.
@@ -164,7 +207,8 @@ void Messenprüfung::SlotPrüfen(const Messenblick &blick, int slot, Befunde &be
     if (wer >= 0) {
         FrühereDienstePrüfen(Planregister::StelleVon(platz), Stufe::Verstoß, befunde);
         DienerPrüfen(blick, slot, befunde);
-        HäufigkeitPrüfen(blick, slot, befunde);
+        if (plan.LetztesPaar(wer) == Planregister::StelleVon(platz))
+            HäufigkeitPrüfen(platz, wer, befunde);
     } else if (wer != Namensregister::Frei) {
         NamenlosenPrüfen(platz, wer, befunde);
     } else if (eintrag < 0) {
@@ -185,13 +229,11 @@ void Messenprüfung::NamenlosenPrüfen(Planplatz platz, int wer, Befunde &befund
         befunde.push_back({Stufe::Verstoß, Regel::Unbekannt, platz});
 }
 
-void Messenprüfung::HäufigkeitPrüfen(const Messenblick &blick, int slot, Befunde &befunde) const
+/// Said once, where the server stands beside his wish partner last.
+void Messenprüfung::HäufigkeitPrüfen(Planplatz platz, int nr, Befunde &befunde) const
 {
-    const Planplatz platz = Dienerplatznr(blick.Messe, slot);
-    const int j = blick.Am(slot);
-    const int paare = plan.Paare(j);
-    if (paare > 0 && plan.LetztesPaar(j) == Planregister::StelleVon(platz) &&
-        SindZuVielePaare(platz, j, paare - 1))
+    const int paare = plan.Paare(nr);
+    if (SindZuVielePaare(platz, nr, paare - 1))
         befunde.push_back({Stufe::Hinweis, Regel::Häufigkeit, platz, {}, paare});
 }
 

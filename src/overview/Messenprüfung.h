@@ -3,6 +3,7 @@
 
 #include "assignment/Dienste.h"
 #include "assignment/Gründe.h"
+#include "overview/Abwesenheiten.h"
 #include "overview/Befund.h"
 #include "overview/Planregister.h"
 
@@ -56,16 +57,28 @@ class Messenprüfung {
         int Am(int slot) const { return Wer[static_cast<std::size_t>(slot)]; }
     };
 
-    /// What the tables say of a server, ready to be looked up for each of his places.
+    /// What the tables say of a person, ready to be looked up for each place.
     struct Kenntnis {
+        std::array<Fehlzeit, 5> Abwesenheiten{}; // the first ones are set
+        int Abwesend = 0;                           // how many
+
+        bool IstAbwesend(Datum tag) const;
+    };
+    struct Dienerkenntnis : Kenntnis {
         std::array<bool, Dienstarten.size()> Darf{};
         std::array<bool, 7> Ungern{}; // by the position of the weekly wish
-        bool IstManchmalAbwesend = false;
+        int Geschlecht = 0;           // the same number for the same text
+    };
+    struct Helferkenntnis : Kenntnis {
+        std::array<bool, Helferarten.size()> Hat{};
+        std::array<Grund, Helferarten.size()> Gegen{};
     };
 
     using Befunde = std::vector<Befund>;
     using FesteSlots = std::array<int, Slots + 1>; // entry by slot, -1 none
 
+    void DienerLesen();
+    void HelferLesen();
     void FesteLesen();
     Messenblick Ansehen(int messe) const;
     void BezugsgrößenRechnen(Messenblick &blick) const;
@@ -81,7 +94,7 @@ class Messenprüfung {
     static bool IstFalscheGröße(const Dienerperson &person, const Dienerplatz &platz, Int16 bezug);
     std::optional<Stufe> GeschlechtGrad(const Messenblick &blick, int slot) const;
     void PartnerPrüfen(const Messenblick &blick, int slot, Befunde &befunde) const;
-    void HäufigkeitPrüfen(const Messenblick &blick, int slot, Befunde &befunde) const;
+    void HäufigkeitPrüfen(Planplatz platz, int nr, Befunde &befunde) const;
     bool SindZuVielePaare(Planplatz platz, int diener, int paare) const;
     bool IstFestErfüllt(int eintrag, int slot, int diener, Platzname name) const;
     void DienergründePrüfen(Planplatz platz, int nr, Befunde &befunde) const;
@@ -92,7 +105,8 @@ class Messenprüfung {
 
     const Plantabellen &tabellen;
     const Planregister &plan;
-    std::vector<Kenntnis> kenntnisse;
+    std::array<Dienerkenntnis, MeßdienerTabelle::HöchsterIndex + 1> diener;
+    std::array<Helferkenntnis, HelferTabelle::HöchsterIndex + 1> helfer;
     std::vector<int> zurSelbenZeit; // another mass before it in the order of time, -1 none
     std::vector<int> festeDer;      // index in `feste`, -1 none
     std::vector<FesteSlots> feste;

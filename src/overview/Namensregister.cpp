@@ -6,6 +6,8 @@
 namespace altardienst {
 namespace {
 
+constexpr std::size_t Wort = sizeof(std::uint64_t);
+
 template <class Zahl> std::uint64_t Lesen(const char *von)
 {
     Zahl zahl;
@@ -13,60 +15,61 @@ template <class Zahl> std::uint64_t Lesen(const char *von)
     return zahl;
 }
 
-/// The beginning and the end of a name, where names differ.
-std::uint64_t Enden(const Text &name)
-{
-    const std::size_t länge = name.size();
-    const char *text = name.data();
-    if (länge >= 8)
-        return Lesen<std::uint64_t>(text) ^
-               (Lesen<std::uint64_t>(text + länge - 8) * 0x9E3779B97F4A7C15U) ^ länge;
-    if (länge >= 4)
-        return (Lesen<std::uint32_t>(text) | Lesen<std::uint32_t>(text + länge - 4) << 32) ^ länge;
-    if (länge == 0)
-        return 0;
-    return Lesen<std::uint8_t>(text) | Lesen<std::uint8_t>(text + länge / 2) << 8 |
-           Lesen<std::uint8_t>(text + länge - 1) << 16 | länge << 24;
-}
-
-std::size_t Prüfzahl(const Text &vorname, const Text &nachname)
-{
-    std::uint64_t zahl = Enden(vorname) * 0xBF58476D1CE4E5B9U;
-    zahl = (zahl ^ (zahl >> 29) ^ Enden(nachname)) * 0x94D049BB133111EBU;
-    return zahl ^ (zahl >> 32);
-}
-
 } // namespace
+
+Namensregister::Kurzform::Kurzform(const Text &name)
+    : Länge(static_cast<std::uint32_t>(name.size()))
+{
+    constexpr std::size_t Halb = sizeof(std::uint32_t);
+    const char *text = name.data();
+    if (Länge >= Wort) {
+        Anfang = Lesen<std::uint64_t>(text);
+        Ende = Lesen<std::uint64_t>(text + Länge - Wort);
+    } else if (Länge >= Halb) {
+        Anfang = Lesen<std::uint32_t>(text);
+        Ende = Lesen<std::uint32_t>(text + Länge - Halb);
+    } else if (Länge > 0) {
+        Anfang = Lesen<std::uint8_t>(text) | Lesen<std::uint8_t>(text + Länge / 2) << 8;
+        Ende = Lesen<std::uint8_t>(text + Länge - 1);
+    }
+}
 
 int Namensregister::Finden(const Text &vorname, const Text &nachname) const
 {
-    if (vorname.empty() && nachname.empty())
+    const Kurzform kurzVor(vorname);
+    const Kurzform kurzNach(nachname);
+    if (kurzVor.Länge == 0 && kurzNach.Länge == 0)
         return Frei;
-    const Eintrag &eintrag = einträge[Fach(vorname, nachname, Prüfzahl(vorname, nachname))];
-    return eintrag.Vorname ? eintrag.Nr : Unbekannt;
-}
-
-void Namensregister::Leeren()
-{
-    einträge.fill({nullptr, nullptr, 0, Frei});
+    const std::size_t fach = Fach(vorname, nachname, kurzVor, kurzNach);
+    return einträge[fach].Vorname ? nummern[fach] : Unbekannt;
 }
 
 void Namensregister::Eintragen(const Text &vorname, const Text &nachname, int nr)
 {
     if (vorname.empty() && nachname.empty())
         return;
-    const std::size_t prüfzahl = Prüfzahl(vorname, nachname);
-    Eintrag &eintrag = einträge[Fach(vorname, nachname, prüfzahl)];
-    eintrag = {&vorname, &nachname, prüfzahl, eintrag.Vorname ? Mehrdeutig : nr};
+    const Kurzform kurzVor(vorname);
+    const Kurzform kurzNach(nachname);
+    const std::size_t fach = Fach(vorname, nachname, kurzVor, kurzNach);
+    nummern[fach] = static_cast<std::int16_t>(einträge[fach].Vorname ? Mehrdeutig : nr);
+    einträge[fach] = {&vorname, &nachname, kurzVor, kurzNach};
 }
 
-std::size_t Namensregister::Fach(const Text &vorname, const Text &nachname,
-                                 std::size_t prüfzahl) const
+inline std::size_t Namensregister::Fach(const Text &vorname, const Text &nachname,
+                                        const Kurzform &kurzVor, const Kurzform &kurzNach) const
 {
-    std::size_t fach = prüfzahl % Fächer;
+    std::uint64_t prüfzahl =
+        (kurzVor.Anfang ^ kurzVor.Ende * 0x9E3779B97F4A7C15U) * 0xBF58476D1CE4E5B9U;
+    prüfzahl =
+        (prüfzahl ^ (prüfzahl >> 29) ^ kurzNach.Anfang ^ kurzNach.Ende * 0x9E3779B97F4A7C15U) *
+        0x94D049BB133111EBU;
+    const auto gleich = [](const Kurzform &a, const Kurzform &b, const Text &x, const Text &y) {
+        return a == b && (a.Länge <= 2 * Wort || x == y);
+    };
+    std::size_t fach = (prüfzahl ^ (prüfzahl >> 32)) % Fächer;
     while (einträge[fach].Vorname &&
-           (einträge[fach].Prüfzahl != prüfzahl || *einträge[fach].Nachname != nachname ||
-            *einträge[fach].Vorname != vorname))
+           !(gleich(einträge[fach].KurzNach, kurzNach, *einträge[fach].Nachname, nachname) &&
+             gleich(einträge[fach].KurzVor, kurzVor, *einträge[fach].Vorname, vorname)))
         fach = (fach + 1) % Fächer;
     return fach;
 }

@@ -33,19 +33,34 @@ class Namensregister {
   private:
     static constexpr std::size_t Fächer = 1024; // more than twice as many as there can be records
 
-    struct Eintrag {
-        const Text *Vorname; // null: the compartment is empty
-        const Text *Nachname;
-        std::size_t Prüfzahl;
-        int Nr;
+    /// A name as numbers: its beginning, its end, and its length. For a name of up to 16 bytes that
+    /// is all of it, so that comparing these suffices.
+    struct Kurzform {
+        std::uint64_t Anfang = 0;
+        std::uint64_t Ende = 0;
+        std::uint32_t Länge = 0;
+
+        explicit Kurzform(const Text &name);
+        Kurzform() = default;
+        friend bool operator==(const Kurzform &, const Kurzform &) = default;
     };
 
-    void Leeren();
+    /// As long as a cache line: whoever looks for a name reads one, as a rule.
+    struct alignas(64) Eintrag {
+        const Text *Vorname = nullptr; // null: the compartment is empty
+        const Text *Nachname = nullptr;
+        Kurzform KurzVor;
+        Kurzform KurzNach;
+    };
+
+    void Leeren() { einträge.fill({}); }
     void Eintragen(const Text &vorname, const Text &nachname, int nr);
     /// The compartment of a name, or the empty one where it belongs.
-    std::size_t Fach(const Text &vorname, const Text &nachname, std::size_t prüfzahl) const;
+    std::size_t Fach(const Text &vorname, const Text &nachname, const Kurzform &kurzVor,
+                     const Kurzform &kurzNach) const;
 
     std::array<Eintrag, Fächer> einträge{};
+    std::array<std::int16_t, Fächer> nummern{}; // of the records
 };
 
 } // namespace altardienst

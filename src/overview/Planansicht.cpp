@@ -154,7 +154,7 @@ void Planansicht::Gewählt()
 void Planansicht::PersonAngeben(const Text &vorname, const Text &nachname)
 {
     const Plantabellen tabellen = GemeinsameTabellen();
-    modell->Markieren(modell->PersonVon(vorname, nachname));
+    modell->Markieren(vorname, nachname);
     if (vorname.empty() && nachname.empty()) {
         Setzen(Person, "");
         Setzen(Abstände, "");

@@ -24,9 +24,7 @@ void Planregister::Neu()
     paare.fill(0);
     letztesPaar.fill(Keine);
     for (const int messe : folge) {
-        FürJedenGewünschten(messe, [this](Planplatz platz) {
-            const int person = NachschlagenAn(platz);
-            const Stelle stelle = StelleVon(platz);
+        FürJedenGewünschten(messe, [this](Stelle stelle, int person) {
             wer[Nr(stelle)] = static_cast<std::int16_t>(person);
             if (person >= 0)
                 Anhängen(stelle, person);
@@ -45,20 +43,22 @@ bool Planregister::Nachlesen(int messe, std::vector<int> &berührt)
         return false;
     struct Paarstand {
         int Diener;
+        int Paare;
         Stelle Letztes;
     };
-    std::vector<Paarstand> vorher; // of everybody in a pair of this mass, before or after
-    FürJedenGewünschten(messe, [&](Planplatz platz) {
-        const Stelle stelle = StelleVon(platz);
-        if (!imPaar[Nr(stelle)])
-            return;
-        vorher.push_back({Wer(stelle), LetztesPaar(Wer(stelle))});
-        --paare[Nr(Wer(stelle))];
-        imPaar[Nr(stelle)] = false;
-    });
-    FürJedenGewünschten(messe, [&](Planplatz platz) {
-        const Stelle stelle = StelleVon(platz);
-        const int person = NachschlagenAn(platz);
+    std::vector<Paarstand> vorher; // of everybody in a pair of this mass, then or now
+    const auto merken = [&](int j) {
+        if (std::ranges::find(vorher, j, &Paarstand::Diener) == vorher.end())
+            vorher.push_back({j, Paare(j), LetztesPaar(j)});
+    };
+    const Stelle erste = StelleVon(Dienerplatznr(messe, 1));
+    for (Stelle stelle = erste; stelle < erste + MesseTabelle::HöchsterSlot; ++stelle)
+        if (imPaar[Nr(stelle)]) {
+            merken(Wer(stelle));
+            --paare[Nr(Wer(stelle))];
+            imPaar[Nr(stelle)] = false;
+        }
+    FürJedenGewünschten(messe, [&](Stelle stelle, int person) {
         if (person == Wer(stelle))
             return;
         if (Wer(stelle) >= 0)
@@ -68,13 +68,16 @@ bool Planregister::Nachlesen(int messe, std::vector<int> &berührt)
             Einfügen(stelle, person, berührt);
     });
     FürJedesPaar(messe, [&](Stelle stelle) {
-        vorher.push_back({Wer(stelle), LetztesPaar(Wer(stelle))});
+        merken(Wer(stelle));
         ++paare[Nr(Wer(stelle))];
         imPaar[Nr(stelle)] = true;
     });
     for (const Paarstand &stand : vorher) {
-        letztesPaar[Nr(stand.Diener)] = LetztesPaarSuchen(stand.Diener);
-        for (const Stelle stelle : {stand.Letztes, LetztesPaar(stand.Diener)})
+        const Stelle letztes = LetztesPaarSuchen(stand.Diener);
+        letztesPaar[Nr(stand.Diener)] = letztes;
+        if (stand.Letztes == letztes && stand.Paare == Paare(stand.Diener))
+            continue;
+        for (const Stelle stelle : {stand.Letztes, letztes})
             if (stelle != Keine)
                 berührt.push_back(MesseVon(stelle));
     }
@@ -98,6 +101,8 @@ void Planregister::FolgeBestimmen()
     merkmale.reserve(Nr(messen));
     for (int i = 0; i < messen; ++i)
         merkmale.push_back(MerkmaleVon(i));
+    tage.resize(Nr(messen));
+    std::ranges::transform(merkmale, tage.begin(), &Merkmale::Tag);
     folge.resize(Nr(messen));
     std::iota(folge.begin(), folge.end(), 0);
     const auto früher = [this](int a, int b) {
@@ -121,23 +126,24 @@ void Planregister::WünscheLesen()
             partner[Nr(j)] = diener.Finden(t.WunschVorname[j], t.WunschNachname[j]);
 }
 
-int Planregister::NachschlagenAn(Planplatz platz) const
-{
-    const auto &[vorname, nachname] = NameAm(tabellen.Messen, platz);
-    if (platz.Was == Planplatz::Art::Diener)
-        return diener.Finden(vorname, nachname);
-    const int nr = helfer.Finden(vorname, nachname);
-    return nr < 0 ? nr : ErsterHelfer + nr;
-}
-
+/// Calls `f` with each wanted place of a mass and the person whose name stands there.
 template <class F> void Planregister::FürJedenGewünschten(int messe, F f) const
 {
+    const MesseTabelle &messen = tabellen.Messen;
     const Merkmale &m = merkmale[Nr(messe)];
+    const MesseTabelle::JeSlot &vornamen = messen.DienerVor[messe];
+    const MesseTabelle::JeSlot &nachnamen = messen.DienerNach[messe];
+    Stelle stelle = StelleVon(Dienerplatznr(messe, 1));
     for (int slot = 1; slot <= m.Dienerplätze; ++slot)
-        f(Dienerplatznr(messe, slot));
-    for (int nr = 0; nr < static_cast<int>(Helferplätze.size()); ++nr)
-        if (Helferplätze[Nr(nr)].Nummer <= m.Helfer[NummerDer(Helferplätze[Nr(nr)].Art)])
-            f(Helferplatznr(messe, nr));
+        f(stelle++, diener.Finden(vornamen[slot], nachnamen[slot]));
+    stelle = StelleVon(Helferplatznr(messe, 0));
+    for (const Helferplatz &platz : Helferplätze) {
+        if (platz.Nummer <= m.Helfer[NummerDer(platz.Art)]) {
+            const int nr = helfer.Finden((messen.*platz.Vor)[messe], (messen.*platz.Nach)[messe]);
+            f(stelle, nr < 0 ? nr : ErsterHelfer + nr);
+        }
+        ++stelle;
+    }
 }
 
 /// As the partner way places them: a server, and in the next slot the one he wishes for, whose own

@@ -19,6 +19,8 @@ class Planregister {
     static constexpr Stelle Keine = -1;
 
     explicit Planregister(const Plantabellen &tabellen) : tabellen(tabellen) {}
+    Planregister(const Planregister &) = delete;
+    Planregister &operator=(const Planregister &) = delete;
 
     /// Reads the plan.
     void Neu();
@@ -34,6 +36,7 @@ class Planregister {
     /// Records of servers as they are, those of helpers after them, or what `Namensregister` says
     /// of names without a record. Free for a place that the mass does not want.
     int Wer(Stelle stelle) const { return wer[Nr(stelle)]; }
+    Datum Tag(int messe) const { return tage[Nr(messe)]; }
     /// The same person's services.
     Stelle Davor(Stelle stelle) const { return davor[Nr(stelle)]; }
     Stelle Letzte(int person) const { return letzte[Nr(person)]; }
@@ -81,7 +84,6 @@ class Planregister {
     Merkmale MerkmaleVon(int messe) const;
     void FolgeBestimmen();
     void WünscheLesen();
-    int NachschlagenAn(Planplatz platz) const;
     template <class F> void FürJedenGewünschten(int messe, F f) const;
     template <class F> void FürJedesPaar(int messe, F f) const;
     bool StehtDerGewünschteNach(int messe, int slot) const;
@@ -96,6 +98,7 @@ class Planregister {
     Namensregister diener;
     Namensregister helfer;
     std::vector<Merkmale> merkmale;
+    std::vector<Datum> tage; // again, close together
     std::vector<int> folge;
     std::vector<int> rang; // of a mass in `folge`
     std::vector<std::int16_t> wer;

@@ -4,6 +4,7 @@
 #include "application/Gemerktes.h"
 #include "controls/Bausteine.h"
 #include "controls/Handler.h"
+#include "overview/Tafelteile.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -47,30 +48,13 @@ Plantafel::Plantafel(Planmodell *modell)
     Zoomen(Gemerktes().value(Zoomschlüssel, 100).toInt());
 }
 
-void Plantafel::AnsichtEinrichten(QTableView *ansicht)
-{
-    ansicht->setModel(modell);
-    ansicht->setItemDelegate(maler);
-    ansicht->setShowGrid(false);
-    ansicht->setWordWrap(false);
-    ansicht->setEditTriggers(NoEditTriggers);
-    ansicht->setTabKeyNavigation(false);
-    ansicht->setSelectionMode(ExtendedSelection);
-    ansicht->setHorizontalScrollMode(ScrollPerPixel);
-    ansicht->setVerticalScrollMode(ScrollPerPixel);
-    ansicht->verticalHeader()->hide();
-    ansicht->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    ansicht->verticalHeader()->setMinimumSectionSize(1);
-    QHeaderView *kopf = ansicht->horizontalHeader();
-    kopf->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    kopf->setHighlightSections(false);
-    kopf->setMinimumSectionSize(1);
-}
-
 void Plantafel::Anordnen()
 {
-    AnsichtEinrichten(this);
-    AnsichtEinrichten(Vorn);
+    for (QTableView *ansicht : {static_cast<QTableView *>(this), Vorn}) {
+        ansicht->setModel(modell);
+        ansicht->setItemDelegate(maler);
+        TafelEinrichten(ansicht);
+    }
     Vorn->setSelectionModel(selectionModel());
     Vorn->setFocusPolicy(Qt::ClickFocus);
     Vorn->setFocusProxy(this);
@@ -97,8 +81,10 @@ void Plantafel::Verbinden()
     };
     connect(this, &QTableView::doubleClicked, this, Abgefangen(hin));
     connect(Vorn, &QTableView::doubleClicked, this, Abgefangen(hin));
-    connect(modell, &QAbstractItemModel::modelAboutToBeReset, this,
-            Abgefangen([this] { StandMerken(); }));
+    connect(modell, &QAbstractItemModel::modelAboutToBeReset, this, Abgefangen([this] {
+                stand =
+                    Tafelstand(*modell, rowAt(0), currentIndex(), horizontalScrollBar()->value());
+            }));
     connect(modell, &QAbstractItemModel::modelReset, this, Abgefangen([this] {
                 SpaltenEinpassen();
                 StandZurück();
@@ -151,7 +137,8 @@ void Plantafel::SpaltenEinpassen()
         if (ansicht->verticalHeader()->defaultSectionSize() != höhe)
             ansicht->verticalHeader()->setDefaultSectionSize(höhe);
     for (int spalte = 0; spalte < modell->columnCount(); ++spalte) {
-        const int gemerkt = Gemerktes().value(Breitenschlüssel(Spaltenname(spalte)), 0).toInt();
+        const int gemerkt =
+            Gemerktes().value(Breitenschlüssel(Spaltenname(*modell, spalte)), 0).toInt();
         const int breite = gemerkt > 0 ? gemerkt * zoom / 100 : sizeHintForColumn(spalte);
         const bool weg = spalte == Planmodell::Fest && !modell->HatFesteEinträge();
         for (QTableView *ansicht : {static_cast<QTableView *>(this), Vorn}) {
@@ -175,7 +162,7 @@ void Plantafel::SpalteGezogen(int spalte, int breite)
     setColumnWidth(spalte, breite);
     if (spalte < Planmodell::Kopfspalten)
         Vorn->setColumnWidth(spalte, breite);
-    const QString schlüssel = Breitenschlüssel(Spaltenname(spalte));
+    const QString schlüssel = Breitenschlüssel(Spaltenname(*modell, spalte));
     if (breite == sizeHintForColumn(spalte))
         Gemerktes().remove(schlüssel);
     else if (breite > 0)
@@ -332,66 +319,19 @@ bool Plantafel::eventFilter(QObject *wer, QEvent *ereignis)
     return QTableView::eventFilter(wer, ereignis);
 }
 
-/// The smallest rectangle around the selection, tab-separated, as spreadsheets take it.
 void Plantafel::Kopieren() const
 {
     const QModelIndexList gewählte = selectionModel()->selectedIndexes();
-    if (gewählte.isEmpty())
-        return;
-    QRect rahmen(QPoint(gewählte.front().column(), gewählte.front().row()), QSize(1, 1));
-    for (const QModelIndex &zelle : gewählte)
-        rahmen |= QRect(QPoint(zelle.column(), zelle.row()), QSize(1, 1));
-    QString text;
-    for (int zeile = rahmen.top(); zeile <= rahmen.bottom(); ++zeile) {
-        QStringList felder;
-        for (int spalte = rahmen.left(); spalte <= rahmen.right(); ++spalte) {
-            const QModelIndex zelle = modell->index(zeile, spalte);
-            if (!isColumnHidden(spalte))
-                felder.append(selectionModel()->isSelected(zelle) ? modell->Ganz(zelle)
-                                                                  : QString());
-        }
-        text += felder.join('\t') + '\n';
-    }
-    text.chop(1);
-    QApplication::clipboard()->setText(text);
-}
-
-QString Plantafel::Zeilenname(int zeile) const
-{
-    if (zeile < 0 || zeile >= modell->rowCount())
-        return {};
-    return modell->Kopf(zeile, Planmodell::Datumspalte) + modell->Kopf(zeile, Planmodell::Uhrzeit) +
-           modell->Kopf(zeile, Planmodell::Art);
-}
-
-QString Plantafel::Spaltenname(int spalte) const
-{
-    if (spalte < Planmodell::Kopfspalten) // some have no caption
-        return QString::number(spalte);
-    return modell->headerData(spalte, Qt::Horizontal, Qt::DisplayRole).toString();
-}
-
-void Plantafel::StandMerken()
-{
-    stand = {Zeilenname(rowAt(0)), Zeilenname(currentIndex().row()),
-             Spaltenname(currentIndex().column()), horizontalScrollBar()->value()};
+    if (!gewählte.isEmpty())
+        QApplication::clipboard()->setText(AlsTabelle(gewählte, *this, *modell));
 }
 
 void Plantafel::StandZurück()
 {
-    const auto zeileVon = [this](const QString &name) {
-        int zeile = name.isEmpty() ? -1 : modell->rowCount() - 1;
-        while (zeile >= 0 && Zeilenname(zeile) != name)
-            --zeile;
-        return zeile;
-    };
     updateGeometries();
-    Vorn->updateGeometry();
-    if (const int zeile = zeileVon(stand.Messe); zeile >= 0)
-        for (int spalte = 0; spalte < modell->columnCount(); ++spalte)
-            if (Spaltenname(spalte) == stand.Spalte)
-                setCurrentIndex(modell->index(zeile, spalte));
-    if (const int zeile = zeileVon(stand.Oberste); zeile >= 0)
+    if (const QModelIndex zelle = stand.Zelle(*modell); zelle.isValid())
+        setCurrentIndex(zelle);
+    if (const int zeile = stand.ObersteZeile(*modell); zeile >= 0)
         QTableView::scrollTo(modell->index(zeile, Planmodell::Tag), PositionAtTop);
     horizontalScrollBar()->setValue(stand.Seitlich);
     if (BeiWahl)

@@ -3,6 +3,7 @@
 
 #include "overview/Planmaler.h"
 #include "overview/Planmodell.h"
+#include "overview/Tafelstand.h"
 
 #include <QTableView>
 
@@ -32,6 +33,7 @@ class Plantafel : public QTableView {
 
     int Zoom() const { return zoom; } // per cent
     void Zoomen(int prozent);
+    /// Copies the smallest rectangle around the selection, tab-separated, as spreadsheets take it.
     void Kopieren() const;
 
     void scrollTo(const QModelIndex &zelle, ScrollHint wie = EnsureVisible) override;
@@ -55,28 +57,16 @@ class Plantafel : public QTableView {
   private:
     void Anordnen();
     void Verbinden();
-    void AnsichtEinrichten(QTableView *ansicht);
     void SpaltenEinpassen();
+    void StandZurück();
     void SpalteGezogen(int spalte, int breite);
     void VorderesEinpassen();
     bool TasteMitStrg(int taste);
     bool IstFest(const QModelIndex &zelle) const;
 
-    /// Where one was, by what stands there: masses may come and go.
-    struct Stand {
-        QString Oberste; // mass in the first row
-        QString Messe;   // of the current cell
-        QString Spalte;
-        int Seitlich = 0;
-    };
-    void StandMerken();
-    void StandZurück();
-    QString Zeilenname(int zeile) const;
-    QString Spaltenname(int spalte) const;
-
     Planmodell *modell;
     Planmaler *maler;
-    Stand stand;
+    Tafelstand stand;
     int zoom = 100;
     bool paßtEin = false; // widths are set by the program, not by the user
 };

@@ -6,33 +6,21 @@
 #include <algorithm>
 
 namespace altardienst {
-namespace {
-
-/// What a reason of the draw for refusing somebody is called in a finished plan.
-void Melden(Grund grund, Stufe grad, Regel regel, Planplatz wo, std::vector<Befund> &befunde,
-            int zahl = 0)
-{
-    if (grund != Grund::Keiner)
-        befunde.push_back({grad, regel, wo, {}, zahl});
-}
-
-} // namespace
-
 /// Somebody's service before this one: in the same mass, on the same or on the previous day.
 void Messenprüfung::FrühereDienstePrüfen(Stelle stelle, Stufe nachbarn, Befunde &befunde) const
 {
     const Stelle vorige = plan.Davor(stelle);
     if (vorige == Planregister::Keine)
         return;
+    const Datum zuletzt = plan.Tag(Planregister::MesseVon(vorige));
+    const Datum tag = plan.Tag(Planregister::MesseVon(stelle));
+    if (!IstGesperrt(zuletzt, tag))
+        return;
     const Planplatz platz = Planregister::PlatzVon(stelle);
     const Planplatz bezug = Planregister::PlatzVon(vorige);
-    if (bezug.Messe == platz.Messe) {
+    if (bezug.Messe == platz.Messe) // that place is asked for the days before
         befunde.push_back({Stufe::Verstoß, Regel::Doppelt, platz, bezug});
-        return; // that place is asked for the days before
-    }
-    const Datum zuletzt = tabellen.Messen.Datum[bezug.Messe];
-    const Datum tag = tabellen.Messen.Datum[platz.Messe];
-    if (IstGesperrt(zuletzt, tag))
+    else
         befunde.push_back(
             {nachbarn, zuletzt == tag ? Regel::SelberTag : Regel::Nachbartag, platz, bezug});
 }
@@ -68,7 +56,7 @@ void Messenprüfung::AndereDienstePrüfen(Planplatz platz, int person, Stufe nac
 void Messenprüfung::DienerPrüfen(const Messenblick &blick, int slot, Befunde &befunde) const
 {
     const int j = blick.Am(slot);
-    const Kenntnis &kenntnis = kenntnisse[static_cast<std::size_t>(j)];
+    const Dienerkenntnis &kenntnis = diener[static_cast<std::size_t>(j)];
     const Planplatz platz = Dienerplatznr(blick.Messe, slot);
     const Dienerperson person = {tabellen.Diener, j};
     const Dienerplatz stelle = {tabellen.Messen, tabellen.Einstellungen, blick.Messe, slot};
@@ -78,10 +66,8 @@ void Messenprüfung::DienerPrüfen(const Messenblick &blick, int slot, Befunde &
         befunde.push_back({Stufe::Hinweis, Regel::Größe, platz, {}, *bezug});
     if (!kenntnis.Darf[static_cast<std::size_t>(&blick.Dienst(slot) - Dienstarten.data())])
         befunde.push_back({Stufe::Verstoß, Regel::Qualifikation, platz});
-    // A mass without a date is on no day.
-    if (kenntnis.IstManchmalAbwesend && blick.Tag != 0)
-        Melden(AnwesenheitPrüfen(person, stelle, {}), Stufe::Verstoß, Regel::Abwesend, platz,
-               befunde);
+    if (kenntnis.IstAbwesend(blick.Tag))
+        befunde.push_back({Stufe::Verstoß, Regel::Abwesend, platz});
     if (const std::optional<Stufe> grad = GeschlechtGrad(blick, slot))
         befunde.push_back({*grad, Regel::Geschlecht, platz, Dienerplatznr(blick.Messe, slot - 1)});
     if (blick.IstWochendienst && kenntnis.Ungern[1])
@@ -110,6 +96,9 @@ std::optional<Stufe> Messenprüfung::GeschlechtGrad(const Messenblick &blick, in
     const int nachbar = blick.Am(slot - 1);
     if (j < 0 || nachbar < 0)
         return std::nullopt;
+    if (diener[static_cast<std::size_t>(j)].Geschlecht ==
+        diener[static_cast<std::size_t>(nachbar)].Geschlecht)
+        return std::nullopt; // fits in any slot
     const auto passtZu = [&](int anderer) {
         return GeschlechtPrüfen({tabellen.Diener, j},
                                 {tabellen.Messen, tabellen.Einstellungen, blick.Messe, slot},
@@ -137,8 +126,7 @@ void Messenprüfung::PartnerPrüfen(const Messenblick &blick, int slot, Befunde 
     if (dort != blick.Wer.end())
         befunde.push_back({Stufe::Hinweis, Regel::Wunschpartner, platz,
                            Dienerplatznr(blick.Messe, static_cast<int>(dort - blick.Wer.begin()))});
-    else if (!kenntnisse[static_cast<std::size_t>(partner)].IstManchmalAbwesend ||
-             !IstAbwesend(tabellen.Diener, partner, blick.Tag))
+    else if (!diener[static_cast<std::size_t>(partner)].IstAbwesend(blick.Tag))
         befunde.push_back({Stufe::Hinweis, Regel::Wunschpartner, platz, platz});
 }
 
@@ -146,7 +134,8 @@ void Messenprüfung::HelferplätzePrüfen(int messe, Befunde &befunde) const
 {
     for (int nr = 0; nr < static_cast<int>(Helferplätze.size()); ++nr) {
         const Planplatz platz = Helferplatznr(messe, nr);
-        if (!IstGewünscht(tabellen.Messen, platz))
+        const Helferplatz &art = Helferplätze[static_cast<std::size_t>(nr)];
+        if (!art.Nötig(tabellen.Messen, messe))
             continue;
         const Stelle stelle = Planregister::StelleVon(platz);
         const int wer = plan.Wer(stelle);
@@ -165,16 +154,14 @@ void Messenprüfung::HelferplätzePrüfen(int messe, Befunde &befunde) const
 /// twice: whoever has not entered it is only worth a look there.
 void Messenprüfung::HelferPrüfen(Planplatz platz, int nr, Befunde &befunde) const
 {
-    const Helferplatz &art = Helferplätze[static_cast<std::size_t>(platz.Nr)];
-    const Helferperson person = {tabellen.Helferinnen, nr};
-    const Helferstelle stelle = {tabellen.Messen, platz.Messe, art};
-    if (tabellen.Messen.Datum[platz.Messe] != 0)
-        Melden(AnwesenheitPrüfen(person, stelle, {}), Stufe::Verstoß, Regel::Abwesend, platz,
-               befunde);
-    const Grund grund = HelferdienstPrüfen(person, stelle, {});
-    if (grund != Grund::Keiner || !HatDienst(tabellen.Helferinnen, nr, art.Art))
-        befunde.push_back({grund == Grund::OhneDienst ? Stufe::Verstoß : Stufe::Hinweis,
-                           Regel::Helferdienst, platz});
+    const Helferkenntnis &kenntnis = helfer[static_cast<std::size_t>(nr)];
+    const std::size_t art = NummerDer(Helferplätze[static_cast<std::size_t>(platz.Nr)].Art);
+    if (kenntnis.IstAbwesend(plan.Tag(platz.Messe)))
+        befunde.push_back({Stufe::Verstoß, Regel::Abwesend, platz});
+    if (kenntnis.Gegen[art] != Grund::Keiner || !kenntnis.Hat[art])
+        befunde.push_back(
+            {kenntnis.Gegen[art] == Grund::OhneDienst ? Stufe::Verstoß : Stufe::Hinweis,
+             Regel::Helferdienst, platz});
 }
 
 void Messenprüfung::GegenPersonPrüfen(Planplatz platz, int nr, Befunde &befunde) const

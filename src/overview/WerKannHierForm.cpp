@@ -40,7 +40,7 @@ QTableView *Kandidatentafel(QAbstractItemModel *modell)
     return tafel;
 }
 
-QString Name(const Kandidat &wer)
+QString Name(const Platzkandidat &wer)
 {
     return Anzeige(VollerName(wer.Vorname, wer.Nachname));
 }
@@ -169,7 +169,7 @@ void WerKannHierForm::Besetzen(bool mitPartner)
 {
     if (Zeile() < 0)
         return;
-    const Kandidat &wer = modell->In(Zeile());
+    const Platzkandidat &wer = modell->In(Zeile());
     std::vector<Platzwechsel> wechsel{{platz, wer.Vorname, wer.Nachname}};
     if (mitPartner && wer.Partnerplatz > 0)
         wechsel.push_back({Dienerplatznr(platz.Messe, wer.Partnerplatz),

@@ -256,6 +256,7 @@ TEST_F(KandidatenEigenschaftenTest, WerOhneGrundEingesetztWirdVerstößtGegenNic
             if (!IstGewünscht(Messe, wo))
                 continue;
             const Urteile vorher = UrteileAus(prüfung.Alle());
+            const Urteile ähnliche = OhneArtDerNähe(vorher);
             const int verstöße = prüfung.Verstöße();
             const Text vorname = NameAm(Messe, wo).Vorname;
             const Text nachname = NameAm(Messe, wo).Nachname;
@@ -272,7 +273,7 @@ TEST_F(KandidatenEigenschaftenTest, WerOhneGrundEingesetztWirdVerstößtGegenNic
                     ASSERT_LE(prüfung.Verstöße(), verstöße);
                     for (const Urteil &urteil : OhneArtDerNähe(nachher))
                         ASSERT_TRUE(std::get<Stufe>(urteil) == Stufe::Hinweis ||
-                                    OhneArtDerNähe(vorher).contains(urteil))
+                                    ähnliche.contains(urteil))
                             << Urteilszeile(urteil) << ", " << kandidat.Vorname;
                 }
                 for (const Gegengrund &grund : kandidat.Gegengründe)

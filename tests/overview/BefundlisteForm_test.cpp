@@ -20,21 +20,18 @@ class BefundlisteFormTest : public Planstand {
     BefundlisteFormTest() { Messe.DienerVor[0][2] = "Niemand"; }
 
     QTreeView *Baum() const { return plan->Liste->Befunde; }
-    QAbstractItemModel *Modell() const { return Baum()->model(); }
-    const Planprüfung &Prüfung() const
-    {
-        return static_cast<Planmodell *>(plan->Tafel->model())->Prüfung();
-    }
+    QAbstractItemModel *Befunde() const { return Baum()->model(); }
+    const Planprüfung &Prüfung() const { return Modell()->Prüfung(); }
 
-    QModelIndex Gruppe(int nr) const { return Modell()->index(nr, 0); }
+    QModelIndex Gruppe(int nr) const { return Befunde()->index(nr, 0); }
     Text Titel(int gruppe) const { return Gruppe(gruppe).data().toString().toStdString(); }
     Liste Sätze(int gruppe) const { return Spalte(gruppe, Befundmodell::Satzspalte); }
     Liste Spalte(int gruppe, int spalte) const
     {
         Liste texte;
-        for (int zeile = 0; zeile < Modell()->rowCount(Gruppe(gruppe)); ++zeile)
+        for (int zeile = 0; zeile < Befunde()->rowCount(Gruppe(gruppe)); ++zeile)
             texte.push_back(
-                Modell()->index(zeile, spalte, Gruppe(gruppe)).data().toString().toStdString());
+                Befunde()->index(zeile, spalte, Gruppe(gruppe)).data().toString().toStdString());
         return texte;
     }
     void Anklicken(const QModelIndex &zeile) const
@@ -54,7 +51,7 @@ class BefundlisteFormTest : public Planstand {
 TEST_F(BefundlisteFormTest, JederBefundStehtUnterSeinerMesse)
 {
     PlanÖffnen();
-    ASSERT_EQ(Modell()->rowCount(), 2);
+    ASSERT_EQ(Befunde()->rowCount(), 2);
     for (const auto &[gruppe, messe] : {std::pair(0, 0), {1, 3}}) {
         Liste erwartet;
         for (const Befund &befund : Prüfung().Von(messe))
@@ -72,7 +69,7 @@ TEST_F(BefundlisteFormTest, JederBefundStehtUnterSeinerMesse)
 TEST_F(BefundlisteFormTest, EinKlickGehtZumPlatz)
 {
     PlanÖffnen();
-    Anklicken(Modell()->index(0, 0, Gruppe(0)));
+    Anklicken(Befunde()->index(0, 0, Gruppe(0)));
     EXPECT_EQ(plan->Tafel->currentIndex(), Zelle(0, Plätze + 1));
     Anklicken(Gruppe(1));
     EXPECT_EQ(plan->Tafel->currentIndex(), Zelle(0, Plätze + 1)) << "a heading is no place";
@@ -88,7 +85,7 @@ TEST_F(BefundlisteFormTest, NachPersonGegliedertStehtDieMesseDaneben)
     Klick(plan->Liste->NachPerson);
     EXPECT_TRUE(Titel(0).starts_with("Niemand Cohn – ")) << Titel(0);
     EXPECT_EQ(Spalte(0, Befundmodell::Bei), Liste{Messenzeile(0)});
-    EXPECT_EQ(Modell()->headerData(Befundmodell::Bei, Qt::Horizontal).toString(), "Messe");
+    EXPECT_EQ(Befunde()->headerData(Befundmodell::Bei, Qt::Horizontal).toString(), "Messe");
     EXPECT_TRUE(Baum()->isExpanded(Gruppe(0)));
     Wiederkommen();
     EXPECT_TRUE(Titel(0).starts_with("Niemand Cohn – ")) << "remembered";
@@ -123,11 +120,11 @@ TEST_F(BefundlisteFormTest, NachEinerÄnderungBleibtZugeklapptWasEsWarUndGewähl
 {
     PlanÖffnen();
     Baum()->setExpanded(Gruppe(0), false);
-    Anklicken(Modell()->index(0, 0, Gruppe(1)));
+    Anklicken(Befunde()->index(0, 0, Gruppe(1)));
     const QVariant gewählter = Baum()->currentIndex().data();
     Messe.DienerVor[2][1] = "Niemand"; // a group between the two
     plan->Nachziehen();
-    ASSERT_EQ(Modell()->rowCount(), 3);
+    ASSERT_EQ(Befunde()->rowCount(), 3);
     EXPECT_FALSE(Baum()->isExpanded(Gruppe(0)));
     EXPECT_TRUE(Baum()->isExpanded(Gruppe(1)));
     EXPECT_EQ(Baum()->currentIndex().data(), gewählter);

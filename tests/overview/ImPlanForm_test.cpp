@@ -34,7 +34,7 @@ TEST_F(ImPlanFormTest, WerNichtDientIstTrotzdemGenannt)
     MenüWählen("mnuMeßdiener");
     Klick(Finden(Fenster("Meßdiener"), "ImPlan"));
     EXPECT_EQ(Zeigt(plan->Person), "Doris Dorn: kein Dienst in diesem Plan");
-    EXPECT_EQ(static_cast<Planmodell *>(plan->Tafel->model())->Markierter(), -1);
+    EXPECT_EQ(Modell()->Markierter(), -1);
 }
 
 TEST_F(ImPlanFormTest, EinHelferFindetSeinenPlatz)

@@ -48,6 +48,13 @@ class Planstand : public Hauptstand {
         Messe.Allgemein[i] = 2;
     }
 
+    /// So many masses that they do not fit into the window.
+    static void VieleMessen()
+    {
+        for (int tag = 7; tag <= 60; ++tag)
+            MesseAnlegen(DatumAus({2026, 12, 1}) + tag);
+    }
+
     /// Puts server `diener` into slot `slot` of the mass.
     static void Stellen(int messe, int slot, int diener)
     {
@@ -76,6 +83,7 @@ class Planstand : public Hauptstand {
     {
         return plan->Tafel->model()->index(zeile, spalte);
     }
+    Planmodell *Modell() const { return static_cast<Planmodell *>(plan->Tafel->model()); }
     /// The columns of the places begin here.
     static constexpr int Plätze = Planmodell::Kopfspalten;
 

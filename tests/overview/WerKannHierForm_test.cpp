@@ -69,10 +69,9 @@ TEST_F(WerKannHierFormTest, ZeigtAlleDieBestenZuerstMitDenGründenGegenDieAndere
     EXPECT_EQ(Zeigt(form->Platzname), "Sonntag, 06.12.2026, 10:00 Uhr, Messe: Diener 2, Allgemein");
     EXPECT_EQ(Zeigt(form->Jetzt), "Der Platz ist frei.");
     EXPECT_FALSE(form->Leeren->isEnabled());
-    const auto kandidaten = WerKannHier(static_cast<Planmodell *>(plan->Tafel->model())->Prüfung(),
-                                        Dienerplatznr(3, 2));
+    const auto kandidaten = WerKannHier(Modell()->Prüfung(), Dienerplatznr(3, 2));
     Liste erwartet;
-    for (const Kandidat &kandidat : kandidaten)
+    for (const Platzkandidat &kandidat : kandidaten)
         erwartet.push_back(VollerName(kandidat.Vorname, kandidat.Nachname));
     EXPECT_EQ(Namen(), erwartet);
     EXPECT_EQ(Markiert(), erwartet.front());
@@ -82,8 +81,7 @@ TEST_F(WerKannHierFormTest, ZeigtAlleDieBestenZuerstMitDenGründenGegenDieAndere
     EXPECT_NE(Zeigt(form->Gründe).find("Cem Cohn ist vom 06.12. bis 08.12. nicht dienstbereit."),
               Text::npos)
         << Zeigt(form->Gründe);
-    EXPECT_EQ(form->Kandidaten->currentIndex().data(Qt::ToolTipRole).toString().replace('
-', ' '),
+    EXPECT_EQ(form->Kandidaten->currentIndex().data(Qt::ToolTipRole).toString().replace('\n', ' '),
               form->Gründe->text());
 }
 
@@ -178,7 +176,7 @@ TEST_F(WerKannHierFormTest, EinsetzenSchreibtNurDiesenPlatzUndDasRasterZeigtIhn)
     EXPECT_FALSE(IstOffen("WerKannHier"));
     EXPECT_EQ(Zeigt(Finden(haupt, "StatusMitteilung")),
               "12:00 Cem Cohn eingesetzt als Diener 2 (06.12., 10:00 Uhr, Messe)");
-    const auto &befunde = static_cast<Planmodell *>(plan->Tafel->model())->Prüfung().Von(3);
+    const auto &befunde = Modell()->Prüfung().Von(3);
     EXPECT_TRUE(std::ranges::any_of(befunde, [](const Befund &b) {
         return b.Gegen == Regel::Abwesend;
     })) << "the check says so";

@@ -35,8 +35,8 @@ TEST_F(WunschregelnTest, DerWunschpartnerStehtDaneben)
     Wünschen(1, 2);
     EXPECT_EQ(Befunde(), Zeilen());
     Wünschen(1, 3);
-    EXPECT_EQ(Befunde(), Zeilen{"H 2 Vor1 Nach steht nicht neben dem Wunschpartner Vor3 Nach, der "
-                                "auf Diener 4 steht."});
+    EXPECT_EQ(Befunde(), Zeilen{"H 2 Vor1 Nach steht nicht neben dem Wunschpartner Vor3 Nach "
+                                "(Diener 4)."});
     Leeren(Messe, Dienerplatznr(i, 4));
     EXPECT_EQ(Befunde(), (Zeilen{"H 2 Vor1 Nach dient ohne den Wunschpartner Vor3 Nach.",
                                  "V 4 Diener 4 ist frei."}));

@@ -94,10 +94,11 @@ TEST_F(HauptPlanTest, DieZifferntastenDrückenDieSchritteAuchAusDemPlan)
 
 TEST_F(HauptPlanTest, EinSchrittZeigtSichSofort)
 {
+    Messe.KantorZahl[2] = 1;
     PlanÖffnen();
-    EXPECT_EQ(Steht(3, Plätze + 1), "");
-    Klick(haupt->MeßdienerMessen);
-    EXPECT_NE(Steht(3, Plätze + 1), "");
+    EXPECT_EQ(Steht(2, Plätze + 3), "");
+    Klick(haupt->Helfend);
+    EXPECT_EQ(Steht(2, Plätze + 3), "Kai K.");
 }
 
 TEST_F(HauptPlanTest, EinLadenZeigtSichSofort)
