@@ -4,6 +4,7 @@
 
 #include "Fensterstand.h"
 #include "core/Allgemein.h"
+#include "fairness/AusgleichForm.h"
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
 #include "people/GruppeForm.h"
@@ -60,7 +61,7 @@ class AlleFenster : public Fensterstand {
             "Meßdiener",       "NeuMeßdiener",       "Helfer",      "NeuerHelfer",   "Gruppe",
             "NeuGruppe",       "Standardmessen",     "Messenliste", "NeuMesse",      "Lektorrenusw",
             "MesseDienerFest", "NeuMesseDienerFest", "Start",       "Konfiguration", "ZusatzKonfig",
-            "Skalierung",      "Etiketten",          "Druck",       "JubiGebu"};
+            "Skalierung",      "Etiketten",          "Druck",       "JubiGebu",      "Ausgleich"};
         return namen;
     }
 
@@ -114,6 +115,8 @@ class AlleFenster : public Fensterstand {
             return new EtikettenForm;
         if (name == "Druck")
             return new DruckForm;
+        if (name == "Ausgleich")
+            return new AusgleichForm;
         if (name == "JubiGebu")
             return new JubiGebuForm;
         throw std::runtime_error("no window " + name);

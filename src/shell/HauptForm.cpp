@@ -18,6 +18,10 @@
 #include "core/Sortierbefehle.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
+#include "fairness/Archiv.h"
+#include "fairness/ArchivForm.h"
+#include "fairness/AusgleichForm.h"
+#include "fairness/VerteilungForm.h"
 #include "fixed/FesteMeßdienerÜbertragen.h"
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
@@ -29,6 +33,7 @@
 #include "people/HelferForm.h"
 #include "people/ImPlan.h"
 #include "people/MeßdienerForm.h"
+#include "people/Umbenannt.h"
 #include "planning/MessenBestimmen.h"
 #include "planning/MessenlisteForm.h"
 #include "planning/StandardmessenForm.h"
@@ -153,6 +158,24 @@ void DisketteLaden()
         Mitteilen(bericht);
 }
 
+/// Keeps the services of the plan before it goes or is given away. Never fails: what could not be
+/// kept is told.
+void PlanAufheben()
+{
+    try {
+        PlanArchivieren();
+    } catch (const Laufzeitfehler &fehler) {
+        Mitteilen(Text("Plan nicht im Archiv: ") + fehler.what());
+    }
+}
+
+void ImArchivNachziehen(const Personenname &alt, const Personenname &neu, bool helfer)
+{
+    if (const int dateien = ImArchivUmbenennen(alt, neu, helfer); dateien > 0)
+        Mitteilen("alter Name noch im Archiv: " + ZahlText(dateien) +
+                  (dateien == 1 ? " Datei ist" : " Dateien sind") + " nicht zu ändern");
+}
+
 /// A save to the diskette fails silently.
 void DisketteSpeichern()
 {
@@ -212,6 +235,8 @@ HauptForm::HauptForm()
 HauptForm::~HauptForm()
 {
     ImPlanZeigen = nullptr;
+    PersonUmbenannt = nullptr;
+    VorDemPlandruck = [] {};
 }
 
 std::array<QPushButton *, 7> HauptForm::Schritte() const
@@ -380,6 +405,9 @@ void HauptForm::MenüÜberblick()
     planEintrag->setCheckable(true);
     planEintrag->setShortcut(Qt::Key_F5);
     connect(planEintrag, &QAction::toggled, this, Offen([this](bool plan) { PlanAnzeigen(plan); }));
+    Eintrag(überblick, "mnuAusgleich", "Plan &ausgleichen", DialogÖffnen<AusgleichForm>);
+    Eintrag(überblick, "mnuVerteilung", "&Verteilung", DialogÖffnen<VerteilungForm>);
+    Eintrag(überblick, "mnuArchiv", "Ar&chiv", DialogÖffnen<ArchivForm>);
     Eintrag(überblick, "mnuStände", "&Frühere Stände", DialogÖffnen<StändeForm>);
 }
 
@@ -399,6 +427,7 @@ void HauptForm::Verbinden()
         connect(knopf, &QPushButton::clicked, this, [aktion] { HauptfensterHandelt(aktion); });
     };
     schritt(Messenorgani, [] {
+        PlanAufheben();
         UnterWartezeiger(MessenNeuBestimmen);
         // The one case in which the main window stays enabled beside a dialog.
         MessenlisteForm::NeuenPlanZeigen();
@@ -411,9 +440,14 @@ void HauptForm::Verbinden()
     });
     schritt(Helfend, [] { UnterWartezeiger(MessenMitMessehelferBesetzen); });
     schritt(AnzMesse, DialogÖffnen<MessenlisteForm>);
-    schritt(Messendruck, PlanDrucken);
+    schritt(Messendruck, [] {
+        VorDemPlandruck();
+        PlanDrucken();
+    });
 
     SuchenBeiStrgF(this);
+    VorDemPlandruck = PlanAufheben;
+    PersonUmbenannt = ImArchivNachziehen;
     ImPlanZeigen = [this](const Text &vorname, const Text &nachname) {
         planEintrag->setChecked(true);
         Plan->PersonZeigen(vorname, nachname);

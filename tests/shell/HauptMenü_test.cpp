@@ -101,6 +101,9 @@ TEST_F(HauptMenüTest, HatSeineEinträgeInIhrerFolge)
                           "  DruckML | Dienste &richtig setzen für Messenlistausdruck",
                           "mnuÜberblick | Ü&berblick",
                           "  mnuPlanAnzeigen | &Plan anzeigen",
+                          "  mnuAusgleich | Plan &ausgleichen",
+                          "  mnuVerteilung | &Verteilung",
+                          "  mnuArchiv | Ar&chiv",
                           "  mnuStände | &Frühere Stände",
                           "mnuHelp | &?",
                           "  mnuHandbuch | &Handbuch",
@@ -137,6 +140,9 @@ TEST_F(HauptMenüTest, WasOhneDialogAuskommtIstWählbar)
                              "mnuDatenHolen",
                              "mnuDatenSichern",
                              "mnuPlanAnzeigen",
+                             "mnuAusgleich",
+                             "mnuVerteilung",
+                             "mnuArchiv",
                              "mnuStände",
                              "mnuHelpAbout",
                              "DruckML"})
@@ -180,6 +186,9 @@ TEST_F(HauptMenüTest, JederEintragÖffnetSeineFormUndSperrtDasHauptfenster)
         {"mnuMessenlisteText", "Dialog"},
         {"mnuDatenHolen", "Dateikopie"},
         {"mnuDatenSichern", "Datensicherung"},
+        {"mnuAusgleich", "Ausgleich"},
+        {"mnuVerteilung", "Verteilung"},
+        {"mnuArchiv", "Archiv"},
         {"mnuStände", "Stände"},
     };
     MeßdienerAnlegen("Kim", "Adler"); // there are no figures about nobody

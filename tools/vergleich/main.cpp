@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -67,6 +68,17 @@ void Vergleichen(std::uint32_t saat, int sekunden, double aufwand, Bilanz &bilan
            andere.Beste, andere.Sekunden);
     std::printf("%s%s%s\n", mehr ? "  MORE" : "", ungleicher ? "  LESS EVEN" : "",
                 langsam ? "  SLOW" : "");
+    if (mehr || ungleicher) { // as the program counts the solver's plan
+        Besetzung plan(aufgabe);
+        plan.Stellen(andere.Wer);
+        const Plankosten &k = plan.Kosten();
+        std::printf("     the program's: %d breaches, %d hints, %.3f; the solver's: %d, %d, %.3f\n",
+                    static_cast<int>(gefunden.Kosten.Verstöße),
+                    static_cast<int>(gefunden.Kosten.Hinweise),
+                    std::sqrt(static_cast<double>(gefunden.Kosten.Ungleich) * 1e-6),
+                    static_cast<int>(k.Verstöße), static_cast<int>(k.Hinweise),
+                    std::sqrt(static_cast<double>(k.Ungleich) * 1e-6));
+    }
     std::fflush(stdout);
 }
 
