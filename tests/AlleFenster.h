@@ -4,6 +4,7 @@
 
 #include "Fensterstand.h"
 #include "core/Allgemein.h"
+#include "fairness/AusgleichForm.h"
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
 #include "people/GruppeForm.h"
@@ -58,12 +59,12 @@ class AlleFenster : public Fensterstand {
     static const std::vector<Text> &Namen()
     {
         static const std::vector<Text> namen = {
-            "Meßdiener",  "NeuMeßdiener",   "Helfer",          "NeuerHelfer",
-            "Gruppe",     "NeuGruppe",      "Standardmessen",  "Messenliste",
-            "NeuMesse",   "Lektorrenusw",   "MesseDienerFest", "NeuMesseDienerFest",
-            "Start",      "Konfiguration",  "ZusatzKonfig",    "Skalierung",
-            "Etiketten",  "Druck",          "JubiGebu",        "Datensicherung",
-            "Dateikopie", "DateienKopieren"};
+            "Meßdiener",  "NeuMeßdiener",    "Helfer",          "NeuerHelfer",
+            "Gruppe",     "NeuGruppe",       "Standardmessen",  "Messenliste",
+            "NeuMesse",   "Lektorrenusw",    "MesseDienerFest", "NeuMesseDienerFest",
+            "Start",      "Konfiguration",   "ZusatzKonfig",    "Skalierung",
+            "Etiketten",  "Druck",           "JubiGebu",        "Datensicherung",
+            "Dateikopie", "DateienKopieren", "Ausgleich"};
         return namen;
     }
 
@@ -117,6 +118,8 @@ class AlleFenster : public Fensterstand {
             return new EtikettenForm;
         if (name == "Druck")
             return new DruckForm;
+        if (name == "Ausgleich")
+            return new AusgleichForm;
         if (name == "JubiGebu")
             return new JubiGebuForm;
         if (name == "Datensicherung")

@@ -6,6 +6,9 @@
 #include "anniversaries/JubiGebuForm.h"
 #include "anniversaries/JubiläumsanzeigeForm.h"
 #include "application/Anwendung.h"
+#include "fairness/ArchivForm.h"
+#include "fairness/AusgleichForm.h"
+#include "fairness/VerteilungForm.h"
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
 #include "help/HandbuchForm.h"
@@ -98,6 +101,9 @@ JedesFenster::JedesFenster()
              return handbuch;
          }},
         {"Suchen", Neu<SuchenForm>(nullptr)},
+        {"Ausgleich", Neu<AusgleichForm>()},
+        {"Verteilung", Neu<VerteilungForm>()},
+        {"Archiv", Neu<ArchivForm>()},
         {"Standardmessen", Neu<StandardmessenForm>()},
         {"Messenliste", Neu<MessenlisteForm>()},
         {"NeuMesse", [] { return new NeuMesseForm(*Darunter<MessenlisteForm>()); }},

@@ -15,6 +15,12 @@ namespace altardienst {
 namespace {
 
 constexpr Hinweis Tafel[] = {
+    // the fair plan
+    {"Ausgleich", "AbTag", "Messen vor diesem Tag bleiben, wie sie sind"},
+    {"Ausgleich", "Zeitraum",
+     "ob nur dieser Plan zählt oder auch, was jemand in den letzten 3, 6 oder 12 Monaten gedient "
+     "hat"},
+
     // people
     {"Meßdiener", "Datensätze",
      "die Nummer des gezeigten Datensatzes, von 0 an; eine getippte "

@@ -59,15 +59,6 @@ Ausgleichszahlen ZahlenVon(const Aufgabe &aufgabe, const std::vector<int> &wer,
     return zahlen;
 }
 
-std::vector<int> Anfangs(const Aufgabe &aufgabe)
-{
-    std::vector<int> wer;
-    wer.reserve(aufgabe.Plätze.size());
-    for (const Aufgabe::Platz &platz : aufgabe.Plätze)
-        wer.push_back(platz.Anfangs);
-    return wer;
-}
-
 /// The breaches in places of servers or of helpers.
 std::vector<Befund> VerstößeBei(const Planprüfung &prüfung, Planplatz::Art art)
 {
@@ -134,9 +125,6 @@ class Ausgleich {
     void GruppeAusgleichen(Planplatz::Art art, const std::vector<double> &bisher,
                            Gruppenausgleich &gruppe)
     {
-        const Aufgabe vorher = AufgabeLesen({original.Messen, eigene.Diener, eigene.Helferinnen,
-                                             eigene.Gruppen, eigene.Feste, eigene.Einstellungen},
-                                            art, auftrag.AbTag, bisher);
         const Aufgabe aufgabe = AufgabeLesen(eigene, art, auftrag.AbTag, bisher);
         const Suchergebnis gefunden = BesteBesetzung(
             aufgabe, {.Saat = auftrag.Saat,
@@ -152,12 +140,31 @@ class Ausgleich {
         gruppe.Dabei = true;
         gruppe.Bewiesen = gefunden.Bewiesen;
         ergebnis.Abgebrochen = ergebnis.Abgebrochen || gefunden.Abgebrochen;
-        gruppe.Vorher = ZahlenVon(aufgabe, Anfangs(vorher), Besetzung(vorher).Kosten());
+        const std::vector<int> vorher = WerStand(aufgabe);
+        gruppe.Vorher = ZahlenVon(aufgabe, vorher, {});
         gruppe.Nachher = ZahlenVon(aufgabe, gefunden.Wer, gefunden.Kosten);
-        AnteileSammeln(aufgabe, Anfangs(vorher), gefunden.Wer, gruppe);
+        AnteileSammeln(aufgabe, vorher, gefunden.Wer, gruppe);
         for (std::size_t p = 0; p < gefunden.Wer.size(); ++p)
             if (aufgabe.Plätze[p].Frei && gefunden.Wer[p] != aufgabe.Plätze[p].Anfangs)
                 NameSetzen(aufgabe.Plätze[p].Wo, gefunden.Wer[p]);
+    }
+
+    /// In the plan as it was before the fixed entries were put into their places.
+    std::vector<int> WerStand(const Aufgabe &aufgabe) const
+    {
+        Namensregister personen;
+        if (aufgabe.FürDiener())
+            personen.Neu(original.Diener);
+        else
+            personen.Neu(original.Helferinnen);
+        std::vector<int> wer;
+        wer.reserve(aufgabe.Plätze.size());
+        for (const Aufgabe::Platz &platz : aufgabe.Plätze) {
+            const Platzname name = NameAm(original.Messen, platz.Wo);
+            wer.push_back(
+                std::max<int>(personen.Finden(name.Vorname, name.Nachname), Aufgabe::Fremd));
+        }
+        return wer;
     }
 
     void NameSetzen(Planplatz wo, int wer)

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace altardienst {
 namespace {
@@ -50,8 +51,8 @@ class Los {
 /// How steeply each kind of cost counts during the annealing.
 double Energie(const Plankosten &kosten)
 {
-    return 4.0 * static_cast<double>(kosten.Verstöße) + 0.05 * static_cast<double>(kosten.Schwere) +
-           1.5 * static_cast<double>(kosten.Hinweise) +
+    return 5.0 * static_cast<double>(kosten.Verstöße) + 0.05 * static_cast<double>(kosten.Schwere) +
+           0.7 * static_cast<double>(kosten.Hinweise) +
            1e-6 * static_cast<double>(kosten.Ungleich) +
            0.15 * static_cast<double>(kosten.Getrennt) + 2e-5 * static_cast<double>(kosten.Unruhe);
 }
@@ -80,13 +81,24 @@ class Suche {
   private:
     void Ablauf()
     {
-        const double plätze = static_cast<double>(freie.size()) * auftrag.Aufwand;
+        // Large plans have more room to give way: each place needs fewer tries.
+        constexpr double Gewöhnlich = 400;
+        const double zahl = static_cast<double>(freie.size());
+        const double plätze = zahl * std::min(1.0, std::sqrt(Gewöhnlich / zahl)) * auftrag.Aufwand;
+        // Small ones are tricky all the same, and quickly done.
+        const double wenigstens = std::max(plätze, 50 * auftrag.Aufwand);
         Füllen();
-        Abkühlen(0.3, 1000 * plätze);
-        for (int runde = 0; runde < 4 && !AmZiel() && !abgebrochen; ++runde) {
-            if (runde > 0 && runde % 2 == 1)
+        Abkühlen(0.3, 1000 * wenigstens);
+        // Where the goal is not in sight: again from the best plan and from anew, longer each time
+        // as far as that is bearable.
+        constexpr int Runden = 8;
+        constexpr double Erträglich = 600'000;
+        for (int runde = 0; runde < Runden && !AmZiel() && !abgebrochen; ++runde) {
+            if (runde % 2 == 1)
                 plan.Stellen(beste);
-            Abkühlen(runde % 2 == 0 ? 1.5 : 0.7, 1500 * plätze);
+            const double schritte = runde < Runden / 2 ? 1500 * wenigstens : 4000 * plätze;
+            if (runde < 2 || schritte < Erträglich * auftrag.Aufwand)
+                Abkühlen(runde % 2 == 0 ? 1.5 : 0.7, schritte);
         }
         plan.Stellen(beste);
         Glätten(600 * plätze);
@@ -107,7 +119,7 @@ class Suche {
                 continue;
             int wen = Aufgabe::Niemand;
             double niedrigste = Energie(plan.Kosten());
-            for (const int person : aufgabe.KreisVon(platz).Personen) {
+            for (const int person : Nächstliegende(platz)) {
                 plan.Ziehen(Einer(platz, person));
                 if (const double energie = Energie(plan.Kosten()); energie < niedrigste) {
                     niedrigste = energie;
@@ -117,10 +129,26 @@ class Suche {
             }
             if (wen >= 0)
                 plan.Ziehen(Einer(platz, wen));
-            Merken();
             if (IstAbgebrochen())
-                return;
+                break;
         }
+        Merken();
+    }
+
+    /// Those with the fewest services for their share.
+    std::vector<int> Nächstliegende(int platz) const
+    {
+        constexpr std::size_t Meiste = 8;
+        std::vector<std::pair<std::int64_t, int>> reihe;
+        for (const int person : aufgabe.KreisVon(platz).Personen)
+            reihe.emplace_back(Güte(person, platz), person);
+        const std::size_t zahl = std::min(Meiste, reihe.size());
+        std::partial_sort(reihe.begin(), reihe.begin() + static_cast<std::ptrdiff_t>(zahl),
+                          reihe.end());
+        std::vector<int> personen;
+        for (std::size_t k = 0; k < zahl; ++k)
+            personen.push_back(reihe[k].second);
+        return personen;
     }
 
     static Zug Einer(int platz, int person)
@@ -292,7 +320,8 @@ class Suche {
         if (wen == weg || plan.Dienste(wen).empty())
             return false;
         const int woher = Nächster(wen, platz);
-        if (!aufgabe.PlatzNr(woher).Frei || !zug.Dazu(platz, wen))
+        if (!aufgabe.PlatzNr(woher).Frei || aufgabe.KreisVon(woher).Personen.empty() ||
+            !zug.Dazu(platz, wen))
             return false;
         if (weg >= 0 && aufgabe.Kann(woher, weg) && los.Unter(2) == 0)
             return zug.Dazu(woher, weg);

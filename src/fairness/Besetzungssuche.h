@@ -13,9 +13,9 @@ struct Besetzungssuche {
     std::uint32_t Saat = 1;
     double Aufwand = 1; // how long it may try, as a multiple of what usually is enough
     /// Asked every few moves; true ends the search.
-    std::function<bool()> Abbruch;
+    std::function<bool()> Abbruch = {};
     /// Called now and then with the best plan so far, one entry a place.
-    std::function<void(const std::vector<int> &, const Plankosten &)> Fortschritt;
+    std::function<void(const std::vector<int> &, const Plankosten &)> Fortschritt = {};
 };
 
 struct Suchergebnis {

@@ -22,6 +22,10 @@ const std::map<Text, Text> &Fensterseiten()
         {"Haupt/Planansicht", "auf-einen-blick.md"},
         {"WerKannHier", "auf-einen-blick.md#wer-kann-hier"},
 
+        {"Ausgleich", "gerechter-plan.md#plan-ausgleichen"},
+        {"Verteilung", "gerechter-plan.md#verteilung"},
+        {"Archiv", "gerechter-plan.md#das-archiv"},
+
         {"Meßdiener", "leute.md#messdiener"},
         {"NeuMeßdiener", "leute.md#neuer-messdiener"},
         {"Gruppe", "leute.md#gruppen"},

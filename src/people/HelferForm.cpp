@@ -10,6 +10,7 @@
 #include "core/Plätze.h"
 #include "people/ImPlan.h"
 #include "people/NeuerHelferForm.h"
+#include "people/Umbenannt.h"
 #include "platform/Meldungen.h"
 
 #include <QHBoxLayout>
@@ -213,7 +214,9 @@ void HelferForm::Umbenennen()
 {
     if (IstAndererHelfer(LesenOderFokus(Wahl->Nummer, Int16Lesen), Person.Name()))
         Person.NameZeigen(Helfer, Helfer.Cursor);
+    const Personenname alt{Helfer.Vorname[Helfer.Cursor], Helfer.Nachname[Helfer.Cursor]};
     HelferUmbenennen(Helfer.Cursor, Person.Name());
+    UmbenennungMelden(alt, Person.Name(), true);
 }
 
 void HelferForm::Löschen()

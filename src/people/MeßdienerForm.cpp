@@ -8,6 +8,7 @@
 #include "core/Plätze.h"
 #include "people/ImPlan.h"
 #include "people/NeuMeßdienerForm.h"
+#include "people/Umbenannt.h"
 #include "platform/Meldungen.h"
 #include "printing/Aufnahmebestätigung.h"
 
@@ -244,7 +245,9 @@ void MeßdienerForm::Umbenennen()
     const int i = LesenOderFokus(Wahl->Nummer, Int16Lesen);
     if (IstAndererMeßdiener(i, Angaben.Person.Name()))
         Angaben.Person.NameZeigen(Meßdiener, i);
+    const Personenname alt{Meßdiener.Vorname[i], Meßdiener.Nachname[i]};
     MeßdienerUmbenennen(i, Angaben.Person.Name());
+    UmbenennungMelden(alt, Angaben.Person.Name(), false);
     Wunsch.ListeFüllen();
 }
 

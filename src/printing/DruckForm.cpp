@@ -157,7 +157,10 @@ void DruckForm::Verbinden()
     const auto drucken = [this](QPushButton *knopf, const std::function<void()> &bericht) {
         connect(knopf, &QPushButton::clicked, this, Offen(bericht));
     };
-    drucken(Messendruck, PlanDrucken);
+    drucken(Messendruck, [] {
+        VorDemPlandruck();
+        PlanDrucken();
+    });
     drucken(Standarddruck, StandardmessenDrucken);
     drucken(Meßdienerdruck, AlleMeßdienerDrucken);
     drucken(DruckiMeßdieneri, [this] { MeßdienergruppeDrucken(GewählteGruppe()); });

@@ -8,6 +8,9 @@
 #include "printing/PlanZeilen.h"
 
 namespace altardienst {
+
+std::function<void()> VorDemPlandruck = [] {};
+
 namespace {
 
 constexpr int TitelZeilen = 5;  // lines that the title counts as

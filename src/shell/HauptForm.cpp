@@ -18,6 +18,10 @@
 #include "core/Sortierbefehle.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
+#include "fairness/Archiv.h"
+#include "fairness/ArchivForm.h"
+#include "fairness/AusgleichForm.h"
+#include "fairness/VerteilungForm.h"
 #include "fixed/FesteMeßdienerÜbertragen.h"
 #include "fixed/MesseDienerFestForm.h"
 #include "fixed/NeuMesseDienerFestForm.h"
@@ -31,6 +35,7 @@
 #include "people/HelferForm.h"
 #include "people/ImPlan.h"
 #include "people/MeßdienerForm.h"
+#include "people/Umbenannt.h"
 #include "planning/MessenBestimmen.h"
 #include "planning/MessenlisteForm.h"
 #include "planning/StandardmessenForm.h"
@@ -182,6 +187,24 @@ void DisketteLaden()
     });
 }
 
+/// Keeps the services of the plan before it goes or is given away. Never fails: what could not be
+/// kept is told.
+void PlanAufheben()
+{
+    try {
+        PlanArchivieren();
+    } catch (const Laufzeitfehler &fehler) {
+        Mitteilen(Text("Plan nicht im Archiv: ") + fehler.what());
+    }
+}
+
+void ImArchivNachziehen(const Personenname &alt, const Personenname &neu, bool helfer)
+{
+    if (const int dateien = ImArchivUmbenennen(alt, neu, helfer); dateien > 0)
+        Mitteilen("alter Name noch im Archiv: " + ZahlText(dateien) +
+                  (dateien == 1 ? " Datei ist" : " Dateien sind") + " nicht zu ändern");
+}
+
 /// A save to the diskette fails silently: nothing is said of one that does not hold all eight
 /// files.
 void DisketteSpeichern()
@@ -240,6 +263,8 @@ HauptForm::HauptForm()
 HauptForm::~HauptForm()
 {
     ImPlanZeigen = nullptr;
+    PersonUmbenannt = nullptr;
+    VorDemPlandruck = [] {};
 }
 
 std::array<QPushButton *, 7> HauptForm::Schritte() const
@@ -419,6 +444,9 @@ void HauptForm::MenüÜberblick()
     planEintrag->setCheckable(true);
     planEintrag->setShortcut(Qt::Key_F5);
     connect(planEintrag, &QAction::toggled, this, Offen([this](bool plan) { PlanAnzeigen(plan); }));
+    Eintrag(überblick, "mnuAusgleich", "Plan &ausgleichen", DialogÖffnen<AusgleichForm>);
+    Eintrag(überblick, "mnuVerteilung", "&Verteilung", DialogÖffnen<VerteilungForm>);
+    Eintrag(überblick, "mnuArchiv", "Ar&chiv", DialogÖffnen<ArchivForm>);
     Eintrag(überblick, "mnuStände", "&Frühere Stände", DialogÖffnen<StändeForm>);
 }
 
@@ -446,16 +474,27 @@ void HauptForm::Verbinden()
         });
     };
     // The one case in which the main window stays enabled beside a dialog.
-    schritt(Messenorgani, MessenNeuBestimmen, MessenlisteForm::NeuenPlanZeigen);
+    schritt(
+        Messenorgani,
+        [] {
+            PlanAufheben();
+            MessenNeuBestimmen();
+        },
+        MessenlisteForm::NeuenPlanZeigen);
     knopf(Meßdienernern, DialogÖffnen<NeuMesseDienerFestForm>);
     schritt(Dienstus, [] { MessenMitMeßdienerBesetzen(FesteMeßdienerÜbertragen); });
     schritt(MeßdienerMessen, [] { WunschpartnerBerücksichtigen(FesteMeßdienerÜbertragen); });
     schritt(Helfend, MessenMitMessehelferBesetzen);
     knopf(AnzMesse, DialogÖffnen<MessenlisteForm>);
-    knopf(Messendruck, PlanDrucken);
+    knopf(Messendruck, [] {
+        VorDemPlandruck();
+        PlanDrucken();
+    });
 
     SuchenBeiStrgF(this);
     SchritteMitschreiben(this, Nebenbei([this] { SchritteZeigen(); }));
+    VorDemPlandruck = PlanAufheben;
+    PersonUmbenannt = ImArchivNachziehen;
     ImPlanZeigen = [this](const Text &vorname, const Text &nachname) {
         planEintrag->setChecked(true);
         Plan->PersonZeigen(vorname, nachname);

@@ -114,6 +114,7 @@ const std::map<Text, Felder> &Erwartet()
             {}, {}, {"XSKALA", "YSKALA", "MDS", "MHS", "MS", "MGS", "MJS", "MVS"}, {}, {}};
         f["Etiketten"] = {{}, {}, {"Ind", "OU", "LR", "H", "B", "ST", "R", "S"}, {}, {"N"}};
         f["Druck"] = {{"Rückgebend", "Dauernde"}, {}, {"Reih", "Spal"}, {}, {}};
+        f["Ausgleich"] = {{"AbTag"}, {}, {}, {}, {}};
         f["JubiGebu"] = {{}, {}, {"Reih", "Spal"}, {}, {}};
         f["Datensicherung"] = {{}, {}, {}, {}, {"VZ"}};
         f["Dateikopie"] = f["DateienKopieren"] = {};

@@ -104,6 +104,9 @@ TEST_F(HauptMenüTest, HatSeineEinträgeInIhrerFolge)
                           "  mnuWiederholen | &Wiederholen",
                           "  mnuÜberblickBar1 | ---",
                           "  mnuPlanAnzeigen | &Plan anzeigen",
+                          "  mnuAusgleich | Plan &ausgleichen",
+                          "  mnuVerteilung | &Verteilung",
+                          "  mnuArchiv | Ar&chiv",
                           "  mnuStände | &Frühere Stände",
                           "mnuHelp | &?",
                           "  mnuHandbuch | &Handbuch",
@@ -140,6 +143,9 @@ TEST_F(HauptMenüTest, WasOhneDialogAuskommtIstWählbar)
                              "mnuDatenHolen",
                              "mnuDatenSichern",
                              "mnuPlanAnzeigen",
+                             "mnuAusgleich",
+                             "mnuVerteilung",
+                             "mnuArchiv",
                              "mnuStände",
                              "mnuHelpAbout",
                              "DruckML"})
@@ -183,6 +189,9 @@ TEST_F(HauptMenüTest, JederEintragÖffnetSeineFormUndSperrtDasHauptfenster)
         {"mnuMessenlisteText", "Dialog"},
         {"mnuDatenHolen", "Dateikopie"},
         {"mnuDatenSichern", "Datensicherung"},
+        {"mnuAusgleich", "Ausgleich"},
+        {"mnuVerteilung", "Verteilung"},
+        {"mnuArchiv", "Archiv"},
         {"mnuStände", "Stände"},
     };
     MeßdienerAnlegen("Kim", "Adler"); // there are no figures about nobody

@@ -193,8 +193,10 @@ Gegenlösung Gegenrechnen(const Besetzungsaufgabe &aufgabe, int sekunden)
         throw std::runtime_error("clingo does not run: " + ausgabe);
     lösung.Bewiesen = ausgabe.find("OPTIMUM FOUND") != std::string::npos;
     lösung.Gefunden = ausgabe.find("Answer:") != std::string::npos;
-    if (lösung.Gefunden)
-        lösung.Beste = Auszählen(aufgabe, AntwortLesen(ausgabe, aufgabe.Plätze.size()));
+    if (lösung.Gefunden) {
+        lösung.Wer = AntwortLesen(ausgabe, aufgabe.Plätze.size());
+        lösung.Beste = Auszählen(aufgabe, lösung.Wer);
+    }
     return lösung;
 }
 

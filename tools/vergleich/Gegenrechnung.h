@@ -23,6 +23,7 @@ struct Gegenlösung {
     bool Gefunden = false;
     bool Bewiesen = false; // there is none better
     Lösung Beste;
+    std::vector<int> Wer; // one entry a place
     double Sekunden = 0;
 };
 
