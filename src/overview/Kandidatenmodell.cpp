@@ -3,7 +3,6 @@
 
 #include "controls/Bausteine.h"
 #include "core/Suchwörter.h"
-#include "core/Umwandlung.h"
 #include "overview/Zeichen.h"
 
 #include <QApplication>
@@ -17,7 +16,7 @@ namespace {
 
 QString Tag(Datum datum)
 {
-    return datum == 0 ? QString("–") : Anzeige(KurzesDatum(datum));
+    return datum == 0 ? QString("–") : Anzeige(TagImSatz(datum));
 }
 
 Text Suchzeile(const Platzkandidat &wer)

@@ -71,6 +71,7 @@ WerKannHierForm::WerKannHierForm(QWidget *über, Planplatz platz)
     Verbinden();
     NeuLesen();
     Kandidaten->resizeColumnsToContents();
+    Kandidaten->setColumnWidth(Kandidatenmodell::Dagegen, 0); // takes what is left
 }
 
 void WerKannHierForm::Anordnen()

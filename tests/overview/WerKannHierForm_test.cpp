@@ -95,9 +95,9 @@ TEST_F(WerKannHierFormTest, DieSpaltenSagenWasFürDieWahlWichtigIst)
             spalte)[static_cast<std::size_t>(std::ranges::find(namen, wer) - namen.begin())];
     };
     EXPECT_EQ(von(Kandidatenmodell::Gruppe, "Doris Dorn"), "Große");
-    EXPECT_EQ(von(Kandidatenmodell::Zuletzt, "Doris Dorn"), "29.11.2026");
+    EXPECT_EQ(von(Kandidatenmodell::Zuletzt, "Doris Dorn"), "29.11.");
     EXPECT_EQ(von(Kandidatenmodell::Danach, "Doris Dorn"), "–");
-    EXPECT_EQ(von(Kandidatenmodell::Danach, "Anna Arndt"), "06.12.2026");
+    EXPECT_EQ(von(Kandidatenmodell::Danach, "Anna Arndt"), "06.12.");
     EXPECT_EQ(von(Kandidatenmodell::Dienste, "Anna Arndt"), "2");
     EXPECT_EQ(von(Kandidatenmodell::Häufigkeit, "Anna Adler"), "2");
     EXPECT_TRUE(von(Kandidatenmodell::Partner, "Doris Dorn").starts_with("Cem Cohn"));
@@ -121,8 +121,8 @@ TEST_F(WerKannHierFormTest, EinKlickAufEinenKopfOrdnetDerDritteNimmtEsZurück)
     EXPECT_EQ(Namen(), beste);
     klick(Kandidatenmodell::Zuletzt);
     Liste tage = Spalte(Kandidatenmodell::Zuletzt);
-    EXPECT_EQ(tage.front(), "29.11.2026");
-    EXPECT_EQ(tage.back(), "03.12.2026");
+    EXPECT_EQ(tage.front(), "29.11.");
+    EXPECT_EQ(tage.back(), "03.12.");
     klick(Kandidatenmodell::Dienste);
     const Liste dienste = Spalte(Kandidatenmodell::Dienste);
     EXPECT_TRUE(std::is_sorted(dienste.begin(), dienste.end()));
