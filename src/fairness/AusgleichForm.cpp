@@ -10,6 +10,7 @@
 #include "core/Umwandlung.h"
 #include "fairness/Archivwahl.h"
 #include "fairness/Ausgleichstafeln.h"
+#include "history/Rückgängig.h"
 #include "platform/Uhr.h"
 
 #include <QHBoxLayout>
@@ -186,7 +187,7 @@ void AusgleichForm::PlanÜbernehmen()
 {
     if (!hatErgebnis)
         return;
-    AusgleichÜbernehmen(ergebnis);
+    Schritt("Plan ausgleichen", [this] { AusgleichÜbernehmen(ergebnis); });
     close();
     Mitteilen("Plan ausgeglichen, " + Wechselzahl(ergebnis.Wechsel.size()) + " neu besetzt");
 }

@@ -3,6 +3,7 @@
 
 #include "application/Mitteilung.h"
 #include "application/Nebenfenster.h"
+#include "history/Rückgängig.h"
 
 namespace altardienst {
 namespace {
@@ -22,17 +23,22 @@ Text Getan(const Platzwechsel &wechsel, const Text &zuvor)
 
 void PlätzeSchreiben(const std::vector<Platzwechsel> &wechsel)
 {
+    if (wechsel.empty())
+        return;
     Text getan;
     HauptfensterHandelt([&] {
         for (const Platzwechsel &einer : wechsel) {
-            const Platzname name = NameAm(Messe, einer.Wo);
-            const Text zuvor = VollerName(name.Vorname, name.Nachname);
-            Besetzen(Messe, einer.Wo, einer.Vorname, einer.Nachname);
-            getan += (getan.empty() ? "" : "; ") + Getan(einer, zuvor);
+            const Platzname zuvor = NameAm(Messe, einer.Wo);
+            getan += (getan.empty() ? "" : "; ") +
+                     Getan(einer, VollerName(zuvor.Vorname, zuvor.Nachname));
         }
+        getan += " (" + MesseImSatz(Messe, wechsel.front().Wo.Messe) + ")";
+        Schritt(getan, [&] {
+            for (const Platzwechsel &einer : wechsel)
+                Besetzen(Messe, einer.Wo, einer.Vorname, einer.Nachname);
+        });
     });
-    if (!getan.empty())
-        Mitteilen(getan + " (" + MesseImSatz(Messe, wechsel.front().Wo.Messe) + ")");
+    Mitteilen(getan);
 }
 
 } // namespace altardienst

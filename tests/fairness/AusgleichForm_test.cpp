@@ -3,6 +3,7 @@
 
 #include "Formstand.h"
 #include "fairness/Archiv.h"
+#include "history/Rückgängig.h"
 #include "overview/Planprüfung.h"
 
 #include <map>
@@ -87,6 +88,22 @@ TEST_F(AusgleichFormTest, DieVorschauZeigtVorherUndNachher)
     EXPECT_EQ(form->Offenes->toPlainText(), "Keine Regel ist verletzt, und kein Platz ist frei.");
     EXPECT_NE(Zeigt("Lage").find("Alle Regeln sind eingehalten."), Text::npos) << Zeigt("Lage");
     EXPECT_TRUE(form->Übernehmen->hasFocus());
+}
+
+TEST_F(AusgleichFormTest, ÜbernehmenIstEinSchritt)
+{
+    SchritteBeginnen();
+    const auto zuvor = Namen();
+    Öffnen();
+    Suchen();
+    Klick("Übernehmen");
+    EXPECT_NE(Namen(), zuvor);
+    TabellenBeobachten();
+    EXPECT_EQ(LetzterSchritt(), "Plan ausgleichen");
+    SchrittZurücknehmen();
+    EXPECT_EQ(Namen(), zuvor);
+    EXPECT_EQ(LetzterSchritt(), "");
+    SchritteBeenden();
 }
 
 TEST_F(AusgleichFormTest, ÜbernehmenSchreibtUndSchließt)

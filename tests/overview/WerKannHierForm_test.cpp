@@ -1,6 +1,8 @@
 // "Wer kann hier?"
 #include "overview/Planstand.h"
 
+#include "history/Rückgängig.h"
+#include "history/Rücknahme.h"
 #include "overview/WerKannHierForm.h"
 
 #include <QApplication>
@@ -180,6 +182,11 @@ TEST_F(WerKannHierFormTest, EinsetzenSchreibtNurDiesenPlatzUndDasRasterZeigtIhn)
     EXPECT_TRUE(std::ranges::any_of(befunde, [](const Befund &b) {
         return b.Gegen == Regel::Abwesend;
     })) << "the check says so";
+    TabellenBeobachten();
+    EXPECT_EQ(LetzterSchritt(), "Cem Cohn eingesetzt als Diener 2 (06.12., 10:00 Uhr, Messe)");
+    RückgängigMachen();
+    EXPECT_EQ(Messe.DienerNach[3][2], "");
+    EXPECT_EQ(Steht(3, Plätze + 1), "");
 }
 
 TEST_F(WerKannHierFormTest, LeerenLäßtDasFensterOffenUndSagtWerDaStand)
@@ -212,6 +219,8 @@ TEST_F(WerKannHierFormTest, MitPartnerSetztAuchDenWunschpartnerDaneben)
     EXPECT_EQ(Zeigt(Finden(haupt, "StatusMitteilung")),
               "12:00 Doris Dorn eingesetzt als Diener 1; Cem Cohn eingesetzt als Diener 2 (03.12., "
               "10:00 Uhr, Messe)");
+    RückgängigMachen();
+    EXPECT_EQ(Messe.DienerNach[2][1] + Messe.DienerNach[2][2], "") << "both are one step";
 }
 
 TEST_F(WerKannHierFormTest, FürEinenHelferplatzStehenDieHelferDa)
