@@ -11,7 +11,7 @@ mkdir -p "$arbeit/bilder" "$arbeit/pfarrbuero/"{Bilder,Dokumente,Sicherung}
 export HOME=$arbeit/pfarrbuero
 env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --saat 1 \
     --schritte 1,4,5,6,2 \
-    --menue mnuStandardmessen,mnuGruppe,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern,mnuDatenHolen,mnuHintergrund,mnuHelpAbout \
+    --menue mnuStandardmessen,mnuGruppe,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern,mnuDatenHolen,mnuHintergrund,mnuHelpAbout,mnuAusgleich,mnuVerteilung \
     --bilder "$arbeit/bilder" >/dev/null 2>&1
 
 # The last picture of a window is the one with the finished plan.
@@ -34,6 +34,8 @@ bild Datensicherung sichern
 bild Dateikopie holen
 bild Hintergrundsuche hintergrund
 bild frmAbout info
+bild Ausgleich ausgleich
+bild Verteilung verteilung
 
 # The first start.
 mkdir "$arbeit/erster"

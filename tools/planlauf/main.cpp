@@ -7,6 +7,7 @@
 #include "core/Messenname.h"
 #include "core/Umwandlung.h"
 #include "fairness/Ausgleich.h"
+#include "fairness/AusgleichForm.h"
 #include "overview/Planprüfung.h"
 #include "paper/DruckerQt.h"
 #include "platform/Laufwerke.h"
@@ -236,6 +237,7 @@ class Lauf {
             if (!eintrag || !eintrag->isEnabled())
                 throw std::runtime_error("no menu entry " + name.toStdString());
             eintrag->trigger();
+            AusgleichAbwarten();
             AndereSchließen();
         }
     }
@@ -274,6 +276,17 @@ class Lauf {
     void Beenden() { haupt->close(); }
 
   private:
+    /// On the picture of that window a plan has been found.
+    static void AusgleichAbwarten()
+    {
+        auto *form = OffenesFenster<AusgleichForm>();
+        if (!form)
+            return;
+        form->Ausgleichen->click();
+        while (!form->Ausgleichen->isEnabled())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+
     void BerichteDrucken()
     {
         haupt->findChild<QAction *>("mnuFilePrint")->trigger();
