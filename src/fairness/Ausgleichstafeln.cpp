@@ -17,7 +17,7 @@ namespace {
 
 enum Zahlenzeile { Verstöße, Wenigste, Meiste, Ungleichheit, Paare, Zahlenzeilen };
 enum Zahlenspalte { DienerVorher, DienerNachher, HelferVorher, HelferNachher, Zahlenspalten };
-enum Anteilspalte { Name, Soll, Vorher, Nachher, Balken, Anteilspalten };
+enum Anteilspalte { Name, Wer, Soll, Vorher, Nachher, Balken, Anteilspalten };
 enum Änderungsspalte { MesseSpalte, Platz, Bisher, Künftig, Änderungsspalten };
 
 // What a bar is drawn from, in thousandths.
@@ -117,7 +117,7 @@ void ZahlenZeigen(QTableWidget *tafel, const Ausgleichsergebnis &ergebnis)
 QTableWidget *Anteiltafel()
 {
     QTableWidget *tafel = Lesetafel("Anteile", "Dienste je Person",
-                                    {"Name", "Anteil", "bisher", "künftig", "Dienste"});
+                                    {"Name", "als", "Anteil", "bisher", "künftig", "Dienste"});
     tafel->setItemDelegateForColumn(Balken, new Balkenmaler(tafel));
     return tafel;
 }
@@ -126,16 +126,19 @@ void AnteileZeigen(QTableWidget *tafel, const Ausgleichsergebnis &ergebnis)
 {
     tafel->setSortingEnabled(false);
     tafel->setRowCount(0);
-    const auto gruppeZeigen = [&](const Gruppenausgleich &gruppe, const auto &personen) {
-        int meiste = 1;
-        for (const Personenanteil &anteil : gruppe.Anteile)
+    int meiste = 1; // one scale for both
+    for (const Gruppenausgleich *gruppe : {&ergebnis.Diener, &ergebnis.Helfer})
+        for (const Personenanteil &anteil : gruppe->Anteile)
             meiste = std::max({meiste, anteil.Vorher, anteil.Nachher});
+    const auto gruppeZeigen = [&](const Gruppenausgleich &gruppe, const auto &personen,
+                                  const char *als) {
         for (const Personenanteil &anteil : gruppe.Anteile) {
             const int zeile = tafel->rowCount();
             tafel->insertRow(zeile);
             tafel->setItem(
                 zeile, Name,
                 Textzelle(personen.Nachname[anteil.Nr] + ", " + personen.Vorname[anteil.Nr]));
+            tafel->setItem(zeile, Wer, Textzelle(als));
             tafel->setItem(zeile, Soll, new Zahlzelle(anteil.Soll, Gerundet(anteil.Soll, 1)));
             tafel->setItem(zeile, Vorher,
                            new Zahlzelle(anteil.Vorher, QString::number(anteil.Vorher)));
@@ -149,8 +152,8 @@ void AnteileZeigen(QTableWidget *tafel, const Ausgleichsergebnis &ergebnis)
             tafel->setItem(zeile, Balken, balken);
         }
     };
-    gruppeZeigen(ergebnis.Diener, Meßdiener);
-    gruppeZeigen(ergebnis.Helfer, Helfer);
+    gruppeZeigen(ergebnis.Diener, Meßdiener, "Meßdiener");
+    gruppeZeigen(ergebnis.Helfer, Helfer, "Helfer");
     tafel->resizeColumnsToContents();
     tafel->setSortingEnabled(true);
     tafel->sortByColumn(Name, Qt::AscendingOrder);

@@ -1,7 +1,6 @@
 // "Verteilung"
 #include "fairness/VerteilungForm.h"
 
-#include "application/Mitteilung.h"
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
@@ -73,11 +72,17 @@ void VerteilungForm::Verbinden()
     connect(Kopieren, &QPushButton::clicked, this, Abgefangen([this] {
                 QApplication::clipboard()->setText(
                     Anzeige(VerteilungAlsTabelle(GemeinsameTabellen(), Art(), verteilung)));
-                Setzen(Hinweis, "Die Tabelle liegt in der Zwischenablage.");
+                Sagen("Die Tabelle liegt in der Zwischenablage.");
             }));
     connect(Drucken, &QPushButton::clicked, this,
             Offen([this] { VerteilungDrucken(GemeinsameTabellen(), Art(), verteilung); }));
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void VerteilungForm::Sagen(const Text &text)
+{
+    Setzen(Hinweis, text);
+    Hinweis->setVisible(!text.empty());
 }
 
 Planplatz::Art VerteilungForm::Art() const
@@ -91,7 +96,7 @@ void VerteilungForm::Zählen()
     verteilung = DiensteVerteilt(GemeinsameTabellen(), Art(),
                                  Art() == Planplatz::Art::Diener ? archiv.Diener : archiv.Helfer,
                                  Uhr.Heute());
-    Setzen(Hinweis, UnlesbaresText(archiv.UnlesbareDateien));
+    Sagen(UnlesbaresText(archiv.UnlesbareDateien));
     TafelFüllen();
     BildZeichnen();
 }

@@ -30,6 +30,7 @@ class VerteilungForm : public Dialogfenster {
     void Verbinden();
 
     void Zählen();
+    void Sagen(const Text &text);
     void TafelFüllen();
     void BildZeichnen();
 

@@ -187,7 +187,7 @@ TEST_F(AusgleichFormTest, DasArchivZähltMit)
     Suchen();
     for (int zeile = 0; zeile < form->Anteile->rowCount(); ++zeile)
         if (form->Anteile->item(zeile, 0)->text() == "N, V1") {
-            EXPECT_EQ(form->Anteile->item(zeile, 3)->text(), "0");
+            EXPECT_EQ(form->Anteile->item(zeile, 4)->text(), "0");
         }
 }
 

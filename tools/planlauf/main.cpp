@@ -7,6 +7,7 @@
 #include "core/Messenname.h"
 #include "core/Umwandlung.h"
 #include "fairness/Ausgleich.h"
+#include "fairness/AusgleichForm.h"
 #include "overview/Planprüfung.h"
 #include "paper/Druckdialog.h"
 #include "paper/DruckerQt.h"
@@ -249,6 +250,7 @@ class Lauf {
             eintrag->trigger();
             if (const QString knopf = weg.section('/', 1); !knopf.isEmpty())
                 Drücken(knopf);
+            AusgleichAbwarten();
             AndereSchließen();
             if (eintrag->isCheckable()) // changes the main window itself
                 Bild(haupt);
@@ -309,6 +311,17 @@ class Lauf {
                 gefunden && fenster != haupt && fenster->isVisible())
                 return gefunden->click();
         throw std::runtime_error("no button " + knopf.toStdString());
+    }
+
+    /// On the picture of that window a plan has been found.
+    static void AusgleichAbwarten()
+    {
+        auto *form = OffenesFenster<AusgleichForm>();
+        if (!form)
+            return;
+        form->Ausgleichen->click();
+        while (!form->Ausgleichen->isEnabled())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
 
     void BerichteDrucken()
