@@ -122,7 +122,7 @@ void ArchivForm::ZeitraumLöschen()
     if (Zeile() < 0)
         return;
     const Archivzeitraum zeitraum = zeiträume[static_cast<std::size_t>(Zeile())];
-    if (!Meldungen.Fragen("Die Dienste vom " + ZeitraumText(zeitraum) +
+    if (!Meldungen.FragenVorVerlust("Die Dienste vom " + ZeitraumText(zeitraum) +
                               " aus dem Archiv löschen? Sie zählen dann nicht mehr mit.",
                           "Archiv löschen"))
         return;
@@ -130,7 +130,7 @@ void ArchivForm::ZeitraumLöschen()
         ArchivLöschen(zeitraum);
         Mitteilen("aus dem Archiv gelöscht: " + ZeitraumText(zeitraum));
     } catch (const Laufzeitfehler &fehler) {
-        return Setzen(Hinweis, Text("Die Datei läßt sich nicht löschen: ") + fehler.what() + ".");
+        return Setzen(Hinweis, Text("Die Datei lässt sich nicht löschen: ") + fehler.what() + ".");
     }
     Auflisten();
 }

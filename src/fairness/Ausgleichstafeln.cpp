@@ -85,9 +85,7 @@ QTableWidget *Zahlentafel()
     tafel->setVerticalHeaderLabels({"Verstöße", "wenigste Dienste", "meiste Dienste",
                                     "Ungleichheit", "Wunschpartner beieinander"});
     tafel->verticalHeader()->show();
-    tafel->setSelectionMode(QAbstractItemView::NoSelection);
-    tafel->setFocusPolicy(Qt::NoFocus);
-    tafel->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    tafel->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     for (int zeile = 0; zeile < Zahlenzeilen; ++zeile)
         for (int spalte = 0; spalte < Zahlenspalten; ++spalte)
             tafel->setItem(zeile, spalte, new Zahlzelle(0, ""));
@@ -154,9 +152,9 @@ void AnteileZeigen(QTableWidget *tafel, const Ausgleichsergebnis &ergebnis)
     };
     gruppeZeigen(ergebnis.Diener, Meßdiener, "Meßdiener");
     gruppeZeigen(ergebnis.Helfer, Helfer, "Helfer");
-    tafel->resizeColumnsToContents();
     tafel->setSortingEnabled(true);
     tafel->sortByColumn(Name, Qt::AscendingOrder);
+    tafel->resizeColumnsToContents(); // with room for the arrow of the order
 }
 
 QTableWidget *Änderungstafel()

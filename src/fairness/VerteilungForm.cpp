@@ -122,9 +122,9 @@ void VerteilungForm::TafelFüllen()
                                        : new Zahlzelle(werte[k], Anzeige(texte[k])));
         }
     }
-    Tafel->resizeColumnsToContents();
     Tafel->setSortingEnabled(true);
     Tafel->sortByColumn(0, Qt::AscendingOrder);
+    Tafel->resizeColumnsToContents(); // with room for the arrow of the order
 }
 
 /// How many people serve not at all, once, twice and so on.

@@ -71,7 +71,10 @@ WerKannHierForm::WerKannHierForm(QWidget *über, Planplatz platz)
     Verbinden();
     NeuLesen();
     Kandidaten->resizeColumnsToContents();
-    Kandidaten->setColumnWidth(Kandidatenmodell::Dagegen, 0); // takes what is left
+    // The last one takes what is left, but no less than its heading needs.
+    Kandidaten->setColumnWidth(
+        Kandidatenmodell::Dagegen,
+        Kandidaten->horizontalHeader()->sectionSizeHint(Kandidatenmodell::Dagegen));
 }
 
 void WerKannHierForm::Anordnen()

@@ -316,6 +316,7 @@ const std::map<Text, std::set<Text>> &SprechenFürSich()
              "Viere",   "fünfE",    "Sechse",    "Siebene",     "Achte",    "Neune",  "Zehene",
              "Elfe",    "Zwölfe",   "Dreizehne", "Vierzehne",   "Fünfzehne"},
             reihe("O", 10));
+        f["Ausgleich"] = {"Diener", "Helferinnen"};
         f["Datensicherung"] = {"Drive1", "VZ"};
         f["Dateikopie"] = f["DateienKopieren"] = {"Drive1"};
         return f;

@@ -167,6 +167,7 @@ TEST_F(HauptFormTest, DieSchritteDieSuchenZeigenDenWartezeiger)
         zeiger = false;
         Klick(knopf);
         EXPECT_TRUE(zeiger) << Zeigt(knopf);
+        QCoreApplication::processEvents(); // the event that wrote the archive is over
         EXPECT_FALSE(QApplication::overrideCursor()) << Zeigt(knopf);
     }
 }

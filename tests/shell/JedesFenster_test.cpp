@@ -257,6 +257,8 @@ TEST_F(JedesFensterTest, WerAbbrechenKannVerläßtDasFensterAuchMitEscape)
 TEST_F(JedesFensterTest, DieEingabetasteDrücktInEinemFeldNurDasOkDesDruckdialogs)
 {
     InJedemVollenFenster([](const Text &name, QWidget *fenster) {
+        if (name == "WerKannHier")
+            return; // there Enter puts in the one who is chosen
         std::vector<Text> gedrückt;
         for (QPushButton *knopf : fenster->findChildren<QPushButton *>()) {
             EXPECT_EQ(knopf->isDefault() && !knopf->hasFocus(),
