@@ -37,6 +37,12 @@ bild frmAbout info
 bild Ausgleich ausgleich
 bild Verteilung verteilung
 
+# The plan in place of the picture.
+mkdir "$arbeit/plan"
+env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --schritte "" \
+    --menue mnuPlanAnzeigen --bilder "$arbeit/plan" >/dev/null 2>&1
+cp "$(ls "$arbeit"/plan/*-Haupt.png | tail -1)" bilder/auf-einen-blick.png
+
 # The first start.
 mkdir "$arbeit/erster"
 env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/nichts" --schritte "" \

@@ -11,11 +11,12 @@ void FesteMeßdienerÜbertragen()
 {
     Int16 &m = SchleifenZähler;
     for (m = 0; m <= Messe.Anzahl; ++m)
-        FürJedenFestenPlatz(MesseDienerFest, Messe, m,
-                            [&m](int slot, const Text &vorname, const Text &nachname) {
-                                Messe.DienerVor[m][slot] = vorname;
-                                Messe.DienerNach[m][slot] = nachname;
-                            });
+        FürJedenFestenPlatz(
+            MesseDienerFest, Messe, m,
+            [messe = static_cast<int>(m)](int slot, const Text &vorname, const Text &nachname) {
+                Messe.DienerVor[messe][slot] = vorname;
+                Messe.DienerNach[messe][slot] = nachname;
+            });
 }
 
 void ÜbertragenAufWunsch()

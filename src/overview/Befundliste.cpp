@@ -106,8 +106,8 @@ Befundliste::Befundliste(const Planprüfung &prüfung)
 void Befundliste::Anordnen()
 {
     const int ziffer = fontMetrics().averageCharWidth();
-    Befunde->setColumnWidth(Befundmodell::Platz, 16 * ziffer);
-    Befunde->setColumnWidth(Befundmodell::Bei, 26 * ziffer);
+    Befunde->setColumnWidth(Befundmodell::Platz, 20 * ziffer);
+    Befunde->setColumnWidth(Befundmodell::Bei, 30 * ziffer);
     Befunde->setItemDelegate(new Befundmaler(this, modell));
     QFont fett = Zahlen->font();
     fett.setBold(true);
@@ -115,6 +115,7 @@ void Befundliste::Anordnen()
     Zahlen->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     NachPerson->setToolTip("Gliedert die Befunde nach Personen statt nach Messen");
     auto *kopf = new QHBoxLayout;
+    kopf->setSpacing(4);
     kopf->addWidget(Zahlen, 1);
     kopf->addWidget(NachPerson);
     kopf->addWidget(Drucken);

@@ -163,7 +163,7 @@ QVariant Kandidatenmodell::data(const QModelIndex &zelle, int rolle) const
         return gründe.isEmpty() ? QString("Nichts spricht dagegen.") : gründe.join('\n');
     }
     case Qt::TextAlignmentRole:
-        return static_cast<int>((IstZahl(zelle.column()) ? Qt::AlignRight : Qt::AlignLeft) |
+        return static_cast<int>((IstZahl(zelle.column()) ? Qt::AlignHCenter : Qt::AlignLeft) |
                                 Qt::AlignVCenter);
     case Qt::DecorationRole:
         if (zelle.column() != Dagegen || wer.Rang() == 0)
@@ -196,7 +196,8 @@ QVariant Kandidatenmodell::headerData(int nr, Qt::Orientation richtung, int roll
     if (rolle == Qt::ToolTipRole && *Erklärungen[nr])
         return QString(Erklärungen[nr]);
     if (rolle == Qt::TextAlignmentRole)
-        return static_cast<int>((IstZahl(nr) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+        return static_cast<int>((IstZahl(nr) ? Qt::AlignHCenter : Qt::AlignLeft) |
+                                Qt::AlignVCenter);
     return {};
 }
 

@@ -60,7 +60,7 @@ class Messenprüfung {
     /// What the tables say of a person, ready to be looked up for each place.
     struct Kenntnis {
         std::array<Fehlzeit, 5> Abwesenheiten{}; // the first ones are set
-        int Abwesend = 0;                           // how many
+        int Abwesend = 0;                        // how many
 
         bool IstAbwesend(Datum tag) const;
     };

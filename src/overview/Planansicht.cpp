@@ -16,7 +16,6 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
-#include <QMenu>
 #include <QVBoxLayout>
 
 namespace altardienst {
@@ -39,9 +38,13 @@ Text Dienstfolge(const Personenblick &blick)
     for (const Personendienst &dienst : blick.Dienste) {
         if (!folge.empty())
             folge += " · ";
-        if (dienst.Pause)
-            folge += "nach " + ZahlText(*dienst.Pause) + (*dienst.Pause == 1 ? " Tag " : " Tagen ");
-        folge += TagImSatz(dienst.Tag) + " " + dienst.Dienst;
+        if (dienst.Pause == 0)
+            folge += "am selben Tag " + dienst.Dienst;
+        else
+            folge += (dienst.Pause ? Text("nach ") + ZahlText(*dienst.Pause) +
+                                         (*dienst.Pause == 1 ? " Tag " : " Tagen ")
+                                   : Text()) +
+                     TagImSatz(dienst.Tag) + " " + dienst.Dienst;
     }
     return folge;
 }
@@ -58,6 +61,8 @@ Planansicht::Planansicht()
 {
     Benannt(this, "Planansicht");
     modell->Nachziehen();
+    Regelmenü = new Regelauswahl(this, modell->Prüfung(),
+                                 Abgefangen([this](const Regelwahl &regeln) { Beachten(regeln); }));
     Tafel = new Plantafel(modell);
     Liste = new Befundliste(modell->Prüfung());
     Anordnen();
@@ -71,11 +76,9 @@ void Planansicht::Anordnen()
     später->setSingleShot(true);
     NurAuffälliges->setToolTip("Zeigt nur die Messen, bei denen etwas auffällt");
     Regeln->setToolTip("Worauf geachtet wird");
-    Regeln->setMenu(
-        new Regelauswahl(this, modell->Prüfung(),
-                         Abgefangen([this](const Regelwahl &regeln) { Beachten(regeln); })));
     TasteNennen(WerKannHier, "Eingabe auf einem Platz");
     auto *kopf = new QHBoxLayout;
+    kopf->setSpacing(4); // all of it fits the smallest screen
     kopf->addWidget(WerKannHier);
     kopf->addStretch();
     kopf->addWidget(NurAuffälliges);
@@ -110,6 +113,9 @@ void Planansicht::Verbinden()
     connect(NurAuffälliges, &QCheckBox::toggled, this,
             Abgefangen([this](bool nur) { modell->NurAuffälliges(nur); }));
     connect(WerKannHier, &QPushButton::clicked, this, Offen([this] { Fragen(); }));
+    connect(Regeln, &QPushButton::clicked, this, Abgefangen([this] {
+                Regelmenü->popup(Regeln->mapToGlobal(QPoint(0, Regeln->height())));
+            }));
     connect(Teiler, &QSplitter::splitterMoved, this,
             Abgefangen([this] { Gemerktes().setValue(Teilerschlüssel, Teiler->saveState()); }));
     Tafel->BeiWahl = Abgefangen([this] { Gewählt(); });

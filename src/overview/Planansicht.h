@@ -6,6 +6,7 @@
 #include "overview/Plantafel.h"
 
 #include <QCheckBox>
+#include <QMenu>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTimer>
@@ -22,6 +23,7 @@ class Planansicht : public QWidget {
     QCheckBox *NurAuffälliges;
     QPushButton *WerKannHier;
     QPushButton *Regeln; // which rules are looked at
+    QMenu *Regelmenü;
     Plantafel *Tafel;
     Kurztext *Person;   // whose places are marked, and the services by kind
     Kurztext *Abstände; // their dates, and the days between them

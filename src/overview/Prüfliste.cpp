@@ -49,12 +49,13 @@ std::vector<Befundgruppe> NachPersonen(const Planprüfung &prüfung)
 /// A line on paper goes on beyond the margin; a sentence is broken between its words.
 std::vector<Text> Umbrochen(const Text &text)
 {
-    constexpr int Zeichen = 84;
+    constexpr int ZeichenMalPunkte = 1000; // on portrait paper, with room to spare
+    const int zeichen = ZeichenMalPunkte / std::clamp<int>(Konfig.Schriftgröße, 6, 24);
     constexpr const char *Einzug = "      ";
     std::vector<Text> zeilen;
     Text rest = text;
-    while (Länge(rest) > Zeichen) {
-        const Text anfang = Links(rest, Zeichen);
+    while (Länge(rest) > zeichen) {
+        const Text anfang = Links(rest, zeichen);
         const std::size_t lücke = anfang.rfind(' ');
         if (lücke == Text::npos || anfang.find_first_not_of(' ') > lücke)
             break; // one endless word

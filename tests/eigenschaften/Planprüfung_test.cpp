@@ -101,6 +101,26 @@ class PlanprüfungEigenschaftenTest : public Gemeindestand {
         return ::testing::AssertionSuccess();
     }
 
+    /// The rules that every drawn server keeps for himself, as the tests of the draw know them.
+    static void StimmtMitDenRegelnDerZiehungÜberein(const Planprüfung &prüfung)
+    {
+        const std::set<Regel> fürSich = {Regel::Abwesend, Regel::Wochendienst, Regel::Wochentag,
+                                         Regel::Qualifikation};
+        DiensteVerteilen();
+        std::set<Planplatz> gemeldet;
+        for (const Befund &befund : prüfung.Alle())
+            if (befund.Wo.Was == Planplatz::Art::Diener && fürSich.contains(befund.Gegen))
+                gemeldet.insert(befund.Wo);
+        for (int i = 0; i < Messe.Anzahl; ++i)
+            for (int slot = 1; slot <= std::min<int>(Messe.Dienerzahl[i], MeisteSlots); ++slot) {
+                const Planplatz platz = Dienerplatznr(i, slot);
+                const int j = prüfung.WerSteht(platz);
+                ASSERT_EQ(j >= 0 && !VerstoßFürSich(i, slot, j, true).empty(),
+                          gemeldet.contains(platz))
+                    << i << " " << slot;
+            }
+    }
+
     /// Whether a server was drawn for a place, or placed beside one as his wish.
     static std::set<Planplatz> AlsPartnerGesetzte()
     {
@@ -129,6 +149,7 @@ TEST_F(PlanprüfungEigenschaftenTest, StimmtMitDerZweitenÜbereinWerImmerDasteht
         AllesZufälligBesetzen(w);
         const Planprüfung prüfung;
         ASSERT_TRUE(StimmtÜberein(prüfung));
+        StimmtMitDenRegelnDerZiehungÜberein(prüfung);
         for (const Befund &befund : prüfung.Alle())
             ++vorgekommen[static_cast<std::size_t>(befund.Gegen)];
     }

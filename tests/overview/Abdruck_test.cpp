@@ -56,7 +56,7 @@ TEST_F(AbdruckTest, JedesFeldEinerMesseZähltZuDieserMesse)
         EXPECT_EQ(danach.Übriges, zuvor.Übriges);
         ++felder;
     });
-    EXPECT_EQ(felder, 93);
+    EXPECT_EQ(felder, 95);
 }
 
 template <class Tabelle> int GeänderteFelder(Tabelle &tabelle)
@@ -91,7 +91,7 @@ TEST_F(AbdruckTest, JedeEinstellungZählt)
     };
     std::apply([&](auto &&...alle) { (einzeln(alle), ...); }, Konfig.Felder());
     einzeln(Konfig.StartDatum);
-    EXPECT_EQ(felder, 28);
+    EXPECT_EQ(felder, 30);
 }
 
 TEST_F(AbdruckTest, DieReihenfolgeUndDieAnzahlZählen)

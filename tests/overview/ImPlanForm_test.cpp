@@ -5,6 +5,8 @@
 #include "people/ImPlan.h"
 #include "people/MeßdienerForm.h"
 
+#include <QApplication>
+
 namespace altardienst {
 namespace {
 
@@ -52,7 +54,7 @@ TEST_F(ImPlanFormTest, WasGetipptIstWirdVorherÜbernommen)
     Meßdiener.Cursor = 0;
     MenüWählen("mnuMeßdiener");
     auto *form = static_cast<MeßdienerForm *>(Fenster("Meßdiener"));
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+    ASSERT_TRUE(Warten([&] { return QApplication::activeWindow() == form; }));
     Tippen(form->Angaben.Person.Nachname, "Zorn");
     Klick(Finden(form, "ImPlan"));
     EXPECT_EQ(Meßdiener.Nachname[0], "Zorn");

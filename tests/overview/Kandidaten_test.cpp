@@ -39,9 +39,9 @@ TEST_F(KandidatenTest, WenigerDiensteZuerstDannDerLängereAbstand)
     const std::vector<Datum> tage = {Tag(22), Tag(24), Tag(26), Tag(30), Tag(2, 12)};
     for (const Datum tag : tage)
         Hochamt(tag, 2);
-    const int anna = MeßdienerAnlegen("Anna", "Berg");
-    const int ben = MeßdienerAnlegen("Ben", "Berg");
     const int carl = MeßdienerAnlegen("Carl", "Berg");
+    const int ben = MeßdienerAnlegen("Ben", "Berg");
+    const int anna = MeßdienerAnlegen("Anna", "Berg");
     MeßdienerAnlegen("Dora", "Berg");
     MeßdienerAnlegen("", "Niemand");
     Einsetzen(0, 1, anna);

@@ -141,20 +141,33 @@ TEST_F(PlanansichtFormTest, NurAuffälligesBlendetDieÜbrigenMessenAus)
     EXPECT_EQ(plan->Tafel->model()->rowCount(), 4);
 }
 
+TEST_F(PlanansichtFormTest, ZweiDiensteAmSelbenTagStehenAlsSolcheInDerFolge)
+{
+    PlanÖffnen();
+    Messe.Datum[1] = Messe.Datum[0];
+    Messe.Uhrzeit[1] = ZeitAus(18 * 3600);
+    Stellen(1, 2, 0);
+    plan->Nachziehen();
+    Anklicken(Zelle(0, Plätze));
+    EXPECT_EQ(Zeigt(plan->Abstände),
+              "28.11. Allgemein · am selben Tag Allgemein · nach 5 Tagen 03.12. Allgemein");
+}
+
 TEST_F(PlanansichtFormTest, EineAbgewählteRegelHatKeinZeichenZähltNichtUndStehtNichtInDerListe)
 {
     PlanÖffnen();
     Stellen(1, 2, 1); // Anna Arndt twice in the Hochamt
     plan->Nachziehen();
     ASSERT_EQ(Modell()->Gravierendstes(1), Stufe::Verstoß);
-    QMenu *menü = plan->Regeln->menu();
+    QMenu *menü = plan->Regelmenü;
     const auto regel = [&](const QString &name) {
         const auto einträge = menü->actions();
         return *std::ranges::find_if(einträge, [&](const QAction *eintrag) {
             return eintrag->text().section('\t', 0, 0) == name;
         });
     };
-    menü->popup({});
+    Klick(plan->Regeln);
+    ASSERT_TRUE(menü->isVisible());
     EXPECT_EQ(regel("Doppelt in der Messe")->text().section('\t', 1), "1");
     QTest::mouseClick(menü, Qt::LeftButton, {},
                       menü->actionGeometry(regel("Doppelt in der Messe")).center());
@@ -166,7 +179,7 @@ TEST_F(PlanansichtFormTest, EineAbgewählteRegelHatKeinZeichenZähltNichtUndSteh
     EXPECT_EQ(Zeigt(plan->Liste->Zahlen), "1 Verstoß, ohne Doppelt in der Messe");
     Wiederkommen();
     EXPECT_FALSE(Modell()->Gravierendstes(1)) << "remembered";
-    menü = plan->Regeln->menu();
+    menü = plan->Regelmenü;
     regel("alle")->trigger();
     EXPECT_EQ(Modell()->Gravierendstes(1), Stufe::Verstoß);
 }

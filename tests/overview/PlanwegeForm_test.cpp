@@ -77,10 +77,10 @@ TEST_F(PlanwegeFormTest, WasInEinemFensterDanebenGetipptIstGehtBeimLeerenNichtVe
     PlanÖffnen();
     DialogDanebenÖffnen<MessenlisteForm>();
     auto *liste = static_cast<MessenlisteForm *>(Fenster("Messenliste"));
-    ASSERT_TRUE(QTest::qWaitForWindowActive(liste));
+    ASSERT_TRUE(Warten([&] { return QApplication::activeWindow() == liste; }));
     Tippen(liste->Messewesen, "Amt");
     haupt->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(haupt));
+    ASSERT_TRUE(Warten([&] { return QApplication::activeWindow() == haupt; }));
     Anklicken(Zelle(0, Plätze));
     Drücken(Qt::Key_Delete);
     EXPECT_EQ(Messe.Messeart[0], "Amt");

@@ -71,6 +71,7 @@ TEST_F(PrüflisteTest, GedrucktNachMessen)
 
 TEST_F(PrüflisteTest, GedrucktNachPersonenMitUmbruch)
 {
+    Konfig.Schriftgröße = 12; // with 10 it would be one line
     PrüflisteDrucken(Planprüfung(), Gliederung::NachPerson);
     Text papier;
     for (const Text &zeile : Papier.Zeilen)

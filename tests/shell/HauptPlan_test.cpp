@@ -6,6 +6,7 @@
 #include "planning/MessenlisteForm.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 
 namespace altardienst {
 namespace {
@@ -116,6 +117,7 @@ TEST_F(HauptPlanTest, WasEinFensterAnSeinerStelleÄndertStehtDaSobaldEsWiederkom
     PlanÖffnen();
     Klick(haupt->AnzMesse);
     auto *liste = static_cast<MessenlisteForm *>(Fenster("Messenliste"));
+    ASSERT_TRUE(Warten([&] { return QApplication::activeWindow() == liste; }));
     Tippen(liste->Slots.vor[0], "Zoe");
     liste->close();
     EXPECT_EQ(Steht(0, Plätze), "Zoe A.");
@@ -126,7 +128,7 @@ TEST_F(HauptPlanTest, WasDieMessenlisteDanebenSchreibtZeigtSichSofort)
     PlanÖffnen();
     DialogDanebenÖffnen<MessenlisteForm>();
     auto *liste = static_cast<MessenlisteForm *>(Fenster("Messenliste"));
-    ASSERT_TRUE(QTest::qWaitForWindowActive(liste));
+    ASSERT_TRUE(Warten([&] { return QApplication::activeWindow() == liste; }));
     Tippen(liste->Slots.vor[0], "Zoe");
     EXPECT_EQ(Steht(0, Plätze), "Anna Ad.");
     Klick(liste->Wahl->Plus);

@@ -239,6 +239,8 @@ class Lauf {
             eintrag->trigger();
             AusgleichAbwarten();
             AndereSchließen();
+            if (eintrag->isCheckable()) // changes the main window itself
+                Bild(haupt);
         }
     }
 
