@@ -7,6 +7,7 @@
 #include "values/Datum.h"
 
 #include <filesystem>
+#include <tuple>
 #include <vector>
 
 namespace altardienst {
@@ -17,7 +18,10 @@ struct Archivzeitraum {
     Datum Bis = 0;
 
     friend bool operator==(const Archivzeitraum &, const Archivzeitraum &) = default;
-    friend auto operator<=>(const Archivzeitraum &, const Archivzeitraum &) = default;
+    friend auto operator<=>(const Archivzeitraum &a, const Archivzeitraum &b)
+    {
+        return std::tie(a.Von, a.Bis) <=> std::tie(b.Von, b.Bis);
+    }
 };
 
 /// One service of somebody.

@@ -7,6 +7,7 @@
 #include <array>
 #include <compare>
 #include <cstdint>
+#include <tuple>
 #include <vector>
 
 namespace altardienst {
@@ -21,7 +22,12 @@ struct Plankosten {
     std::int64_t Getrennt = 0; // services whose wish partner does not stand beside
     std::int64_t Unruhe = 0;   // uneven gaps, always the same service, changed names
 
-    friend auto operator<=>(const Plankosten &, const Plankosten &) = default;
+    friend bool operator==(const Plankosten &, const Plankosten &) = default;
+    friend auto operator<=>(const Plankosten &a, const Plankosten &b)
+    {
+        return std::tie(a.Verstöße, a.Schwere, a.Hinweise, a.Ungleich, a.Getrennt, a.Unruhe) <=>
+               std::tie(b.Verstöße, b.Schwere, b.Hinweise, b.Ungleich, b.Getrennt, b.Unruhe);
+    }
     Plankosten &operator+=(const Plankosten &b);
     Plankosten &operator-=(const Plankosten &b);
 };

@@ -167,7 +167,7 @@ Text SatzOderFehler(const Plantabellen &t, const Befund &b, const Mensch &m)
                              ? " ist unter den Meßdienern nicht zu finden."
                              : " ist unter den Helfern nicht zu finden.");
     case Regel::Mehrdeutig:
-        return "Mehrere heißen " + m.Name + "; wer hier steht, läßt sich nicht prüfen.";
+        return "Mehrere heißen " + m.Name + "; wer hier steht, lässt sich nicht prüfen.";
     case Regel::Doppelt:
         return m.Name + " steht in dieser Messe auch auf " + Platzaufschrift(b.Bezug) + ".";
     case Regel::SelberTag:

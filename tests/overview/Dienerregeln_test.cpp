@@ -70,7 +70,7 @@ TEST_F(DienerregelnTest, WerEinenNamenTeiltWirdNichtBeurteilt)
     const int zweiter = MeßdienerAnlegen("Vor0", "Nach");
     Meßdiener.Von1[zweiter] = Meßdiener.Bis1[zweiter] = Tag(22);
     EXPECT_EQ(Befunde(),
-              Zeilen{"H 1 Mehrere heißen Vor0 Nach; wer hier steht, läßt sich nicht prüfen."});
+              Zeilen{"H 1 Mehrere heißen Vor0 Nach; wer hier steht, lässt sich nicht prüfen."});
     Meßdiener.Nachname[zweiter] = "Nach.";
     EXPECT_EQ(Befunde(), Zeilen());
 }
