@@ -53,9 +53,9 @@ struct Personenanteil {
 /// A place in which a rule is still broken, or that is still free.
 struct Engpass {
     Befund Was;
-    Text Satz;    // what is wrong
-    bool Bleibt;  // fixed, set by hand or in the past, so that nobody else can stand there
-    Text Warum;   // nobody else can; empty if somebody could, but then a rule is broken elsewhere
+    Text Satz;   // what is wrong
+    bool Bleibt; // fixed, set by hand or in the past, so that nobody else can stand there
+    Text Warum;  // nobody else can; empty if somebody could, as after a search that was ended early
     Text Abhilfe; // what would help
 };
 

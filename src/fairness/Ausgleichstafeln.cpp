@@ -190,7 +190,7 @@ Text OffenesText(const Ausgleichsergebnis &ergebnis)
             if (engpass.Bleibt)
                 text += "    Der Platz ist fest vergeben und bleibt, wie er ist.\n";
             else if (engpass.Warum.empty())
-                text += "    Ein anderer paßte hier, verstieße aber anderswo gegen eine Regel.\n";
+                text += "    Ein anderer könnte hier stehen: „Wer kann hier?“ im Plan nennt ihn.\n";
             else
                 text += "    " + engpass.Warum + "\n    " + engpass.Abhilfe + "\n";
             text += "\n";

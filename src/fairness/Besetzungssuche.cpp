@@ -113,7 +113,8 @@ class Suche {
         }
         plan.Stellen(beste);
         Glätten(600 * plätze);
-        Nachbessern();
+        if (!abgebrochen)
+            Nachbessern();
     }
 
     bool AmZiel() const
