@@ -123,8 +123,8 @@ void ArchivForm::ZeitraumLöschen()
         return;
     const Archivzeitraum zeitraum = zeiträume[static_cast<std::size_t>(Zeile())];
     if (!Meldungen.FragenVorVerlust("Die Dienste vom " + ZeitraumText(zeitraum) +
-                              " aus dem Archiv löschen? Sie zählen dann nicht mehr mit.",
-                          "Archiv löschen"))
+                                        " aus dem Archiv löschen? Sie zählen dann nicht mehr mit.",
+                                    "Archiv löschen"))
         return;
     try {
         ArchivLöschen(zeitraum);

@@ -286,9 +286,10 @@ TEST_F(StändeFormTest, LassenSieSichNichtZurücklegenSagtEsDasFenster)
     };
     Antworten = {true};
     Klick("Zurückholen");
-    EXPECT_EQ(Zeigt("Hinweis"),
-              "Dieser Stand lässt sich nicht zurückholen: Datenträger voll. Die acht Dateien können "
-              "aus zwei Speicherungen stammen; was das Programm jetzt weiß, ist aufgehoben.");
+    EXPECT_EQ(
+        Zeigt("Hinweis"),
+        "Dieser Stand lässt sich nicht zurückholen: Datenträger voll. Die acht Dateien können "
+        "aus zwei Speicherungen stammen; was das Programm jetzt weiß, ist aufgehoben.");
     EXPECT_TRUE(Netz().SpeichernAbgebrochen);
     const auto stände = AlleStände();
     EXPECT_TRUE(std::ranges::any_of(
