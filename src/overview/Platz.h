@@ -7,6 +7,7 @@
 
 #include <compare>
 #include <string_view>
+#include <tuple>
 
 namespace altardienst {
 
@@ -17,7 +18,11 @@ struct Planplatz {
     Art Was = Art::Messe;
     int Nr = 0; // slot 1 to 20, or the index in `Helferplätze`
 
-    friend auto operator<=>(const Planplatz &, const Planplatz &) = default;
+    friend bool operator==(const Planplatz &, const Planplatz &) = default;
+    friend auto operator<=>(const Planplatz &a, const Planplatz &b)
+    {
+        return std::tie(a.Messe, a.Was, a.Nr) <=> std::tie(b.Messe, b.Was, b.Nr);
+    }
 };
 
 constexpr Planplatz Dienerplatznr(int messe, int slot)

@@ -98,7 +98,7 @@ DruckdialogForm::DruckdialogForm(const Druckanfrage &anfrage, const Druckerliste
 {
     Benannt(this, "CommonDialog1");
     setWindowTitle(anfrage.Name.empty() ? "Drucken" : "Drucken: " + Anzeige(anfrage.Name));
-    PdfDatei->setText(PdfVorschlag(vorschlag));
+    PdfDatei->setText(QDir::toNativeSeparators(PdfVorschlag(vorschlag)));
     DanachÖffnen->setChecked(Druckgewohnheiten.Lesen().DanachÖffnen);
     Druckername->setAccessibleName("Drucker");
     PdfDatei->setAccessibleName("PDF-Datei");
@@ -160,7 +160,7 @@ void DruckdialogForm::Verbinden()
     connect(Durchsuchen, &QPushButton::clicked, this, Offen([this] { PdfSuchen(); }));
     BeiFokusVerlust(PdfDatei, Abgefangen([this] {
                         if (const QString pfad = PdfPfad(); !pfad.isEmpty())
-                            PdfDatei->setText(pfad);
+                            PdfDatei->setText(QDir::toNativeSeparators(pfad));
                     }));
     connect(OKButton, &QPushButton::clicked, this, Offen([this] { Bestätigen(); }));
     connect(CancelButton, &QPushButton::clicked, this, [this] { reject(); });
@@ -196,7 +196,7 @@ void DruckdialogForm::Bestätigen()
 {
     const QString pfad = PdfPfad();
     if (Pdf->isChecked() && pfad != ersetzbar && QFileInfo::exists(pfad) &&
-        !Meldungen.FragenVorVerlust("Die Datei " + pfad.toStdString() +
+        !Meldungen.FragenVorVerlust("Die Datei " + QDir::toNativeSeparators(pfad).toStdString() +
                                         " gibt es schon. Soll sie ersetzt werden?",
                                     "Drucken"))
         return;
@@ -222,7 +222,7 @@ void DruckdialogForm::PdfSuchen()
     if (datei.isEmpty())
         return;
     ersetzbar = datei; // the system's dialog has already asked
-    PdfDatei->setText(datei);
+    PdfDatei->setText(QDir::toNativeSeparators(datei));
 }
 
 Druckauswahl DruckdialogForm::Auswahl() const
