@@ -91,7 +91,7 @@ TEST_F(AusgleichTest, ImBeispielDientJederZweiOderDreimalOhneVerstoß)
     const auto anfang = std::chrono::steady_clock::now();
     const Ausgleichsergebnis ergebnis = PlanAusgleichen(GemeinsameTabellen(), {});
     const std::chrono::duration<double> dauer = std::chrono::steady_clock::now() - anfang;
-    EXPECT_LT(dauer.count(), 1.0);
+    EXPECT_LT(dauer.count(), 5.0) << "far more than it takes";
     EXPECT_GT(ergebnis.Diener.Vorher.Meiste, 3);
     EXPECT_EQ(ergebnis.Diener.Nachher.Verstöße, 0);
     EXPECT_EQ(ergebnis.Diener.Nachher.Wenigste, 2);
