@@ -30,7 +30,7 @@ void NachEinerPause()
     TabellenUnberührt = [] { return true; };
     Zufall = ZufallMitSaat(Saat);
     Meldungen.Zeigen = [](const Text &) {};
-    Meldungen.Fragen = [](const Text &, const Text &) { return true; };
+    Meldungen.FragenVorVerlust = [](const Text &, const Text &) { return true; };
 }
 
 void UmgekehrteMessen()

@@ -156,24 +156,25 @@ void FestplatteLaden()
             [] { Mitteilen(Festplattenbericht(LadenMitBericht(VonFestplatteLaden))); });
 }
 
-/// While it stands, `vorher` runs as soon as a question is answered by yes.
+/// While it stands, `vorher` runs as soon as a question whose Ja overwrites something is answered
+/// by it.
 class BeiJa {
   public:
-    explicit BeiJa(const std::function<void()> &vorher) : fragen(Meldungen.Fragen)
+    explicit BeiJa(const std::function<void()> &vorher) : fragen(Meldungen.FragenVorVerlust)
     {
-        Meldungen.Fragen = [this, vorher](const Text &text, const Text &titel) {
+        Meldungen.FragenVorVerlust = [this, vorher](const Text &text, const Text &titel) {
             const bool ja = fragen(text, titel);
             if (ja)
                 vorher();
             return ja;
         };
     }
-    ~BeiJa() { Meldungen.Fragen = fragen; }
+    ~BeiJa() { Meldungen.FragenVorVerlust = fragen; }
     BeiJa(const BeiJa &) = delete;
     BeiJa &operator=(const BeiJa &) = delete;
 
   private:
-    decltype(Meldungen.Fragen) fragen;
+    decltype(Meldungen.FragenVorVerlust) fragen;
 };
 
 /// Nothing is kept for a load that the answer to its question prevents.

@@ -81,9 +81,11 @@ TEST_F(HauptNetzTest, VorDemLadenVonDisketteErstNachDemJa)
     Konfig.Gemeinde = "nur im Speicher";
     const Standinhalt tabellen = InhaltDerTabellen();
     const auto zahl = AlleStände().size();
-    MenüWählen(haupt, "mnuDatenladenD"); // answered with Nein
+    bool ja = false;
+    Meldungen.FragenVorVerlust = [&ja](const Text &, const Text &) { return ja; };
+    MenüWählen(haupt, "mnuDatenladenD");
     EXPECT_EQ(AlleStände().size(), zahl);
-    Antworten = {true};
+    ja = true;
     MenüWählen(haupt, "mnuDatenladenD");
     EXPECT_EQ(Konfig.Gemeinde, "Diskette");
     const auto stände = AlleStände();
