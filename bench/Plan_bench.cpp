@@ -11,6 +11,7 @@
 #include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QTemporaryDir>
 
 #include <cstdlib>
 #include <memory>
@@ -49,12 +50,13 @@ class FertigeTexte : public QAbstractTableModel {
     std::vector<std::vector<QString>> texte;
 };
 
-std::unique_ptr<FertigeTexte> Texte;
+// Never deleted, as the application is not.
+std::unique_ptr<FertigeTexte> &Texte = *new std::unique_ptr<FertigeTexte>;
 std::vector<int> Breiten;
 int Zeilenhöhe = 0;
 
-std::unique_ptr<Planmodell> Modell;
-std::unique_ptr<QTableView> Ansicht; // the one that is on the screen
+std::unique_ptr<Planmodell> &Modell = *new std::unique_ptr<Planmodell>;
+std::unique_ptr<QTableView> &Ansicht = *new std::unique_ptr<QTableView>; // that is on the screen
 
 void Zumachen()
 {
@@ -111,7 +113,8 @@ void MessungenAnmelden()
     static char *argv[] = {name, nullptr};
     // Never deleted: at exit Qt has already torn down things that a shown window still refers to.
     AnwendungEinrichten(*new QApplication(argc, argv));
-    GemerktesIn("/dev/null");
+    static const QTemporaryDir verzeichnis; // a run leaves nothing of its columns to the user
+    GemerktesIn(verzeichnis.filePath("Gemerktes.ini"));
     VollerBestand();
     PlanFüllen();
     Texte = std::make_unique<FertigeTexte>(*Modell);
