@@ -2,6 +2,7 @@
 #include "fairness/Zelle.h"
 
 #include "controls/Bausteine.h"
+#include "overview/Tafelteile.h"
 
 #include <QHeaderView>
 
@@ -30,18 +31,8 @@ QTableWidget *Lesetafel(const char *name, const char *gesprochen, const QStringL
     auto *tafel = Benannt(new QTableWidget(0, static_cast<int>(köpfe.size())), name);
     tafel->setHorizontalHeaderLabels(köpfe);
     tafel->setAccessibleName(QString::fromUtf8(gesprochen));
-    tafel->setSelectionBehavior(QAbstractItemView::SelectRows);
-    tafel->setSelectionMode(QAbstractItemView::SingleSelection);
-    tafel->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    tafel->setTabKeyNavigation(false);
-    tafel->setShowGrid(false);
-    tafel->setWordWrap(false);
-    tafel->verticalHeader()->hide();
-    tafel->verticalHeader()->setDefaultSectionSize(tafel->fontMetrics().height() + 8);
-    QHeaderView *kopf = tafel->horizontalHeader();
-    kopf->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    kopf->setHighlightSections(false);
-    kopf->setStretchLastSection(true);
+    LesetafelEinrichten(tafel);
+    tafel->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     return tafel;
 }
 

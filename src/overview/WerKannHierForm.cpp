@@ -7,6 +7,7 @@
 #include "core/Messenname.h"
 #include "core/Suchwörter.h"
 #include "overview/Platzschreiben.h"
+#include "overview/Tafelteile.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -23,17 +24,8 @@ QTableView *Kandidatentafel(QAbstractItemModel *modell)
     auto *tafel = Benannt(new QTableView, "Kandidaten");
     tafel->setModel(modell);
     tafel->setAccessibleName("Wer hier stehen könnte");
-    tafel->setSelectionBehavior(QAbstractItemView::SelectRows);
-    tafel->setSelectionMode(QAbstractItemView::SingleSelection);
-    tafel->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    tafel->setTabKeyNavigation(false);
-    tafel->setShowGrid(false);
-    tafel->setWordWrap(false);
-    tafel->verticalHeader()->hide();
-    tafel->verticalHeader()->setDefaultSectionSize(tafel->fontMetrics().height() + 8);
+    LesetafelEinrichten(tafel);
     QHeaderView *kopf = tafel->horizontalHeader();
-    kopf->setHighlightSections(false);
-    kopf->setStretchLastSection(true);
     kopf->setSortIndicatorClearable(true);
     kopf->setSortIndicator(-1, Qt::AscendingOrder);
     tafel->setSortingEnabled(true);
