@@ -192,11 +192,17 @@ std::vector<Text> Stumme(QWidget *fenster)
 Fensterstand::Fensterstand()
 {
     Gemerktes().clear();
+    const auto wählen = [this](QWidget *, const Dateiwunsch &wunsch) {
+        Dateiwünsche.push_back(wunsch);
+        return GewählteDatei;
+    };
+    Dateiwahl = {wählen, wählen, wählen};
 }
 
 Fensterstand::~Fensterstand()
 {
     AlleLöschen();
+    Dateiwahl = {};
     for (const Text &text : GezeigteMeldungen)
         if (text.starts_with("Unerwarteter Fehler"))
             ADD_FAILURE() << text;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Prüfstand.h"
+#include "application/Dateiwahl.h"
 #include "controls/Bausteine.h"
 
 #include <QAbstractButton>
@@ -84,6 +85,10 @@ class Fensterstand : public Prüfstand {
   protected:
     Fensterstand();
     ~Fensterstand() override;
+
+    /// The answer to the next choice of a file or directory; none: the user cancels.
+    std::optional<std::filesystem::path> GewählteDatei;
+    std::vector<Dateiwunsch> Dateiwünsche; // what was asked for
 
     /// Shows a window and waits until it is active.
     static void Zeigen(QWidget *fenster);

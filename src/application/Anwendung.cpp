@@ -1,6 +1,7 @@
 // What holds for all windows.
 #include "application/Anwendung.h"
 
+#include "application/Dateiwahl.h"
 #include "application/Deutsch.h"
 #include "application/Druckmitteilung.h"
 #include "application/Fensterordnung.h"
@@ -56,6 +57,7 @@ void AnwendungEinrichten(QApplication &anwendung)
     Betrachter.Öffnen = [](const std::filesystem::path &datei) {
         return QDesktopServices::openUrl(QUrl::fromLocalFile(Anzeige(TextVon(datei))));
     };
+    DateiwahlEinrichten();
     DateiwartezeigerEinrichten();
     DruckgewohnheitenMerken();
     static DruckerQt drucker(DruckdialogZeigen, DruckMitteilen);
