@@ -8,6 +8,7 @@
 #include "controls/Handler.h"
 #include "core/Allgemein.h"
 #include "history/Rückgängig.h"
+#include "history/Schreibhindernis.h"
 #include "platform/Laufwerke.h"
 
 #include <QCloseEvent>
@@ -128,7 +129,9 @@ void KopierForm::Anordnen()
 
     auto *spalte = Fensterspalte(this, Luft::Mittel);
     if (dialog.Anleitung) {
-        QLabel *anleitung = Beschriftung("Anleitung", dialog.Anleitung);
+        const Text hindernis = Schreibhindernis();
+        QLabel *anleitung =
+            Beschriftung("Anleitung", hindernis.empty() ? dialog.Anleitung : hindernis.c_str());
         anleitung->setWordWrap(true);
         spalte->addWidget(anleitung);
     }
