@@ -20,8 +20,8 @@ class HintergrundsucheFormTest : public Formstand<HintergrundsucheForm> {
     {
         fs::create_directories(Festplatte / "Bilder");
         BildSchreiben(Festplatte / "blau.png", Qt::blue);
-        BildSchreiben(Festplatte / "Größe rot.png", Qt::red);
-        BildSchreiben(Festplatte / "Bilder" / "grün.bmp", Qt::green);
+        BildSchreiben(Festplatte / PfadAus("Größe rot.png"), Qt::red);
+        BildSchreiben(Festplatte / "Bilder" / PfadAus("grün.bmp"), Qt::green);
         DateiSchreiben(Festplatte / "text.txt", "kein Bild");
         haupt = new HauptForm;
         HauptfensterSetzen(haupt);

@@ -76,7 +76,7 @@ TEST_F(KopierFormTest, EinzelZeigtDieDateienUndWähltDieErste)
 
 TEST_F(KopierFormTest, DerPfadFolgtVerzeichnisUndLaufwerkUndEndetMitEinemTrenner)
 {
-    fs::create_directories(laufwerk / "Größen");
+    fs::create_directories(laufwerk / PfadAus("Größen"));
     Öffnen();
     VerzeichnisÖffnen("Größen");
     EXPECT_EQ(Datei(), TextVon(laufwerk) + "/Größen/");
@@ -130,7 +130,7 @@ TEST_F(KopierFormTest, VerzeichnisErstellenLegtAnUndBetrittNicht)
     Klick(form->Verzeichnis); // an empty box creates nothing
     EXPECT_EQ(form->Wahl.Verzeichnis->count(), 1);
     Tippen(form->VZ, "Größen");
-    DateiSchreiben(Diskette / "später", "");
+    DateiSchreiben(Diskette / PfadAus("später"), "");
     Klick(form->Verzeichnis);
     EXPECT_TRUE(fs::is_directory(Diskette / PfadAus("Größen")));
     ASSERT_EQ(form->Wahl.Verzeichnis->count(), 2);
@@ -155,7 +155,7 @@ TEST_F(KopierFormTest, EinVerzeichnisDasNichtGehtWirdÜbergangen)
     DateiSchreiben(Diskette / "im Weg", "x");
     Öffnen();
     NächstesLaufwerk();
-    DateiSchreiben(Diskette / "später", "");
+    DateiSchreiben(Diskette / PfadAus("später"), "");
     Tippen(form->VZ, "im Weg");
     Klick(form->Verzeichnis);
     EXPECT_TRUE(GezeigteMeldungen.empty());

@@ -394,15 +394,20 @@ class Lauf {
 };
 
 /// The offscreen platform, with a screen as large as the smallest in use; its description goes to
-/// the file.
-QByteArray OhneBildschirm(QTemporaryFile &beschreibung)
+/// the file. On Windows it is the screen of the user: without one there are no fonts, and the colon
+/// of a drive would end the name of the file.
+QByteArray OhneBildschirm([[maybe_unused]] QTemporaryFile &beschreibung)
 {
+#ifdef Q_OS_WIN
+    return "windows";
+#else
     if (!beschreibung.open())
         return "offscreen";
     beschreibung.write(R"({"screens":[{"name":"","x":0,"y":0,"width":1024,"height":768,)"
                        R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})");
     beschreibung.close();
     return "offscreen:configfile=" + beschreibung.fileName().toLocal8Bit();
+#endif
 }
 
 int Gescheitert(const char *grund)

@@ -1,0 +1,70 @@
+// On paper bold is only what is meant to be, whatever the system calls its fonts: measured by the
+// ink.
+#include "Prüfstand.h"
+#include "paper/DruckerQt.h"
+#include "printing/PdfLesen.h"
+
+#include <QFontDatabase>
+
+namespace altardienst {
+namespace {
+
+constexpr const char *Probe = "HHHHHH";
+
+class SchriftschnittTest : public Prüfstand {
+  protected:
+    /// The share of a line of letters that is black.
+    double Schwärze(const Text &schrift, bool fett)
+    {
+        const QString datei = Anzeige(Festplatte.string()) + "/Probe.pdf";
+        DruckerQt drucker([&](const Druckanfrage &) { return Druckauswahl{0, PdfDrucker(datei)}; });
+        drucker.Dialog({});
+        drucker.FontName(schrift);
+        drucker.FontSize(40);
+        for (const bool jetzt : {!fett, fett}) { // the other one comes first in the same document
+            drucker.NewPage();
+            drucker.FontBold(jetzt);
+            drucker.CurrentX(1440);
+            drucker.CurrentY(1440);
+            drucker.Print(Probe);
+        }
+        drucker.EndDoc();
+        const PdfInhalt pdf = PdfLesen(datei);
+        const PdfWort &wort = pdf.Wörter.at(1);
+        Aufruf("pdftoppm", {"-png", "-r", "144", "-f", "2", "-singlefile", datei, datei});
+        const QImage bild = QImage(datei + ".png").convertToFormat(QImage::Format_Grayscale8);
+        const QRect feld(QPoint(int(wort.Links * 2), int(wort.Oben * 2)),
+                         QPoint(int(wort.Rechts * 2), int(wort.Unten * 2)));
+        int schwarz = 0;
+        for (int y = feld.top(); y <= feld.bottom(); ++y)
+            for (int x = feld.left(); x <= feld.right(); ++x)
+                schwarz += bild.pixelColor(x, y).red() < 128 ? 1 : 0;
+        return double(schwarz) / (feld.width() * feld.height());
+    }
+};
+
+/// Arial is the font of the parishes that come with the program for Windows. Both cuts of
+/// Liberation Sans have one name under Wine, which makes one font of them on paper.
+TEST_F(SchriftschnittTest, FettIstNurWasFettGemeintIst)
+{
+#ifdef _WIN32
+    const std::vector<Text> schriften = {"Arial", "Tahoma", "DejaVu Sans"};
+#else
+    const std::vector<Text> schriften = {"Liberation Sans", "DejaVu Sans"};
+#endif
+    int geprüft = 0;
+    for (const Text &schrift : schriften) {
+        if (!QFontDatabase::hasFamily(Anzeige(schrift)))
+            continue;
+        ++geprüft;
+        const double mager = Schwärze(schrift, false);
+        const double fett = Schwärze(schrift, true);
+        EXPECT_GT(mager, 0.05) << schrift;
+        EXPECT_LT(mager, 0.25) << schrift;
+        EXPECT_GT(fett, mager * 1.3) << schrift;
+    }
+    EXPECT_GT(geprüft, 0);
+}
+
+} // namespace
+} // namespace altardienst
