@@ -42,7 +42,7 @@ if gewünscht planlauf; then
             rm -rf "${WINE_HEIM:?}/$wo"
             cp -r "$WINE_HEIM/gemeinden/$nummer" "$WINE_HEIM/$wo"
         done
-        auftrag=(--heute 21.11.2026 --saat "$nummer" --schritte $((3 + nummer % 2)),5)
+        auftrag=(--heute 21.11.2026 --uhr 5000 --saat "$nummer" --schritte $((3 + nummer % 2)),5)
         "$WURZEL/build/release/planlauf" --daten "$WINE_HEIM/linux" "${auftrag[@]}" \
             --text "$WINE_HEIM/linux/plan.txt" >"$WINE_HEIM/linux/meldungen" || fehler=1
         wine_gehört "$WINE_HEIM/windows"

@@ -22,14 +22,15 @@ unter_wine() {
         WINEDLLOVERRIDES="mscoree,mshtml=" DISPLAY="$WINE_BILDSCHIRM" wine "$@"
 }
 
-# A screen with a window manager, without which Wine waits two seconds for each window; a prefix
-# with the fonts of the system. Arial is Liberation Sans, which has its widths.
+# A screen as large as that of the tests on Linux, with a window manager, without which Wine waits two
+# seconds for each window; a prefix
+# with the fonts of Wine and of the system.
 wine_beginnen() {
     WINE_HEIM=$(mktemp -d)
     chmod 755 "$WINE_HEIM"
     WINE_PROZESSE=()
     trap wine_beenden EXIT
-    Xvfb -displayfd 3 -screen 0 1280x1000x24 3>"$WINE_HEIM/bildschirm" 2>/dev/null &
+    Xvfb -displayfd 3 -screen 0 800x800x24 3>"$WINE_HEIM/bildschirm" 2>/dev/null &
     WINE_PROZESSE+=($!)
     until [ -s "$WINE_HEIM/bildschirm" ]; do sleep 0.1; done
     WINE_BILDSCHIRM=:$(cat "$WINE_HEIM/bildschirm")
@@ -37,7 +38,7 @@ wine_beginnen() {
     WINE_PROZESSE+=($!)
     wine_gehört "$WINE_HEIM"
     unter_wine wineboot -i >/dev/null 2>&1
-    cp /usr/share/fonts/truetype/liberation2/*.ttf /usr/share/fonts/truetype/dejavu/*.ttf \
+    cp /usr/share/wine/fonts/*.ttf /usr/share/fonts/truetype/{liberation2,dejavu}/*.ttf \
         "$WINE_HEIM/wine/drive_c/windows/Fonts/"
 }
 

@@ -38,6 +38,7 @@ class PlanlaufTest : public Prüfstand {
         if (!lauf.waitForFinished(30000))
             throw std::runtime_error("planlauf did not end");
         Ergebnis ergebnis{lauf.exitCode(), lauf.readAllStandardOutput().toStdString(), ""};
+        std::erase(ergebnis.Ausgabe, '\r'); // a line of Windows
         for (const QByteArray &fehler : lauf.readAllStandardError().split('\n'))
             if (fehler.startsWith("planlauf: ") || fehler.startsWith("Unknown option"))
                 ergebnis.Fehler += fehler.toStdString();
@@ -167,6 +168,15 @@ TEST_F(PlanlaufTest, DieselbeSaatGibtDenselbenPlanUndEineAndereEinenAnderen)
         EXPECT_TRUE(Plan(schritte) == plan);
         EXPECT_FALSE(Plan(schritte, {"--saat", "8"}) == plan);
     }
+}
+
+/// A search that finds nothing ends after some seconds, on a fast machine after more draws.
+TEST_F(PlanlaufTest, GehtDieUhrNachIhrenAblesungenSoHängtDerPlanNichtAnDerMaschine)
+{
+    const std::string plan = Plan({"1", "3"}, {"--uhr", "1"}); // each draw takes a second
+    EXPECT_EQ(Plan({"1", "3"}, {"--uhr", "1"}), plan);
+    EXPECT_NE(Plan({"1", "3"}, {"--uhr", "100000"}), plan);
+    EXPECT_NE(Lauf({}, {"--uhr", "0"}).Fehler.find("--uhr takes a number"), Text::npos);
 }
 
 TEST_F(PlanlaufTest, HeuteStartUndTageGebenDenZeitraum)

@@ -108,7 +108,7 @@ TEST_F(HauptNetzTest, BeimHolenIstAufgehobenWasDasOKÜberschreibt)
     EXPECT_TRUE(HatStand(davor));
     EXPECT_FALSE(MarkeLiegt());
     EXPECT_EQ(Mitteilungen().Letzte,
-              "12:00 8 Dateien aus " + TextVon(Diskette) + "/ geholt und geladen");
+              "12:00 8 Dateien aus " + OrdnerText(Diskette) + " geholt und geladen");
 }
 
 TEST_F(HauptNetzTest, WasBeimHolenNichtLädtIstMitDemNetzRichtigGenannt)

@@ -42,6 +42,9 @@ constexpr int Prüfschritt = 0;
 /// Balances it.
 constexpr int Ausgleichsschritt = -1;
 
+/// How often the clock was read since the step began, if it goes by its readings.
+std::int64_t Ablesungen = 0;
+
 /// What the command line asks for; an empty text or path asks for nothing.
 struct Auftrag {
     std::filesystem::path Daten;
@@ -78,6 +81,10 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption heute("heute", "the day that counts as today", "TT.MM.JJJJ");
     const QCommandLineOption start("start", "first day of the plan", "TT.MM.JJJJ");
     const QCommandLineOption tage("tage", "days of the plan", "N");
+    const QCommandLineOption uhr("uhr",
+                                 "a clock that is at noon when a step begins and goes by its "
+                                 "readings, so many a second: no result hangs on the machine",
+                                 "N");
     const QCommandLineOption saat("saat", "seed of the draw, in place of the clock's", "N");
     const QCommandLineOption schritte(
         "schritte",
@@ -97,8 +104,8 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption bilder("bilder", "save a picture of every window passed", "DIR");
     const QCommandLineOption antwort("antwort", "answer to every question", "ja|nein", "ja");
     zeile.addHelpOption();
-    zeile.addOptions({daten, heute, start, tage, saat, schritte, menü, suche, text, pdf, berichte,
-                      bilder, antwort});
+    zeile.addOptions({daten, heute, uhr, start, tage, saat, schritte, menü, suche, text, pdf,
+                      berichte, bilder, antwort});
     zeile.process(*QCoreApplication::instance());
     const QStringList übrig = zeile.positionalArguments();
     if (!übrig.isEmpty()) // such as the rest of "1, 4, 5"
@@ -140,6 +147,15 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     Laufwerke.Programmverzeichnis = [verzeichnis = auftrag.Daten] { return verzeichnis; };
     if (zeile.isSet(heute))
         Uhr.Heute = [tag = DatumVon(zeile, heute)] { return tag; };
+    if (zeile.isSet(uhr)) {
+        const int jeSekunde = zeile.value(uhr).toInt();
+        if (jeSekunde < 1)
+            throw std::invalid_argument("--uhr takes a number from 1");
+        Uhr.Sekunden = [jeSekunde] {
+            return static_cast<int>((SekundenProTag / 2 + Ablesungen++ / jeSekunde) %
+                                    SekundenProTag);
+        };
+    }
     if (zeile.isSet(saat)) {
         bool istZahl = false;
         auftrag.Saat = zeile.value(saat).toUInt(&istZahl);
@@ -224,6 +240,7 @@ class Lauf {
                                    haupt->MeßdienerMessen, haupt->Helfend,       haupt->AnzMesse,
                                    haupt->Messendruck};
         for (const int schritt : auftrag.Schritte) {
+            Ablesungen = 0; // in between the windows read it at any time
             if (schritt == Prüfschritt) {
                 BefundeNennen();
                 continue;
