@@ -49,13 +49,6 @@ void AnwendungEinrichten(QApplication &anwendung)
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QApplication::installTranslator(new Deutsch(&anwendung));
     QApplication::setStyle(new Stil);
-#ifdef Q_OS_WIN
-    // Otherwise each letter is as wide as whole dots of the screen, and a printed window, which is
-    // drawn by the same widths, has gaps within its words.
-    QFont schrift = QApplication::font();
-    schrift.setHintingPreference(QFont::PreferNoHinting);
-    QApplication::setFont(schrift);
-#endif
 
     TabellenGeladen = OffeneFormenBelassen;
     Systeminfo.Starten = [](const std::filesystem::path &programm) {

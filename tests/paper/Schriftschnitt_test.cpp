@@ -13,8 +13,8 @@ constexpr const char *Probe = "HHHHHH";
 
 class SchriftschnittTest : public Prüfstand {
   protected:
-    /// The share of a line of letters that is black.
-    double Schwärze(const Text &schrift, bool fett)
+    /// How many dots of a page with a line of letters are black.
+    int Schwärze(const Text &schrift, bool fett)
     {
         const QString datei = Anzeige(Festplatte.string()) + "/Probe.pdf";
         DruckerQt drucker([&](const Druckanfrage &) { return Druckauswahl{0, PdfDrucker(datei)}; });
@@ -29,17 +29,13 @@ class SchriftschnittTest : public Prüfstand {
             drucker.Print(Probe);
         }
         drucker.EndDoc();
-        const PdfInhalt pdf = PdfLesen(datei);
-        const PdfWort &wort = pdf.Wörter.at(1);
         Aufruf("pdftoppm", {"-png", "-r", "144", "-f", "2", "-singlefile", datei, datei});
-        const QImage bild = QImage(datei + ".png").convertToFormat(QImage::Format_Grayscale8);
-        const QRect feld(QPoint(int(wort.Links * 2), int(wort.Oben * 2)),
-                         QPoint(int(wort.Rechts * 2), int(wort.Unten * 2)));
+        const QImage seite = QImage(datei + ".png").convertToFormat(QImage::Format_Grayscale8);
         int schwarz = 0;
-        for (int y = feld.top(); y <= feld.bottom(); ++y)
-            for (int x = feld.left(); x <= feld.right(); ++x)
-                schwarz += bild.pixelColor(x, y).red() < 128 ? 1 : 0;
-        return double(schwarz) / (feld.width() * feld.height());
+        for (int y = 0; y < seite.height(); ++y)
+            for (int x = 0; x < seite.width(); ++x)
+                schwarz += seite.pixelColor(x, y).red() < 128 ? 1 : 0;
+        return schwarz;
     }
 };
 
@@ -57,11 +53,9 @@ TEST_F(SchriftschnittTest, FettIstNurWasFettGemeintIst)
         if (!QFontDatabase::hasFamily(Anzeige(schrift)))
             continue;
         ++geprüft;
-        const double mager = Schwärze(schrift, false);
-        const double fett = Schwärze(schrift, true);
-        EXPECT_GT(mager, 0.05) << schrift;
-        EXPECT_LT(mager, 0.25) << schrift;
-        EXPECT_GT(fett, mager * 1.3) << schrift;
+        const int mager = Schwärze(schrift, false);
+        EXPECT_GT(mager, 1000) << schrift;
+        EXPECT_GT(Schwärze(schrift, true), mager * 1.3) << schrift;
     }
     EXPECT_GT(geprüft, 0);
 }

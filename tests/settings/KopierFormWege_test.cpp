@@ -150,8 +150,8 @@ TEST_F(KopierFormWegeTest, WasKopiertWurdeWirdMitgeteilt)
     Öffnen<DateikopieForm>();
     NächstesLaufwerk();
     Klick(form->OKButton);
-    EXPECT_EQ(Mitteilungen().Letzte, "12:00 8 Dateien aus " + TextVon(Diskette) +
-                                         "/ geholt, aber nicht alles geladen: bei Konfig.cfg "
+    EXPECT_EQ(Mitteilungen().Letzte, "12:00 8 Dateien aus " + OrdnerText(Diskette) +
+                                         " geholt, aber nicht alles geladen: bei Konfig.cfg "
                                          "abgebrochen");
 }
 
