@@ -164,7 +164,7 @@ Kalenderausgabe MessenAlsKalender(const Plantabellen &tabellen, Namenform form)
 {
     const std::vector<Auszugsmesse> auszug = PlanAusziehen(tabellen);
     const Namengeber namen(form, tabellen);
-    Kalenderschreiber schreiber("Messen der Pfarrei " + tabellen.Einstellungen.Gemeinde, Jetzt());
+    Kalenderschreiber schreiber(Messentitel(tabellen.Einstellungen), Jetzt());
     int einträge = 0;
     for (const Auszugsmesse &eine : auszug)
         if (eine.HatTermin) {

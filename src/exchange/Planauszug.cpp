@@ -61,4 +61,10 @@ std::vector<Auszugsmesse> PlanAusziehen(const Plantabellen &tabellen)
     return auszug;
 }
 
+Text Messentitel(const KonfigDatensatz &einstellungen)
+{
+    return einstellungen.Gemeinde.empty() ? Text("Messen")
+                                          : "Messen der Pfarrei " + einstellungen.Gemeinde;
+}
+
 } // namespace altardienst
