@@ -57,7 +57,6 @@ thead{display:table-header-group}
 thead th{position:static}
 tbody th{white-space:normal}
 tr{break-inside:avoid}
-.w>*{border-top-width:1.5px}
 )";
 
 Text Gesetzt(const char *muster, double zahl)
