@@ -55,11 +55,16 @@ std::vector<Auszugsmesse> PlanAusziehen(const Plantabellen &tabellen)
         auszug.push_back({i, davor, hatTermin, DiensteDer(messen, i)});
     }
     std::ranges::stable_sort(auszug, {}, [&](const Auszugsmesse &eine) {
-        return eine.HatTermin
-                   ? std::tuple(0, messen.Datum[eine.Messe], messen.Uhrzeit[eine.Messe])
-                   : std::tuple(1, Datum(0), Datum(0));
+        return eine.HatTermin ? std::tuple(0, messen.Datum[eine.Messe], messen.Uhrzeit[eine.Messe])
+                              : std::tuple(1, Datum(0), Datum(0));
     });
     return auszug;
+}
+
+Text Messentitel(const KonfigDatensatz &einstellungen)
+{
+    return einstellungen.Gemeinde.empty() ? Text("Messen")
+                                          : "Messen der Pfarrei " + einstellungen.Gemeinde;
 }
 
 } // namespace altardienst

@@ -34,4 +34,7 @@ struct Auszugsmesse {
 /// that of the table.
 std::vector<Auszugsmesse> PlanAusziehen(const Plantabellen &tabellen);
 
+/// "Messen der Pfarrei ...": what the plan is called elsewhere.
+Text Messentitel(const KonfigDatensatz &einstellungen);
+
 } // namespace altardienst

@@ -26,6 +26,9 @@ const std::map<Text, Text> &Fensterseiten()
         {"Verteilung", "gerechter-plan.md#verteilung"},
         {"Archiv", "gerechter-plan.md#das-archiv"},
 
+        {"Kalender", "weitergeben.md#kalender"},
+        {"Webseite", "weitergeben.md#webseite"},
+
         {"Meßdiener", "leute.md#messdiener"},
         {"NeuMeßdiener", "leute.md#neuer-messdiener"},
         {"Gruppe", "leute.md#gruppen"},

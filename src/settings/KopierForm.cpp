@@ -16,6 +16,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace altardienst {
@@ -36,9 +37,17 @@ void Neuladen()
 
 constexpr const char *Holen = "Datendateien kopieren";
 
-constexpr const char *ErsterStart =
-    "Wählen Sie das Laufwerk „Mitgelieferte Daten“ und öffnen Sie mit Doppelklick „leer“ für eine "
-    "neue Gemeinde, „beispiel“ zum Ausprobieren; oder öffnen Sie das Verzeichnis Ihrer Sicherung.";
+/// The data of the program are offered only where they are installed.
+Text ErsterStart()
+{
+    const std::vector<Wurzel> wurzeln = Laufwerke.Wurzeln();
+    if (std::ranges::find(wurzeln, MitgelieferteDatenName, &Wurzel::Name) == wurzeln.end())
+        return "Wählen Sie das Laufwerk und das Verzeichnis, in dem Ihre acht Dateien oder Ihre "
+               "Sicherung liegen.";
+    return "Wählen Sie das Laufwerk „" + Text(MitgelieferteDatenName) +
+           "“ und öffnen Sie mit Doppelklick „leer“ für eine neue Gemeinde, „beispiel“ zum "
+           "Ausprobieren; oder öffnen Sie das Verzeichnis Ihrer Sicherung.";
+}
 
 const Kopierdialog Datensicherung{"Datensicherung", "Daten sichern", true, [] {}};
 const Kopierdialog Dateikopie{"Dateikopie", Holen, false, VonFestplatteLaden};
@@ -130,8 +139,8 @@ void KopierForm::Anordnen()
     auto *spalte = Fensterspalte(this, Luft::Mittel);
     if (dialog.Anleitung) {
         const Text hindernis = Schreibhindernis();
-        QLabel *anleitung =
-            Beschriftung("Anleitung", hindernis.empty() ? dialog.Anleitung : hindernis.c_str());
+        QLabel *anleitung = Beschriftung(
+            "Anleitung", Anzeige(hindernis.empty() ? Text(dialog.Anleitung()) : hindernis));
         anleitung->setWordWrap(true);
         spalte->addWidget(anleitung);
     }

@@ -18,6 +18,8 @@
 #include "core/Sortierbefehle.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
+#include "exchange/KalenderForm.h"
+#include "exchange/WebseiteForm.h"
 #include "fairness/Archiv.h"
 #include "fairness/ArchivForm.h"
 #include "fairness/AusgleichForm.h"
@@ -448,7 +450,15 @@ void HauptForm::MenüÜberblick()
     Eintrag(überblick, "mnuAusgleich", "Plan &ausgleichen", DialogÖffnen<AusgleichForm>);
     Eintrag(überblick, "mnuVerteilung", "&Verteilung", DialogÖffnen<VerteilungForm>);
     Eintrag(überblick, "mnuArchiv", "Ar&chiv", DialogÖffnen<ArchivForm>);
+    MenüWeitergeben(überblick);
     Eintrag(überblick, "mnuStände", "&Frühere Stände", DialogÖffnen<StändeForm>);
+}
+
+void HauptForm::MenüWeitergeben(QMenu *überblick)
+{
+    QMenu *weitergeben = Menü(überblick, "mnuWeitergeben", "&Weitergeben");
+    Eintrag(weitergeben, "mnuKalender", "&Kalender", DialogÖffnen<KalenderForm>);
+    Eintrag(weitergeben, "mnuWebseite", "Web&seite", DialogÖffnen<WebseiteForm>);
 }
 
 void HauptForm::MenüHilfe()

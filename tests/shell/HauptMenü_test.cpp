@@ -107,6 +107,9 @@ TEST_F(HauptMenüTest, HatSeineEinträgeInIhrerFolge)
                           "  mnuAusgleich | Plan &ausgleichen",
                           "  mnuVerteilung | &Verteilung",
                           "  mnuArchiv | Ar&chiv",
+                          "  mnuWeitergeben | &Weitergeben",
+                          "    mnuKalender | &Kalender",
+                          "    mnuWebseite | Web&seite",
                           "  mnuStände | &Frühere Stände",
                           "mnuHelp | &?",
                           "  mnuHandbuch | &Handbuch",
@@ -146,6 +149,8 @@ TEST_F(HauptMenüTest, WasOhneDialogAuskommtIstWählbar)
                              "mnuAusgleich",
                              "mnuVerteilung",
                              "mnuArchiv",
+                             "mnuKalender",
+                             "mnuWebseite",
                              "mnuStände",
                              "mnuHelpAbout",
                              "DruckML"})
@@ -192,6 +197,8 @@ TEST_F(HauptMenüTest, JederEintragÖffnetSeineFormUndSperrtDasHauptfenster)
         {"mnuAusgleich", "Ausgleich"},
         {"mnuVerteilung", "Verteilung"},
         {"mnuArchiv", "Archiv"},
+        {"mnuKalender", "Kalender"},
+        {"mnuWebseite", "Webseite"},
         {"mnuStände", "Stände"},
     };
     MeßdienerAnlegen("Kim", "Adler"); // there are no figures about nobody
