@@ -19,7 +19,7 @@ wine_gehört() {
 
 unter_wine() {
     als_benutzer env HOME="$WINE_HEIM" WINEPREFIX="$WINE_HEIM/wine" WINEDEBUG=-all LC_ALL=C.UTF-8 \
-        WINEDLLOVERRIDES="mscoree,mshtml=" DISPLAY="$WINE_BILDSCHIRM" wine "$@"
+        WINEDLLOVERRIDES="mscoree,mshtml=;winedbg.exe=" DISPLAY="$WINE_BILDSCHIRM" wine "$@"
 }
 
 # A screen as large as that of the tests on Linux, with a window manager, without which Wine waits two

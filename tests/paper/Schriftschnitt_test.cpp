@@ -44,7 +44,7 @@ class SchriftschnittTest : public Prüfstand {
 TEST_F(SchriftschnittTest, FettIstNurWasFettGemeintIst)
 {
 #ifdef _WIN32
-    const std::vector<Text> schriften = {"Arial", "Tahoma", "DejaVu Sans"};
+    const std::vector<Text> schriften = {"Arial", "DejaVu Sans"};
 #else
     const std::vector<Text> schriften = {"Liberation Sans", "DejaVu Sans"};
 #endif

@@ -39,9 +39,10 @@ class PlanlaufTest : public Prüfstand {
             throw std::runtime_error("planlauf did not end");
         Ergebnis ergebnis{lauf.exitCode(), lauf.readAllStandardOutput().toStdString(), ""};
         std::erase(ergebnis.Ausgabe, '\r'); // a line of Windows
+        std::ranges::replace(ergebnis.Ausgabe, '\\', '/');
         for (const QByteArray &fehler : lauf.readAllStandardError().split('\n'))
             if (fehler.startsWith("planlauf: ") || fehler.startsWith("Unknown option"))
-                ergebnis.Fehler += fehler.toStdString();
+                ergebnis.Fehler += fehler.trimmed().toStdString();
         return ergebnis;
     }
 
@@ -53,7 +54,7 @@ class PlanlaufTest : public Prüfstand {
                        dazu);
     }
 
-    QString Datei(const char *name) const { return Anzeige(TextVon(Festplatte / name)); }
+    QString Datei(const char *name) const { return Anzeige(TextVon(Festplatte / PfadAus(name))); }
 
     static long Zeilenzahl(const fs::path &datei)
     {
@@ -226,7 +227,8 @@ TEST_F(PlanlaufTest, BilderZeigenJedesFenster)
     for (const auto &datei : fs::directory_iterator(Festplatte / "bilder")) {
         const QImage bild(Anzeige(TextVon(datei.path())));
         EXPECT_GT(bild.width(), 300) << datei.path();
-        EXPECT_NE(ergebnis.Ausgabe.find("Bild: " + TextVon(datei.path()) + "\n"), Text::npos);
+        EXPECT_NE(ergebnis.Ausgabe.find("Bild: " + datei.path().generic_string() + "\n"),
+                  Text::npos);
         namen.push_back(TextVon(datei.path().stem()));
     }
     std::sort(namen.begin(), namen.end());
