@@ -10,8 +10,31 @@ WURZEL=$(cd "$(dirname "$0")/../.." && pwd)
 teile=("${@:-kern fenster planlauf}")
 gewünscht() { [[ " ${teile[*]} " == *" $1 "* ]]; }
 
-# What fails under Wine on both platforms and not on account of the program, with the reason.
+# What fails under Wine on both platforms and not on account of the program.
 AUSGENOMMEN=(
+    # Wine's list of printers and their settings are windows of its own.
+    DeutschTest.DieEinstellungenDesDruckers
+    # The folder for documents is a setting of Windows that no variable moves.
+    DruckdialogNameTest.JederBerichtSchlägtSeineEigeneDateiVor
+    DruckdialogNameTest.EinVerschwundenesVerzeichnisWirdNichtVorgeschlagen
+    DruckdialogZielTest.GefragtWirdNachDerDateiDieGeschriebenWird
+    DruckdialogZielTest.EinNameBekommtSeineEndung
+    DruckdialogZielTest.EinBloßerNameLiegtBeiDenDokumentenOderImHeimverzeichnis
+    DruckdialogZielTest.EinVerzeichnisDasVerschwundenIstWirdNichtMehrVorgeschlagen
+    # Measured in dots of the fonts on Linux.
+    DatensatzlisteTest.DerGezeigteSatzStehtFettUndDerGewählteInDenFarbenDerWahl
+    FelderAllerFenster.LeuteRollenAufKleinenBildschirmenNichtSeitwärts
+    JedesFensterPlatz.AuchFelderRahmenUndSpaltenköpfeSindGanzZuLesen
+    JedesFensterPlatz.NichtsRolltSeitwärts
+    # The chart has a picture in its PDF there.
+    DiagrammeFormTest.DruckenGibtDasGewählteScharfUndOhneKnöpfe
+    # Expect the event loop to rest within milliseconds; by hand both are taken back as they say.
+    HauptRückgängigTest.JederSchrittDesHauptfenstersHatSeinenNamen
+    HauptRückgängigTest.DieOffeneListeZeigtWasDieTabelleDannHält
+)
+# What waits for a file dialog of the system, which without a screen never comes.
+NUR_AM_BILDSCHIRM=(
+    DruckdialogTest.DerDateinameIstBeimNächstenMalWiederDa
 )
 
 pakete_installieren "${WINDOWS_PAKETE[@]}" "${WINE_PAKETE[@]}" libgtest-dev poppler-utils
@@ -32,9 +55,9 @@ if gewünscht fenster; then
         unter_wine "$bau/tests/fenster_tests.exe" "${@:2}" >"$1" 2>&1 || true
         grep -q 'tests ran' "$1" || { echo "fenster_tests did not end"; tail -n 3 "$1"; fehler=1; }
     }
-    ausgenommen=$(IFS=: && echo "${AUSGENOMMEN[*]}")
+    ausgenommen=$(IFS=: && echo "${AUSGENOMMEN[*]}:${NUR_AM_BILDSCHIRM[*]}")
     lauf "$WINE_HEIM/ohne.log" -platform offscreen --gtest_filter="*-$ausgenommen"
-    nochmal=$(gescheiterte "$WINE_HEIM/ohne.log")
+    nochmal=$(gescheiterte "$WINE_HEIM/ohne.log" && printf '%s\n' "${NUR_AM_BILDSCHIRM[@]}")
     if [ -n "$nochmal" ]; then
         lauf "$WINE_HEIM/mit.log" --gtest_filter="${nochmal//$'\n'/:}"
         noch=$(gescheiterte "$WINE_HEIM/mit.log")

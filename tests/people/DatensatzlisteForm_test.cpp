@@ -31,7 +31,8 @@ class DatensatzlisteForm : public Personenfenster {
 
     Text Markiert() const
     {
-        QCoreApplication::processEvents();
+        for (int runde = 0; runde < 3; ++runde) // on Windows a timer needs one of its own
+            QCoreApplication::processEvents();
         return Ansicht()->currentIndex().data().toString().toStdString();
     }
 
