@@ -21,8 +21,8 @@ namespace altardienst {
 struct Kopierdialog {
     const char *Name;
     const char *Titel;
-    bool Hinaus;         // from the program's directory to the one picked, or the reverse
-    void (*NachKopie)(); // after the copy, before the form goes
+    bool Hinaus;                   // from the program's directory to the one picked, or the reverse
+    void (*NachKopie)();           // after the copy, before the form goes
     Text (*Anleitung)() = nullptr; // for who sees the dialog before any other
 };
 
