@@ -265,6 +265,7 @@ HauptForm::~HauptForm()
 {
     ImPlanZeigen = nullptr;
     PersonUmbenannt = nullptr;
+    BeimGehen = nullptr;
     VorDemPlandruck = [] {};
 }
 
@@ -496,6 +497,7 @@ void HauptForm::Verbinden()
     SchritteMitschreiben(this, Nebenbei([this] { SchritteZeigen(); }));
     VorDemPlandruck = PlanAufheben;
     PersonUmbenannt = ImArchivNachziehen;
+    BeimGehen = UmbenennungenVerfolgen;
     ImPlanZeigen = [this](const Text &vorname, const Text &nachname) {
         planEintrag->setChecked(true);
         Plan->PersonZeigen(vorname, nachname);
