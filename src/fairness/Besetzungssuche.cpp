@@ -133,6 +133,7 @@ class Suche {
         const double stufen = std::max(1.0, schritte / JeStufe);
         const double faktor = std::pow(Ende / anfang, 1 / stufen);
         double wärme = anfang;
+        energie = Energie(plan.Kosten(), strenge);
         const double vergessen = std::floor(stufen / 4); // where it came from
         for (double stufe = 0; stufe < stufen && !IstAbgebrochen(); ++stufe, wärme *= faktor) {
             if (stufe == vergessen)
@@ -157,7 +158,7 @@ class Suche {
         }
     }
 
-    /// Leaves no place with a breach in which somebody else alone would be better.
+    /// Leaves no place with a breach in which somebody else alone would be better, or nobody.
     void Nachbessern()
     {
         plan.Stellen(beste);
@@ -165,18 +166,22 @@ class Suche {
             besser = false;
             for (const int platz : wahl.WundeSuchen()) {
                 if (IstAbgebrochen())
-                    break;
-                for (const int person : aufgabe.KreisVon(platz).Personen) {
-                    const Plankosten alt = plan.Ziehen(Einer(platz, person));
-                    if (plan.Kosten() < alt)
-                        besser = true;
-                    else
-                        plan.Zurück();
-                }
+                    return;
+                besser = NachbessernMit(platz, Aufgabe::Niemand) || besser;
+                for (const int person : aufgabe.KreisVon(platz).Personen)
+                    besser = NachbessernMit(platz, person) || besser;
+                Merken();
             }
-            Merken();
-            besser = besser && !abgebrochen;
         }
+    }
+
+    bool NachbessernMit(int platz, int person)
+    {
+        const Plankosten alt = plan.Ziehen(Einer(platz, person));
+        if (plan.Kosten() < alt)
+            return true;
+        plan.Zurück();
+        return false;
     }
 
     /// Names come back to where they stood, as long as everything else stays at least as good as
@@ -210,11 +215,13 @@ class Suche {
         Zug zug;
         if (!wahl.Wählen(zug) || plan.MehrMindestens(zug, strenge) > höchstens)
             return;
-        const Plankosten alt = plan.Ziehen(zug);
-        if (Energie(plan.Kosten(), strenge) - Energie(alt, strenge) <= höchstens)
+        plan.Ziehen(zug);
+        if (const double neu = Energie(plan.Kosten(), strenge); neu - energie <= höchstens) {
+            energie = neu;
             Merken();
-        else
+        } else {
             plan.Zurück();
+        }
     }
 
     template <class F> void Versuchen(F gilt)
@@ -258,6 +265,7 @@ class Suche {
     Plankosten rundenkosten; // the best of this round
     static constexpr double Streng = 5;
     double strenge = Streng; // how much a breach counts
+    double energie = 0;      // of the plan, during the annealing
     std::array<double, 4096> logarithmen;
     unsigned gefragt = 0;
     bool abgebrochen = false;
