@@ -58,7 +58,8 @@ class Suche {
             const Plankosten zuvor = besteKosten;
             if (runde % 2 == 1)
                 plan.Stellen(beste);
-            const double schritte = runde < Runden / 2 ? 1500 * wenigstens : 3300 * plätze;
+            const double später = besteKosten.Verstöße > 0 ? 2700 : 3300;
+            const double schritte = runde < Runden / 2 ? 1500 * wenigstens : später * plätze;
             strenge = runde % 4 == 0 ? Streng : runde % 2 == 0 ? Streng / 2 : Streng / 3;
             if (runde < 2 || schritte < Erträglich * auftrag.Aufwand)
                 Abkühlen(runde % 2 == 0 ? 1.5 : 0.7, schritte);

@@ -303,8 +303,10 @@ TEST_F(AusgleichTest, WasUngernGedientWirdBleibtAnderen)
 {
     for (int j = 0; j < 4; ++j)
         MeßdienerAnlegen("V" + std::to_string(j), "N");
-    Meßdiener.Wochendienst[0] = "nnnjnnnn"; // not on Wednesdays
-    Meßdiener.Wochendienst[1] = "jnnnnnnn"; // not in the week
+    for (const int j : {0, 1}) {
+        Meßdiener.Wochendienst[j] = "nnnjnnnn";     // not on Wednesdays
+        Meßdiener.Wochendienst[j + 2] = "jnnnnnnn"; // no service of the week
+    }
     const Datum mittwoch = DatumAus({2026, 12, 2});
     for (int woche = 0; woche < 8; ++woche) {
         MesseMitDienern(mittwoch + 7 * woche, 1);
@@ -315,7 +317,7 @@ TEST_F(AusgleichTest, WasUngernGedientWirdBleibtAnderen)
     EXPECT_EQ(ergebnis.Diener.Nachher.Wenigste, 4);
     for (const Platzwechsel &wechsel : ergebnis.Wechsel) {
         const bool istMittwoch = Messe.Wochentag[wechsel.Wo.Messe] == "Mittwoch";
-        EXPECT_NE(wechsel.VornameNachher, istMittwoch ? "V0" : "V1");
+        EXPECT_EQ(wechsel.VornameNachher >= "V2", istMittwoch) << wechsel.VornameNachher;
     }
 }
 
@@ -339,7 +341,7 @@ TEST_F(AusgleichTest, DieAbständeSindGleichmäßigUndJederDienstGehtReihum)
         ASSERT_EQ(wochen.size(), 4U) << j;
         EXPECT_EQ(leuchter, 2) << j;
         for (std::size_t k = 1; k < wochen.size(); ++k)
-            EXPECT_LE(wochen[k] - wochen[k - 1], 3) << j; // 2 where it is quite even
+            EXPECT_EQ(wochen[k] - wochen[k - 1], 2) << j;
     }
 }
 
@@ -389,6 +391,18 @@ TEST_F(AusgleichTest, WasÜbereinstimmtBehältSeineNamen)
     EXPECT_EQ(PlanAusgleichen(GemeinsameTabellen(), {}).Wechsel.size(), 0U);
 }
 
+TEST_F(AusgleichTest, NamenKehrenHeimWoEsNichtsKostet)
+{
+    for (int j = 0; j < 100; ++j)
+        MeßdienerAnlegen("V" + std::to_string(j), "N");
+    for (int j = 0; j < 99; ++j)
+        Besetzen(Messe, Dienerplatznr(MesseMitDienern(Beginn + 2 * j, 1), 1), Meßdiener.Vorname[j],
+                 Meßdiener.Nachname[j]);
+    MesseMitDienern(Beginn + 2 * 99, 1);
+    // All plans in which everybody serves once are equal: only the empty place needs a name.
+    EXPECT_EQ(PlanAusgleichen(GemeinsameTabellen(), {}).Wechsel.size(), 1U);
+}
+
 /// The most difficult case: far too few servers for a large plan.
 TEST_F(AusgleichTest, EsHörtSofortAufAuchWoNichtsZuRettenIst)
 {
@@ -413,6 +427,18 @@ TEST_F(AusgleichTest, EsHörtSofortAufAuchWoNichtsZuRettenIst)
     EXPECT_TRUE(ergebnis.Abgebrochen);
     const std::chrono::duration<double> gewartet = Zeit::now() - ende;
     EXPECT_LT(gewartet.count(), 2) << "far more than it takes";
+}
+
+TEST_F(AusgleichTest, AuchBeimNachbessernFragtEsObEsAufhörenSoll)
+{
+    for (int j = 0; j < 12; ++j)
+        MeßdienerAnlegen("V" + std::to_string(j), "N");
+    for (int messe = 0; messe < 100; ++messe)
+        MesseMitDienern(Beginn + messe, 12);
+    int gefragt = 0;
+    PlanAusgleichen(GemeinsameTabellen(),
+                    {.Helfer = false, .Aufwand = 0.0001, .Abbruch = [&] { return ++gefragt < 0; }});
+    EXPECT_GT(gefragt, 100 * 12 * 3 / 2) << "once a place while it is filled, once later";
 }
 
 TEST_F(AusgleichTest, NenntDenPlatzFürDenNiemandDaIst)
