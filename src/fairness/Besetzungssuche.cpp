@@ -80,7 +80,7 @@ class Suche {
         Glätten(600 * plätze);
         if (!abgebrochen)
             Nachbessern();
-        Heimholen(600 * plätze);
+        Heimholen(250 * plätze);
     }
 
     /// As the best plan, as far as rules and evenness go.
