@@ -267,6 +267,7 @@ HauptForm::~HauptForm()
 {
     ImPlanZeigen = nullptr;
     PersonUmbenannt = nullptr;
+    BeimGehen = nullptr;
     VorDemPlandruck = [] {};
 }
 
@@ -506,6 +507,7 @@ void HauptForm::Verbinden()
     SchritteMitschreiben(this, Nebenbei([this] { SchritteZeigen(); }));
     VorDemPlandruck = PlanAufheben;
     PersonUmbenannt = ImArchivNachziehen;
+    BeimGehen = UmbenennungenVerfolgen;
     ImPlanZeigen = [this](const Text &vorname, const Text &nachname) {
         planEintrag->setChecked(true);
         Plan->PersonZeigen(vorname, nachname);
