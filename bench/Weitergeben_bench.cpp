@@ -50,10 +50,16 @@ const fs::path &Datei()
     return datei.Pfad();
 }
 
-/// 602 masses of 20 servers and eight helpers, two masses a day.
+constexpr const char *Gemeinde = "St. Weitergeben";
+
+/// 602 masses of 20 servers and eight helpers, two masses a day. Made once: giving it away changes
+/// nothing.
 void GroßerPlan()
 {
+    if (Konfig.Gemeinde == Gemeinde)
+        return;
     VollerPlan();
+    Konfig.Gemeinde = Gemeinde;
     for (int i = 0; i < Messe.Anzahl; ++i) {
         Messe.Datum[i] = DatumAus({2026, 11, 28}) + i / 2;
         Messe.Uhrzeit[i] = ZeitAus((i % 2 == 0 ? 9 : 18) * 3600);
