@@ -323,7 +323,13 @@ class Prüfanwendung : public Fangnetz {
 
 int main(int argc, char *argv[])
 {
+#ifdef Q_OS_WIN
+    // On the screen: the other platform has no fonts there, and this one is the user's.
+    qputenv("QT_QPA_FONTDIR",
+            qgetenv("WINDIR") + "\\Fonts"); // for whoever asks for it none the less
+#else
     qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
     ::testing::InitGoogleTest(&argc, argv);
     const QTemporaryDir verzeichnis;
     altardienst::Prüfanwendung anwendung(argc, argv);

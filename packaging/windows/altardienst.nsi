@@ -6,6 +6,7 @@ SetCompressor /SOLID lzma
 RequestExecutionLevel user
 
 !include MUI2.nsh
+!include LogicLib.nsh
 
 Name "Altardienst"
 OutFile "${ZIEL}"
@@ -34,8 +35,30 @@ VIAddVersionKey /LANG=1031 "LegalCopyright" "GNU General Public License, Version
 
 !define AUSTRAGEN "Software\Microsoft\Windows\CurrentVersion\Uninstall\Altardienst"
 
+; A program that is open can be neither replaced nor removed. It holds a lock on the directory of its
+; files for as long as it runs (src/platform/Einzellauf.cpp).
+!macro ErstBeenden UN
+Function ${UN}ErstBeenden
+  nochmal:
+    System::Call 'kernel32::OpenMutexW(i 0x100000, i 0, w "Local\Altardienst c:/programm/Altardienst/") p .r0'
+    ${If} $0 P<> 0
+        System::Call 'kernel32::CloseHandle(p r0)'
+        MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION \
+            "Altardienst ist noch geöffnet. Bitte beenden Sie es zuerst." /SD IDCANCEL IDRETRY nochmal
+        SetErrorLevel 1
+        Quit
+    ${EndIf}
+FunctionEnd
+!macroend
+!insertmacro ErstBeenden ""
+!insertmacro ErstBeenden "un."
+
 Section
+    Call ErstBeenden
     SetOutPath "$INSTDIR"
+    RMDir /r "$INSTDIR\data" ; of an earlier version
+    RMDir /r "$INSTDIR\handbuch"
+    RMDir /r "$INSTDIR\bilder"
     File /r "${QUELLE}\*.*"
     WriteUninstaller "$INSTDIR\Entfernen.exe"
 
@@ -57,6 +80,7 @@ SectionEnd
 
 ; What the user has made lies elsewhere and stays: c:\programm\Altardienst.
 Section "Uninstall"
+    Call un.ErstBeenden
     RMDir /r "$INSTDIR\data"
     RMDir /r "$INSTDIR\handbuch"
     RMDir /r "$INSTDIR\bilder"

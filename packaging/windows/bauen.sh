@@ -10,7 +10,7 @@ pakete_installieren "${WINDOWS_PAKETE[@]}"
 bibliotheken
 
 bau=$WURZEL/build/windows
-programm_bauen "$bau" -DALTARDIENST_TESTS=OFF
+programm_bauen "$bau" -DALTARDIENST_TESTS=OFF # those of pruefen.sh stay where they are
 
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$bau/CMakeCache.txt")
 name=Altardienst-$version

@@ -1,6 +1,7 @@
 // The files themselves: read, written, copied and found, whatever drive they are on.
 #include "platform/Dateizugriff.h"
 
+#include "platform/Dateiwesen.h"
 #include "platform/Lebenszeichen.h"
 #include "values/Laufzeitfehler.h"
 
@@ -12,7 +13,6 @@
 #ifdef _WIN32
 #include <fcntl.h>
 #include <io.h>
-#include <windows.h>
 #else
 #include <fcntl.h>
 #include <unistd.h>
@@ -23,33 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The path by which the system finds the file. Windows takes one of more than 260 characters only
-/// in this spelling, which in turn knows no "/" and no "..".
-fs::path Systempfad(const fs::path &pfad)
-{
-#ifdef _WIN32
-    constexpr std::size_t Sicher = 240; // a file beside it may have a longer name
-    std::error_code fehler;
-    const fs::path ganz = fs::absolute(pfad, fehler).lexically_normal().make_preferred();
-    if (fehler || ganz.native().size() < Sicher || ganz.native().starts_with(L"\\\\"))
-        return pfad;
-    return fs::path(LR"(\\?\)" + ganz.native());
-#else
-    return pfad;
-#endif
-}
-
-/// What the machine does not show its users.
-bool IstVerborgen(const fs::path &pfad)
-{
-#ifdef _WIN32
-    const DWORD attribute = GetFileAttributesW(pfad.c_str());
-    if (attribute != INVALID_FILE_ATTRIBUTES &&
-        (attribute & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0)
-        return true;
-#endif
-    return TextVon(pfad.filename()).starts_with('.');
-}
+using dateiwesen::Systempfad;
 
 struct Schließer {
     void operator()(std::FILE *datei) const { std::fclose(datei); }
@@ -103,8 +77,7 @@ bool Durchschreiben(std::FILE *datei)
 void Ausgeben(const fs::path &pfad, const char *art, std::string_view inhalt,
               bool durchschreiben = false)
 {
-    std::error_code unbekannt;
-    if (fs::is_fifo(pfad, unbekannt)) // opening it would wait for someone to read from it
+    if (dateiwesen::IstRöhre(pfad)) // opening it would wait for someone to read from it
         throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
     OffeneDatei datei = Öffnen(pfad, art);
     if (!datei)
@@ -118,10 +91,10 @@ void Ausgeben(const fs::path &pfad, const char *art, std::string_view inhalt,
     Lebenszeichen();
 }
 
+/// Whatever has a name and is no directory.
 bool IstDatei(const fs::path &pfad)
 {
-    std::error_code fehler;
-    return fs::exists(pfad, fehler) && !fs::is_directory(pfad, fehler);
+    return dateiwesen::Vorhanden(pfad) && !dateiwesen::IstVerzeichnis(pfad);
 }
 
 } // namespace
@@ -130,19 +103,17 @@ std::string Lesen(const fs::path &wo)
 {
     const fs::path pfad = Systempfad(wo);
     // Looked at before it is opened: opening a pipe would wait for someone to write into it.
-    std::error_code unbekannt;
-    const fs::file_status art = fs::status(pfad, unbekannt);
-    if (fs::exists(art) && !fs::is_regular_file(art))
+    if (dateiwesen::Vorhanden(pfad) && !dateiwesen::IstDatei(pfad))
         throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
     OffeneDatei datei = Öffnen(pfad, "rb");
     if (!datei)
         Gescheitert(errno, Laufzeitfehler::DateiNichtGefunden);
-    auto größe = fs::file_size(pfad, unbekannt);
-    if (!unbekannt && größe > GrößteDatei)
+    const auto größe = dateiwesen::Größe(pfad);
+    if (größe && *größe > GrößteDatei)
         throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
     std::string inhalt;
-    if (!unbekannt)
-        inhalt.reserve(größe + 1);
+    if (größe)
+        inhalt.reserve(*größe + 1);
     constexpr std::size_t stück = std::size_t(1) << 16;
     while (true) {
         Lebenszeichen();
@@ -176,11 +147,10 @@ void Kopieren(const fs::path &woher, const fs::path &wohin)
     std::error_code fehler;
     fs::path ziel = nach;
     std::optional<fs::perms> rechte;
-    if (fs::exists(nach, fehler)) {
-        ziel = fs::canonical(nach, fehler); // the target of a link, so that the link stays one
-        rechte = fs::status(ziel, fehler).permissions();
-        const bool schreibbar = (*rechte & fs::perms::owner_write) != fs::perms::none;
-        if (fs::equivalent(von, ziel, fehler) || !schreibbar)
+    if (dateiwesen::Vorhanden(nach)) {
+        ziel = dateiwesen::Verweisziel(nach); // so that a link stays one
+        rechte = dateiwesen::Rechte(ziel);
+        if (dateiwesen::Dieselbe(von, ziel) || !dateiwesen::Schreibbar(ziel))
             throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
     }
     fs::path daneben = ziel;
@@ -190,12 +160,12 @@ void Kopieren(const fs::path &woher, const fs::path &wohin)
         Ausgeben(daneben, "wb", inhalt, true);
         if (rechte) // keeps who may read the file; a medium without permissions keeps none
             fs::permissions(daneben, *rechte, fehler);
-        fs::rename(daneben, ziel, fehler);
+        dateiwesen::Verschieben(daneben, ziel, fehler);
         if (fehler)
             Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
         Lebenszeichen();
     } catch (const Laufzeitfehler &) {
-        fs::remove(daneben, fehler);
+        dateiwesen::Entfernen(daneben, fehler);
         throw;
     }
 }
@@ -207,12 +177,9 @@ std::optional<Text> Suchen(const fs::path &verzeichnis, const Text &name)
     std::optional<Text> gefunden;
     Text gesucht = Klein(name);
     std::error_code fehler;
-    fs::directory_iterator ende;
-    for (fs::directory_iterator i(Systempfad(verzeichnis), fehler); !fehler && i != ende;
-         i.increment(fehler)) {
-        Lebenszeichen();
-        Text gespeichert = TextVon(i->path().filename());
-        if (Klein(gespeichert) != gesucht || !IstDatei(i->path()))
+    for (const auto &eintrag : dateiwesen::Einträge(Systempfad(verzeichnis), fehler)) {
+        Text gespeichert = TextVon(eintrag.Pfad.filename());
+        if (Klein(gespeichert) != gesucht || !IstDatei(eintrag.Pfad))
             continue;
         if (gespeichert == name)
             return gespeichert;
@@ -226,17 +193,10 @@ Verzeichnisinhalt Auflisten(const fs::path &verzeichnis)
 {
     std::error_code fehler;
     Verzeichnisinhalt inhalt;
-    fs::directory_iterator ende;
-    fs::directory_iterator i(Systempfad(verzeichnis), fehler);
-    for (; !fehler && i != ende; i.increment(fehler)) {
-        Lebenszeichen();
-        if (IstVerborgen(i->path()))
-            continue;
-        Text name = TextVon(i->path().filename());
-        std::error_code unbekannt;
-        bool istVerzeichnis = i->is_directory(unbekannt);
-        (istVerzeichnis ? inhalt.Verzeichnisse : inhalt.Dateien).push_back(std::move(name));
-    }
+    for (const auto &eintrag : dateiwesen::Einträge(Systempfad(verzeichnis), fehler))
+        if (!eintrag.IstVerborgen)
+            (eintrag.IstVerzeichnis ? inhalt.Verzeichnisse : inhalt.Dateien)
+                .push_back(TextVon(eintrag.Pfad.filename()));
     if (fehler)
         Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
     std::ranges::sort(inhalt.Verzeichnisse);
@@ -246,25 +206,18 @@ Verzeichnisinhalt Auflisten(const fs::path &verzeichnis)
 
 void AttributeLöschen(const fs::path &pfad)
 {
-#ifdef _WIN32
-    // A hidden or a system file refuses to be written, just like a read-only one.
-    if (SetFileAttributesW(Systempfad(pfad).c_str(), FILE_ATTRIBUTE_NORMAL) == 0)
-        Gescheitert(std::error_code(static_cast<int>(GetLastError()), std::system_category()),
-                    Laufzeitfehler::DateiNichtGefunden);
-#else
     std::error_code fehler;
-    fs::permissions(pfad, fs::perms::owner_write, fs::perm_options::add, fehler);
+    dateiwesen::SchreibbarMachen(Systempfad(pfad), fehler);
     if (fehler)
         Gescheitert(fehler, Laufzeitfehler::DateiNichtGefunden);
-#endif
 }
 
 void VerzeichnisAnlegen(const fs::path &wo)
 {
     const fs::path pfad = Systempfad(wo);
     std::error_code fehler;
-    fs::create_directories(pfad, fehler);
-    if (fehler || !fs::is_directory(pfad, fehler))
+    dateiwesen::Anlegen(pfad, fehler);
+    if (fehler || !dateiwesen::IstVerzeichnis(pfad))
         Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
 }
 
@@ -274,25 +227,14 @@ void Umbenennen(const fs::path &woher, const fs::path &wohin)
 {
     const fs::path von = Systempfad(woher);
     const fs::path nach = Systempfad(wohin);
-    std::error_code fehler;
-    if (!fs::exists(fs::symlink_status(von, fehler)))
+    if (!dateiwesen::NameVergeben(von))
         throw Laufzeitfehler(Laufzeitfehler::DateiNichtGefunden);
     const Text gesucht = Klein(TextVon(nach.filename()));
-    fs::directory_iterator ende;
-    for (fs::directory_iterator i(nach.parent_path(), fehler); !fehler && i != ende;
-         i.increment(fehler)) {
-        Lebenszeichen();
-        if (i->path() != von && Klein(TextVon(i->path().filename())) == gesucht)
+    std::error_code fehler;
+    for (const auto &eintrag : dateiwesen::Einträge(nach.parent_path(), fehler))
+        if (eintrag.Pfad != von && Klein(TextVon(eintrag.Pfad.filename())) == gesucht)
             throw Laufzeitfehler(Laufzeitfehler::DateiVorhanden);
-    }
-    fs::rename(von, nach, fehler);
-#ifdef _WIN32
-    constexpr int Versuche = 10; // a virus scanner holds for a moment what was just written
-    for (int versuch = 0; fehler && versuch < Versuche; ++versuch) {
-        Sleep(50);
-        fs::rename(von, nach, fehler);
-    }
-#endif
+    dateiwesen::Verschieben(von, nach, fehler);
     if (fehler)
         Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
 }
@@ -300,7 +242,7 @@ void Umbenennen(const fs::path &woher, const fs::path &wohin)
 void Löschen(const fs::path &pfad)
 {
     std::error_code fehler;
-    fs::remove_all(Systempfad(pfad), fehler);
+    dateiwesen::Entfernen(Systempfad(pfad), fehler);
     if (fehler)
         Gescheitert(fehler, Laufzeitfehler::PfadNichtGefunden);
 }
@@ -310,8 +252,7 @@ void Durchschreiben(const fs::path &wo)
     const fs::path pfad = Systempfad(wo);
     VorLangemSchritt();
 #ifdef _WIN32
-    std::error_code unbekannt;
-    if (fs::is_directory(pfad, unbekannt))
+    if (dateiwesen::IstVerzeichnis(pfad))
         return; // the system flushes names by itself and offers no way to
     const int datei = _wopen(pfad.c_str(), _O_RDWR | _O_BINARY);
     if (datei < 0)

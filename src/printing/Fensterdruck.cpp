@@ -4,6 +4,7 @@
 #include "paper/DruckerQt.h"
 #include "printing/Druckrahmen.h"
 
+#include <QFont>
 #include <QLayout>
 #include <QPainter>
 #include <QPushButton>
@@ -13,11 +14,17 @@
 namespace altardienst {
 namespace {
 
-/// While it lives, a window is ready for paper: black on white, without command buttons.
+/// While it lives, a window is ready for paper: black on white, without command buttons, its
+/// letters as wide as on paper. On the screen each may be as wide as whole dots, which would be
+/// gaps within the words.
 class Druckansicht {
   public:
-    explicit Druckansicht(QWidget *fenster) : fenster(fenster), fokus(fenster->focusWidget())
+    explicit Druckansicht(QWidget *fenster)
+        : fenster(fenster), fokus(fenster->focusWidget()), schrift(fenster->font())
     {
+        QFont gedruckte = schrift;
+        gedruckte.setHintingPreference(QFont::PreferNoHinting); // the parts inherit it
+        fenster->setFont(gedruckte);
         for (auto *knopf : fenster->findChildren<QPushButton *>())
             if (!knopf->isHidden()) {
                 knöpfe.append(knopf);
@@ -33,6 +40,7 @@ class Druckansicht {
     Druckansicht &operator=(const Druckansicht &) = delete;
     ~Druckansicht()
     {
+        fenster->setFont(schrift);
         for (const auto &[teil, palette] : farben)
             teil->setPalette(palette);
         for (QPushButton *knopf : knöpfe)
@@ -56,6 +64,7 @@ class Druckansicht {
 
     QWidget *fenster;
     QWidget *fokus;
+    QFont schrift;
     QList<QPushButton *> knöpfe;
     QList<std::pair<QWidget *, QPalette>> farben;
 };

@@ -8,6 +8,7 @@
 #include "controls/Handler.h"
 #include "core/Allgemein.h"
 #include "history/Rückgängig.h"
+#include "history/Schreibhindernis.h"
 #include "platform/Laufwerke.h"
 
 #include <QCloseEvent>
@@ -137,7 +138,9 @@ void KopierForm::Anordnen()
 
     auto *spalte = Fensterspalte(this, Luft::Mittel);
     if (dialog.Anleitung) {
-        QLabel *anleitung = Beschriftung("Anleitung", dialog.Anleitung().c_str());
+        const Text hindernis = Schreibhindernis();
+        const Text satz = hindernis.empty() ? dialog.Anleitung() : hindernis;
+        QLabel *anleitung = Beschriftung("Anleitung", satz.c_str());
         anleitung->setWordWrap(true);
         spalte->addWidget(anleitung);
     }

@@ -6,6 +6,7 @@
 #include "core/Allgemein.h"
 #include "help/Hilfetaste.h"
 #include "history/Netz.h"
+#include "history/Schreibhindernis.h"
 #include "history/StändeForm.h"
 #include "settings/KopierForm.h"
 #include "shell/Abschied.h"
@@ -43,6 +44,7 @@ void HauptZeigen()
     }
     Haupt->showMaximized();
     Haupt->activateWindow();
+    DauerndMitteilen("Schreibrecht", KurzesSchreibhindernis());
     ArbeitBeginnt();
 }
 

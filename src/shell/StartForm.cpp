@@ -16,6 +16,7 @@
 #include "fixed/FesteEinträge.h"
 #include "history/Netz.h"
 #include "history/Rückgängig.h"
+#include "history/Schreibhindernis.h"
 #include "history/StändeForm.h"
 #include "planning/MessenBestimmen.h"
 #include "platform/Uhr.h"
@@ -140,9 +141,13 @@ void StartForm::Verbinden()
 
 void StartForm::HinweisZeigen()
 {
-    Setzen(Hinweis, Starthinweis());
+    const Text hindernis = Schreibhindernis();
+    const Text netz = Starthinweis();
+    Setzen(Hinweis, hindernis + (hindernis.empty() || netz.empty() ? "" : "\n") + netz);
     Hinweis->setVisible(!Hinweis->text().isEmpty());
-    FrühereStände->setVisible(!Hinweis->text().isEmpty());
+    if (!hindernis.empty())
+        Hinweis->setTextInteractionFlags(Qt::TextSelectableByMouse); // to enter it elsewhere
+    FrühereStände->setVisible(!netz.empty());
 }
 
 void StartForm::Laden()

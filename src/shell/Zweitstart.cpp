@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QCryptographicHash>
 #include <QDir>
+#include <QFile>
 #include <QWidget>
 
 #include <algorithm>
@@ -81,11 +82,16 @@ AlleinigerLauf::AlleinigerLauf(const std::filesystem::path &verzeichnis)
     platz.setStaleLockTime(0);
     if (platz.tryLock(0) || platz.error() != QLockFile::LockFailedError)
         return;
-    istErster = false;
     qint64 prozess = 0;
     QString rechner;
     QString programm;
-    if (platz.getLockInfo(&prozess, &rechner, &programm) && prozess > 0)
+    const bool bekannt = platz.getLockInfo(&prozess, &rechner, &programm) && prozess > 0;
+    // Left behind by a run that came to a bad end and had by chance the number that is now our own.
+    if (bekannt && prozess == QCoreApplication::applicationPid() &&
+        QFile::remove(Platzdatei(verzeichnis)) && platz.tryLock(0))
+        return;
+    istErster = false;
+    if (bekannt)
         Wecken(prozess);
 }
 

@@ -18,10 +18,10 @@ class VerzeichniswahlTest : public Fensterstand {
   protected:
     VerzeichniswahlTest()
     {
-        fs::create_directories(Festplatte / "Texte" / "Größen");
+        fs::create_directories(Festplatte / "Texte" / PfadAus("Größen"));
         fs::create_directories(Festplatte / "Bilder");
         DateiSchreiben(Festplatte / "b.txt", "");
-        DateiSchreiben(Festplatte / "Äpfel.txt", "");
+        DateiSchreiben(Festplatte / PfadAus("Äpfel.txt"), "");
         DateiSchreiben(Diskette / "alt.txt", "");
     }
 
@@ -91,7 +91,7 @@ TEST_F(VerzeichniswahlTest, EingabetasteÖffnetEinVerzeichnisUndDieDateienFolgen
     EXPECT_EQ(Zeilen(w.Dateien), Liste{});
     EXPECT_EQ(wechsel, 1);
     ZeileWählen(w.Verzeichnis, 1);
-    EXPECT_EQ(w.Pfad(), Festplatte / "Texte" / "Größen");
+    EXPECT_EQ(w.Pfad(), Festplatte / "Texte" / PfadAus("Größen"));
     ZeileWählen(w.Verzeichnis, 0);
     EXPECT_EQ(w.Pfad(), Festplatte / "Texte");
     EXPECT_EQ(wechsel, 3);
@@ -134,7 +134,7 @@ TEST_F(VerzeichniswahlTest, EinUnlesbaresLaufwerkLässtDieListenStehenUndWirdGem
     int unlesbar = 0;
     w.BeiUnlesbaremLaufwerk = [&] { ++unlesbar; };
     fs::remove_all(Diskette);
-    DateiSchreiben(Festplatte / "später.txt", "");
+    DateiSchreiben(Festplatte / PfadAus("später.txt"), "");
     NächstesLaufwerk();
     EXPECT_EQ(unlesbar, 1);
     EXPECT_EQ(w.Pfad(), Festplatte);
@@ -285,12 +285,14 @@ TEST_F(VerzeichniswahlTest, BeginntAufDemErstenLesbarenLaufwerk)
 TEST_F(VerzeichniswahlTest, DasselbeLaufwerkNochEinmalFührtAusDerTiefeZurück)
 {
     Verzeichniswahl &w = Öffnen();
-    w.Öffnen(Festplatte / "Texte" / "Größen");
+    w.Öffnen(Festplatte / "Texte" / PfadAus("Größen"));
     FokusAuf(w.Laufwerk);
     w.Laufwerk->showPopup();
     QTest::keyClick(w.Laufwerk->view(), Qt::Key_Return);
     EXPECT_EQ(w.Pfad(), Festplatte);
 }
+
+#ifndef _WIN32
 
 TEST_F(VerzeichniswahlTest, EinNameDerKeinTextIstLässtSichÖffnen)
 {
@@ -307,8 +309,11 @@ TEST_F(VerzeichniswahlTest, EinNameDerKeinTextIstLässtSichÖffnen)
     EXPECT_EQ(Verzeichniswahl::Name(w.Dateien->item(0)), name + ".txt");
 }
 
+#endif
+
 TEST_F(VerzeichniswahlTest, SchlechteVerzeichnisseLassenDieListenStehen)
 {
+    NUR_WO_ES_GIBT(Verweise);
     fs::create_symlink("Kreis", Festplatte / "Kreis");
     fs::create_symlink("nirgends", Festplatte / "Verweis");
     Verzeichniswahl &w = Öffnen();

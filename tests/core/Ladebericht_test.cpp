@@ -76,7 +76,7 @@ TEST_F(LadeberichtTest, AuchVonDisketteWirdDieDateiGenannt)
     DateiSchreiben(Diskette / "Standard.dat", "keine Zahl\r\n");
     Antworten = {true, true};
     EXPECT_EQ(VonDiskette(), "von Diskette nicht alles geladen: bei Standard.dat abgebrochen");
-    fs::remove(Diskette / "Meßdiener.dat");
+    fs::remove(Diskette / PfadAus("Meßdiener.dat"));
     DateiSchreiben(Diskette / "Standard.dat", " 0 \r\n");
     EXPECT_EQ(VonDiskette(), "von Diskette nicht alles geladen: bei Meßdiener.dat abgebrochen");
 }

@@ -19,7 +19,7 @@ class DruckdialogNameTest : public Formstand<DruckdialogForm> {
   protected:
     DruckdialogNameTest() : heim(qgetenv("HOME"))
     {
-        qputenv("HOME", Festplatte.c_str());
+        qputenv("HOME", Festplatte.string().c_str());
         for (const char *name : {"A", "B"})
             fs::create_directory(Festplatte / name);
     }

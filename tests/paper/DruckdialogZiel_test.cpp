@@ -21,7 +21,7 @@ class DruckdialogZielTest : public Formstand<DruckdialogForm> {
   protected:
     DruckdialogZielTest() : heim(qgetenv("HOME"))
     {
-        qputenv("HOME", Festplatte.c_str());
+        qputenv("HOME", Festplatte.string().c_str());
         fs::create_directory(Festplatte / "Berichte");
     }
     ~DruckdialogZielTest() override { qputenv("HOME", heim); }
@@ -199,10 +199,12 @@ TEST_F(DruckdialogZielTest, WoNichtGeschriebenWerdenKannGibtEsKeinOk)
     }
     EXPECT_TRUE(Geht(Pfad("Berichte/Plan.pdf")));
     EXPECT_EQ(Zeigt("Hinweis"), "");
+#ifndef _WIN32
     if (geteuid() == 0)
         return; // who may write everywhere
     fs::permissions(Festplatte / "Berichte", fs::perms::owner_read | fs::perms::owner_exec);
     EXPECT_FALSE(Geht(Pfad("Berichte/Liste.pdf")));
+#endif
 }
 
 TEST_F(DruckdialogZielTest, EinVerzeichnisDasVerschwundenIstWirdNichtMehrVorgeschlagen)

@@ -67,7 +67,7 @@ TEST_F(DruckdialogTest, AuswahlIstDasPdfMitDerErstenAusführung)
     const Druckauswahl auswahl = dialog->Auswahl();
     EXPECT_EQ(auswahl.Modus, 0);
     EXPECT_EQ(auswahl.Ziel->outputFormat(), QPrinter::PdfFormat);
-    EXPECT_EQ(auswahl.Ziel->outputFileName(), QString::fromUtf8("/tmp/Plan.pdf"));
+    EXPECT_TRUE(auswahl.Ziel->outputFileName().endsWith("/tmp/Plan.pdf")); // maybe after a drive
 }
 
 TEST_F(DruckdialogTest, DieZweiteAusführungStehtNurZurWahlWoEsSieGibt)

@@ -7,9 +7,11 @@
 
 #include <QPainter>
 
+#ifndef _WIN32
 #include <csignal>
 
 #include <sys/resource.h>
+#endif
 
 namespace altardienst {
 namespace {
@@ -57,6 +59,8 @@ TEST_F(DruckzielTest, EinFehlerMittenImBerichtLässtDasÄltereStehen)
     EXPECT_EQ(PdfLesen(datei).Seiten.size(), 1U);
 }
 
+#ifndef _WIN32
+
 TEST_F(DruckzielTest, EineVolleFestplatteLässtNichtsHalbesZurück)
 {
     DateiSchreiben(PfadAus(datei.toStdString()), "alt");
@@ -73,6 +77,8 @@ TEST_F(DruckzielTest, EineVolleFestplatteLässtNichtsHalbesZurück)
     WunschpartnerlisteDrucken();
     EXPECT_EQ(PdfLesen(datei).Seiten.size(), 1U);
 }
+
+#endif
 
 TEST_F(DruckzielTest, WoNichtGeschriebenWerdenKannEndetDerBerichtStill)
 {

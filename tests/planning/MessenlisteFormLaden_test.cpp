@@ -190,7 +190,7 @@ TEST_F(MessenlisteLaden, EinLadenDasScheitertRührtSieAuchNichtAn)
 TEST_F(MessenlisteLaden, GeholteDatenRührenSieAuchNichtAn)
 {
     for (const auto &datei : std::filesystem::directory_iterator(Festplatte))
-        std::filesystem::copy(datei.path(), Diskette);
+        std::filesystem::copy(datei.path(), Diskette / datei.path().filename());
     ListeDaneben(Angezeigt);
     const Satz schirm = Schirm();
     HinUndZurück([this] {

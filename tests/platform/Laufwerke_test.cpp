@@ -131,11 +131,12 @@ TEST_F(LaufwerkeTest, InEineRöhreWirdNichtGeschrieben)
 
 TEST_F(LaufwerkeTest, EineÜbergroßeDateiWirdNichtGelesen)
 {
-    System.Schreiben(Festplatte / "groß", "");
-    fs::resize_file(Festplatte / "groß", GrößteDatei + 1); // takes no space
-    EXPECT_EQ(NummerDesFehlers([&] { System.Lesen(Festplatte / "groß"); }), 75);
-    EXPECT_EQ(NummerDesFehlers([&] { System.Kopieren(Festplatte / "groß", Festplatte / "x"); }),
-              75);
+    System.Schreiben(Festplatte / PfadAus("groß"), "");
+    fs::resize_file(Festplatte / PfadAus("groß"), GrößteDatei + 1); // takes no space
+    EXPECT_EQ(NummerDesFehlers([&] { System.Lesen(Festplatte / PfadAus("groß")); }), 75);
+    EXPECT_EQ(
+        NummerDesFehlers([&] { System.Kopieren(Festplatte / PfadAus("groß"), Festplatte / "x"); }),
+        75);
 }
 
 #endif
@@ -235,8 +236,8 @@ TEST_F(LaufwerkeTest, JederZugriffGibtEinLebenszeichen)
     EXPECT_TRUE(gibtEines([&] { System.Umbenennen(Festplatte / "y", Festplatte / "z"); }));
     EXPECT_TRUE(gibtEines([&] { System.Suchen(Festplatte, "X"); }));
     EXPECT_TRUE(gibtEines([&] { System.Auflisten(Festplatte); }));
-    DateiSchreiben(Festplatte / "groß", std::string(1000000, 'x'));
-    System.Lesen(Festplatte / "groß");
+    DateiSchreiben(Festplatte / PfadAus("groß"), std::string(1000000, 'x'));
+    System.Lesen(Festplatte / PfadAus("groß"));
     EXPECT_GT(zeichen, 10) << "between the parts of a file too";
     Lebenszeichen = zuvor;
 }
@@ -386,21 +387,32 @@ TEST_F(LaufwerkeTest, LangePfadeMitUmlauten)
 {
     fs::path tief = Festplatte;
     for (int k = 0; k < 6; ++k)
-        tief /= "Verzeichnis für Meßdiener, ein recht langer Name, den es so geben kann";
+        tief /= PfadAus("Verzeichnis für Meßdiener, ein recht langer Name, wie es ihn gibt");
     ASSERT_GT(tief.native().size(), 260U);
     System.VerzeichnisAnlegen(tief);
-    System.Schreiben(tief / "Größe.dat", "1");
-    System.Anhängen(tief / "Größe.dat", "2");
-    System.Durchschreiben(tief / "Größe.dat");
-    EXPECT_EQ(System.Lesen(tief / "Größe.dat"), "12");
+    System.Schreiben(tief / PfadAus("Größe.dat"), "1");
+    System.Anhängen(tief / PfadAus("Größe.dat"), "2");
+    System.Durchschreiben(tief / PfadAus("Größe.dat"));
+    EXPECT_EQ(System.Lesen(tief / PfadAus("Größe.dat")), "12");
     EXPECT_EQ(System.Suchen(tief, "größe.DAT"), "Größe.dat");
     EXPECT_EQ(System.Auflisten(tief).Dateien, std::vector<Text>{"Größe.dat"});
-    System.Kopieren(tief / "Größe.dat", tief / "Kopie.dat");
-    System.Kopieren(tief / "Größe.dat", tief / "Kopie.dat"); // over itself, too
+    System.Kopieren(tief / PfadAus("Größe.dat"), tief / "Kopie.dat");
+    System.Kopieren(tief / PfadAus("Größe.dat"), tief / "Kopie.dat"); // over itself, too
     System.Umbenennen(tief / "Kopie.dat", tief / "anders.dat");
     EXPECT_EQ(System.Lesen(tief / "anders.dat"), "12");
+    // A directory in use elsewhere keeps what is in it.
+    DateiSchreiben(Diskette / "bleibt", "");
+    const fs::path zuvor = fs::current_path();
+    fs::current_path(Diskette);
     System.Löschen(tief);
-    EXPECT_EQ(NummerDesFehlers([&] { System.Lesen(tief / "Größe.dat"); }), 53);
+    EXPECT_TRUE(fs::exists(Diskette / "bleibt"));
+    fs::current_path(zuvor);
+    EXPECT_EQ(NummerDesFehlers([&] { System.Lesen(tief / PfadAus("Größe.dat")); }), 53);
+    EXPECT_EQ(NummerDesFehlers([&] { System.Auflisten(tief); }), 76);
+    System.VerzeichnisAnlegen(tief / "");
+    EXPECT_TRUE(System.Auflisten(tief.parent_path()).Dateien.empty());
+    EXPECT_EQ(System.Auflisten(tief.parent_path()).Verzeichnisse.size(), 1U);
+    System.Löschen(tief.parent_path());
 }
 
 TEST_F(LaufwerkeTest, KopierenÜberschreibtUndSchontSchreibgeschützte)

@@ -58,7 +58,7 @@ TEST_F(DialogFormZielTest, EinUnlesbaresLaufwerkLässtZielUndListenStehen)
     Tippen(form->Dateiname, "plan");
     Klick(form->Überschreib);
     fs::remove_all(Diskette);
-    DateiSchreiben(Festplatte / "später.txt", "");
+    DateiSchreiben(Festplatte / PfadAus("später.txt"), "");
     FokusAuf(form->Wahl.Laufwerk);
     QTest::keyClick(form->Wahl.Laufwerk, Qt::Key_Down);
     EXPECT_EQ(Ziel(), Pfad(Festplatte / "plan.txt"));
@@ -83,7 +83,7 @@ TEST_F(DialogFormZielTest, EineVorhandeneDateiWirdFortgesetztOhneAufGroßUndKlei
 TEST_F(DialogFormZielTest, EinNeuerNameFrischtDieDateilisteAuf)
 {
     Öffnen();
-    DateiSchreiben(Festplatte / "später.txt", "");
+    DateiSchreiben(Festplatte / PfadAus("später.txt"), "");
     EXPECT_EQ(Zeilen(form->Wahl.Dateien), Liste{"plan.txt"});
     Tippen(form->Dateiname, "x");
     EXPECT_EQ(Zeilen(form->Wahl.Dateien), (Liste{"plan.txt", "später.txt"}));

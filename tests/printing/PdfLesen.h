@@ -1,26 +1,15 @@
 // Reads a PDF back with the poppler tools: its text, the positions of the words, fonts, pictures.
 #pragma once
 
-#include "values/Text.h"
+#include "printing/Werkzeuglauf.h"
 
 #include <QImage>
-#include <QProcess>
 #include <QRegularExpression>
 
 #include <stdexcept>
 #include <vector>
 
 namespace altardienst {
-
-/// What a tool writes to its standard output.
-inline Text Aufruf(const char *werkzeug, const QStringList &angaben)
-{
-    QProcess lauf;
-    lauf.start(werkzeug, angaben);
-    if (!lauf.waitForFinished() || lauf.exitCode() != 0)
-        throw std::runtime_error(Text(werkzeug) + ": " + lauf.readAllStandardError().toStdString());
-    return lauf.readAllStandardOutput().toStdString();
-}
 
 /// Positions in points from the upper left corner of the page.
 struct PdfWort {

@@ -34,10 +34,10 @@ TEST_F(ZweitstartTest, DerZweiteHebtKeinenStandAuf)
 {
     Programmlauf erster(daten);
     EXPECT_EQ(erster.Fenster("Start"), "Start");
-    fs::remove_all(daten / "Stände");
+    fs::remove_all(daten / PfadAus("Stände"));
     Programmlauf zweiter(daten);
     EXPECT_EQ(zweiter.Ende(), 0);
-    EXPECT_FALSE(fs::exists(daten / "Stände"));
+    EXPECT_FALSE(fs::exists(daten / PfadAus("Stände")));
 }
 
 TEST_F(ZweitstartTest, AufAnderenDateienLaufenZwei)

@@ -125,6 +125,7 @@ TEST_F(DateikopieFormTest, JedeOptionHoltIhreDatei)
 
 TEST_F(DateikopieFormTest, EineQuelleOhneEineDateiIstKeineAuchNichtFürEineAndere)
 {
+    NUR_WO_ES_GIBT(Schreibungen);
     Öffnen();
     Klick(form->Einzel);
     for (const auto &[name, klein] : AchtNamen) {
@@ -160,7 +161,7 @@ TEST_F(DateikopieFormTest, EinUnlesbaresLaufwerkPrüftDasBisherigeVerzeichnisNeu
     EXPECT_FALSE(ZeigtOK());
     EXPECT_EQ(form->Wahl.Dateien->count(), 7);
     EXPECT_TRUE(form->Wahl.Dateien->findItems("Helfer.dat", Qt::MatchExactly).isEmpty());
-    EXPECT_EQ(Datei(), TextVon(Diskette) + "/");
+    EXPECT_EQ(Datei(), OrdnerText(Diskette));
     EXPECT_EQ(form->Wahl.Laufwerk->currentText(), "Diskette");
     fs::remove_all(Diskette); // now the current directory cannot be read either
     NächstesLaufwerk();

@@ -20,8 +20,8 @@ class HintergrundsucheFormTest : public Formstand<HintergrundsucheForm> {
     {
         fs::create_directories(Festplatte / "Bilder");
         BildSchreiben(Festplatte / "blau.png", Qt::blue);
-        BildSchreiben(Festplatte / "Größe rot.png", Qt::red);
-        BildSchreiben(Festplatte / "Bilder" / "grün.bmp", Qt::green);
+        BildSchreiben(Festplatte / PfadAus("Größe rot.png"), Qt::red);
+        BildSchreiben(Festplatte / "Bilder" / PfadAus("grün.bmp"), Qt::green);
         DateiSchreiben(Festplatte / "text.txt", "kein Bild");
         haupt = new HauptForm;
         HauptfensterSetzen(haupt);
@@ -126,7 +126,7 @@ TEST_F(HintergrundsucheFormTest, EinClickIstSofortDerHintergrund)
 {
     Öffnen();
     DateiKlicken("Größe rot.png");
-    EXPECT_EQ(Konfig.Hintergrund, TextVon(Festplatte) + "/Größe rot.png");
+    EXPECT_EQ(Konfig.Hintergrund, TextVon(Festplatte / PfadAus("Größe rot.png")));
     EXPECT_EQ(Mitte(form->Bild), QColor(Qt::red));
     EXPECT_TRUE(Warten([&] { return Mitte(haupt->Image1) == QColor(Qt::red); }))
         << "the main window picks it up after the dialog";
@@ -139,7 +139,7 @@ TEST_F(HintergrundsucheFormTest, DiePfeiltasteWähltAuch)
     Öffnen();
     DateiKlicken("Größe rot.png");
     QTest::keyClick(form->Wahl.Dateien, Qt::Key_Down);
-    EXPECT_EQ(Konfig.Hintergrund, TextVon(Festplatte) + "/blau.png");
+    EXPECT_EQ(Konfig.Hintergrund, TextVon(Festplatte / PfadAus("blau.png")));
 }
 
 TEST_F(HintergrundsucheFormTest, DurchgehenMitTabWähltNichts)
@@ -168,9 +168,10 @@ TEST_F(HintergrundsucheFormTest, InEinerWurzelStehenZweiTrenner)
     Laufwerke.Wurzeln = [] { return std::vector<Wurzel>{{"Dateisystem", "/"}}; };
     Öffnen();
     DateiKlicken("bild.png");
-    EXPECT_EQ(Konfig.Hintergrund, "//bild.png");
+    EXPECT_EQ(Konfig.Hintergrund, OrdnerText("/") + OrdnerText("/") + "bild.png");
     form->Wahl.Dateien->setCurrentRow(1);
-    EXPECT_EQ(Konfig.Hintergrund, "//bild.png") << "a line break would shift the lines of a file";
+    EXPECT_EQ(Konfig.Hintergrund, OrdnerText("/") + OrdnerText("/") + "bild.png")
+        << "a line break would shift the lines of a file";
 }
 
 TEST_F(HintergrundsucheFormTest, VerzeichnisUndLaufwerkFüllenDieDateienUndWählenNichts)
@@ -183,12 +184,12 @@ TEST_F(HintergrundsucheFormTest, VerzeichnisUndLaufwerkFüllenDieDateienUndWähl
     EXPECT_EQ(form->Wahl.Dateien->count(), 1);
     EXPECT_EQ(Konfig.Hintergrund, TextVon(Festplatte / "blau.png"));
     DateiKlicken("grün.bmp");
-    EXPECT_EQ(Konfig.Hintergrund, TextVon(Festplatte) + "/Bilder/grün.bmp");
+    EXPECT_EQ(Konfig.Hintergrund, TextVon(Festplatte / "Bilder" / PfadAus("grün.bmp")));
     FokusAuf(form->Wahl.Laufwerk);
     QTest::keyClick(form->Wahl.Laufwerk, Qt::Key_Down);
     EXPECT_EQ(form->Wahl.Pfad(), Diskette);
     EXPECT_EQ(form->Wahl.Dateien->count(), 0);
-    EXPECT_EQ(Konfig.Hintergrund, TextVon(Festplatte) + "/Bilder/grün.bmp");
+    EXPECT_EQ(Konfig.Hintergrund, TextVon(Festplatte / "Bilder" / PfadAus("grün.bmp")));
 }
 
 TEST_F(HintergrundsucheFormTest, SchlechteOrteÜbergehtEr)

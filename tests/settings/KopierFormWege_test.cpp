@@ -39,7 +39,7 @@ TEST_F(KopierFormWegeTest, BeimSichernIstDasProgrammDieQuelle)
     AchtSchreiben(Festplatte, "");
     Öffnen<DatensicherungForm>();
     QCoreApplication::processEvents();
-    EXPECT_EQ(Zeigt(form->Gegenort), TextVon(Festplatte) + "/");
+    EXPECT_EQ(Zeigt(form->Gegenort), OrdnerText(Festplatte));
     EXPECT_EQ(Neben(form->Gegenort), "Quelle:");
     EXPECT_EQ(Neben(form->Datei), "Ziel:");
     EXPECT_EQ(Hinweis(), "");
@@ -52,7 +52,7 @@ TEST_F(KopierFormWegeTest, BeimHolenIstDasProgrammDasZiel)
     QCoreApplication::processEvents();
     EXPECT_EQ(Neben(form->Datei), "Quelle:");
     EXPECT_EQ(Neben(form->Gegenort), "Ziel:");
-    EXPECT_EQ(Zeigt(form->Gegenort), TextVon(Festplatte) + "/");
+    EXPECT_EQ(Zeigt(form->Gegenort), OrdnerText(Festplatte));
 }
 
 TEST_F(KopierFormWegeTest, EsSagtWarumOKFehlt)
@@ -144,14 +144,14 @@ TEST_F(KopierFormWegeTest, WasKopiertWurdeWirdMitgeteilt)
     NächstesLaufwerk();
     EinzelneWählen(3);
     Klick(form->OKButton);
-    EXPECT_EQ(Mitteilungen().Letzte, "12:00 1 Datei nach " + TextVon(Diskette) + "/ kopiert");
+    EXPECT_EQ(Mitteilungen().Letzte, "12:00 1 Datei nach " + OrdnerText(Diskette) + " kopiert");
     AchtSchreiben(Diskette, "kaputt");
     EXPECT_TRUE(Warten([&] { return ZurückImHauptfenster(); }));
     Öffnen<DateikopieForm>();
     NächstesLaufwerk();
     Klick(form->OKButton);
-    EXPECT_EQ(Mitteilungen().Letzte, "12:00 8 Dateien aus " + TextVon(Diskette) +
-                                         "/ geholt, aber nicht alles geladen: bei Konfig.cfg "
+    EXPECT_EQ(Mitteilungen().Letzte, "12:00 8 Dateien aus " + OrdnerText(Diskette) +
+                                         " geholt, aber nicht alles geladen: bei Konfig.cfg "
                                          "abgebrochen");
 }
 
@@ -207,8 +207,8 @@ TEST_F(KopierFormWegeTest, LangeWegeWerdenInDerMitteGekürzt)
     QCoreApplication::processEvents();
     const Text sichtbar = form->Gegenort->Sichtbar().toStdString();
     EXPECT_TRUE(sichtbar.starts_with(TextVon(laufwerk).substr(0, 8))) << sichtbar;
-    EXPECT_TRUE(sichtbar.ends_with("/Ende/")) << sichtbar;
-    EXPECT_EQ(Zeigt(form->Gegenort), TextVon(Festplatte) + "/");
+    EXPECT_TRUE(sichtbar.ends_with(OrdnerText("/Ende"))) << sichtbar;
+    EXPECT_EQ(Zeigt(form->Gegenort), OrdnerText(Festplatte));
     EXPECT_LE(form->width(), KleinsterBildschirm.width());
 }
 

@@ -52,7 +52,7 @@ TEST_F(KopierFormTest, BeginntMitAllenAufDemErstenLaufwerk)
     EXPECT_FALSE(form->Einzel->isChecked());
     EXPECT_FALSE(form->Welche->isVisible());
     EXPECT_EQ(form->Wahl.Pfad(), laufwerk);
-    EXPECT_EQ(Datei(), TextVon(laufwerk) + "/");
+    EXPECT_EQ(Datei(), OrdnerText(laufwerk));
     EXPECT_TRUE(ZeigtOK());
     EXPECT_FALSE(haupt->isEnabled());
     EXPECT_TRUE(haupt->isMinimized());
@@ -76,21 +76,21 @@ TEST_F(KopierFormTest, EinzelZeigtDieDateienUndWähltDieErste)
 
 TEST_F(KopierFormTest, DerPfadFolgtVerzeichnisUndLaufwerkUndEndetMitEinemTrenner)
 {
-    fs::create_directories(laufwerk / "Größen");
+    fs::create_directories(laufwerk / PfadAus("Größen"));
     Öffnen();
     VerzeichnisÖffnen("Größen");
-    EXPECT_EQ(Datei(), TextVon(laufwerk) + "/Größen/");
+    EXPECT_EQ(Datei(), OrdnerText(laufwerk / PfadAus("Größen")));
     NächstesLaufwerk();
-    EXPECT_EQ(Datei(), TextVon(Diskette) + "/");
+    EXPECT_EQ(Datei(), OrdnerText(Diskette));
     NächstesLaufwerk(-1);
-    EXPECT_EQ(Datei(), TextVon(laufwerk) + "/") << "not the last directory on that drive";
+    EXPECT_EQ(Datei(), OrdnerText(laufwerk)) << "not the last directory on that drive";
 }
 
 TEST_F(KopierFormTest, EineWurzelHatKeinenZweitenTrenner)
 {
     Laufwerke.Wurzeln = [] { return std::vector<Wurzel>{{"Dateisystem", "/"}}; };
     Öffnen();
-    EXPECT_EQ(Datei(), "/");
+    EXPECT_EQ(Datei(), OrdnerText("/"));
 }
 
 TEST_F(KopierFormTest, EinUnlesbaresLaufwerkLässtAllesStehen)
@@ -98,7 +98,7 @@ TEST_F(KopierFormTest, EinUnlesbaresLaufwerkLässtAllesStehen)
     Öffnen();
     fs::remove_all(Diskette);
     NächstesLaufwerk();
-    EXPECT_EQ(Datei(), TextVon(laufwerk) + "/");
+    EXPECT_EQ(Datei(), OrdnerText(laufwerk));
     EXPECT_EQ(form->Wahl.Laufwerk->currentText(), "Platte");
     EXPECT_TRUE(ZeigtOK());
     EXPECT_TRUE(GezeigteMeldungen.empty());
@@ -130,13 +130,13 @@ TEST_F(KopierFormTest, VerzeichnisErstellenLegtAnUndBetrittNicht)
     Klick(form->Verzeichnis); // an empty box creates nothing
     EXPECT_EQ(form->Wahl.Verzeichnis->count(), 1);
     Tippen(form->VZ, "Größen");
-    DateiSchreiben(Diskette / "später", "");
+    DateiSchreiben(Diskette / PfadAus("später"), "");
     Klick(form->Verzeichnis);
     EXPECT_TRUE(fs::is_directory(Diskette / PfadAus("Größen")));
     ASSERT_EQ(form->Wahl.Verzeichnis->count(), 2);
     EXPECT_EQ(form->Wahl.Verzeichnis->item(1)->text(), QString::fromUtf8("Größen"));
     EXPECT_EQ(form->Wahl.Dateien->count(), 1) << "the files are read anew too";
-    EXPECT_EQ(Datei(), TextVon(Diskette) + "/");
+    EXPECT_EQ(Datei(), OrdnerText(Diskette));
 }
 
 TEST_F(KopierFormTest, DieEingabetasteErstelltAuch)
@@ -155,7 +155,7 @@ TEST_F(KopierFormTest, EinVerzeichnisDasNichtGehtWirdÜbergangen)
     DateiSchreiben(Diskette / "im Weg", "x");
     Öffnen();
     NächstesLaufwerk();
-    DateiSchreiben(Diskette / "später", "");
+    DateiSchreiben(Diskette / PfadAus("später"), "");
     Tippen(form->VZ, "im Weg");
     Klick(form->Verzeichnis);
     EXPECT_TRUE(GezeigteMeldungen.empty());

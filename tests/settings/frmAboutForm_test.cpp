@@ -135,8 +135,13 @@ TEST_F(frmAboutFormTest, EinLeererEintragGiltAlsGefunden)
 TEST_F(frmAboutFormTest, DerStartIstEinEchtesProgramm)
 {
     const fs::path spur = Festplatte / "spur";
+#ifdef _WIN32
+    const fs::path programm = Festplatte / "werk zeug.bat";
+    DateiSchreiben(programm, "@echo. >\"" + TextVon(spur) + "\"\r\n");
+#else
     const fs::path programm = Festplatte / "werk zeug";
     DateiSchreiben(programm, "#!/bin/sh\ntouch '" + spur.string() + "'\n");
+#endif
     fs::permissions(programm, fs::perms(0755));
     zuvor.Starten(programm);
     EXPECT_TRUE(Warten([&] { return fs::exists(spur); }));

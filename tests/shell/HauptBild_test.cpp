@@ -8,7 +8,7 @@ namespace fs = std::filesystem;
 
 class HauptBildTest : public Hauptstand {
   protected:
-    HauptBildTest() : bild(Festplatte / "Bild größer.png") {}
+    HauptBildTest() : bild(Festplatte / PfadAus("Bild größer.png")) {}
 
     /// Writes a picture of one colour; the size tells two files apart.
     void BildSchreiben(Qt::GlobalColor farbe, int breite = 72) const

@@ -108,7 +108,7 @@ TEST_F(HauptNetzTest, BeimHolenIstAufgehobenWasDasOKÜberschreibt)
     EXPECT_TRUE(HatStand(davor));
     EXPECT_FALSE(MarkeLiegt());
     EXPECT_EQ(Mitteilungen().Letzte,
-              "12:00 8 Dateien aus " + TextVon(Diskette) + "/ geholt und geladen");
+              "12:00 8 Dateien aus " + OrdnerText(Diskette) + " geholt und geladen");
 }
 
 TEST_F(HauptNetzTest, WasBeimHolenNichtLädtIstMitDemNetzRichtigGenannt)
@@ -116,8 +116,8 @@ TEST_F(HauptNetzTest, WasBeimHolenNichtLädtIstMitDemNetzRichtigGenannt)
     DateiSchreiben(Diskette / "Helfer.dat", "kaputt");
     InsHauptfenster();
     OK(HolenÖffnen());
-    EXPECT_EQ(Mitteilungen().Letzte, "12:00 8 Dateien aus " + TextVon(Diskette) +
-                                         "/ geholt, aber nicht alles geladen: bei Helfer.dat "
+    EXPECT_EQ(Mitteilungen().Letzte, "12:00 8 Dateien aus " + OrdnerText(Diskette) +
+                                         " geholt, aber nicht alles geladen: bei Helfer.dat "
                                          "abgebrochen");
 }
 

@@ -41,7 +41,7 @@ class HauptRückgängigTest : public MessenlisteImProgramm {
     static void Ruhe()
     {
         QEventLoop schleife;
-        QTimer::singleShot(5, &schleife, &QEventLoop::quit);
+        QTimer::singleShot(25, &schleife, &QEventLoop::quit);
         schleife.exec();
     }
 

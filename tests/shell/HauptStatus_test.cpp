@@ -171,9 +171,9 @@ TEST_F(HauptStatusTest, SichernSagtZuerstDasSpeichernUndDannDieKopie)
     FokusAuf(laufwerk);
     QTest::keyClick(laufwerk, Qt::Key_Down);
     Auslösen(Finden<QAbstractButton>(dialog, "OKButton"));
-    EXPECT_EQ(Gesagt(), "12:00 8 Dateien nach " + TextVon(Diskette) + "/ kopiert");
+    EXPECT_EQ(Gesagt(), "12:00 8 Dateien nach " + OrdnerText(Diskette) + " kopiert");
     EXPECT_TRUE(Warten([&] { return haupt->isActiveWindow(); }));
-    EXPECT_EQ(Gesagt(), "12:00 8 Dateien nach " + TextVon(Diskette) + "/ kopiert");
+    EXPECT_EQ(Gesagt(), "12:00 8 Dateien nach " + OrdnerText(Diskette) + " kopiert");
 }
 
 TEST_F(HauptStatusTest, DerTextSagtWohinErGeschriebenWurde)

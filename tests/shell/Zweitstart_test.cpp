@@ -6,6 +6,8 @@
 
 #include <QDialog>
 
+#include <filesystem>
+
 namespace altardienst {
 namespace {
 
@@ -48,6 +50,24 @@ TEST_F(ZweitstartfensterTest, EineFrageGehtAllemVor)
     NachVornHolen();
     QCoreApplication::processEvents();
     EXPECT_TRUE(frage.isActiveWindow());
+}
+
+/// Numbers of processes are used again, after a restart of the machine soon.
+TEST_F(ZweitstartfensterTest, EinRestMitDerEigenenNummerHältNiemandenAuf)
+{
+    const QByteArray zuvor = qgetenv("XDG_RUNTIME_DIR");
+    qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(TextVon(Festplatte)));
+    std::filesystem::path platz;
+    std::string inhalt;
+    {
+        const AlleinigerLauf lauf(Diskette);
+        ASSERT_TRUE(lauf.IstErster());
+        platz = std::filesystem::directory_iterator(Festplatte)->path();
+        inhalt = DateiLesen(platz);
+    }
+    DateiSchreiben(platz, inhalt);
+    EXPECT_TRUE(AlleinigerLauf(Diskette).IstErster());
+    qputenv("XDG_RUNTIME_DIR", zuvor);
 }
 
 TEST_F(ZweitstartfensterTest, OhneFensterGeschiehtNichts)

@@ -45,6 +45,9 @@ constexpr int Prüfschritt = 0;
 /// Balances it.
 constexpr int Ausgleichsschritt = -1;
 
+/// How often the clock was read since the step began, if it goes by its readings.
+std::int64_t Ablesungen = 0;
+
 /// What the command line asks for; an empty text or path asks for nothing.
 struct Auftrag {
     std::filesystem::path Daten;
@@ -84,6 +87,10 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption heute("heute", "the day that counts as today", "TT.MM.JJJJ");
     const QCommandLineOption start("start", "first day of the plan", "TT.MM.JJJJ");
     const QCommandLineOption tage("tage", "days of the plan", "N");
+    const QCommandLineOption uhr("uhr",
+                                 "a clock that is at noon when a step begins and goes by its "
+                                 "readings, so many a second: no result hangs on the machine",
+                                 "N");
     const QCommandLineOption saat("saat", "seed of the draw, in place of the clock's", "N");
     const QCommandLineOption schritte(
         "schritte",
@@ -107,7 +114,7 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption bilder("bilder", "save a picture of every window passed", "DIR");
     const QCommandLineOption antwort("antwort", "answer to every question", "ja|nein", "ja");
     zeile.addHelpOption();
-    zeile.addOptions({daten, heute, start, tage, saat, schritte, menü, suche, text, kalender,
+    zeile.addOptions({daten, heute, uhr, start, tage, saat, schritte, menü, suche, text, kalender,
                       jePerson, webseite, pdf, berichte, bilder, antwort});
     zeile.process(*QCoreApplication::instance());
     const QStringList übrig = zeile.positionalArguments();
@@ -153,6 +160,15 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     Laufwerke.Programmverzeichnis = [verzeichnis = auftrag.Daten] { return verzeichnis; };
     if (zeile.isSet(heute))
         Uhr.Heute = [tag = DatumVon(zeile, heute)] { return tag; };
+    if (zeile.isSet(uhr)) {
+        const int jeSekunde = zeile.value(uhr).toInt();
+        if (jeSekunde < 1)
+            throw std::invalid_argument("--uhr takes a number from 1");
+        Uhr.Sekunden = [jeSekunde] {
+            return static_cast<int>((SekundenProTag / 2 + Ablesungen++ / jeSekunde) %
+                                    SekundenProTag);
+        };
+    }
     if (zeile.isSet(saat)) {
         bool istZahl = false;
         auftrag.Saat = zeile.value(saat).toUInt(&istZahl);
@@ -237,6 +253,7 @@ class Lauf {
                                    haupt->MeßdienerMessen, haupt->Helfend,       haupt->AnzMesse,
                                    haupt->Messendruck};
         for (const int schritt : auftrag.Schritte) {
+            Ablesungen = 0; // in between the windows read it at any time
             if (schritt == Prüfschritt) {
                 BefundeNennen();
                 continue;
@@ -439,15 +456,20 @@ class Lauf {
 };
 
 /// The offscreen platform, with a screen as large as the smallest in use; its description goes to
-/// the file.
-QByteArray OhneBildschirm(QTemporaryFile &beschreibung)
+/// the file. On Windows it is the screen of the user: without one there are no fonts, and the colon
+/// of a drive would end the name of the file.
+QByteArray OhneBildschirm([[maybe_unused]] QTemporaryFile &beschreibung)
 {
+#ifdef Q_OS_WIN
+    return "windows";
+#else
     if (!beschreibung.open())
         return "offscreen";
     beschreibung.write(R"({"screens":[{"name":"","x":0,"y":0,"width":1024,"height":768,)"
                        R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})");
     beschreibung.close();
     return "offscreen:configfile=" + beschreibung.fileName().toLocal8Bit();
+#endif
 }
 
 int Gescheitert(const char *grund)
