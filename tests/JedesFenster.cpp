@@ -6,6 +6,8 @@
 #include "anniversaries/JubiGebuForm.h"
 #include "anniversaries/JubiläumsanzeigeForm.h"
 #include "application/Anwendung.h"
+#include "exchange/DienstzettelForm.h"
+#include "exchange/EMailForm.h"
 #include "fairness/ArchivForm.h"
 #include "fairness/AusgleichForm.h"
 #include "fairness/VerteilungForm.h"
@@ -104,6 +106,8 @@ JedesFenster::JedesFenster()
         {"Ausgleich", Neu<AusgleichForm>()},
         {"Verteilung", Neu<VerteilungForm>()},
         {"Archiv", Neu<ArchivForm>()},
+        {"Dienstzettel", Neu<DienstzettelForm>()},
+        {"EMail", Neu<EMailForm>()},
         {"Standardmessen", Neu<StandardmessenForm>()},
         {"Messenliste", Neu<MessenlisteForm>()},
         {"NeuMesse", [] { return new NeuMesseForm(*Darunter<MessenlisteForm>()); }},

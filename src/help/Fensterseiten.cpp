@@ -26,6 +26,9 @@ const std::map<Text, Text> &Fensterseiten()
         {"Verteilung", "gerechter-plan.md#verteilung"},
         {"Archiv", "gerechter-plan.md#das-archiv"},
 
+        {"Dienstzettel", "weitergeben.md#dienstzettel"},
+        {"EMail", "weitergeben.md#e-mail"},
+
         {"Meßdiener", "leute.md#messdiener"},
         {"NeuMeßdiener", "leute.md#neuer-messdiener"},
         {"Gruppe", "leute.md#gruppen"},

@@ -9,8 +9,8 @@
 
 namespace altardienst {
 
-/// The same number for the days of one week. Weeks begin with the weekday on which plans do, so that
-/// a vigil stands with its Sunday.
+/// The same number for the days of one week. Weeks begin with the weekday on which plans do, so
+/// that a vigil stands with its Sunday.
 inline int Planwoche(const KonfigDatensatz &einstellungen, Datum tag)
 {
     constexpr int Wochentage = 7;

@@ -27,10 +27,7 @@ class KeinDrucker : public DruckerDienst {
     Single TextHeight() const override { return 0; }
     void Orientation(int) override {}
     void Print(const Text &) override { throw Laufzeitfehler(Laufzeitfehler::Druckerfehler); }
-    void Line(const Druckstrich &) override
-    {
-        throw Laufzeitfehler(Laufzeitfehler::Druckerfehler);
-    }
+    void Line(const Druckstrich &) override { throw Laufzeitfehler(Laufzeitfehler::Druckerfehler); }
     void Picture(const Druckbild &) override
     {
         throw Laufzeitfehler(Laufzeitfehler::Druckerfehler);

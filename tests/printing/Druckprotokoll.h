@@ -7,8 +7,8 @@
 
 namespace altardienst {
 
-/// Every line of a page has the same height; nothing is laid out. Where a report measures its texts,
-/// every character is half as wide as the type is high.
+/// Every line of a page has the same height; nothing is laid out. Where a report measures its
+/// texts, every character is half as wide as the type is high.
 class Druckprotokoll : public DruckerDienst {
   public:
     /// One operation per line, in the order received: `CurrentX 1000`, `Print "Text"`. Reading the

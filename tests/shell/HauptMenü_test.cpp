@@ -107,6 +107,10 @@ TEST_F(HauptMenüTest, HatSeineEinträgeInIhrerFolge)
                           "  mnuAusgleich | Plan &ausgleichen",
                           "  mnuVerteilung | &Verteilung",
                           "  mnuArchiv | Ar&chiv",
+                          "  mnuWeitergeben | &Weitergeben",
+                          "    mnuAushang | A&ushang",
+                          "    mnuDienstzettel | &Dienstzettel",
+                          "    mnuEMail | &E-Mail",
                           "  mnuStände | &Frühere Stände",
                           "mnuHelp | &?",
                           "  mnuHandbuch | &Handbuch",
@@ -146,6 +150,9 @@ TEST_F(HauptMenüTest, WasOhneDialogAuskommtIstWählbar)
                              "mnuAusgleich",
                              "mnuVerteilung",
                              "mnuArchiv",
+                             "mnuAushang",
+                             "mnuDienstzettel",
+                             "mnuEMail",
                              "mnuStände",
                              "mnuHelpAbout",
                              "DruckML"})
@@ -192,6 +199,8 @@ TEST_F(HauptMenüTest, JederEintragÖffnetSeineFormUndSperrtDasHauptfenster)
         {"mnuAusgleich", "Ausgleich"},
         {"mnuVerteilung", "Verteilung"},
         {"mnuArchiv", "Archiv"},
+        {"mnuDienstzettel", "Dienstzettel"},
+        {"mnuEMail", "EMail"},
         {"mnuStände", "Stände"},
     };
     MeßdienerAnlegen("Kim", "Adler"); // there are no figures about nobody
