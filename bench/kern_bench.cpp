@@ -12,6 +12,7 @@ void MessungenAnmelden()
     PlanprüfungMessungen();
     StatistikMessungen();
     ZuweisungMessungen();
+    WeitergebenMessungen();
     RückgängigMessungen(); // last, since its messages are to be answered
 }
 

@@ -8,6 +8,7 @@ void RückgängigMessungen();
 void SortierenMessungen();
 void PlanprüfungMessungen();
 void StatistikMessungen();
+void WeitergebenMessungen();
 void ZuweisungMessungen();
 
 } // namespace altardienst

@@ -8,6 +8,8 @@
 #include "application/Anwendung.h"
 #include "exchange/DienstzettelForm.h"
 #include "exchange/EMailForm.h"
+#include "exchange/KalenderForm.h"
+#include "exchange/WebseiteForm.h"
 #include "fairness/ArchivForm.h"
 #include "fairness/AusgleichForm.h"
 #include "fairness/VerteilungForm.h"
@@ -108,6 +110,8 @@ JedesFenster::JedesFenster()
         {"Archiv", Neu<ArchivForm>()},
         {"Dienstzettel", Neu<DienstzettelForm>()},
         {"EMail", Neu<EMailForm>()},
+        {"Kalender", Neu<KalenderForm>()},
+        {"Webseite", Neu<WebseiteForm>()},
         {"Standardmessen", Neu<StandardmessenForm>()},
         {"Messenliste", Neu<MessenlisteForm>()},
         {"NeuMesse", [] { return new NeuMesseForm(*Darunter<MessenlisteForm>()); }},

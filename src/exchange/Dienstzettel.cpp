@@ -1,6 +1,9 @@
 // A slip for each person.
 #include "exchange/Dienstzettel.h"
 
+#include "core/Gruppen.h"
+#include "exchange/Planauszug.h"
+#include "overview/Gruppenplatz.h"
 #include "overview/Platz.h"
 
 #include <algorithm>
@@ -44,12 +47,10 @@ class Sammlung {
                        [&](Person &person, int j) { InGruppe(person, tabellen.Diener.Gruppe[j]); });
         if (wahl.Helfer)
             AusTabelle(tabellen.Helferinnen, [](Person &, int) {});
-        for (const int messe : MessenNachZeit(tabellen.Messen, tabellen.Messenzahl())) {
-            for (int slot = 1; wahl.Diener && slot <= MesseTabelle::HöchsterSlot; ++slot)
-                AusPlan(Dienerplatznr(messe, slot));
-            for (int nr = 0; wahl.Helfer && nr < static_cast<int>(Helferplätze.size()); ++nr)
-                AusPlan(Helferplatznr(messe, nr));
-        }
+        for (const Auszugsmesse &messe : PlanAusziehen(tabellen))
+            for (const Auszugsdienst &dienst : messe.Dienste)
+                if (dienst.VonHelfer ? wahl.Helfer : wahl.Diener)
+                    AusPlan(messe.Messe, dienst);
         std::vector<Person> alle;
         alle.reserve(personen.size());
         for (auto &[_, person] : personen)
@@ -92,15 +93,23 @@ class Sammlung {
                 person.Gruppe = g;
     }
 
-    void AusPlan(Planplatz platz)
+    /// A place that is kept for a group is a service of all its members.
+    void AusPlan(int messe, const Auszugsdienst &dienst)
     {
-        const MesseTabelle &messen = tabellen.Messen;
-        const Platzname name = NameAm(messen, platz);
-        if (!IstGewünscht(messen, platz) || name.IstFrei())
-            return;
-        Diese(name.Vorname, name.Nachname, platz.Was == Planplatz::Art::Helfer)
-            .Zettel.Dienste.push_back({TerminDer(messen, platz.Messe), messen.Messeart[platz.Messe],
-                                       DienstAm(messen, platz)});
+        const auto eintragen = [&](const Text &vorname, const Text &nachname) {
+            Diese(vorname, nachname, dienst.VonHelfer)
+                .Zettel.Dienste.push_back({TerminDer(tabellen.Messen, messe),
+                                           tabellen.Messen.Messeart[messe], Text(dienst.Dienst)});
+        };
+        bool mitglieder = false;
+        if (IstGruppe(tabellen.Gruppen, {*dienst.Vorname, *dienst.Nachname}))
+            for (int j = 0; j < tabellen.Diener.Anzahl && j <= MeßdienerTabelle::HöchsterIndex; ++j)
+                if (IstInGruppe(tabellen.Diener, j, *dienst.Nachname)) {
+                    eintragen(tabellen.Diener.Vorname[j], tabellen.Diener.Nachname[j]);
+                    mitglieder = true;
+                }
+        if (!mitglieder)
+            eintragen(*dienst.Vorname, *dienst.Nachname);
     }
 
     const Plantabellen &tabellen;

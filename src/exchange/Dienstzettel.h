@@ -31,9 +31,9 @@ struct Zettelwahl {
 };
 
 /// By name, as people refer to each other: who is server and helper, or stands in the lists twice,
-/// has one slip, and so has a name that stands only in the plan. Names are ordered as a directory
-/// does, an umlaut like its vowel; groups in the order of their table, servers without one after
-/// them, then the helpers.
+/// has one slip, and so has a name that stands only in the plan. A place that is kept for a group
+/// is on the slips of all its members. Names are ordered as a directory does, an umlaut like its
+/// vowel; groups in the order of their table, servers without one after them, then the helpers.
 std::vector<Dienstzettel> DienstzettelVon(const Plantabellen &tabellen, const Zettelwahl &wahl);
 
 /// "Altardienst, 28.11.2026 bis 27.12.2026".

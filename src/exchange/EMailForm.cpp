@@ -159,13 +159,13 @@ void EMailForm::Verbinden()
     for (QComboBox *wahl : {Gruppe, EineMesse})
         connect(wahl, &QComboBox::currentIndexChanged, this, Offen([this] { KreisGewählt(); }));
     for (QCheckBox *haken : {Diener, Helferinnen})
-        connect(haken, &QCheckBox::toggled, this, Offen([this] { EmpfängerZeigen(); }));
+        connect(haken, &QCheckBox::toggled, this, Offen([this] { AdressatenZeigen(); }));
     connect(MitPlan, &QCheckBox::toggled, this, Offen([this] { PlanZeigen(); }));
     connect(Namen, &QComboBox::currentIndexChanged, this, Offen([this] { PlanZeigen(); }));
     connect(Öffnen, &QPushButton::clicked, this, Offen([this] { MailÖffnen(); }));
     connect(AdressenKopieren, &QPushButton::clicked, this, Offen([this] {
-                InDieAblage(AlsAdresszeile(empfänger.Adressen),
-                            Adressenzahl(empfänger.Adressen.size()) + " in der Zwischenablage.");
+                InDieAblage(AlsAdresszeile(adressaten.Adressen),
+                            Adressenzahl(adressaten.Adressen.size()) + " in der Zwischenablage.");
             }));
     connect(TextKopieren, &QPushButton::clicked, this, Offen([this] {
                 InDieAblage(Brief().Inhalt, "Der Text liegt in der Zwischenablage.");
@@ -173,59 +173,59 @@ void EMailForm::Verbinden()
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
 }
 
-Empfängerwahl EMailForm::Wahl() const
+Adressatenwahl EMailForm::Wahl() const
 {
-    return {static_cast<Empfängerkreis>(An->currentIndex()), Gruppe->currentText().toStdString(),
+    return {static_cast<Adressatenkreis>(An->currentIndex()), Gruppe->currentText().toStdString(),
             EineMesse->currentIndex(), Diener->isChecked(), Helferinnen->isChecked()};
 }
 
 /// Groups are groups of servers.
 void EMailForm::KreisGewählt()
 {
-    const Empfängerkreis kreis = Wahl().Kreis;
-    Gruppe->setVisible(kreis == Empfängerkreis::Gruppe);
-    EineMesse->setVisible(kreis == Empfängerkreis::Messe);
+    const Adressatenkreis kreis = Wahl().Kreis;
+    Gruppe->setVisible(kreis == Adressatenkreis::Gruppe);
+    EineMesse->setVisible(kreis == Adressatenkreis::Messe);
     for (QCheckBox *haken : {Diener, Helferinnen})
-        haken->setEnabled(kreis != Empfängerkreis::Gruppe);
+        haken->setEnabled(kreis != Adressatenkreis::Gruppe);
     BetreffVorschlagen();
-    EmpfängerZeigen();
+    AdressatenZeigen();
     PlanZeigen();
 }
 
 void EMailForm::BetreffVorschlagen()
 {
     const bool getippt = Betreff->text() != vorschlag;
-    const Empfängerwahl wahl = Wahl();
-    vorschlag = Anzeige(wahl.Kreis == Empfängerkreis::Messe && wahl.Messe >= 0
+    const Adressatenwahl wahl = Wahl();
+    vorschlag = Anzeige(wahl.Kreis == Adressatenkreis::Messe && wahl.Messe >= 0
                             ? "Altardienst, " + MesseMitJahr(Messe, wahl.Messe)
                             : Zettelzeile(GemeinsameTabellen()));
     if (!getippt)
         Betreff->setText(vorschlag);
 }
 
-void EMailForm::EmpfängerZeigen()
+void EMailForm::AdressatenZeigen()
 {
-    Empfängerwahl wahl = Wahl();
-    if (wahl.Kreis == Empfängerkreis::Gruppe)
+    Adressatenwahl wahl = Wahl();
+    if (wahl.Kreis == Adressatenkreis::Gruppe)
         wahl.Diener = true;
-    empfänger = wahl.Kreis == Empfängerkreis::Messe && wahl.Messe < 0
-                    ? Empfänger()
-                    : EmpfängerSuchen(GemeinsameTabellen(), wahl);
-    const std::size_t fehlende = empfänger.Ohne.size() + empfänger.Unlesbar.size();
-    Setzen(Zahl, Adressenzahl(empfänger.Adressen.size()) +
+    adressaten = wahl.Kreis == Adressatenkreis::Messe && wahl.Messe < 0
+                     ? Adressaten()
+                     : AdressatenSuchen(GemeinsameTabellen(), wahl);
+    const std::size_t fehlende = adressaten.Ohne.size() + adressaten.Unlesbar.size();
+    Setzen(Zahl, Adressenzahl(adressaten.Adressen.size()) +
                      (fehlende == 0 ? Text() : "; nicht erreicht werden:"));
-    Fehlende->setPlainText(Anzeige(Abschnitt("ohne Adresse", empfänger.Ohne) +
-                                   Abschnitt("mit unlesbarer Adresse", empfänger.Unlesbar)));
+    Fehlende->setPlainText(Anzeige(Abschnitt("ohne Adresse", adressaten.Ohne) +
+                                   Abschnitt("mit unlesbarer Adresse", adressaten.Unlesbar)));
     Fehlende->setVisible(fehlende > 0);
     for (QPushButton *knopf : {Öffnen, AdressenKopieren})
-        knopf->setEnabled(!empfänger.Adressen.empty());
-    Setzen(Hinweis, empfänger.Adressen.empty() ? "Niemand davon hat eine E-Mail-Adresse." : "");
+        knopf->setEnabled(!adressaten.Adressen.empty());
+    Setzen(Hinweis, adressaten.Adressen.empty() ? "Niemand davon hat eine E-Mail-Adresse." : "");
 }
 
 void EMailForm::PlanZeigen()
 {
-    const Empfängerwahl wahl = Wahl();
-    const bool eine = wahl.Kreis == Empfängerkreis::Messe && wahl.Messe >= 0;
+    const Adressatenwahl wahl = Wahl();
+    const bool eine = wahl.Kreis == Adressatenkreis::Messe && wahl.Messe >= 0;
     Plantext->setPlainText(
         MitPlan->isChecked()
             ? Anzeige(PlanAlsBrieftext(GemeinsameTabellen(), GewählteNamenform(Namen),
@@ -241,7 +241,7 @@ Rundbrief EMailForm::Brief() const
     const Text plan = Plantext->toPlainText().toStdString();
     if (!inhalt.empty() && !plan.empty())
         inhalt += "\n\n";
-    return {empfänger.Adressen, Betreff->text().toStdString(), inhalt + plan};
+    return {adressaten.Adressen, Betreff->text().toStdString(), inhalt + plan};
 }
 
 void EMailForm::InDieAblage(const Text &text, const Text &hinweis)

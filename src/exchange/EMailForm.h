@@ -3,7 +3,7 @@
 #pragma once
 
 #include "application/Dialogfenster.h"
-#include "exchange/Empfänger.h"
+#include "exchange/Adressaten.h"
 #include "exchange/Rundbrief.h"
 
 #include <QCheckBox>
@@ -42,16 +42,16 @@ class EMailForm : public Dialogfenster {
     void Verbinden();
 
     void KreisGewählt();
-    void EmpfängerZeigen();
+    void AdressatenZeigen();
     void PlanZeigen();
     void BetreffVorschlagen();
     void MailÖffnen();
     void InDieAblage(const Text &text, const Text &hinweis);
 
-    Empfängerwahl Wahl() const;
+    Adressatenwahl Wahl() const;
     Rundbrief Brief() const;
 
-    Empfänger empfänger;
+    Adressaten adressaten;
     QString vorschlag; // of the subject; one that was typed stays
 };
 

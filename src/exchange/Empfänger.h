@@ -1,6 +1,7 @@
-// Who gets a mail, and at which addresses.
+// The people that something is made for, one by one: each name once, whatever tables it is in.
 #pragma once
 
+#include "exchange/Planauszug.h"
 #include "overview/Plantabellen.h"
 #include "values/Text.h"
 
@@ -8,26 +9,21 @@
 
 namespace altardienst {
 
-enum class Empfängerkreis { Alle, Gruppe, Messe };
-
-struct Empfängerwahl {
-    Empfängerkreis Kreis = Empfängerkreis::Alle;
-    Text Gruppe = {}; // helpers are in none
-    int Messe = 0; // whoever stands in one of its places; of a place kept for a group, its members
+/// Who gets something of his own.
+struct Personenkreis {
     bool Diener = true;
     bool Helfer = true;
+    Text Gruppe; // if not empty, of the servers only those of this group
 };
 
 struct Empfänger {
-    std::vector<Text> Adressen; // each once, in the order of the tables
-    std::vector<Text> Ohne;     // names without an address: "Adler, Anna"
-    std::vector<Text> Unlesbar; // names with what stands there: "Busch, Ben: ben(at)x"
+    Text Vorname, Nachname;
+    std::vector<Text> Gruppen; // he stands in the places that are kept for them
+
+    bool Hat(const Auszugsdienst &dienst) const;
 };
 
-/// A field may hold several addresses, separated by commas, semicolons or blanks.
-Empfänger EmpfängerSuchen(const Plantabellen &tabellen, const Empfängerwahl &wahl);
-
-/// Whether a mail program will take it: something, an "@", and a domain with a dot.
-bool IstAdresse(const Text &text);
+/// In the order of the tables, servers first; whoever has no name at all is left out.
+std::vector<Empfänger> EmpfängerAus(const Plantabellen &tabellen, const Personenkreis &kreis);
 
 } // namespace altardienst

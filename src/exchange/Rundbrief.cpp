@@ -1,8 +1,9 @@
 // A mail to many.
 #include "exchange/Rundbrief.h"
 
+#include "core/Plätze.h"
 #include "exchange/Messtermin.h"
-#include "overview/Platz.h"
+#include "exchange/Planauszug.h"
 
 namespace altardienst {
 namespace {
@@ -36,24 +37,21 @@ void Zeile(Text &text, const Text &dienst, const Text &namen)
         text += "  " + dienst + ": " + namen + "\n";
 }
 
-void MesseAnhängen(Text &text, const Plantabellen &tabellen, int messe, const Namengeber &namen)
+void MesseAnhängen(Text &text, const Plantabellen &tabellen, const Auszugsmesse &messe,
+                   const Namengeber &namen)
 {
-    const MesseTabelle &messen = tabellen.Messen;
-    text += MesseMitJahr(messen, messe) + "\n";
-    const auto dienst = [&](std::string_view name, Planplatz::Art was, int von, int bis) {
+    text += MesseMitJahr(tabellen.Messen, messe.Messe) + "\n";
+    const auto dienst = [&](std::string_view name) {
         Text alle;
-        for (int nr = von; nr <= bis; ++nr) {
-            const Planplatz platz{messe, was, nr};
-            const Platzname wer = NameAm(messen, platz);
-            if (IstGewünscht(messen, platz) && !wer.IstFrei() && DienstAm(messen, platz) == name)
-                alle += (alle.empty() ? "" : ", ") + namen.Von(wer.Vorname, wer.Nachname);
-        }
+        for (const Auszugsdienst &einer : messe.Dienste)
+            if (einer.Dienst == name)
+                alle += (alle.empty() ? "" : ", ") + namen.Von(*einer.Vorname, *einer.Nachname);
         Zeile(text, Text(name), alle);
     };
     for (const Dienstart &art : Dienstarten)
-        dienst(art.Name, Planplatz::Art::Diener, 1, MesseTabelle::HöchsterSlot);
+        dienst(art.Name);
     for (const Helferart &art : Helferarten)
-        dienst(art.Name, Planplatz::Art::Helfer, 0, static_cast<int>(Helferplätze.size()) - 1);
+        dienst(art.Name);
 }
 
 } // namespace
@@ -109,11 +107,9 @@ Text PlanAlsBrieftext(const Plantabellen &tabellen, Namenform form, std::optiona
 {
     const Namengeber namen(form, tabellen);
     Text text;
-    if (messe) {
-        MesseAnhängen(text, tabellen, *messe, namen);
-        return text;
-    }
-    for (const int eine : MessenNachZeit(tabellen.Messen, tabellen.Messenzahl())) {
+    for (const Auszugsmesse &eine : PlanAusziehen(tabellen)) {
+        if (messe && *messe != eine.Messe)
+            continue;
         if (!text.empty())
             text += "\n";
         MesseAnhängen(text, tabellen, eine, namen);

@@ -28,6 +28,8 @@ const std::map<Text, Text> &Fensterseiten()
 
         {"Dienstzettel", "weitergeben.md#dienstzettel"},
         {"EMail", "weitergeben.md#e-mail"},
+        {"Kalender", "weitergeben.md#kalender"},
+        {"Webseite", "weitergeben.md#webseite"},
 
         {"Meßdiener", "leute.md#messdiener"},
         {"NeuMeßdiener", "leute.md#neuer-messdiener"},

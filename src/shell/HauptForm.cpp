@@ -21,6 +21,8 @@
 #include "exchange/Aushang.h"
 #include "exchange/DienstzettelForm.h"
 #include "exchange/EMailForm.h"
+#include "exchange/KalenderForm.h"
+#include "exchange/WebseiteForm.h"
 #include "fairness/Archiv.h"
 #include "fairness/ArchivForm.h"
 #include "fairness/AusgleichForm.h"
@@ -468,6 +470,8 @@ void HauptForm::MenüWeitergeben(QMenu *überblick)
     QMenu *weitergeben = Menü(überblick, "mnuWeitergeben", "&Weitergeben");
     Eintrag(weitergeben, "mnuAushang", "A&ushang", AushangAbgeben);
     Eintrag(weitergeben, "mnuDienstzettel", "&Dienstzettel", DialogÖffnen<DienstzettelForm>);
+    Eintrag(weitergeben, "mnuKalender", "&Kalender", DialogÖffnen<KalenderForm>);
+    Eintrag(weitergeben, "mnuWebseite", "Web&seite", DialogÖffnen<WebseiteForm>);
     Eintrag(weitergeben, "mnuEMail", "&E-Mail", DialogÖffnen<EMailForm>);
 }
 

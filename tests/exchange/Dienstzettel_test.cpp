@@ -93,6 +93,20 @@ TEST_F(DienstzettelTest, GeordnetNachGruppen)
     EXPECT_EQ(zettel[3].Gruppe, "Helfer");
 }
 
+TEST_F(DienstzettelTest, DerPlatzEinerGruppeStehtBeiAllenDieZuIhrGehören)
+{
+    Gruppe.Anzahl = 2;
+    Gruppe.Bezeichnung[0] = "Große";
+    Gruppe.Bezeichnung[1] = "Leere";
+    Meßdiener.Gruppe[Dienend("Kim", "Adler", 1)] = "Große";
+    Meßdiener.Gruppe[MeßdienerAnlegen("Ben", "Busch")] = "Große";
+    const int i = VolleMesse(2);
+    Besetzen(Messe, Dienerplatznr(i, 1), "Gruppe", "Große");
+    Besetzen(Messe, Dienerplatznr(i, 2), "Gruppe", "Leere");
+    EXPECT_EQ(Namen({}), (Liste{"Kim Adler", "Ben Busch", "Gruppe Leere"}));
+    EXPECT_EQ(DienstzettelVon(GemeinsameTabellen(), {})[0].Dienste.size(), 2U);
+}
+
 TEST_F(DienstzettelTest, AlsText)
 {
     Meßdiener.Gruppe[Dienend("Kim", "Adler", 2)] = "Große";

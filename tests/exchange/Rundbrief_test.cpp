@@ -1,8 +1,8 @@
 // Who gets a mail, and the link that opens it.
 #include "exchange/Rundbrief.h"
 
+#include "exchange/Adressaten.h"
 #include "exchange/Aushangstand.h"
-#include "exchange/Empfänger.h"
 
 namespace altardienst {
 namespace {
@@ -19,9 +19,9 @@ class RundbriefTest : public Prüfstand {
         Meßdiener.Gruppe[j] = gruppe;
     }
 
-    static Empfänger Suchen(const Empfängerwahl &wahl)
+    static Adressaten Suchen(const Adressatenwahl &wahl)
     {
-        return EmpfängerSuchen(GemeinsameTabellen(), wahl);
+        return AdressatenSuchen(GemeinsameTabellen(), wahl);
     }
 };
 
@@ -42,7 +42,7 @@ TEST_F(RundbriefTest, WerKeineOderKeineLesbareHatWirdGenannt)
     Anlegen("Ben", "Busch", "ben(at)busch.de");
     Anlegen("Cem", "Cetin", "cem@cetin.de, hat noch keine");
     Anlegen("", "", "niemand@x.de");
-    const Empfänger gefunden = Suchen({});
+    const Adressaten gefunden = Suchen({});
     EXPECT_EQ(gefunden.Adressen, Liste{"cem@cetin.de"});
     EXPECT_EQ(gefunden.Ohne, Liste{"Adler, Anna"});
     EXPECT_EQ(gefunden.Unlesbar, (Liste{"Busch, Ben: ben(at)busch.de", "Cetin, Cem: hat",
@@ -54,9 +54,9 @@ TEST_F(RundbriefTest, EineGruppe)
     Anlegen("Anna", "Adler", "a@x.de", "Große");
     Anlegen("Ben", "Busch", "b@x.de", "Kleine");
     Helfer.EMail[HelferAnlegen("Maria", "Linde", "Lektor")] = "m@x.de";
-    EXPECT_EQ(Suchen({.Kreis = Empfängerkreis::Gruppe, .Gruppe = "Große"}).Adressen,
+    EXPECT_EQ(Suchen({.Kreis = Adressatenkreis::Gruppe, .Gruppe = "Große"}).Adressen,
               Liste{"a@x.de"});
-    EXPECT_TRUE(Suchen({.Kreis = Empfängerkreis::Gruppe, .Gruppe = ""}).Adressen.empty());
+    EXPECT_TRUE(Suchen({.Kreis = Adressatenkreis::Gruppe, .Gruppe = ""}).Adressen.empty());
 }
 
 TEST_F(RundbriefTest, WerInDerMesseDient)
@@ -76,7 +76,7 @@ TEST_F(RundbriefTest, WerInDerMesseDient)
     Leeren(Messe, Dienerplatznr(i, 4));
     Besetzen(Messe, Dienerplatznr(i, 5), "Cem", "Cetin"); // beyond the count
     Besetzen(Messe, Helferplatznr(i, 0), "Maria", "Linde");
-    Empfängerwahl wahl{.Kreis = Empfängerkreis::Messe, .Messe = i};
+    Adressatenwahl wahl{.Kreis = Adressatenkreis::Messe, .Messe = i};
     EXPECT_EQ(Suchen(wahl).Adressen, (Liste{"a@x.de", "b@x.de", "m@x.de"}));
     EXPECT_EQ(Suchen(wahl).Ohne, Liste{"Fremd, Fritz"});
     wahl.Diener = false;

@@ -110,6 +110,8 @@ TEST_F(HauptMenüTest, HatSeineEinträgeInIhrerFolge)
                           "  mnuWeitergeben | &Weitergeben",
                           "    mnuAushang | A&ushang",
                           "    mnuDienstzettel | &Dienstzettel",
+                          "    mnuKalender | &Kalender",
+                          "    mnuWebseite | Web&seite",
                           "    mnuEMail | &E-Mail",
                           "  mnuStände | &Frühere Stände",
                           "mnuHelp | &?",
@@ -153,6 +155,8 @@ TEST_F(HauptMenüTest, WasOhneDialogAuskommtIstWählbar)
                              "mnuAushang",
                              "mnuDienstzettel",
                              "mnuEMail",
+                             "mnuKalender",
+                             "mnuWebseite",
                              "mnuStände",
                              "mnuHelpAbout",
                              "DruckML"})
@@ -201,6 +205,8 @@ TEST_F(HauptMenüTest, JederEintragÖffnetSeineFormUndSperrtDasHauptfenster)
         {"mnuArchiv", "Archiv"},
         {"mnuDienstzettel", "Dienstzettel"},
         {"mnuEMail", "EMail"},
+        {"mnuKalender", "Kalender"},
+        {"mnuWebseite", "Webseite"},
         {"mnuStände", "Stände"},
     };
     MeßdienerAnlegen("Kim", "Adler"); // there are no figures about nobody
