@@ -9,11 +9,11 @@
 
 namespace altardienst {
 
-/// How texts measure, in lengths per point of type size; whatever the unit, that of the paper.
+/// How texts measure in one point of type size, in the unit of the paper.
 struct Satzmaße {
     std::function<double(const Text &, bool fett)> Breite;
-    double Zeile; // from one line to the next
-    double Geviert;
+    double Zeile;   // from one line to the next
+    double Geviert; // the type size itself
 };
 
 struct Satzplatz {
@@ -33,7 +33,7 @@ struct Satzform {
     int Blätter() const { return (static_cast<int>(Anfänge.size()) + Blöcke - 1) / Blöcke; }
 };
 
-/// The lengths of a form at its size.
+/// The widths in a block of a form, in the unit of the measures.
 struct Satzbreiten {
     double Tag = 0;
     double Uhrzeit = 0;
