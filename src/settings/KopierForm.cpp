@@ -137,7 +137,7 @@ void KopierForm::Anordnen()
 
     auto *spalte = Fensterspalte(this, Luft::Mittel);
     if (dialog.Anleitung) {
-        QLabel *anleitung = Beschriftung("Anleitung", Anzeige(dialog.Anleitung()));
+        QLabel *anleitung = Beschriftung("Anleitung", dialog.Anleitung().c_str());
         anleitung->setWordWrap(true);
         spalte->addWidget(anleitung);
     }
