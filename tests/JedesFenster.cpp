@@ -6,6 +6,8 @@
 #include "anniversaries/JubiGebuForm.h"
 #include "anniversaries/JubiläumsanzeigeForm.h"
 #include "application/Anwendung.h"
+#include "exchange/DienstzettelForm.h"
+#include "exchange/EMailForm.h"
 #include "exchange/KalenderForm.h"
 #include "exchange/WebseiteForm.h"
 #include "fairness/ArchivForm.h"
@@ -106,6 +108,8 @@ JedesFenster::JedesFenster()
         {"Ausgleich", Neu<AusgleichForm>()},
         {"Verteilung", Neu<VerteilungForm>()},
         {"Archiv", Neu<ArchivForm>()},
+        {"Dienstzettel", Neu<DienstzettelForm>()},
+        {"EMail", Neu<EMailForm>()},
         {"Kalender", Neu<KalenderForm>()},
         {"Webseite", Neu<WebseiteForm>()},
         {"Standardmessen", Neu<StandardmessenForm>()},

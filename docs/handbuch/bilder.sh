@@ -15,7 +15,7 @@ mkdir -p "$arbeit/bilder" "$arbeit/pfarrbuero/"{Bilder,Dokumente,Sicherung}
 export HOME=$arbeit/pfarrbuero
 env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --saat 1 \
     --schritte 1,4,5,6,2 \
-    --menue mnuStandardmessen,mnuGruppe,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern,mnuDatenHolen,mnuHintergrund,mnuHelpAbout,mnuMessen/NeuMeß,mnuMessen/Lektoren,mnuMeßdiener/NeuDiener,mnuFilePrint/Messendruck,mnuStände,mnuAusgleich,mnuVerteilung \
+    --menue mnuStandardmessen,mnuGruppe,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern,mnuDatenHolen,mnuHintergrund,mnuHelpAbout,mnuMessen/NeuMeß,mnuMessen/Lektoren,mnuMeßdiener/NeuDiener,mnuFilePrint/Messendruck,mnuStände,mnuAusgleich,mnuVerteilung,mnuDienstzettel,mnuEMail \
     --suche brückner \
     --bilder "$arbeit/bilder" >/dev/null 2>&1
 
@@ -41,6 +41,8 @@ bild Hintergrundsuche hintergrund
 bild frmAbout info
 bild Ausgleich ausgleich
 bild Verteilung verteilung
+bild Dienstzettel dienstzettel
+bild EMail email
 bild NeuMesse neuemesse
 bild Lektorrenusw lektoren
 bild NeuMeßdiener neuermessdiener

@@ -26,6 +26,8 @@ const std::map<Text, Text> &Fensterseiten()
         {"Verteilung", "gerechter-plan.md#verteilung"},
         {"Archiv", "gerechter-plan.md#das-archiv"},
 
+        {"Dienstzettel", "weitergeben.md#dienstzettel"},
+        {"EMail", "weitergeben.md#e-mail"},
         {"Kalender", "weitergeben.md#kalender"},
         {"Webseite", "weitergeben.md#webseite"},
 

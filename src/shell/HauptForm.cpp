@@ -18,6 +18,9 @@
 #include "core/Sortierbefehle.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
+#include "exchange/Aushang.h"
+#include "exchange/DienstzettelForm.h"
+#include "exchange/EMailForm.h"
 #include "exchange/KalenderForm.h"
 #include "exchange/WebseiteForm.h"
 #include "fairness/Archiv.h"
@@ -206,6 +209,14 @@ void ImArchivNachziehen(const Personenname &alt, const Personenname &neu, bool h
     if (const int dateien = ImArchivUmbenennen(alt, neu, helfer); dateien > 0)
         Mitteilen("alter Name noch im Archiv: " + ZahlText(dateien) +
                   (dateien == 1 ? " Datei ist" : " Dateien sind") + " nicht zu ändern");
+}
+
+/// What had to be done to get everything onto the sheet is told.
+void AushangAbgeben()
+{
+    VorDemPlandruck();
+    if (const Text was = AushangDrucken(); !was.empty())
+        Mitteilen(was);
 }
 
 /// A save to the diskette fails silently: nothing is said of one that does not hold all eight
@@ -458,8 +469,11 @@ void HauptForm::MenüÜberblick()
 void HauptForm::MenüWeitergeben(QMenu *überblick)
 {
     QMenu *weitergeben = Menü(überblick, "mnuWeitergeben", "&Weitergeben");
+    Eintrag(weitergeben, "mnuAushang", "A&ushang", AushangAbgeben);
+    Eintrag(weitergeben, "mnuDienstzettel", "&Dienstzettel", DialogÖffnen<DienstzettelForm>);
     Eintrag(weitergeben, "mnuKalender", "&Kalender", DialogÖffnen<KalenderForm>);
     Eintrag(weitergeben, "mnuWebseite", "Web&seite", DialogÖffnen<WebseiteForm>);
+    Eintrag(weitergeben, "mnuEMail", "&E-Mail", DialogÖffnen<EMailForm>);
 }
 
 void HauptForm::MenüHilfe()
