@@ -6,6 +6,7 @@
 #include "fairness/Archivzeilen.h"
 #include "overview/Namensregister.h"
 #include "overview/Platz.h"
+#include "platform/GanzSchreiben.h"
 #include "platform/Laufwerke.h"
 #include "values/Laufzeitfehler.h"
 
@@ -18,8 +19,6 @@ namespace altardienst {
 namespace {
 
 using std::filesystem::path;
-
-constexpr const char *InArbeit = "unfertig";
 
 path Ort(const Archivzeitraum &zeitraum)
 {
@@ -43,28 +42,12 @@ std::optional<Archivzeitraum> ZeitraumAus(const Text &name)
     return std::nullopt;
 }
 
-/// In place of what lies there under this name, whole or not at all. A directory of this name is
-/// failure 75.
-void GanzSchreiben(const path &ziel, std::string_view bytes)
+/// The directory of the archive is made with its first file; the program's own is not ours to make.
+void Ablegen(const Archivzeitraum &zeitraum, std::string_view bytes)
 {
-    const path daneben = ziel.parent_path() / InArbeit;
-    Laufwerke.Auflisten(Laufwerke.Programmverzeichnis()); // to make that is not our part
-    Laufwerke.VerzeichnisAnlegen(ziel.parent_path());
-    Laufwerke.Löschen(daneben);
-    try {
-        Laufwerke.Schreiben(daneben, bytes);
-        Laufwerke.Durchschreiben(daneben);
-        Laufwerke.Kopieren(daneben, ziel);
-        Laufwerke.Durchschreiben(ziel);
-    } catch (...) {
-        try {
-            Laufwerke.Löschen(daneben);
-        } catch (const Laufzeitfehler &) {
-            // The next time.
-        }
-        throw;
-    }
-    Laufwerke.Löschen(daneben);
+    Laufwerke.Auflisten(Laufwerke.Programmverzeichnis());
+    Laufwerke.VerzeichnisAnlegen(Archivverzeichnis());
+    GanzSchreiben(Ort(zeitraum), bytes);
 }
 
 Text JahrMonatTag(Datum datum)
@@ -149,7 +132,7 @@ bool PlanArchivieren(const Plantabellen &tabellen)
         zeitraum.Von = std::min(zeitraum.Von, tabellen.Messen.Datum[i]);
         zeitraum.Bis = std::max(zeitraum.Bis, tabellen.Messen.Datum[i]);
     }
-    GanzSchreiben(Ort(zeitraum), Archivdatei(dienste));
+    Ablegen(zeitraum, Archivdatei(dienste));
     return true;
 }
 
@@ -175,7 +158,7 @@ int ImArchivUmbenennen(const Personenname &alt, const Personenname &neu, bool he
                 datei += (dienst ? AlsArchivzeile(*dienst) : zeile) + "\r\n";
             }
             if (geändert)
-                GanzSchreiben(Ort(zeitraum), datei);
+                Ablegen(zeitraum, datei);
         } catch (const Laufzeitfehler &) {
             ++gescheitert;
         }

@@ -47,7 +47,8 @@ TEST_F(ArchivTest, EineDateiJeZeitraumDieEineTabelleÖffnet)
               "05.12.2026;10:00;Messe;Kim;Adler;Allgemein\r\n");
     EXPECT_EQ(ArchivierteZeiträume(), std::vector{Zeitraum});
     EXPECT_EQ(ArchivLesen(Zeitraum).Dienste, DiensteDesPlans(GemeinsameTabellen()));
-    EXPECT_FALSE(fs::exists(Festplatte / "Archiv" / "unfertig"));
+    EXPECT_EQ(Laufwerke.Auflisten(Festplatte / "Archiv").Dateien,
+              std::vector{Archivname(Zeitraum)});
 }
 
 TEST_F(ArchivTest, OhneNamenGibtEsNichtsAufzuheben)
@@ -131,7 +132,8 @@ TEST_F(ArchivTest, EinVerzeichnisAnSeinerStelleIstEinFehlerUndNichtsGehtVerloren
     fs::create_directories(Datei() / "etwas");
     EXPECT_NE(NummerDesFehlers([] { PlanArchivieren(); }), 0);
     EXPECT_TRUE(fs::exists(Datei() / "etwas"));
-    EXPECT_FALSE(fs::exists(Festplatte / "Archiv" / "unfertig"));
+    EXPECT_EQ(Laufwerke.Auflisten(Festplatte / "Archiv").Dateien,
+              std::vector{Archivname(Zeitraum)});
     fs::remove_all(Festplatte / "Archiv");
     DateiSchreiben(Festplatte / "Archiv", "kein Verzeichnis");
     EXPECT_NE(NummerDesFehlers([] { PlanArchivieren(); }), 0);
