@@ -11,6 +11,7 @@ void MessungenAnmelden()
     SortierenMessungen();
     PlanprüfungMessungen();
     StatistikMessungen();
+    TabellenMessungen();
     ZuweisungMessungen();
     RückgängigMessungen(); // last, since its messages are to be answered
 }

@@ -6,6 +6,8 @@
 #include "anniversaries/JubiGebuForm.h"
 #include "anniversaries/JubiläumsanzeigeForm.h"
 #include "application/Anwendung.h"
+#include "exchange/EinlesenForm.h"
+#include "exchange/TabellenForm.h"
 #include "fairness/ArchivForm.h"
 #include "fairness/AusgleichForm.h"
 #include "fairness/VerteilungForm.h"
@@ -104,6 +106,8 @@ JedesFenster::JedesFenster()
         {"Ausgleich", Neu<AusgleichForm>()},
         {"Verteilung", Neu<VerteilungForm>()},
         {"Archiv", Neu<ArchivForm>()},
+        {"Tabellen", Neu<TabellenForm>()},
+        {"Einlesen", Neu<EinlesenForm>()},
         {"Standardmessen", Neu<StandardmessenForm>()},
         {"Messenliste", Neu<MessenlisteForm>()},
         {"NeuMesse", [] { return new NeuMesseForm(*Darunter<MessenlisteForm>()); }},

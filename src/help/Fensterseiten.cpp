@@ -26,6 +26,9 @@ const std::map<Text, Text> &Fensterseiten()
         {"Verteilung", "gerechter-plan.md#verteilung"},
         {"Archiv", "gerechter-plan.md#das-archiv"},
 
+        {"Tabellen", "weitergeben.md#tabellen"},
+        {"Einlesen", "weitergeben.md#einlesen"},
+
         {"Meßdiener", "leute.md#messdiener"},
         {"NeuMeßdiener", "leute.md#neuer-messdiener"},
         {"Gruppe", "leute.md#gruppen"},

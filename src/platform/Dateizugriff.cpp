@@ -118,6 +118,15 @@ void Ausgeben(const fs::path &pfad, const char *art, std::string_view inhalt,
     Lebenszeichen();
 }
 
+/// Looked at before a file is opened: opening a pipe would wait for someone to write into it.
+void NurEineDatei(const fs::path &pfad)
+{
+    std::error_code unbekannt;
+    const fs::file_status art = fs::status(pfad, unbekannt);
+    if (fs::exists(art) && !fs::is_regular_file(art))
+        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
+}
+
 bool IstDatei(const fs::path &pfad)
 {
     std::error_code fehler;
@@ -129,11 +138,8 @@ bool IstDatei(const fs::path &pfad)
 std::string Lesen(const fs::path &wo)
 {
     const fs::path pfad = Systempfad(wo);
-    // Looked at before it is opened: opening a pipe would wait for someone to write into it.
+    NurEineDatei(pfad);
     std::error_code unbekannt;
-    const fs::file_status art = fs::status(pfad, unbekannt);
-    if (fs::exists(art) && !fs::is_regular_file(art))
-        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
     OffeneDatei datei = Öffnen(pfad, "rb");
     if (!datei)
         Gescheitert(errno, Laufzeitfehler::DateiNichtGefunden);
@@ -157,6 +163,17 @@ std::string Lesen(const fs::path &wo)
         if (inhalt.size() > GrößteDatei) // some files tell no size
             throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
     }
+}
+
+std::uintmax_t Größe(const fs::path &wo)
+{
+    const fs::path pfad = Systempfad(wo);
+    NurEineDatei(pfad);
+    std::error_code fehler;
+    const std::uintmax_t größe = fs::file_size(pfad, fehler);
+    if (fehler)
+        Gescheitert(fehler, Laufzeitfehler::DateiNichtGefunden);
+    return größe;
 }
 
 void Schreiben(const fs::path &pfad, std::string_view inhalt)

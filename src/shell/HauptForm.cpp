@@ -18,6 +18,8 @@
 #include "core/Sortierbefehle.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
+#include "exchange/EinlesenForm.h"
+#include "exchange/TabellenForm.h"
 #include "fairness/Archiv.h"
 #include "fairness/ArchivForm.h"
 #include "fairness/AusgleichForm.h"
@@ -448,6 +450,9 @@ void HauptForm::MenüÜberblick()
     Eintrag(überblick, "mnuAusgleich", "Plan &ausgleichen", DialogÖffnen<AusgleichForm>);
     Eintrag(überblick, "mnuVerteilung", "&Verteilung", DialogÖffnen<VerteilungForm>);
     Eintrag(überblick, "mnuArchiv", "Ar&chiv", DialogÖffnen<ArchivForm>);
+    QMenu *weitergeben = Menü(überblick, "mnuWeitergeben", "&Weitergeben");
+    Eintrag(weitergeben, "mnuTabellen", "&Tabellen", DialogÖffnen<TabellenForm>);
+    Eintrag(überblick, "mnuEinlesen", "&Einlesen", DialogÖffnen<EinlesenForm>);
     Eintrag(überblick, "mnuStände", "&Frühere Stände", DialogÖffnen<StändeForm>);
 }
 

@@ -107,6 +107,9 @@ TEST_F(HauptMenüTest, HatSeineEinträgeInIhrerFolge)
                           "  mnuAusgleich | Plan &ausgleichen",
                           "  mnuVerteilung | &Verteilung",
                           "  mnuArchiv | Ar&chiv",
+                          "  mnuWeitergeben | &Weitergeben",
+                          "    mnuTabellen | &Tabellen",
+                          "  mnuEinlesen | &Einlesen",
                           "  mnuStände | &Frühere Stände",
                           "mnuHelp | &?",
                           "  mnuHandbuch | &Handbuch",
@@ -146,6 +149,8 @@ TEST_F(HauptMenüTest, WasOhneDialogAuskommtIstWählbar)
                              "mnuAusgleich",
                              "mnuVerteilung",
                              "mnuArchiv",
+                             "mnuTabellen",
+                             "mnuEinlesen",
                              "mnuStände",
                              "mnuHelpAbout",
                              "DruckML"})
@@ -192,6 +197,8 @@ TEST_F(HauptMenüTest, JederEintragÖffnetSeineFormUndSperrtDasHauptfenster)
         {"mnuAusgleich", "Ausgleich"},
         {"mnuVerteilung", "Verteilung"},
         {"mnuArchiv", "Archiv"},
+        {"mnuTabellen", "Tabellen"},
+        {"mnuEinlesen", "Einlesen"},
         {"mnuStände", "Stände"},
     };
     MeßdienerAnlegen("Kim", "Adler"); // there are no figures about nobody

@@ -1,6 +1,7 @@
 // Drives the real windows without a screen: loads a directory, presses the buttons of the main
 // window, writes the plan and pictures, and exits by the exit routine.
 #include "application/Anwendung.h"
+#include "application/Dateiwahl.h"
 #include "application/Fangnetz.h"
 #include "application/Gemerktes.h"
 #include "controls/Bausteine.h"
@@ -90,6 +91,8 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
         "LISTE");
     const QCommandLineOption suche("suche", "look for this with \"Suchen\"", "TEXT");
     const QCommandLineOption text("text", "write the plan as text", "FILE");
+    const QCommandLineOption datei("datei", "the file that is chosen wherever one is to be chosen",
+                                   "FILE");
     const QCommandLineOption pdf("pdf", "print the plan to a PDF file", "FILE");
     const QCommandLineOption berichte(
         "berichte", "print every report of the form Druck, in each of its layouts, to PDF files",
@@ -97,8 +100,8 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption bilder("bilder", "save a picture of every window passed", "DIR");
     const QCommandLineOption antwort("antwort", "answer to every question", "ja|nein", "ja");
     zeile.addHelpOption();
-    zeile.addOptions({daten, heute, start, tage, saat, schritte, menü, suche, text, pdf, berichte,
-                      bilder, antwort});
+    zeile.addOptions({daten, heute, start, tage, saat, schritte, menü, suche, text, datei, pdf,
+                      berichte, bilder, antwort});
     zeile.process(*QCoreApplication::instance());
     const QStringList übrig = zeile.positionalArguments();
     if (!übrig.isEmpty()) // such as the rest of "1, 4, 5"
@@ -138,6 +141,9 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     auftrag.Bilder = zeile.value(bilder);
 
     Laufwerke.Programmverzeichnis = [verzeichnis = auftrag.Daten] { return verzeichnis; };
+    if (zeile.isSet(datei))
+        Dateiwahl.Öffnen = Dateiwahl.Speichern =
+            [pfad = Pfad(zeile.value(datei))](QWidget *, const Dateiwunsch &) { return pfad; };
     if (zeile.isSet(heute))
         Uhr.Heute = [tag = DatumVon(zeile, heute)] { return tag; };
     if (zeile.isSet(saat)) {
