@@ -65,6 +65,9 @@ TEST_F(TabellentextTest, FindetDasTrennzeichen)
     // Commas within fields are fewer than semicolons between them, and a title has neither.
     EXPECT_EQ(Gelesen("Unsere Leute\na;b;c\n1,5;2,5;3,5\n4;5;6").at(2),
               (std::vector<Text>{"1,5", "2,5", "3,5"}));
+    // A quote within a field is none.
+    EXPECT_EQ(Gelesen("5\" Rohr;a\n6\" Rohr;b, c, d").at(1),
+              (std::vector<Text>{"6\" Rohr", "b, c, d"}));
     EXPECT_EQ(Gelesen("\"a;b\",c\n\"d;e\",f"), (Zeilen{{"a;b", "c"}, {"d;e", "f"}}));
     EXPECT_EQ(Gelesen("sep=,\r\na;b,c\r\n"), (Zeilen{{"a;b", "c"}}));
     EXPECT_EQ(Gelesen("sep=x;y"), (Zeilen{{"sep=x", "y"}}));
