@@ -6,7 +6,7 @@ cd "$(dirname "$0")"
 . packaging/pakete.sh
 
 pakete_installieren "${PROGRAMM_PAKETE[@]}" libgtest-dev libbenchmark-dev poppler-utils \
-    clang-format-14 clang-tidy-14
+    python3-icalendar clang-format-14 clang-tidy-14
 
 tools/lint.sh
 

@@ -13,6 +13,7 @@ void MessungenAnmelden()
     StatistikMessungen();
     TabellenMessungen();
     ZuweisungMessungen();
+    WeitergebenMessungen();
     RückgängigMessungen(); // last, since its messages are to be answered
 }
 

@@ -9,6 +9,7 @@ void SortierenMessungen();
 void PlanprüfungMessungen();
 void StatistikMessungen();
 void TabellenMessungen();
+void WeitergebenMessungen();
 void ZuweisungMessungen();
 
 } // namespace altardienst

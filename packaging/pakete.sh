@@ -18,6 +18,6 @@ pakete_installieren() {
 }
 
 # What the program needs to be built and to run: compiler, Qt, the
-# charts, and the fonts of screen and paper.
-PROGRAMM_PAKETE=(g++ cmake ninja-build qt6-base-dev libqcustomplot-dev
+# charts, the calendars, and the fonts of screen and paper.
+PROGRAMM_PAKETE=(g++ cmake ninja-build qt6-base-dev libqcustomplot-dev libical-dev
     fonts-dejavu-core fonts-liberation2)

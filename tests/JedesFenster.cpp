@@ -7,7 +7,9 @@
 #include "anniversaries/JubiläumsanzeigeForm.h"
 #include "application/Anwendung.h"
 #include "exchange/EinlesenForm.h"
+#include "exchange/KalenderForm.h"
 #include "exchange/TabellenForm.h"
+#include "exchange/WebseiteForm.h"
 #include "fairness/ArchivForm.h"
 #include "fairness/AusgleichForm.h"
 #include "fairness/VerteilungForm.h"
@@ -106,6 +108,8 @@ JedesFenster::JedesFenster()
         {"Ausgleich", Neu<AusgleichForm>()},
         {"Verteilung", Neu<VerteilungForm>()},
         {"Archiv", Neu<ArchivForm>()},
+        {"Kalender", Neu<KalenderForm>()},
+        {"Webseite", Neu<WebseiteForm>()},
         {"Tabellen", Neu<TabellenForm>()},
         {"Einlesen", Neu<EinlesenForm>()},
         {"Standardmessen", Neu<StandardmessenForm>()},

@@ -79,6 +79,11 @@ bibliotheken() {
     sed -i 's/\bSHARED\b/STATIC/' "$WERKZEUG/quellen/qcustomplot/CMakeLists.txt"
     # shellcheck disable=SC2046 # two options
     bibliothek qcustomplot $(qt_kette) -DUSE_QT_VERSION=6
+    # Only what composes a calendar: no zones of its own, no bindings.
+    bibliothek libical3 -DCMAKE_TOOLCHAIN_FILE="$MINGW" -DSTATIC_ONLY=ON -DICAL_GLIB=OFF \
+        -DGOBJECT_INTROSPECTION=OFF -DICAL_GLIB_VAPI=OFF -DWITH_CXX_BINDINGS=OFF \
+        -DICAL_BUILD_DOCS=OFF -DLIBICAL_BUILD_TESTING=OFF -DUSE_BUILTIN_TZDATA=OFF \
+        -DCMAKE_DISABLE_FIND_PACKAGE_ICU=ON -DCMAKE_DISABLE_FIND_PACKAGE_BDB=ON
 }
 
 # The program, planlauf and, if asked for, their tests: programm_bauen VERZEICHNIS OPTIONEN...

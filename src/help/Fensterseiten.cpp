@@ -26,6 +26,9 @@ const std::map<Text, Text> &Fensterseiten()
         {"Verteilung", "gerechter-plan.md#verteilung"},
         {"Archiv", "gerechter-plan.md#das-archiv"},
 
+        {"Kalender", "weitergeben.md#kalender"},
+        {"Webseite", "weitergeben.md#webseite"},
+
         {"Tabellen", "weitergeben.md#tabellen"},
         {"Einlesen", "weitergeben.md#einlesen"},
 

@@ -177,8 +177,7 @@ void Messenprüfung::Prüfen(int messe, Befunde &befunde) const
         SlotPrüfen(blick, slot, befunde);
     for (int slot = blick.Plätze + 1; slot <= Slots; ++slot)
         if (!NameAm(tabellen.Messen, Dienerplatznr(messe, slot)).IstFrei())
-            befunde.push_back(
-                {Stufe::Hinweis, Regel::ÜberzähligerName, Dienerplatznr(messe, slot)});
+            Melden(befunde, {Stufe::Hinweis, Regel::ÜberzähligerName, Dienerplatznr(messe, slot)});
     HelferplätzePrüfen(messe, befunde);
 }
 
@@ -187,15 +186,15 @@ void Messenprüfung::MessePrüfen(const Messenblick &blick, Befunde &befunde) co
     const Planplatz messe = GanzeMesse(blick.Messe);
     const KonfigDatensatz &einstellungen = tabellen.Einstellungen;
     if (const int andere = zurSelbenZeit[static_cast<std::size_t>(blick.Messe)]; andere >= 0)
-        befunde.push_back({Stufe::Hinweis, Regel::GleicheZeit, messe, GanzeMesse(andere)});
+        Melden(befunde, {Stufe::Hinweis, Regel::GleicheZeit, messe, GanzeMesse(andere)});
     // Once is enough if the whole plan is for another period.
     if (einstellungen.StartDatum != 0 && !LiegtImZeitraum(einstellungen, blick.Tag) &&
         (!allesAußerhalb || blick.Messe == 0))
-        befunde.push_back({Stufe::Hinweis, Regel::AußerhalbZeitraum, messe, messe,
-                           allesAußerhalb ? plan.Messenzahl() : 1});
+        Melden(befunde, {Stufe::Hinweis, Regel::AußerhalbZeitraum, messe, messe,
+                         allesAußerhalb ? plan.Messenzahl() : 1});
     const int summe = Dienstsumme(tabellen.Messen, blick.Messe);
     if (summe != tabellen.Messen.Dienerzahl[blick.Messe])
-        befunde.push_back({Stufe::Hinweis, Regel::Dienstsumme, messe, messe, summe});
+        Melden(befunde, {Stufe::Hinweis, Regel::Dienstsumme, messe, messe, summe});
 }
 
 void Messenprüfung::SlotPrüfen(const Messenblick &blick, int slot, Befunde &befunde) const
@@ -205,28 +204,29 @@ void Messenprüfung::SlotPrüfen(const Messenblick &blick, int slot, Befunde &be
     const FesteSlots *fest = FesteDer(blick.Messe);
     const int eintrag = fest ? (*fest)[static_cast<std::size_t>(slot)] : -1;
     if (wer >= 0) {
-        FrühereDienstePrüfen(Planregister::StelleVon(platz), Stufe::Verstoß, befunde);
+        if (IstKurzNachDienst(Planregister::StelleVon(platz), blick.Tag))
+            FrüherenDienstMelden(Planregister::StelleVon(platz), Stufe::Verstoß, befunde);
         DienerPrüfen(blick, slot, befunde);
         if (plan.LetztesPaar(wer) == Planregister::StelleVon(platz))
             HäufigkeitPrüfen(platz, wer, befunde);
     } else if (wer != Namensregister::Frei) {
         NamenlosenPrüfen(platz, wer, befunde);
     } else if (eintrag < 0) {
-        befunde.push_back(
-            {IstSlotVonHand(blick, slot) ? Stufe::Hinweis : Stufe::Verstoß, Regel::Frei, platz});
+        Melden(befunde,
+               {IstSlotVonHand(blick, slot) ? Stufe::Hinweis : Stufe::Verstoß, Regel::Frei, platz});
     }
     if (eintrag >= 0 && !IstFestErfüllt(eintrag, slot, wer, NameAm(tabellen.Messen, platz)))
-        befunde.push_back({Stufe::Verstoß, Regel::FesterEintrag, platz, {}, eintrag});
+        Melden(befunde, {Stufe::Verstoß, Regel::FesterEintrag, platz, {}, eintrag});
 }
 
 /// A name that is not exactly one record's.
 void Messenprüfung::NamenlosenPrüfen(Planplatz platz, int wer, Befunde &befunde) const
 {
     if (wer == Namensregister::Mehrdeutig)
-        befunde.push_back({Stufe::Hinweis, Regel::Mehrdeutig, platz});
+        Melden(befunde, {Stufe::Hinweis, Regel::Mehrdeutig, platz});
     else if (platz.Was != Planplatz::Art::Diener ||
              !IstGruppe(tabellen.Gruppen, NameAm(tabellen.Messen, platz)))
-        befunde.push_back({Stufe::Verstoß, Regel::Unbekannt, platz});
+        Melden(befunde, {Stufe::Verstoß, Regel::Unbekannt, platz});
 }
 
 /// Said once, where the server stands beside his wish partner last.
@@ -234,7 +234,7 @@ void Messenprüfung::HäufigkeitPrüfen(Planplatz platz, int nr, Befunde &befund
 {
     const int paare = plan.Paare(nr);
     if (SindZuVielePaare(platz, nr, paare - 1))
-        befunde.push_back({Stufe::Hinweis, Regel::Häufigkeit, platz, {}, paare});
+        Melden(befunde, {Stufe::Hinweis, Regel::Häufigkeit, platz, {}, paare});
 }
 
 /// Whether the draw would refuse a server who has been in so many pairs.

@@ -77,6 +77,12 @@ class Messenprüfung {
     using Befunde = std::vector<Befund>;
     using FesteSlots = std::array<int, Slots + 1>; // entry by slot, -1 none
 
+    /// Kept out of the checks, where it would take the room of what runs for each place.
+    [[gnu::noinline]] static void Melden(Befunde &befunde, const Befund &befund)
+    {
+        befunde.push_back(befund);
+    }
+
     void DienerLesen();
     void HelferLesen();
     void FesteLesen();
@@ -88,7 +94,14 @@ class Messenprüfung {
     void MessePrüfen(const Messenblick &blick, Befunde &befunde) const;
     void SlotPrüfen(const Messenblick &blick, int slot, Befunde &befunde) const;
     void NamenlosenPrüfen(Planplatz platz, int wer, Befunde &befunde) const;
-    void FrühereDienstePrüfen(Stelle stelle, Stufe nachbarn, Befunde &befunde) const;
+    /// Whether a service of the same person comes so shortly before this one that it blocks it.
+    bool IstKurzNachDienst(Stelle stelle, Datum tag) const
+    {
+        const Stelle vorige = plan.Davor(stelle);
+        return vorige != Planregister::Keine &&
+               IstGesperrt(plan.Tag(Planregister::MesseVon(vorige)), tag);
+    }
+    void FrüherenDienstMelden(Stelle stelle, Stufe nachbarn, Befunde &befunde) const;
     void AndereDienstePrüfen(Planplatz platz, int person, Stufe nachbarn, Befunde &befunde) const;
     void DienerPrüfen(const Messenblick &blick, int slot, Befunde &befunde) const;
     static bool IstFalscheGröße(const Dienerperson &person, const Dienerplatz &platz, Int16 bezug);

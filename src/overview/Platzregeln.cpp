@@ -7,22 +7,18 @@
 
 namespace altardienst {
 /// Somebody's service before this one: in the same mass, on the same or on the previous day.
-void Messenprüfung::FrühereDienstePrüfen(Stelle stelle, Stufe nachbarn, Befunde &befunde) const
+void Messenprüfung::FrüherenDienstMelden(Stelle stelle, Stufe nachbarn, Befunde &befunde) const
 {
     const Stelle vorige = plan.Davor(stelle);
-    if (vorige == Planregister::Keine)
-        return;
     const Datum zuletzt = plan.Tag(Planregister::MesseVon(vorige));
     const Datum tag = plan.Tag(Planregister::MesseVon(stelle));
-    if (!IstGesperrt(zuletzt, tag))
-        return;
     const Planplatz platz = Planregister::PlatzVon(stelle);
     const Planplatz bezug = Planregister::PlatzVon(vorige);
     if (bezug.Messe == platz.Messe) // that place is asked for the days before
-        befunde.push_back({Stufe::Verstoß, Regel::Doppelt, platz, bezug});
+        Melden(befunde, {Stufe::Verstoß, Regel::Doppelt, platz, bezug});
     else
-        befunde.push_back(
-            {nachbarn, zuletzt == tag ? Regel::SelberTag : Regel::Nachbartag, platz, bezug});
+        Melden(befunde,
+               {nachbarn, zuletzt == tag ? Regel::SelberTag : Regel::Nachbartag, platz, bezug});
 }
 
 /// The same when somebody might come to stand here: all other services count, also those after it.
@@ -49,8 +45,8 @@ void Messenprüfung::AndereDienstePrüfen(Planplatz platz, int person, Stufe nac
                                    Regel::Nachbartag};
     for (std::size_t lage = 0; lage < gefunden.size(); ++lage)
         if (gefunden[lage])
-            befunde.push_back({lage == InDerMesse ? Stufe::Verstoß : nachbarn, Regeln[lage], platz,
-                               *gefunden[lage]});
+            Melden(befunde, {lage == InDerMesse ? Stufe::Verstoß : nachbarn, Regeln[lage], platz,
+                             *gefunden[lage]});
 }
 
 void Messenprüfung::DienerPrüfen(const Messenblick &blick, int slot, Befunde &befunde) const
@@ -63,17 +59,17 @@ void Messenprüfung::DienerPrüfen(const Messenblick &blick, int slot, Befunde &
     const std::optional<Int16> bezug =
         blick.Bezugsgröße[static_cast<std::size_t>(std::min(slot, 4))];
     if (bezug && IstFalscheGröße(person, stelle, *bezug))
-        befunde.push_back({Stufe::Hinweis, Regel::Größe, platz, {}, *bezug});
+        Melden(befunde, {Stufe::Hinweis, Regel::Größe, platz, {}, *bezug});
     if (!kenntnis.Darf[static_cast<std::size_t>(&blick.Dienst(slot) - Dienstarten.data())])
-        befunde.push_back({Stufe::Verstoß, Regel::Qualifikation, platz});
+        Melden(befunde, {Stufe::Verstoß, Regel::Qualifikation, platz});
     if (kenntnis.IstAbwesend(blick.Tag))
-        befunde.push_back({Stufe::Verstoß, Regel::Abwesend, platz});
+        Melden(befunde, {Stufe::Verstoß, Regel::Abwesend, platz});
     if (const std::optional<Stufe> grad = GeschlechtGrad(blick, slot))
-        befunde.push_back({*grad, Regel::Geschlecht, platz, Dienerplatznr(blick.Messe, slot - 1)});
+        Melden(befunde, {*grad, Regel::Geschlecht, platz, Dienerplatznr(blick.Messe, slot - 1)});
     if (blick.IstWochendienst && kenntnis.Ungern[1])
-        befunde.push_back({Stufe::Verstoß, Regel::Wochendienst, platz});
+        Melden(befunde, {Stufe::Verstoß, Regel::Wochendienst, platz});
     if (blick.Wunschstelle != 0 && kenntnis.Ungern[static_cast<std::size_t>(blick.Wunschstelle)])
-        befunde.push_back({Stufe::Verstoß, Regel::Wochentag, platz});
+        Melden(befunde, {Stufe::Verstoß, Regel::Wochentag, platz});
     PartnerPrüfen(blick, slot, befunde);
 }
 
@@ -124,10 +120,10 @@ void Messenprüfung::PartnerPrüfen(const Messenblick &blick, int slot, Befunde 
     const Planplatz platz = Dienerplatznr(blick.Messe, slot);
     const auto dort = std::ranges::find(blick.Wer, partner);
     if (dort != blick.Wer.end())
-        befunde.push_back({Stufe::Hinweis, Regel::Wunschpartner, platz,
-                           Dienerplatznr(blick.Messe, static_cast<int>(dort - blick.Wer.begin()))});
+        Melden(befunde, {Stufe::Hinweis, Regel::Wunschpartner, platz,
+                         Dienerplatznr(blick.Messe, static_cast<int>(dort - blick.Wer.begin()))});
     else if (!diener[static_cast<std::size_t>(partner)].IstAbwesend(blick.Tag))
-        befunde.push_back({Stufe::Hinweis, Regel::Wunschpartner, platz, platz});
+        Melden(befunde, {Stufe::Hinweis, Regel::Wunschpartner, platz, platz});
 }
 
 void Messenprüfung::HelferplätzePrüfen(int messe, Befunde &befunde) const
@@ -140,12 +136,13 @@ void Messenprüfung::HelferplätzePrüfen(int messe, Befunde &befunde) const
         const Stelle stelle = Planregister::StelleVon(platz);
         const int wer = plan.Wer(stelle);
         if (wer >= 0) {
-            FrühereDienstePrüfen(stelle, Stufe::Hinweis, befunde);
+            if (IstKurzNachDienst(stelle, plan.Tag(messe)))
+                FrüherenDienstMelden(stelle, Stufe::Hinweis, befunde);
             HelferPrüfen(platz, wer - Planregister::ErsterHelfer, befunde);
         } else if (wer != Namensregister::Frei) {
             NamenlosenPrüfen(platz, wer, befunde);
         } else {
-            befunde.push_back({Stufe::Verstoß, Regel::Frei, platz});
+            Melden(befunde, {Stufe::Verstoß, Regel::Frei, platz});
         }
     }
 }
@@ -157,11 +154,10 @@ void Messenprüfung::HelferPrüfen(Planplatz platz, int nr, Befunde &befunde) co
     const Helferkenntnis &kenntnis = helfer[static_cast<std::size_t>(nr)];
     const std::size_t art = NummerDer(Helferplätze[static_cast<std::size_t>(platz.Nr)].Art);
     if (kenntnis.IstAbwesend(plan.Tag(platz.Messe)))
-        befunde.push_back({Stufe::Verstoß, Regel::Abwesend, platz});
+        Melden(befunde, {Stufe::Verstoß, Regel::Abwesend, platz});
     if (kenntnis.Gegen[art] != Grund::Keiner || !kenntnis.Hat[art])
-        befunde.push_back(
-            {kenntnis.Gegen[art] == Grund::OhneDienst ? Stufe::Verstoß : Stufe::Hinweis,
-             Regel::Helferdienst, platz});
+        Melden(befunde, {kenntnis.Gegen[art] == Grund::OhneDienst ? Stufe::Verstoß : Stufe::Hinweis,
+                         Regel::Helferdienst, platz});
 }
 
 void Messenprüfung::GegenPersonPrüfen(Planplatz platz, int nr, Befunde &befunde) const
@@ -189,16 +185,16 @@ void Messenprüfung::DienergründePrüfen(Planplatz platz, int nr, Befunde &befu
     // The draw keeps the last place for somebody without a partner, even if the partner is away.
     if (!partnerGemeldet && platz.Nr == dann.Plätze && HatWunschpartner(tabellen.Diener, nr) &&
         dann.Am(platz.Nr - 1) != plan.Partner(nr))
-        befunde.push_back({Stufe::Hinweis, Regel::Wunschpartner, platz, GanzeMesse(platz.Messe)});
+        Melden(befunde, {Stufe::Hinweis, Regel::Wunschpartner, platz, GanzeMesse(platz.Messe)});
     const int paare = plan.Paare(nr);
     if (SindZuVielePaare(platz, nr, paare))
-        befunde.push_back({Stufe::Hinweis, Regel::Häufigkeit, platz, {}, paare});
+        Melden(befunde, {Stufe::Hinweis, Regel::Häufigkeit, platz, {}, paare});
     const FesteSlots *fest = FesteDer(platz.Messe);
     const int eintrag = fest ? (*fest)[static_cast<std::size_t>(platz.Nr)] : -1;
     if (eintrag >= 0 && platz.Nr <= dann.Plätze &&
         !IstFestErfüllt(eintrag, platz.Nr, nr,
                         {tabellen.Diener.Vorname[nr], tabellen.Diener.Nachname[nr]}))
-        befunde.push_back({Stufe::Verstoß, Regel::FesterEintrag, platz, {}, eintrag});
+        Melden(befunde, {Stufe::Verstoß, Regel::FesterEintrag, platz, {}, eintrag});
     GeschlechterDanachPrüfen(jetzt, dann, platz.Nr, befunde);
 }
 
@@ -214,10 +210,10 @@ void Messenprüfung::GeschlechterDanachPrüfen(const Messenblick &jetzt, const M
     const Planplatz platz = Dienerplatznr(dann.Messe, slot);
     const Planplatz bezug = Dienerplatznr(dann.Messe, geschlossen);
     if (slot % 2 == 1)
-        befunde.push_back({Stufe::Verstoß, Regel::Geschlecht, platz, bezug});
+        Melden(befunde, {Stufe::Verstoß, Regel::Geschlecht, platz, bezug});
     else
-        befunde.push_back(
-            {Stufe::Verstoß, Regel::Geschlecht, bezug, Dienerplatznr(dann.Messe, geschlossen - 1)});
+        Melden(befunde, {Stufe::Verstoß, Regel::Geschlecht, bezug,
+                         Dienerplatznr(dann.Messe, geschlossen - 1)});
 }
 
 } // namespace altardienst

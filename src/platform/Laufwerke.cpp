@@ -131,7 +131,7 @@ std::vector<Wurzel> Wurzeln()
     wurzeln.push_back({"Dateisystem", "/"});
 #endif
     if (const fs::path daten = MitgelieferteDaten(OrtDesProgramms()); !daten.empty())
-        wurzeln.push_back({"Mitgelieferte Daten", daten});
+        wurzeln.push_back({MitgelieferteDatenName, daten});
     return wurzeln;
 }
 

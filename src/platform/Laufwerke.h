@@ -88,6 +88,9 @@ std::vector<Wurzel> EingehängteDatenträger(std::string_view tabelle);
 /// none.
 std::filesystem::path MitgelieferteDaten(const std::filesystem::path &ort);
 
+/// What the root that leads to them is called.
+constexpr const char *MitgelieferteDatenName = "Mitgelieferte Daten";
+
 /// The machine's own file system. Except on Windows, the program's directory is $ALTARDIENST_DATEN
 /// or ~/.local/share/Altardienst, the diskette $ALTARDIENST_DISKETTE or /media/floppy.
 LaufwerkeDienst Systemlaufwerke();

@@ -15,6 +15,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace altardienst {
@@ -35,9 +36,17 @@ void Neuladen()
 
 constexpr const char *Holen = "Datendateien kopieren";
 
-constexpr const char *ErsterStart =
-    "Wählen Sie das Laufwerk „Mitgelieferte Daten“ und öffnen Sie mit Doppelklick „leer“ für eine "
-    "neue Gemeinde, „beispiel“ zum Ausprobieren; oder öffnen Sie das Verzeichnis Ihrer Sicherung.";
+/// The data of the program are offered only where they are installed.
+Text ErsterStart()
+{
+    const std::vector<Wurzel> wurzeln = Laufwerke.Wurzeln();
+    if (std::ranges::find(wurzeln, MitgelieferteDatenName, &Wurzel::Name) == wurzeln.end())
+        return "Wählen Sie das Laufwerk und das Verzeichnis, in dem Ihre acht Dateien oder Ihre "
+               "Sicherung liegen.";
+    return "Wählen Sie das Laufwerk „" + Text(MitgelieferteDatenName) +
+           "“ und öffnen Sie mit Doppelklick „leer“ für eine neue Gemeinde, „beispiel“ zum "
+           "Ausprobieren; oder öffnen Sie das Verzeichnis Ihrer Sicherung.";
+}
 
 const Kopierdialog Datensicherung{"Datensicherung", "Daten sichern", true, [] {}};
 const Kopierdialog Dateikopie{"Dateikopie", Holen, false, VonFestplatteLaden};
@@ -128,7 +137,7 @@ void KopierForm::Anordnen()
 
     auto *spalte = Fensterspalte(this, Luft::Mittel);
     if (dialog.Anleitung) {
-        QLabel *anleitung = Beschriftung("Anleitung", dialog.Anleitung);
+        QLabel *anleitung = Beschriftung("Anleitung", dialog.Anleitung().c_str());
         anleitung->setWordWrap(true);
         spalte->addWidget(anleitung);
     }

@@ -23,7 +23,7 @@ struct Kopierdialog {
     const char *Titel;
     bool Hinaus;         // from the program's directory to the one picked, or the reverse
     void (*NachKopie)(); // after the copy, before the form goes
-    const char *Anleitung = nullptr; // for who sees the dialog before any other
+    Text (*Anleitung)() = nullptr; // for who sees the dialog before any other
 };
 
 /// OK is visible only while the source directory holds all eight files; if not, a line beside the

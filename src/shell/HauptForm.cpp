@@ -19,7 +19,9 @@
 #include "core/Umwandlung.h"
 #include "core/tables.h"
 #include "exchange/EinlesenForm.h"
+#include "exchange/KalenderForm.h"
 #include "exchange/TabellenForm.h"
+#include "exchange/WebseiteForm.h"
 #include "fairness/Archiv.h"
 #include "fairness/ArchivForm.h"
 #include "fairness/AusgleichForm.h"
@@ -450,10 +452,17 @@ void HauptForm::MenüÜberblick()
     Eintrag(überblick, "mnuAusgleich", "Plan &ausgleichen", DialogÖffnen<AusgleichForm>);
     Eintrag(überblick, "mnuVerteilung", "&Verteilung", DialogÖffnen<VerteilungForm>);
     Eintrag(überblick, "mnuArchiv", "Ar&chiv", DialogÖffnen<ArchivForm>);
-    QMenu *weitergeben = Menü(überblick, "mnuWeitergeben", "&Weitergeben");
-    Eintrag(weitergeben, "mnuTabellen", "&Tabellen", DialogÖffnen<TabellenForm>);
+    MenüWeitergeben(überblick);
     Eintrag(überblick, "mnuEinlesen", "&Einlesen", DialogÖffnen<EinlesenForm>);
     Eintrag(überblick, "mnuStände", "&Frühere Stände", DialogÖffnen<StändeForm>);
+}
+
+void HauptForm::MenüWeitergeben(QMenu *überblick)
+{
+    QMenu *weitergeben = Menü(überblick, "mnuWeitergeben", "&Weitergeben");
+    Eintrag(weitergeben, "mnuKalender", "&Kalender", DialogÖffnen<KalenderForm>);
+    Eintrag(weitergeben, "mnuWebseite", "Web&seite", DialogÖffnen<WebseiteForm>);
+    Eintrag(weitergeben, "mnuTabellen", "&Tabellen", DialogÖffnen<TabellenForm>);
 }
 
 void HauptForm::MenüHilfe()

@@ -56,6 +56,7 @@ class HauptForm : public QMainWindow {
     void MenüSortieren();
     void MenüZusatz();
     void MenüÜberblick();
+    static void MenüWeitergeben(QMenu *überblick);
     void MenüHilfe();
 
     void Takt();

@@ -191,6 +191,21 @@ TEST_F(PlanlaufTest, DerTextErsetztEineAlteDateiUndHeißtWieVerlangt)
     }
 }
 
+TEST_F(PlanlaufTest, DerPlanAlsKalenderUndWebseite)
+{
+    fs::create_directories(Festplatte / "personen");
+    const Ergebnis ergebnis =
+        Lauf({"1", "4", "5"}, {"--kalender", Datei("plan.ics"), "--kalender-je-person",
+                               Datei("personen"), "--webseite", Datei("plan.html")});
+    EXPECT_EQ(ergebnis.Wert, 0) << ergebnis.Fehler;
+    EXPECT_NE(ergebnis.Ausgabe.find("Kalender geschrieben: " + TextVon(Festplatte / "plan.ics")),
+              Text::npos);
+    EXPECT_TRUE(DateiLesen(Festplatte / "plan.ics").starts_with("BEGIN:VCALENDAR\r\n"));
+    EXPECT_TRUE(DateiLesen(Festplatte / "plan.html").starts_with("<!DOCTYPE html>\n"));
+    EXPECT_GT(std::distance(fs::directory_iterator(Festplatte / "personen"), {}), 10);
+    EXPECT_EQ(Lauf({"1"}, {"--webseite", Datei("fehlt/plan.html")}).Wert, 1);
+}
+
 TEST_F(PlanlaufTest, BilderZeigenJedesFenster)
 {
     fs::create_directories(Festplatte / "bilder");

@@ -173,6 +173,11 @@ TEST_F(KopierFormWegeTest, NurBeimErstenStartSagtEinSatzWasZuWählenIst)
     Öffnen<DateikopieForm>();
     EXPECT_EQ(form->findChild<QLabel *>("Anleitung"), nullptr);
     form->close();
+    Laufwerke.Wurzeln = [wurzeln = Laufwerke.Wurzeln] {
+        std::vector<Wurzel> mit = wurzeln();
+        mit.push_back({MitgelieferteDatenName, mit.front().Pfad});
+        return mit;
+    };
     ProgrammStarten();
     form = static_cast<KopierForm *>(Fenster("DateienKopieren"));
     Zeigen(form);
@@ -184,6 +189,14 @@ TEST_F(KopierFormWegeTest, NurBeimErstenStartSagtEinSatzWasZuWählenIst)
     EXPECT_LE(form->height(), KleinsterBildschirm.height());
     EXPECT_LE(form->minimumSizeHint().height(), KleinsterBildschirm.height());
     EXPECT_LE(form->minimumSizeHint().width(), KleinsterBildschirm.width());
+}
+
+TEST_F(KopierFormWegeTest, WasNichtMitgeliefertIstNenntDerSatzNicht)
+{
+    ProgrammStarten();
+    form = static_cast<KopierForm *>(Fenster("DateienKopieren"));
+    EXPECT_EQ(Zeigt("Anleitung"), "Wählen Sie das Laufwerk und das Verzeichnis, in dem Ihre acht "
+                                  "Dateien oder Ihre Sicherung liegen.");
 }
 
 TEST_F(KopierFormWegeTest, LangeWegeWerdenInDerMitteGekürzt)

@@ -50,7 +50,7 @@ class HauptDialogeTest : public Hauptstand {
     {
         std::vector<Weg> wege;
         Einträge(haupt->menuBar(), wege);
-        EXPECT_EQ(wege.size(), 52U);
+        EXPECT_EQ(wege.size(), 54U);
         for (QPushButton *knopf :
              {haupt->Messenorgani, haupt->Meßdienernern, haupt->Dienstus, haupt->MeßdienerMessen,
               haupt->Helfend, haupt->AnzMesse, haupt->Messendruck})
@@ -148,7 +148,7 @@ class HauptDialogeTest : public Hauptstand {
                                    "Datensicherung", "frmAbout",      "NeuMesseDienerFest",
                                    "ZusatzKonfig",   "Skalierung",    "Handbuch",
                                    "Stände",         "Ausgleich",     "Verteilung",
-                                   "Archiv"};
+                                   "Archiv",         "Kalender",      "Webseite"};
         namen.insert(namen.end(), dazu.begin(), dazu.end());
         std::sort(namen.begin(), namen.end());
         return namen;

@@ -7,6 +7,8 @@
 #include "controls/Bausteine.h"
 #include "core/Messenname.h"
 #include "core/Umwandlung.h"
+#include "exchange/KalenderForm.h"
+#include "exchange/WebseiteForm.h"
 #include "fairness/Ausgleich.h"
 #include "fairness/AusgleichForm.h"
 #include "overview/Planprüfung.h"
@@ -53,6 +55,9 @@ struct Auftrag {
     QStringList Einträge;
     QString Suche;
     std::filesystem::path Text;
+    std::filesystem::path Kalender;
+    std::filesystem::path KalenderJePerson;
+    std::filesystem::path Webseite;
     QString Pdf;
     QString Berichte;
     QString Bilder;
@@ -93,6 +98,10 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption text("text", "write the plan as text", "FILE");
     const QCommandLineOption datei("datei", "the file that is chosen wherever one is to be chosen",
                                    "FILE");
+    const QCommandLineOption kalender("kalender", "write all masses as a calendar", "FILE");
+    const QCommandLineOption jePerson("kalender-je-person", "write a calendar for each person",
+                                      "DIR");
+    const QCommandLineOption webseite("webseite", "write the plan as a web page", "FILE");
     const QCommandLineOption pdf("pdf", "print the plan to a PDF file", "FILE");
     const QCommandLineOption berichte(
         "berichte", "print every report of the form Druck, in each of its layouts, to PDF files",
@@ -100,8 +109,8 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption bilder("bilder", "save a picture of every window passed", "DIR");
     const QCommandLineOption antwort("antwort", "answer to every question", "ja|nein", "ja");
     zeile.addHelpOption();
-    zeile.addOptions({daten, heute, start, tage, saat, schritte, menü, suche, text, datei, pdf,
-                      berichte, bilder, antwort});
+    zeile.addOptions({daten, heute, start, tage, saat, schritte, menü, suche, text, datei, kalender,
+                      jePerson, webseite, pdf, berichte, bilder, antwort});
     zeile.process(*QCoreApplication::instance());
     const QStringList übrig = zeile.positionalArguments();
     if (!übrig.isEmpty()) // such as the rest of "1, 4, 5"
@@ -136,6 +145,9 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     auftrag.Einträge = zeile.value(menü).split(',', Qt::SkipEmptyParts);
     auftrag.Suche = zeile.value(suche);
     auftrag.Text = Pfad(zeile.value(text));
+    auftrag.Kalender = Pfad(zeile.value(kalender));
+    auftrag.KalenderJePerson = Pfad(zeile.value(jePerson));
+    auftrag.Webseite = Pfad(zeile.value(webseite));
     auftrag.Pdf = zeile.value(pdf);
     auftrag.Berichte = zeile.value(berichte);
     auftrag.Bilder = zeile.value(bilder);
@@ -295,6 +307,19 @@ class Lauf {
             std::filesystem::rename(PfadAus(TextVon(auftrag.Text) + ".txt"), auftrag.Text);
     }
 
+    void Weitergeben()
+    {
+        if (!auftrag.Kalender.empty())
+            Ausgeben<KalenderForm>("mnuKalender", auftrag.Kalender, [](KalenderForm *) {});
+        if (!auftrag.KalenderJePerson.empty())
+            Ausgeben<KalenderForm>("mnuKalender", auftrag.KalenderJePerson,
+                                   [](KalenderForm *form) { form->JePerson->click(); });
+        if (!auftrag.Webseite.empty())
+            Ausgeben<WebseiteForm>("mnuWebseite", auftrag.Webseite, [](WebseiteForm *form) {
+                form->DanachÖffnen->setChecked(false);
+            });
+    }
+
     void Drucken()
     {
         if (!auftrag.Pdf.isEmpty()) {
@@ -317,6 +342,25 @@ class Lauf {
                 gefunden && fenster != haupt && fenster->isVisible())
                 return gefunden->click();
         throw std::runtime_error("no button " + knopf.toStdString());
+    }
+
+    /// Opens a form, prepares it and has it write there.
+    template <class Form>
+    void Ausgeben(const char *eintrag, const std::filesystem::path &ziel,
+                  void (*vorbereiten)(Form *))
+    {
+        const auto wählen = [&ziel](QWidget *, const Dateiwunsch &) { return std::optional(ziel); };
+        Dateiwahl = {wählen, wählen, wählen};
+        haupt->findChild<QAction *>(eintrag)->trigger();
+        auto *form = Fenster<Form>();
+        vorbereiten(form);
+        form->Speichern->click();
+        std::printf("%s\n", qPrintable(form->Hinweis->text()));
+        if (const QString satz = form->Hinweis->text();
+            satz.isEmpty() || satz.startsWith("Nicht ") || satz.contains(", dann nicht: "))
+            throw std::runtime_error("nothing was written");
+        AndereSchließen();
+        DateiwahlEinrichten();
     }
 
     /// On the picture of that window a plan has been found.
@@ -439,6 +483,7 @@ int main(int argc, char *argv[])
                 lauf.Menü();
                 lauf.Suchen();
                 lauf.TextSchreiben();
+                lauf.Weitergeben();
                 lauf.Drucken();
                 lauf.Beenden();
             } catch (const std::exception &fehler) {

@@ -1,0 +1,204 @@
+// "Kalender"
+#include "exchange/KalenderForm.h"
+
+#include "application/Dateiwahl.h"
+#include "application/Mitteilung.h"
+#include "application/Wartezeiger.h"
+#include "controls/Bausteine.h"
+#include "controls/Fensteraufbau.h"
+#include "controls/Handler.h"
+#include "core/Umwandlung.h"
+#include "exchange/Dateiablage.h"
+#include "exchange/Kalenderschreiber.h"
+#include "exchange/Namenformwahl.h"
+#include "platform/GanzSchreiben.h"
+#include "platform/Laufwerke.h"
+#include "platform/Meldungen.h"
+
+#include <QGridLayout>
+
+#include <algorithm>
+
+namespace altardienst {
+namespace {
+
+constexpr const char *Name = "Kalender";
+
+// The entries of the list before the groups.
+enum Wahl { Alle, NurDiener, NurHelfer, ErsteGruppe };
+
+QComboBox *Kreiswahl()
+{
+    auto *wahl = Benannt(new QComboBox, "FürWen");
+    wahl->addItems({"alle", "alle Meßdiener", "alle Helfer"});
+    for (int g = 0; g < std::min<int>(Gruppe.Anzahl, GruppeTabelle::HöchsterIndex + 1); ++g)
+        if (!Gruppe.Bezeichnung[g].empty())
+            wahl->addItem("Gruppe " + Anzeige(Gruppe.Bezeichnung[g]),
+                          Anzeige(Gruppe.Bezeichnung[g]));
+    return wahl;
+}
+
+/// "eine Datei", "3 Dateien".
+Text Gezählt(int zahl, const char *eine, const char *mehrere)
+{
+    return zahl == 1 ? Text(eine) : ZahlText(zahl) + " " + mehrere;
+}
+
+Text Inhaltssatz(const Kalenderausgabe &ausgabe, bool jePerson)
+{
+    Text satz;
+    if (ausgabe.Dateien.empty())
+        satz = jePerson ? "Von ihnen hat niemand einen Dienst." : "Der Plan hat keine Messen.";
+    else if (jePerson)
+        satz = Gezählt(static_cast<int>(ausgabe.Dateien.size()), "Eine Datei", "Dateien") + ".";
+    else
+        satz = Gezählt(ausgabe.Dateien.front().Einträge, "Eine Messe", "Messen") + ".";
+    if (jePerson && !ausgabe.Dateien.empty() && ausgabe.OhneDienst > 0)
+        satz += " " + Gezählt(ausgabe.OhneDienst, "Eine Person hat", "Personen haben") +
+                " keinen Dienst und " +
+                (ausgabe.OhneDienst == 1 ? "bekommt keine." : "bekommen keine.");
+    if (ausgabe.OhneTermin > 0)
+        satz += " " + Gezählt(ausgabe.OhneTermin, "Eine Messe hat", "Messen haben") +
+                " keinen lesbaren Termin und " +
+                (ausgabe.OhneTermin == 1 ? "fehlt darin." : "fehlen darin.");
+    return satz;
+}
+
+std::vector<AbzulegendeDatei> ZumAblegen(const std::vector<Kalenderdatei> &dateien)
+{
+    std::vector<AbzulegendeDatei> abzulegen;
+    abzulegen.reserve(dateien.size());
+    for (const Kalenderdatei &datei : dateien)
+        abzulegen.push_back({datei.Name, datei.Bytes});
+    return abzulegen;
+}
+
+} // namespace
+
+KalenderForm::KalenderForm()
+    : AlleMessen(Benannt(new QRadioButton("&Alle Messen in einer Datei"), "AlleMessen")),
+      JePerson(Benannt(new QRadioButton("Eine Datei &je Person"), "JePerson")), FürWen(Kreiswahl()),
+      Namen(Namenformwahl("Namen", Name)), Inhalt(Beschriftung("Inhalt", "")),
+      Hinweis(Beschriftung("Hinweis", "")), Speichern(Knopf("Speichern", "&Speichern")),
+      Ende(Knopf("Ende", "Ende"))
+{
+    Benannt(this, Name);
+    setWindowTitle("Kalender");
+    AlleMessen->setChecked(true);
+    Anordnen();
+    Verbinden();
+    InhaltZeigen();
+}
+
+void KalenderForm::Anordnen()
+{
+    auto *raster = new QGridLayout;
+    raster->setColumnStretch(1, 1);
+    raster->addWidget(AlleMessen, 0, 0, 1, 2);
+    raster->addWidget(JePerson, 1, 0, 1, 2);
+    raster->addWidget(Beschriftung("FürWenText", "&Für", FürWen), 2, 0);
+    raster->addWidget(FürWen, 2, 1);
+    raster->addWidget(Beschriftung("NamenText", "&Namen", Namen), 3, 0);
+    raster->addWidget(Namen, 3, 1);
+    for (QLabel *satz : {Inhalt, Hinweis})
+        satz->setWordWrap(true);
+    auto *spalte = Fensterspalte(this, Luft::Mittel);
+    spalte->addLayout(raster);
+    spalte->addWidget(Inhalt);
+    spalte->addWidget(Hinweis);
+    spalte->addStretch();
+    spalte->addLayout(Knopfreihe({Speichern, Ende}));
+    resize(520, 300);
+    AlleMessen->setFocus();
+}
+
+void KalenderForm::Verbinden()
+{
+    connect(JePerson, &QRadioButton::toggled, this, Offen([this] { InhaltZeigen(); }));
+    connect(FürWen, &QComboBox::currentIndexChanged, this, Offen([this] { InhaltZeigen(); }));
+    connect(Speichern, &QPushButton::clicked, this, Offen([this] { Schreiben(); }));
+    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+}
+
+Personenkreis KalenderForm::Kreis() const
+{
+    const int wahl = FürWen->currentIndex();
+    return {.Diener = wahl != NurHelfer,
+            .Helfer = wahl == Alle || wahl == NurHelfer,
+            .Gruppe = wahl >= ErsteGruppe ? FürWen->currentData().toString().toStdString() : ""};
+}
+
+Kalenderausgabe KalenderForm::Ausgabe() const
+{
+    const Namenform form = GewählteNamenform(Namen);
+    return JePerson->isChecked() ? KalenderJePerson(GemeinsameTabellen(), Kreis(), form)
+                                 : MessenAlsKalender(GemeinsameTabellen(), form);
+}
+
+void KalenderForm::InhaltZeigen()
+{
+    FürWen->setEnabled(JePerson->isChecked());
+    const Kalenderausgabe ausgabe = Ausgabe();
+    Setzen(Inhalt, Inhaltssatz(ausgabe, JePerson->isChecked()));
+    Setzen(Hinweis, "");
+    Speichern->setEnabled(!ausgabe.Dateien.empty());
+}
+
+void KalenderForm::Schreiben()
+{
+    const Kalenderausgabe ausgabe = Ausgabe();
+    if (ausgabe.Dateien.empty())
+        return InhaltZeigen();
+    if (JePerson->isChecked())
+        DateienSchreiben(ausgabe.Dateien);
+    else
+        DateiSchreiben(ausgabe.Dateien.front());
+}
+
+void KalenderForm::DateiSchreiben(const Kalenderdatei &datei)
+{
+    const auto ziel = Dateiwahl.Speichern(
+        this,
+        {.Titel = "Kalender speichern", .Name = datei.Name, .Art = Name, .Endungen = {"ics"}});
+    if (!ziel)
+        return;
+    try {
+        GanzSchreiben(*ziel, datei.Bytes);
+    } catch (const Laufzeitfehler &fehler) {
+        return Setzen(Hinweis, "Nicht geschrieben: " + TextVon(*ziel) + ": " + fehler.what() + ".");
+    }
+    Gelungen("Kalender geschrieben: " + TextVon(*ziel));
+}
+
+void KalenderForm::DateienSchreiben(const std::vector<Kalenderdatei> &dateien)
+{
+    const auto ziel = Dateiwahl.Verzeichnis(
+        this, {.Titel = "Verzeichnis für die Kalender", .Name = "", .Art = Name, .Endungen = {}});
+    if (!ziel)
+        return;
+    const std::vector<AbzulegendeDatei> abzulegen = ZumAblegen(dateien);
+    const std::vector<Text> fremde = FremdeDateien(*ziel, abzulegen, IstEigenerKalender);
+    if (!fremde.empty() &&
+        !Meldungen.FragenVorVerlust(
+            "In diesem Verzeichnis heißt schon etwas so, was kein Kalender von Altardienst ist: " +
+                fremde.front() + (fremde.size() > 1 ? " und anderes" : "") + ". Überschreiben?",
+            "Kalender speichern"))
+        return;
+    Ablage ablage;
+    UnterWartezeiger([&] { ablage = Ablegen(*ziel, abzulegen); });
+    if (!ablage.IstGanz())
+        return Setzen(Hinweis, ZahlText(ablage.Geschrieben) + " von " +
+                                   ZahlText(static_cast<int>(abzulegen.size())) +
+                                   " Dateien geschrieben, dann nicht: " + ablage.Woran + ": " +
+                                   ablage.Warum + ".");
+    Gelungen(Gezählt(ablage.Geschrieben, "ein Kalender", "Kalender") +
+             " geschrieben: " + TextVon(*ziel));
+}
+
+void KalenderForm::Gelungen(const Text &was)
+{
+    Mitteilen(was);
+    Setzen(Hinweis, was + ".");
+}
+
+} // namespace altardienst

@@ -1,0 +1,189 @@
+// A file of calendar entries.
+#include "exchange/Kalenderschreiber.h"
+
+#include <cstdlib>
+#include <memory>
+#include <new>
+
+#include <libical/ical.h>
+
+namespace altardienst {
+namespace {
+
+constexpr const char *Zone = "Europe/Berlin";
+constexpr const char *Hersteller = "-//Altardienst//Altardienst//DE";
+constexpr std::string_view Ende = "END:VCALENDAR\r\n";
+constexpr int Dauer = 3600; // of a mass; the plan knows only its beginning
+constexpr int Woche = 7;
+
+struct Freigeben {
+    void operator()(icalcomponent *teil) const { icalcomponent_free(teil); }
+    void operator()(char *text) const { std::free(text); } // the library allocates it so
+};
+using Teil = std::unique_ptr<icalcomponent, Freigeben>;
+
+Teil NeuerTeil(icalcomponent_kind art)
+{
+    Teil teil(icalcomponent_new(art));
+    if (!teil)
+        throw std::bad_alloc();
+    return teil;
+}
+
+void Hinzu(const Teil &teil, icalproperty *eigenschaft)
+{
+    icalcomponent_add_property(teil.get(), eigenschaft);
+}
+
+/// The library writes a whole calendar in a time that grows with the square of its entries, so each
+/// part is written by itself.
+std::string AlsText(const Teil &teil)
+{
+    const std::unique_ptr<char, Freigeben> text(icalcomponent_as_ical_string_r(teil.get()));
+    if (!text)
+        throw std::bad_alloc();
+    return text.get();
+}
+
+icaltimetype Zeitpunkt(Ortszeit zeit)
+{
+    const Kalendertag tag = KalendertagVon(zeit.Tag);
+    icaltimetype punkt = icaltime_null_time();
+    punkt.year = tag.Jahr;
+    punkt.month = tag.Monat;
+    punkt.day = tag.Tag;
+    punkt.hour = zeit.Sekunden / 3600;
+    punkt.minute = zeit.Sekunden / 60 % 60;
+    punkt.second = zeit.Sekunden % 60;
+    return punkt;
+}
+
+icaltimetype Tag(Datum tag)
+{
+    icaltimetype punkt = Zeitpunkt({tag, 0});
+    punkt.is_date = 1;
+    return punkt;
+}
+
+icaltimetype Weltzeitpunkt(Ortszeit zeit)
+{
+    icaltimetype punkt = Zeitpunkt(Weltzeit(zeit));
+    punkt.zone = icaltimezone_get_utc_timezone();
+    return punkt;
+}
+
+icalproperty *InDerZone(icalproperty *zeit)
+{
+    icalproperty_add_parameter(zeit, icalparameter_new_tzid(Zone));
+    return zeit;
+}
+
+icalproperty *Erweiterung(const char *name, const char *wert)
+{
+    icalproperty *eigenschaft = icalproperty_new_x(wert);
+    icalproperty_set_x_name(eigenschaft, name);
+    return eigenschaft;
+}
+
+struct Uhrumstellung {
+    icalcomponent_kind Art;
+    const char *Name;
+    icaltimetype Erste;
+    int VonStunden, NachStunden; // ahead of universal time
+    const char *Regel;
+};
+
+Teil Halbjahr(const Uhrumstellung &um)
+{
+    Teil teil = NeuerTeil(um.Art);
+    Hinzu(teil, icalproperty_new_tzname(um.Name));
+    Hinzu(teil, icalproperty_new_dtstart(um.Erste));
+    Hinzu(teil, icalproperty_new_tzoffsetfrom(um.VonStunden * 3600));
+    Hinzu(teil, icalproperty_new_tzoffsetto(um.NachStunden * 3600));
+    Hinzu(teil, icalproperty_new_rrule(icalrecurrencetype_from_string(um.Regel)));
+    return teil;
+}
+
+/// With its rules since both changes were made as today, so that no calendar needs a table.
+Teil Zeitzone()
+{
+    Teil zone = NeuerTeil(ICAL_VTIMEZONE_COMPONENT);
+    Hinzu(zone, icalproperty_new_tzid(Zone));
+    Hinzu(zone, Erweiterung("X-LIC-LOCATION", Zone));
+    const Teil sommer =
+        Halbjahr({ICAL_XDAYLIGHT_COMPONENT, "CEST", Zeitpunkt({DatumAus({1996, 3, 31}), 2 * 3600}),
+                  1, 2, "FREQ=YEARLY;BYMONTH=3;BYDAY=-1SU"});
+    const Teil winter =
+        Halbjahr({ICAL_XSTANDARD_COMPONENT, "CET", Zeitpunkt({DatumAus({1996, 10, 27}), 3 * 3600}),
+                  2, 1, "FREQ=YEARLY;BYMONTH=10;BYDAY=-1SU"});
+    icalcomponent_add_component(zone.get(), icalcomponent_new_clone(sommer.get()));
+    icalcomponent_add_component(zone.get(), icalcomponent_new_clone(winter.get()));
+    return zone;
+}
+
+const std::string &ZeitzoneAlsText()
+{
+    static const std::string text = AlsText(Zeitzone());
+    return text;
+}
+
+/// Characters that no line of text has, which a file of the parish may hold nevertheless.
+Text OhneSteuerzeichen(Text text)
+{
+    std::erase_if(text, [](char zeichen) {
+        return (static_cast<unsigned char>(zeichen) < ' ' && zeichen != '\n') || zeichen == '\x7f';
+    });
+    return text;
+}
+
+} // namespace
+
+Kalenderschreiber::Kalenderschreiber(const Text &name, Ortszeit stand) : stand(stand)
+{
+    const Teil kopf = NeuerTeil(ICAL_VCALENDAR_COMPONENT);
+    Hinzu(kopf, icalproperty_new_version("2.0"));
+    Hinzu(kopf, icalproperty_new_prodid(Hersteller));
+    Hinzu(kopf, icalproperty_new_calscale("GREGORIAN"));
+    Hinzu(kopf, Erweiterung("X-WR-CALNAME", OhneSteuerzeichen(name).c_str()));
+    Hinzu(kopf, Erweiterung("X-WR-TIMEZONE", Zone));
+    bytes = AlsText(kopf);
+    bytes.resize(bytes.size() - Ende.size());
+    bytes += ZeitzoneAlsText();
+}
+
+void Kalenderschreiber::Anfügen(const Kalendereintrag &eintrag)
+{
+    const Teil termin = NeuerTeil(ICAL_VEVENT_COMPONENT);
+    Hinzu(termin, icalproperty_new_uid(eintrag.Kennung.c_str()));
+    Hinzu(termin, icalproperty_new_dtstamp(Weltzeitpunkt(stand)));
+    Hinzu(termin, icalproperty_new_lastmodified(Weltzeitpunkt(stand)));
+    Hinzu(termin, icalproperty_new_sequence(SekundenSeit2020(stand)));
+    if (eintrag.GanzeWoche) {
+        Hinzu(termin, icalproperty_new_dtstart(Tag(eintrag.Tag)));
+        Hinzu(termin, icalproperty_new_dtend(Tag(eintrag.Tag + Woche)));
+        Hinzu(termin, icalproperty_new_transp(ICAL_TRANSP_TRANSPARENT)); // takes up no time
+    } else {
+        const Ortszeit beginn = {eintrag.Tag, eintrag.Sekunden};
+        const Ortszeit ende = AufDerUhr(Später(AufDerUhr(beginn), Dauer));
+        Hinzu(termin, InDerZone(icalproperty_new_dtstart(Zeitpunkt(AufDerUhr(beginn)))));
+        Hinzu(termin, InDerZone(icalproperty_new_dtend(Zeitpunkt(ende))));
+    }
+    Hinzu(termin, icalproperty_new_summary(OhneSteuerzeichen(eintrag.Titel).c_str()));
+    if (!eintrag.Beschreibung.empty())
+        Hinzu(termin,
+              icalproperty_new_description(OhneSteuerzeichen(eintrag.Beschreibung).c_str()));
+    bytes += AlsText(termin);
+}
+
+std::string Kalenderschreiber::Fertig() const
+{
+    return bytes + std::string(Ende);
+}
+
+bool IstEigenerKalender(std::string_view anfang)
+{
+    return anfang.starts_with("BEGIN:VCALENDAR") &&
+           anfang.substr(0, 1000).find(Hersteller) != std::string_view::npos;
+}
+
+} // namespace altardienst
