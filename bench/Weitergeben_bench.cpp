@@ -2,6 +2,7 @@
 // the program writes files.
 #include "Messung.h"
 #include "VollerPlan.h"
+#include "Zieldatei.h"
 #include "kern_bench.h"
 
 #include "core/Plätze.h"
@@ -13,7 +14,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <random>
 #include <string>
 
 namespace altardienst {
@@ -23,30 +23,9 @@ namespace fs = std::filesystem;
 
 constexpr double Ziel = 3;
 
-/// Beside the sources rather than in the directory of temporary files, which may lie in memory.
-class Zieldatei {
-  public:
-    Zieldatei()
-        : pfad(fs::current_path() / ("bench_weitergeben." + std::to_string(std::random_device()())))
-    {
-    }
-    ~Zieldatei()
-    {
-        std::error_code fehler;
-        fs::remove(pfad, fehler);
-    }
-    Zieldatei(const Zieldatei &) = delete;
-    Zieldatei &operator=(const Zieldatei &) = delete;
-
-    const fs::path &Pfad() const { return pfad; }
-
-  private:
-    fs::path pfad;
-};
-
 const fs::path &Datei()
 {
-    static const Zieldatei datei;
+    static const Zieldatei datei("bench_weitergeben");
     return datei.Pfad();
 }
 

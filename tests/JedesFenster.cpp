@@ -8,7 +8,9 @@
 #include "application/Anwendung.h"
 #include "exchange/DienstzettelForm.h"
 #include "exchange/EMailForm.h"
+#include "exchange/EinlesenForm.h"
 #include "exchange/KalenderForm.h"
+#include "exchange/TabellenForm.h"
 #include "exchange/WebseiteForm.h"
 #include "fairness/ArchivForm.h"
 #include "fairness/AusgleichForm.h"
@@ -112,6 +114,8 @@ JedesFenster::JedesFenster()
         {"EMail", Neu<EMailForm>()},
         {"Kalender", Neu<KalenderForm>()},
         {"Webseite", Neu<WebseiteForm>()},
+        {"Tabellen", Neu<TabellenForm>()},
+        {"Einlesen", Neu<EinlesenForm>()},
         {"Standardmessen", Neu<StandardmessenForm>()},
         {"Messenliste", Neu<MessenlisteForm>()},
         {"NeuMesse", [] { return new NeuMesseForm(*Darunter<MessenlisteForm>()); }},

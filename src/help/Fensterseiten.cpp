@@ -31,6 +31,9 @@ const std::map<Text, Text> &Fensterseiten()
         {"Kalender", "weitergeben.md#kalender"},
         {"Webseite", "weitergeben.md#webseite"},
 
+        {"Tabellen", "weitergeben.md#tabellen"},
+        {"Einlesen", "weitergeben.md#einlesen"},
+
         {"Meßdiener", "leute.md#messdiener"},
         {"NeuMeßdiener", "leute.md#neuer-messdiener"},
         {"Gruppe", "leute.md#gruppen"},

@@ -21,7 +21,9 @@
 #include "exchange/Aushang.h"
 #include "exchange/DienstzettelForm.h"
 #include "exchange/EMailForm.h"
+#include "exchange/EinlesenForm.h"
 #include "exchange/KalenderForm.h"
+#include "exchange/TabellenForm.h"
 #include "exchange/WebseiteForm.h"
 #include "fairness/Archiv.h"
 #include "fairness/ArchivForm.h"
@@ -463,6 +465,7 @@ void HauptForm::MenüÜberblick()
     Eintrag(überblick, "mnuVerteilung", "&Verteilung", DialogÖffnen<VerteilungForm>);
     Eintrag(überblick, "mnuArchiv", "Ar&chiv", DialogÖffnen<ArchivForm>);
     MenüWeitergeben(überblick);
+    Eintrag(überblick, "mnuEinlesen", "&Einlesen", DialogÖffnen<EinlesenForm>);
     Eintrag(überblick, "mnuStände", "&Frühere Stände", DialogÖffnen<StändeForm>);
 }
 
@@ -474,6 +477,7 @@ void HauptForm::MenüWeitergeben(QMenu *überblick)
     Eintrag(weitergeben, "mnuKalender", "&Kalender", DialogÖffnen<KalenderForm>);
     Eintrag(weitergeben, "mnuWebseite", "Web&seite", DialogÖffnen<WebseiteForm>);
     Eintrag(weitergeben, "mnuEMail", "&E-Mail", DialogÖffnen<EMailForm>);
+    Eintrag(weitergeben, "mnuTabellen", "&Tabellen", DialogÖffnen<TabellenForm>);
 }
 
 void HauptForm::MenüHilfe()

@@ -113,6 +113,8 @@ TEST_F(HauptMenüTest, HatSeineEinträgeInIhrerFolge)
                           "    mnuKalender | &Kalender",
                           "    mnuWebseite | Web&seite",
                           "    mnuEMail | &E-Mail",
+                          "    mnuTabellen | &Tabellen",
+                          "  mnuEinlesen | &Einlesen",
                           "  mnuStände | &Frühere Stände",
                           "mnuHelp | &?",
                           "  mnuHandbuch | &Handbuch",
@@ -157,6 +159,8 @@ TEST_F(HauptMenüTest, WasOhneDialogAuskommtIstWählbar)
                              "mnuEMail",
                              "mnuKalender",
                              "mnuWebseite",
+                             "mnuTabellen",
+                             "mnuEinlesen",
                              "mnuStände",
                              "mnuHelpAbout",
                              "DruckML"})
@@ -207,6 +211,8 @@ TEST_F(HauptMenüTest, JederEintragÖffnetSeineFormUndSperrtDasHauptfenster)
         {"mnuEMail", "EMail"},
         {"mnuKalender", "Kalender"},
         {"mnuWebseite", "Webseite"},
+        {"mnuTabellen", "Tabellen"},
+        {"mnuEinlesen", "Einlesen"},
         {"mnuStände", "Stände"},
     };
     MeßdienerAnlegen("Kim", "Adler"); // there are no figures about nobody
