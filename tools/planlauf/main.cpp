@@ -116,8 +116,8 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption bilder("bilder", "save a picture of every window passed", "DIR");
     const QCommandLineOption antwort("antwort", "answer to every question", "ja|nein", "ja");
     zeile.addHelpOption();
-    zeile.addOptions({daten, heute, uhr, start, tage, saat, schritte, menü, suche, text, datei, kalender,
-                      jePerson, webseite, pdf, berichte, bilder, antwort});
+    zeile.addOptions({daten, heute, uhr, start, tage, saat, schritte, menü, suche, text, datei,
+                      kalender, jePerson, webseite, pdf, berichte, bilder, antwort});
     zeile.process(*QCoreApplication::instance());
     const QStringList übrig = zeile.positionalArguments();
     if (!übrig.isEmpty()) // such as the rest of "1, 4, 5"
