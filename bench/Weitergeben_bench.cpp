@@ -2,6 +2,7 @@
 // the program writes files.
 #include "Messung.h"
 #include "VollerPlan.h"
+#include "Zieldatei.h"
 #include "kern_bench.h"
 
 #include "core/Plätze.h"
@@ -13,7 +14,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <random>
 #include <string>
 
 namespace altardienst {
@@ -23,37 +23,22 @@ namespace fs = std::filesystem;
 
 constexpr double Ziel = 3;
 
-/// Beside the sources rather than in the directory of temporary files, which may lie in memory.
-class Zieldatei {
-  public:
-    Zieldatei()
-        : pfad(fs::current_path() / ("bench_weitergeben." + std::to_string(std::random_device()())))
-    {
-    }
-    ~Zieldatei()
-    {
-        std::error_code fehler;
-        fs::remove(pfad, fehler);
-    }
-    Zieldatei(const Zieldatei &) = delete;
-    Zieldatei &operator=(const Zieldatei &) = delete;
-
-    const fs::path &Pfad() const { return pfad; }
-
-  private:
-    fs::path pfad;
-};
-
 const fs::path &Datei()
 {
-    static const Zieldatei datei;
+    static const Zieldatei datei("bench_weitergeben");
     return datei.Pfad();
 }
 
-/// 602 masses of 20 servers and eight helpers, two masses a day.
+constexpr const char *Gemeinde = "St. Weitergeben";
+
+/// 602 masses of 20 servers and eight helpers, two masses a day. Made once: giving it away changes
+/// nothing.
 void GroßerPlan()
 {
+    if (Konfig.Gemeinde == Gemeinde)
+        return;
     VollerPlan();
+    Konfig.Gemeinde = Gemeinde;
     for (int i = 0; i < Messe.Anzahl; ++i) {
         Messe.Datum[i] = DatumAus({2026, 11, 28}) + i / 2;
         Messe.Uhrzeit[i] = ZeitAus((i % 2 == 0 ? 9 : 18) * 3600);

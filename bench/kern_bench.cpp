@@ -11,6 +11,7 @@ void MessungenAnmelden()
     SortierenMessungen();
     PlanprüfungMessungen();
     StatistikMessungen();
+    TabellenMessungen();
     ZuweisungMessungen();
     WeitergebenMessungen();
     RückgängigMessungen(); // last, since its messages are to be answered

@@ -8,6 +8,7 @@ void RückgängigMessungen();
 void SortierenMessungen();
 void PlanprüfungMessungen();
 void StatistikMessungen();
+void TabellenMessungen();
 void WeitergebenMessungen();
 void ZuweisungMessungen();
 

@@ -6,7 +6,11 @@
 #include "anniversaries/JubiGebuForm.h"
 #include "anniversaries/JubiläumsanzeigeForm.h"
 #include "application/Anwendung.h"
+#include "exchange/DienstzettelForm.h"
+#include "exchange/EMailForm.h"
+#include "exchange/EinlesenForm.h"
 #include "exchange/KalenderForm.h"
+#include "exchange/TabellenForm.h"
 #include "exchange/WebseiteForm.h"
 #include "fairness/ArchivForm.h"
 #include "fairness/AusgleichForm.h"
@@ -106,8 +110,12 @@ JedesFenster::JedesFenster()
         {"Ausgleich", Neu<AusgleichForm>()},
         {"Verteilung", Neu<VerteilungForm>()},
         {"Archiv", Neu<ArchivForm>()},
+        {"Dienstzettel", Neu<DienstzettelForm>()},
+        {"EMail", Neu<EMailForm>()},
         {"Kalender", Neu<KalenderForm>()},
         {"Webseite", Neu<WebseiteForm>()},
+        {"Tabellen", Neu<TabellenForm>()},
+        {"Einlesen", Neu<EinlesenForm>()},
         {"Standardmessen", Neu<StandardmessenForm>()},
         {"Messenliste", Neu<MessenlisteForm>()},
         {"NeuMesse", [] { return new NeuMesseForm(*Darunter<MessenlisteForm>()); }},

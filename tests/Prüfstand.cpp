@@ -64,6 +64,10 @@ Prüfstand::Prüfstand()
         GeöffneteDateien.push_back(datei);
         return ZumÖffnenGibtEsEtwas;
     };
+    Betrachter.Verweis = [this](const Text &verweis) {
+        GeöffneteVerweise.push_back(verweis);
+        return ZumÖffnenGibtEsEtwas;
+    };
     Laufwerke.Programmverzeichnis = [this] { return Festplatte; };
     Laufwerke.Diskette = [this] { return Diskette; };
     Laufwerke.Ausweichverzeichnisse = [this] { return std::vector<fs::path>{wurzel / "Ausweich"}; };

@@ -59,6 +59,7 @@ class Prüfstand : public ::testing::Test {
     std::filesystem::path Diskette;
 
     std::vector<std::filesystem::path> GeöffneteDateien; // with the desktop's programs
+    std::vector<Text> GeöffneteVerweise;
     bool ZumÖffnenGibtEsEtwas = true;
 
   private:

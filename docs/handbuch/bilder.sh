@@ -12,11 +12,20 @@ for tag in 2026-11-07 2026-11-14; do # earlier states
     cp ../data/beispiel/* "$arbeit/daten/Stände/$tag 18-30-00"
 done
 mkdir -p "$arbeit/bilder" "$arbeit/pfarrbuero/"{Bilder,Dokumente,Sicherung}
+cat >"$arbeit/Neue Messdiener.csv" <<LISTE
+Name;Vorname;Geb.;Telefon;Gruppe;Lieblingsfarbe
+Brückner;David;16.9.11;0221 4710399;Don Bosco;blau
+Brückner;Miriam;16.9.11;0221 4710332;Don Bosco;rot
+Ahlers;Jonas;3. März 2014;0221 4711208;Bonifatius;
+Yıldız;Elif;24.12.2014;0221 4715560;Bonifatius;lila
+Pohl;Marie;31.2.2015;0221 4713370;Hildegard;gelb
+Seifert;Paul;2.7.2014;0221 4718091;Rosen;grün
+LISTE
 export HOME=$arbeit/pfarrbuero
 env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --saat 1 \
     --schritte 1,4,5,6,2 \
-    --menue mnuStandardmessen,mnuGruppe,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern,mnuDatenHolen,mnuHintergrund,mnuHelpAbout,mnuMessen/NeuMeß,mnuMessen/Lektoren,mnuMeßdiener/NeuDiener,mnuFilePrint/Messendruck,mnuStände,mnuAusgleich,mnuVerteilung \
-    --suche brückner \
+    --menue mnuStandardmessen,mnuGruppe,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern,mnuDatenHolen,mnuHintergrund,mnuHelpAbout,mnuMessen/NeuMeß,mnuMessen/Lektoren,mnuMeßdiener/NeuDiener,mnuFilePrint/Messendruck,mnuStände,mnuAusgleich,mnuVerteilung,mnuDienstzettel,mnuEMail,mnuTabellen,mnuEinlesen/Datei \
+    --suche brückner --datei "$arbeit/Neue Messdiener.csv" \
     --bilder "$arbeit/bilder" >/dev/null 2>&1
 
 # The last picture of a window is the one with the finished plan.
@@ -41,6 +50,10 @@ bild Hintergrundsuche hintergrund
 bild frmAbout info
 bild Ausgleich ausgleich
 bild Verteilung verteilung
+bild Dienstzettel dienstzettel
+bild EMail email
+bild Tabellen tabellen
+bild Einlesen einlesen
 bild NeuMesse neuemesse
 bild Lektorrenusw lektoren
 bild NeuMeßdiener neuermessdiener

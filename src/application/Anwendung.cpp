@@ -57,6 +57,10 @@ void AnwendungEinrichten(QApplication &anwendung)
     Betrachter.Öffnen = [](const std::filesystem::path &datei) {
         return QDesktopServices::openUrl(QUrl::fromLocalFile(Anzeige(TextVon(datei))));
     };
+    Betrachter.Verweis = [](const Text &verweis) {
+        return QDesktopServices::openUrl(
+            QUrl::fromEncoded(QByteArray::fromStdString(verweis), QUrl::StrictMode));
+    };
     DateiwahlEinrichten();
     DateiwartezeigerEinrichten();
     DruckgewohnheitenMerken();

@@ -2,6 +2,7 @@
 #include "exchange/Blattmaß.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numeric>
 #include <optional>
@@ -57,7 +58,7 @@ Gemessen Messen(const Blatttafel &tafel)
         for (std::size_t k = 0; k < zeile.size(); ++k) {
             auto &breiten = zellen.emplace_back();
             breiten.reserve(zeile[k].size());
-            for (const Text &stück : zeile[k]) {
+            for (const std::string_view stück : zeile[k]) {
                 breiten.push_back(Textbreite(stück) * (k < tafel.Fette ? Fett : 1));
                 gemessen.Mindestens[k] = std::max(gemessen.Mindestens[k], breiten.back());
             }
@@ -160,18 +161,22 @@ std::vector<double> Prozente(std::vector<double> spalten)
 
 double Textbreite(std::string_view text)
 {
-    constexpr std::string_view Schmal = "ijltfrI.,;:'()[]/ -!|";
-    constexpr std::string_view Breit = "mwMWGOQ@%";
+    static constexpr std::array<double, 256> Breiten = [] {
+        std::array<double, 256> breiten{};
+        for (std::size_t zeichen = 0; zeichen < breiten.size(); ++zeichen)
+            if ((zeichen & 0xC0) != 0x80) // not the rest of a letter
+                breiten[zeichen] = 0.57;
+        for (std::size_t groß = 'A'; groß <= 'Z'; ++groß)
+            breiten[groß] = 0.70;
+        for (const char schmal : std::string_view("ijltfrI.,;:'()[]/ -!|"))
+            breiten[static_cast<unsigned char>(schmal)] = 0.32;
+        for (const char breit : std::string_view("mwMWGOQ@%"))
+            breiten[static_cast<unsigned char>(breit)] = 0.84;
+        return breiten;
+    }();
     double breite = 0;
     for (const char zeichen : text)
-        if (Schmal.find(zeichen) != std::string_view::npos)
-            breite += 0.32;
-        else if (Breit.find(zeichen) != std::string_view::npos)
-            breite += 0.84;
-        else if (zeichen >= 'A' && zeichen <= 'Z')
-            breite += 0.70;
-        else if ((static_cast<unsigned char>(zeichen) & 0xC0) != 0x80) // not the rest of a letter
-            breite += 0.57;
+        breite += Breiten[static_cast<unsigned char>(zeichen)];
     return breite;
 }
 

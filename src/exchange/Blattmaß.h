@@ -10,8 +10,8 @@
 
 namespace altardienst {
 
-/// What stands in a cell, each piece unbroken on one line.
-using Stücke = std::vector<Text>;
+/// What stands in a cell, each piece unbroken on one line; whoever makes the table keeps the texts.
+using Stücke = std::vector<std::string_view>;
 
 struct Blatttafel {
     std::vector<Text> Köpfe;

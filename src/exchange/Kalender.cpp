@@ -173,7 +173,8 @@ Kalenderausgabe MessenAlsKalender(const Plantabellen &tabellen, Namenform form)
         }
     Kalenderausgabe ausgabe{.Dateien = {}, .OhneTermin = OhneTermin(auszug), .OhneDienst = 0};
     if (einträge > 0)
-        ausgabe.Dateien.push_back({PlanDateiname() + Endung, schreiber.Fertig(), einträge});
+        ausgabe.Dateien.push_back(
+            {PlanDateiname() + Endung, std::move(schreiber).Fertig(), einträge});
     return ausgabe;
 }
 
@@ -196,8 +197,8 @@ Kalenderausgabe KalenderJePerson(const Plantabellen &tabellen, const Personenkre
                                     jetzt);
         for (const std::size_t i : messen)
             schreiber.Anfügen(Eintrag(tabellen, auszug[i], &person, namen));
-        ausgabe.Dateien.push_back(
-            {Dateiname(person, vergeben), schreiber.Fertig(), static_cast<int>(messen.size())});
+        ausgabe.Dateien.push_back({Dateiname(person, vergeben), std::move(schreiber).Fertig(),
+                                   static_cast<int>(messen.size())});
     }
     return ausgabe;
 }

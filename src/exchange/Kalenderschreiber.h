@@ -26,12 +26,12 @@ class Kalenderschreiber {
 
     void Anfügen(const Kalendereintrag &eintrag);
 
-    /// The bytes of the file.
-    std::string Fertig() const;
+    /// The bytes of the file; nothing can be added then.
+    std::string Fertig() &&;
 
   private:
-    Ortszeit stand;
-    std::string bytes; // up to the last entry
+    std::string bytes;   // up to the last entry
+    std::string stempel; // of every entry
 };
 
 /// Whether these are bytes of such a file of this program.

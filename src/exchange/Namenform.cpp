@@ -21,7 +21,15 @@ Namengeber::Namengeber(Namenform form, const Plantabellen &tabellen)
         kurz.Neu(tabellen);
 }
 
-Text Namengeber::Von(const Text &vorname, const Text &nachname) const
+const Text &Namengeber::Von(const Text &vorname, const Text &nachname) const
+{
+    const auto bekannt = geformt.find(Namenspaar(vorname, nachname));
+    if (bekannt != geformt.end())
+        return bekannt->second;
+    return geformt.emplace(std::pair(vorname, nachname), Formen(vorname, nachname)).first->second;
+}
+
+Text Namengeber::Formen(const Text &vorname, const Text &nachname) const
 {
     if (form == Namenform::Ganz || IstGruppe(gruppen, {vorname, nachname}))
         return VollerName(vorname, nachname);

@@ -28,12 +28,16 @@ class Namengeber {
 
     /// Whoever has one name only is shortened too, except in the whole form; a place that is kept
     /// for a group is named as it is. Nobody has no name.
-    Text Von(const Text &vorname, const Text &nachname) const;
+    /// The text stays where it is as long as this object lives.
+    const Text &Von(const Text &vorname, const Text &nachname) const;
 
   private:
+    Text Formen(const Text &vorname, const Text &nachname) const;
+
     Namenform form;
     const GruppeTabelle &gruppen;
     Kurznamen kurz;
+    mutable Namenspaare<Text> geformt; // those that were asked for, which come often
 };
 
 } // namespace altardienst

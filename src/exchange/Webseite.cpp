@@ -11,12 +11,17 @@
 
 #include <algorithm>
 #include <array>
+#include <deque>
 #include <optional>
 #include <string_view>
 #include <vector>
 
 namespace altardienst {
 namespace {
+
+// Bytes of a page, about.
+constexpr std::size_t Grundgröße = 10000;
+constexpr std::size_t GrößeEinerMesse = 700;
 
 constexpr std::size_t Dienstspalten = 2; // after date and kind
 
@@ -73,30 +78,57 @@ Stücke Wörter(std::string_view text)
     return wörter;
 }
 
-Blatttafel TafelAus(const Plantabellen &tabellen, const std::vector<Auszugsmesse> &auszug,
-                    const Webseitenwunsch &wunsch)
-{
-    const Namengeber namen(wunsch.Namen, tabellen);
-    const std::vector<Spalte> spalten = SpaltenFür(auszug, wunsch.MitHelfern);
-    Blatttafel tafel{{"Termin", "Messe"}, Dienstspalten, {}};
-    for (const Spalte &spalte : spalten)
-        tafel.Köpfe.push_back(spalte.Kopf);
-    tafel.Zeilen.reserve(auszug.size());
-    for (const Auszugsmesse &eine : auszug) {
-        std::vector<Stücke> zeile(Dienstspalten + spalten.size());
-        zeile[0] = {Tagestext(tabellen.Messen, eine)};
-        if (const Text zeit = Zeittext(tabellen.Messen, eine); !zeit.empty())
-            zeile[0].push_back(zeit);
-        zeile[1] = Wörter(tabellen.Messen.Messeart[eine.Messe]);
-        for (const Auszugsdienst &dienst : eine.Dienste)
-            if (const auto spalte = std::ranges::find(spalten, dienst.Dienst, &Spalte::Dienst);
-                spalte != spalten.end())
-                zeile[Dienstspalten + static_cast<std::size_t>(spalte - spalten.begin())].push_back(
-                    namen.Von(*dienst.Vorname, *dienst.Nachname));
-        tafel.Zeilen.push_back(std::move(zeile));
+class Tafelmacher {
+  public:
+    Tafelmacher(const Plantabellen &tabellen, const Webseitenwunsch &wunsch)
+        : messen(tabellen.Messen), namen(wunsch.Namen, tabellen), mitHelfern(wunsch.MitHelfern)
+    {
     }
-    return tafel;
-}
+
+    /// Its texts are those of the tables and of this object.
+    Blatttafel Machen(const std::vector<Auszugsmesse> &auszug)
+    {
+        spalten = SpaltenFür(auszug, mitHelfern);
+        Blatttafel tafel{{"Termin", "Messe"}, Dienstspalten, {}};
+        for (const Spalte &spalte : spalten)
+            tafel.Köpfe.push_back(spalte.Kopf);
+        tafel.Zeilen.reserve(auszug.size());
+        for (const Auszugsmesse &eine : auszug)
+            tafel.Zeilen.push_back(Zeile(eine));
+        return tafel;
+    }
+
+  private:
+    std::vector<Stücke> Zeile(const Auszugsmesse &eine)
+    {
+        std::vector<Stücke> zeile(Dienstspalten + spalten.size());
+        zeile[0] = {termine.emplace_back(Tagestext(messen, eine))};
+        if (const Text zeit = Zeittext(messen, eine); !zeit.empty())
+            zeile[0].push_back(termine.emplace_back(zeit));
+        zeile[1] = Wörter(messen.Messeart[eine.Messe]);
+        Stücke *zelle = nullptr; // of the service before, which most share
+        std::string_view dienst;
+        for (const Auszugsdienst &einer : eine.Dienste) {
+            if (einer.Dienst != dienst) {
+                dienst = einer.Dienst;
+                const auto spalte = std::ranges::find(spalten, dienst, &Spalte::Dienst);
+                zelle = spalte == spalten.end()
+                            ? nullptr
+                            : &zeile[Dienstspalten +
+                                     static_cast<std::size_t>(spalte - spalten.begin())];
+            }
+            if (zelle)
+                zelle->push_back(namen.Von(*einer.Vorname, *einer.Nachname));
+        }
+        return zeile;
+    }
+
+    const MesseTabelle &messen;
+    const Namengeber namen;
+    const bool mitHelfern;
+    std::vector<Spalte> spalten;
+    std::deque<Text> termine;
+};
 
 /// Where the long names of services may break, in a head as narrow as the names below it.
 constexpr std::array<std::string_view, 3> Trennstellen = {"bereitung", "helfer", "träger"};
@@ -109,39 +141,39 @@ Text MitTrennstelle(Text kopf)
     return kopf;
 }
 
-/// Appends a text as the page writes it: nothing in it is taken for a sign of the language.
-void Anhängen(std::string &seite, std::string_view text)
+/// What the page writes for a character; nullptr for the character itself.
+const char *Ersatz(char zeichen)
 {
-    for (const char zeichen : text)
-        switch (zeichen) {
-        case '&':
-            seite += "&amp;";
-            break;
-        case '<':
-            seite += "&lt;";
-            break;
-        case '>':
-            seite += "&gt;";
-            break;
-        case '"':
-            seite += "&quot;";
-            break;
-        default:
-            if (static_cast<unsigned char>(zeichen) >= ' ' && zeichen != '\x7f')
-                seite += zeichen;
+    switch (zeichen) {
+    case '&':
+        return "&amp;";
+    case '<':
+        return "&lt;";
+    case '>':
+        return "&gt;";
+    case '"':
+        return "&quot;";
+    default:
+        return static_cast<unsigned char>(zeichen) < ' ' || zeichen == '\x7f' ? "" : nullptr;
+    }
+}
+
+/// Appends a text as the page writes it: nothing in it is taken for a sign of the language.
+void Anhängen(std::string &seite, std::string_view text, const char *leerzeichen = " ")
+{
+    std::size_t von = 0; // of what is written as it is
+    for (std::size_t i = 0; i < text.size(); ++i)
+        if (const char *ersatz = text[i] == ' ' ? leerzeichen : Ersatz(text[i])) {
+            seite.append(text, von, i - von).append(ersatz);
+            von = i + 1;
         }
+    seite.append(text, von);
 }
 
 /// The same without a place where the line may break.
 void AmStückAnhängen(std::string &seite, std::string_view text)
 {
-    while (!text.empty()) {
-        const std::size_t wort = std::min(text.find(' '), text.size());
-        Anhängen(seite, text.substr(0, wort));
-        if (wort < text.size())
-            seite += "\xC2\xA0"; // a blank that holds together
-        text.remove_prefix(std::min(wort + 1, text.size()));
-    }
+    Anhängen(seite, text, "\u00a0");
 }
 
 /// "2026-11-28T18:30", for machines.
@@ -169,7 +201,7 @@ void ZeilenAnhängen(std::string &seite, const MesseTabelle &messen,
         const auto &zeile = tafel.Zeilen[i];
         if (auszug[i].HatTermin)
             seite += "<time datetime=\"" + Maschinenzeit(messen, auszug[i].Messe) + "\">";
-        for (const Text &stück : zeile[0]) {
+        for (const std::string_view &stück : zeile[0]) {
             seite += &stück == &zeile[0].front() ? "" : " ";
             AmStückAnhängen(seite, stück);
         }
@@ -178,7 +210,7 @@ void ZeilenAnhängen(std::string &seite, const MesseTabelle &messen,
         seite += "</td>";
         for (std::size_t k = Dienstspalten; k < zeile.size(); ++k) {
             seite += "<td>";
-            for (const Text &name : zeile[k]) {
+            for (const std::string_view &name : zeile[k]) {
                 seite += &name == &zeile[k].front() ? "" : ", ";
                 AmStückAnhängen(seite, name);
             }
@@ -215,9 +247,12 @@ constexpr const char *Anfang = R"(<!DOCTYPE html>
 Webseite PlanAlsWebseite(const Plantabellen &tabellen, const Webseitenwunsch &wunsch)
 {
     const std::vector<Auszugsmesse> auszug = PlanAusziehen(tabellen);
-    const Blatttafel tafel = TafelAus(tabellen, auszug, wunsch);
+    Tafelmacher macher(tabellen, wunsch);
+    const Blatttafel tafel = macher.Machen(auszug);
     const Blattmaß maß = BlattmaßFür(tafel);
-    std::string seite = Anfang;
+    std::string seite;
+    seite.reserve(Grundgröße + auszug.size() * GrößeEinerMesse);
+    seite += Anfang;
     Anhängen(seite, wunsch.Titel);
     seite +=
         "</title>\n<style>" + Webseitenstil(tafel.Köpfe, maß) + "</style>\n</head>\n<body>\n<h1>";

@@ -138,6 +138,9 @@ bool PlanArchivieren(const Plantabellen &tabellen)
 
 void ArchivLöschen(const Archivzeitraum &zeitraum)
 {
+    const auto verzeichnisse = Laufwerke.Auflisten(Archivverzeichnis()).Verzeichnisse;
+    if (std::ranges::find(verzeichnisse, Archivname(zeitraum)) != verzeichnisse.end())
+        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
     Laufwerke.Löschen(Ort(zeitraum));
 }
 

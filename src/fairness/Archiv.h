@@ -60,6 +60,7 @@ std::vector<Archivdienst> DiensteDesPlans(const Plantabellen &tabellen);
 /// Failure 61, 75, 76: then the old file is as it was.
 bool PlanArchivieren(const Plantabellen &tabellen = GemeinsameTabellen());
 
+/// Failure 75 for a directory of this name, which is none of ours.
 void ArchivLöschen(const Archivzeitraum &zeitraum);
 
 /// In all files. Lines that cannot be read stay as they are; a file that cannot be read or written

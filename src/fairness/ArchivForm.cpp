@@ -55,7 +55,7 @@ void ArchivForm::Anordnen()
     Hinweis->setWordWrap(true);
     auto *nebeneinander = new QHBoxLayout;
     nebeneinander->addWidget(Zeiträume, 1);
-    nebeneinander->addWidget(Dienste, 2);
+    nebeneinander->addWidget(Dienste, 3);
     auto *spalte = Fensterspalte(this, Luft::Mittel);
     spalte->addLayout(nebeneinander, 1);
     spalte->addWidget(Hinweis);

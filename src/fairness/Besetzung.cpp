@@ -2,9 +2,6 @@
 // persons that it touches.
 #include "fairness/Besetzung.h"
 
-#include "assignment/Gründe.h"
-#include "assignment/Ziehung.h"
-
 #include <algorithm>
 
 namespace altardienst {
@@ -12,55 +9,12 @@ namespace {
 
 using Aufgabe = Besetzungsaufgabe;
 
-// How much a breach weighs among those of the same number: if one cannot be avoided, then rather a
-// pair that does not match than a place that stays empty.
-constexpr int Leichter = 10;
-constexpr int Schwerer = 11;
-
-// Hints, against one for a helper's second service within two days.
-constexpr int FremderDienst = 3;
-constexpr int FalscheGröße = 3;
-constexpr int GemischtesWunschpaar = 3;
-
-// Parts of the unrest.
-constexpr std::int64_t JeDienstart = 200; // by the square of how often somebody has the service
-constexpr std::int64_t JeAbstand = 1000;  // for gaps as even as can be; up to several times that
-constexpr std::int64_t JeWechsel = 30;
-
 constexpr std::size_t Nr(int i)
 {
     return static_cast<std::size_t>(i);
 }
 
-void Verstoß(Plankosten &kosten, int schwere)
-{
-    ++kosten.Verstöße;
-    kosten.Schwere += schwere;
-}
-
 } // namespace
-
-Plankosten &Plankosten::operator+=(const Plankosten &b)
-{
-    Verstöße += b.Verstöße;
-    Schwere += b.Schwere;
-    Hinweise += b.Hinweise;
-    Ungleich += b.Ungleich;
-    Getrennt += b.Getrennt;
-    Unruhe += b.Unruhe;
-    return *this;
-}
-
-Plankosten &Plankosten::operator-=(const Plankosten &b)
-{
-    Verstöße -= b.Verstöße;
-    Schwere -= b.Schwere;
-    Hinweise -= b.Hinweise;
-    Ungleich -= b.Ungleich;
-    Getrennt -= b.Getrennt;
-    Unruhe -= b.Unruhe;
-    return *this;
-}
 
 bool Besetzung::Zug::Dazu(int platz, int person)
 {
@@ -78,8 +32,13 @@ Besetzung::Besetzung(const Besetzungsaufgabe &aufgabe)
       personenkosten(aufgabe.Personen.size())
 {
     wer.reserve(aufgabe.Plätze.size());
-    for (const Aufgabe::Platz &platz : aufgabe.Plätze)
+    termine.reserve(aufgabe.Plätze.size());
+    tage.reserve(aufgabe.Plätze.size());
+    for (const Aufgabe::Platz &platz : aufgabe.Plätze) {
         wer.push_back(platz.Anfangs);
+        termine.push_back(platz.Termin);
+        tage.push_back(aufgabe.Termine[Nr(platz.Termin)].Tag);
+    }
     Stellen(wer);
 }
 
@@ -124,11 +83,78 @@ void Besetzung::Betroffen(const Zug &zug)
     };
     for (std::size_t k = 0; k < zug.Anzahl; ++k) {
         const auto &[platz, person] = zug.Setzungen[k];
-        vormerken(alteTermine, alteTerminzahl, aufgabe.PlatzNr(platz).Termin, terminkosten);
+        vormerken(alteTermine, alteTerminzahl, termine[Nr(platz)], terminkosten);
         for (const int wen : {Wer(platz), person})
             if (wen >= 0)
                 vormerken(altePersonen, altePersonenzahl, wen, personenkosten);
     }
+}
+
+/// The energy of a breach that a person is sure to have then: two places of one mass, or a server's
+/// services on days next to each other.
+double Besetzung::VerstoßMindestens(const Zug &zug, int platz, int person, double strenge) const
+{
+    const auto einer = [&](int schwere) { return strenge * (1 + 0.01 * schwere); };
+    if (!aufgabe.Kann(platz, person))
+        return einer(Plankosten::Schwerer);
+    for (const int anderer : Dienste(person)) {
+        const bool gesperrt =
+            anderer < platz ? IstGesperrtNach(anderer, platz) : IstGesperrtNach(platz, anderer);
+        if (termine[Nr(anderer)] != termine[Nr(platz)] && !(gesperrt && aufgabe.FürDiener()))
+            continue;
+        const bool bleibt = std::none_of(
+            zug.Setzungen.begin(), zug.Setzungen.begin() + static_cast<std::ptrdiff_t>(zug.Anzahl),
+            [&](const Zug::Setzung &setzung) { return setzung.Platz == anderer; });
+        if (bleibt)
+            return einer(Plankosten::Leichter);
+    }
+    return 0;
+}
+
+/// Nothing that is touched could become better than to cost nothing. What a service more or less
+/// adds to the unevenness is exact.
+double Besetzung::MehrMindestens(const Zug &zug, double strenge) const
+{
+    struct Wen {
+        int Person;
+        int Mehr;
+    };
+    std::array<Wen, 2 * Zug::Meiste> personen;
+    std::size_t personenzahl = 0;
+    const auto zählen = [&](int person, int mehr) {
+        for (std::size_t k = 0; k < personenzahl; ++k)
+            if (personen.at(k).Person == person) {
+                personen.at(k).Mehr += mehr;
+                return;
+            }
+        personen.at(personenzahl++) = {person, mehr};
+    };
+    double summe = 0;
+    double verstoß = 0;
+    for (std::size_t k = 0; k < zug.Anzahl; ++k) {
+        const auto &[platz, person] = zug.Setzungen.at(k);
+        const int termin = termine[Nr(platz)];
+        bool neu = true;
+        for (std::size_t vor = 0; vor < k; ++vor)
+            neu = neu && termine[Nr(zug.Setzungen.at(vor).Platz)] != termin;
+        if (neu)
+            summe -= Energie(terminkosten[Nr(termin)], strenge);
+        if (Wer(platz) >= 0)
+            zählen(Wer(platz), -1);
+        if (person < 0)
+            continue;
+        zählen(person, 1);
+        if (verstoß == 0) // of several only one, since two could be the same
+            verstoß = VerstoßMindestens(zug, platz, person, strenge);
+    }
+    for (std::size_t k = 0; k < personenzahl; ++k) {
+        const auto &[person, mehr] = personen.at(k);
+        const std::int64_t vorher = Über(person);
+        const std::int64_t nachher = vorher + mehr * std::int64_t{1000};
+        summe += 1e-6 * static_cast<double>(nachher * nachher) -
+                 Energie(personenkosten[Nr(person)], strenge);
+    }
+    return summe + verstoß;
 }
 
 Plankosten Besetzung::Ziehen(const Zug &zug)
@@ -162,143 +188,6 @@ void Besetzung::Zurück()
     for (std::size_t k = 0; k < altePersonenzahl; ++k)
         personenkosten[Nr(altePersonen[k].Nr)] = altePersonen[k].Kosten;
     gesamt = altesGesamt;
-}
-
-/// What holds for a place whoever stands in the others.
-void Besetzung::PlatzRechnen(int platz, Plankosten &kosten) const
-{
-    const Aufgabe::Platz &p = aufgabe.PlatzNr(platz);
-    const int wen = Wer(platz);
-    if (wen < 0) {
-        if (p.Frei)
-            Verstoß(kosten, Schwerer);
-    } else if (!aufgabe.Kann(platz, wen)) {
-        Verstoß(kosten, Schwerer);
-    }
-    if (p.Anfangs >= 0 && wen != p.Anfangs)
-        kosten.Unruhe += JeWechsel;
-}
-
-bool Besetzung::StehtDavor(const Aufgabe::Termin &termin, int platz) const
-{
-    return std::find(wer.begin() + termin.Von, wer.begin() + platz, Wer(platz)) !=
-           wer.begin() + platz;
-}
-
-/// Whether the wish partner could be there but does not stand beside.
-bool Besetzung::IstPartnerFern(const Aufgabe::Termin &termin, int platz) const
-{
-    const int partner = aufgabe.Personen[Nr(Wer(platz))].Partner;
-    return partner >= 0 && termin.Weg[Nr(partner)] == 0 &&
-           (platz == termin.Von || Wer(platz - 1) != partner) &&
-           (platz + 1 == termin.Bis || Wer(platz + 1) != partner);
-}
-
-Plankosten Besetzung::TerminRechnen(int termin) const
-{
-    const Aufgabe::Termin &t = aufgabe.Termine[Nr(termin)];
-    Plankosten kosten;
-    if (aufgabe.FürDiener())
-        DienerRechnen(t, kosten);
-    else
-        HelferRechnen(t, kosten);
-    return kosten;
-}
-
-void Besetzung::DienerRechnen(const Aufgabe::Termin &termin, Plankosten &kosten) const
-{
-    constexpr int Bestimmende = 3; // slots that set the height reference, if all are filled
-    const Plantabellen &t = aufgabe.Tabellen;
-    Laufstand stand;
-    bool hatBezug = true;
-    for (int p = termin.Von; p < termin.Bis; ++p) {
-        PlatzRechnen(p, kosten);
-        const int slot = aufgabe.PlatzNr(p).Wo.Nr;
-        const int wen = Wer(p);
-        if (wen < 0) {
-            hatBezug = hatBezug && slot > Bestimmende;
-            continue;
-        }
-        if (hatBezug) {
-            if (GrößePrüfen({t.Diener, wen}, {t.Messen, t.Einstellungen, termin.Satz, slot},
-                            stand) != Grund::Keiner)
-                kosten.Hinweise += FalscheGröße;
-            stand.MittelGröße = MittelGrößeNach(slot, t.Diener.Größe[wen], stand.MittelGröße);
-        }
-        if (slot % 2 == 0 && Wer(p - 1) >= 0 && aufgabe.Paarweise[Nr(Wer(p - 1))][Nr(wen)] == 0) {
-            if (aufgabe.SindWunschpartner(Wer(p - 1), wen))
-                kosten.Hinweise += GemischtesWunschpaar;
-            else
-                Verstoß(kosten, Leichter);
-        }
-        if (StehtDavor(termin, p))
-            Verstoß(kosten, Schwerer);
-        kosten.Getrennt += IstPartnerFern(termin, p);
-    }
-}
-
-void Besetzung::HelferRechnen(const Aufgabe::Termin &termin, Plankosten &kosten) const
-{
-    for (int p = termin.Von; p < termin.Bis; ++p) {
-        PlatzRechnen(p, kosten);
-        const int wen = Wer(p);
-        if (wen >= 0 && StehtDavor(termin, p))
-            Verstoß(kosten, Schwerer);
-        if (wen >= 0 && aufgabe.KreisVon(p).Nennt[Nr(wen)] == 0)
-            kosten.Hinweise += FremderDienst;
-    }
-}
-
-/// Whether a service keeps the same person from another one later.
-bool Besetzung::IstGesperrtNach(int zuvor, int platz) const
-{
-    const int früher = aufgabe.PlatzNr(zuvor).Termin;
-    const int später = aufgabe.PlatzNr(platz).Termin;
-    return früher != später &&
-           IstGesperrt(aufgabe.Termine[Nr(früher)].Tag, aufgabe.Termine[Nr(später)].Tag);
-}
-
-Plankosten Besetzung::PersonRechnen(int person) const
-{
-    Plankosten kosten;
-    const std::vector<int> &plätze = Dienste(person);
-    std::array<int, Dienstarten.size()> jeDienst{};
-    for (std::size_t k = 0; k < plätze.size(); ++k) {
-        ++jeDienst[Nr(aufgabe.PlatzNr(plätze[k]).Dienst)];
-        if (k == 0 || !IstGesperrtNach(plätze[k - 1], plätze[k]))
-            continue;
-        if (aufgabe.FürDiener())
-            Verstoß(kosten, Leichter);
-        else
-            ++kosten.Hinweise;
-    }
-    const std::int64_t über = Über(person);
-    kosten.Ungleich = über * über;
-    for (const int zahl : jeDienst)
-        kosten.Unruhe += JeDienstart * zahl * zahl;
-    kosten.Unruhe += Abstände(plätze);
-    return kosten;
-}
-
-/// `JeAbstand` if the services are as far apart as the plan is long, with half a gap at both ends.
-std::int64_t Besetzung::Abstände(const std::vector<int> &plätze) const
-{
-    if (plätze.empty())
-        return 0;
-    const auto tag = [&](int platz) {
-        return static_cast<std::int64_t>(aufgabe.Termine[Nr(aufgabe.PlatzNr(platz).Termin)].Tag);
-    };
-    const auto erster = static_cast<std::int64_t>(aufgabe.Termine.front().Tag);
-    const auto letzter = static_cast<std::int64_t>(aufgabe.Termine.back().Tag);
-    const std::int64_t länge = letzter - erster + 1;
-    const std::int64_t anfang = tag(plätze.front()) - erster;
-    const std::int64_t ende = letzter - tag(plätze.back());
-    std::int64_t quadrate = 2 * (anfang * anfang + ende * ende);
-    for (std::size_t k = 1; k < plätze.size(); ++k) {
-        const std::int64_t abstand = tag(plätze[k]) - tag(plätze[k - 1]);
-        quadrate += abstand * abstand;
-    }
-    return JeAbstand * quadrate * static_cast<std::int64_t>(plätze.size()) / (länge * länge);
 }
 
 } // namespace altardienst

@@ -3,34 +3,13 @@
 #pragma once
 
 #include "fairness/Besetzungsaufgabe.h"
+#include "fairness/Plankosten.h"
 
 #include <array>
-#include <compare>
 #include <cstdint>
-#include <tuple>
 #include <vector>
 
 namespace altardienst {
-
-/// What is wrong with a plan, the gravest first. All whole numbers, so that a move forth and back
-/// leaves no trace.
-struct Plankosten {
-    std::int64_t Verstöße = 0;
-    std::int64_t Schwere = 0;  // an empty place weighs more than a name against a rule
-    std::int64_t Hinweise = 0; // what the check calls worth a look
-    std::int64_t Ungleich = 0; // squared deviations from the due shares, in millionths
-    std::int64_t Getrennt = 0; // services whose wish partner does not stand beside
-    std::int64_t Unruhe = 0;   // uneven gaps, always the same service, changed names
-
-    friend bool operator==(const Plankosten &, const Plankosten &) = default;
-    friend auto operator<=>(const Plankosten &a, const Plankosten &b)
-    {
-        return std::tie(a.Verstöße, a.Schwere, a.Hinweise, a.Ungleich, a.Getrennt, a.Unruhe) <=>
-               std::tie(b.Verstöße, b.Schwere, b.Hinweise, b.Ungleich, b.Getrennt, b.Unruhe);
-    }
-    Plankosten &operator+=(const Plankosten &b);
-    Plankosten &operator-=(const Plankosten &b);
-};
 
 class Besetzung {
   public:
@@ -55,6 +34,8 @@ class Besetzung {
     int Wer(int platz) const { return wer[static_cast<std::size_t>(platz)]; }
     const std::vector<int> &Alle() const { return wer; }
     const Plankosten &Kosten() const { return gesamt; }
+    int Termin(int platz) const { return termine[static_cast<std::size_t>(platz)]; }
+    Datum Tag(int platz) const { return tage[static_cast<std::size_t>(platz)]; }
     /// The places of a person in the order of time.
     const std::vector<int> &Dienste(int person) const
     {
@@ -75,6 +56,9 @@ class Besetzung {
         return person >= 0 && personenkosten[static_cast<std::size_t>(person)].Verstöße > 0;
     }
 
+    /// By how much the energy grows at least with a move: quickly found, and enough to do without
+    /// most of those that come to nothing.
+    double MehrMindestens(const Zug &zug, double strenge) const;
     /// Makes a move; returns the costs before it.
     Plankosten Ziehen(const Zug &zug);
     /// Takes back the last move.
@@ -88,6 +72,7 @@ class Besetzung {
     void DienerRechnen(const Besetzungsaufgabe::Termin &termin, Plankosten &kosten) const;
     void HelferRechnen(const Besetzungsaufgabe::Termin &termin, Plankosten &kosten) const;
     bool IstGesperrtNach(int zuvor, int platz) const;
+    double VerstoßMindestens(const Zug &zug, int platz, int person, double strenge) const;
     void PlatzRechnen(int platz, Plankosten &kosten) const;
     bool StehtDavor(const Besetzungsaufgabe::Termin &termin, int platz) const;
     bool IstPartnerFern(const Besetzungsaufgabe::Termin &termin, int platz) const;
@@ -96,6 +81,8 @@ class Besetzung {
     void Betroffen(const Zug &zug);
 
     const Besetzungsaufgabe &aufgabe;
+    std::vector<int> termine; // of the places
+    std::vector<Datum> tage;
     std::vector<int> wer;
     std::vector<std::vector<int>> dienste;
     std::vector<Plankosten> terminkosten;

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstdlib>
 #include <map>
 
 namespace altardienst {
@@ -102,6 +104,23 @@ class Leser {
                         {tabellen.Messen, tabellen.Einstellungen, 0, ZweiterImPaar},
                         {.LetztesGeschlecht = tabellen.Diener.Geschlecht[static_cast<int>(a)]}) ==
                     Grund::Keiner;
+    }
+
+    /// With a tolerance without limits everybody fits, as the check has it; the draw fails there.
+    void GrößenLesen()
+    {
+        if (!aufgabe.FürDiener() || aufgabe.Personen.empty())
+            return;
+        const int spielraum = tabellen.Einstellungen.DiffGröße;
+        int kleinste = INT16_MAX;
+        int größte = INT16_MIN;
+        for (int j = 0; j < static_cast<int>(aufgabe.Personen.size()); ++j) {
+            kleinste = std::min<int>(kleinste, tabellen.Diener.Größe[j]);
+            größte = std::max<int>(größte, tabellen.Diener.Größe[j]);
+        }
+        aufgabe.GrößeZählt = spielraum < größte - kleinste &&
+                             größte + std::abs(spielraum) <= INT16_MAX &&
+                             kleinste - std::abs(spielraum) >= INT16_MIN;
     }
 
     /// How many services on dates of which none blocks another each person could do.
@@ -248,6 +267,7 @@ Besetzungsaufgabe AufgabeLesen(const Plantabellen &tabellen, Planplatz::Art art,
     leser.PersonenLesen(bisher);
     leser.TermineLesen();
     leser.PaareLesen();
+    leser.GrößenLesen();
     leser.HöchstzahlenRechnen();
     AnteileRechnen(aufgabe);
     return aufgabe;

@@ -53,6 +53,7 @@ struct Besetzungsaufgabe {
     std::vector<Personenkreis> Kreise;
     std::vector<Person> Personen;             // by record
     std::vector<std::vector<char>> Paarweise; // servers, by record: 1 where two may form a pair
+    bool GrößeZählt = false; // whether a server could be too tall or too small for his mass
 
     bool FürDiener() const { return Art == Planplatz::Art::Diener; }
     const Platz &PlatzNr(int platz) const { return Plätze[static_cast<std::size_t>(platz)]; }

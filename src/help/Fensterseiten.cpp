@@ -26,8 +26,13 @@ const std::map<Text, Text> &Fensterseiten()
         {"Verteilung", "gerechter-plan.md#verteilung"},
         {"Archiv", "gerechter-plan.md#das-archiv"},
 
+        {"Dienstzettel", "weitergeben.md#dienstzettel"},
+        {"EMail", "weitergeben.md#e-mail"},
         {"Kalender", "weitergeben.md#kalender"},
         {"Webseite", "weitergeben.md#webseite"},
+
+        {"Tabellen", "weitergeben.md#tabellen"},
+        {"Einlesen", "weitergeben.md#einlesen"},
 
         {"Meßdiener", "leute.md#messdiener"},
         {"NeuMeßdiener", "leute.md#neuer-messdiener"},

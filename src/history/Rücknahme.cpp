@@ -53,16 +53,30 @@ struct Blickfeld {
 
 Blickfeld blickfeld;
 
-/// Returns the name of the step that was taken back or repeated; empty: there was none in sight.
-Text Gegangen(bool zurück)
+/// The step that was taken back or repeated.
+struct Gang {
+    Text Name;                      // empty: there was none in sight
+    std::function<void()> Abschluß; // empty: nothing is left to do
+};
+
+Gang Gegangen(bool zurück)
 {
     TabellenBeobachten();
     blickfeld.Folgen();
-    Text name;
-    if (blickfeld.Erlaubt(zurück))
-        name = zurück ? SchrittZurücknehmen() : SchrittWiederholen();
+    Gang gang;
+    if (blickfeld.Erlaubt(zurück)) {
+        if (BeimGehen)
+            gang.Abschluß = BeimGehen();
+        gang.Name = zurück ? SchrittZurücknehmen() : SchrittWiederholen();
+    }
     blickfeld.Folgen();
-    return name;
+    return gang;
+}
+
+void Abschließen(const Gang &gang)
+{
+    if (gang.Abschluß && !gang.Name.empty())
+        gang.Abschluß();
 }
 
 /// A form that blocks the main window.
@@ -103,10 +117,12 @@ void GehenIn(Einzelform &eine, bool zurück)
 {
     if (Gezeigt::Texte(eine.Form) != eine.Schirm)
         eine.Handler.Ablegen();
-    if (Gegangen(zurück).empty())
+    const Gang gang = Gegangen(zurück);
+    if (gang.Name.empty())
         return;
     eine.Handler.Erneuern();
     Merken(eine);
+    Abschließen(gang);
 }
 
 class Mitschreiber : public QObject {
@@ -204,12 +220,17 @@ Mitschreiber *Mitschreiber::jetziger = nullptr;
 void Gehen(bool zurück)
 {
     HauptfensterHandelt([zurück] {
-        if (const Text name = Gegangen(zurück); !name.empty())
-            Mitteilen((zurück ? "rückgängig gemacht: " : "wiederholt: ") + name);
+        const Gang gang = Gegangen(zurück);
+        if (gang.Name.empty())
+            return;
+        Mitteilen((zurück ? "rückgängig gemacht: " : "wiederholt: ") + gang.Name);
+        Abschließen(gang);
     });
 }
 
 } // namespace
+
+std::function<std::function<void()>()> BeimGehen;
 
 void SchritteMitschreiben(QObject *eigner, const std::function<void()> &zeigen)
 {

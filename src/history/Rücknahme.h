@@ -18,6 +18,10 @@ namespace altardienst {
 /// they take back only what was done since.
 void SchritteMitschreiben(QObject *eigner, const std::function<void()> &zeigen);
 
+/// Runs before a step is taken back or repeated; what it returns, if anything, runs once that is
+/// done and told. By default nothing.
+extern std::function<std::function<void()>()> BeimGehen;
+
 /// A form that blocks the main window.
 struct Schrittform {
     std::function<QString()> Satz;  // which record it shows

@@ -6,17 +6,13 @@
 
 #include <map>
 #include <set>
+#include <unordered_set>
 
 namespace altardienst {
 namespace {
 
 /// First names with all surnames that occur with them.
 using Namen = std::map<Text, std::set<Text>>;
-
-Text Schlüssel(const Text &vorname, const Text &nachname)
-{
-    return vorname + '\n' + nachname;
-}
 
 /// The surname shortened to so many characters.
 Text Gekürzt(const Text &vorname, const Text &nachname, int zeichen)
@@ -34,28 +30,22 @@ int Gemeinsam(const Text &a, const Text &b)
     return zeichen;
 }
 
-void Aufnehmen(Namen &namen, const Text &vorname, const Text &nachname)
-{
-    if (!vorname.empty() || !nachname.empty())
-        namen[vorname].insert(nachname);
-}
-
-template <class Tabelle> void AlleAufnehmen(Namen &namen, const Tabelle &personen)
+template <class Tabelle, class F> void AlleAufnehmen(const Tabelle &personen, F aufnehmen)
 {
     for (int j = 0; j < personen.Anzahl && j <= Tabelle::HöchsterIndex; ++j)
-        Aufnehmen(namen, personen.Vorname[j], personen.Nachname[j]);
+        aufnehmen(personen.Vorname[j], personen.Nachname[j]);
 }
 
-void PlätzeAufnehmen(Namen &namen, const MesseTabelle &messen, int messe)
+template <class F> void PlätzeAufnehmen(const MesseTabelle &messen, int messe, F aufnehmen)
 {
-    const auto aufnehmen = [&](Planplatz platz) {
-        const auto &[vorname, nachname] = NameAm(messen, platz);
-        Aufnehmen(namen, vorname, nachname);
+    const auto platz = [&](Planplatz einer) {
+        const auto &[vorname, nachname] = NameAm(messen, einer);
+        aufnehmen(vorname, nachname);
     };
     for (int slot = 1; slot <= MesseTabelle::HöchsterSlot; ++slot)
-        aufnehmen(Dienerplatznr(messe, slot));
+        platz(Dienerplatznr(messe, slot));
     for (int nr = 0; nr < static_cast<int>(Helferplätze.size()); ++nr)
-        aufnehmen(Helferplatznr(messe, nr));
+        platz(Helferplatznr(messe, nr));
 }
 
 } // namespace
@@ -63,10 +53,16 @@ void PlätzeAufnehmen(Namen &namen, const MesseTabelle &messen, int messe)
 void Kurznamen::Neu(const Plantabellen &tabellen)
 {
     Namen namen;
-    AlleAufnehmen(namen, tabellen.Diener);
-    AlleAufnehmen(namen, tabellen.Helferinnen);
+    // Most names come often, and are soon found here.
+    std::unordered_set<Namenspaar, Namenspaarhash> bekannt;
+    const auto aufnehmen = [&](const Text &vorname, const Text &nachname) {
+        if ((!vorname.empty() || !nachname.empty()) && bekannt.insert({vorname, nachname}).second)
+            namen[vorname].insert(nachname);
+    };
+    AlleAufnehmen(tabellen.Diener, aufnehmen);
+    AlleAufnehmen(tabellen.Helferinnen, aufnehmen);
     for (int messe = 0; messe < tabellen.Messenzahl(); ++messe)
-        PlätzeAufnehmen(namen, tabellen.Messen, messe);
+        PlätzeAufnehmen(tabellen.Messen, messe, aufnehmen);
     kurz.clear();
     for (const auto &[vorname, nachnamen] : namen)
         for (auto name = nachnamen.begin(); name != nachnamen.end(); ++name) {
@@ -77,14 +73,14 @@ void Kurznamen::Neu(const Plantabellen &tabellen)
             if (std::next(name) != nachnamen.end())
                 zeichen = std::max(zeichen, Gemeinsam(*name, *std::next(name)));
             const bool ungekürzt = vorname.empty() || IstGruppe(tabellen.Gruppen, {vorname, *name});
-            kurz[Schlüssel(vorname, *name)] =
+            kurz[{vorname, *name}] =
                 ungekürzt ? VollerName(vorname, *name) : Gekürzt(vorname, *name, zeichen + 1);
         }
 }
 
 Text Kurznamen::Von(const Text &vorname, const Text &nachname) const
 {
-    const auto gefunden = kurz.find(Schlüssel(vorname, nachname));
+    const auto gefunden = kurz.find(Namenspaar(vorname, nachname));
     return gefunden != kurz.end() ? gefunden->second : Gekürzt(vorname, nachname, 1);
 }
 

@@ -1,10 +1,9 @@
 // Names where there is little room.
 #pragma once
 
+#include "overview/Namenspaar.h"
 #include "overview/Plantabellen.h"
 #include "values/Text.h"
-
-#include <unordered_map>
 
 namespace altardienst {
 
@@ -20,7 +19,7 @@ class Kurznamen {
     Text Von(const Text &vorname, const Text &nachname) const;
 
   private:
-    std::unordered_map<Text, Text> kurz; // by both names, with a line break between them
+    Namenspaare<Text> kurz;
 };
 
 } // namespace altardienst

@@ -4,24 +4,15 @@
 #include "controls/Bausteine.h"
 #include "core/Umwandlung.h"
 #include "overview/Planwege.h"
+#include "overview/Planwoche.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace altardienst {
 namespace {
 
-constexpr int Wochentage = 7;
 constexpr int TagUndMonat = 6; // "28.11.": no plan is longer than half a year
-
-/// Weeks begin with the weekday on which plans do, so that a vigil stands with its Sunday. Day 0 is
-/// a Saturday, the seventh weekday.
-int WocheVon(Datum tag)
-{
-    const int erster = std::clamp<int>(Konfig.StartWochentag, 1, Wochentage);
-    return static_cast<int>(std::floor((std::floor(tag) - erster) / Wochentage));
-}
 
 /// A date that no calendar has must not keep the plan from being shown.
 template <class F> QString OderFragezeichen(F text)
@@ -126,7 +117,7 @@ Planreihe Planinhalt::ReiheBauen(int messe, const std::vector<Planspalte> &spalt
     reihe.Kopf[Planreihe::Art] = Anzeige(Messe.Messeart[messe]);
     if (HatFestenEintrag(messe))
         reihe.Kopf[Planreihe::Fest] = "fest";
-    reihe.Woche = WocheVon(tag);
+    reihe.Woche = Planwoche(Konfig, tag);
     reihe.Zellen.reserve(spalten.size());
     for (const Planspalte &spalte : spalten)
         reihe.Zellen.push_back(ZelleBauen({messe, spalte.Was, spalte.Nr}));

@@ -7,9 +7,9 @@
 
 #include <QFile>
 #include <QFontDatabase>
-#include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPainter>
+#include <QPen>
 
 #include <algorithm>
 #include <filesystem>
@@ -112,6 +112,14 @@ void DruckerQt::FontSize(int punkte)
     schriftGeändert = true;
 }
 
+void DruckerQt::FontSizeFein(Single punkte)
+{
+    if (!(punkte >= 1 && punkte <= 2160))
+        Druckerfehler();
+    schrift.setPointSizeF(static_cast<double>(punkte));
+    schriftGeändert = true;
+}
+
 void DruckerQt::FontBold(bool an)
 {
     schrift.setBold(an);
@@ -154,6 +162,33 @@ Single DruckerQt::CurrentY() const
 Single DruckerQt::Height() const
 {
     return richtung == Querformat ? KurzeSeite : LangeSeite;
+}
+
+Single DruckerQt::Width() const
+{
+    return richtung == Querformat ? LangeSeite : KurzeSeite;
+}
+
+QFontMetricsF DruckerQt::Maße() const
+{
+    if (!drucker)
+        Druckerfehler();
+    return {schrift, drucker.get()};
+}
+
+double DruckerQt::TwipsProPunkt() const
+{
+    return TwipsProZoll / drucker->resolution();
+}
+
+Single DruckerQt::TextWidth(const Text &text) const
+{
+    return static_cast<Single>(Maße().horizontalAdvance(Anzeige(text)) * TwipsProPunkt());
+}
+
+Single DruckerQt::TextHeight() const
+{
+    return static_cast<Single>(Maße().lineSpacing() * TwipsProPunkt());
 }
 
 void DruckerQt::Orientation(int neu)
@@ -199,10 +234,9 @@ void DruckerQt::SchriftSetzen()
     if (!schriftGeändert)
         return;
     Zeichnen([schrift = schrift](QPainter &stift) { stift.setFont(schrift); });
-    const QFontMetricsF maße(schrift, drucker.get());
-    const double twips = TwipsProZoll / drucker->resolution();
-    zeilenhöhe = maße.lineSpacing() * twips;
-    oberlänge = maße.ascent() * twips;
+    const QFontMetricsF maße = Maße();
+    zeilenhöhe = maße.lineSpacing() * TwipsProPunkt();
+    oberlänge = maße.ascent() * TwipsProPunkt();
     schriftGeändert = false;
 }
 
@@ -215,6 +249,19 @@ void DruckerQt::Print(const Text &text)
     });
     y += static_cast<Single>(zeilenhöhe);
     x = 0;
+}
+
+void DruckerQt::Line(const Druckstrich &strich)
+{
+    Zeichnen([strich](QPainter &stift) {
+        const double punkte = PunkteProTwip(stift);
+        stift.save();
+        stift.setPen(QPen(Qt::black, strich.Breite * punkte,
+                          strich.Gestrichelt ? Qt::DashLine : Qt::SolidLine, Qt::FlatCap));
+        stift.drawLine(QPointF(strich.VonX, strich.VonY) * punkte,
+                       QPointF(strich.BisX, strich.BisY) * punkte);
+        stift.restore();
+    });
 }
 
 void DruckerQt::Picture(const Druckbild &bild)

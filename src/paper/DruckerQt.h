@@ -4,6 +4,7 @@
 #include "platform/Drucker.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPicture>
 #include <QPrinter>
 #include <QString>
@@ -63,6 +64,7 @@ class DruckerQt : public DruckerDienst {
     std::vector<Text> Schriften() const override;
     void FontName(const Text &name) override;
     void FontSize(int punkte) override;
+    void FontSizeFein(Single punkte) override;
     void FontBold(bool an) override;
     void FontItalic(bool an) override;
     void FontStrikethru(bool an) override;
@@ -71,8 +73,12 @@ class DruckerQt : public DruckerDienst {
     void CurrentY(Single y) override;
     Single CurrentY() const override;
     Single Height() const override;
+    Single Width() const override;
+    Single TextWidth(const Text &text) const override;
+    Single TextHeight() const override;
     void Orientation(int richtung) override;
     void Print(const Text &text) override;
+    void Line(const Druckstrich &strich) override;
     void Picture(const Druckbild &bild) override;
     void NewPage() override;
     void EndDoc() override;
@@ -84,6 +90,8 @@ class DruckerQt : public DruckerDienst {
 
     void Zeichnen(Zeichnung zeichnung);
     void SchriftSetzen();
+    QFontMetricsF Maße() const;
+    double TwipsProPunkt() const;
     void Beginnen();
     void SeitenAusgeben();
     void Beenden(Druckausgang::Art ende);

@@ -12,19 +12,6 @@
 #include <QHBoxLayout>
 
 namespace altardienst {
-namespace {
-
-constexpr int MeisteGruppen = 60; // fewer than can be browsed to in the editor
-
-bool GibtEs(const Text &bezeichnung)
-{
-    for (int i = 0; i < Gruppe.Anzahl; ++i)
-        if (Gruppe.Bezeichnung[i] == bezeichnung)
-            return true;
-    return false;
-}
-
-} // namespace
 
 NeuGruppeForm::NeuGruppeForm(std::function<void(bool)> danach)
     : Anlegefenster(std::move(danach)), GBezeichnung(Gruppenfeld())
@@ -55,7 +42,7 @@ void NeuGruppeForm::Anlegen()
 {
     if (Gruppe.Anzahl >= MeisteGruppen)
         return Meldungen.Zeigen("Maximale Anzahl Datensätze für Gruppen erreicht!!");
-    if (GibtEs(TextVon(GBezeichnung)))
+    if (GibtEsGruppe(TextVon(GBezeichnung)))
         return Meldungen.Zeigen("Doppelt eingeben! Nicht mit mir!!!!!");
     GruppeAnlegen(TextVon(GBezeichnung));
     Fertig();

@@ -3,13 +3,13 @@
 
 #include "controls/Bausteine.h"
 #include "core/tables.h"
+#include "people/Personen.h"
 #include "platform/Meldungen.h"
 
 namespace altardienst {
 namespace {
 
-constexpr int MeisteMeßdiener = 200; // fewer than can be browsed to in the editor
-constexpr int ÜblicheGröße = 150;    // cm
+constexpr int ÜblicheGröße = 150; // cm
 
 } // namespace
 

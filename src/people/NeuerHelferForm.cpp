@@ -5,15 +5,10 @@
 #include "controls/Handler.h"
 #include "core/tables.h"
 #include "people/HelferForm.h"
+#include "people/Personen.h"
 #include "platform/Meldungen.h"
 
 namespace altardienst {
-namespace {
-
-constexpr int MeisteHelfer = 200;
-
-} // namespace
-
 NeuerHelferForm::NeuerHelferForm(std::function<void(bool)> danach)
     : Anlegefenster(std::move(danach)),
       Person({"Vorne", "Hinten", "Weg", "PLZetus", "Wohort", "Anruf", "Mailen"}),

@@ -59,6 +59,14 @@ bool IstAndereGruppe(int i, const Text &bezeichnung)
     return false;
 }
 
+bool GibtEsGruppe(const Text &bezeichnung)
+{
+    for (int i = 0; i < Gruppe.Anzahl; ++i)
+        if (Gruppe.Bezeichnung[i] == bezeichnung)
+            return true;
+    return false;
+}
+
 void MeßdienerUmbenennen(int i, const Personenname &neu)
 {
     const Personenname alt = NameVon(Meßdiener, i);

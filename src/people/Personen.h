@@ -7,6 +7,11 @@
 
 namespace altardienst {
 
+// What is added as a record of its own is added up to these numbers; the editors take more.
+constexpr int MeisteMeßdiener = 200;
+constexpr int MeisteHelfer = 200;
+constexpr int MeisteGruppen = 60;
+
 /// Both names of a person, compared exactly.
 struct Personenname {
     Text Vorname;
@@ -21,6 +26,9 @@ struct Personenname {
 bool IstAndererMeßdiener(int i, const Personenname &name);
 bool IstAndererHelfer(int i, const Personenname &name);
 bool IstAndereGruppe(int i, const Text &bezeichnung);
+
+/// Whether a group has this name.
+bool GibtEsGruppe(const Text &bezeichnung);
 
 // Writes a new name for record `i`, which still has the old one, to all places that name it. The
 // record itself keeps its name. Empty names of a person match nowhere: a name typed into the blank

@@ -1,8 +1,9 @@
-// The program that the desktop has for looking at a file.
+// The programs that the desktop has for files and links.
 #include "platform/Betrachter.h"
 
 namespace altardienst {
 
-BetrachterDienst Betrachter{[](const std::filesystem::path &) { return false; }};
+BetrachterDienst Betrachter{[](const std::filesystem::path &) { return false; },
+                            [](const Text &) { return false; }};
 
 } // namespace altardienst

@@ -1,5 +1,7 @@
-// The program that the desktop has for looking at a file.
+// The programs that the desktop has for files and links.
 #pragma once
+
+#include "values/Text.h"
 
 #include <filesystem>
 #include <functional>
@@ -9,6 +11,9 @@ namespace altardienst {
 struct BetrachterDienst {
     /// Opens a file with the desktop's program for its kind; false if there is none.
     std::function<bool(const std::filesystem::path &)> Öffnen;
+    /// Passes a link, written in ASCII, to the desktop's program for its kind, such as the mail
+    /// program; false if there is none.
+    std::function<bool(const Text &)> Verweis;
 };
 
 /// The service in use. Without windows nothing opens.

@@ -91,6 +91,13 @@ void Ausgeben(const fs::path &pfad, const char *art, std::string_view inhalt,
     Lebenszeichen();
 }
 
+/// Looked at before a file is opened: opening a pipe would wait for someone to write into it.
+void NurEineDatei(const fs::path &pfad)
+{
+    if (dateiwesen::Vorhanden(pfad) && !dateiwesen::IstDatei(pfad))
+        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
+}
+
 /// Whatever has a name and is no directory.
 bool IstDatei(const fs::path &pfad)
 {
@@ -102,9 +109,7 @@ bool IstDatei(const fs::path &pfad)
 std::string Lesen(const fs::path &wo)
 {
     const fs::path pfad = Systempfad(wo);
-    // Looked at before it is opened: opening a pipe would wait for someone to write into it.
-    if (dateiwesen::Vorhanden(pfad) && !dateiwesen::IstDatei(pfad))
-        throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
+    NurEineDatei(pfad);
     OffeneDatei datei = Öffnen(pfad, "rb");
     if (!datei)
         Gescheitert(errno, Laufzeitfehler::DateiNichtGefunden);
@@ -128,6 +133,15 @@ std::string Lesen(const fs::path &wo)
         if (inhalt.size() > GrößteDatei) // some files tell no size
             throw Laufzeitfehler(Laufzeitfehler::ZugriffVerweigert);
     }
+}
+
+std::uintmax_t Größe(const fs::path &wo)
+{
+    const fs::path pfad = Systempfad(wo);
+    NurEineDatei(pfad);
+    if (const auto größe = dateiwesen::Größe(pfad))
+        return *größe;
+    throw Laufzeitfehler(Laufzeitfehler::DateiNichtGefunden);
 }
 
 void Schreiben(const fs::path &pfad, std::string_view inhalt)

@@ -12,6 +12,7 @@ using std::filesystem::path;
 std::optional<Text> Suchen(const path &verzeichnis, const Text &name);
 Verzeichnisinhalt Auflisten(const path &verzeichnis);
 std::string Lesen(const path &pfad);
+std::uintmax_t Größe(const path &pfad);
 void Schreiben(const path &pfad, std::string_view inhalt);
 void Anhängen(const path &pfad, std::string_view inhalt);
 void Kopieren(const path &von, const path &nach);

@@ -13,6 +13,7 @@ class KeinDrucker : public DruckerDienst {
     std::vector<Text> Schriften() const override { return {}; }
     void FontName(const Text &) override {}
     void FontSize(int) override {}
+    void FontSizeFein(Single) override {}
     void FontBold(bool) override {}
     void FontItalic(bool) override {}
     void FontStrikethru(bool) override {}
@@ -21,8 +22,12 @@ class KeinDrucker : public DruckerDienst {
     void CurrentY(Single) override {}
     Single CurrentY() const override { return 0; }
     Single Height() const override { return 0; }
+    Single Width() const override { return 0; }
+    Single TextWidth(const Text &) const override { return 0; }
+    Single TextHeight() const override { return 0; }
     void Orientation(int) override {}
     void Print(const Text &) override { throw Laufzeitfehler(Laufzeitfehler::Druckerfehler); }
+    void Line(const Druckstrich &) override { throw Laufzeitfehler(Laufzeitfehler::Druckerfehler); }
     void Picture(const Druckbild &) override
     {
         throw Laufzeitfehler(Laufzeitfehler::Druckerfehler);

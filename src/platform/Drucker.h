@@ -26,6 +26,16 @@ struct Druckanfrage {
 /// A picture that fills a page; how it is drawn concerns only the code that makes and prints it.
 struct Druckbild;
 
+/// A straight line from one point to another, in twips.
+struct Druckstrich {
+    Single VonX;
+    Single VonY;
+    Single BisX;
+    Single BisY;
+    Single Breite;
+    bool Gestrichelt = false;
+};
+
 /// All lengths in twips (1440 to the inch) from the upper left corner of the paper. A document
 /// begins with the first page operation and ends with `EndDoc`. Every operation may raise failure
 /// 482 (Druckerfehler).
@@ -52,6 +62,8 @@ class DruckerDienst {
     // font is replaced by a similar one.
     virtual void FontName(const Text &name) = 0;
     virtual void FontSize(int punkte) = 0;
+    /// The same in fractions of a point, for type that is to fill its place.
+    virtual void FontSizeFein(Single punkte) = 0;
     virtual void FontBold(bool an) = 0;
     virtual void FontItalic(bool an) = 0;
     virtual void FontStrikethru(bool an) = 0;
@@ -64,6 +76,12 @@ class DruckerDienst {
 
     /// The height of the page in its current orientation.
     virtual Single Height() const = 0;
+    virtual Single Width() const = 0;
+
+    // How wide a text and how high a line is in the current font, between the dialog and the end of
+    // the document. Measuring puts nothing on the page.
+    virtual Single TextWidth(const Text &text) const = 0;
+    virtual Single TextHeight() const = 0;
 
     /// 1 portrait, 2 landscape; anything else is a printer error. Kept from report to report.
     virtual void Orientation(int richtung) = 0;
@@ -71,6 +89,9 @@ class DruckerDienst {
     /// Writes the text at the cursor and ends the line: the cursor goes down by the height of a
     /// line and to the left edge of the paper.
     virtual void Print(const Text &text) = 0;
+
+    /// Draws in black; the cursor stays where it is.
+    virtual void Line(const Druckstrich &strich) = 0;
 
     /// Puts the picture on the page, as large as it fits with the same margin on all sides.
     virtual void Picture(const Druckbild &bild) = 0;

@@ -208,6 +208,7 @@ LaufwerkeDienst Systemlaufwerke()
     dienst.Suchen = dateizugriff::Suchen;
     dienst.Auflisten = dateizugriff::Auflisten;
     dienst.Lesen = dateizugriff::Lesen;
+    dienst.Größe = dateizugriff::Größe;
     dienst.Schreiben = dateizugriff::Schreiben;
     dienst.Anhängen = dateizugriff::Anhängen;
     dienst.Kopieren = dateizugriff::Kopieren;

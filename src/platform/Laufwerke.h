@@ -48,6 +48,8 @@ struct LaufwerkeDienst {
     /// Only a file is read: a device, a pipe, or what is larger than `GrößteDatei` is failure 75,
     /// like a file that cannot be read. So no read is without end.
     std::function<std::string(const path &)> Lesen;
+    /// In bytes, of what `Lesen` would read, without reading it; fails where that would.
+    std::function<std::uintmax_t(const path &)> Größe;
     std::function<void(const path &, std::string_view)> Schreiben; // empties the file first
     std::function<void(const path &, std::string_view)> Anhängen;
 

@@ -139,8 +139,8 @@ void KopierForm::Anordnen()
     auto *spalte = Fensterspalte(this, Luft::Mittel);
     if (dialog.Anleitung) {
         const Text hindernis = Schreibhindernis();
-        QLabel *anleitung = Beschriftung(
-            "Anleitung", Anzeige(hindernis.empty() ? Text(dialog.Anleitung()) : hindernis));
+        const Text satz = hindernis.empty() ? dialog.Anleitung() : hindernis;
+        QLabel *anleitung = Beschriftung("Anleitung", satz.c_str());
         anleitung->setWordWrap(true);
         spalte->addWidget(anleitung);
     }

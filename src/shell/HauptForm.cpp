@@ -18,7 +18,12 @@
 #include "core/Sortierbefehle.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
+#include "exchange/Aushang.h"
+#include "exchange/DienstzettelForm.h"
+#include "exchange/EMailForm.h"
+#include "exchange/EinlesenForm.h"
 #include "exchange/KalenderForm.h"
+#include "exchange/TabellenForm.h"
 #include "exchange/WebseiteForm.h"
 #include "fairness/Archiv.h"
 #include "fairness/ArchivForm.h"
@@ -208,6 +213,14 @@ void ImArchivNachziehen(const Personenname &alt, const Personenname &neu, bool h
                   (dateien == 1 ? " Datei ist" : " Dateien sind") + " nicht zu ändern");
 }
 
+/// What had to be done to get everything onto the sheet is told.
+void AushangAbgeben()
+{
+    VorDemPlandruck();
+    if (const Text was = AushangDrucken(); !was.empty())
+        Mitteilen(was);
+}
+
 /// A save to the diskette fails silently: nothing is said of one that does not hold all eight
 /// files.
 void DisketteSpeichern()
@@ -267,6 +280,7 @@ HauptForm::~HauptForm()
 {
     ImPlanZeigen = nullptr;
     PersonUmbenannt = nullptr;
+    BeimGehen = nullptr;
     VorDemPlandruck = [] {};
 }
 
@@ -451,14 +465,19 @@ void HauptForm::MenüÜberblick()
     Eintrag(überblick, "mnuVerteilung", "&Verteilung", DialogÖffnen<VerteilungForm>);
     Eintrag(überblick, "mnuArchiv", "Ar&chiv", DialogÖffnen<ArchivForm>);
     MenüWeitergeben(überblick);
+    Eintrag(überblick, "mnuEinlesen", "&Einlesen", DialogÖffnen<EinlesenForm>);
     Eintrag(überblick, "mnuStände", "&Frühere Stände", DialogÖffnen<StändeForm>);
 }
 
 void HauptForm::MenüWeitergeben(QMenu *überblick)
 {
     QMenu *weitergeben = Menü(überblick, "mnuWeitergeben", "&Weitergeben");
+    Eintrag(weitergeben, "mnuAushang", "A&ushang", AushangAbgeben);
+    Eintrag(weitergeben, "mnuDienstzettel", "&Dienstzettel", DialogÖffnen<DienstzettelForm>);
     Eintrag(weitergeben, "mnuKalender", "&Kalender", DialogÖffnen<KalenderForm>);
     Eintrag(weitergeben, "mnuWebseite", "Web&seite", DialogÖffnen<WebseiteForm>);
+    Eintrag(weitergeben, "mnuEMail", "&E-Mail", DialogÖffnen<EMailForm>);
+    Eintrag(weitergeben, "mnuTabellen", "&Tabellen", DialogÖffnen<TabellenForm>);
 }
 
 void HauptForm::MenüHilfe()
@@ -506,6 +525,7 @@ void HauptForm::Verbinden()
     SchritteMitschreiben(this, Nebenbei([this] { SchritteZeigen(); }));
     VorDemPlandruck = PlanAufheben;
     PersonUmbenannt = ImArchivNachziehen;
+    BeimGehen = UmbenennungenVerfolgen;
     ImPlanZeigen = [this](const Text &vorname, const Text &nachname) {
         planEintrag->setChecked(true);
         Plan->PersonZeigen(vorname, nachname);

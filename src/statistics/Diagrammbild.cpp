@@ -114,6 +114,8 @@ Diagrammbild::Diagrammbild(const char *name, const char *titel)
 void Diagrammbild::BalkenZeigen(const Achse &klassen, const char *anzahltitel,
                                 const std::vector<int> &anzahl)
 {
+    zeichnung->clearPlottables(); // of an earlier time
+    zeichnung->clearItems();
     QCPAxis *xAxis = zeichnung->xAxis;
     QCPAxis *yAxis = zeichnung->yAxis;
     zeichnung->KlassenAnschreiben(xAxis, klassen);
@@ -138,6 +140,7 @@ void Diagrammbild::BalkenZeigen(const Achse &klassen, const char *anzahltitel,
         balken->addData(++stelle, wert);
         zeichnung->Schreiben(stelle, wert, wert, Qt::black, Qt::AlignHCenter | Qt::AlignBottom);
     }
+    zeichnung->replot(QCustomPlot::rpQueuedReplot);
 }
 
 void Diagrammbild::KreuztafelZeigen(const Achse &quer, const Achse &hoch,

@@ -21,8 +21,8 @@ class Diagrammbild : public QWidget {
         std::vector<Text> Klassen;
     };
 
-    /// A bar for each class with its count above it; the axis of the counts shows only whole
-    /// numbers.
+    /// A bar for each class with its count above it, in place of those shown before; the axis of
+    /// the counts shows only whole numbers.
     void BalkenZeigen(const Achse &klassen, const char *anzahltitel,
                       const std::vector<int> &anzahl);
 

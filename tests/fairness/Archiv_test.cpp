@@ -103,6 +103,16 @@ TEST_F(ArchivTest, LiestWasEineTabellenkalkulationDarausMacht)
     EXPECT_EQ(inhalt.Unlesbar, 1);
 }
 
+TEST_F(ArchivTest, EinZeilenumbruchInEinerMesseTrenntNichts)
+{
+    Messe.Messeart[0] = "Hochamt\r\nmit Chor";
+    PlanArchivieren();
+    EXPECT_EQ(ArchivLesen(Zeitraum).Dienste, DiensteDesPlans(GemeinsameTabellen()));
+    ImArchivUmbenennen({"Kim", "Adler"}, {"Kim", "Busch"}, false);
+    EXPECT_EQ(ArchivLesen(Zeitraum).Dienste[1].Messeart, "Hochamt\r\nmit Chor");
+    EXPECT_EQ(ArchivLesen(Zeitraum).Unlesbar, 0);
+}
+
 TEST_F(ArchivTest, ZähltDieMonateVorDemPlanNachPersonen)
 {
     PlanArchivieren();
@@ -132,8 +142,7 @@ TEST_F(ArchivTest, EinVerzeichnisAnSeinerStelleIstEinFehlerUndNichtsGehtVerloren
     fs::create_directories(Datei() / "etwas");
     EXPECT_NE(NummerDesFehlers([] { PlanArchivieren(); }), 0);
     EXPECT_TRUE(fs::exists(Datei() / "etwas"));
-    EXPECT_EQ(Laufwerke.Auflisten(Festplatte / "Archiv").Dateien,
-              std::vector{Archivname(Zeitraum)});
+    EXPECT_TRUE(Laufwerke.Auflisten(Festplatte / "Archiv").Dateien.empty());
     fs::remove_all(Festplatte / "Archiv");
     DateiSchreiben(Festplatte / "Archiv", "kein Verzeichnis");
     EXPECT_NE(NummerDesFehlers([] { PlanArchivieren(); }), 0);

@@ -13,6 +13,8 @@
 
 #include <chrono>
 #include <cmath>
+#include <cstdint>
+#include <set>
 
 namespace altardienst {
 namespace {
@@ -295,6 +297,148 @@ TEST_F(AusgleichTest, WunschpartnerStehenBeieinander)
     const Ausgleichsergebnis ergebnis = PlanAusgleichen(GemeinsameTabellen(), {});
     EXPECT_EQ(ergebnis.Diener.Nachher.Paare, 2);
     EXPECT_EQ(ergebnis.Diener.Nachher.Meiste, 2);
+}
+
+TEST_F(AusgleichTest, WasUngernGedientWirdBleibtAnderen)
+{
+    for (int j = 0; j < 4; ++j)
+        MeßdienerAnlegen("V" + std::to_string(j), "N");
+    for (const int j : {0, 1}) {
+        Meßdiener.Wochendienst[j] = "nnnjnnnn";     // not on Wednesdays
+        Meßdiener.Wochendienst[j + 2] = "jnnnnnnn"; // no service of the week
+    }
+    const Datum mittwoch = DatumAus({2026, 12, 2});
+    for (int woche = 0; woche < 8; ++woche) {
+        MesseMitDienern(mittwoch + 7 * woche, 1);
+        Messe.Messeart[MesseMitDienern(mittwoch + 7 * woche + 3, 1)] = "Wochendienst";
+    }
+    const Ausgleichsergebnis ergebnis = PlanAusgleichen(GemeinsameTabellen(), {});
+    EXPECT_EQ(ergebnis.Diener.Nachher.Verstöße, 0);
+    EXPECT_EQ(ergebnis.Diener.Nachher.Wenigste, 4);
+    for (const Platzwechsel &wechsel : ergebnis.Wechsel) {
+        const bool istMittwoch = Messe.Wochentag[wechsel.Wo.Messe] == "Mittwoch";
+        EXPECT_EQ(wechsel.VornameNachher >= "V2", istMittwoch) << wechsel.VornameNachher;
+    }
+}
+
+TEST_F(AusgleichTest, DieAbständeSindGleichmäßigUndJederDienstGehtReihum)
+{
+    for (int j = 0; j < 4; ++j)
+        MeßdienerAnlegen("V" + std::to_string(j), "N");
+    for (int woche = 0; woche < 8; ++woche)
+        Messe.Leuchter[MesseMitDienern(Beginn + 7 * woche, 2)] = 1;
+    const Ausgleichsergebnis ergebnis = PlanAusgleichen(GemeinsameTabellen(), {});
+    AusgleichÜbernehmen(ergebnis);
+    for (int j = 0; j < 4; ++j) {
+        int leuchter = 0;
+        std::vector<int> wochen;
+        for (int i = 0; i < 8; ++i)
+            for (int slot = 1; slot <= 2; ++slot)
+                if (Messe.DienerVor[i][slot] == Meßdiener.Vorname[j]) {
+                    wochen.push_back(i);
+                    leuchter += slot == 1;
+                }
+        ASSERT_EQ(wochen.size(), 4U) << j;
+        EXPECT_EQ(leuchter, 2) << j;
+        for (std::size_t k = 1; k < wochen.size(); ++k)
+            EXPECT_EQ(wochen[k] - wochen[k - 1], 2) << j;
+    }
+}
+
+TEST_F(AusgleichTest, EineAndereSaatGibtEinenAnderenPlan)
+{
+    BeispielLaden();
+    std::set<std::vector<Text>> pläne;
+    for (std::uint32_t saat = 1; saat <= 3; ++saat) {
+        std::vector<Text> namen;
+        for (const Platzwechsel &wechsel :
+             PlanAusgleichen(GemeinsameTabellen(), {.Saat = saat, .Aufwand = 0.1}).Wechsel)
+            namen.push_back(wechsel.VornameNachher + " " + wechsel.NachnameNachher);
+        pläne.insert(namen);
+    }
+    EXPECT_EQ(pläne.size(), 3U);
+}
+
+TEST_F(AusgleichTest, EineToleranzOhneGrenzenPaßtFürAlle)
+{
+    for (const int spielraum : {32767, -32768}) {
+        TabellenLeeren();
+        for (int j = 0; j < 4; ++j)
+            MeßdienerAnlegen("V" + std::to_string(j), "N", 120 + 20 * j);
+        for (int woche = 0; woche < 4; ++woche)
+            MesseMitDienern(Beginn + 7 * woche, 2);
+        Konfig.DiffGröße = spielraum;
+        const Ausgleichsergebnis ergebnis = PlanAusgleichen(GemeinsameTabellen(), {});
+        EXPECT_EQ(ergebnis.Diener.Nachher.Verstöße, 0) << spielraum;
+        EXPECT_EQ(ergebnis.Diener.Nachher.Wenigste, 2) << spielraum;
+        EXPECT_TRUE(ergebnis.Diener.Bewiesen) << spielraum;
+    }
+}
+
+TEST_F(AusgleichTest, WasÜbereinstimmtBehältSeineNamen)
+{
+    for (int j = 0; j < 6; ++j)
+        MeßdienerAnlegen("V" + std::to_string(j), "N");
+    for (int woche = 0; woche < 6; ++woche) {
+        const int messe = MesseMitDienern(Beginn + 7 * woche, 2);
+        for (int slot = 1; slot <= 2; ++slot) {
+            const int j = (2 * woche + slot - 1) % 6;
+            Besetzen(Messe, Dienerplatznr(messe, slot), Meßdiener.Vorname[j],
+                     Meßdiener.Nachname[j]);
+        }
+    }
+    // Everybody serves every third week: nothing could be better, and other plans are as good.
+    EXPECT_EQ(PlanAusgleichen(GemeinsameTabellen(), {}).Wechsel.size(), 0U);
+}
+
+TEST_F(AusgleichTest, NamenKehrenHeimWoEsNichtsKostet)
+{
+    for (int j = 0; j < 100; ++j)
+        MeßdienerAnlegen("V" + std::to_string(j), "N");
+    for (int j = 0; j < 99; ++j)
+        Besetzen(Messe, Dienerplatznr(MesseMitDienern(Beginn + 2 * j, 1), 1), Meßdiener.Vorname[j],
+                 Meßdiener.Nachname[j]);
+    MesseMitDienern(Beginn + 2 * 99, 1);
+    // All plans in which everybody serves once are equal: only the empty place needs a name.
+    EXPECT_EQ(PlanAusgleichen(GemeinsameTabellen(), {}).Wechsel.size(), 1U);
+}
+
+/// The most difficult case: far too few servers for a large plan.
+TEST_F(AusgleichTest, EsHörtSofortAufAuchWoNichtsZuRettenIst)
+{
+    for (int j = 0; j < 12; ++j)
+        MeßdienerAnlegen("V" + std::to_string(j), "N");
+    for (int messe = 0; messe < 300; ++messe)
+        MesseMitDienern(Beginn + messe, 12);
+    using Zeit = std::chrono::steady_clock;
+    const auto anfang = Zeit::now();
+    Zeit::time_point ende;
+    bool beendet = false;
+    const Ausgleichsergebnis ergebnis = PlanAusgleichen(
+        GemeinsameTabellen(),
+        {.Helfer = false, .Abbruch = [&] {
+             if (!beendet && Zeit::now() - anfang > std::chrono::milliseconds(300)) {
+                 beendet = true;
+                 ende = Zeit::now();
+             }
+             return beendet;
+         }});
+    ASSERT_TRUE(beendet);
+    EXPECT_TRUE(ergebnis.Abgebrochen);
+    const std::chrono::duration<double> gewartet = Zeit::now() - ende;
+    EXPECT_LT(gewartet.count(), 2) << "far more than it takes";
+}
+
+TEST_F(AusgleichTest, AuchBeimNachbessernFragtEsObEsAufhörenSoll)
+{
+    for (int j = 0; j < 12; ++j)
+        MeßdienerAnlegen("V" + std::to_string(j), "N");
+    for (int messe = 0; messe < 100; ++messe)
+        MesseMitDienern(Beginn + messe, 12);
+    int gefragt = 0;
+    PlanAusgleichen(GemeinsameTabellen(),
+                    {.Helfer = false, .Aufwand = 0.0001, .Abbruch = [&] { return ++gefragt < 0; }});
+    EXPECT_GT(gefragt, 100 * 12 * 3 / 2) << "once a place while it is filled, once later";
 }
 
 TEST_F(AusgleichTest, NenntDenPlatzFürDenNiemandDaIst)

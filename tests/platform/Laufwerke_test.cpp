@@ -107,7 +107,9 @@ TEST_F(LaufwerkeTest, NurDateienWerdenGelesen)
     ASSERT_EQ(mkfifo(röhre.c_str(), 0600), 0);
     alarm(20);
     for (const fs::path &pfad : {röhre, fs::path("/dev/zero"), fs::path("/dev/null")})
-        EXPECT_EQ(NummerDesFehlers([&] { System.Lesen(pfad); }), 75) << pfad;
+        for (const int nummer : {NummerDesFehlers([&] { System.Lesen(pfad); }),
+                                 NummerDesFehlers([&] { System.Größe(pfad); })})
+            EXPECT_EQ(nummer, 75) << pfad;
     fs::create_symlink("/dev/zero", Festplatte / "Messen.dat");
     EXPECT_EQ(NummerDesFehlers([&] { System.Lesen(Festplatte / "Messen.dat"); }), 75);
     EXPECT_EQ(
@@ -133,6 +135,8 @@ TEST_F(LaufwerkeTest, EineÜbergroßeDateiWirdNichtGelesen)
 {
     System.Schreiben(Festplatte / PfadAus("groß"), "");
     fs::resize_file(Festplatte / PfadAus("groß"), GrößteDatei + 1); // takes no space
+    EXPECT_EQ(System.Größe(Festplatte / PfadAus("groß")), GrößteDatei + 1);
+    EXPECT_EQ(NummerDesFehlers([&] { System.Größe(Festplatte / "fehlt"); }), 53);
     EXPECT_EQ(NummerDesFehlers([&] { System.Lesen(Festplatte / PfadAus("groß")); }), 75);
     EXPECT_EQ(
         NummerDesFehlers([&] { System.Kopieren(Festplatte / PfadAus("groß"), Festplatte / "x"); }),

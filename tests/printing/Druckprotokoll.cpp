@@ -56,6 +56,18 @@ void Druckprotokoll::FontName(const Text &name)
 void Druckprotokoll::FontSize(int punkte)
 {
     Schreiben("FontSize " + std::to_string(punkte));
+    größe = static_cast<Single>(punkte);
+}
+
+void Druckprotokoll::FontSizeFein(Single punkte)
+{
+    Schreiben("FontSizeFein " + Zahl(punkte));
+    größe = punkte;
+}
+
+Single Druckprotokoll::TextWidth(const Text &text) const
+{
+    return static_cast<Single>(Länge(text)) * 10 * größe;
 }
 
 void Druckprotokoll::FontBold(bool an)
@@ -98,6 +110,12 @@ void Druckprotokoll::Print(const Text &text)
 {
     Schreiben("Print \"" + text + "\"");
     y += Zeilenhöhe;
+}
+
+void Druckprotokoll::Line(const Druckstrich &strich)
+{
+    Schreiben("Line " + Zahl(strich.VonX) + " " + Zahl(strich.VonY) + " " + Zahl(strich.BisX) +
+              " " + Zahl(strich.BisY) + (strich.Gestrichelt ? " gestrichelt" : ""));
 }
 
 void Druckprotokoll::Picture(const Druckbild &)

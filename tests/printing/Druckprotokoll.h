@@ -7,7 +7,8 @@
 
 namespace altardienst {
 
-/// Every line of a page has the same height; nothing is laid out.
+/// Every line of a page has the same height; nothing is laid out. Where a report measures its
+/// texts, every character is half as wide as the type is high.
 class Druckprotokoll : public DruckerDienst {
   public:
     /// One operation per line, in the order received: `CurrentX 1000`, `Print "Text"`. Reading the
@@ -18,6 +19,7 @@ class Druckprotokoll : public DruckerDienst {
     std::vector<Text> Schriftarten; // the fonts of the printer
     Single Zeilenhöhe = 240;        // twips
     Single Seitenhöhe = 16838;      // twips
+    Single Seitenbreite = 11906;    // twips
     int FehlerBei = 0;              // the line of the log that fails, from 1; 0: none
 
     /// What the dialog was asked for last.
@@ -32,6 +34,7 @@ class Druckprotokoll : public DruckerDienst {
     std::vector<Text> Schriften() const override { return Schriftarten; }
     void FontName(const Text &name) override;
     void FontSize(int punkte) override;
+    void FontSizeFein(Single punkte) override;
     void FontBold(bool an) override;
     void FontItalic(bool an) override;
     void FontStrikethru(bool an) override;
@@ -40,8 +43,12 @@ class Druckprotokoll : public DruckerDienst {
     void CurrentY(Single neu) override;
     Single CurrentY() const override { return y; }
     Single Height() const override { return Seitenhöhe; }
+    Single Width() const override { return Seitenbreite; }
+    Single TextWidth(const Text &text) const override;
+    Single TextHeight() const override { return 1.2F * 20 * größe; }
     void Orientation(int richtung) override;
     void Print(const Text &text) override;
+    void Line(const Druckstrich &strich) override;
     void Picture(const Druckbild &bild) override;
     void NewPage() override;
     void EndDoc() override;
@@ -51,6 +58,7 @@ class Druckprotokoll : public DruckerDienst {
     void Schreiben(const Text &zeile);
 
     Single y = 0;
+    Single größe = 10; // of the current font, points
 };
 
 /// Builds the log expected from a report, piece by piece, with the settings of `Druckstand`.

@@ -103,6 +103,8 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
         "LISTE");
     const QCommandLineOption suche("suche", "look for this with \"Suchen\"", "TEXT");
     const QCommandLineOption text("text", "write the plan as text", "FILE");
+    const QCommandLineOption datei("datei", "the file that is chosen wherever one is to be chosen",
+                                   "FILE");
     const QCommandLineOption kalender("kalender", "write all masses as a calendar", "FILE");
     const QCommandLineOption jePerson("kalender-je-person", "write a calendar for each person",
                                       "DIR");
@@ -114,8 +116,8 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     const QCommandLineOption bilder("bilder", "save a picture of every window passed", "DIR");
     const QCommandLineOption antwort("antwort", "answer to every question", "ja|nein", "ja");
     zeile.addHelpOption();
-    zeile.addOptions({daten, heute, uhr, start, tage, saat, schritte, menü, suche, text, kalender,
-                      jePerson, webseite, pdf, berichte, bilder, antwort});
+    zeile.addOptions({daten, heute, uhr, start, tage, saat, schritte, menü, suche, text, datei,
+                      kalender, jePerson, webseite, pdf, berichte, bilder, antwort});
     zeile.process(*QCoreApplication::instance());
     const QStringList übrig = zeile.positionalArguments();
     if (!übrig.isEmpty()) // such as the rest of "1, 4, 5"
@@ -158,6 +160,9 @@ Auftrag AuftragLesen(QCommandLineParser &zeile)
     auftrag.Bilder = zeile.value(bilder);
 
     Laufwerke.Programmverzeichnis = [verzeichnis = auftrag.Daten] { return verzeichnis; };
+    if (zeile.isSet(datei))
+        Dateiwahl.Öffnen = Dateiwahl.Speichern =
+            [pfad = Pfad(zeile.value(datei))](QWidget *, const Dateiwunsch &) { return pfad; };
     if (zeile.isSet(heute))
         Uhr.Heute = [tag = DatumVon(zeile, heute)] { return tag; };
     if (zeile.isSet(uhr)) {

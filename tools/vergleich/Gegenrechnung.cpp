@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <sstream>
 #include <stdexcept>
 
@@ -179,20 +180,29 @@ std::string AlsProgramm(const Besetzungsaufgabe &aufgabe)
     return aus.str();
 }
 
-Gegenlösung Gegenrechnen(const Besetzungsaufgabe &aufgabe, int sekunden)
+Gegenlösung Gegenrechnen(const Besetzungsaufgabe &aufgabe, int sekunden,
+                         const fs::path &verzeichnis)
 {
-    const fs::path programm = fs::temp_directory_path() / "vergleich.lp";
-    const fs::path antwort = fs::temp_directory_path() / "vergleich.txt";
-    std::ofstream(programm) << AlsProgramm(aufgabe);
-    const std::string befehl =
-        "clingo --configuration=handy --time-limit=" + std::to_string(sekunden) + " " +
-        programm.string() + " > " + antwort.string() + " 2>&1";
-    // The exit code tells several things at once; what counts is the answer.
-    static_cast<void>(std::system(befehl.c_str()));
+    const std::string text = "% " + std::to_string(sekunden) + " seconds\n" + AlsProgramm(aufgabe);
+    const std::string name = std::to_string(std::hash<std::string>()(text));
+    const fs::path programm = verzeichnis / (name + ".lp");
+    const fs::path antwort = verzeichnis / (name + ".txt");
+    if (!fs::exists(antwort) || DateiLesen(programm) != text) {
+        std::ofstream(programm) << text;
+        const fs::path unfertig = verzeichnis / (name + ".neu");
+        const std::string befehl =
+            "clingo --configuration=handy --time-limit=" + std::to_string(sekunden) + " " +
+            programm.string() + " > " + unfertig.string() + " 2>&1";
+        // The exit code tells several things at once; what counts is the answer.
+        static_cast<void>(std::system(befehl.c_str()));
+        fs::rename(unfertig, antwort);
+    }
     Gegenlösung lösung;
     const std::string ausgabe = DateiLesen(antwort);
-    if (ausgabe.find("clingo version") == std::string::npos)
+    if (ausgabe.find("clingo version") == std::string::npos) {
+        fs::remove(antwort);
         throw std::runtime_error("clingo does not run: " + ausgabe);
+    }
     lösung.Sekunden = ZahlNach(ausgabe, "CPU Time     : ");
     lösung.Bewiesen = ausgabe.find("OPTIMUM FOUND") != std::string::npos;
     lösung.Gefunden = ausgabe.find("Answer:") != std::string::npos;

@@ -3,6 +3,7 @@
 
 #include "fairness/Besetzungsaufgabe.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -32,7 +33,9 @@ struct Gegenlösung {
 /// due shares.
 std::string AlsProgramm(const Besetzungsaufgabe &aufgabe);
 
-/// Runs the solver for at most so many seconds.
-Gegenlösung Gegenrechnen(const Besetzungsaufgabe &aufgabe, int sekunden);
+/// Runs the solver for at most so many seconds. Tasks and answers lie in the directory; an answer
+/// that is there already for the same task counts, and the solver does not run.
+Gegenlösung Gegenrechnen(const Besetzungsaufgabe &aufgabe, int sekunden,
+                         const std::filesystem::path &verzeichnis);
 
 } // namespace altardienst

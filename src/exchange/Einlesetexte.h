@@ -1,0 +1,35 @@
+// What the window that reads people in says.
+#pragma once
+
+#include "core/Tabellentext.h"
+#include "exchange/Einlesen.h"
+
+namespace altardienst {
+
+/// While no file is chosen.
+extern const char *const Einlesesatz;
+
+/// What is wrong with the file, or how much of it is used.
+Text Lagesatz(const Text &dateiname, const Tabellenblatt &blatt, const Einleseauftrag &auftrag);
+
+/// The heading of a column, or its number; and the first thing that stands in it.
+Text Spaltenname(const Tabellenblatt &blatt, int kopf, std::size_t spalte);
+Text Beispiel(const std::vector<std::vector<Text>> &zeilen, std::size_t spalte);
+
+/// Whether two columns cannot mean both of these.
+bool SchließenSichAus(int eine, int andere);
+
+/// "+ neu", "~ geändert", "= gleich", "! zweifelhaft": the sign tells them apart without colour.
+Text Standwort(Vorschauzeile::Stand stand);
+
+Text Zeilenname(const Vorschauzeile &zeile);
+Text Zeileninhalt(Personenart art, const Vorschauzeile &zeile);
+
+/// How many rows are what, how many of them are ticked, and what stands against taking them.
+Text Zahlensatz(const std::vector<Vorschauzeile> &vorschau, std::size_t gewählte,
+                const Text &keinPlatz);
+
+/// "2 neu, 1 geändert, eine neue Gruppe".
+Text Ergebnistext(const Eingelesen &ergebnis);
+
+} // namespace altardienst

@@ -1,0 +1,211 @@
+// What the wall sheet shows and how large its type is.
+#include "exchange/Aushangsatz.h"
+
+#include "exchange/Aushangstand.h"
+
+namespace altardienst {
+namespace {
+
+class AushangsatzTest : public Druckstand {
+  protected:
+    /// Every character is half as wide as the type is high.
+    Satzmaße Maße{[](const Text &text, bool) { return Länge(text) * 10.0; }, 24, 20};
+    Satzplatz Platz{15704, 10232};
+
+    static Aushangtafel Tafel(Namenform form = Namenform::Ganz)
+    {
+        return AushangtafelVon(GemeinsameTabellen(), form);
+    }
+
+    std::optional<Satzform> Größter(const Aushangtafel &tafel, int blätter) const
+    {
+        return Satzsuche(tafel, Maße).Größter(Platz, blätter);
+    }
+
+    /// The table at the size found is no larger than its sheet.
+    void PrüfeObEsPasst(const Aushangtafel &tafel, const Satzform &form) const
+    {
+        const Satzbreiten breiten = BreitenDer(tafel, form, Maße);
+        EXPECT_LE(form.Größe * (form.Blöcke * breiten.Gesamt() +
+                                (form.Blöcke - 1) * Blockabstand * Maße.Geviert),
+                  Platz.Breite);
+        for (std::size_t b = 0; b < form.Anfänge.size(); ++b) {
+            const std::size_t bis = b + 1 < form.Anfänge.size()
+                                        ? static_cast<std::size_t>(form.Anfänge[b + 1])
+                                        : tafel.Reihen.size();
+            double höhe = Maße.Zeile + Zeilenluft * Maße.Geviert;
+            for (auto i = static_cast<std::size_t>(form.Anfänge[b]); i < bis; ++i)
+                höhe += Maße.Zeile * ZeilenDer(tafel.Reihen[i], form, breiten.Nebeneinander, Maße) +
+                        Zeilenluft * Maße.Geviert;
+            EXPECT_LE(höhe * form.Größe, Platz.Höhe * 1.0001) << b;
+        }
+    }
+};
+
+using Liste = std::vector<Text>;
+
+TEST_F(AushangsatzTest, EineSpalteJeDienstDenEineMesseBraucht)
+{
+    const int i = VolleMesse(5);
+    Messe.Leuchter[i] = 2;
+    Messe.Allgemein[i] = 3;
+    Messe.KommZahl[i] = 2;
+    Besetzen(Messe, Helferplatznr(i, 2), "Eva", "Linde");
+    VolleMesse(1);
+    const Aushangtafel tafel = Tafel();
+    ASSERT_EQ(tafel.Spalten.size(), 3U);
+    EXPECT_EQ(tafel.Spalten[0].Kopf, "Leuchter");
+    EXPECT_EQ(tafel.Spalten[0].Meiste, 2);
+    EXPECT_EQ(tafel.Spalten[1].Kopf, "Allgemein");
+    EXPECT_EQ(tafel.Spalten[1].Meiste, 3);
+    EXPECT_EQ(tafel.Spalten[1].Übliche, 1);
+    EXPECT_EQ(tafel.Spalten[2].Kopf, "Kommunionhelfer");
+    EXPECT_EQ(tafel.Spalten[2].Kurzkopf, "Kommunion");
+    EXPECT_EQ(tafel.Reihen[0].Namen[0], (Liste{"Vor1 Nach1", "Vor2 Nach2"}));
+    EXPECT_EQ(tafel.Reihen[0].Namen[2], (Liste{"Eva Linde", ""})) << "one place is free";
+    EXPECT_EQ(tafel.Reihen[1].Namen[0], Liste{});
+    EXPECT_EQ(tafel.Reihen[1].Namen[1], Liste{"Vor1 Nach1"});
+}
+
+TEST_F(AushangsatzTest, InDerFolgeDerZeitMitTagUndWoche)
+{
+    VolleMesse(1);
+    VolleMesse(1, "Wochendienst");
+    const int früher = VolleMesse(1, "Frühmesse");
+    Messe.Datum[früher] = Messe.Datum[0];
+    Messe.Uhrzeit[früher] = ZeitAus(8 * 3600);
+    const int später = VolleMesse(1);
+    Messe.Datum[später] = Messe.Datum[0] + 6;
+    const Aushangtafel tafel = Tafel();
+    EXPECT_EQ(tafel.Titel, "Altardienst der Pfarrei St. Ägid");
+    EXPECT_EQ(tafel.Zeitraum, "22.11.2026 bis 28.11.2026");
+    EXPECT_EQ(tafel.Reihen[0].Art, "Frühmesse");
+    EXPECT_EQ(tafel.Reihen[0].Uhrzeit, "08:00");
+    EXPECT_EQ(tafel.Reihen[1].Tag, "So 22.11.");
+    EXPECT_EQ(tafel.Reihen[2].Tag, "ab Mo 23.11.");
+    EXPECT_EQ(tafel.Reihen[2].Uhrzeit, "");
+    EXPECT_EQ(tafel.Reihen[0].Woche, tafel.Reihen[2].Woche);
+    EXPECT_NE(tafel.Reihen[2].Woche, tafel.Reihen[3].Woche) << "weeks begin on Saturday";
+}
+
+TEST_F(AushangsatzTest, EinDatumDasEsNichtGibtHältNichtsAuf)
+{
+    Messe.Datum[VolleMesse(1)] = 3e6;
+    EXPECT_EQ(Tafel().Reihen[0].Tag, "?");
+}
+
+TEST_F(AushangsatzTest, KurzeNamenBleibenAuseinander)
+{
+    const int i = VolleMesse(2);
+    Besetzen(Messe, Dienerplatznr(i, 1), "Anna", "Adler");
+    Besetzen(Messe, Dienerplatznr(i, 2), "Anna", "Albers");
+    EXPECT_EQ(Tafel(Namenform::VornameUndBuchstabe).Reihen[0].Namen[0],
+              (Liste{"Anna Ad.", "Anna Al."}));
+}
+
+TEST_F(AushangsatzTest, DieGrößteSchriftDieNochPasst)
+{
+    for (int i = 0; i < 27; ++i)
+        VolleMesse(4);
+    const Aushangtafel tafel = Tafel();
+    const auto form = Größter(tafel, 1);
+    ASSERT_TRUE(form);
+    EXPECT_EQ(form->Blätter(), 1);
+    EXPECT_EQ(form->Blöcke, 1);
+    PrüfeObEsPasst(tafel, *form);
+    Satzform größer = *form;
+    größer.Größe += 0.25;
+    const double zeile = Maße.Zeile + Zeilenluft * Maße.Geviert;
+    const bool zuHoch = 28 * zeile * größer.Größe > Platz.Höhe;
+    const bool zuBreit = BreitenDer(tafel, größer, Maße).Gesamt() * größer.Größe > Platz.Breite;
+    EXPECT_TRUE(zuHoch || zuBreit) << form->Größe;
+}
+
+TEST_F(AushangsatzTest, NieGrößerAlsZwanzigPunkt)
+{
+    VolleMesse(1);
+    EXPECT_EQ(Größter(Tafel(), 1)->Größe, GrößterAushang);
+}
+
+TEST_F(AushangsatzTest, VieleMessenStehenNebeneinander)
+{
+    for (int i = 0; i < 113; ++i)
+        VolleMesse(2);
+    const Aushangtafel tafel = Tafel(Namenform::VornameUndBuchstabe);
+    const auto form = Größter(tafel, 1);
+    ASSERT_TRUE(form);
+    EXPECT_GT(form->Blöcke, 1);
+    EXPECT_EQ(static_cast<int>(form->Anfänge.size()), form->Blöcke);
+    PrüfeObEsPasst(tafel, *form);
+    int längster = 0;
+    int kürzester = 113;
+    for (std::size_t b = 0; b < form->Anfänge.size(); ++b) {
+        const int bis = b + 1 < form->Anfänge.size() ? form->Anfänge[b + 1] : 113;
+        längster = std::max(längster, bis - form->Anfänge[b]);
+        kürzester = std::min(kürzester, bis - form->Anfänge[b]);
+    }
+    EXPECT_LE(längster - kürzester, form->Blöcke) << "the blocks are equally high";
+}
+
+TEST_F(AushangsatzTest, VieleNamenStehenUntereinander)
+{
+    for (int i = 0; i < 10; ++i)
+        VolleMesse(i == 4 ? 20 : 4);
+    const Aushangtafel tafel = Tafel();
+    const auto form = Größter(tafel, 1);
+    ASSERT_TRUE(form);
+    EXPECT_GT(form->ImFest, form->Untereinander) << "only the feast is high";
+    PrüfeObEsPasst(tafel, *form);
+}
+
+TEST_F(AushangsatzTest, UnlesbarKleinesGibtEsNicht)
+{
+    for (int i = 0; i < 300; ++i)
+        VolleMesse(6);
+    const Aushangtafel tafel = Tafel();
+    EXPECT_FALSE(Größter(tafel, 1));
+    const auto form = Größter(tafel, 8);
+    ASSERT_TRUE(form);
+    EXPECT_GE(form->Größe, KleinsterAushang);
+    EXPECT_LE(form->Blätter(), 8);
+    EXPECT_EQ(form->Anfänge.front(), 0);
+    PrüfeObEsPasst(tafel, *form);
+}
+
+TEST_F(AushangsatzTest, SelteneDiensteTeilenSichEineSpalte)
+{
+    for (int i = 0; i < 10; ++i)
+        Messe.Leuchter[VolleMesse(2)] = 2;
+    const int fest = VolleMesse(6);
+    Messe.Leuchter[fest] = 2;
+    Messe.Weihrauch[fest] = 2;
+    Messe.Kreuzträger[fest] = 1;
+    Leeren(Messe, Dienerplatznr(fest, 6));
+    const Aushangtafel getrennt = Tafel();
+    ASSERT_EQ(getrennt.Spalten.size(), 4U);
+    const auto zusammen = Zusammengelegt(getrennt);
+    ASSERT_TRUE(zusammen);
+    ASSERT_EQ(zusammen->Spalten.size(), 2U);
+    EXPECT_EQ(zusammen->Spalten[0].Kopf, "Leuchter");
+    EXPECT_EQ(zusammen->Spalten[1].Kopf, "weitere Dienste");
+    EXPECT_EQ(zusammen->Spalten[1].Meiste, 4);
+    EXPECT_EQ(zusammen->Reihen[0].Namen[1], Liste{});
+    EXPECT_EQ(zusammen->Reihen[10].Namen[0], (Liste{"Vor1 Nach1", "Vor2 Nach2"}));
+    EXPECT_EQ(zusammen->Reihen[10].Namen[1],
+              (Liste{"Vor3 Nach3 (Weihrauch)", "Vor4 Nach4 (Weihrauch)", "Vor5 Nach5 (Kreuztr.)",
+                     "_______ (Allgemein)"}));
+    Messe.Kreuzträger[fest] = 0;
+    Messe.Weihrauch[fest] = 4;
+    Messe.Dienerzahl[fest] = 4;
+    EXPECT_FALSE(Zusammengelegt(Tafel())) << "one rare service alone keeps its column";
+}
+
+TEST_F(AushangsatzTest, EineLangeArtStehtInZweiZeilen)
+{
+    EXPECT_EQ(Artzeilen("Hochamt mit Taufe", true, Maße), (Liste{"Hochamt", "mit Taufe"}));
+    EXPECT_EQ(Artzeilen("Hochamt mit Taufe", false, Maße), Liste{"Hochamt mit Taufe"});
+    EXPECT_EQ(Artzeilen("Hochamt", true, Maße), Liste{"Hochamt"});
+}
+
+} // namespace
+} // namespace altardienst

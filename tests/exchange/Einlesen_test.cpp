@@ -1,0 +1,291 @@
+// People from a table: the preview, and what is then written.
+#include "exchange/Einlesen.h"
+
+#include "Prüfstand.h"
+#include "history/Rückgängig.h"
+#include "people/Personen.h"
+
+#include <algorithm>
+
+namespace altardienst {
+namespace {
+
+using Stand = Vorschauzeile::Stand;
+using Liste = std::vector<Text>;
+
+class EinlesenTest : public Prüfstand {
+  protected:
+    EinlesenTest()
+    {
+        Gruppe.Anzahl = 1;
+        Gruppe.Bezeichnung[0] = "Große";
+        MeßdienerAnlegen("Anna", "Adler");
+        Meßdiener.Telefon[0] = "0251 1";
+        Meßdiener.Geburtstag[0] = DatumAus({2012, 1, 6});
+        MeßdienerAnlegen("Kim", "Busch");
+    }
+
+    Einleseauftrag Auftrag(const Liste &köpfe, const std::vector<Liste> &zeilen)
+    {
+        return {.Art = Art,
+                .Zeilen = zeilen,
+                .ErsteZeile = 2,
+                .Spalten = ZuordnungNach(köpfe, Art),
+                .LeeresLöscht = LeeresLöscht,
+                .GruppenAnlegen = GruppenAnlegen};
+    }
+
+    Personenart Art = Personenart::Diener;
+    bool LeeresLöscht = false;
+    bool GruppenAnlegen = false;
+};
+
+TEST_F(EinlesenTest, JedeZeileIstNeuGeändertGleichOderZweifelhaft)
+{
+    const auto auftrag = Auftrag({"Vorname", "Nachname", "Telefon", "Geburtstag"},
+                                 {{"Anna", "Adler", "0251 2", "6.1.12"},
+                                  {" Kim ", "Busch", "", ""},
+                                  {"Lars", "Clausen", "0171", "1.2.2013"},
+                                  {"", "", "", ""},
+                                  {"Mia", "Dorn", "", "gestern"}});
+    const auto vorschau = EinlesenPrüfen(auftrag);
+    ASSERT_EQ(vorschau.size(), 4U);
+    EXPECT_EQ(vorschau[0].Was, Stand::Geändert);
+    EXPECT_EQ(ÄnderungenText(Art, vorschau[0]), "Telefon: 0251 1 → 0251 2");
+    EXPECT_EQ(vorschau[1].Was, Stand::Gleich);
+    EXPECT_EQ(vorschau[2].Was, Stand::Neu);
+    EXPECT_EQ(ÄnderungenText(Art, vorschau[2]),
+              "Telefon: 0171; Geburtstag: 01.02.2013; Größe: 150");
+    EXPECT_EQ(vorschau[3].Was, Stand::Zweifelhaft);
+    EXPECT_EQ(vorschau[3].Zeile, 6);
+    EXPECT_FALSE(vorschau[3].Unmöglich);
+    EXPECT_EQ(vorschau[3].Zweifel, (Liste{"Geburtstag: „gestern“ ist kein Datum."}));
+    // Nothing is written yet.
+    EXPECT_EQ(Meßdiener.Anzahl, 2);
+    EXPECT_EQ(Meßdiener.Telefon[0], "0251 1");
+}
+
+TEST_F(EinlesenTest, GeschriebenWirdNurWasGewähltIst)
+{
+    const auto auftrag = Auftrag({"Vorname", "Nachname", "Telefon", "Geburtstag"},
+                                 {{"Anna", "Adler", "0251 2", ""},
+                                  {"Kim", "Busch", "0251 3", ""},
+                                  {"Mia", "Dorn", "0251 4", "gestern"}});
+    auto vorschau = EinlesenPrüfen(auftrag);
+    vorschau.erase(vorschau.begin() + 1);
+    const Eingelesen ergebnis = Einlesen(auftrag, vorschau);
+    EXPECT_EQ(ergebnis.Neu, 1);
+    EXPECT_EQ(ergebnis.Geändert, 1);
+    EXPECT_EQ(Meßdiener.Anzahl, 3);
+    EXPECT_EQ(Meßdiener.Telefon[0], "0251 2");
+    EXPECT_EQ(Meßdiener.Geburtstag[0], DatumAus({2012, 1, 6}));
+    EXPECT_EQ(Meßdiener.Telefon[1], "");
+    EXPECT_EQ(Meßdiener.Nachname[2], "Dorn");
+    EXPECT_EQ(Meßdiener.Telefon[2], "0251 4");
+    EXPECT_EQ(Meßdiener.Geburtstag[2], 0); // the field in doubt
+    EXPECT_EQ(Meßdiener.Größe[2], 150);
+    // Once more, and it is all the same.
+    for (const Vorschauzeile &zeile : EinlesenPrüfen(auftrag))
+        EXPECT_EQ(zeile.Was, zeile.Vorname == "Kim"   ? Stand::Geändert
+                             : zeile.Vorname == "Mia" ? Stand::Zweifelhaft
+                                                      : Stand::Gleich);
+}
+
+TEST_F(EinlesenTest, EinNeuerBeginntOhneResteEinesGelöschten)
+{
+    Meßdiener.Wochendienst[2] = "nnnnnnnn";
+    Meßdiener.Straße[2] = "Altweg";
+    Meßdiener.Von1[2] = 40000;
+    Meßdiener.Häufigkeit[2] = 2;
+    const auto auftrag = Auftrag({"Vorname", "Nachname"}, {{"Mia", "Dorn"}});
+    Einlesen(auftrag, EinlesenPrüfen(auftrag));
+    EXPECT_EQ(Meßdiener.Wochendienst[2], MeßdienerTabelle::WochendienstVorgabe);
+    EXPECT_EQ(Meßdiener.Straße[2], "");
+    EXPECT_EQ(Meßdiener.Von1[2], 0);
+    EXPECT_EQ(Meßdiener.Häufigkeit[2], 0);
+}
+
+TEST_F(EinlesenTest, EinLeeresFeldÄndertNichtsOderLeert)
+{
+    const Liste köpfe = {"Vorname", "Nachname", "Telefon", "Geburtstag", "Leuchter"};
+    const std::vector<Liste> zeilen = {{"Anna", "Adler", "", "", "ja"}, {"Kim", "Busch"}};
+    const auto vorschau = EinlesenPrüfen(Auftrag(köpfe, zeilen));
+    EXPECT_EQ(vorschau[0].Was, Stand::Gleich);
+    // A row of ticks: where there is none, the answer is no.
+    EXPECT_EQ(ÄnderungenText(Art, vorschau[1]), "Leuchter: ja → nein");
+    LeeresLöscht = true;
+    const auto auftrag = Auftrag(köpfe, zeilen);
+    EXPECT_EQ(ÄnderungenText(Art, EinlesenPrüfen(auftrag)[0]),
+              "Telefon: 0251 1 → (leer); Geburtstag: 06.01.2012 → (leer)");
+    Einlesen(auftrag, EinlesenPrüfen(auftrag));
+    EXPECT_EQ(Meßdiener.Telefon[0], "");
+    EXPECT_EQ(Meßdiener.Geburtstag[0], 0);
+    EXPECT_EQ(Meßdiener.Qualifikation[1], "jnjjjj");
+    EXPECT_EQ(EinlesenPrüfen(auftrag)[0].Was, Stand::Gleich);
+}
+
+TEST_F(EinlesenTest, OhneNamenUndDoppeltGehtNicht)
+{
+    const auto vorschau =
+        EinlesenPrüfen(Auftrag({"Vorname", "Nachname", "Ort"}, {{"", "Eich", ""},
+                                                                {"Lea", "", ""},
+                                                                {"", "", "Ort"},
+                                                                {"Kim", "Busch", "A"},
+                                                                {"Kim", "Busch", "B"},
+                                                                {"Neu", "Ling", ""},
+                                                                {"Neu", "Ling", ""}}));
+    EXPECT_EQ(vorschau[0].Zweifel, (Liste{"Der Vorname fehlt."}));
+    EXPECT_EQ(vorschau[1].Zweifel, (Liste{"Der Nachname fehlt."}));
+    EXPECT_EQ(vorschau[2].Zweifel, (Liste{"Der Name fehlt."}));
+    EXPECT_EQ(vorschau[3].Was, Stand::Geändert);
+    EXPECT_EQ(vorschau[4].Zweifel, (Liste{"Steht schon in Zeile 5."}));
+    EXPECT_EQ(vorschau[5].Was, Stand::Neu);
+    EXPECT_EQ(vorschau[6].Zweifel, (Liste{"Steht schon in Zeile 7."}));
+    for (const std::size_t k : {0U, 1U, 2U, 4U, 6U}) {
+        EXPECT_TRUE(vorschau[k].Unmöglich) << k;
+        EXPECT_EQ(vorschau[k].Was, Stand::Zweifelhaft) << k;
+    }
+    Einlesen(Auftrag({}, {}), vorschau);
+    EXPECT_EQ(Meßdiener.Anzahl, 3);
+    EXPECT_EQ(Meßdiener.Ort[1], "A");
+}
+
+TEST_F(EinlesenTest, EinNameDenDieDateienNichtHaltenGehtNicht)
+{
+    const auto vorschau =
+        EinlesenPrüfen(Auftrag({"Vorname", "Nachname"}, {{"Elif", "Yıldız"}, {"A, B", "Eich"}}));
+    EXPECT_EQ(
+        vorschau[0].Zweifel,
+        (Liste{"Nachname: „Yıldız“ hat ein Zeichen, das die Dateien nicht halten: Es würde zu "
+               "„?“."}));
+    EXPECT_EQ(vorschau[0].Nachname, "Yıldız");
+    EXPECT_TRUE(vorschau[0].Unmöglich);
+    EXPECT_EQ(vorschau[1].Zweifel.size(), 1U);
+    EXPECT_TRUE(vorschau[1].Unmöglich);
+}
+
+TEST_F(EinlesenTest, ZweiEinesNamensUnterscheidetDerGeburtstag)
+{
+    MeßdienerAnlegen("Anna", "Adler");
+    Meßdiener.Geburtstag[2] = DatumAus({2014, 5, 5});
+    const auto vorschau =
+        EinlesenPrüfen(Auftrag({"Name", "Geb.", "Ort"}, {{"Adler, Anna", "5.5.2014", "A"},
+                                                         {"Anna Adler", "6.1.2012", "B"},
+                                                         {"Anna Adler", "", "C"}}));
+    EXPECT_EQ(vorschau[0].Datensatz, 2);
+    EXPECT_EQ(vorschau[1].Datensatz, 0);
+    EXPECT_TRUE(vorschau[2].Unmöglich);
+    EXPECT_EQ(vorschau[2].Zweifel,
+              (Liste{"Mehrere heißen so, und der Geburtstag sagt nicht, wer gemeint ist."}));
+}
+
+TEST_F(EinlesenTest, FastDerselbeNameIstEinZweifel)
+{
+    const auto vorschau =
+        EinlesenPrüfen(Auftrag({"Vorname", "Nachname"}, {{"ANNA", "Adler"}, {"Anne", "Adler"}}));
+    EXPECT_EQ(vorschau[0].Zweifel, (Liste{"Im Programm heißt jemand fast so: „Anna Adler“."}));
+    EXPECT_FALSE(vorschau[0].Unmöglich);
+    EXPECT_EQ(vorschau[1].Was, Stand::Neu);
+}
+
+TEST_F(EinlesenTest, UnbekannteGruppenSindEinZweifelOderWerdenAngelegt)
+{
+    const Liste köpfe = {"Vorname", "Nachname", "Gruppe"};
+    const std::vector<Liste> zeilen = {
+        {"Anna", "Adler", "Große"}, {"Kim", "Busch", "Kleine"}, {"Mia", "Dorn", "Kleine"}};
+    const auto vorschau = EinlesenPrüfen(Auftrag(köpfe, zeilen));
+    EXPECT_EQ(vorschau[0].Was, Stand::Geändert);
+    EXPECT_EQ(vorschau[1].Zweifel, (Liste{"Gruppe: Die Gruppe „Kleine“ gibt es nicht."}));
+    EXPECT_TRUE(vorschau[1].Felder.empty());
+    GruppenAnlegen = true;
+    const auto auftrag = Auftrag(köpfe, zeilen);
+    EXPECT_EQ(Einlesen(auftrag, EinlesenPrüfen(auftrag)).Gruppen, 1);
+    EXPECT_EQ(Gruppe.Anzahl, 2);
+    EXPECT_EQ(Gruppe.Bezeichnung[1], "Kleine");
+    EXPECT_EQ(Meßdiener.Gruppe[2], "Kleine");
+}
+
+TEST_F(EinlesenTest, MehrAlsDasProgrammAnlegtKommtNichtHinein)
+{
+    std::vector<Liste> zeilen;
+    for (int i = 0; i < 199; ++i)
+        zeilen.push_back({"Kind", "Nr" + std::to_string(i)});
+    const auto auftrag = Auftrag({"Vorname", "Nachname"}, zeilen);
+    auto vorschau = EinlesenPrüfen(auftrag);
+    EXPECT_EQ(KeinPlatzFür(auftrag, vorschau),
+              "199 neue sind angekreuzt, Platz ist nur noch für 198: Das Programm legt höchstens "
+              "200 Meßdiener an.");
+    EXPECT_EQ(Einlesen(auftrag, vorschau).Neu, 198);
+    EXPECT_EQ(Meßdiener.Anzahl, MeisteMeßdiener);
+    vorschau = EinlesenPrüfen(auftrag);
+    EXPECT_EQ(KeinPlatzFür(auftrag, vorschau),
+              "1 neue sind angekreuzt, Platz ist keiner mehr: Das Programm legt höchstens 200 "
+              "Meßdiener an.");
+    vorschau.pop_back();
+    EXPECT_EQ(KeinPlatzFür(auftrag, vorschau), "");
+}
+
+TEST_F(EinlesenTest, MehrGruppenAlsDasProgrammAnlegtKommenNichtHinein)
+{
+    GruppenAnlegen = true;
+    std::vector<Liste> zeilen;
+    for (int i = 0; i < 60; ++i)
+        zeilen.push_back({"Kind", "Nr" + std::to_string(i), "Gruppe " + std::to_string(i)});
+    const auto auftrag = Auftrag({"Vorname", "Nachname", "Gruppe"}, zeilen);
+    const auto vorschau = EinlesenPrüfen(auftrag);
+    EXPECT_EQ(KeinPlatzFür(auftrag, vorschau),
+              "60 neue Gruppen wären nötig, Platz ist nur noch für 59: Das Programm legt höchstens "
+              "60 Gruppen an.");
+    Einlesen(auftrag, vorschau);
+    EXPECT_EQ(Gruppe.Anzahl, MeisteGruppen);
+}
+
+TEST_F(EinlesenTest, AuchHelferKommenHinein)
+{
+    Art = Personenart::Helfer;
+    HelferAnlegen("Maria", "Linde", "Lektor");
+    const auto auftrag = Auftrag({"Name", "Dienst", "Zweiter Dienst", "Straße"},
+                                 {{"Linde, Maria", "Lektorin", "Kantor", "Weg 5, Haus B"},
+                                  {"Quast, Paul", "Kollekte", "", ""},
+                                  {"Rau, Ute", "Küsterin", "", ""}});
+    const auto vorschau = EinlesenPrüfen(auftrag);
+    EXPECT_EQ(ÄnderungenText(Art, vorschau[0]), "Straße: (leer) → Weg 5, Haus B; "
+                                                "Dienst 2: (leer) → Kantor");
+    EXPECT_EQ(vorschau[2].Was, Stand::Zweifelhaft);
+    Einlesen(auftrag, vorschau);
+    EXPECT_EQ(Helfer.Anzahl, 3);
+    EXPECT_EQ(Helfer.Dienst1[1], "Kollektant");
+    EXPECT_EQ(Helfer.Dienst2[0], "Kantor");
+}
+
+TEST_F(EinlesenTest, EinSchrittNimmtAllesZurück)
+{
+    GruppenAnlegen = true;
+    const auto auftrag = Auftrag({"Vorname", "Nachname", "Telefon", "Gruppe"},
+                                 {{"Anna", "Adler", "7", "Kleine"}, {"Mia", "Dorn", "8", "Neue"}});
+    SchritteBeginnen();
+    Schritt("Meßdiener einlesen", [&] { Einlesen(auftrag, EinlesenPrüfen(auftrag)); });
+    TabellenBeobachten();
+    EXPECT_EQ(Meßdiener.Anzahl, 3);
+    EXPECT_EQ(Gruppe.Anzahl, 3);
+    EXPECT_EQ(SchrittZurücknehmen(), "Meßdiener einlesen");
+    EXPECT_EQ(LetzterSchritt(), "");
+    EXPECT_EQ(Meßdiener.Anzahl, 2);
+    EXPECT_EQ(Meßdiener.Telefon[0], "0251 1");
+    EXPECT_EQ(Gruppe.Anzahl, 1);
+    SchritteBeenden();
+}
+
+/// A file may claim any number of records; whoever reads in walks none that is not there.
+TEST_F(EinlesenTest, EineUnsinnigeAnzahlSchadetNicht)
+{
+    Meßdiener.Anzahl = 30000;
+    const auto auftrag = Auftrag({"Vorname", "Nachname"}, {{"Mia", "Dorn"}});
+    const auto vorschau = EinlesenPrüfen(auftrag);
+    EXPECT_NE(KeinPlatzFür(auftrag, vorschau), "");
+    EXPECT_EQ(Einlesen(auftrag, vorschau).Neu, 0);
+    EXPECT_EQ(Meßdiener.Anzahl, 30000);
+}
+
+} // namespace
+} // namespace altardienst

@@ -1,0 +1,98 @@
+// What the headings of a file mean.
+#include "exchange/Spalten.h"
+
+#include "Prüfstand.h"
+
+namespace altardienst {
+namespace {
+
+using SpaltenTest = Prüfstand;
+
+std::vector<Text> Bedeutungen(const std::vector<Text> &überschriften,
+                              Personenart art = Personenart::Diener)
+{
+    std::vector<Text> bedeutungen;
+    for (const int spalte : ZuordnungNach(überschriften, art))
+        bedeutungen.push_back(spalte == KeineSpalte  ? "-"
+                              : spalte == GanzerName ? "ganz"
+                                                     : SpalteMit(art, spalte).Name);
+    return bedeutungen;
+}
+
+using Liste = std::vector<Text>;
+
+TEST_F(SpaltenTest, ÜberschriftenWerdenNachIhremSinnErkannt)
+{
+    EXPECT_EQ(Bedeutungen({"Name", "Vorname", "Strasse", "Postleitzahl", "Wohnort", "Tel.",
+                           "E-Mail-Adresse", "Geb.", "m/w", "Größe (cm)", "dabei seit", "Team"}),
+              (Liste{"Nachname", "Vorname", "Straße", "PLZ", "Ort", "Telefon", "E-Mail",
+                     "Geburtstag", "Geschlecht", "Größe", "Eintrittsdatum", "Gruppe"}));
+    EXPECT_EQ(
+        Bedeutungen({"Familienname", "Rufname", "Straße und Haus-Nr.", "geboren am", "Handy",
+                     "EMAIL", "GESCHLECHT"}),
+        (Liste{"Nachname", "Vorname", "Straße", "Geburtstag", "Telefon", "E-Mail", "Geschlecht"}));
+    EXPECT_EQ(Bedeutungen({"Schuhgröße?", "Lieblingsfarbe", ""}), (Liste{"-", "-", "-"}));
+    EXPECT_EQ(Bedeutungen({"Dienst", "Zweiter Dienst"}, Personenart::Helfer),
+              (Liste{"Dienst 1", "Dienst 2"}));
+}
+
+TEST_F(SpaltenTest, JedeBedeutungHöchstensEinmalDieSichersteZuerst)
+{
+    EXPECT_EQ(Bedeutungen({"Telefon der Eltern", "Handy", "Telefon"}),
+              (Liste{"-", "-", "Telefon"}));
+    EXPECT_EQ(Bedeutungen({"Telefon der Eltern", "Handy"}), (Liste{"-", "Telefon"}));
+    EXPECT_EQ(Bedeutungen({"Telefon der Eltern"}), (Liste{"Telefon"}));
+    EXPECT_EQ(Bedeutungen({"Vorname", "Vorname"}), (Liste{"Vorname", "-"}));
+    EXPECT_EQ(Bedeutungen({"Wunschpartner Nachname", "Wunschpartner Vorname", "Vorname", "Name"}),
+              (Liste{"Wunschpartner Nachname", "Wunschpartner Vorname", "Vorname", "Nachname"}));
+}
+
+TEST_F(SpaltenTest, EinNameAlleinIstDerGanze)
+{
+    EXPECT_EQ(Bedeutungen({"Name", "Ort"}), (Liste{"ganz", "Ort"}));
+    EXPECT_EQ(Bedeutungen({"Name, Vorname", "Name", "Ort"}), (Liste{"ganz", "-", "Ort"}));
+    Text vorname;
+    Text nachname;
+    NamenTeilen("Adler, Anna Lena", vorname, nachname);
+    EXPECT_EQ(vorname + "|" + nachname, "Anna Lena|Adler");
+    NamenTeilen("Anna Lena Adler", vorname, nachname);
+    EXPECT_EQ(vorname + "|" + nachname, "Anna Lena|Adler");
+    NamenTeilen("Adler", vorname, nachname);
+    EXPECT_EQ(vorname + "|" + nachname, "|Adler");
+}
+
+/// Whoever writes a list with all columns gets each of them back.
+TEST_F(SpaltenTest, DieEigenenNamenBedeutenSichSelbst)
+{
+    for (const Personenart art : {Personenart::Diener, Personenart::Helfer}) {
+        Liste namen;
+        for (const Listenspalte &spalte : SpaltenFür(art)) {
+            namen.push_back(spalte.Name);
+            for (const Text &auch : spalte.Auch)
+                EXPECT_EQ(auch, Vergleichsform(auch)) << "no heading would ever be equal to it";
+        }
+        EXPECT_EQ(Bedeutungen(namen, art), namen);
+        EXPECT_EQ(SpalteNamens(art, "Nachname"), SpalteNachname);
+    }
+}
+
+/// Every field that the files hold has its column.
+TEST_F(SpaltenTest, KeinFeldDerTabellenFehlt)
+{
+    EXPECT_EQ(SpaltenFür(Personenart::Diener).size(), 12U + 6 + 6 + 10 + 3);
+    EXPECT_EQ(SpaltenFür(Personenart::Helfer).size(), 8U + 2 + 6);
+}
+
+TEST_F(SpaltenTest, DieÜberschriftenStehenNichtImmerGanzOben)
+{
+    EXPECT_EQ(Kopfzeile({{"Vorname", "Nachname"}, {"Anna", "Adler"}}, Personenart::Diener), 0);
+    EXPECT_EQ(Kopfzeile({{"Unsere Messdiener", ""}, {"Stand", "1.11."}, {"Vorname", "Name"}},
+                        Personenart::Diener),
+              2);
+    EXPECT_EQ(Kopfzeile({{"Anna", "Adler", "48999"}}, Personenart::Diener), -1);
+    EXPECT_EQ(Kopfzeile({}, Personenart::Diener), -1);
+    EXPECT_EQ(Kopfzeile({{"Name"}, {"Anna Adler"}}, Personenart::Diener), 0);
+}
+
+} // namespace
+} // namespace altardienst
