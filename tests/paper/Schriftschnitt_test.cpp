@@ -1,6 +1,7 @@
 // On paper bold is only what is meant to be, whatever the system calls its fonts: measured by the
 // ink.
 #include "Prüfstand.h"
+#include "controls/Bausteine.h"
 #include "paper/DruckerQt.h"
 #include "printing/PdfLesen.h"
 
