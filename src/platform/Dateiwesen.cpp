@@ -47,10 +47,12 @@ std::optional<BY_HANDLE_FILE_INFORMATION> Kennung(const path &pfad)
 path Systempfad(const path &pfad)
 {
     constexpr std::size_t Sicher = 240; // a file beside it may have a longer name
+    if (pfad.native().starts_with(LR"(\\?\)")) // it is one already
+        return pfad;
     std::error_code fehler;
     const path ganz = fs::absolute(pfad, fehler).lexically_normal().make_preferred();
     const std::wstring &name = ganz.native();
-    if (fehler || name.size() < Sicher || name.starts_with(LR"(\\?\)"))
+    if (fehler || name.size() < Sicher)
         return pfad;
     return name.starts_with(LR"(\\)") ? path(LR"(\\?\UNC\)" + name.substr(2))
                                       : path(LR"(\\?\)" + name);
