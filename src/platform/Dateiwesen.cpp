@@ -46,7 +46,7 @@ std::optional<BY_HANDLE_FILE_INFORMATION> Kennung(const path &pfad)
 
 path Systempfad(const path &pfad)
 {
-    constexpr std::size_t Sicher = 240; // a file beside it may have a longer name
+    constexpr std::size_t Sicher = 240;        // a file beside it may have a longer name
     if (pfad.native().starts_with(LR"(\\?\)")) // it is one already
         return pfad;
     std::error_code fehler;
