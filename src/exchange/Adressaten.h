@@ -24,7 +24,8 @@ struct Adressaten {
     std::vector<Text> Unlesbar; // names with what stands there: "Busch, Ben: ben(at)x"
 };
 
-/// A field may hold several addresses, separated by commas, semicolons or blanks.
+/// A field may hold several addresses, separated by semicolons or blanks; by commas only with the
+/// helpers, as a comma tears the servers' file.
 Adressaten AdressatenSuchen(const Plantabellen &tabellen, const Adressatenwahl &wahl);
 
 /// Whether a mail program will take it: something, an "@", and a domain with a dot.

@@ -46,6 +46,11 @@ int FreiePlätze(Personenart art)
     return std::max(0, Meiste(art) - Vorhandene(art));
 }
 
+Text Platztext(int frei)
+{
+    return frei == 0 ? Text("Platz ist keiner mehr") : "Platz ist nur noch für " + ZahlText(frei);
+}
+
 /// As it is before anybody was written there: a record that was once deleted leaves its values.
 void Leeren(Personenart art, int i)
 {
@@ -65,15 +70,16 @@ Text KeinPlatzFür(const Einleseauftrag &auftrag, const std::vector<Vorschauzeil
     const auto neue = static_cast<int>(std::ranges::count_if(
         gewählte, [](const Vorschauzeile &zeile) { return zeile.IstNeu() && !zeile.Unmöglich; }));
     const auto gruppen = static_cast<int>(FehlendeGruppen(auftrag, gewählte).size());
+    const Text wer = auftrag.Art == Personenart::Diener ? " Meßdiener" : " Helfer";
     if (const int frei = FreiePlätze(auftrag.Art); neue > frei)
-        return ZahlText(neue) + " neue sind angekreuzt, Platz ist " +
-               (frei == 0 ? Text("keiner mehr") : "nur noch für " + ZahlText(frei)) +
-               ": Das Programm legt höchstens " + ZahlText(Meiste(auftrag.Art)) +
-               (auftrag.Art == Personenart::Diener ? " Meßdiener" : " Helfer") + " an.";
+        return (neue == 1 ? "Ein neuer" + wer + " ist" : ZahlText(neue) + " neue" + wer + " sind") +
+               " angekreuzt, " + Platztext(frei) + ": Das Programm legt höchstens " +
+               ZahlText(Meiste(auftrag.Art)) + wer + " an.";
     if (const int frei = FreieGruppen(); gruppen > frei)
-        return ZahlText(gruppen) + " neue Gruppen wären nötig, Platz ist " +
-               (frei == 0 ? Text("keiner mehr") : "nur noch für " + ZahlText(frei)) +
-               ": Das Programm legt höchstens " + ZahlText(MeisteGruppen) + " Gruppen an.";
+        return (gruppen == 1 ? Text("Eine neue Gruppe wäre")
+                             : ZahlText(gruppen) + " neue Gruppen wären") +
+               " nötig, " + Platztext(frei) + ": Das Programm legt höchstens " +
+               ZahlText(MeisteGruppen) + " Gruppen an.";
     return "";
 }
 
@@ -82,6 +88,8 @@ Eingelesen Einlesen(const Einleseauftrag &auftrag, const std::vector<Vorschauzei
     Eingelesen ergebnis;
     for (const Text &gruppe : FehlendeGruppen(auftrag, gewählte))
         if (FreieGruppen() > 0) {
+            // A name that a file has past its count is no group: it would become one, unasked.
+            Gruppe.Bezeichnung[Gruppe.Anzahl].clear();
             GruppeAnlegen(gruppe);
             ++ergebnis.Gruppen;
         }

@@ -13,6 +13,7 @@ struct Einleseauftrag {
     Zuordnung Spalten = {};                     // of each column
     bool LeeresLöscht = false;                  // an empty field empties what is in the tables
     bool GruppenAnlegen = false;                // a group that is not there yet is made
+    bool KopfFehlt = false;                     // no row is known to be the one of the headings
 };
 
 struct Feldänderung {
@@ -38,6 +39,8 @@ struct Vorschauzeile {
 
 /// A person is the record with the same names; where several have them, the one of these with the
 /// same birthday. A field in doubt stays as it is; a row with one can be taken all the same.
+/// Nobody new comes in with one name only, which in a list is a gap, nor a second one of the same
+/// name, as in the dialogs that add: whoever stands in the tables so comes back to them alone.
 std::vector<Vorschauzeile> EinlesenPrüfen(const Einleseauftrag &auftrag);
 
 /// The sentence about rows that find no room in the tables; empty if all do.

@@ -36,6 +36,15 @@ QComboBox *Werwahl()
     return wahl;
 }
 
+/// As wide as what stands in it, but no long name pushes the other columns out.
+void SpalteAnpassen(QTableWidget *tafel, int spalte)
+{
+    constexpr int Zeichen = 30;
+    tafel->resizeColumnToContents(spalte);
+    const int breiteste = Zeichen * tafel->fontMetrics().averageCharWidth();
+    tafel->setColumnWidth(spalte, std::min(tafel->columnWidth(spalte), breiteste));
+}
+
 } // namespace
 
 EinlesenForm::EinlesenForm()
@@ -101,7 +110,8 @@ QLayout *EinlesenForm::Vorschauteil()
 
 void EinlesenForm::Verbinden()
 {
-    connect(Wer, &QComboBox::currentIndexChanged, this, Offen([this] { Zuordnen(); }));
+    connect(Wer, &QComboBox::currentIndexChanged, this,
+            Offen([this] { UnterWartezeiger([this] { Zuordnen(); }); }));
     connect(Datei, &QPushButton::clicked, this, Offen([this] { DateiWählen(); }));
     for (QCheckBox *kästchen : {LeeresLöscht, GruppenAnlegen})
         connect(kästchen, &QCheckBox::toggled, this, Offen([this] { Prüfen(); }));
@@ -145,6 +155,7 @@ void EinlesenForm::Zuordnen()
     auftrag = {.Art = Art()};
     kopf = Kopfzeile(blatt.Zeilen, Art());
     auftrag.ErsteZeile = kopf + 2;
+    auftrag.KopfFehlt = kopf < 0;
     auftrag.Zeilen.assign(blatt.Zeilen.begin() + (kopf + 1), blatt.Zeilen.end());
     std::size_t breite = 0;
     for (const auto &zeile : blatt.Zeilen)
@@ -170,7 +181,7 @@ void EinlesenForm::SpaltenZeigen()
                 Offen([this, k] { BedeutungGeändert(k); }));
         Spalten->setCellWidget(k, 2, wahl);
     }
-    Spalten->resizeColumnToContents(0);
+    SpalteAnpassen(Spalten, 0);
 }
 
 /// What two columns cannot both mean goes from the other one.
@@ -228,7 +239,7 @@ void EinlesenForm::ZeilenZeigen()
         }
     }
     for (const int spalte : {SNimm, SWas, SName})
-        Zeilen->resizeColumnToContents(spalte);
+        SpalteAnpassen(Zeilen, spalte);
     ZahlenZeigen();
 }
 

@@ -77,6 +77,9 @@ class Prüfung {
             return zeile;
         }
         Vergleichen(zeile);
+        if (nachLeeremGeburtstag && !zeile.Felder.empty())
+            zeile.Zweifel.push_back(
+                "Mehrere heißen so; gemeint ist wohl, wer keinen Geburtstag hat.");
         zeile.Was = !zeile.Zweifel.empty() ? Stand::Zweifelhaft
                     : zeile.IstNeu()       ? Stand::Neu
                     : zeile.Felder.empty() ? Stand::Gleich
@@ -140,18 +143,21 @@ class Prüfung {
             return false;
         };
         const Personenname name{zeile.Vorname, zeile.Nachname};
-        if (name.Vorname.empty() || name.Nachname.empty())
+        std::vector<int> gleiche = namen.Finden(name);
+        const bool halb = name.Vorname.empty() || name.Nachname.empty();
+        if (halb && (gleiche.empty() || name.Leer()))
             return unmöglich(name.Leer()            ? "Der Name fehlt."
                              : name.Vorname.empty() ? "Der Vorname fehlt."
                                                     : "Der Nachname fehlt.");
-        if (!werte.contains(SpalteVorname) || !werte.contains(SpalteNachname))
+        if (!halb && (!werte.contains(SpalteVorname) || !werte.contains(SpalteNachname)))
             return false; // for the reason that is told already
-        std::vector<int> gleiche = namen.Finden(name);
+        nachLeeremGeburtstag = gleiche.size() > 1 && leere.contains(geburtstag);
         if (gleiche.size() > 1) {
             std::erase_if(gleiche, [this](int i) {
                 return SpalteMit(auftrag.Art, geburtstag).Wert(i) != Gelesenes(geburtstag);
             });
-            if (gleiche.size() != 1)
+            const bool sagtEs = nachLeeremGeburtstag || werte.contains(geburtstag);
+            if (gleiche.size() != 1 || !sagtEs)
                 return unmöglich(
                     "Mehrere heißen so, und der Geburtstag sagt nicht, wer gemeint ist.");
         }
@@ -194,7 +200,8 @@ class Prüfung {
     Namensverzeichnis namen;
     int geburtstag;
     int größe;
-    int gruppe; // helpers have none
+    int gruppe;                        // helpers have none
+    bool nachLeeremGeburtstag = false; // of several of one name, the row says of none
     std::map<int, Text> werte;
     std::set<int> leere;                                 // whose field is empty
     std::map<std::tuple<int, Text, Text>, int> vergeben; // in which row
@@ -203,6 +210,22 @@ class Prüfung {
 bool IstLeer(const std::vector<Text> &felder)
 {
     return std::ranges::all_of(felder, [](const Text &feld) { return TextDesFelds(feld).empty(); });
+}
+
+/// Headings hold neither numbers nor addresses.
+bool IstVielleichtKopf(const std::vector<Text> &felder)
+{
+    return std::ranges::all_of(
+        felder, [](const Text &feld) { return feld.find_first_of("0123456789@") == Text::npos; });
+}
+
+/// Who is in the tables already is no heading.
+void AlsKopfBezweifeln(Vorschauzeile &zeile)
+{
+    if (zeile.Unmöglich || !zeile.IstNeu())
+        return;
+    zeile.Zweifel.insert(zeile.Zweifel.begin(), "Das kann eine Überschrift sein.");
+    zeile.Was = Stand::Zweifelhaft;
 }
 
 } // namespace
@@ -214,8 +237,11 @@ std::vector<Vorschauzeile> EinlesenPrüfen(const Einleseauftrag &auftrag)
     vorschau.reserve(auftrag.Zeilen.size());
     int nummer = auftrag.ErsteZeile;
     for (const std::vector<Text> &felder : auftrag.Zeilen) {
-        if (!IstLeer(felder))
+        if (!IstLeer(felder)) {
             vorschau.push_back(prüfung.Zeile(felder, nummer));
+            if (auftrag.KopfFehlt && vorschau.size() == 1 && IstVielleichtKopf(felder))
+                AlsKopfBezweifeln(vorschau.front());
+        }
         ++nummer;
     }
     return vorschau;

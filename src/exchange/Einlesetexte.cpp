@@ -21,6 +21,13 @@ bool Hat(const Zuordnung &zuordnung, int spalte)
     return std::ranges::count(zuordnung, spalte) > 0;
 }
 
+/// As much of it as a cell and its tip can bear: a file may have anything in one field.
+Text Gekürzt(const Text &text)
+{
+    constexpr int Längstes = 200;
+    return Länge(text) <= Längstes ? text : Links(text, Längstes) + "…";
+}
+
 } // namespace
 
 const char *const Einlesesatz =
@@ -40,8 +47,11 @@ Text Lagesatz(const Text &dateiname, const Tabellenblatt &blatt, const Einleseau
     return dateiname + ": " +
            (auftrag.Zeilen.size() == 1 ? Text("eine Zeile")
                                        : Zahl(auftrag.Zeilen.size()) + " Zeilen") +
-           ", " + Zahl(spalten.size() - ungenutzt) + " von " + Zahl(spalten.size()) +
-           " Spalten erkannt. Jemand ist derselbe, wenn Vor- und Nachname gleich sind.";
+           ", " +
+           (spalten.size() == 1
+                ? Text("die einzige Spalte")
+                : Zahl(spalten.size() - ungenutzt) + " von " + Zahl(spalten.size()) + " Spalten") +
+           " erkannt. Jemand ist derselbe, wenn Vor- und Nachname gleich sind.";
 }
 
 Text Spaltenname(const Tabellenblatt &blatt, int kopf, std::size_t spalte)
@@ -49,7 +59,7 @@ Text Spaltenname(const Tabellenblatt &blatt, int kopf, std::size_t spalte)
     if (kopf >= 0) {
         const auto &köpfe = blatt.Zeilen[static_cast<std::size_t>(kopf)];
         if (spalte < köpfe.size() && !TextDesFelds(köpfe[spalte]).empty())
-            return TextDesFelds(köpfe[spalte]);
+            return Gekürzt(TextDesFelds(köpfe[spalte]));
     }
     return "Spalte " + Zahl(spalte + 1);
 }
@@ -58,8 +68,8 @@ Text Beispiel(const std::vector<std::vector<Text>> &zeilen, std::size_t spalte)
 {
     for (const auto &zeile : zeilen)
         if (spalte < zeile.size())
-            if (Text feld = TextDesFelds(zeile[spalte]); !feld.empty())
-                return feld;
+            if (const Text feld = TextDesFelds(zeile[spalte]); !feld.empty())
+                return Gekürzt(feld);
     return "";
 }
 
@@ -83,8 +93,8 @@ Text Zeilenname(const Vorschauzeile &zeile)
 {
     if (zeile.Vorname.empty() && zeile.Nachname.empty())
         return "Zeile " + ZahlText(zeile.Zeile);
-    return zeile.Nachname + (zeile.Vorname.empty() || zeile.Nachname.empty() ? "" : ", ") +
-           zeile.Vorname;
+    return Gekürzt(zeile.Nachname + (zeile.Vorname.empty() || zeile.Nachname.empty() ? "" : ", ") +
+                   zeile.Vorname);
 }
 
 Text Zeileninhalt(Personenart art, const Vorschauzeile &zeile)

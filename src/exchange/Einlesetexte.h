@@ -12,7 +12,8 @@ extern const char *const Einlesesatz;
 /// What is wrong with the file, or how much of it is used.
 Text Lagesatz(const Text &dateiname, const Tabellenblatt &blatt, const Einleseauftrag &auftrag);
 
-/// The heading of a column, or its number; and the first thing that stands in it.
+/// The heading of a column, or its number; and the first thing that stands in it. These and the
+/// name of a row are cut to 200 characters.
 Text Spaltenname(const Tabellenblatt &blatt, int kopf, std::size_t spalte);
 Text Beispiel(const std::vector<std::vector<Text>> &zeilen, std::size_t spalte);
 
@@ -23,6 +24,7 @@ bool SchließenSichAus(int eine, int andere);
 Text Standwort(Vorschauzeile::Stand stand);
 
 Text Zeilenname(const Vorschauzeile &zeile);
+/// In full, as the tip alone shows all of it: no field that is taken is longer than 250 characters.
 Text Zeileninhalt(Personenart art, const Vorschauzeile &zeile);
 
 /// How many rows are what, how many of them are ticked, and what stands against taking them.

@@ -13,6 +13,7 @@
 #include <cmath>
 #include <cstdio>
 #include <optional>
+#include <regex>
 #include <utility>
 
 namespace altardienst {
@@ -47,7 +48,19 @@ int Monatsnummer(std::string_view wort)
     return stelle == Monate.end() ? 0 : static_cast<int>(stelle - Monate.begin()) + 1;
 }
 
-/// "2012-01-06" and what may follow.
+/// A day is followed by nothing or by a time: " 00:00", "T10:30:00.000Z", " 10:30 Uhr".
+void NurUhrzeit(const Text &feld, int nachTag)
+{
+    constexpr std::size_t Längste = 40;
+    static const std::regex Uhrzeit(
+        R"([ T]\s*\d{1,2}:\d{2}(:\d{2}([.,]\d+)?)?\s*(Uhr|[AaPp][Mm]|Z|[+-]\d{2}:?\d{2})?)");
+    const Text danach = feld.substr(static_cast<std::size_t>(nachTag));
+    if (danach.find_first_not_of(' ') != Text::npos &&
+        (danach.size() > Längste || !std::regex_match(danach, Uhrzeit)))
+        throw Laufzeitfehler(Laufzeitfehler::TypenUnverträglich);
+}
+
+/// "2012-01-06" and the time that may follow.
 std::optional<Datum> JahrVornweg(const Text &feld)
 {
     Kalendertag tag{};
@@ -56,9 +69,7 @@ std::optional<Datum> JahrVornweg(const Text &feld)
             3 ||
         tag.Jahr < 100)
         return std::nullopt;
-    const auto ende = static_cast<std::size_t>(zeichen);
-    if (ende < feld.size() && feld[ende] != ' ' && feld[ende] != 'T')
-        return std::nullopt;
+    NurUhrzeit(feld, zeichen);
     return DatumAus(tag);
 }
 
@@ -73,14 +84,18 @@ std::optional<Datum> MitMonatsnamen(const Text &feld)
 {
     int tag = 0;
     int jahr = 0;
+    int zeichen = 0;
     std::array<char, 32> monat{};
-    if (std::sscanf(feld.c_str(), "%2d. %31[^0-9 .] %4d", &tag, monat.data(), &jahr) != 3 &&
-        std::sscanf(feld.c_str(), "%2d. %31[^0-9 .]. %4d", &tag, monat.data(), &jahr) != 3 &&
-        std::sscanf(feld.c_str(), "%2d %31[^0-9 .] %4d", &tag, monat.data(), &jahr) != 3)
+    const auto ist = [&](const char *muster) {
+        return std::sscanf(feld.c_str(), muster, &tag, monat.data(), &jahr, &zeichen) == 3;
+    };
+    if (!ist("%2d. %31[^0-9 .] %4d%n") && !ist("%2d. %31[^0-9 .]. %4d%n") &&
+        !ist("%2d %31[^0-9 .] %4d%n"))
         return std::nullopt;
     const int nummer = Monatsnummer(monat.data());
     if (nummer == 0)
         return std::nullopt;
+    NurUhrzeit(feld, zeichen);
     return DatumAus({VollesJahr(jahr), nummer, tag});
 }
 
@@ -96,9 +111,9 @@ Strichdatum MitStrichen(const Text &feld)
     int zweite = 0;
     int jahr = 0;
     int zeichen = 0;
-    if (std::sscanf(feld.c_str(), "%2d/%2d/%4d%n", &erste, &zweite, &jahr, &zeichen) != 3 ||
-        static_cast<std::size_t>(zeichen) < feld.size())
+    if (std::sscanf(feld.c_str(), "%2d /%2d /%4d%n", &erste, &zweite, &jahr, &zeichen) != 3)
         return {};
+    NurUhrzeit(feld, zeichen);
     if (erste != zweite && erste <= MeisteMonate && zweite <= MeisteMonate)
         return {.IstEines = true};
     if (zweite > MeisteMonate)
@@ -170,7 +185,7 @@ Feldlesung DatumAusFeld(const Text &feld)
     if (feld.empty() || feld == "00:00:00")
         return {};
     try {
-        if (const Strichdatum tag = MitStrichen(feld); tag.IstEines && !tag.Tag)
+        if (const Strichdatum tag = MitStrichen(OhneWochentag(feld)); tag.IstEines && !tag.Tag)
             return Zweifel(feld, "ist nicht eindeutig: Kommt erst der Tag oder erst der Monat?");
         return {KurzesDatum(TagDesFelds(feld))};
     } catch (const Laufzeitfehler &) {

@@ -147,8 +147,8 @@ std::vector<Listenspalte> Dienerspalten()
     constexpr auto w = &M::Wochendienst;
     std::vector<Listenspalte> spalten = Adressspalten<M, Meßdiener>(DienertextAusFeld);
     const auto dazu = [&spalten](Listenspalte spalte) { spalten.push_back(std::move(spalte)); };
-    dazu(Spalte<Textfeld<Meßdiener, &M::Geschlecht>>("Geschlecht", "sex gender mw wm",
-                                                     GeschlechtAusFeld));
+    dazu(Textspalte<Textfeld<Meßdiener, &M::Geschlecht>>("Geschlecht", "sex gender mw wm",
+                                                         GeschlechtAusFeld));
     dazu(Spalte<Zahlfeld<Meßdiener, &M::Größe>>("Größe", "koerpergroesse groessecm groesseincm",
                                                 GrößeAusFeld));
     dazu(Spalte<Datumsfeld<Meßdiener, &M::Eintrittsdatum>>(

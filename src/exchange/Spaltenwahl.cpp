@@ -15,6 +15,8 @@ constexpr int MitAnderemNamen = 3;
 constexpr int ErstesWort = 2; // "Telefon der Eltern"
 constexpr int SpäteresWort = 1;
 
+constexpr std::size_t LängsteÜberschrift = 200; // bytes; what is longer means no column
+
 std::vector<Text> WörterIn(const Text &überschrift)
 {
     std::vector<Text> wörter;
@@ -36,6 +38,8 @@ bool HeißtAuch(const Listenspalte &spalte, const Text &wort)
 
 int Sicherheit(const Text &überschrift, const Listenspalte &spalte)
 {
+    if (überschrift.size() > LängsteÜberschrift)
+        return 0;
     const Text ganz = Vergleichsform(überschrift);
     if (ganz.empty())
         return 0;
@@ -55,7 +59,8 @@ bool MeintGanzenNamen(const Text &überschrift)
     constexpr std::array<std::string_view, 8> Namen = {
         "vorundnachname",  "namevorname", "vornamename", "nachnamevorname",
         "vornamenachname", "vollernamen", "vollername",  "vorundzuname"};
-    return std::ranges::count(Namen, Vergleichsform(überschrift)) > 0;
+    return überschrift.size() <= LängsteÜberschrift &&
+           std::ranges::count(Namen, Vergleichsform(überschrift)) > 0;
 }
 
 struct Treffer {

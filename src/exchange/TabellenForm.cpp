@@ -154,7 +154,7 @@ void TabellenForm::LageZeigen()
         return Setzen(Lage, "Diese Liste ist leer.");
     Setzen(Lage, spalten == 0
                      ? Text("Keine Spalte ist angekreuzt.")
-                     : Zeilentext(zeilen) + ", " +
+                     : (zeilen == 1 ? Text("Eine Zeile") : Zeilentext(zeilen)) + ", " +
                            (spalten == 1 ? Text("eine Spalte")
                                          : ZahlText(static_cast<int>(spalten)) + " Spalten") +
                            ". Geben Sie nur weiter, was der Empfänger braucht.");

@@ -179,6 +179,29 @@ TEST_F(EinlesenTest, ZweiEinesNamensUnterscheidetDerGeburtstag)
               (Liste{"Mehrere heißen so, und der Geburtstag sagt nicht, wer gemeint ist."}));
 }
 
+/// Nobody's address overwrites another's because his birthday is not known.
+TEST_F(EinlesenTest, OhneGeburtstagIstKeinerVonMehrerenGemeint)
+{
+    MeßdienerAnlegen("Anna", "Adler"); // without a birthday
+    const Text unklar = "Mehrere heißen so, und der Geburtstag sagt nicht, wer gemeint ist.";
+    const auto ohne =
+        EinlesenPrüfen(Auftrag({"Vorname", "Nachname", "Ort"}, {{"Anna", "Adler", "A"}}));
+    EXPECT_TRUE(ohne[0].Unmöglich);
+    EXPECT_EQ(ohne[0].Zweifel, Liste{unklar});
+    const Liste köpfe = {"Vorname", "Nachname", "Geb.", "Ort"};
+    const auto unlesbar = EinlesenPrüfen(Auftrag(köpfe, {{"Anna", "Adler", "gestern", "A"}}));
+    EXPECT_TRUE(unlesbar[0].Unmöglich);
+    EXPECT_EQ(unlesbar[0].Zweifel.front(), unklar);
+    // As it goes out it comes in; what would change is a doubt.
+    const auto leer = EinlesenPrüfen(Auftrag(köpfe, {{"Anna", "Adler", "", ""}}));
+    EXPECT_EQ(leer[0].Was, Stand::Gleich);
+    const auto anders = EinlesenPrüfen(Auftrag(köpfe, {{"Anna", "Adler", "", "A"}}));
+    EXPECT_EQ(anders[0].Was, Stand::Zweifelhaft);
+    EXPECT_EQ(anders[0].Datensatz, 2);
+    EXPECT_EQ(anders[0].Zweifel,
+              (Liste{"Mehrere heißen so; gemeint ist wohl, wer keinen Geburtstag hat."}));
+}
+
 TEST_F(EinlesenTest, FastDerselbeNameIstEinZweifel)
 {
     const auto vorschau =
@@ -212,15 +235,15 @@ TEST_F(EinlesenTest, MehrAlsDasProgrammAnlegtKommtNichtHinein)
         zeilen.push_back({"Kind", "Nr" + std::to_string(i)});
     const auto auftrag = Auftrag({"Vorname", "Nachname"}, zeilen);
     auto vorschau = EinlesenPrüfen(auftrag);
-    EXPECT_EQ(KeinPlatzFür(auftrag, vorschau),
-              "199 neue sind angekreuzt, Platz ist nur noch für 198: Das Programm legt höchstens "
-              "200 Meßdiener an.");
+    EXPECT_EQ(KeinPlatzFür(auftrag, vorschau), "199 neue Meßdiener sind angekreuzt, Platz ist nur "
+                                               "noch für 198: Das Programm legt höchstens "
+                                               "200 Meßdiener an.");
     EXPECT_EQ(Einlesen(auftrag, vorschau).Neu, 198);
     EXPECT_EQ(Meßdiener.Anzahl, MeisteMeßdiener);
     vorschau = EinlesenPrüfen(auftrag);
     EXPECT_EQ(KeinPlatzFür(auftrag, vorschau),
-              "1 neue sind angekreuzt, Platz ist keiner mehr: Das Programm legt höchstens 200 "
-              "Meßdiener an.");
+              "Ein neuer Meßdiener ist angekreuzt, Platz ist keiner mehr: Das Programm legt "
+              "höchstens 200 Meßdiener an.");
     vorschau.pop_back();
     EXPECT_EQ(KeinPlatzFür(auftrag, vorschau), "");
 }
@@ -238,6 +261,62 @@ TEST_F(EinlesenTest, MehrGruppenAlsDasProgrammAnlegtKommenNichtHinein)
               "60 Gruppen an.");
     Einlesen(auftrag, vorschau);
     EXPECT_EQ(Gruppe.Anzahl, MeisteGruppen);
+    const auto eine = Auftrag({"Vorname", "Nachname", "Gruppe"}, {{"Kim", "Busch", "Neue"}});
+    EXPECT_EQ(KeinPlatzFür(eine, EinlesenPrüfen(eine)),
+              "Eine neue Gruppe wäre nötig, Platz ist keiner mehr: Das Programm legt höchstens 60 "
+              "Gruppen an.");
+}
+
+/// A file may have names past its count of groups: none of them becomes one.
+TEST_F(EinlesenTest, EinNameNachDerLetztenGruppeWirdKeine)
+{
+    GruppenAnlegen = true;
+    const auto auftrag = Auftrag({"Vorname", "Nachname", "Gruppe"}, {{"Kim", "Busch", "Neue"}});
+    for (const int anzahl : {1, MeisteGruppen - 1}) {
+        Gruppe.Anzahl = static_cast<Int16>(anzahl);
+        Gruppe.Bezeichnung[anzahl] = "Rest";
+        Einlesen(auftrag, EinlesenPrüfen(auftrag));
+        EXPECT_EQ(Gruppe.Anzahl, anzahl + 1);
+        EXPECT_EQ(Gruppe.Bezeichnung[anzahl], "Neue");
+        Gruppe.Bezeichnung[anzahl].clear();
+        Meßdiener.Gruppe[1].clear();
+    }
+}
+
+TEST_F(EinlesenTest, OhneÜberschriftenKannDieErsteZeileEineSein)
+{
+    const auto stand = [this](const std::vector<Liste> &zeilen, bool kopfFehlt) {
+        Einleseauftrag auftrag = Auftrag({"Vorname", "Nachname", "Telefon"}, zeilen);
+        auftrag.KopfFehlt = kopfFehlt;
+        return EinlesenPrüfen(auftrag);
+    };
+    const auto vorschau = stand({{"Wie", "Wer", "Wo"}, {"Mia", "Dorn", ""}}, true);
+    EXPECT_EQ(vorschau[0].Was, Stand::Zweifelhaft);
+    EXPECT_EQ(vorschau[0].Zweifel, (Liste{"Das kann eine Überschrift sein."}));
+    EXPECT_FALSE(vorschau[0].Unmöglich);
+    EXPECT_EQ(vorschau[1].Was, Stand::Neu);
+    EXPECT_EQ(stand({{"Wie", "Wer", "Wo"}}, false)[0].Was, Stand::Neu);
+    EXPECT_EQ(stand({{"Mia", "Dorn", "0251"}}, true)[0].Was, Stand::Neu);
+    EXPECT_EQ(stand({{"Mia", "Dorn", "m@x"}}, true)[0].Was, Stand::Neu);
+    EXPECT_EQ(stand({{"Kim", "Busch", "Wo"}}, true)[0].Was, Stand::Geändert); // no heading
+}
+
+/// Who has one name only is not made so, but found again.
+TEST_F(EinlesenTest, WerNurEinenNamenHatKommtZuSichZurück)
+{
+    MeßdienerAnlegen("", "Cetin");
+    MeßdienerAnlegen("", "");
+    const auto auftrag = Auftrag({"Vorname", "Nachname", "Ort"},
+                                 {{"", "Cetin", "A"}, {"Cetin", "", "B"}, {"", "", "C"}});
+    const auto vorschau = EinlesenPrüfen(auftrag);
+    EXPECT_EQ(vorschau[0].Was, Stand::Geändert);
+    EXPECT_EQ(vorschau[0].Datensatz, 2);
+    EXPECT_TRUE(vorschau[1].Unmöglich);
+    EXPECT_EQ(vorschau[2].Zweifel, (Liste{"Der Name fehlt."}));
+    Einlesen(auftrag, vorschau);
+    EXPECT_EQ(Meßdiener.Ort[2], "A");
+    EXPECT_EQ(Meßdiener.Vorname[2], "");
+    EXPECT_EQ(Meßdiener.Anzahl, 4);
 }
 
 TEST_F(EinlesenTest, AuchHelferKommenHinein)

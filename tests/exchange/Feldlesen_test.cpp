@@ -21,6 +21,13 @@ TEST_F(FeldlesenTest, EinTagInDenÜblichenSchreibungen)
     EXPECT_EQ(DatumAusFeld("03/03/12").Wert, "03.03.2012");
     EXPECT_EQ(DatumAusFeld("01/06/12").Zweifel,
               "„01/06/12“ ist nicht eindeutig: Kommt erst der Tag oder erst der Monat?");
+    for (const char *feld : {"01/06/12 00:00", "Fr 01/06/12", "1/6/2012 12:00:00 AM", "01/06/12 "})
+        EXPECT_EQ(DatumAusFeld(feld).Zweifel,
+                  "„" + Text(feld) +
+                      "“ ist nicht eindeutig: Kommt erst der Tag oder erst der Monat?");
+    for (const char *feld : {"2/28/10 00:00", "28/02/2010 10:30 Uhr", "2010-02-28T10:30:00.000Z",
+                             "28. Februar 2010 10:30", "2010-02-28 10:30:00+01:00"})
+        EXPECT_EQ(DatumAusFeld(feld).Wert, "28.02.2010") << feld;
     EXPECT_EQ(DatumAusFeld("3. März 2012").Wert, "03.03.2012");
     EXPECT_EQ(DatumAusFeld("3. Mai 99").Wert, "03.05.1999");
     EXPECT_EQ(DatumAusFeld("").Wert, "");
@@ -29,8 +36,10 @@ TEST_F(FeldlesenTest, EinTagInDenÜblichenSchreibungen)
 
 TEST_F(FeldlesenTest, WasKeinTagIstBleibtStehen)
 {
-    for (const char *feld : {"10:30", "31.2.2012", "irgendwann", "6.1.", "2012", "40914",
-                             "2012-13-01", "2012-01-06x", "6. Brumaire 2012", "Kim 6.1.2012"}) {
+    for (const char *feld :
+         {"10:30", "31.2.2012", "irgendwann", "6.1.", "2012", "40914", "2012-13-01", "2012-01-06x",
+          "6. Brumaire 2012", "Kim 6.1.2012", "2012-01-06 Unsinn", "6. Januar 20125",
+          "6. Januar 2012 oder später", "28/02/20105", "01/06/12 oder"}) {
         EXPECT_EQ(DatumAusFeld(feld).Wert, "") << feld;
         EXPECT_EQ(DatumAusFeld(feld).Zweifel, "„" + Text(feld) + "“ ist kein Datum.");
     }

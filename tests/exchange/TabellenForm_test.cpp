@@ -46,7 +46,7 @@ TEST_F(TabellenFormTest, ZuerstIstNurDasNötigeAngekreuzt)
 {
     EXPECT_EQ(Angekreuzte(), "Vorname Nachname Gruppe ");
     EXPECT_EQ(Zeigt("Lage"),
-              "eine Zeile, 3 Spalten. Geben Sie nur weiter, was der Empfänger braucht.");
+              "Eine Zeile, 3 Spalten. Geben Sie nur weiter, was der Empfänger braucht.");
     form->Welche->setCurrentIndex(1);
     EXPECT_EQ(Angekreuzte(), "Vorname Nachname Dienst 1 Dienst 2 ");
     form->Welche->setCurrentIndex(2);

@@ -44,6 +44,25 @@ TEST_F(TabellenTest, DieGewähltenSpaltenMitMarkeUndStrichpunkten)
     EXPECT_EQ(Tabellenzeilen(Tabellenart::Diener), 1);
 }
 
+/// Whatever a file that was written by hand holds, no spreadsheet takes it for a formula.
+TEST_F(TabellenTest, KeinTextEinesMenschenIstEineFormel)
+{
+    const Text formel = "=HYPERLINK(1)";
+    MeßdienerAnlegen(formel, formel);
+    for (auto feld :
+         {&MeßdienerTabelle::Straße, &MeßdienerTabelle::Ort, &MeßdienerTabelle::Telefon,
+          &MeßdienerTabelle::EMail, &MeßdienerTabelle::Geschlecht, &MeßdienerTabelle::Gruppe,
+          &MeßdienerTabelle::WunschVorname, &MeßdienerTabelle::WunschNachname})
+        (Meßdiener.*feld)[0] = formel;
+    const std::string bytes = Tabellendatei(Tabellenart::Diener, Alle(Tabellenart::Diener));
+    EXPECT_EQ(bytes.find(";=HYPER"), std::string::npos);
+    std::size_t texte = 0;
+    for (std::size_t k = bytes.find("=HYPER"); k != std::string::npos;
+         k = bytes.find("=HYPER", k + 1), ++texte)
+        EXPECT_TRUE(bytes.substr(0, k).ends_with("\"=\"\"")) << k;
+    EXPECT_EQ(texte, 10U);
+}
+
 class PlanTabellenTest : public Prüfstand {
   protected:
     PlanTabellenTest()
