@@ -96,8 +96,10 @@ TEST_F(WebseiteTest, NichtsAusDenTabellenIstSprache)
     EXPECT_EQ(Zähle(seite, "<script>"), 1);
 }
 
-TEST_F(WebseiteTest, EineNeueWocheBeginntAmMontag)
+TEST_F(WebseiteTest, EineNeueWocheBeginntWieDieDesPlans)
 {
+    EXPECT_EQ(Zähle(Tabelle(Seite()), "<tr class=\"w\">"), 1) << "what has no date";
+    Konfig.StartWochentag = 2;
     for (const int tag : {30, 30})
         Messe.Messeart[MesseMitDienern(DatumAus({2026, 11, tag}), 1)] = "Werktag";
     const std::string tabelle = Tabelle(Seite());
