@@ -4,6 +4,7 @@
 #include "core/Umwandlung.h"
 #include "exchange/Aushangdruck.h"
 #include "exchange/Aushangsatz.h"
+#include "platform/Lebenszeichen.h"
 #include "printing/Druckrahmen.h"
 #include "values/Laufzeitfehler.h"
 
@@ -151,6 +152,7 @@ Text AushangDrucken()
         Drucker->FontItalic(false);
         Drucker->FontStrikethru(false);
         Drucker->FontUnderline(false);
+        VorLangemSchritt();
         Maßband band;
         const Satz satz = SatzFinden(
             modus == DruckerDienst::ZweiteForm ? Namenform::VornameUndBuchstabe : Namenform::Ganz,

@@ -16,9 +16,10 @@ Ablage Ablegen(const std::filesystem::path &verzeichnis,
             GanzSchreiben(verzeichnis / PfadAus(datei.Name), datei.Bytes);
             ++ablage.Geschrieben;
         } catch (const Laufzeitfehler &fehler) {
+            if (++ablage.Misslungen > 1)
+                continue;
             ablage.Woran = datei.Name;
             ablage.Warum = fehler.what();
-            break;
         }
     }
     return ablage;

@@ -15,13 +15,15 @@ struct AbzulegendeDatei {
 };
 
 struct Ablage {
-    int Geschrieben = 0; // the first ones
-    Text Woran;          // the file that could not be written, after which none was tried
+    int Geschrieben = 0;
+    int Misslungen = 0;
+    Text Woran; // the first file that could not be written
     Text Warum;
 
-    bool IstGanz() const { return Woran.empty(); }
+    bool IstGanz() const { return Misslungen == 0; }
 };
 
+/// One that cannot be written does not keep the others back.
 Ablage Ablegen(const std::filesystem::path &verzeichnis,
                const std::vector<AbzulegendeDatei> &dateien);
 

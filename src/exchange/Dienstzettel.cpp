@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <string_view>
 #include <tuple>
 #include <utility>
@@ -30,7 +31,8 @@ Text Ordnungsform(const Text &name)
 
 struct Person {
     Dienstzettel Zettel;
-    int Gruppe; // its rank
+    int Gruppe;                                         // its rank
+    std::set<std::pair<int, std::string_view>> Dienste; // masses and what is done there
 };
 
 /// People by surname and first name.
@@ -71,7 +73,8 @@ class Sammlung {
         Person &person = stelle->second;
         if (neu)
             person = {{VollerName(vorname, nachname), helfer ? "Helfer" : "", {}},
-                      helfer ? NurHelfer() : OhneGruppe()};
+                      helfer ? NurHelfer() : OhneGruppe(),
+                      {}};
         return person;
     }
 
@@ -93,13 +96,16 @@ class Sammlung {
                 person.Gruppe = g;
     }
 
-    /// A place that is kept for a group is a service of all its members.
+    /// A place that is kept for a group is a service of all its members, several such places in one
+    /// mass are one.
     void AusPlan(int messe, const Auszugsdienst &dienst)
     {
         const auto eintragen = [&](const Text &vorname, const Text &nachname) {
-            Diese(vorname, nachname, dienst.VonHelfer)
-                .Zettel.Dienste.push_back({TerminDer(tabellen.Messen, messe),
-                                           tabellen.Messen.Messeart[messe], Text(dienst.Dienst)});
+            Person &person = Diese(vorname, nachname, dienst.VonHelfer);
+            if (person.Dienste.emplace(messe, dienst.Dienst).second)
+                person.Zettel.Dienste.push_back({TerminDer(tabellen.Messen, messe),
+                                                 tabellen.Messen.Messeart[messe],
+                                                 Text(dienst.Dienst)});
         };
         bool mitglieder = false;
         if (IstGruppe(tabellen.Gruppen, {*dienst.Vorname, *dienst.Nachname}))

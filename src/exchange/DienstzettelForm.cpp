@@ -36,6 +36,18 @@ QComboBox *Ordnungswahl()
     return wahl;
 }
 
+/// Why there is no slip.
+Text Leersatz(const Zettelwahl &wahl)
+{
+    if (wahl.Diener && wahl.Helfer)
+        return "Niemand dient in diesem Plan.";
+    if (wahl.Diener)
+        return "Kein Meßdiener dient in diesem Plan.";
+    if (wahl.Helfer)
+        return "Kein Helfer dient in diesem Plan.";
+    return "Weder Meßdiener noch Helfer sind angekreuzt.";
+}
+
 Text MitWagenrücklauf(const Text &text)
 {
     Text zeilen;
@@ -114,7 +126,7 @@ void DienstzettelForm::Zeigen()
     Vorschau->setPlainText(Anzeige(ZettelAlsText(zettel, Zettelzeile(GemeinsameTabellen()))));
     for (QPushButton *knopf : {Drucken, Kopieren, Speichern})
         knopf->setEnabled(!zettel.empty());
-    Setzen(Hinweis, zettel.empty() ? "Niemand dient in diesem Plan." : Zahlsatz() + ".");
+    Setzen(Hinweis, zettel.empty() ? Leersatz(Wahl()) : Zahlsatz() + ".");
 }
 
 Text DienstzettelForm::Zahlsatz() const

@@ -47,7 +47,8 @@ QStringList Gruppennamen()
 {
     QStringList namen;
     for (int g = 0; g < altardienst::Gruppe.Anzahl && g <= GruppeTabelle::HöchsterIndex; ++g)
-        namen << Anzeige(altardienst::Gruppe.Bezeichnung[g]);
+        if (const Text &name = altardienst::Gruppe.Bezeichnung[g]; !name.empty())
+            namen << Anzeige(name);
     return namen;
 }
 
@@ -82,6 +83,23 @@ Text Abschnitt(const Text &titel, const std::vector<Text> &zeilen)
     for (const Text &zeile : zeilen)
         text += "  " + zeile + "\n";
     return text;
+}
+
+/// Why there is nobody to write to.
+Text Leersatz(const Adressatenwahl &wahl, const Adressaten &adressaten)
+{
+    if (!adressaten.Unlesbar.empty())
+        return "Niemand davon hat eine lesbare E-Mail-Adresse.";
+    if (!adressaten.Ohne.empty())
+        return "Niemand davon hat eine E-Mail-Adresse.";
+    if (wahl.Kreis == Adressatenkreis::Gruppe)
+        return wahl.Gruppe.empty() ? "Es gibt keine Gruppe." : "Zu dieser Gruppe gehört niemand.";
+    if (wahl.Kreis == Adressatenkreis::Messe && wahl.Messe < 0)
+        return "Es gibt keine Messe.";
+    if (!wahl.Diener && !wahl.Helfer)
+        return "Weder Meßdiener noch Helfer sind angekreuzt.";
+    return wahl.Kreis == Adressatenkreis::Messe ? "In dieser Messe dient niemand davon."
+                                                : "Davon ist niemand eingetragen.";
 }
 
 } // namespace
@@ -219,7 +237,7 @@ void EMailForm::AdressatenZeigen()
     Fehlende->setVisible(fehlende > 0);
     for (QPushButton *knopf : {Öffnen, AdressenKopieren})
         knopf->setEnabled(!adressaten.Adressen.empty());
-    Setzen(Hinweis, adressaten.Adressen.empty() ? "Niemand davon hat eine E-Mail-Adresse." : "");
+    Setzen(Hinweis, adressaten.Adressen.empty() ? Leersatz(wahl, adressaten) : "");
 }
 
 void EMailForm::PlanZeigen()
@@ -256,13 +274,14 @@ void EMailForm::MailÖffnen()
     const Rundbrief brief = Brief();
     const Briefweg weg = WegDes(brief);
     const Text adressen = Adressenzahl(brief.Adressen.size());
-    if (!brief.Inhalt.empty())
+    if (!Plantext->toPlainText().isEmpty())
         VorDemPlandruck();
     if (!Betrachter.Verweis(weg.Verweis))
-        return InDieAblage(AlsAdresszeile(brief.Adressen),
-                           "Es ist kein E-Mail-Programm eingerichtet. " + adressen +
-                               " in der Zwischenablage.");
-    Mitteilen("E-Mail-Programm geöffnet");
+        return InDieAblage(
+            AlsAdresszeile(brief.Adressen),
+            "Es lässt sich kein E-Mail-Programm aufrufen. " + adressen + " in der Zwischenablage" +
+                (brief.Inhalt.empty() ? "." : "; den Text holt danach \"Text kopieren\"."));
+    Mitteilen("E-Mail-Programm aufgerufen");
     if (!weg.MitAdressen)
         return InDieAblage(AlsAdresszeile(brief.Adressen),
                            adressen +
@@ -272,10 +291,10 @@ void EMailForm::MailÖffnen()
                                               : " Danach hier \"Text kopieren\" drücken und den "
                                                 "Text in die E-Mail einfügen."));
     if (!weg.MitInhalt)
-        return InDieAblage(brief.Inhalt, "Die E-Mail ist offen, mit " + adressen +
+        return InDieAblage(brief.Inhalt, "Das E-Mail-Programm ist aufgerufen, mit " + adressen +
                                              " als Blindkopie. Der Text ist zu lang dafür; er "
                                              "liegt in der Zwischenablage zum Einfügen.");
-    Setzen(Hinweis, "Die E-Mail ist offen, mit " + adressen + " als Blindkopie.");
+    Setzen(Hinweis, "Das E-Mail-Programm ist aufgerufen, mit " + adressen + " als Blindkopie.");
 }
 
 } // namespace altardienst

@@ -4,6 +4,7 @@
 #include "assignment/Gründe.h"
 #include "exchange/Kalenderschreiber.h"
 #include "exchange/Planauszug.h"
+#include "overview/Gruppenplatz.h"
 #include "overview/Platz.h"
 #include "platform/Laufwerke.h"
 #include "platform/Uhr.h"
@@ -123,8 +124,7 @@ Vorkommen VorkommenIn(const std::vector<Auszugsmesse> &auszug)
     Vorkommen vorkommen;
     for (std::size_t i = 0; i < auszug.size(); ++i)
         for (const Auszugsdienst &dienst : auszug[i].Dienste)
-            if (auszug[i].HatTermin)
-                vorkommen[{*dienst.Vorname, *dienst.Nachname}].push_back(i);
+            vorkommen[{*dienst.Vorname, *dienst.Nachname}].push_back(i);
     return vorkommen;
 }
 
@@ -139,6 +139,25 @@ std::set<std::size_t> MessenVon(const Empfänger &person, const Vorkommen &vorko
     for (const Text &gruppe : person.Gruppen)
         dazu("Gruppe", gruppe);
     return messen;
+}
+
+/// Those of the tables, then who stands in the plan only, which belongs to no group.
+std::vector<Empfänger> AlleEmpfänger(const Plantabellen &tabellen, const Personenkreis &kreis,
+                                     const std::vector<Auszugsmesse> &auszug)
+{
+    std::vector<Empfänger> alle = EmpfängerAus(tabellen, kreis);
+    if (!kreis.Gruppe.empty())
+        return alle;
+    std::set<std::pair<Text, Text>> bekannte;
+    for (const Empfänger &person : alle)
+        bekannte.emplace(person.Vorname, person.Nachname);
+    for (const Auszugsmesse &messe : auszug)
+        for (const Auszugsdienst &dienst : messe.Dienste)
+            if ((dienst.VonHelfer ? kreis.Helfer : kreis.Diener) &&
+                !IstGruppe(tabellen.Gruppen, {*dienst.Vorname, *dienst.Nachname}) &&
+                bekannte.emplace(*dienst.Vorname, *dienst.Nachname).second)
+                alle.push_back({*dienst.Vorname, *dienst.Nachname, {}});
+    return alle;
 }
 
 /// A name that no other file has, on no platform.
@@ -171,7 +190,7 @@ Kalenderausgabe MessenAlsKalender(const Plantabellen &tabellen, Namenform form)
             schreiber.Anfügen(Eintrag(tabellen, eine, nullptr, namen));
             ++einträge;
         }
-    Kalenderausgabe ausgabe{.Dateien = {}, .OhneTermin = OhneTermin(auszug), .OhneDienst = 0};
+    Kalenderausgabe ausgabe{.Dateien = {}, .OhneTermin = OhneTermin(auszug)};
     if (einträge > 0)
         ausgabe.Dateien.push_back(
             {PlanDateiname() + Endung, std::move(schreiber).Fertig(), einträge});
@@ -185,12 +204,14 @@ Kalenderausgabe KalenderJePerson(const Plantabellen &tabellen, const Personenkre
     const Vorkommen vorkommen = VorkommenIn(auszug);
     const Namengeber namen(form, tabellen);
     const Ortszeit jetzt = Jetzt();
-    Kalenderausgabe ausgabe{.Dateien = {}, .OhneTermin = OhneTermin(auszug), .OhneDienst = 0};
+    Kalenderausgabe ausgabe{.Dateien = {}, .OhneTermin = OhneTermin(auszug)};
     std::set<Text> vergeben;
-    for (const Empfänger &person : EmpfängerAus(tabellen, kreis)) {
-        const std::set<std::size_t> messen = MessenVon(person, vorkommen);
+    for (const Empfänger &person : AlleEmpfänger(tabellen, kreis, auszug)) {
+        std::set<std::size_t> messen = MessenVon(person, vorkommen);
+        const bool dient = !messen.empty();
+        std::erase_if(messen, [&](std::size_t i) { return !auszug[i].HatTermin; });
         if (messen.empty()) {
-            ++ausgabe.OhneDienst;
+            ++(dient ? ausgabe.NurOhneTermin : ausgabe.OhneDienst);
             continue;
         }
         Kalenderschreiber schreiber("Altardienst " + namen.Von(person.Vorname, person.Nachname),

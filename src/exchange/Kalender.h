@@ -19,15 +19,18 @@ struct Kalenderdatei {
 struct Kalenderausgabe {
     std::vector<Kalenderdatei> Dateien;
     int OhneTermin = 0; // masses left out since they have no date or time that a calendar has
-    int OhneDienst = 0; // people without a file, since they do not serve
+    // People without a file:
+    int OhneDienst = 0;    // since they do not serve
+    int NurOhneTermin = 0; // since they serve in masses that are left out only
 };
 
 /// One entry a mass, with everybody who serves in it. An entry keeps its identity as long as date,
 /// time and kind of the mass stay and the parish has the same name, whoever serves.
 Kalenderausgabe MessenAlsKalender(const Plantabellen &tabellen, Namenform form);
 
-/// One file for each person of the tables who serves, whole names in its name only. A person who is
-/// server and helper is one. A place kept for a group counts for all its servers.
+/// One file for each person of the tables who serves, whole names in its name only; unless it is
+/// for a group, also for each one who stands in the plan by hand only. A person who is server and
+/// helper is one. A place kept for a group counts for all its servers.
 Kalenderausgabe KalenderJePerson(const Plantabellen &tabellen, const Personenkreis &kreis,
                                  Namenform form);
 

@@ -48,7 +48,10 @@ Text Inhaltssatz(const Kalenderausgabe &ausgabe, bool jePerson)
 {
     Text satz;
     if (ausgabe.Dateien.empty())
-        satz = jePerson ? "Von ihnen hat niemand einen Dienst." : "Der Plan hat keine Messen.";
+        satz = !jePerson ? "Der Plan hat keine Messen."
+               : ausgabe.NurOhneTermin > 0
+                   ? "Von ihnen hat niemand einen Dienst mit lesbarem Termin."
+                   : "Von ihnen hat niemand einen Dienst.";
     else if (jePerson)
         satz = Gezählt(static_cast<int>(ausgabe.Dateien.size()), "Eine Datei", "Dateien") + ".";
     else
@@ -57,11 +60,26 @@ Text Inhaltssatz(const Kalenderausgabe &ausgabe, bool jePerson)
         satz += " " + Gezählt(ausgabe.OhneDienst, "Eine Person hat", "Personen haben") +
                 " keinen Dienst und " +
                 (ausgabe.OhneDienst == 1 ? "bekommt keine." : "bekommen keine.");
+    if (jePerson && !ausgabe.Dateien.empty() && ausgabe.NurOhneTermin > 0)
+        satz += " " + Gezählt(ausgabe.NurOhneTermin, "Eine Person dient", "Personen dienen") +
+                " nur ohne lesbaren Termin und " +
+                (ausgabe.NurOhneTermin == 1 ? "bekommt keine." : "bekommen keine.");
     if (ausgabe.OhneTermin > 0)
         satz += " " + Gezählt(ausgabe.OhneTermin, "Eine Messe hat", "Messen haben") +
                 " keinen lesbaren Termin und " +
                 (ausgabe.OhneTermin == 1 ? "fehlt darin." : "fehlen darin.");
     return satz;
+}
+
+/// "1 von 3 Dateien geschrieben; nicht geschrieben: Ben Busch.ics: ..., und eine weitere."
+Text Mangelsatz(const Ablage &ablage)
+{
+    Text satz = ZahlText(ablage.Geschrieben) + " von " +
+                ZahlText(ablage.Geschrieben + ablage.Misslungen) +
+                " Dateien geschrieben; nicht geschrieben: " + ablage.Woran + ": " + ablage.Warum;
+    if (ablage.Misslungen > 1)
+        satz += ", und " + Gezählt(ablage.Misslungen - 1, "eine weitere", "weitere");
+    return satz + ".";
 }
 
 std::vector<AbzulegendeDatei> ZumAblegen(const std::vector<Kalenderdatei> &dateien)
@@ -131,8 +149,12 @@ Personenkreis KalenderForm::Kreis() const
 Kalenderausgabe KalenderForm::Ausgabe() const
 {
     const Namenform form = GewählteNamenform(Namen);
-    return JePerson->isChecked() ? KalenderJePerson(GemeinsameTabellen(), Kreis(), form)
-                                 : MessenAlsKalender(GemeinsameTabellen(), form);
+    Kalenderausgabe ausgabe;
+    UnterWartezeiger([&] {
+        ausgabe = JePerson->isChecked() ? KalenderJePerson(GemeinsameTabellen(), Kreis(), form)
+                                        : MessenAlsKalender(GemeinsameTabellen(), form);
+    });
+    return ausgabe;
 }
 
 void KalenderForm::InhaltZeigen()
@@ -187,10 +209,7 @@ void KalenderForm::DateienSchreiben(const std::vector<Kalenderdatei> &dateien)
     Ablage ablage;
     UnterWartezeiger([&] { ablage = Ablegen(*ziel, abzulegen); });
     if (!ablage.IstGanz())
-        return Setzen(Hinweis, ZahlText(ablage.Geschrieben) + " von " +
-                                   ZahlText(static_cast<int>(abzulegen.size())) +
-                                   " Dateien geschrieben, dann nicht: " + ablage.Woran + ": " +
-                                   ablage.Warum + ".");
+        return Setzen(Hinweis, Mangelsatz(ablage));
     Gelungen(Gezählt(ablage.Geschrieben, "ein Kalender", "Kalender") +
              " geschrieben: " + TextVon(*ziel));
 }

@@ -1,39 +1,26 @@
 // When a mass is.
 #include "exchange/Messtermin.h"
 
+#include "assignment/Gründe.h"
 #include "core/Umwandlung.h"
+#include "exchange/Planauszug.h"
 #include "overview/Platz.h"
-#include "values/Laufzeitfehler.h"
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 #include <tuple>
 
 namespace altardienst {
-namespace {
-
-constexpr const char *GanzeWoche = "Wochendienst"; // its date is the first day, its time nothing
-
-Text DatumOderFragezeichen(Datum tag)
-{
-    try {
-        return KurzesDatum(tag);
-    } catch (const Laufzeitfehler &) {
-        return "?";
-    }
-}
-
-} // namespace
 
 Messtermin TerminDer(const MesseTabelle &messen, int messe)
 {
+    if (!HatTermin(messen, messe))
+        return {"?", "?", ""};
     const Datum tag = messen.Datum[messe];
-    const bool woche = messen.Messeart[messe] == GanzeWoche;
-    const Text datum = DatumOderFragezeichen(tag);
-    Text davor = woche ? "ab " : "";
-    if (datum != "?")
-        davor += Links(WochentagName(tag), 2) + " ";
-    return {davor + TagImSatz(tag), davor + datum,
+    const bool woche = IstWochendienst(messen, messe);
+    const Text davor = (woche ? "ab " : "") + Links(WochentagName(tag), 2) + " ";
+    return {davor + TagImSatz(tag), davor + KurzesDatum(tag),
             woche ? Text() : StundenUndMinuten(messen.Uhrzeit[messe])};
 }
 
@@ -49,19 +36,23 @@ std::vector<int> MessenNachZeit(const MesseTabelle &messen, int anzahl)
 {
     std::vector<int> folge(static_cast<std::size_t>(anzahl));
     std::iota(folge.begin(), folge.end(), 0);
-    std::stable_sort(folge.begin(), folge.end(), [&](int a, int b) {
-        return std::tie(messen.Datum[a], messen.Uhrzeit[a]) <
-               std::tie(messen.Datum[b], messen.Uhrzeit[b]);
-    });
+    const auto zeit = [&messen](int i) {
+        return HatTermin(messen, i) ? std::tuple(0, messen.Datum[i], messen.Uhrzeit[i])
+                                    : std::tuple(1, Datum(0), Datum(0));
+    };
+    std::stable_sort(folge.begin(), folge.end(),
+                     [&zeit](int a, int b) { return zeit(a) < zeit(b); });
     return folge;
 }
 
 Text ZeitraumDer(const MesseTabelle &messen, const std::vector<int> &nachZeit)
 {
-    if (nachZeit.empty())
+    const auto ende = std::find_if(nachZeit.begin(), nachZeit.end(),
+                                   [&messen](int i) { return !HatTermin(messen, i); });
+    if (ende == nachZeit.begin())
         return "";
-    const Text von = DatumOderFragezeichen(messen.Datum[nachZeit.front()]);
-    const Text bis = DatumOderFragezeichen(messen.Datum[nachZeit.back()]);
+    const Text von = KurzesDatum(messen.Datum[nachZeit.front()]);
+    const Text bis = KurzesDatum(messen.Datum[*std::prev(ende)]);
     return von == bis ? von : von + " bis " + bis;
 }
 

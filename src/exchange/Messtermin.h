@@ -14,16 +14,18 @@ struct Messtermin {
     Text Uhrzeit; // "10:00"; empty for a service of a whole week
 };
 
-/// Never fails: a date that no calendar has becomes "?".
+/// Without a date and time that a calendar has the day is "?".
 Messtermin TerminDer(const MesseTabelle &messen, int messe);
 
 /// "So 29.11.2026, 10:00 Uhr, Hochamt".
 Text MesseMitJahr(const MesseTabelle &messen, int messe);
 
-/// The records in the order of date and time; two at the same time in that of the table.
+/// The records in the order of date and time; two at the same time, and after all others those
+/// without a date that a calendar has, in that of the table.
 std::vector<int> MessenNachZeit(const MesseTabelle &messen, int anzahl);
 
-/// From the first to the last day of these masses: "28.11.2026 bis 27.12.2026".
+/// From the first to the last day of these masses: "28.11.2026 bis 27.12.2026"; empty if none has
+/// a date that a calendar has.
 Text ZeitraumDer(const MesseTabelle &messen, const std::vector<int> &nachZeit);
 
 } // namespace altardienst

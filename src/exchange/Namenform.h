@@ -26,8 +26,10 @@ class Namengeber {
     /// Reads all names, from which `VornameUndBuchstabe` tells each one apart as `Kurznamen` does.
     explicit Namengeber(Namenform form, const Plantabellen &tabellen = GemeinsameTabellen());
 
-    /// Whoever has one name only is shortened too, except in the whole form; a place that is kept
-    /// for a group is named as it is. Nobody has no name.
+    /// Whoever has a surname only is shortened to its initial, except in the whole form; a first
+    /// name is shortened in the form of initials only: a whole name that was typed into its field
+    /// stays whole in the others. A place that is kept for a group is named as it is. Nobody has no
+    /// name.
     /// The text stays where it is as long as this object lives.
     const Text &Von(const Text &vorname, const Text &nachname) const;
 

@@ -12,13 +12,6 @@
 namespace altardienst {
 namespace {
 
-/// A date field may hold any number that stands in the file.
-bool IstTermin(Datum tag, Datum uhrzeit)
-{
-    return tag > 0 && tag < DatumAus({9999, 12, 31}) && tag == std::floor(tag) && uhrzeit >= 0 &&
-           uhrzeit < 1;
-}
-
 std::vector<Auszugsdienst> DiensteDer(const MesseTabelle &messen, int messe)
 {
     std::vector<Auszugsdienst> dienste;
@@ -42,6 +35,14 @@ std::vector<Auszugsdienst> DiensteDer(const MesseTabelle &messen, int messe)
 
 } // namespace
 
+bool HatTermin(const MesseTabelle &messen, int messe)
+{
+    const Datum tag = messen.Datum[messe];
+    const Datum uhrzeit = messen.Uhrzeit[messe];
+    return tag > 0 && tag < DatumAus({9999, 12, 31}) && tag == std::floor(tag) && uhrzeit >= 0 &&
+           uhrzeit < 1;
+}
+
 std::vector<Auszugsmesse> PlanAusziehen(const Plantabellen &tabellen)
 {
     const MesseTabelle &messen = tabellen.Messen;
@@ -49,7 +50,7 @@ std::vector<Auszugsmesse> PlanAusziehen(const Plantabellen &tabellen)
     std::map<std::tuple<Datum, Datum, std::string_view>, int> gleiche;
     auszug.reserve(static_cast<std::size_t>(tabellen.Messenzahl()));
     for (int i = 0; i < tabellen.Messenzahl(); ++i) {
-        const bool hatTermin = IstTermin(messen.Datum[i], messen.Uhrzeit[i]);
+        const bool hatTermin = HatTermin(messen, i);
         const int davor =
             hatTermin ? gleiche[{messen.Datum[i], messen.Uhrzeit[i], messen.Messeart[i]}]++ : 0;
         auszug.push_back({i, davor, hatTermin, DiensteDer(messen, i)});

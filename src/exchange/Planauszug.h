@@ -30,6 +30,10 @@ struct Auszugsmesse {
     std::vector<Auszugsdienst> Dienste; // in the order of the slots, helpers last
 };
 
+/// Whether a mass has a date and time that a calendar has. The field may hold any number that
+/// stands in the file; nothing in it is nothing, not a day of the year 1899.
+bool HatTermin(const MesseTabelle &messen, int messe);
+
 /// Masses with a date and time that a calendar has in the order of time; after them the others, in
 /// that of the table.
 std::vector<Auszugsmesse> PlanAusziehen(const Plantabellen &tabellen);

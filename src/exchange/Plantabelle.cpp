@@ -4,8 +4,8 @@
 #include "assignment/Dienste.h"
 #include "core/Tabellentext.h"
 #include "core/Umwandlung.h"
+#include "exchange/Planauszug.h"
 #include "overview/Platz.h"
-#include "values/Laufzeitfehler.h"
 
 #include <array>
 
@@ -20,13 +20,10 @@ enum Dienstspalte { SVorname = Terminspalten, SNachname, SDienst, SArt };
 
 Termin TerminVon(int messe)
 {
-    Termin termin;
-    try {
+    Termin termin = {"?", "?", "?", ""};
+    if (HatTermin(Messe, messe))
         termin = {WochentagName(Messe.Datum[messe]), KurzesDatum(Messe.Datum[messe]),
                   StundenUndMinuten(Messe.Uhrzeit[messe]), ""};
-    } catch (const Laufzeitfehler &) {
-        termin = {"?", "?", "?", ""}; // a date that no calendar has
-    }
     TextfeldAnhängen(termin.back(), Messe.Messeart[messe]);
     return termin;
 }

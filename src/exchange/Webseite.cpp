@@ -6,6 +6,7 @@
 #include "exchange/Blattmaß.h"
 #include "exchange/Planauszug.h"
 #include "exchange/Webseitenstil.h"
+#include "overview/Planwoche.h"
 #include "overview/Platz.h"
 #include "platform/Uhr.h"
 
@@ -184,19 +185,21 @@ Text Maschinenzeit(const MesseTabelle &messen, int messe)
            FesteStellen(tag.Tag, 2, 0) + "T" + StundenUndMinuten(messen.Uhrzeit[messe]);
 }
 
-/// The number of the week from Monday on, without a mass before any.
-std::optional<int> Woche(const MesseTabelle &messen, const Auszugsmesse &eine)
+/// None for a mass without a date.
+std::optional<int> Woche(const Plantabellen &tabellen, const Auszugsmesse &eine)
 {
     if (!eine.HatTermin)
         return std::nullopt;
-    return (static_cast<int>(messen.Datum[eine.Messe]) - 2) / 7; // day 2 was a Monday
+    return Planwoche(tabellen.Einstellungen, tabellen.Messen.Datum[eine.Messe]);
 }
 
-void ZeilenAnhängen(std::string &seite, const MesseTabelle &messen,
+void ZeilenAnhängen(std::string &seite, const Plantabellen &tabellen,
                     const std::vector<Auszugsmesse> &auszug, const Blatttafel &tafel)
 {
+    const MesseTabelle &messen = tabellen.Messen;
     for (std::size_t i = 0; i < auszug.size(); ++i) {
-        const bool neueWoche = i > 0 && Woche(messen, auszug[i]) != Woche(messen, auszug[i - 1]);
+        const bool neueWoche =
+            i > 0 && Woche(tabellen, auszug[i]) != Woche(tabellen, auszug[i - 1]);
         seite += neueWoche ? "<tr class=\"w\"><th scope=\"row\">" : "<tr><th scope=\"row\">";
         const auto &zeile = tafel.Zeilen[i];
         if (auszug[i].HatTermin)
@@ -264,7 +267,7 @@ Webseite PlanAlsWebseite(const Plantabellen &tabellen, const Webseitenwunsch &wu
     for (const Text &kopf : tafel.Köpfe)
         seite += "<th scope=\"col\">" + MitTrennstelle(kopf) + "</th>";
     seite += "</tr></thead>\n<tbody>\n";
-    ZeilenAnhängen(seite, tabellen.Messen, auszug, tafel);
+    ZeilenAnhängen(seite, tabellen, auszug, tafel);
     seite += "</tbody>\n</table>\n<script>";
     seite += Webseitenskript;
     seite += "</script>\n</body>\n</html>\n";

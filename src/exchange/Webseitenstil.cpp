@@ -98,7 +98,7 @@ const char *const Webseitenskript = R"(
 var feld=document.getElementById("name"),zahl=document.getElementById("zahl");
 var zeilen=Array.from(document.querySelectorAll("tbody tr"));
 function klein(text){return text.replace(/\s+/g," ").trim().toLocaleLowerCase("de")}
-var texte=zeilen.map(function(zeile){return klein(Array.from(zeile.cells,function(zelle){return zelle.textContent}).join(" "))});
+var texte=zeilen.map(function(zeile){return klein(Array.from(zeile.cells).slice(2).map(function(zelle){return zelle.textContent}).join(" "))});
 feld.parentNode.hidden=false;
 feld.addEventListener("input",function(){
 var wort=klein(feld.value),messen=0;

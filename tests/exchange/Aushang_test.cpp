@@ -2,6 +2,7 @@
 #include "exchange/Aushang.h"
 
 #include "exchange/Aushangstand.h"
+#include "platform/Lebenszeichen.h"
 
 #include <algorithm>
 
@@ -49,6 +50,22 @@ TEST_F(AushangTest, EinBlattQuerUndDanachWiederHoch)
     EXPECT_EQ(Papier.Anfrage.Name, "Aushang");
     EXPECT_EQ(Papier.Anfrage.ErsteForm, "ganze Namen");
     EXPECT_EQ(Papier.Anfrage.ZweiteForm, "Vorname und erster Buchstabe");
+}
+
+TEST_F(AushangTest, DieSucheNachDerSchriftKommtNachDerFrageUnterDemWartezeiger)
+{
+    VolleMesse(2);
+    std::vector<std::size_t> zuvor; // how much was said to the printer
+    VorLangemSchritt = [&] { zuvor.push_back(Papier.Zeilen.size()); };
+    AushangDrucken();
+    VorLangemSchritt = [] {};
+    ASSERT_EQ(zuvor.size(), 1U);
+    EXPECT_GT(zuvor[0], 0U);
+    EXPECT_EQ(Papier.Zeilen.at(0), "Dialog");
+    EXPECT_EQ(std::ranges::count(Papier.Zeilen.begin(),
+                                 Papier.Zeilen.begin() + static_cast<std::ptrdiff_t>(zuvor[0]),
+                                 Text("Print \"Hochamt\"")),
+              0);
 }
 
 TEST_F(AushangTest, TitelKöpfeMessenUndNamen)

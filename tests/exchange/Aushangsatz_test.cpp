@@ -94,6 +94,20 @@ TEST_F(AushangsatzTest, EinDatumDasEsNichtGibtHältNichtsAuf)
     EXPECT_EQ(Tafel().Reihen[0].Tag, "?");
 }
 
+TEST_F(AushangsatzTest, EineMesseOhneDatumStehtAmEndeUndNichtImZeitraum)
+{
+    VolleMesse(1);
+    Messe.Datum[0] = 0;
+    Messe.Uhrzeit[0] = 0;
+    EXPECT_EQ(Tafel().Zeitraum, "");
+    VolleMesse(1);
+    const Aushangtafel tafel = Tafel();
+    EXPECT_EQ(tafel.Zeitraum, "23.11.2026");
+    EXPECT_EQ(tafel.Reihen[0].Tag, "Mo 23.11.");
+    EXPECT_EQ(tafel.Reihen[1].Tag, "?");
+    EXPECT_EQ(tafel.Reihen[1].Uhrzeit, "");
+}
+
 TEST_F(AushangsatzTest, KurzeNamenBleibenAuseinander)
 {
     const int i = VolleMesse(2);

@@ -19,16 +19,19 @@ TEST_F(DateiablageTest, AlleDateienUndSonstNichts)
     EXPECT_EQ(Laufwerke.Auflisten(Festplatte).Dateien.size(), 2U);
 }
 
-TEST_F(DateiablageTest, NachDerErstenDieNichtGehtKommtKeineMehr)
+TEST_F(DateiablageTest, EineDieNichtGehtHältDieAnderenNichtAuf)
 {
     Laufwerke.VerzeichnisAnlegen(Festplatte / "Ben.ics");
+    const Text lang = Text(300, 'x') + ".ics";
     const Ablage ablage =
-        Ablegen(Festplatte, {{"Anna.ics", "1"}, {"Ben.ics", "2"}, {"Cem.ics", "3"}});
+        Ablegen(Festplatte, {{"Anna.ics", "1"}, {"Ben.ics", "2"}, {lang, "3"}, {"Doris.ics", "4"}});
     EXPECT_FALSE(ablage.IstGanz());
-    EXPECT_EQ(ablage.Geschrieben, 1);
+    EXPECT_EQ(ablage.Geschrieben, 2);
+    EXPECT_EQ(ablage.Misslungen, 2);
     EXPECT_EQ(ablage.Woran, "Ben.ics");
     EXPECT_NE(ablage.Warum, "");
-    EXPECT_EQ(Laufwerke.Auflisten(Festplatte).Dateien, std::vector<Text>{"Anna.ics"});
+    EXPECT_EQ(Laufwerke.Auflisten(Festplatte).Dateien,
+              (std::vector<Text>{"Anna.ics", "Doris.ics"}));
 }
 
 TEST_F(DateiablageTest, FremdIstWasNichtAlsEigenesErkanntWird)

@@ -46,7 +46,19 @@ TEST_F(DienstzettelFormTest, DieVorschauFolgtDerWahl)
     EXPECT_EQ(Vorschau(), "");
     EXPECT_FALSE(form->Drucken->isEnabled() || form->Kopieren->isEnabled() ||
                  form->Speichern->isEnabled());
+    EXPECT_EQ(altardienst::Zeigt(form->Hinweis), "Weder Meßdiener noch Helfer sind angekreuzt.");
+}
+
+TEST_F(DienstzettelFormTest, WarumEsKeinenZettelGibt)
+{
+    Messe.Dienerzahl[0] = 0;
+    Klick("Helferinnen");
+    EXPECT_EQ(altardienst::Zeigt(form->Hinweis), "Kein Meßdiener dient in diesem Plan.");
+    Messe.LektorZahl[0] = 0;
+    Klick("Helferinnen");
     EXPECT_EQ(altardienst::Zeigt(form->Hinweis), "Niemand dient in diesem Plan.");
+    Klick("Diener");
+    EXPECT_EQ(altardienst::Zeigt(form->Hinweis), "Kein Helfer dient in diesem Plan.");
 }
 
 TEST_F(DienstzettelFormTest, NachGruppen)

@@ -107,6 +107,36 @@ TEST_F(DienstzettelTest, DerPlatzEinerGruppeStehtBeiAllenDieZuIhrGehören)
     EXPECT_EQ(DienstzettelVon(GemeinsameTabellen(), {})[0].Dienste.size(), 2U);
 }
 
+TEST_F(DienstzettelTest, MehrerePlätzeEinerGruppeInEinerMesseSindEinDienst)
+{
+    Gruppe.Anzahl = 1;
+    Gruppe.Bezeichnung[0] = "Große";
+    Meßdiener.Gruppe[MeßdienerAnlegen("Kim", "Adler")] = "Große";
+    Meßdiener.Gruppe[MeßdienerAnlegen("Kim", "Adler")] = "Große";
+    const int i = VolleMesse(3);
+    Messe.Leuchter[i] = 1;
+    for (const int slot : {1, 2, 3})
+        Besetzen(Messe, Dienerplatznr(i, slot), "Gruppe", "Große");
+    const auto zettel = DienstzettelVon(GemeinsameTabellen(), {});
+    ASSERT_EQ(zettel.size(), 1U);
+    ASSERT_EQ(zettel[0].Dienste.size(), 2U);
+    EXPECT_EQ(zettel[0].Dienste[0].Dienst, "Leuchter");
+    EXPECT_EQ(zettel[0].Dienste[1].Dienst, "Allgemein");
+}
+
+TEST_F(DienstzettelTest, EineMesseOhneDatumStehtZuletztUndMitFragezeichen)
+{
+    Dienend("Kim", "Adler", 2);
+    Messe.Datum[0] = 0;
+    Messe.Uhrzeit[0] = 0;
+    EXPECT_EQ(
+        ZettelAlsText(DienstzettelVon(GemeinsameTabellen(), {}), Zettelzeile(GemeinsameTabellen())),
+        "Kim Adler\n"
+        "Altardienst, 23.11.2026\n"
+        "Mo 23.11.2026, 10:00 Uhr, Hochamt: Allgemein\n"
+        "?, Hochamt: Allgemein\n");
+}
+
 TEST_F(DienstzettelTest, AlsText)
 {
     Meßdiener.Gruppe[Dienend("Kim", "Adler", 2)] = "Große";

@@ -66,7 +66,8 @@ TEST_F(EMailFormTest, AlleMitDemGanzenPlan)
     Klick("Öffnen");
     EXPECT_TRUE(Verweis().starts_with("mailto:?bcc=eins@x.de,zwei@x.de&subject=Altardienst%2C%20"))
         << Verweis();
-    EXPECT_EQ(Zeigt("Hinweis"), "Die E-Mail ist offen, mit 2 Adressen als Blindkopie.");
+    EXPECT_EQ(Zeigt("Hinweis"),
+              "Das E-Mail-Programm ist aufgerufen, mit 2 Adressen als Blindkopie.");
     EXPECT_EQ(Ablage(), "vorher");
     EXPECT_EQ(abgegeben, 1);
 }
@@ -78,6 +79,7 @@ TEST_F(EMailFormTest, DerVerweisKommtHeilBeimSystemAn)
     form->Nachricht->setPlainText("Liebe alle,\nbis bald!");
     Klick("MitPlan");
     Klick("Öffnen");
+    EXPECT_EQ(abgegeben, 0) << "a message alone gives no plan away";
     const QUrl url = QUrl::fromEncoded(QByteArray::fromStdString(Verweis()), QUrl::StrictMode);
     ASSERT_TRUE(url.isValid());
     EXPECT_EQ(url.toEncoded().toStdString(), Verweis());
@@ -100,6 +102,23 @@ TEST_F(EMailFormTest, EineGruppe)
     Klick("AdressenKopieren");
     EXPECT_EQ(Ablage(), "zwei@x.de");
     EXPECT_EQ(Zeigt("Hinweis"), "1 Adresse in der Zwischenablage.");
+}
+
+TEST_F(EMailFormTest, EineGruppeOhneNamenStehtNichtZurWahl)
+{
+    Gruppe.Bezeichnung[0] = "";
+    Öffnen();
+    ASSERT_EQ(form->Gruppe->count(), 1);
+    EXPECT_EQ(Zeigt("Gruppe"), "Kleine");
+}
+
+TEST_F(EMailFormTest, EineMesseOhneDatumHatKeinesImBetreff)
+{
+    Messe.Datum[0] = 0;
+    Öffnen();
+    EXPECT_EQ(Zeigt("Betreff"), "Altardienst, 23.11.2026");
+    form->An->setCurrentIndex(2);
+    EXPECT_EQ(Zeigt("Betreff"), "Altardienst, ?, Hochamt");
 }
 
 TEST_F(EMailFormTest, EineMesseMitIhremPlanUndBetreff)
@@ -174,7 +193,11 @@ TEST_F(EMailFormTest, OhneMailprogrammGibtEsDieAdressen)
     Öffnen();
     Klick("Öffnen");
     EXPECT_EQ(Ablage(), "eins@x.de; zwei@x.de");
-    EXPECT_EQ(Zeigt("Hinweis"), "Es ist kein E-Mail-Programm eingerichtet. 2 Adressen in der "
+    EXPECT_EQ(Zeigt("Hinweis"), "Es lässt sich kein E-Mail-Programm aufrufen. 2 Adressen in der "
+                                "Zwischenablage; den Text holt danach \"Text kopieren\".");
+    Klick("MitPlan");
+    Klick("Öffnen");
+    EXPECT_EQ(Zeigt("Hinweis"), "Es lässt sich kein E-Mail-Programm aufrufen. 2 Adressen in der "
                                 "Zwischenablage.");
     EXPECT_TRUE(GezeigteMeldungen.empty());
 }
@@ -185,15 +208,28 @@ TEST_F(EMailFormTest, OhneAdressenGibtEsNichtsZuÖffnen)
     Klick("Diener");
     EXPECT_FALSE(form->Öffnen->isEnabled());
     EXPECT_FALSE(form->AdressenKopieren->isEnabled());
+    EXPECT_EQ(Zeigt("Hinweis"), "Niemand davon hat eine lesbare E-Mail-Adresse.");
+    Klick("Helferinnen");
+    EXPECT_EQ(Zeigt("Hinweis"), "Weder Meßdiener noch Helfer sind angekreuzt.");
+    Helfer.EMail[0] = "";
+    Klick("Helferinnen");
     EXPECT_EQ(Zeigt("Hinweis"), "Niemand davon hat eine E-Mail-Adresse.");
+    form->An->setCurrentIndex(2);
+    EXPECT_EQ(Zeigt("Hinweis"), "In dieser Messe dient niemand davon.");
+    Meßdiener.Gruppe[0] = "";
+    form->An->setCurrentIndex(1);
+    EXPECT_EQ(Zeigt("Hinweis"), "Zu dieser Gruppe gehört niemand.");
 }
 
 TEST_F(EMailFormTest, OhnePlanUndLeute)
 {
     TabellenLeeren();
     Öffnen();
+    const char *const sätze[] = {"Davon ist niemand eingetragen.", "Es gibt keine Gruppe.",
+                                 "Es gibt keine Messe."};
     for (const int kreis : {0, 1, 2}) {
         form->An->setCurrentIndex(kreis);
+        EXPECT_EQ(Zeigt("Hinweis"), sätze[kreis]);
         EXPECT_FALSE(form->Öffnen->isEnabled());
         EXPECT_EQ(Zeigt("Zahl"), "0 Adressen");
     }

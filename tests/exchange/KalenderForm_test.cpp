@@ -4,6 +4,9 @@
 #include "Formstand.h"
 #include "application/Mitteilung.h"
 #include "overview/Platz.h"
+#include "platform/Uhr.h"
+
+#include <QApplication>
 
 namespace altardienst {
 namespace {
@@ -152,9 +155,17 @@ TEST_F(KalenderFormTest, WasNichtGehtStehtImFenster)
     Laufwerke.VerzeichnisAnlegen(Festplatte / "Ben Busch.ics");
     GewählteDatei = Festplatte;
     Klick("Speichern");
-    EXPECT_TRUE(
-        Zeigt("Hinweis").starts_with("1 von 3 Dateien geschrieben, dann nicht: Ben Busch.ics: "))
+    EXPECT_TRUE(Zeigt("Hinweis").starts_with(
+        "2 von 3 Dateien geschrieben; nicht geschrieben: Ben Busch.ics: "))
         << Zeigt("Hinweis");
+    EXPECT_EQ(Zeigt("Hinweis").find("weitere"), Text::npos);
+    EXPECT_TRUE(Laufwerke.Suchen(Festplatte, "Lea Lang.ics")) << "after the one that failed";
+    Laufwerke.Löschen(Festplatte / "Anna Adler.ics");
+    Laufwerke.VerzeichnisAnlegen(Festplatte / "Anna Adler.ics");
+    Klick("Speichern");
+    EXPECT_TRUE(Zeigt("Hinweis").starts_with("1 von 3 Dateien geschrieben; nicht geschrieben: "))
+        << Zeigt("Hinweis");
+    EXPECT_TRUE(Zeigt("Hinweis").ends_with(", und eine weitere.")) << Zeigt("Hinweis");
     EXPECT_TRUE(GezeigteMeldungen.empty());
     EXPECT_EQ(Mitteilungen().Letzte, "");
 }
@@ -167,13 +178,34 @@ TEST_F(KalenderFormTest, WasFehltSagtDerInhalt)
               "Eine Messe. Eine Messe hat keinen lesbaren Termin und fehlt darin.");
     Messe.Datum[1] = 0;
     Ankreuzen("JePerson");
-    EXPECT_EQ(Zeigt("Inhalt"), "Von ihnen hat niemand einen Dienst. 2 Messen haben keinen lesbaren "
-                               "Termin und fehlen darin.");
+    EXPECT_EQ(Zeigt("Inhalt"),
+              "Von ihnen hat niemand einen Dienst mit lesbarem Termin. 2 Messen haben "
+              "keinen lesbaren Termin und fehlen darin.");
     EXPECT_FALSE(form->Speichern->isEnabled());
+    Messe.Datum[0] = DatumAus({2026, 11, 28});
+    form->FürWen->setCurrentIndex(1);
+    EXPECT_EQ(Zeigt("Inhalt"), "Eine Datei. Eine Person hat keinen Dienst und bekommt keine. "
+                               "Eine Person dient nur ohne lesbaren Termin und bekommt keine. Eine "
+                               "Messe hat keinen lesbaren Termin und fehlt darin.");
     Messe.Anzahl = 0;
     Ankreuzen("AlleMessen");
     EXPECT_EQ(Zeigt("Inhalt"), "Der Plan hat keine Messen.");
     EXPECT_FALSE(form->Speichern->isEnabled());
+}
+
+TEST_F(KalenderFormTest, DieKalenderEntstehenUnterDemWartezeiger)
+{
+    Öffnen();
+    int gewartet = 0;
+    const auto sonst = Uhr.Heute; // asked while a calendar is made
+    Uhr.Heute = [&] {
+        gewartet += QApplication::overrideCursor() ? 1 : 100;
+        return sonst();
+    };
+    Ankreuzen("JePerson");
+    EXPECT_EQ(gewartet, 1);
+    Uhr.Heute = sonst;
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(KalenderFormTest, DieNamenMerktSichDasProgramm)

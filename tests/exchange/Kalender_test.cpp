@@ -210,6 +210,7 @@ TEST_F(KalenderdateiTest, JederBekommtEineDateiMitSeinenMessen)
     EXPECT_EQ(Namen(ausgabe),
               (Zeilen{"Anna Adler.ics", "Änne Übel.ics", "Cem Cohn.ics", "Lea Lang.ics"}));
     EXPECT_EQ(ausgabe.OhneDienst, 1);
+    EXPECT_EQ(ausgabe.NurOhneTermin, 0);
     EXPECT_EQ(ausgabe.OhneTermin, 1);
     const std::string &anna = ausgabe.Dateien[0].Bytes;
     EXPECT_EQ(ausgabe.Dateien[0].Einträge, 1);
@@ -219,6 +220,30 @@ TEST_F(KalenderdateiTest, JederBekommtEineDateiMitSeinenMessen)
     EXPECT_EQ(Mit("X-WR-CALNAME", anna), Zeilen{"X-WR-CALNAME:Altardienst Anna A."});
     EXPECT_EQ(Mit("DESCRIPTION", ausgabe.Dateien[2].Bytes),
               Zeilen{"DESCRIPTION:Dienst: Allgemein"});
+}
+
+TEST_F(KalenderdateiTest, AuchWerNurImPlanStehtBekommtEine)
+{
+    Besetzen(Messe, Dienerplatznr(1, 2), "Gast", "Groß");
+    Messe.KantorZahl[0] = 1;
+    Messe.Kantor1Vor[0] = "Paul";
+    Messe.Kantor1Nach[0] = "Quast";
+    EXPECT_EQ(Namen(JePerson()), (Zeilen{"Anna Adler.ics", "Änne Übel.ics", "Cem Cohn.ics",
+                                         "Lea Lang.ics", "Gast Groß.ics", "Paul Quast.ics"}));
+    EXPECT_EQ(Namen(JePerson({.Diener = false, .Helfer = true, .Gruppe = ""})),
+              (Zeilen{"Lea Lang.ics", "Paul Quast.ics"}));
+    Meßdiener.Gruppe[1] = "Große";
+    EXPECT_EQ(Namen(JePerson({.Diener = true, .Helfer = false, .Gruppe = "Große"})),
+              Zeilen{"Änne Übel.ics"});
+}
+
+TEST_F(KalenderdateiTest, WerNurOhneTerminDientHatTrotzdemEinenDienst)
+{
+    Stellen(2, 1, 3);
+    const Kalenderausgabe ausgabe = JePerson();
+    EXPECT_EQ(ausgabe.OhneDienst, 0);
+    EXPECT_EQ(ausgabe.NurOhneTermin, 1);
+    EXPECT_EQ(ausgabe.Dateien.size(), 4U);
 }
 
 TEST_F(KalenderdateiTest, NurDieGewählten)

@@ -111,6 +111,13 @@ TEST_F(PlanTabellenTest, DieDiensteSindDieDesArchivs)
     }
 }
 
+TEST_F(PlanTabellenTest, OhneDatumStehtKeinesDarin)
+{
+    Messe.Datum[0] = 0;
+    EXPECT_NE(Tabellendatei(Tabellenart::Dienste, {0, 1, 2, 5}).find("\n?;?;?;Adler"),
+              std::string::npos);
+}
+
 TEST_F(PlanTabellenTest, EinUnmöglichesDatumHältNichtsAuf)
 {
     Messe.Datum[0] = 1e9;

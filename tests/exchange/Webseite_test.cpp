@@ -96,10 +96,12 @@ TEST_F(WebseiteTest, NichtsAusDenTabellenIstSprache)
     EXPECT_EQ(Zähle(seite, "<script>"), 1);
 }
 
-TEST_F(WebseiteTest, EineNeueWocheBeginntAmMontag)
+TEST_F(WebseiteTest, EineNeueWocheBeginntWieDieDesPlans)
 {
     for (const int tag : {30, 30})
         Messe.Messeart[MesseMitDienern(DatumAus({2026, 11, tag}), 1)] = "Werktag";
+    EXPECT_EQ(Zähle(Tabelle(Seite()), "<tr class=\"w\">"), 1) << "from Saturday on";
+    Konfig.StartWochentag = 2;
     const std::string tabelle = Tabelle(Seite());
     EXPECT_EQ(Zähle(tabelle, "<tr class=\"w\">"), 2) << "Monday, and what has no date";
     EXPECT_TRUE(Enthält(tabelle, "<tr class=\"w\"><th scope=\"row\"><time "
