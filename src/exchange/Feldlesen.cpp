@@ -13,7 +13,6 @@
 #include <cmath>
 #include <cstdio>
 #include <optional>
-#include <regex>
 #include <utility>
 
 namespace altardienst {
@@ -48,15 +47,44 @@ int Monatsnummer(std::string_view wort)
     return stelle == Monate.end() ? 0 : static_cast<int>(stelle - Monate.begin()) + 1;
 }
 
-/// A day is followed by nothing or by a time: " 00:00", "T10:30:00.000Z", " 10:30 Uhr".
+/// Whether a text is " 00:00", "T10:30:00.000Z", " 10:30 Uhr" or the like to its end.
+bool IstUhrzeit(const Text &text)
+{
+    const char *hier = text.c_str();
+    const auto zeichen = [&hier](char eines) { return *hier == eines && ++hier; };
+    const auto ziffern = [&hier](int mindestens, int höchstens) {
+        int anzahl = 0;
+        for (; anzahl < höchstens && *hier >= '0' && *hier <= '9'; ++anzahl)
+            ++hier;
+        return anzahl >= mindestens;
+    };
+    if (!zeichen(' ') && !zeichen('T'))
+        return false;
+    while (zeichen(' ')) {
+    }
+    if (!ziffern(1, 2) || !zeichen(':') || !ziffern(2, 2))
+        return false;
+    constexpr int Beliebig = 9; // of a second
+    if (zeichen(':') &&
+        (!ziffern(2, 2) || ((zeichen('.') || zeichen(',')) && !ziffern(1, Beliebig))))
+        return false;
+    while (zeichen(' ')) {
+    }
+    if (zeichen('+') || zeichen('-')) {
+        if (!ziffern(2, 2))
+            return false;
+        static_cast<void>(zeichen(':'));
+        return ziffern(2, 2) && *hier == '\0';
+    }
+    const Text rest = Klein(hier);
+    return rest.empty() || rest == "uhr" || rest == "am" || rest == "pm" || rest == "z";
+}
+
+/// A day is followed by nothing or by a time.
 void NurUhrzeit(const Text &feld, int nachTag)
 {
-    constexpr std::size_t Längste = 40;
-    static const std::regex Uhrzeit(
-        R"([ T]\s*\d{1,2}:\d{2}(:\d{2}([.,]\d+)?)?\s*(Uhr|[AaPp][Mm]|Z|[+-]\d{2}:?\d{2})?)");
     const Text danach = feld.substr(static_cast<std::size_t>(nachTag));
-    if (danach.find_first_not_of(' ') != Text::npos &&
-        (danach.size() > Längste || !std::regex_match(danach, Uhrzeit)))
+    if (danach.find_first_not_of(' ') != Text::npos && !IstUhrzeit(danach))
         throw Laufzeitfehler(Laufzeitfehler::TypenUnverträglich);
 }
 
