@@ -3,7 +3,6 @@
 #include "Messung.h"
 #include "kern_bench.h"
 
-#include "assignment/Gründe.h"
 #include "core/Allgemein.h"
 #include "core/Plätze.h"
 #include "core/tables.h"
@@ -19,8 +18,9 @@ namespace {
 constexpr double ZielGanz = 0.2;               // of loading the eight files
 constexpr double ZielÄnderung = ZielGanz / 50; // of the same
 
-/// 400 servers and 602 masses of 20 servers and eight helpers as a good draw would leave them:
-/// nothing to find. Two masses a day, so that everybody rests for days.
+/// 400 servers and 602 masses of 20 servers and eight helpers as a draw would leave them that
+/// knows no absences: some four thousand things to find. Two masses a day, so that everybody rests
+/// for days.
 void GuterPlan()
 {
     VollerBestand();
@@ -35,31 +35,22 @@ void GuterPlan()
         Meßdiener.WunschVorname[j] = Meßdiener.Vorname[partner];
         Meßdiener.WunschNachname[j] = Meßdiener.Nachname[partner];
     }
-    for (int h = 0; h < Helfer.Anzahl; ++h) {
+    for (int h = 0; h < Helfer.Anzahl; ++h)
         Helfer.Dienst1[h] = Text(Helferarten[static_cast<std::size_t>(h / 2 % 4)].Name);
-        Helfer.Dienst2[h].clear();
-    }
-    int diener = -2;
-    int helfer = -1;
+    int diener = 0;
+    int helfer = 0;
     for (int i = 0; i < Messe.Anzahl; ++i) {
         Messe.Messeart[i] = "Hochamt";
         Messe.Allgemein[i] = 10; // with the ten other services
-        const Datum tag = Messe.Datum[i];
-        for (int slot = 1; slot < MesseTabelle::HöchsterSlot; slot += 2) {
-            do
-                diener = (diener + 2) % Meßdiener.Anzahl;
-            while (IstAbwesend(Meßdiener, diener, tag) || IstAbwesend(Meßdiener, diener + 1, tag));
-            for (const int nr : {0, 1}) {
-                Messe.DienerVor[i][slot + nr] = Meßdiener.Vorname[diener + nr];
-                Messe.DienerNach[i][slot + nr] = Meßdiener.Nachname[diener + nr];
-            }
+        for (int slot = 1; slot <= MesseTabelle::HöchsterSlot; ++slot) {
+            Messe.DienerVor[i][slot] = Meßdiener.Vorname[diener];
+            Messe.DienerNach[i][slot] = Meßdiener.Nachname[diener];
+            diener = (diener + 1) % Meßdiener.Anzahl;
         }
         for (const Helferplatz &platz : Helferplätze) {
-            do
-                helfer = (helfer + 1) % Helfer.Anzahl;
-            while (Helfer.Dienst1[helfer] != platz.Art.Name || IstAbwesend(Helfer, helfer, tag));
             (Messe.*platz.Vor)[i] = Helfer.Vorname[helfer];
             (Messe.*platz.Nach)[i] = Helfer.Nachname[helfer];
+            helfer = (helfer + 1) % 200;
         }
     }
 }
