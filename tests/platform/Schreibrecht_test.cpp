@@ -3,7 +3,11 @@
 
 #include "Prüfstand.h"
 
-#include <fstream>
+#include <cstdlib>
+#include <stdexcept>
+#ifndef _WIN32
+#include <unistd.h>
+#endif
 
 namespace altardienst {
 namespace {
@@ -27,17 +31,40 @@ TEST_F(SchreibrechtTest, WoEsKeinVerzeichnisGibtBestehtKeins)
     EXPECT_EQ(DateiLesen(Festplatte / "Datei"), "bleibt");
 }
 
-/// The superuser may write everywhere, so where he runs the tests nothing can be forbidden.
+#ifndef _WIN32
+/// While it stands, the superuser, who may write everywhere, is an ordinary user.
+class AlsBenutzer {
+  public:
+    AlsBenutzer() : vorher(geteuid())
+    {
+        constexpr uid_t Niemand = 65534;
+        if (vorher == 0 && seteuid(Niemand) != 0)
+            throw std::runtime_error("the rights of the superuser could not be put aside");
+    }
+    ~AlsBenutzer()
+    {
+        if (vorher == 0 && seteuid(vorher) != 0)
+            std::abort(); // the tests after this one would run without their rights
+    }
+    AlsBenutzer(const AlsBenutzer &) = delete;
+    AlsBenutzer &operator=(const AlsBenutzer &) = delete;
+
+  private:
+    uid_t vorher;
+};
+
 TEST_F(SchreibrechtTest, WasDasSystemVerbietetBestehtNicht)
 {
-    NUR_WO_ES_GIBT(Rechte);
-    fs::permissions(Festplatte, fs::perms::owner_read | fs::perms::owner_exec);
-    std::ofstream versuch(Festplatte / "Versuch");
-    if (versuch.is_open())
-        GTEST_SKIP() << "this user may write everywhere";
-    EXPECT_FALSE(Schreibrecht.Besteht(Festplatte));
+    fs::permissions(Festplatte, fs::perms::owner_read | fs::perms::owner_exec |
+                                    fs::perms::others_read | fs::perms::others_exec);
+    {
+        const AlsBenutzer benutzer;
+        EXPECT_FALSE(Schreibrecht.Besteht(Festplatte));
+    }
     fs::permissions(Festplatte, fs::perms::owner_all);
+    EXPECT_TRUE(Schreibrecht.Besteht(Festplatte));
 }
+#endif
 
 } // namespace
 } // namespace altardienst
