@@ -322,6 +322,20 @@ TEST_F(AusgleichTest, WasUngernGedientWirdBleibtAnderen)
     }
 }
 
+TEST_F(AusgleichTest, WerKeinenWochendienstWillBekommtAuchDannKeinenWennErSonstNichtDient)
+{
+    for (int j = 0; j < 2; ++j)
+        MeßdienerAnlegen("V" + std::to_string(j), "N");
+    Meßdiener.Wochendienst[0] = "jnnnnnnn";
+    for (int woche = 0; woche < 4; ++woche)
+        Messe.Messeart[MesseMitDienern(Beginn + 7 * woche, 1)] = "Wochendienst";
+    const Ausgleichsergebnis ergebnis = PlanAusgleichen(GemeinsameTabellen(), {.Saat = 1});
+    EXPECT_EQ(ergebnis.Diener.Nachher.Verstöße, 0);
+    ASSERT_EQ(ergebnis.Wechsel.size(), 4U);
+    for (const Platzwechsel &wechsel : ergebnis.Wechsel)
+        EXPECT_EQ(wechsel.VornameNachher, "V1");
+}
+
 TEST_F(AusgleichTest, DieAbständeSindGleichmäßigUndJederDienstGehtReihum)
 {
     for (int j = 0; j < 4; ++j)
