@@ -6,6 +6,7 @@
 #include <cmath>
 #include <numeric>
 #include <optional>
+#include <span>
 
 namespace altardienst {
 namespace {
@@ -32,14 +33,17 @@ constexpr double Größte = 11;
 constexpr double Stufe = 0.25;
 constexpr double AufMehreren = 7;
 
-/// The widths of all pieces, row by row and column by column.
+using Breiten = std::span<const double>;
+
+/// The widths of all pieces, row by row and column by column, and how many each cell has.
 struct Gemessen {
-    std::vector<std::vector<std::vector<double>>> Zeilen;
+    std::vector<double> Stücke;
+    std::vector<std::size_t> Zahlen;
     std::vector<double> Mindestens; // of each column: its widest piece
     std::vector<double> Gern;       // its widest cell on one line
 };
 
-double Ganz(const std::vector<double> &stücke)
+double Ganz(Breiten stücke)
 {
     return std::accumulate(stücke.begin(), stücke.end(), 0.0) +
            Trenner * static_cast<double>(std::max<std::size_t>(stücke.size(), 1) - 1);
@@ -48,27 +52,24 @@ double Ganz(const std::vector<double> &stücke)
 Gemessen Messen(const Blatttafel &tafel)
 {
     Gemessen gemessen;
-    gemessen.Zeilen.reserve(tafel.Zeilen.size());
+    gemessen.Zahlen.reserve(tafel.Zeilen.size() * tafel.Köpfe.size());
     for (const Text &kopf : tafel.Köpfe)
         gemessen.Mindestens.push_back(Textbreite(kopf) * Kopfanteil);
     gemessen.Gern = gemessen.Mindestens;
-    for (const auto &zeile : tafel.Zeilen) {
-        auto &zellen = gemessen.Zeilen.emplace_back();
-        zellen.reserve(zeile.size());
+    for (const auto &zeile : tafel.Zeilen)
         for (std::size_t k = 0; k < zeile.size(); ++k) {
-            auto &breiten = zellen.emplace_back();
-            breiten.reserve(zeile[k].size());
-            for (const std::string_view stück : zeile[k]) {
-                breiten.push_back(Textbreite(stück) * (k < tafel.Fette ? Fett : 1));
-                gemessen.Mindestens[k] = std::max(gemessen.Mindestens[k], breiten.back());
-            }
-            gemessen.Gern[k] = std::max(gemessen.Gern[k], Ganz(breiten));
+            for (const std::string_view stück : zeile[k])
+                gemessen.Stücke.push_back(Textbreite(stück) * (k < tafel.Fette ? Fett : 1));
+            const Breiten zelle = Breiten(gemessen.Stücke).last(zeile[k].size());
+            for (const double breite : zelle)
+                gemessen.Mindestens[k] = std::max(gemessen.Mindestens[k], breite);
+            gemessen.Gern[k] = std::max(gemessen.Gern[k], Ganz(zelle));
+            gemessen.Zahlen.push_back(zelle.size());
         }
-    }
     return gemessen;
 }
 
-int ZeilenIn(const std::vector<double> &stücke, double breite)
+int ZeilenIn(Breiten stücke, double breite)
 {
     int zeilen = 1;
     double rest = breite;
@@ -102,10 +103,13 @@ std::optional<std::vector<double>> Spalten(const Gemessen &gemessen, double brei
 double Höhe(const Gemessen &gemessen, const std::vector<double> &spalten)
 {
     double höhe = Titelhöhe + 2 * Zeilenhöhe + Zellenrand;
-    for (const auto &zeile : gemessen.Zeilen) {
+    const double *stück = gemessen.Stücke.data();
+    for (auto zahl = gemessen.Zahlen.begin(); zahl != gemessen.Zahlen.end();) {
         int zeilen = 1;
-        for (std::size_t k = 0; k < zeile.size(); ++k)
-            zeilen = std::max(zeilen, ZeilenIn(zeile[k], spalten[k]));
+        for (const double spalte : spalten) {
+            zeilen = std::max(zeilen, ZeilenIn({stück, *zahl}, spalte));
+            stück += *zahl++;
+        }
         höhe += zeilen * Zeilenhöhe + Zellenrand;
     }
     return höhe;
@@ -161,23 +165,23 @@ std::vector<double> Prozente(std::vector<double> spalten)
 
 double Textbreite(std::string_view text)
 {
-    static constexpr std::array<double, 256> Breiten = [] {
-        std::array<double, 256> breiten{};
+    static constexpr std::array<int, 256> Hundertstel = [] {
+        std::array<int, 256> breiten{};
         for (std::size_t zeichen = 0; zeichen < breiten.size(); ++zeichen)
             if ((zeichen & 0xC0) != 0x80) // not the rest of a letter
-                breiten[zeichen] = 0.57;
+                breiten[zeichen] = 57;
         for (std::size_t groß = 'A'; groß <= 'Z'; ++groß)
-            breiten[groß] = 0.70;
+            breiten[groß] = 70;
         for (const char schmal : std::string_view("ijltfrI.,;:'()[]/ -!|"))
-            breiten[static_cast<unsigned char>(schmal)] = 0.32;
+            breiten[static_cast<unsigned char>(schmal)] = 32;
         for (const char breit : std::string_view("mwMWGOQ@%"))
-            breiten[static_cast<unsigned char>(breit)] = 0.84;
+            breiten[static_cast<unsigned char>(breit)] = 84;
         return breiten;
     }();
-    double breite = 0;
+    int breite = 0;
     for (const char zeichen : text)
-        breite += Breiten[static_cast<unsigned char>(zeichen)];
-    return breite;
+        breite += Hundertstel[static_cast<unsigned char>(zeichen)];
+    return breite / 100.0;
 }
 
 Blattmaß BlattmaßFür(const Blatttafel &tafel)

@@ -2,6 +2,7 @@
 #include "exchange/Kalender.h"
 
 #include "assignment/Gründe.h"
+#include "core/Umwandlung.h"
 #include "exchange/Kalenderschreiber.h"
 #include "exchange/Planauszug.h"
 #include "overview/Gruppenplatz.h"
@@ -11,9 +12,7 @@
 #include "printing/PlanZeilen.h"
 
 #include <algorithm>
-#include <cinttypes>
 #include <cstdint>
-#include <cstdio>
 #include <initializer_list>
 #include <map>
 #include <set>
@@ -54,17 +53,25 @@ Text Kennung(const Plantabellen &tabellen, const Auszugsmesse &eine, const Empf�
                                     : Prüfzahl({gemeinde, art});
     const Kalendertag tag = KalendertagVon(messen.Datum[eine.Messe]);
     const int sekunden = SekundenVon(messen.Uhrzeit[eine.Messe]);
-    char puffer[80];
-    std::snprintf(puffer, sizeof puffer, "%04d%02d%02dT%02d%02d%02d-%016" PRIx64 "-%d@altardienst",
-                  tag.Jahr % 10000, tag.Monat % 100, tag.Tag % 100, sekunden / 3600,
-                  sekunden / 60 % 60, sekunden % 60, woran, eine.Gleiche + 1);
-    return puffer;
+    Text kennung = FesteStellen(tag.Jahr, 4, 0);
+    const auto zweiStellen = [&](int zahl) { kennung += FesteStellen(zahl, 2, 0); };
+    zweiStellen(tag.Monat);
+    zweiStellen(tag.Tag);
+    kennung += 'T';
+    zweiStellen(sekunden / 3600);
+    zweiStellen(sekunden / 60 % 60);
+    zweiStellen(sekunden % 60);
+    kennung += '-';
+    for (int bit = 60; bit >= 0; bit -= 4)
+        kennung += "0123456789abcdef"[woran >> bit & 15];
+    return kennung + '-' + std::to_string(eine.Gleiche + 1) + "@altardienst";
 }
 
 /// "Leuchter: Anna A., Ben B.", one line a service, without the services of one person.
 Text Dienstzeilen(const Auszugsmesse &messe, const Namengeber &namen, const Empfänger *ohne)
 {
     Text zeilen;
+    zeilen.reserve(messe.Dienste.size() * 20);
     std::string_view dienst;
     for (const Auszugsdienst &einer : messe.Dienste) {
         if (ohne && einer.Hat(ohne->Vorname, ohne->Nachname))

@@ -1,6 +1,8 @@
 // A file of calendar entries.
 #include "exchange/Kalenderschreiber.h"
 
+#include "exchange/Kalenderzeile.h"
+
 #include <cstdlib>
 #include <memory>
 #include <new>
@@ -138,15 +140,6 @@ const std::string &ZeitzoneAlsText()
     return text;
 }
 
-/// Characters that no line of text has, which a file of the parish may hold nevertheless.
-Text OhneSteuerzeichen(Text text)
-{
-    std::erase_if(text, [](char zeichen) {
-        return (static_cast<unsigned char>(zeichen) < ' ' && zeichen != '\n') || zeichen == '\x7f';
-    });
-    return text;
-}
-
 } // namespace
 
 Kalenderschreiber::Kalenderschreiber(const Text &name, Ortszeit stand)
@@ -155,10 +148,10 @@ Kalenderschreiber::Kalenderschreiber(const Text &name, Ortszeit stand)
     Hinzu(kopf, icalproperty_new_version("2.0"));
     Hinzu(kopf, icalproperty_new_prodid(Hersteller));
     Hinzu(kopf, icalproperty_new_calscale("GREGORIAN"));
-    Hinzu(kopf, Erweiterung("X-WR-CALNAME", OhneSteuerzeichen(name).c_str()));
-    Hinzu(kopf, Erweiterung("X-WR-TIMEZONE", Zone));
     bytes = AlsText(kopf);
     bytes.resize(bytes.size() - Ende.size());
+    TextzeileAnhängen(bytes, "X-WR-CALNAME", name);
+    TextzeileAnhängen(bytes, "X-WR-TIMEZONE", Zone);
     bytes += ZeitzoneAlsText();
     Anhängen(stempel, icalproperty_new_dtstamp(Weltzeitpunkt(stand)));
     Anhängen(stempel, icalproperty_new_lastmodified(Weltzeitpunkt(stand)));
@@ -168,7 +161,7 @@ Kalenderschreiber::Kalenderschreiber(const Text &name, Ortszeit stand)
 void Kalenderschreiber::Anfügen(const Kalendereintrag &eintrag)
 {
     bytes += "BEGIN:VEVENT\r\n";
-    Anhängen(bytes, icalproperty_new_uid(eintrag.Kennung.c_str()));
+    TextzeileAnhängen(bytes, "UID", eintrag.Kennung);
     bytes += stempel;
     if (eintrag.GanzeWoche) {
         Anhängen(bytes, icalproperty_new_dtstart(Tag(eintrag.Tag)));
@@ -180,10 +173,9 @@ void Kalenderschreiber::Anfügen(const Kalendereintrag &eintrag)
         Anhängen(bytes, InDerZone(icalproperty_new_dtstart(Zeitpunkt(beginn))));
         Anhängen(bytes, InDerZone(icalproperty_new_dtend(Zeitpunkt(ende))));
     }
-    Anhängen(bytes, icalproperty_new_summary(OhneSteuerzeichen(eintrag.Titel).c_str()));
+    TextzeileAnhängen(bytes, "SUMMARY", eintrag.Titel);
     if (!eintrag.Beschreibung.empty())
-        Anhängen(bytes,
-                 icalproperty_new_description(OhneSteuerzeichen(eintrag.Beschreibung).c_str()));
+        TextzeileAnhängen(bytes, "DESCRIPTION", eintrag.Beschreibung);
     bytes += "END:VEVENT\r\n";
 }
 

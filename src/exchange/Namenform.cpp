@@ -23,10 +23,10 @@ Namengeber::Namengeber(Namenform form, const Plantabellen &tabellen)
 
 const Text &Namengeber::Von(const Text &vorname, const Text &nachname) const
 {
-    const auto bekannt = geformt.find(Namenspaar(vorname, nachname));
-    if (bekannt != geformt.end())
-        return bekannt->second;
-    return geformt.emplace(std::pair(vorname, nachname), Formen(vorname, nachname)).first->second;
+    const auto [text, neu] = geformt.Eintragen(vorname, nachname);
+    if (neu)
+        text = Formen(vorname, nachname);
+    return text;
 }
 
 Text Namengeber::Formen(const Text &vorname, const Text &nachname) const

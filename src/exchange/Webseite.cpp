@@ -159,15 +159,26 @@ const char *Ersatz(char zeichen)
     }
 }
 
+/// Characters that may be written otherwise, by their number.
+const std::array<bool, 256> Besondere = [] {
+    std::array<bool, 256> besondere{};
+    for (std::size_t i = 0; i < besondere.size(); ++i)
+        besondere[i] = i == ' ' || Ersatz(static_cast<char>(i));
+    return besondere;
+}();
+
 /// Appends a text as the page writes it: nothing in it is taken for a sign of the language.
 void Anhängen(std::string &seite, std::string_view text, const char *leerzeichen = " ")
 {
     std::size_t von = 0; // of what is written as it is
-    for (std::size_t i = 0; i < text.size(); ++i)
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (!Besondere[static_cast<unsigned char>(text[i])])
+            continue;
         if (const char *ersatz = text[i] == ' ' ? leerzeichen : Ersatz(text[i])) {
             seite.append(text, von, i - von).append(ersatz);
             von = i + 1;
         }
+    }
     seite.append(text, von);
 }
 

@@ -6,7 +6,6 @@
 
 #include <map>
 #include <set>
-#include <unordered_set>
 
 namespace altardienst {
 namespace {
@@ -54,16 +53,17 @@ void Kurznamen::Neu(const Plantabellen &tabellen)
 {
     Namen namen;
     // Most names come often, and are soon found here.
-    std::unordered_set<Namenspaar, Namenspaarhash> bekannt;
+    struct Nichts {};
+    Namenspaare<Nichts> bekannt;
     const auto aufnehmen = [&](const Text &vorname, const Text &nachname) {
-        if ((!vorname.empty() || !nachname.empty()) && bekannt.insert({vorname, nachname}).second)
+        if ((!vorname.empty() || !nachname.empty()) && bekannt.Eintragen(vorname, nachname).second)
             namen[vorname].insert(nachname);
     };
     AlleAufnehmen(tabellen.Diener, aufnehmen);
     AlleAufnehmen(tabellen.Helferinnen, aufnehmen);
     for (int messe = 0; messe < tabellen.Messenzahl(); ++messe)
         PlätzeAufnehmen(tabellen.Messen, messe, aufnehmen);
-    kurz.clear();
+    kurz.Leeren();
     for (const auto &[vorname, nachnamen] : namen)
         for (auto name = nachnamen.begin(); name != nachnamen.end(); ++name) {
             // In binary order, whoever has most in common with a name stands beside it.
@@ -73,15 +73,15 @@ void Kurznamen::Neu(const Plantabellen &tabellen)
             if (std::next(name) != nachnamen.end())
                 zeichen = std::max(zeichen, Gemeinsam(*name, *std::next(name)));
             const bool ungekürzt = vorname.empty() || IstGruppe(tabellen.Gruppen, {vorname, *name});
-            kurz[{vorname, *name}] =
+            kurz.Eintragen(vorname, *name).first =
                 ungekürzt ? VollerName(vorname, *name) : Gekürzt(vorname, *name, zeichen + 1);
         }
 }
 
 Text Kurznamen::Von(const Text &vorname, const Text &nachname) const
 {
-    const auto gefunden = kurz.find(Namenspaar(vorname, nachname));
-    return gefunden != kurz.end() ? gefunden->second : Gekürzt(vorname, nachname, 1);
+    const Text *gefunden = kurz.Finden(vorname, nachname);
+    return gefunden ? *gefunden : Gekürzt(vorname, nachname, 1);
 }
 
 } // namespace altardienst

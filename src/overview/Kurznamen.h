@@ -1,7 +1,7 @@
 // Names where there is little room.
 #pragma once
 
-#include "overview/Namenspaar.h"
+#include "overview/Namenspaare.h"
 #include "overview/Plantabellen.h"
 #include "values/Text.h"
 

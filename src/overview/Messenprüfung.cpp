@@ -30,6 +30,8 @@ void AbwesenheitenLesen(Kenntnis &kenntnis, const Tabelle &personen, int nr)
     for (const Fehlzeit &abwesenheit : Abwesenheiten(personen, nr))
         if (abwesenheit.IstEingetragen())
             kenntnis.Abwesenheiten[static_cast<std::size_t>(kenntnis.Abwesend++)] = abwesenheit;
+    std::sort(kenntnis.Abwesenheiten.begin(), kenntnis.Abwesenheiten.begin() + kenntnis.Abwesend,
+              [](const Fehlzeit &a, const Fehlzeit &b) { return a.Von < b.Von; });
 }
 
 } // namespace
@@ -85,17 +87,6 @@ void Messenprüfung::HelferLesen()
             k.Gegen[art] = HelferdienstPrüfen({t, h}, {tabellen.Messen, 0, platz}, {});
         }
     }
-}
-
-/// A mass without a date is on no day.
-bool Messenprüfung::Kenntnis::IstAbwesend(Datum tag) const
-{
-    for (int k = 0; k < Abwesend; ++k) {
-        const Fehlzeit &a = Abwesenheiten[static_cast<std::size_t>(k)];
-        if (LiegtIn(tag, a.Von, a.Bis))
-            return tag != 0;
-    }
-    return false;
 }
 
 /// Which entry wants a slot: the last one that means the mass and names somebody for the slot.

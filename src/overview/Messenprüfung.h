@@ -57,12 +57,23 @@ class Messenprüfung {
         int Am(int slot) const { return Wer[static_cast<std::size_t>(slot)]; }
     };
 
-    /// What the tables say of a person, ready to be looked up for each place.
-    struct Kenntnis {
-        std::array<Fehlzeit, 5> Abwesenheiten{}; // the first ones are set
+    /// What the tables say of a person, ready to be looked up for each place: two cache lines.
+    struct alignas(64) Kenntnis {
+        std::array<Fehlzeit, 5> Abwesenheiten{}; // the first ones are set, by their beginning
         int Abwesend = 0;                        // how many
 
-        bool IstAbwesend(Datum tag) const;
+        /// A mass without a date is on no day.
+        bool IstAbwesend(Datum tag) const
+        {
+            for (int k = 0; k < Abwesend; ++k) {
+                const Fehlzeit &a = Abwesenheiten[static_cast<std::size_t>(k)];
+                if (tag < a.Von)
+                    return false; // so do all later ones begin after it
+                if (LiegtIn(tag, a.Von, a.Bis))
+                    return tag != 0;
+            }
+            return false;
+        }
     };
     struct Dienerkenntnis : Kenntnis {
         std::array<bool, Dienstarten.size()> Darf{};

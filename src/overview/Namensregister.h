@@ -1,10 +1,12 @@
 // From the name in a place to the record.
 #pragma once
 
+#include "overview/Namenszahlen.h"
 #include "overview/Plantabellen.h"
 #include "values/Text.h"
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 
@@ -33,34 +35,41 @@ class Namensregister {
   private:
     static constexpr std::size_t Fächer = 1024; // more than twice as many as there can be records
 
-    /// A name as numbers: its beginning, its end, and its length. For a name of up to 16 bytes that
-    /// is all of it, so that comparing these suffices.
-    struct Kurzform {
-        std::uint64_t Anfang = 0;
-        std::uint64_t Ende = 0;
-        std::uint32_t Länge = 0;
-
-        explicit Kurzform(const Text &name);
-        Kurzform() = default;
-        friend bool operator==(const Kurzform &, const Kurzform &) = default;
-    };
-
     /// As long as a cache line: whoever looks for a name reads one, as a rule.
     struct alignas(64) Eintrag {
+        Namenszahlen Zahlen;
         const Text *Vorname = nullptr; // null: the compartment is empty
         const Text *Nachname = nullptr;
-        Kurzform KurzVor;
-        Kurzform KurzNach;
     };
 
     void Leeren() { einträge.fill({}); }
     void Eintragen(const Text &vorname, const Text &nachname, int nr);
     /// The compartment of a name, or the empty one where it belongs.
-    std::size_t Fach(const Text &vorname, const Text &nachname, const Kurzform &kurzVor,
-                     const Kurzform &kurzNach) const;
+    std::size_t Fach(const Namenszahlen &zahlen, const Text &vorname, const Text &nachname) const;
 
     std::array<Eintrag, Fächer> einträge{};
     std::array<std::int16_t, Fächer> nummern{}; // of the records
 };
+
+inline int Namensregister::Finden(const Text &vorname, const Text &nachname) const
+{
+    const Namenszahlen zahlen(vorname, nachname);
+    if (zahlen.IstLeer())
+        return Frei;
+    const std::size_t fach = Fach(zahlen, vorname, nachname);
+    return einträge[fach].Vorname ? nummern[fach] : Unbekannt;
+}
+
+inline std::size_t Namensregister::Fach(const Namenszahlen &zahlen, const Text &vorname,
+                                        const Text &nachname) const
+{
+    std::size_t fach = zahlen.Prüfzahl() >> (64 - std::bit_width(Fächer - 1));
+    while (einträge[fach].Vorname &&
+           !(einträge[fach].Zahlen == zahlen &&
+             (zahlen.SagtAlles() ||
+              (*einträge[fach].Nachname == nachname && *einträge[fach].Vorname == vorname))))
+        fach = (fach + 1) % Fächer;
+    return fach;
+}
 
 } // namespace altardienst

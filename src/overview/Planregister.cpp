@@ -19,7 +19,6 @@ void Planregister::Neu()
     wer.assign(stellen, Namensregister::Frei);
     imPaar.assign(stellen, false);
     davor.resize(stellen);
-    danach.resize(stellen);
     letzte.fill(Keine);
     paare.fill(0);
     letztesPaar.fill(Keine);
@@ -183,47 +182,34 @@ bool Planregister::IstSpäter(Stelle a, Stelle b) const
 
 void Planregister::Anhängen(Stelle stelle, int person)
 {
-    const Stelle vorige = letzte[Nr(person)];
-    davor[Nr(stelle)] = vorige;
-    danach[Nr(stelle)] = Keine;
-    if (vorige != Keine)
-        danach[Nr(vorige)] = stelle;
+    davor[Nr(stelle)] = letzte[Nr(person)];
     letzte[Nr(person)] = stelle;
 }
 
 void Planregister::Lösen(Stelle stelle, std::vector<int> &berührt)
 {
-    const Stelle vor = davor[Nr(stelle)];
-    const Stelle nach = danach[Nr(stelle)];
-    (nach == Keine ? letzte[Nr(Wer(stelle))] : davor[Nr(nach)]) = vor;
-    if (vor != Keine)
-        danach[Nr(vor)] = nach;
-    NächsteMesseBerühren(nach, MesseVon(stelle), berührt);
+    Anschluss(stelle, Wer(stelle), berührt) = davor[Nr(stelle)];
 }
 
 void Planregister::Einfügen(Stelle stelle, int person, std::vector<int> &berührt)
 {
-    Stelle nach = Keine;
-    Stelle vor = letzte[Nr(person)];
-    while (vor != Keine && IstSpäter(vor, stelle)) {
-        nach = vor;
-        vor = davor[Nr(vor)];
-    }
-    davor[Nr(stelle)] = vor;
-    danach[Nr(stelle)] = nach;
-    if (vor != Keine)
-        danach[Nr(vor)] = stelle;
-    (nach == Keine ? letzte[Nr(person)] : davor[Nr(nach)]) = stelle;
-    NächsteMesseBerühren(nach, MesseVon(stelle), berührt);
+    Stelle &anschluss = Anschluss(stelle, person, berührt);
+    davor[Nr(stelle)] = anschluss;
+    anschluss = stelle;
 }
 
-/// The person's next service in another mass: what came before it has changed.
-void Planregister::NächsteMesseBerühren(Stelle ab, int messe, std::vector<int> &berührt) const
+/// Where it says, or is to say, that the place comes next in the person's chain. Touches the
+/// person's next service in another mass: what comes before it changes.
+Stelle &Planregister::Anschluss(Stelle stelle, int person, std::vector<int> &berührt)
 {
-    while (ab != Keine && MesseVon(ab) == messe)
-        ab = danach[Nr(ab)];
-    if (ab != Keine)
-        berührt.push_back(MesseVon(ab));
+    Stelle *anschluss = &letzte[Nr(person)];
+    int nächste = Keine;
+    for (; *anschluss != Keine && IstSpäter(*anschluss, stelle); anschluss = &davor[Nr(*anschluss)])
+        if (MesseVon(*anschluss) != MesseVon(stelle))
+            nächste = MesseVon(*anschluss);
+    if (nächste != Keine)
+        berührt.push_back(nächste);
+    return *anschluss;
 }
 
 Stelle Planregister::LetztesPaarSuchen(int diener) const

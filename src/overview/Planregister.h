@@ -6,6 +6,7 @@
 #include "overview/Platz.h"
 
 #include <array>
+#include <cstdint>
 #include <vector>
 
 namespace altardienst {
@@ -91,7 +92,7 @@ class Planregister {
     void Anhängen(Stelle stelle, int person);
     void Lösen(Stelle stelle, std::vector<int> &berührt);
     void Einfügen(Stelle stelle, int person, std::vector<int> &berührt);
-    void NächsteMesseBerühren(Stelle ab, int messe, std::vector<int> &berührt) const;
+    Stelle &Anschluss(Stelle stelle, int person, std::vector<int> &berührt);
     Stelle LetztesPaarSuchen(int diener) const;
 
     const Plantabellen &tabellen;
@@ -102,9 +103,8 @@ class Planregister {
     std::vector<int> folge;
     std::vector<int> rang; // of a mass in `folge`
     std::vector<std::int16_t> wer;
-    std::vector<bool> imPaar;
+    std::vector<std::uint8_t> imPaar;
     std::vector<Stelle> davor;
-    std::vector<Stelle> danach;
     std::array<Stelle, Personen> letzte{};
     std::array<int, ErsterHelfer> partner{};
     std::array<int, ErsterHelfer> paare{};
