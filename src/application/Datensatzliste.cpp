@@ -47,7 +47,6 @@ Datensatzliste::Datensatzliste(Datensatzwahl *wahl, Quelle woraus)
     Benannt(this, "Datensatzliste");
     später->setSingleShot(true);
     Filter->setPlaceholderText("Filtern");
-    Filter->setClearButtonEnabled(true);
     Filter->setAccessibleName(QString("%1 filtern").arg(quelle.Wer));
     Filter->setToolTip("Zeigt nur die Zeilen, in denen das Getippte steht");
     Filter->installEventFilter(this);
@@ -71,7 +70,10 @@ Datensatzliste::Datensatzliste(Datensatzwahl *wahl, Quelle woraus)
     reihe->addWidget(Griff);
 
     connect(später, &QTimer::timeout, this, Nebenbei([this] { Nachziehen(); }));
-    connect(Filter, &QLineEdit::textChanged, this, Abgefangen([this] { Nachziehen(); }));
+    connect(Filter, &QLineEdit::textChanged, this, Abgefangen([this] {
+                Filter->setClearButtonEnabled(true); // now that there is something to clear
+                Nachziehen();
+            }));
     connect(Liste, &QListView::clicked, this,
             Abgefangen([this](const QModelIndex &zeile) { Wählen(zeilen->Satz(zeile.row())); }));
     connect(Griff, &QToolButton::clicked, this, Abgefangen([this] { Klappen(!IstOffen()); }));
@@ -294,7 +296,7 @@ void Datensatzliste::showEvent(QShowEvent *ereignis)
     QWidget::showEvent(ereignis);
     rollbare = fenster->findChildren<QScrollArea *>();
     Einpassen();
-    Folgen(); // first comes what the window is opened for
+    Nachziehen(); // or the list would be drawn empty first
 }
 
 bool GehörtZurListe(const QWidget *control)
