@@ -10,9 +10,7 @@
 #include "people/HelferForm.h"
 #include "people/MeßdienerForm.h"
 #include "printing/Druckprotokoll.h"
-
-#include <QEventLoop>
-#include <QTimer>
+#include "shell/Ruhe.h"
 
 #include <utility>
 
@@ -46,13 +44,7 @@ class HauptArchivTest : public Hauptstand {
         SchritteBeenden();
     }
 
-    /// The program waits for the user.
-    static void Ruhe()
-    {
-        QEventLoop schleife;
-        QTimer::singleShot(5, &schleife, &QEventLoop::quit);
-        schleife.exec();
-    }
+    static void Ruhe() { altardienst::Ruhe(5); }
 
     std::vector<Text> Aufgehoben() const
     {

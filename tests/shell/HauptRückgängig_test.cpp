@@ -5,11 +5,10 @@
 #include "history/Rückgängig.h"
 #include "history/Tabellenbild.h"
 #include "planning/MessenlisteImProgramm.h"
+#include "shell/Ruhe.h"
 
 #include <QAction>
-#include <QEventLoop>
 #include <QMenu>
-#include <QTimer>
 
 #include <array>
 #include <random>
@@ -37,13 +36,7 @@ class HauptRückgängigTest : public MessenlisteImProgramm {
         Ruhe();
     }
 
-    /// The program waits for the user.
-    static void Ruhe()
-    {
-        QEventLoop schleife;
-        QTimer::singleShot(25, &schleife, &QEventLoop::quit);
-        schleife.exec();
-    }
+    static void Ruhe() { altardienst::Ruhe(25); }
 
     void Wählen(const char *eintrag) const
     {
