@@ -2,12 +2,14 @@
 # Builds the tests for Windows and runs them under Wine; then lets planlauf for Windows and planlauf
 # for Linux do the same on a hundred random parishes and compares what they have written, byte for
 # byte. Needs what bauen.sh keeps in its cache, and makes it if it is missing.
-#   pruefen.sh [kern] [fenster] [planlauf]     (all of them if none is named)
+# Before all that the installer is made, run, and its program removed again.
+#   pruefen.sh [paket] [kern] [fenster] [planlauf]     (all of them if none is named)
 set -euo pipefail
 WURZEL=$(cd "$(dirname "$0")/../.." && pwd)
 . "$WURZEL/packaging/windows/werkzeug.sh"
 . "$WURZEL/packaging/windows/wine.sh"
-teile=("${@:-kern fenster planlauf}")
+. "$WURZEL/packaging/windows/paket.sh"
+teile=("${@:-paket kern fenster planlauf}")
 gewünscht() { [[ " ${teile[*]} " == *" $1 "* ]]; }
 
 # What fails under Wine on both platforms and not on account of the program.
@@ -41,10 +43,14 @@ pakete_installieren "${WINDOWS_PAKETE[@]}" "${WINE_PAKETE[@]}" libgtest-dev popp
 bibliotheken
 bibliothek googletest -DCMAKE_TOOLCHAIN_FILE="$MINGW" -DBUILD_GMOCK=OFF
 bau=$WURZEL/build/windows
-programm_bauen "$bau" -DALTARDIENST_TESTS=ON
+! gewünscht paket || "$WURZEL/packaging/windows/bauen.sh"
+! gewünscht kern && ! gewünscht fenster && ! gewünscht planlauf ||
+    programm_bauen "$bau" -DALTARDIENST_TESTS=ON
 
 wine_beginnen
 fehler=0
+
+! gewünscht paket || paket_prüfen "$bau"/Altardienst-*-setup.exe "$(echo "$bau"/Altardienst-*.*[0-9])"
 
 gewünscht kern && { unter_wine "$bau/tests/kern_tests.exe" --gtest_brief=1 || fehler=1; }
 # Without a screen every window has the keyboard at once, but no font of the system; on the screen it

@@ -1,7 +1,7 @@
 # A Wine of its own for pruefen.sh, which sources it after werkzeug.sh: wine_beginnen once, then
 # unter_wine PROGRAMM ANGABEN... . Everything is gone when the script ends.
 
-WINE_PAKETE=(wine wine64 fonts-wine xvfb openbox)
+WINE_PAKETE=(wine wine64 fonts-wine xvfb openbox xdotool)
 
 # Wine runs as an ordinary user in a home of his own: root may write what is read-only.
 als_benutzer() {
