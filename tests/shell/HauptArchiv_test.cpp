@@ -2,6 +2,7 @@
 // to it.
 #include "shell/Hauptstand.h"
 
+#include "Ruhe.h"
 #include "application/Mitteilung.h"
 #include "core/Allgemein.h"
 #include "fairness/Archiv.h"
@@ -10,7 +11,6 @@
 #include "people/HelferForm.h"
 #include "people/MeßdienerForm.h"
 #include "printing/Druckprotokoll.h"
-#include "shell/Ruhe.h"
 
 #include <utility>
 

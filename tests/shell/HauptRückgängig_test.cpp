@@ -1,11 +1,11 @@
 // Undo and redo in the windows: the two entries of the menu, their keys, and what the forms that
 // are open show.
+#include "Ruhe.h"
 #include "application/Mitteilung.h"
 #include "core/Allgemein.h"
 #include "history/Rückgängig.h"
 #include "history/Tabellenbild.h"
 #include "planning/MessenlisteImProgramm.h"
-#include "shell/Ruhe.h"
 
 #include <QAction>
 #include <QMenu>

@@ -6,10 +6,8 @@
 #include "statistics/StatistikForm.h"
 #include "statistics/Statistikstand.h"
 
-#include <algorithm>
 #include <cmath>
 #include <map>
-#include <sstream>
 
 namespace altardienst {
 namespace {
@@ -247,24 +245,6 @@ TEST_F(DiagrammeFormTest, DieFelderUnterscheidetIhreHelligkeit)
         }
 }
 
-/// In dots; on Windows the circle of an option is a picture.
-int BreitestesBild(const QString &pdf)
-{
-    std::istringstream zeilen(Aufruf("pdfimages", {"-list", pdf}));
-    Text zeile;
-    std::getline(zeilen, zeile);
-    std::getline(zeilen, zeile); // two lines of head
-    int breitestes = 0;
-    while (std::getline(zeilen, zeile)) {
-        std::istringstream felder(zeile);
-        Text seite, nummer, art;
-        int breite = 0;
-        felder >> seite >> nummer >> art >> breite;
-        breitestes = std::max(breitestes, breite);
-    }
-    return breitestes;
-}
-
 TEST_F(DiagrammeFormTest, DruckenGibtDasGewählteScharfUndOhneKnöpfe)
 {
     ÖffnenMitStatistik();
@@ -280,7 +260,8 @@ TEST_F(DiagrammeFormTest, DruckenGibtDasGewählteScharfUndOhneKnöpfe)
         EXPECT_NE(Gedruckt().find(klasse), Text::npos) << Gedruckt(); // the last one too
         for (const char *knopf : {"Drucken", "OK", "Abbrechen"})
             EXPECT_EQ(papier.find(knopf), Text::npos) << knopf;
-        EXPECT_LT(BreitestesBild(datei), 20) << "letters and strokes, not a bitmap of them";
+        // Letters and strokes, not a bitmap of them.
+        EXPECT_EQ(Aufruf("pdfimages", {"-list", datei}).find("image"), Text::npos);
         EXPECT_EQ(PdfLesen(datei).Seiten.size(), 1U);
     }
 }
