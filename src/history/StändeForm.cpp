@@ -98,15 +98,11 @@ void StändeForm::Anordnen()
         Liste->setItem(zeile, StandSpalte,
                        Zelle(StandText(stände[static_cast<std::size_t>(zeile)])));
     Liste->resizeColumnToContents(StandSpalte);
-    const auto breit = [&](int spalte, int ziffern) {
-        Liste->setColumnWidth(spalte,
-                              std::max(ziffern * Liste->fontMetrics().horizontalAdvance('0'),
-                                       Liste->horizontalHeader()->sectionSizeHint(spalte)));
-    };
-    breit(Diener, 10);
-    breit(Helferspalte, 8);
-    breit(Messen, 8);
-    breit(Zeitraum, 26);
+    const int ziffer = Liste->fontMetrics().horizontalAdvance('0');
+    Liste->setColumnWidth(Diener, 10 * ziffer);
+    Liste->setColumnWidth(Helferspalte, 8 * ziffer);
+    Liste->setColumnWidth(Messen, 8 * ziffer);
+    Liste->setColumnWidth(Zeitraum, 26 * ziffer);
     Ansicht->setReadOnly(true);
     Ansicht->setTabChangesFocus(true);
     Ansicht->setAccessibleName("Was sich seit dem gewählten Stand geändert hat");

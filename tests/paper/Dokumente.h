@@ -7,7 +7,9 @@
 #include <utility>
 
 #ifdef _WIN32
-#include <shlobj.h>
+#include <string>
+
+#include <windows.h>
 #endif
 
 namespace altardienst {
@@ -18,10 +20,10 @@ class Dokumente {
     explicit Dokumente(std::filesystem::path verzeichnis) : heim(std::move(verzeichnis))
     {
 #ifdef _WIN32
-        wchar_t *pfad = nullptr;
-        if (SHGetKnownFolderPath(FOLDERID_Documents, KF_FLAG_DONT_VERIFY, nullptr, &pfad) == S_OK)
-            früher = pfad;
-        CoTaskMemFree(pfad);
+        wchar_t pfad[MAX_PATH] = L"";
+        DWORD größe = sizeof pfad;
+        RegGetValueW(HKEY_CURRENT_USER, Ordner, Name, RRF_RT_REG_SZ, nullptr, pfad, &größe);
+        früher = pfad;
         Setzen(heim);
 #else
         früher = qgetenv("HOME");
@@ -51,9 +53,16 @@ class Dokumente {
   private:
     std::filesystem::path heim;
 #ifdef _WIN32
+    // Where the system looks it up; its own call for a change is one that Wine does not have.
+    static constexpr const wchar_t *Ordner =
+        L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders";
+    static constexpr const wchar_t *Name = L"Personal";
+
     static void Setzen(std::filesystem::path verzeichnis)
     {
-        SHSetKnownFolderPath(FOLDERID_Documents, 0, nullptr, verzeichnis.make_preferred().c_str());
+        const std::wstring pfad = verzeichnis.make_preferred().wstring();
+        RegSetKeyValueW(HKEY_CURRENT_USER, Ordner, Name, REG_SZ, pfad.c_str(),
+                        static_cast<DWORD>((pfad.size() + 1) * sizeof(wchar_t)));
     }
     std::filesystem::path früher;
 #else
