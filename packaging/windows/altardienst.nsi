@@ -59,6 +59,7 @@ Section
     RMDir /r "$INSTDIR\data" ; of an earlier version
     RMDir /r "$INSTDIR\handbuch"
     RMDir /r "$INSTDIR\bilder"
+    RMDir /r "$INSTDIR\Lizenzen"
     File /r "${QUELLE}\*.*"
     WriteUninstaller "$INSTDIR\Entfernen.exe"
 
@@ -84,6 +85,7 @@ Section "Uninstall"
     RMDir /r "$INSTDIR\data"
     RMDir /r "$INSTDIR\handbuch"
     RMDir /r "$INSTDIR\bilder"
+    RMDir /r "$INSTDIR\Lizenzen"
     Delete "$INSTDIR\altardienst.exe"
     Delete "$INSTDIR\Lizenz.txt"
     Delete "$INSTDIR\Änderungen.md"

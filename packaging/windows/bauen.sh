@@ -5,6 +5,7 @@
 set -euo pipefail
 WURZEL=$(cd "$(dirname "$0")/../.." && pwd)
 . "$WURZEL/packaging/windows/werkzeug.sh"
+. "$WURZEL/packaging/windows/lizenzen.sh"
 
 pakete_installieren "${WINDOWS_PAKETE[@]}"
 bibliotheken
@@ -16,6 +17,7 @@ version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$bau/CMakeCache.txt")
 name=Altardienst-$version
 rm -rf "${bau:?}/$name" "$bau/$name.zip" "$bau/$name-setup.exe"
 cmake --install "$bau" --prefix "$bau/$name" --strip >/dev/null
+lizenzen "$bau" "$bau/$name/Lizenzen"
 (cd "$bau" && zip -qr "$name.zip" "$name")
 LC_ALL=C.UTF-8 makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DQUELLE="$bau/$name" \
     -DSYMBOL="$bau/bau/altardienst.ico" -DZIEL="$bau/$name-setup.exe" \

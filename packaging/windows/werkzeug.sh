@@ -21,20 +21,36 @@ apt_quellen() {
             "$ort bookworm main" >"$apt/quellen.list"
     fi
     apt-get -qq -o Dir::Etc::sourcelist="$apt/quellen.list" -o Dir::Etc::sourceparts=- \
-        -o Dir::State::lists="$apt/lists" "$@"
+        -o Dir::State::lists="$apt/lists" -o APT::Sandbox::User= -o Acquire::Retries=3 "$@"
 }
 
-# A source package, unpacked with Debian's patches, as quellen/NAME.
+# What works as its makers publish it. Of these the mirror may lack Debian's part, which happens when
+# it is only a cache; apt has compared the rest with the signed index.
+OHNE_DEBIAN=(libical3)
+
+# A source package of the version that the index has now, unpacked with Debian's patches, as
+# quellen/NAME.
 quelle_holen() {
-    [ -d "$WERKZEUG/quellen/$1" ] && return
-    mkdir -p "$WERKZEUG/quellen"
+    local name=$1 teil=$WERKZEUG/quellen/$1.teil
+    [ -d "$WERKZEUG/quellen/$name" ] && return
+    rm -rf "$teil"
+    mkdir -p "$teil"
     (
-        cd "$WERKZEUG/quellen"
+        cd "$teil"
         apt_quellen update
-        apt_quellen source --download-only "$1"
-        dpkg-source --no-check -x "$1"_*.dsc "$1.teil" >/dev/null
-        mv "$1.teil" "$1"
+        if apt_quellen source --download-only "$name"; then
+            dpkg-source --no-check -x "$name"_*.dsc "$name" >/dev/null
+        elif [[ " ${OHNE_DEBIAN[*]} " == *" $name "* ]] && compgen -G "$name"_*.orig.tar.* >/dev/null; then
+            echo "$name: the mirror lacks Debian's patches, it is built without them" >&2
+            mkdir "$name"
+            tar -xf "$name"_*.orig.tar.* -C "$name" --strip-components=1
+        else
+            echo "$name: its sources could not be fetched" >&2
+            exit 1
+        fi
     )
+    mv "$teil/$name" "$WERKZEUG/quellen/$name"
+    rm -rf "$teil"
 }
 
 # bibliothek NAME OPTIONEN...: builds and installs a source package, unless that was done before

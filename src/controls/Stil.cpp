@@ -106,6 +106,13 @@ void RahmenZeichnen(QPainter &stift, const QStyleOption &option)
 
 } // namespace
 
+void Stil::polish(QPalette &farben)
+{
+    QProxyStyle::polish(farben);
+    for (const auto rolle : {QPalette::Highlight, QPalette::HighlightedText})
+        farben.setBrush(QPalette::Inactive, rolle, farben.brush(QPalette::Active, rolle));
+}
+
 void Stil::polish(QWidget *control)
 {
     QProxyStyle::polish(control);

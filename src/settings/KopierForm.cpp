@@ -120,6 +120,7 @@ void KopierForm::Anordnen()
     umfang->addWidget(Einzel);
     umfang->addStretch();
     auto *welche = new QVBoxLayout(Welche);
+    welche->setSpacing(4); // eight of them, below what may be a long text
     for (QRadioButton *option : O)
         welche->addWidget(option);
     auto *rechts = new QVBoxLayout;

@@ -51,6 +51,7 @@ void Wecken(qint64 prozess)
                 return TRUE;
             if (IsIconic(fenster))
                 ShowWindow(fenster, SW_RESTORE);
+            BringWindowToTop(fenster);
             SetForegroundWindow(fenster);
             return FALSE; // the first is the one in front
         },

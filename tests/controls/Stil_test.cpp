@@ -102,6 +102,18 @@ TEST_F(StilTest, DerRahmenEinerListeMitFokusIstAuchAufDunklemGrundZuSehen)
     EXPECT_GT(abstand(QColor(0x28, 0x28, 0x28)), 80);
 }
 
+TEST_F(StilTest, WasGewähltIstBehältSeineFarbeWennDieTastaturAnderswoIst)
+{
+    QPalette farben;
+    for (const auto rolle : {QPalette::Highlight, QPalette::HighlightedText})
+        farben.setColor(QPalette::Inactive, rolle, Hellgrau);
+    farben.setColor(QPalette::Active, QPalette::Highlight, Qt::darkBlue);
+    farben.setColor(QPalette::Active, QPalette::HighlightedText, Qt::white);
+    Stil().polish(farben);
+    EXPECT_EQ(farben.color(QPalette::Inactive, QPalette::Highlight), QColor(Qt::darkBlue));
+    EXPECT_EQ(farben.color(QPalette::Inactive, QPalette::HighlightedText), QColor(Qt::white));
+}
+
 TEST_F(StilTest, DieKnöpfeEinerMeldungTragenKeineBilder)
 {
     QMessageBox meldung(QMessageBox::Question, "Frage", "Wirklich?",

@@ -3,6 +3,7 @@
 
 #include "Formstand.h"
 #include "application/Gemerktes.h"
+#include "paper/Dokumente.h"
 
 #include <memory>
 
@@ -14,16 +15,14 @@ namespace fs = std::filesystem;
 const Druckanfrage Plan = {{}, {}, "Altardienst", "Altardienst 2026-11-28"};
 const Druckanfrage Helferliste = Druckanfrage::Für("Helferliste");
 
-/// The disk is the user's home; it has the directories A and B.
+/// The documents lie on the disk, which has the directories A and B.
 class DruckdialogNameTest : public Formstand<DruckdialogForm> {
   protected:
-    DruckdialogNameTest() : heim(qgetenv("HOME"))
+    DruckdialogNameTest() : dokumente(Festplatte)
     {
-        qputenv("HOME", Festplatte.string().c_str());
         for (const char *name : {"A", "B"})
             fs::create_directory(Festplatte / name);
     }
-    ~DruckdialogNameTest() override { qputenv("HOME", heim); }
 
     void Öffnen(const Druckanfrage &anfrage, const Druckerliste &drucker = {})
     {
@@ -49,10 +48,8 @@ class DruckdialogNameTest : public Formstand<DruckdialogForm> {
 
     Text Pfad(const char *name) const { return TextVon(Festplatte / PfadAus(name)); }
 
+    Dokumente dokumente;
     std::unique_ptr<DruckdialogForm> dialog;
-
-  private:
-    QByteArray heim;
 };
 
 TEST_F(DruckdialogNameTest, DerTitelNenntDenBericht)

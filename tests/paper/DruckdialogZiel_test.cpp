@@ -2,8 +2,10 @@
 #include "paper/Druckdialog.h"
 
 #include "Formstand.h"
+#include "paper/Dokumente.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QTimer>
 
@@ -16,15 +18,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The disk is the user's home; it has the directory Berichte.
+/// The documents lie on the disk, which has the directory Berichte.
 class DruckdialogZielTest : public Formstand<DruckdialogForm> {
   protected:
-    DruckdialogZielTest() : heim(qgetenv("HOME"))
-    {
-        qputenv("HOME", Festplatte.string().c_str());
-        fs::create_directory(Festplatte / "Berichte");
-    }
-    ~DruckdialogZielTest() override { qputenv("HOME", heim); }
+    DruckdialogZielTest() : dokumente(Festplatte) { fs::create_directory(Festplatte / "Berichte"); }
 
     void Öffnen(const Druckerliste &drucker = {})
     {
@@ -49,13 +46,14 @@ class DruckdialogZielTest : public Formstand<DruckdialogForm> {
         return !dialog->isVisible() && dialog->result() == QDialog::Accepted;
     }
 
-    Text Gewählt() const { return dialog->Auswahl().Ziel->outputFileName().toStdString(); }
-    Text Pfad(const char *name) const { return TextVon(Festplatte / name); }
+    Text Gewählt() const
+    {
+        return QDir::toNativeSeparators(dialog->Auswahl().Ziel->outputFileName()).toStdString();
+    }
+    Text Pfad(const char *name) const { return TextVon((Festplatte / name).make_preferred()); }
 
+    Dokumente dokumente;
     std::unique_ptr<DruckdialogForm> dialog;
-
-  private:
-    QByteArray heim;
 };
 
 const Druckerliste ZweiDrucker = {{"Pfarrbüro", "Sakristei"}, "Sakristei"};
@@ -177,7 +175,7 @@ TEST_F(DruckdialogZielTest, EinBloßerNameLiegtBeiDenDokumentenOderImHeimverzeic
     EXPECT_EQ(Gewählt(), Pfad("Plan.pdf"));
     EXPECT_TRUE(Geht(" Berichte/Plan.pdf "));
     EXPECT_EQ(Gewählt(), Pfad("Berichte/Plan.pdf"));
-    fs::create_directory(Festplatte / "Documents"); // as the desktop makes it
+    dokumente.EigenesVerzeichnis();
     EXPECT_TRUE(Geht("Plan"));
     EXPECT_EQ(Gewählt(), Pfad("Documents/Plan.pdf"));
 }

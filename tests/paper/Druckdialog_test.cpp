@@ -126,19 +126,21 @@ TEST_F(DruckdialogTest, AbbrechenEscapeUndSchließenBrechenAb)
 
 TEST_F(DruckdialogTest, DerDateinameIstBeimNächstenMalWiederDa)
 {
-    Ablauf([](QDialog *offen) {
-        Tippen(Finden(offen, "PdfDatei"), "/tmp/einmal.pdf");
+    const Text einmal = TextVon((Festplatte / "einmal.pdf").make_preferred());
+    const Text anders = TextVon((Festplatte / "anders.pdf").make_preferred());
+    Ablauf([&](QDialog *offen) {
+        Tippen(Finden(offen, "PdfDatei"), einmal);
         Klick(Finden(offen, "OKButton"));
     });
     Öffnen({});
-    EXPECT_EQ(Zeigt("PdfDatei"), "/tmp/einmal.pdf");
+    EXPECT_EQ(Zeigt("PdfDatei"), einmal);
     dialog.reset();
-    Ablauf([](QDialog *offen) {
-        Tippen(Finden(offen, "PdfDatei"), "/tmp/anders.pdf");
+    Ablauf([&](QDialog *offen) {
+        Tippen(Finden(offen, "PdfDatei"), anders);
         Klick(Finden(offen, "CancelButton"));
     });
     Öffnen({});
-    EXPECT_EQ(Zeigt("PdfDatei"), "/tmp/einmal.pdf");
+    EXPECT_EQ(Zeigt("PdfDatei"), einmal);
 }
 
 TEST_F(DruckdialogTest, AlleTexteSindDeutschUndTabFolgtDemAuge)

@@ -1,6 +1,8 @@
 // The list in the editors of the people: choosing a row leaves the record like PLUS and MINUS do.
 #include "people/Personenfenster.h"
 
+#include "Ruhe.h"
+
 #include <QListView>
 #include <QScrollArea>
 #include <QStyle>
@@ -22,7 +24,7 @@ class DatensatzlisteForm : public Personenfenster {
 
     std::vector<Text> Zeilen() const
     {
-        QCoreApplication::processEvents();
+        Ruhe(0);
         std::vector<Text> zeilen;
         for (int zeile = 0; zeile < Ansicht()->model()->rowCount(); ++zeile)
             zeilen.push_back(Ansicht()->model()->index(zeile, 0).data().toString().toStdString());
@@ -31,15 +33,14 @@ class DatensatzlisteForm : public Personenfenster {
 
     Text Markiert() const
     {
-        for (int runde = 0; runde < 3; ++runde) // on Windows a timer needs one of its own
-            QCoreApplication::processEvents();
+        Ruhe(0);
         return Ansicht()->currentIndex().data().toString().toStdString();
     }
 
     /// A click of the mouse, which leaves the box that has the focus.
     void Wählen(int zeile) const
     {
-        QCoreApplication::processEvents();
+        Ruhe(0);
         const QModelIndex stelle = Ansicht()->model()->index(zeile, 0);
         Ansicht()->scrollTo(stelle);
         QTest::mouseClick(Ansicht()->viewport(), Qt::LeftButton, {},

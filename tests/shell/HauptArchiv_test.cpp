@@ -2,6 +2,7 @@
 // to it.
 #include "shell/Hauptstand.h"
 
+#include "Ruhe.h"
 #include "application/Mitteilung.h"
 #include "core/Allgemein.h"
 #include "fairness/Archiv.h"
@@ -10,9 +11,6 @@
 #include "people/HelferForm.h"
 #include "people/MeßdienerForm.h"
 #include "printing/Druckprotokoll.h"
-
-#include <QEventLoop>
-#include <QTimer>
 
 #include <utility>
 
@@ -46,13 +44,7 @@ class HauptArchivTest : public Hauptstand {
         SchritteBeenden();
     }
 
-    /// The program waits for the user.
-    static void Ruhe()
-    {
-        QEventLoop schleife;
-        QTimer::singleShot(5, &schleife, &QEventLoop::quit);
-        schleife.exec();
-    }
+    static void Ruhe() { altardienst::Ruhe(5); }
 
     std::vector<Text> Aufgehoben() const
     {

@@ -1,5 +1,6 @@
 // Undo and redo in the windows: the two entries of the menu, their keys, and what the forms that
 // are open show.
+#include "Ruhe.h"
 #include "application/Mitteilung.h"
 #include "core/Allgemein.h"
 #include "history/Rückgängig.h"
@@ -7,9 +8,7 @@
 #include "planning/MessenlisteImProgramm.h"
 
 #include <QAction>
-#include <QEventLoop>
 #include <QMenu>
-#include <QTimer>
 
 #include <array>
 #include <random>
@@ -37,13 +36,7 @@ class HauptRückgängigTest : public MessenlisteImProgramm {
         Ruhe();
     }
 
-    /// The program waits for the user.
-    static void Ruhe()
-    {
-        QEventLoop schleife;
-        QTimer::singleShot(25, &schleife, &QEventLoop::quit);
-        schleife.exec();
-    }
+    static void Ruhe() { altardienst::Ruhe(25); }
 
     void Wählen(const char *eintrag) const
     {

@@ -70,7 +70,9 @@ TEST_F(JedesFensterDunkelTest, JedesWortIstZuLesen)
     InJedemFenster([&](const Text &, QWidget *fenster) {
         for (QWidget *control : fenster->findChildren<QWidget *>()) {
             const Text wort = Beschriftet(control);
-            const QRect innen = control->rect().adjusted(4, 3, -4, -3); // without its frame
+            const bool hatRahmen = !qobject_cast<const QLabel *>(control);
+            const QRect innen =
+                hatRahmen ? control->rect().adjusted(4, 3, -4, -3) : control->rect();
             if (!control->isVisibleTo(fenster) || wort.find_first_not_of(' ') == Text::npos ||
                 innen.isEmpty())
                 continue;

@@ -120,8 +120,8 @@ class Statistikstand : public Formstand<> {
     void IstOrdentlich(const std::vector<Text> &tabfolge)
     {
         EXPECT_EQ(Stumme(form), std::vector<Text>());
-        EXPECT_LE(form->width(), KleinsterBildschirm.width());
-        EXPECT_LE(form->height(), KleinsterBildschirm.height());
+        EXPECT_LE(form->minimumSizeHint().width(), KleinsterBildschirm.width());
+        EXPECT_LE(form->minimumSizeHint().height(), KleinsterBildschirm.height());
         EXPECT_EQ(Tabfolge(form), tabfolge);
     }
 
