@@ -15,6 +15,7 @@ std::vector<Text> Bedeutungen(const std::vector<Text> &überschriften,
     for (const int spalte : ZuordnungNach(überschriften, art))
         bedeutungen.push_back(spalte == KeineSpalte  ? "-"
                               : spalte == GanzerName ? "ganz"
+                              : spalte == PlzUndOrt  ? "PLZ+Ort"
                                                      : SpalteMit(art, spalte).Name);
     return bedeutungen;
 }
@@ -59,6 +60,43 @@ TEST_F(SpaltenTest, EinNameAlleinIstDerGanze)
     EXPECT_EQ(vorname + "|" + nachname, "Anna Lena|Adler");
     NamenTeilen("Adler", vorname, nachname);
     EXPECT_EQ(vorname + "|" + nachname, "|Adler");
+}
+
+TEST_F(SpaltenTest, PlzUndOrtKönnenEineSpalteSein)
+{
+    for (const char *kopf : {"PLZ Ort", "PLZ/Ort", "PLZ, Wohnort", "Postleitzahl und Ort"})
+        EXPECT_EQ(Bedeutungen({"Name", "Vorname", kopf, "Ort"}),
+                  (Liste{"Nachname", "Vorname", "PLZ+Ort", "-"}))
+            << kopf;
+    EXPECT_EQ(Bedeutungen({"PLZ", "Ort"}), (Liste{"PLZ", "Ort"}));
+    const auto geteilt = [](const Text &ganz) {
+        Text plz;
+        Text ort;
+        PlzUndOrtTeilen(ganz, plz, ort);
+        return plz + "|" + ort;
+    };
+    EXPECT_EQ(geteilt("48999 Beispielort am See"), "48999|Beispielort am See");
+    EXPECT_EQ(geteilt("D-48999, Beispielort"), "D-48999|Beispielort");
+    EXPECT_EQ(geteilt("48999/Beispielort"), "48999|Beispielort");
+    EXPECT_EQ(geteilt("48999"), "48999|");
+    EXPECT_EQ(geteilt("Bad Ort"), "|Bad Ort");
+    EXPECT_EQ(geteilt(""), "|");
+    EXPECT_EQ(SpalteNamens(Personenart::Helfer, "PLZ"), SpaltePlz);
+    EXPECT_EQ(SpalteNamens(Personenart::Diener, "Ort"), SpalteOrt);
+}
+
+TEST_F(SpaltenTest, WasSichAusschließt)
+{
+    EXPECT_TRUE(SchließenSichAus(GanzerName, SpalteVorname));
+    EXPECT_TRUE(SchließenSichAus(SpalteNachname, GanzerName));
+    EXPECT_TRUE(SchließenSichAus(SpaltePlz, PlzUndOrt));
+    EXPECT_TRUE(SchließenSichAus(PlzUndOrt, SpalteOrt));
+    EXPECT_TRUE(SchließenSichAus(PlzUndOrt, PlzUndOrt));
+    EXPECT_TRUE(SchließenSichAus(SpalteOrt, SpalteOrt));
+    EXPECT_FALSE(SchließenSichAus(PlzUndOrt, GanzerName));
+    EXPECT_FALSE(SchließenSichAus(PlzUndOrt, SpalteVorname));
+    EXPECT_FALSE(SchließenSichAus(SpaltePlz, SpalteOrt));
+    EXPECT_FALSE(SchließenSichAus(KeineSpalte, KeineSpalte));
 }
 
 /// Whoever writes a list with all columns gets each of them back.
