@@ -76,6 +76,64 @@ TEST_F(DienstzettelTest, GeordnetWieImTelefonbuch)
                                 "Kim Straub", "Kim Strauß", "Kim Zobel"}));
 }
 
+TEST_F(DienstzettelTest, BuchstabenMitZeichenStehenBeiIhremGrundbuchstaben)
+{
+    for (const auto &[buchstabe, grund] : std::vector<std::pair<Text, Text>>{{"ä", "a"},
+                                                                             {"ö", "o"},
+                                                                             {"ü", "u"},
+                                                                             {"ß", "ss"},
+                                                                             {"é", "e"},
+                                                                             {"è", "e"},
+                                                                             {"ê", "e"},
+                                                                             {"á", "a"},
+                                                                             {"à", "a"},
+                                                                             {"ç", "c"},
+                                                                             {"ó", "o"},
+                                                                             {"ñ", "n"}}) {
+        Meßdiener.Anzahl = 0;
+        Messe.Anzahl = 0;
+        Dienend("Kim", "X" + buchstabe + "b" + buchstabe, 1);
+        Dienend("Kim", "X" + grund + "b" + grund + "x", 1);
+        Dienend("Kim", "X" + grund + "a", 1);
+        EXPECT_EQ(Namen({}), (Liste{"Kim X" + grund + "a", "Kim X" + buchstabe + "b" + buchstabe,
+                                    "Kim X" + grund + "b" + grund + "x"}));
+    }
+}
+
+/// A file may claim any number, and records that were deleted leave their names behind.
+TEST_F(DienstzettelTest, WasNachDerAnzahlStehtHatKeinenZettel)
+{
+    const Zettelwahl alle{.AuchOhneDienst = true, .Ordnung = Zettelordnung::NachGruppe};
+    Gruppe.Anzahl = 1;
+    Gruppe.Bezeichnung[0] = "Große";
+    Meßdiener.Gruppe[MeßdienerAnlegen("Kim", "Adler")] = "Große";
+    Meßdiener.Vorname[1] = "Rest";
+    Meßdiener.Gruppe[1] = "Große";
+    Helfer.Vorname[0] = "Helferrest";
+    Besetzen(Messe, Dienerplatznr(VolleMesse(1), 1), "Gruppe", "Große");
+    EXPECT_EQ(Namen(alle), Liste{"Kim Adler"});
+    Meßdiener.Anzahl = 30000;
+    Helfer.Anzahl = 30000;
+    Gruppe.Anzahl = 30000;
+    EXPECT_EQ(Namen(alle), (Liste{"Rest", "Kim Adler", "Helferrest"}));
+}
+
+TEST_F(DienstzettelTest, EinNameGenügt)
+{
+    MeßdienerAnlegen("Kim", "");
+    MeßdienerAnlegen("", "Adler");
+    EXPECT_EQ(Namen({.AuchOhneDienst = true}), (Liste{"Kim", "Adler"}));
+}
+
+TEST_F(DienstzettelTest, OhneGruppeIstNichtInDerGruppeOhneNamen)
+{
+    Gruppe.Anzahl = 2;
+    Gruppe.Bezeichnung[1] = "Große";
+    Dienend("Kim", "Adler", 1);
+    Meßdiener.Gruppe[Dienend("Ben", "Busch", 1)] = "Große";
+    EXPECT_EQ(Namen({.Ordnung = Zettelordnung::NachGruppe}), (Liste{"Ben Busch", "Kim Adler"}));
+}
+
 TEST_F(DienstzettelTest, GeordnetNachGruppen)
 {
     Gruppe.Anzahl = 2;

@@ -4,6 +4,8 @@
 #include "exchange/Adressaten.h"
 #include "exchange/Aushangstand.h"
 
+#include <cstdio>
+
 namespace altardienst {
 namespace {
 
@@ -47,6 +49,25 @@ TEST_F(RundbriefTest, WerKeineOderKeineLesbareHatWirdGenannt)
     EXPECT_EQ(gefunden.Ohne, Liste{"Adler, Anna"});
     EXPECT_EQ(gefunden.Unlesbar, (Liste{"Busch, Ben: ben(at)busch.de", "Cetin, Cem: hat",
                                         "Cetin, Cem: noch", "Cetin, Cem: keine"}));
+}
+
+/// Whatever stands in a subject or an address, the link has nothing in it that a program could read
+/// otherwise.
+TEST_F(RundbriefTest, NurHarmloseZeichenStehenImVerweisWieSieSind)
+{
+    const Text harmlose = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-._~";
+    for (int byte = 1; byte < 256; ++byte) {
+        const Text zeichen(1, static_cast<char>(byte));
+        char nummer[8];
+        std::snprintf(nummer, sizeof nummer, "%%%02X", static_cast<unsigned>(byte));
+        const Text erwartet = harmlose.find(zeichen) != Text::npos ? zeichen
+                              : byte == '\n'                       ? "%0D%0A"
+                                                                   : nummer;
+        EXPECT_EQ(MailVerweis({{}, zeichen, ""}), "mailto:?subject=" + erwartet) << byte;
+        EXPECT_EQ(MailVerweis({{zeichen}, "", ""}),
+                  "mailto:?bcc=" + (byte == '@' ? zeichen : erwartet))
+            << byte;
+    }
 }
 
 TEST_F(RundbriefTest, EineGruppe)
@@ -125,6 +146,7 @@ TEST_F(RundbriefTest, WasNichtInDenVerweisPasst)
 
     brief.Betreff = lang;
     EXPECT_EQ(WegDes(brief).Verweis, "mailto:");
+    EXPECT_FALSE(WegDes(brief).MitAdressen || WegDes(brief).MitInhalt);
 }
 
 TEST_F(RundbriefTest, DieGrenzeGiltGenau)
