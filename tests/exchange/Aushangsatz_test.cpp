@@ -221,5 +221,38 @@ TEST_F(AushangsatzTest, EineLangeArtStehtInZweiZeilen)
     EXPECT_EQ(Artzeilen("Hochamt", true, Maße), Liste{"Hochamt"});
 }
 
+/// The day and the heads are bold, all else is not.
+TEST_F(AushangsatzTest, FettSindNurTagUndKopf)
+{
+    Maße.Breite = [](const Text &text, bool fett) { return Länge(text) * (fett ? 20.0 : 10.0); };
+    const int i = VolleMesse(1);
+    const double luft = Zellenluft * Maße.Geviert;
+    const auto breiten = [&](const Text &vorname, const Text &art) {
+        Messe.Messeart[i] = art;
+        Besetzen(Messe, Dienerplatznr(i, 1), vorname, "");
+        return BreitenDer(Tafel(), {.ArtGeteilt = true}, Maße);
+    };
+    const Satzbreiten langer = breiten("Maximiliane-Friederike", "Hochamt der Pfarre");
+    EXPECT_DOUBLE_EQ(langer.Tag, Länge(Tafel().Reihen[0].Tag) * 20 + luft);
+    EXPECT_DOUBLE_EQ(langer.Uhrzeit, Länge(Tafel().Reihen[0].Uhrzeit) * 10 + luft);
+    EXPECT_DOUBLE_EQ(langer.Art, 100 + luft); // "der Pfarre"
+    EXPECT_DOUBLE_EQ(langer.Spalten[0], 220 + luft);
+    EXPECT_DOUBLE_EQ(breiten("Li", "Hochamt").Spalten[0],
+                     Länge(Tafel().Spalten[0].Kurzkopf) * 20 + luft);
+}
+
+TEST_F(AushangsatzTest, EineArtTeiltSichInMöglichstGleicheZeilen)
+{
+    EXPECT_EQ(Artzeilen("Hochamt der Pfarre", false, Maße), Liste{"Hochamt der Pfarre"});
+    EXPECT_EQ(Artzeilen("Hochamt", true, Maße), Liste{"Hochamt"});
+    EXPECT_EQ(Artzeilen("Hochamt der Pfarre", true, Maße), (Liste{"Hochamt", "der Pfarre"}));
+    EXPECT_EQ(Artzeilen("a b c d", true, Maße), (Liste{"a b", "c d"}));
+    EXPECT_EQ(Artzeilen("aa b aa", true, Maße), (Liste{"aa", "b aa"})); // of equal ones the first
+    Maße.Breite = [](const Text &text, bool fett) {
+        return fett ? 1000.0 - Länge(text) : Länge(text) * 10.0;
+    };
+    EXPECT_EQ(Artzeilen("Hochamt der Pfarre", true, Maße), (Liste{"Hochamt", "der Pfarre"}));
+}
+
 } // namespace
 } // namespace altardienst

@@ -145,6 +145,14 @@ TEST_F(KalenderdateiTest, DieKennungHängtAnMesseUndGemeinde)
     EXPECT_EQ(andere([] { Konfig.Gemeinde = "St. Martin"; }), 2);
 }
 
+/// What was passed on once is known by these for good: another version may not make others.
+TEST_F(KalenderdateiTest, DieKennungenBleibenAuchInSpäterenFassungen)
+{
+    EXPECT_EQ(Kennungen(Alle()), (Zeilen{"UID:20261128T183000-6d8b4186a9a04e92-1@altardienst",
+                                         "UID:20261129T100000-ec4f738fd498a682-1@altardienst"}));
+    EXPECT_EQ(Kennungen(JePerson()).at(0), "UID:20261129T100000-76b0e0921e30bda8-1@altardienst");
+}
+
 TEST_F(KalenderdateiTest, JedeKennungGibtEsNurEinmal)
 {
     const int gleiche = MesseMitDienern(Messe.Datum[0], 1);
@@ -293,6 +301,49 @@ TEST_F(KalenderdateiTest, KeineZweiDateienMitDemselbenNamen)
     Stellen(1, 1, 2);
     EXPECT_EQ(Namen(JePerson({.Diener = true, .Helfer = false, .Gruppe = ""})),
               (Zeilen{"Anna Adler.ics", "ANNA ADLER 2.ics", "Anna Adler-.ics"}));
+}
+
+/// Some systems have names of their own, and none takes names of any length.
+TEST_F(KalenderdateiTest, JederNameGibtEinenDateinamenDerÜberallGeht)
+{
+    const Text lang(300, 'x');
+    Meßdiener.Vorname[0] = "Aux";
+    Meßdiener.Nachname[0] = "";
+    Meßdiener.Vorname[1] = "";
+    Meßdiener.Nachname[1] = lang + "a";
+    Meßdiener.Vorname[2] = "";
+    Meßdiener.Nachname[2] = lang + "b";
+    Stellen(0, 1, 0);
+    Stellen(0, 2, 1);
+    Stellen(1, 1, 2);
+    EXPECT_EQ(Namen(JePerson({.Diener = true, .Helfer = false, .Gruppe = ""})),
+              (Zeilen{"Aux-.ics", lang.substr(0, 150) + ".ics", lang.substr(0, 150) + " 2.ics"}));
+}
+
+/// Names that are the same when written together are not the same people.
+TEST_F(KalenderdateiTest, DieKennungTrenntVorUndNachnamen)
+{
+    Meßdiener.Vorname[0] = "Kim";
+    Meßdiener.Nachname[0] = "Busch";
+    Meßdiener.Vorname[1] = "KimB";
+    Meßdiener.Nachname[1] = "usch";
+    Stellen(0, 1, 0);
+    Stellen(0, 2, 1);
+    const Kalenderausgabe ausgabe = JePerson({.Diener = true, .Helfer = false, .Gruppe = ""});
+    const Zeilen alle = Kennungen(ausgabe);
+    ASSERT_GE(alle.size(), 2U);
+    EXPECT_EQ(std::set<std::string>(alle.begin(), alle.end()).size(), alle.size());
+}
+
+/// A record without any name is nobody, and a file may claim any number of records.
+TEST_F(KalenderdateiTest, WerKeinenNamenHatBekommtKeine)
+{
+    Meßdiener.Vorname[3] = Meßdiener.Nachname[3] = "";
+    EXPECT_EQ(JePerson().OhneDienst, 0);
+    Meßdiener.Vorname[4] = "Rest"; // after the last one
+    EXPECT_EQ(JePerson().OhneDienst, 0);
+    Meßdiener.Anzahl = Helfer.Anzahl = 30000;
+    EXPECT_EQ(JePerson().OhneDienst, 1);
 }
 
 TEST_F(KalenderdateiTest, NurSoVielVomNamenWieGewählt)
