@@ -221,6 +221,16 @@ TEST_F(AushangsatzTest, EineLangeArtStehtInZweiZeilen)
     EXPECT_EQ(Artzeilen("Hochamt", true, Maße), Liste{"Hochamt"});
 }
 
+TEST_F(AushangsatzTest, DieKurzenKöpfeDerHelfer)
+{
+    const int i = VolleMesse(0);
+    Messe.LektorZahl[i] = Messe.KommZahl[i] = Messe.KantorZahl[i] = Messe.KollektZahl[i] = 1;
+    Liste köpfe;
+    for (const Aushangspalte &spalte : Tafel().Spalten)
+        köpfe.push_back(spalte.Kurzkopf);
+    EXPECT_EQ(köpfe, (Liste{"Lektor", "Kommunion", "Kantor", "Kollekte"}));
+}
+
 /// The day and the heads are bold, all else is not.
 TEST_F(AushangsatzTest, FettSindNurTagUndKopf)
 {

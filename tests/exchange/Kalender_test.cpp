@@ -320,6 +320,14 @@ TEST_F(KalenderdateiTest, JederNameGibtEinenDateinamenDerÜberallGeht)
               (Zeilen{"Aux-.ics", lang.substr(0, 150) + ".ics", lang.substr(0, 150) + " 2.ics"}));
 }
 
+TEST_F(KalenderdateiTest, EinNameAusPunktenGibtTrotzdemEinenDateinamen)
+{
+    Meßdiener.Vorname[0] = "...";
+    Meßdiener.Nachname[0] = "";
+    Stellen(0, 1, 0);
+    EXPECT_EQ(Namen(JePerson()).front(), "Person.ics");
+}
+
 /// Names that are the same when written together are not the same people.
 TEST_F(KalenderdateiTest, DieKennungTrenntVorUndNachnamen)
 {
