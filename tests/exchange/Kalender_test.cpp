@@ -77,6 +77,63 @@ TEST_F(KalenderdateiTest, EinEintragJeMesseInDerFolgeDerZeit)
     EXPECT_EQ(Mit("X-WR-CALNAME", datei.Bytes), Zeilen{"X-WR-CALNAME:Messen der Pfarrei St. Änne"});
 }
 
+/// To the last byte: calendars differ in what they forgive.
+TEST_F(KalenderdateiTest, DieGanzeDatei)
+{
+    Messe.Anzahl = 1;
+    EXPECT_EQ(Alle().Dateien.at(0).Bytes,
+              "BEGIN:VCALENDAR\r\n"
+              "VERSION:2.0\r\n"
+              "PRODID:-//Altardienst//Altardienst//DE\r\n"
+              "CALSCALE:GREGORIAN\r\n"
+              "X-WR-CALNAME:Messen der Pfarrei St. Änne\r\n"
+              "X-WR-TIMEZONE:Europe/Berlin\r\n"
+              "BEGIN:VTIMEZONE\r\n"
+              "TZID:Europe/Berlin\r\n"
+              "X-LIC-LOCATION:Europe/Berlin\r\n"
+              "BEGIN:DAYLIGHT\r\n"
+              "TZNAME:CEST\r\n"
+              "DTSTART:19960331T020000\r\n"
+              "TZOFFSETFROM:+0100\r\n"
+              "TZOFFSETTO:+0200\r\n"
+              "RRULE:FREQ=YEARLY;BYDAY=-1SU;BYMONTH=3\r\n"
+              "END:DAYLIGHT\r\n"
+              "BEGIN:STANDARD\r\n"
+              "TZNAME:CET\r\n"
+              "DTSTART:19961027T030000\r\n"
+              "TZOFFSETFROM:+0200\r\n"
+              "TZOFFSETTO:+0100\r\n"
+              "RRULE:FREQ=YEARLY;BYDAY=-1SU;BYMONTH=10\r\n"
+              "END:STANDARD\r\n"
+              "END:VTIMEZONE\r\n"
+              "BEGIN:VEVENT\r\n"
+              "UID:20261129T100000-ec4f738fd498a682-1@altardienst\r\n"
+              "DTSTAMP:20261121T110000Z\r\n"
+              "LAST-MODIFIED:20261121T110000Z\r\n"
+              "SEQUENCE:217422000\r\n"
+              "DTSTART;TZID=Europe/Berlin:20261129T100000\r\n"
+              "DTEND;TZID=Europe/Berlin:20261129T110000\r\n"
+              "SUMMARY:Hochamt\r\n"
+              "DESCRIPTION:Leuchter: Anna A.\\nAllgemein: Änne Ü.\\nLektor: Lea L.\r\n"
+              "END:VEVENT\r\n"
+              "END:VCALENDAR\r\n");
+    Messe.Messeart[0] = "Wochendienst";
+    const std::string woche = Alle().Dateien.at(0).Bytes;
+    EXPECT_EQ(woche.substr(woche.find("BEGIN:VEVENT")),
+              "BEGIN:VEVENT\r\n"
+              "UID:20261129T100000-d139951ddd0a6d1d-1@altardienst\r\n"
+              "DTSTAMP:20261121T110000Z\r\n"
+              "LAST-MODIFIED:20261121T110000Z\r\n"
+              "SEQUENCE:217422000\r\n"
+              "DTSTART;VALUE=DATE:20261129\r\n"
+              "DTEND;VALUE=DATE:20261206\r\n"
+              "TRANSP:TRANSPARENT\r\n"
+              "SUMMARY:Wochendienst\r\n"
+              "DESCRIPTION:Leuchter: Anna A.\\nAllgemein: Änne Ü.\\nLektor: Lea L.\r\n"
+              "END:VEVENT\r\n"
+              "END:VCALENDAR\r\n");
+}
+
 TEST_F(KalenderdateiTest, DieZeitzoneStehtMitIhrenRegelnInDerDatei)
 {
     const std::string bytes = Alle().Dateien.at(0).Bytes;
