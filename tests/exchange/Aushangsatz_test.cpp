@@ -22,6 +22,32 @@ class AushangsatzTest : public Druckstand {
         return Satzsuche(tafel, Maße).Größter(Platz, blätter);
     }
 
+    /// Whether the table fits in this form, set row by row.
+    bool Passt(const Aushangtafel &tafel, const Satzform &form, double größe, int blätter) const
+    {
+        const Satzbreiten breiten = BreitenDer(tafel, form, Maße);
+        if (größe *
+                (form.Blöcke * breiten.Gesamt() + (form.Blöcke - 1) * Blockabstand * Maße.Geviert) >
+            Platz.Breite)
+            return false;
+        const double luft = Zeilenluft * Maße.Geviert;
+        const double höhe = Platz.Höhe / größe - Maße.Zeile - luft;
+        double rest = 0;
+        int blöcke = 0;
+        for (const Aushangreihe &reihe : tafel.Reihen) {
+            const double reihenhöhe =
+                Maße.Zeile * ZeilenDer(reihe, form, breiten.Nebeneinander, Maße) + luft;
+            if (reihenhöhe > höhe)
+                return false;
+            if (blöcke == 0 || reihenhöhe > rest) {
+                ++blöcke;
+                rest = höhe;
+            }
+            rest -= reihenhöhe;
+        }
+        return blöcke <= blätter * form.Blöcke;
+    }
+
     /// The table at the size found is no larger than its sheet.
     void PrüfeObEsPasst(const Aushangtafel &tafel, const Satzform &form) const
     {
@@ -219,6 +245,50 @@ TEST_F(AushangsatzTest, EineLangeArtStehtInZweiZeilen)
     EXPECT_EQ(Artzeilen("Hochamt mit Taufe", true, Maße), (Liste{"Hochamt", "mit Taufe"}));
     EXPECT_EQ(Artzeilen("Hochamt mit Taufe", false, Maße), Liste{"Hochamt mit Taufe"});
     EXPECT_EQ(Artzeilen("Hochamt", true, Maße), Liste{"Hochamt"});
+}
+
+/// No step larger would fit in the form that was found.
+TEST_F(AushangsatzTest, DieSchriftIstSoGroßWieEsGeht)
+{
+    int kleiner = 0;
+    for (int messen = 1; messen <= 90; messen += messen < 30 ? 1 : 7) {
+        while (Messe.Anzahl < messen)
+            VolleMesse(Messe.Anzahl % 5 == 0 ? 6 : 3,
+                       Messe.Anzahl % 3 == 0 ? "Hochamt mit Prozession" : "Messe");
+        const Aushangtafel tafel = Tafel();
+        for (const int blätter : {1, 2}) {
+            const auto form = Größter(tafel, blätter);
+            if (!form)
+                continue;
+            EXPECT_TRUE(Passt(tafel, *form, form->Größe, blätter)) << messen;
+            if (form->Größe >= GrößterAushang)
+                continue;
+            ++kleiner;
+            EXPECT_FALSE(Passt(tafel, *form, form->Größe + 0.25, blätter)) << messen;
+        }
+    }
+    EXPECT_GT(kleiner, 20) << "otherwise this shows nothing";
+}
+
+TEST_F(AushangsatzTest, SeltenIstWasWenigerAlsEinDrittelDerMessenHat)
+{
+    for (int i = 0; i < 6; ++i)
+        VolleMesse(4);
+    const auto mit = [](int leuchter, int weihrauch) {
+        for (int i = 0; i < 6; ++i) {
+            Messe.Leuchter[i] = i < leuchter ? 1 : 0;
+            Messe.Weihrauch[i] = i < weihrauch ? 1 : 0;
+            Messe.Allgemein[i] = 2;
+        }
+        return Zusammengelegt(Tafel());
+    };
+    EXPECT_FALSE(mit(2, 2));
+    EXPECT_FALSE(mit(1, 2)) << "one alone is as well off in its own column";
+    const auto zwei = mit(1, 1);
+    ASSERT_TRUE(zwei);
+    EXPECT_EQ(zwei->Spalten.back().Kopf, "weitere Dienste");
+    EXPECT_EQ(zwei->Spalten.back().Kurzkopf, "weitere");
+    EXPECT_EQ(zwei->Spalten.size(), 2U);
 }
 
 TEST_F(AushangsatzTest, DieKurzenKöpfeDerHelfer)

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Lets a browser lay out and print the web pages that webseitenproben writes: on a phone and on a
-screen nothing is wider than the window, and on paper there are as many sheets as the program says.
+screen nothing is wider than the window, the field above finds the masses of a name, and on paper
+there are as many sheets as the program says.
 
 webseite_pruefen.py WEBSEITENPROBEN [DIRECTORY]
 
@@ -8,6 +9,7 @@ With a directory, the pages stay there, with pictures of them and the printed sh
 where there is no browser.
 """
 import concurrent.futures
+import html
 import pathlib
 import re
 import shutil
@@ -18,11 +20,20 @@ import tempfile
 BREITEN = {390: 844, 1280: 900}  # of a phone and of a small screen, with their heights
 FEHLT = 77
 
-# Writes into the title what no picture says.
+GESUCHT = "  JÖRG-uwe  a"  # as somebody types it
+
+# Writes into the title what no picture says: the width, the masses before and after a name is
+# typed, what the page says of it, what stands before a service, and whether there are heads.
 MESSEN = """<script>addEventListener("load",function(){
-var w=document.documentElement;
-document.title=["Breite",innerWidth,w.scrollWidth,
-document.querySelectorAll("tbody tr").length].join(" ")})</script>"""
+var w=document.documentElement,feld=document.getElementById("name");
+function sichtbar(){return Array.from(document.querySelectorAll("tbody tr"))
+.filter(function(z){return z.getClientRects().length>0}).length}
+var alle=sichtbar(),feldDa=feld.getClientRects().length>0,breite=w.scrollWidth;
+feld.value="%s";feld.dispatchEvent(new Event("input"));
+document.title=["Breite",innerWidth,breite,alle,sichtbar(),
+document.getElementById("zahl").textContent,feldDa,
+getComputedStyle(document.querySelector("tbody td:nth-child(3)"),"::before").content,
+document.querySelector("thead").offsetWidth>1].join("|")})</script>""" % GESUCHT
 
 
 def browser():
@@ -48,7 +59,7 @@ def blätter(pfad, seite):
     return len(re.findall(rb"/Type\s*/Page\b(?!s)", druck.read_bytes()))
 
 
-def breite(pfad, seite, fenster):
+def lage(pfad, seite, fenster):
     probe = seite.with_suffix(f".{fenster}.html")
     probe.write_text(seite.read_text().replace("</head>", MESSEN + "</head>"))
     # A frame is as narrow as a phone; a window of the browser is not.
@@ -61,10 +72,18 @@ def breite(pfad, seite, fenster):
     aus = aufrufen(pfad, "--allow-file-access-from-files", "--dump-dom", rahmen.as_uri())
     probe.unlink()
     rahmen.unlink()
-    treffer = re.search(r"Breite (\d+) (\d+) (\d+)", aus)
+    treffer = re.search(r"Breite\|([^<]*)", aus)
     if not treffer:
         sys.exit(f"{seite.name}: the browser did not lay it out:\n{aus[-500:]}")
-    return tuple(map(int, treffer.groups()))
+    return html.unescape(treffer.group(1)).split("|")
+
+
+def mit_namen(seite):
+    """How many masses have the name in one of their services."""
+    wort = " ".join(GESUCHT.split()).lower()
+    zeilen = re.findall("<tr.*?</tr>", seite.read_text().split("<tbody>")[1])
+    texte = (" ".join(re.findall("<td>(.*?)</td>", zeile)[1:]) for zeile in zeilen)
+    return sum(wort in html.unescape(text).replace("\u00a0", " ").lower() for text in texte)
 
 
 def prüfen(pfad, seite, erwartet):
@@ -74,10 +93,15 @@ def prüfen(pfad, seite, erwartet):
     # One sheet is a promise; of several, the widths are estimated rather too large.
     if gedruckt != 1 if erwartet == 1 else not 0.6 <= gedruckt / erwartet <= 1.2:
         fehler.append(f"{seite.name}: {gedruckt} sheets instead of {erwartet}")
+    gefunden = mit_namen(seite)
+    satz = {0: "keine Messe", 1: "1 Messe"}.get(gefunden, f"{gefunden} Messen")
     for fenster in BREITEN:
-        innen, inhalt, messen = breite(pfad, seite, fenster)
-        if (innen, messen) != (fenster, int(seite.name.split("-")[0])) or inhalt > innen:
-            fehler.append(f"{seite.name}: {inhalt} wide in {innen}, {messen} masses")
+        schmal = fenster == min(BREITEN)
+        innen, inhalt, *anderes = lage(pfad, seite, fenster)
+        soll = [seite.name.split("-")[0], str(gefunden), satz, "true",
+                '"Leuchter: "' if schmal else "none", "false" if schmal else "true"]
+        if int(innen) != fenster or int(inhalt) > fenster or anderes != soll:
+            fehler.append(f"{seite.name}: {inhalt} wide in {innen}, {anderes} instead of {soll}")
     return fehler
 
 
