@@ -76,7 +76,7 @@ Text Zeilenlesung::FeldLesen(int spalte, const Text &feld)
         return "";
     }
     Feldlesung lesung = unsere.Lesen(feld);
-    const Text zweifel = lesung.Zweifel.empty() ? Text() : unsere.Name + ": " + lesung.Zweifel;
+    Text zweifel = lesung.Zweifel.empty() ? Text() : unsere.Name + ": " + lesung.Zweifel;
     if (!zweifel.empty() && lesung.Wert.empty())
         return zweifel;
     if (!zweifel.empty())
