@@ -5,6 +5,7 @@
 #include "platform/Lebenszeichen.h"
 
 #include <algorithm>
+#include <array>
 
 namespace altardienst {
 namespace {
@@ -125,6 +126,39 @@ TEST_F(AushangTest, ReichtAuchDasNichtKommenBlätterUndNichtsFehlt)
                                 std::to_string(slot) + "\""),
                   300);
     EXPECT_TRUE(Gedruckt("22.11.2026 bis 17.09.2027, Blatt 1 von " + std::to_string(blätter)));
+}
+
+TEST_F(AushangTest, KurzeNamenUndMehrereBlätterWoEsAndersNichtGeht)
+{
+    for (int i = 0; i < 300; ++i) {
+        VolleMesse(6);
+        Besetzen(Messe, Dienerplatznr(i, 1), "Anna", Text(250, 'x'));
+    }
+    const Text satz = AushangDrucken();
+    const int blätter = Papier.WieOft("NewPage") + 1;
+    EXPECT_GT(blätter, 1);
+    EXPECT_EQ(satz, "Aushang mit gekürzten Nachnamen auf " + std::to_string(blätter) +
+                        " Blättern, sonst wäre die Schrift kleiner als 7 Punkt");
+    EXPECT_EQ(Papier.WieOft("Print \"Anna x.\""), 300);
+}
+
+/// Where a column for each rare service has no room, one for all of them may.
+TEST_F(AushangTest, GanzeNamenInDerSpalteDerSeltenenDienste)
+{
+    const std::array dienste = {&Messe.Gabenbereitung, &Messe.Leuchter, &Messe.Flambeau,
+                                &Messe.Weihrauch, &Messe.Kreuzträger};
+    const Text name = "Freifrau von und zu Sehrlangenhausen-Obermettenbach an der Niederen Ache";
+    for (int i = 0; i < 20; ++i) {
+        VolleMesse(1);
+        Besetzen(Messe, Dienerplatznr(i, 1), "Anna", name);
+        if (i < 5)
+            (*dienste.at(static_cast<std::size_t>(i)))[i] = 1;
+        else
+            Messe.Allgemein[i] = 1;
+    }
+    EXPECT_EQ(AushangDrucken(), "");
+    EXPECT_TRUE(Gedruckt("Anna " + name));
+    EXPECT_TRUE(Gedruckt("Anna " + name + " (Flambeau)"));
 }
 
 TEST_F(AushangTest, EinEndloserTextMachtDieSchriftKleinUndSagtEs)
