@@ -190,6 +190,7 @@ Text TextVon(const std::filesystem::path &pfad)
     return Text(text.begin(), text.end());
 }
 
+/// A name that stands for a device gets a "-" ("Aux-"); of a long one the beginning remains.
 Text AlsDateiname(std::string_view text)
 {
     Text name(text);

@@ -97,12 +97,14 @@ TEST_F(EinlesenTest, GeschriebenWirdNurWasGewähltIst)
 TEST_F(EinlesenTest, EinNeuerBeginntOhneResteEinesGelöschten)
 {
     Meßdiener.Wochendienst[2] = "nnnnnnnn";
+    Meßdiener.Qualifikation[2] = "nnnnnn";
     Meßdiener.Straße[2] = "Altweg";
     Meßdiener.Von1[2] = 40000;
     Meßdiener.Häufigkeit[2] = 2;
     const auto auftrag = Auftrag({"Vorname", "Nachname"}, {{"Mia", "Dorn"}});
     Einlesen(auftrag, EinlesenPrüfen(auftrag));
     EXPECT_EQ(Meßdiener.Wochendienst[2], MeßdienerTabelle::WochendienstVorgabe);
+    EXPECT_EQ(Meßdiener.Qualifikation[2], MeßdienerTabelle::QualifikationVorgabe);
     EXPECT_EQ(Meßdiener.Straße[2], "");
     EXPECT_EQ(Meßdiener.Von1[2], 0);
     EXPECT_EQ(Meßdiener.Häufigkeit[2], 0);
@@ -352,6 +354,7 @@ TEST_F(EinlesenTest, MehrGruppenAlsDasProgrammAnlegtKommenNichtHinein)
     EXPECT_EQ(KeinPlatzFür(auftrag, vorschau),
               "60 neue Gruppen wären nötig, Platz ist nur noch für 59: Das Programm legt höchstens "
               "60 Gruppen an.");
+    EXPECT_EQ(KeinPlatzFür(auftrag, {vorschau.begin() + 1, vorschau.end()}), "");
     Einlesen(auftrag, vorschau);
     EXPECT_EQ(Gruppe.Anzahl, MeisteGruppen);
     const auto eine = Auftrag({"Vorname", "Nachname", "Gruppe"}, {{"Kim", "Busch", "Neue"}});
