@@ -53,6 +53,39 @@ TEST_F(AushangTest, EinBlattQuerUndDanachWiederHoch)
     EXPECT_EQ(Papier.Anfrage.ZweiteForm, "Vorname und erster Buchstabe");
 }
 
+/// To the last stroke.
+TEST_F(AushangTest, DasGanzeBlatt)
+{
+    VolleMesse(2);
+    Messe.Leuchter[VolleMesse(3, "Andacht mit Prozession")] = 2;
+    EXPECT_EQ(AushangDrucken(), "");
+    EXPECT_EQ(Blatt(Papier),
+              (std::vector<Text>{"567 567, 16 Bold: \"Altardienst der Pfarrei St. Ägid\"",
+                                 "13271 639, 12: \"22.11.2026 bis 23.11.2026\"",
+                                 "6695.7998 1367, 20 Bold: \"Leuchter\"",
+                                 "11553.4004 1367, 20 Bold: \"Allgemein\"",
+                                 "Line 567 2107 16271 2107",
+                                 "707 2367, 20 Bold: \"So 22.11.\"",
+                                 "2787 2367, 20: \"10:00\"",
+                                 "4067 2367, 20: \"Hochamt\"",
+                                 "11553.4004 2367, 20: \"Vor1 Nach1\"",
+                                 "13982.2002 2367, 20: \"Vor2 Nach2\"",
+                                 "Line 567 3107 16271 3107",
+                                 "707 3367, 20 Bold: \"Mo 23.11.\"",
+                                 "2787 3367, 20: \"10:00\"",
+                                 "4067 3367, 20: \"Andacht mit\"",
+                                 "4067 3847, 20: \"Prozession\"",
+                                 "6695.7998 3367, 20: \"Vor1 Nach1\"",
+                                 "9124.59961 3367, 20: \"Vor2 Nach2\"",
+                                 "11553.4004 3367, 20: \"Vor3 Nach3\"",
+                                 "Line 567 1107 16271 1107",
+                                 "Line 567 4587 16271 4587",
+                                 "Line 567 1107 567 4587",
+                                 "Line 16271 1107 16271 4587",
+                                 "Line 6555.7998 1107 6555.7998 4587",
+                                 "Line 11413.4004 1107 11413.4004 4587"}));
+}
+
 TEST_F(AushangTest, DieSucheNachDerSchriftKommtNachDerFrageUnterDemWartezeiger)
 {
     VolleMesse(2);
