@@ -270,6 +270,35 @@ TEST_F(AushangsatzTest, DieSchriftIstSoGroßWieEsGeht)
     EXPECT_GT(kleiner, 20) << "otherwise this shows nothing";
 }
 
+/// No block is longer than it must be, so the sheet is as full everywhere.
+TEST_F(AushangsatzTest, DieBlöckeSindGleichLang)
+{
+    int mehrere = 0;
+    for (int messen = 1; messen <= 120; messen += 3) {
+        while (Messe.Anzahl < messen)
+            VolleMesse(2, "Messe");
+        const auto form = Größter(Tafel(), 1);
+        if (!form)
+            continue;
+        const int länge = (messen + form->Blöcke - 1) / form->Blöcke;
+        std::vector<int> anfänge;
+        for (int anfang = 0; anfang < messen; anfang += länge)
+            anfänge.push_back(anfang);
+        EXPECT_EQ(form->Anfänge, anfänge) << messen;
+        mehrere += form->Blöcke > 1 ? 1 : 0;
+    }
+    EXPECT_GT(mehrere, 5) << "otherwise this shows nothing";
+}
+
+TEST_F(AushangsatzTest, WasPasstWirdNichtGeteilt)
+{
+    VolleMesse(1, "Hochamt mit Chor");
+    const auto form = Größter(Tafel(), 1);
+    ASSERT_TRUE(form);
+    EXPECT_EQ(form->Größe, GrößterAushang);
+    EXPECT_FALSE(form->ArtGeteilt);
+}
+
 TEST_F(AushangsatzTest, SeltenIstWasWenigerAlsEinDrittelDerMessenHat)
 {
     for (int i = 0; i < 6; ++i)
