@@ -49,6 +49,15 @@ bool IstText(std::string_view text)
     });
 }
 
+/// How many lines end within this: by CR, LF or both.
+int Zeilenenden(std::string_view enden)
+{
+    int anzahl = 0;
+    for (std::size_t k = 0; k < enden.size(); ++k)
+        anzahl += enden[k] == '\n' && k > 0 && enden[k - 1] == '\r' ? 0 : 1;
+    return anzahl;
+}
+
 /// The line "sep=;", by which some programs tell the separator; 0 without.
 char GenannterTrenner(std::string_view text)
 {
@@ -135,7 +144,9 @@ char TrennerIn(std::string_view text)
 
 bool Tabellenleser::Weiter()
 {
-    rest.remove_prefix(std::min(rest.find_first_not_of("\r\n"), rest.size()));
+    const std::size_t enden = std::min(rest.find_first_not_of("\r\n"), rest.size());
+    nummer += Zeilenenden(rest.substr(0, enden)) + (nummer == 0 ? 1 : 0);
+    rest.remove_prefix(enden);
     if (rest.empty())
         return false;
     ZeileTeilen();
@@ -205,8 +216,11 @@ Tabellenblatt TabelleLesen(std::string_view bytes)
     }
     std::string_view zeilen = text;
     const char trenner = TrennerIn(zeilen);
-    if (GenannterTrenner(zeilen) != 0)
+    if (GenannterTrenner(zeilen) != 0) { // a line that no spreadsheet shows
         zeilen.remove_prefix(std::min(zeilen.find_first_of("\r\n"), zeilen.size()));
+        zeilen.remove_prefix(zeilen.starts_with("\r\n") ? 2
+                                                        : std::min<std::size_t>(zeilen.size(), 1));
+    }
     for (Tabellenleser leser(zeilen, trenner); blatt.Mangel.empty() && leser.Weiter();) {
         if (leser.Felder().size() > MeisteTabellenspalten)
             blatt.Mangel = "Die Tabelle hat mehr als " +
@@ -214,13 +228,15 @@ Tabellenblatt TabelleLesen(std::string_view bytes)
         else if (blatt.Zeilen.size() == MeisteTabellenzeilen)
             blatt.Mangel = "Die Tabelle hat mehr als " +
                            ZahlText(static_cast<int>(MeisteTabellenzeilen)) + " Zeilen.";
-        else
+        else {
             blatt.Zeilen.push_back(leser.Felder());
+            blatt.Nummern.push_back(leser.Nummer());
+        }
     }
     if (blatt.Mangel.empty() && blatt.Zeilen.empty())
         blatt.Mangel = "In der Datei steht keine Zeile.";
     if (!blatt.Mangel.empty())
-        blatt.Zeilen.clear();
+        blatt = {.Zeilen = {}, .Nummern = {}, .Mangel = std::move(blatt.Mangel)};
     return blatt;
 }
 

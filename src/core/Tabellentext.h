@@ -16,8 +16,12 @@ constexpr std::uintmax_t GrößteTabelle = std::uintmax_t{16} << 20; // bytes
 constexpr std::size_t MeisteTabellenspalten = 256;
 constexpr std::size_t MeisteTabellenzeilen = 5000;
 
+/// What stands for a character that the bytes of a file do not give.
+inline constexpr std::string_view KeinZeichen = "\xEF\xBF\xBD";
+
 /// The text of a file without the mark of its encoding: UTF-8, UTF-16 if it has the mark, and the
-/// code page of the eight files for what is neither.
+/// code page of the eight files for what is neither. A byte that is wrong in what is UTF-8
+/// otherwise becomes `KeinZeichen`.
 Text TextDerDatei(std::string_view bytes);
 
 /// Semicolon, tab or comma: by which the first rows fall into most columns, the same number each.
@@ -38,6 +42,10 @@ class Tabellenleser {
     const std::vector<Text> &Felder() const { return felder; }
     std::string_view Roh() const { return roh; } // the row as it stands in the text
 
+    /// The number of the row as a spreadsheet counts: from 1, empty lines too, a line end in quotes
+    /// not.
+    int Nummer() const { return nummer; }
+
   private:
     void ZeileTeilen();
     std::size_t FeldLesen(std::size_t von, Text &feld);
@@ -46,12 +54,14 @@ class Tabellenleser {
     char trenner;
     std::vector<Text> felder;
     std::string_view roh;
+    int nummer = 0;
 };
 
 /// A table that was read in.
 struct Tabellenblatt {
     std::vector<std::vector<Text>> Zeilen; // at least one field each
-    Text Mangel;                           // why there are no rows, as a sentence
+    std::vector<int> Nummern; // theirs, as a spreadsheet that opens the file shows them
+    Text Mangel;              // why there are no rows, as a sentence
 };
 Tabellenblatt TabelleLesen(std::string_view bytes);
 

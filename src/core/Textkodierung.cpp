@@ -35,15 +35,35 @@ std::size_t ZeichenAb(std::string_view text, std::size_t stelle)
     return fehlt ? 0 : länge;
 }
 
-bool IstUtf8(std::string_view text)
+/// What speaks for UTF-8 and what against it.
+struct Zeichenzahlen {
+    std::size_t Lange = 0;   // of more than one byte
+    std::size_t Falsche = 0; // bytes with which no character begins
+};
+
+Zeichenzahlen ZeichenIn(std::string_view text)
 {
+    Zeichenzahlen zahlen;
     for (std::size_t stelle = 0; stelle < text.size();) {
         const std::size_t länge = ZeichenAb(text, stelle);
-        if (länge == 0)
-            return false;
-        stelle += länge;
+        zahlen.Lange += länge > 1 ? 1 : 0;
+        zahlen.Falsche += länge == 0 ? 1 : 0;
+        stelle += länge == 0 ? 1 : länge;
     }
-    return true;
+    return zahlen;
+}
+
+/// With `KeinZeichen` for each byte with which none begins.
+Text AusUtf8(std::string_view bytes)
+{
+    Text text;
+    text.reserve(bytes.size());
+    for (std::size_t stelle = 0; stelle < bytes.size();) {
+        const std::size_t länge = ZeichenAb(bytes, stelle);
+        text += länge == 0 ? KeinZeichen : bytes.substr(stelle, länge);
+        stelle += länge == 0 ? 1 : länge;
+    }
+    return text;
 }
 
 void Utf8Anhängen(Text &text, std::uint32_t zeichen)
@@ -77,7 +97,7 @@ Text AusUtf16(std::string_view bytes, bool großesEndeVorn)
         const std::uint32_t zwei = Byte(bytes, stelle + 1);
         return großesEndeVorn ? eins << 8 | zwei : zwei << 8 | eins;
     };
-    constexpr std::uint32_t KeinZeichen = 0xFFFD;
+    constexpr std::uint32_t Unlesbar = 0xFFFD; // `KeinZeichen`
     Text text;
     text.reserve(bytes.size());
     for (std::size_t stelle = 0; stelle + 1 < bytes.size(); stelle += 2) {
@@ -89,7 +109,7 @@ Text AusUtf16(std::string_view bytes, bool großesEndeVorn)
                 zeichen = 0x10000 + ((zeichen - 0xD800) << 10) + (zweite - 0xDC00);
                 stelle += 2;
             } else {
-                zeichen = KeinZeichen;
+                zeichen = Unlesbar;
             }
         }
         Utf8Anhängen(text, zeichen);
@@ -103,13 +123,18 @@ Text TextDerDatei(std::string_view bytes)
 {
     if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
         return AusUtf16(bytes.substr(2), bytes.starts_with("\xFE"));
-    if (bytes.starts_with(Utf8Marke))
+    const bool hatMarke = bytes.starts_with(Utf8Marke);
+    if (hatMarke)
         bytes.remove_prefix(Utf8Marke.size());
+    const Zeichenzahlen zahlen = ZeichenIn(bytes);
+    if (zahlen.Falsche == 0)
+        return Text(bytes);
+    // In the code page hardly anything looks like a long character: an umlaut stands before a
+    // letter. Where these are not fewer than the wrong bytes, the wrong ones are damage.
+    if (hatMarke || (zahlen.Lange > 0 && zahlen.Lange >= zahlen.Falsche))
+        return AusUtf8(bytes);
     Text text;
-    if (IstUtf8(bytes))
-        text.assign(bytes);
-    else
-        AusAnsi(bytes, text);
+    AusAnsi(bytes, text);
     return text;
 }
 

@@ -16,10 +16,9 @@ Ablage Ablegen(const std::filesystem::path &verzeichnis,
             GanzSchreiben(verzeichnis / PfadAus(datei.Name), datei.Bytes);
             ++ablage.Geschrieben;
         } catch (const Laufzeitfehler &fehler) {
-            if (++ablage.Misslungen > 1)
-                continue;
-            ablage.Woran = datei.Name;
-            ablage.Warum = fehler.what();
+            if (ablage.IstGanz())
+                ablage.Warum = fehler.what();
+            ablage.Misslungene.push_back(datei.Name);
         }
     }
     return ablage;

@@ -16,11 +16,10 @@ struct AbzulegendeDatei {
 
 struct Ablage {
     int Geschrieben = 0;
-    int Misslungen = 0;
-    Text Woran; // the first file that could not be written
-    Text Warum;
+    std::vector<Text> Misslungene; // the names of those that could not be written
+    Text Warum;                    // the first of them could not
 
-    bool IstGanz() const { return Misslungen == 0; }
+    bool IstGanz() const { return Misslungene.empty(); }
 };
 
 /// One that cannot be written does not keep the others back.

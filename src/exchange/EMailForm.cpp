@@ -191,6 +191,12 @@ void EMailForm::Verbinden()
     connect(Ende, &QPushButton::clicked, this, [this] { close(); });
 }
 
+void EMailForm::AnMesse(int messe)
+{
+    An->setCurrentIndex(static_cast<int>(Adressatenkreis::Messe));
+    EineMesse->setCurrentIndex(messe);
+}
+
 Adressatenwahl EMailForm::Wahl() const
 {
     return {static_cast<Adressatenkreis>(An->currentIndex()), Gruppe->currentText().toStdString(),

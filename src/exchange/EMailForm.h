@@ -19,6 +19,9 @@ class EMailForm : public Dialogfenster {
   public:
     EMailForm();
 
+    /// Chooses those who serve in this mass.
+    void AnMesse(int messe);
+
     QComboBox *An;     // all, a group, a mass
     QComboBox *Gruppe; // in its place nothing or the next
     QComboBox *EineMesse;

@@ -9,7 +9,7 @@ namespace altardienst {
 struct Einleseauftrag {
     Personenart Art = Personenart::Diener;
     std::vector<std::vector<Text>> Zeilen = {}; // without headings
-    int ErsteZeile = 1;                         // the number of the first one in the file
+    std::vector<int> Nummern = {};              // theirs in the file; without, from 1
     Zuordnung Spalten = {};                     // of each column
     bool LeeresLöscht = false;                  // an empty field empties what is in the tables
     bool GruppenAnlegen = false;                // a group that is not there yet is made
@@ -20,6 +20,8 @@ struct Feldänderung {
     int Spalte;
     Text Alt; // empty for a new person
     Text Neu;
+
+    bool operator==(const Feldänderung &) const = default;
 };
 
 /// What becomes of one row.
@@ -35,12 +37,13 @@ struct Vorschauzeile {
     bool Unmöglich = false;           // the row cannot be taken at all
 
     bool IstNeu() const { return Datensatz < 0; }
+    bool operator==(const Vorschauzeile &) const = default;
 };
 
-/// A person is the record with the same names; where several have them, the one of these with the
-/// same birthday. A field in doubt stays as it is; a row with one can be taken all the same.
-/// Nobody new comes in with one name only, which in a list is a gap, nor a second one of the same
-/// name, as in the dialogs that add: whoever stands in the tables so comes back to them alone.
+/// A person is the record with the same names; where several have them, there or in the file, the
+/// one of these with the same birthday. A field that cannot be read stays as it is; a row with one
+/// can be taken all the same. Who is new with one name only, or with the name of another one, is a
+/// doubt: in most lists a gap or a repetition, but the tables may hold such people.
 std::vector<Vorschauzeile> EinlesenPrüfen(const Einleseauftrag &auftrag);
 
 /// The sentence about rows that find no room in the tables; empty if all do.

@@ -154,9 +154,10 @@ void EinlesenForm::Zuordnen()
 {
     auftrag = {.Art = Art()};
     kopf = Kopfzeile(blatt.Zeilen, Art());
-    auftrag.ErsteZeile = kopf + 2;
     auftrag.KopfFehlt = kopf < 0;
     auftrag.Zeilen.assign(blatt.Zeilen.begin() + (kopf + 1), blatt.Zeilen.end());
+    auftrag.Nummern.assign(blatt.Nummern.begin() + (kopf + 1), blatt.Nummern.end());
+    vonHand.clear();
     std::size_t breite = 0;
     for (const auto &zeile : blatt.Zeilen)
         breite = std::max(breite, zeile.size());
@@ -213,12 +214,25 @@ void EinlesenForm::Prüfen()
         gewählt.clear();
         gewählt.reserve(vorschau.size());
         for (const Vorschauzeile &zeile : vorschau)
-            gewählt.push_back(zeile.Was == Vorschauzeile::Stand::Neu ||
-                              zeile.Was == Vorschauzeile::Stand::Geändert);
+            gewählt.push_back(IstGewählt(zeile));
         if (!dateiname.empty())
             Setzen(Lage, Lagesatz(dateiname, blatt, auftrag));
         ZeilenZeigen();
     });
+}
+
+/// What is sure is ticked. Whom somebody has left out stays out; what somebody has ticked stays so
+/// as long as the row does the same.
+bool EinlesenForm::IstGewählt(const Vorschauzeile &zeile) const
+{
+    const bool kannGewählt = !zeile.Unmöglich && !zeile.Felder.empty();
+    if (const auto hand = vonHand.find(zeile.Zeile); kannGewählt && hand != vonHand.end()) {
+        const auto &[nehmen, wovon] = hand->second;
+        if (nehmen ? wovon == zeile
+                   : wovon.Vorname == zeile.Vorname && wovon.Nachname == zeile.Nachname)
+            return nehmen;
+    }
+    return zeile.Was == Vorschauzeile::Stand::Neu || zeile.Was == Vorschauzeile::Stand::Geändert;
 }
 
 void EinlesenForm::ZeilenZeigen()
@@ -247,8 +261,9 @@ void EinlesenForm::Angekreuzt(const QTableWidgetItem *zelle)
 {
     if (zelle->column() != SNimm)
         return;
-    gewählt[static_cast<std::size_t>(zelle->data(Qt::UserRole).toInt())] =
-        zelle->checkState() == Qt::Checked;
+    const auto nr = static_cast<std::size_t>(zelle->data(Qt::UserRole).toInt());
+    gewählt[nr] = zelle->checkState() == Qt::Checked;
+    vonHand.insert_or_assign(vorschau[nr].Zeile, Handwahl{gewählt[nr], vorschau[nr]});
     ZahlenZeigen();
 }
 

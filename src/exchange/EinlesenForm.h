@@ -12,6 +12,7 @@
 #include <QTableWidget>
 
 #include <filesystem>
+#include <map>
 
 namespace altardienst {
 
@@ -49,6 +50,7 @@ class EinlesenForm : public Dialogfenster {
     void LeuteÜbernehmen();
 
     Personenart Art() const;
+    bool IstGewählt(const Vorschauzeile &zeile) const;
     std::vector<Vorschauzeile> Gewählte() const;
 
     Text dateiname;
@@ -57,6 +59,13 @@ class EinlesenForm : public Dialogfenster {
     Einleseauftrag auftrag;
     std::vector<Vorschauzeile> vorschau;
     std::vector<bool> gewählt; // of `vorschau`
+
+    /// What somebody has said of a row of this file, and how it was then.
+    struct Handwahl {
+        bool Nehmen;
+        Vorschauzeile Wovon;
+    };
+    std::map<int, Handwahl> vonHand; // by its number
 };
 
 } // namespace altardienst

@@ -3,74 +3,40 @@
 
 #include "core/Tabellentext.h"
 #include "core/Umwandlung.h"
+#include "exchange/Namensverzeichnis.h"
+#include "exchange/Zeilenlesung.h"
+#include "overview/Platz.h"
 #include "people/Personen.h"
 
 #include <algorithm>
 #include <map>
-#include <set>
-#include <tuple>
+#include <optional>
+#include <utility>
 
 namespace altardienst {
 namespace {
 
 using Stand = Vorschauzeile::Stand;
 
-constexpr const char *ÜblicheGröße = "150"; // cm, as the dialog proposes it
-
-Personenname NameVon(Personenart art, int i)
-{
-    return {SpalteMit(art, SpalteVorname).Wert(i), SpalteMit(art, SpalteNachname).Wert(i)};
-}
-
-/// Who is who, by names alone and by names as a hurried hand writes them.
-class Namensverzeichnis {
-  public:
-    explicit Namensverzeichnis(Personenart art)
-    {
-        for (int i = 0; i < Vorhandene(art); ++i) {
-            const Personenname name = NameVon(art, i);
-            genau[{name.Vorname, name.Nachname}].push_back(i);
-            ungefähr.try_emplace(Ungefähr(name), name);
-        }
-    }
-
-    std::vector<int> Finden(const Personenname &name) const
-    {
-        const auto stelle = genau.find({name.Vorname, name.Nachname});
-        return stelle == genau.end() ? std::vector<int>() : stelle->second;
-    }
-
-    /// Whose name is nearly the same; nobody's is empty.
-    Personenname Ähnlicher(const Personenname &name) const
-    {
-        const auto stelle = ungefähr.find(Ungefähr(name));
-        return stelle == ungefähr.end() ? Personenname() : stelle->second;
-    }
-
-  private:
-    static Text Ungefähr(const Personenname &name)
-    {
-        return Vergleichsform(name.Vorname) + " " + Vergleichsform(name.Nachname);
-    }
-
-    std::map<std::pair<Text, Text>, std::vector<int>> genau;
-    std::map<Text, Personenname> ungefähr;
-};
-
 /// One row after the other; what a later one may be depends on those before it.
 class Prüfung {
   public:
     explicit Prüfung(const Einleseauftrag &auftrag)
-        : auftrag(auftrag), namen(auftrag.Art), geburtstag(SpalteNamens(auftrag.Art, "Geburtstag")),
-          größe(SpalteNamens(auftrag.Art, "Größe")), gruppe(SpalteNamens(auftrag.Art, "Gruppe"))
+        : auftrag(auftrag), lesung(auftrag), namen(auftrag.Art),
+          geburtstag(SpalteNamens(auftrag.Art, "Geburtstag"))
     {
+        for (const std::vector<Text> &felder : auftrag.Zeilen)
+            imBlatt.Eintragen(lesung.NameIn(felder), 0);
     }
 
     Vorschauzeile Zeile(const std::vector<Text> &felder, int nummer)
     {
         Vorschauzeile zeile;
         zeile.Zeile = nummer;
-        Lesen(felder, zeile);
+        zeile.Zweifel = lesung.Lesen(felder);
+        const Personenname name = lesung.NameIn(felder);
+        zeile.Vorname = name.Vorname;
+        zeile.Nachname = name.Nachname;
         if (!Zuweisen(zeile)) {
             zeile.Was = Stand::Zweifelhaft;
             zeile.Unmöglich = true;
@@ -88,52 +54,12 @@ class Prüfung {
     }
 
   private:
-    /// What the row says of each of our columns, as far as it can be read.
-    void Lesen(const std::vector<Text> &felder, Vorschauzeile &zeile)
-    {
-        werte.clear();
-        leere.clear();
-        for (std::size_t k = 0; k < auftrag.Spalten.size(); ++k) {
-            const int spalte = auftrag.Spalten[k];
-            const Text feld = k < felder.size() ? TextDesFelds(felder[k]) : Text();
-            if (spalte == GanzerName) {
-                Text vorname;
-                Text nachname;
-                NamenTeilen(feld, vorname, nachname);
-                FeldLesen(SpalteVorname, vorname, zeile);
-                FeldLesen(SpalteNachname, nachname, zeile);
-            } else if (spalte != KeineSpalte) {
-                FeldLesen(spalte, feld, zeile);
-            }
-        }
-    }
-
-    void FeldLesen(int nr, const Text &feld, Vorschauzeile &zeile)
-    {
-        const Listenspalte &spalte = SpalteMit(auftrag.Art, nr);
-        if (nr == SpalteVorname) // as it stands there, also if it cannot be taken
-            zeile.Vorname = feld;
-        else if (nr == SpalteNachname)
-            zeile.Nachname = feld;
-        if (feld.empty() && !spalte.LeerHeißtNein) {
-            leere.insert(nr);
-            return;
-        }
-        Feldlesung lesung = spalte.Lesen(feld);
-        if (lesung.Zweifel.empty() && nr == gruppe && !auftrag.GruppenAnlegen &&
-            !GibtEsGruppe(lesung.Wert))
-            lesung.Zweifel = "Die Gruppe „" + lesung.Wert + "“ gibt es nicht.";
-        if (lesung.Zweifel.empty())
-            werte[nr] = std::move(lesung.Wert);
-        else
-            zeile.Zweifel.push_back(spalte.Name + ": " + lesung.Zweifel);
-    }
-
-    Text Gelesenes(int nr) const
-    {
-        const auto stelle = werte.find(nr);
-        return stelle == werte.end() ? Text() : stelle->second;
-    }
+    /// A row of whose record or name a later one may be, too.
+    struct Frühere {
+        int Zeile;
+        bool Ändert;
+        std::map<int, Text> Werte;
+    };
 
     /// Finds the record that is meant; false, with the reason, if the row cannot be taken.
     bool Zuweisen(Vorschauzeile &zeile)
@@ -143,68 +69,104 @@ class Prüfung {
             return false;
         };
         const Personenname name{zeile.Vorname, zeile.Nachname};
-        std::vector<int> gleiche = namen.Finden(name);
-        const bool halb = name.Vorname.empty() || name.Nachname.empty();
-        if (halb && (gleiche.empty() || name.Leer()))
-            return unmöglich(name.Leer()            ? "Der Name fehlt."
-                             : name.Vorname.empty() ? "Der Vorname fehlt."
-                                                    : "Der Nachname fehlt.");
-        if (!halb && (!werte.contains(SpalteVorname) || !werte.contains(SpalteNachname)))
+        if (name.Leer())
+            return unmöglich("Der Name fehlt.");
+        if ((!name.Vorname.empty() && !lesung.Werte().contains(SpalteVorname)) ||
+            (!name.Nachname.empty() && !lesung.Werte().contains(SpalteNachname)))
             return false; // for the reason that is told already
-        nachLeeremGeburtstag = gleiche.size() > 1 && leere.contains(geburtstag);
-        if (gleiche.size() > 1) {
-            std::erase_if(gleiche, [this](int i) {
-                return SpalteMit(auftrag.Art, geburtstag).Wert(i) != Gelesenes(geburtstag);
-            });
-            const bool sagtEs = nachLeeremGeburtstag || werte.contains(geburtstag);
-            if (gleiche.size() != 1 || !sagtEs)
-                return unmöglich(
-                    "Mehrere heißen so, und der Geburtstag sagt nicht, wer gemeint ist.");
+        const std::vector<int> &gleiche = namen.Finden(name);
+        const std::optional<int> gemeinter = Gemeinter(gleiche, name);
+        if (!gemeinter)
+            return unmöglich("Mehrere heißen so, und der Geburtstag sagt nicht, wer gemeint ist.");
+        zeile.Datensatz = *gemeinter;
+        if (zeile.IstNeu()) {
+            NeuenBezweifeln(name, !gleiche.empty(), zeile);
+            return true;
         }
-        zeile.Datensatz = gleiche.empty() ? -1 : gleiche.front();
+        const bool ändert = !lesung.Änderungen(zeile.Datensatz).empty();
         const auto [früher, erster] =
-            vergeben.try_emplace({zeile.Datensatz, name.Vorname, name.Nachname}, zeile.Zeile);
-        if (!erster)
-            return unmöglich("Steht schon in Zeile " + ZahlText(früher->second) + ".");
-        const Personenname ähnlicher = gleiche.empty() ? namen.Ähnlicher(name) : Personenname();
-        if (!ähnlicher.Leer())
-            zeile.Zweifel.push_back("Im Programm heißt jemand fast so: „" + ähnlicher.Vorname +
-                                    " " + ähnlicher.Nachname + "“.");
+            vergeben.try_emplace(zeile.Datensatz, Frühere{zeile.Zeile, ändert, {}});
+        if (!erster && (ändert || früher->second.Ändert))
+            return unmöglich("Steht schon in Zeile " + ZahlText(früher->second.Zeile) + ".");
         return true;
+    }
+
+    /// The record of a person with this name, -1 if it is somebody new; nothing if the row does not
+    /// say which. A row of a name that is in the file once and in the tables once means that one;
+    /// otherwise the birthday decides, unless there is one in whom nothing changes.
+    std::optional<int> Gemeinter(const std::vector<int> &gleiche, const Personenname &name)
+    {
+        nachLeeremGeburtstag = false;
+        if (gleiche.empty())
+            return -1;
+        if (gleiche.size() == 1 && imBlatt.Finden(name).size() == 1)
+            return gleiche.front();
+        const auto selber =
+            std::ranges::find_if(gleiche, [this](int i) { return lesung.Änderungen(i).empty(); });
+        if (selber != gleiche.end())
+            return *selber;
+        const Text tag = lesung.Wert(geburtstag);
+        const auto tagVon = [this](int i) { return SpalteMit(auftrag.Art, geburtstag).Wert(i); };
+        if (!tag.empty() && std::ranges::all_of(gleiche, [&](int i) {
+                return !tagVon(i).empty() && tagVon(i) != tag;
+            }))
+            return -1;
+        if (gleiche.size() == 1)
+            return gleiche.front();
+        const bool istLeer = lesung.IstLeer(geburtstag);
+        if ((!istLeer && tag.empty()) ||
+            std::ranges::count(gleiche, tag, [&](int i) { return tagVon(i); }) != 1)
+            return std::nullopt;
+        nachLeeremGeburtstag = istLeer;
+        return *std::ranges::find(gleiche, tag, [&](int i) { return tagVon(i); });
+    }
+
+    void NeuenBezweifeln(const Personenname &name, bool heißtSchonJemandSo, Vorschauzeile &zeile)
+    {
+        if (name.Vorname.empty() || name.Nachname.empty()) // a gap, in most lists
+            zeile.Zweifel.push_back(name.Vorname.empty() ? "Der Vorname fehlt."
+                                                         : "Der Nachname fehlt.");
+        if (heißtSchonJemandSo)
+            zeile.Zweifel.push_back("So heißt schon jemand mit einem anderen Geburtstag.");
+        const auto [früher, erster] = neue.try_emplace({name.Vorname, name.Nachname},
+                                                       Frühere{zeile.Zeile, true, lesung.Werte()});
+        const auto fastSo = [&](const Text &wo, const Personenname &anderer) {
+            zeile.Zweifel.push_back(wo + " heißt jemand fast so: „" +
+                                    VollerName(anderer.Vorname, anderer.Nachname) + "“.");
+        };
+        if (!erster)
+            zeile.Zweifel.push_back((früher->second.Werte == lesung.Werte()
+                                         ? "Steht genauso schon in Zeile "
+                                         : "So heißt schon jemand in Zeile ") +
+                                    ZahlText(früher->second.Zeile) + ".");
+        else if (const auto imProgramm = namen.Ähnlicher(name);
+                 !imProgramm.Name.Leer() && !heißtSchonJemandSo)
+            fastSo("Im Programm", imProgramm.Name);
+        else if (const auto inDatei = ähnliche.Ähnlicher(name); !inDatei.Name.Leer())
+            fastSo("In Zeile " + ZahlText(inDatei.Nummer), inDatei.Name);
+        ähnliche.Eintragen(name, zeile.Zeile);
     }
 
     void Vergleichen(Vorschauzeile &zeile) const
     {
-        for (const auto &[nr, wert] : werte) {
-            const Text alt =
-                zeile.IstNeu() ? Text() : SpalteMit(auftrag.Art, nr).Wert(zeile.Datensatz);
-            if (wert != alt)
-                zeile.Felder.push_back({nr, alt, wert});
-        }
-        if (zeile.IstNeu()) {
-            if (auftrag.Art == Personenart::Diener && Gelesenes(größe).empty())
-                zeile.Felder.push_back({größe, "", ÜblicheGröße});
-            return;
-        }
-        if (!auftrag.LeeresLöscht)
-            return;
-        for (const int nr : leere) {
-            const Listenspalte &spalte = SpalteMit(auftrag.Art, nr);
-            const Text alt = spalte.Wert(zeile.Datensatz);
-            if (const Text leer = spalte.Lesen("").Wert; alt != leer)
-                zeile.Felder.push_back({nr, alt, leer});
+        for (Feldänderung &änderung : lesung.Änderungen(zeile.Datensatz)) {
+            const auto *const dagegen = lesung.Gegen(änderung.Spalte);
+            if (dagegen)
+                zeile.Zweifel.push_back(dagegen->Satz);
+            if (!dagegen || dagegen->Schreiben)
+                zeile.Felder.push_back(std::move(änderung));
         }
     }
 
     const Einleseauftrag &auftrag;
-    Namensverzeichnis namen;
+    Zeilenlesung lesung;        // of this row
+    Namensverzeichnis namen;    // of the tables
+    Namensverzeichnis imBlatt;  // of all rows
+    Namensverzeichnis ähnliche; // of the new ones so far, by row
     int geburtstag;
-    int größe;
-    int gruppe;                        // helpers have none
-    bool nachLeeremGeburtstag = false; // of several of one name, the row says of none
-    std::map<int, Text> werte;
-    std::set<int> leere;                                 // whose field is empty
-    std::map<std::tuple<int, Text, Text>, int> vergeben; // in which row
+    bool nachLeeremGeburtstag = false;             // of several of one name, the row says of none
+    std::map<int, Frühere> vergeben;               // by record
+    std::map<std::pair<Text, Text>, Frühere> neue; // by name
 };
 
 bool IstLeer(const std::vector<Text> &felder)
@@ -235,14 +197,15 @@ std::vector<Vorschauzeile> EinlesenPrüfen(const Einleseauftrag &auftrag)
     Prüfung prüfung(auftrag);
     std::vector<Vorschauzeile> vorschau;
     vorschau.reserve(auftrag.Zeilen.size());
-    int nummer = auftrag.ErsteZeile;
-    for (const std::vector<Text> &felder : auftrag.Zeilen) {
-        if (!IstLeer(felder)) {
-            vorschau.push_back(prüfung.Zeile(felder, nummer));
-            if (auftrag.KopfFehlt && vorschau.size() == 1 && IstVielleichtKopf(felder))
-                AlsKopfBezweifeln(vorschau.front());
-        }
-        ++nummer;
+    for (std::size_t k = 0; k < auftrag.Zeilen.size(); ++k) {
+        const std::vector<Text> &felder = auftrag.Zeilen[k];
+        if (IstLeer(felder))
+            continue;
+        const int nummer =
+            k < auftrag.Nummern.size() ? auftrag.Nummern[k] : static_cast<int>(k) + 1;
+        vorschau.push_back(prüfung.Zeile(felder, nummer));
+        if (auftrag.KopfFehlt && vorschau.size() == 1 && IstVielleichtKopf(felder))
+            AlsKopfBezweifeln(vorschau.front());
     }
     return vorschau;
 }

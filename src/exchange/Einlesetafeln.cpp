@@ -36,7 +36,8 @@ QComboBox *Bedeutungswahl(Personenart art, int spalte, int bedeutung)
     wahl->setAccessibleName("wird zu");
     RadSperren(wahl);
     wahl->addItem("(nicht einlesen)", KeineSpalte);
-    wahl->addItem("Vor- und Nachname", GanzerName);
+    for (const Doppelspalte &doppelte : Doppelspalten)
+        wahl->addItem(doppelte.Name, doppelte.Nummer);
     int nr = 0;
     for (const Listenspalte &eine : SpaltenFür(art))
         wahl->addItem(Anzeige(eine.Name), nr++);

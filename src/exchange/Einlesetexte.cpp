@@ -73,15 +73,6 @@ Text Beispiel(const std::vector<std::vector<Text>> &zeilen, std::size_t spalte)
     return "";
 }
 
-bool SchließenSichAus(int eine, int andere)
-{
-    const auto istTeil = [](int spalte) {
-        return spalte == SpalteVorname || spalte == SpalteNachname;
-    };
-    return andere != KeineSpalte && (eine == andere || (eine == GanzerName && istTeil(andere)) ||
-                                     (andere == GanzerName && istTeil(eine)));
-}
-
 Text Standwort(Stand stand)
 {
     constexpr std::array<const char *, 4> Wörter = {"+ neu", "~ geändert", "= gleich",

@@ -17,9 +17,6 @@ Text Lagesatz(const Text &dateiname, const Tabellenblatt &blatt, const Einleseau
 Text Spaltenname(const Tabellenblatt &blatt, int kopf, std::size_t spalte);
 Text Beispiel(const std::vector<std::vector<Text>> &zeilen, std::size_t spalte);
 
-/// Whether two columns cannot mean both of these.
-bool SchließenSichAus(int eine, int andere);
-
 /// "+ neu", "~ geändert", "= gleich", "! zweifelhaft": the sign tells them apart without colour.
 Text Standwort(Vorschauzeile::Stand stand);
 

@@ -2,6 +2,7 @@
 #include "exchange/Feldlesen.h"
 
 #include "core/Plätze.h"
+#include "core/Tabellentext.h"
 #include "core/Umwandlung.h"
 #include "platform/Gebietsschema.h"
 #include "platform/Uhr.h"
@@ -186,9 +187,19 @@ Feldlesung Geprüft(const Text &feld, bool kommaZerreißt)
         return Zweifel(feld, "hat ein Anführungszeichen am Anfang, das die Datei zerreißt.");
     if (Länge(feld) > LängsterText)
         return Zweifel(feld, "ist länger als 250 Zeichen.");
+    if (feld.find(KeinZeichen) != Text::npos)
+        return Zweifel(feld, "hat ein beschädigtes Zeichen.");
     if (InAnsiDarstellbar(feld) != feld)
         return Zweifel(feld, "hat ein Zeichen, das die Dateien nicht halten: Es würde zu „?“.");
     return {feld};
+}
+
+/// What the box in the editor takes as well, though it is hardly meant.
+Feldlesung Ungewöhnlich(Feldlesung lesung, const Text &feld, const char *was)
+{
+    if (lesung.Zweifel.empty())
+        lesung.Zweifel = Zweifel(feld, was).Zweifel;
+    return lesung;
 }
 
 } // namespace
@@ -225,7 +236,7 @@ Feldlesung GeburtstagAusFeld(const Text &feld)
 {
     Feldlesung lesung = DatumAusFeld(feld);
     if (!lesung.Wert.empty() && DatumLesen(lesung.Wert) > Uhr.Heute())
-        return Zweifel(feld, "liegt in der Zukunft.");
+        lesung.Zweifel = Zweifel(feld, "liegt in der Zukunft.").Zweifel;
     return lesung;
 }
 
@@ -304,7 +315,7 @@ Feldlesung GeschlechtAusFeld(const Text &feld)
         return {"männlich"};
     if (std::ranges::count(Sie, wort) > 0)
         return {"weiblich"};
-    return Zweifel(feld, "ist weder „männlich“ noch „weiblich“.");
+    return Ungewöhnlich(DienertextAusFeld(feld), feld, "ist weder „männlich“ noch „weiblich“.");
 }
 
 Feldlesung HelferdienstAusFeld(const Text &feld)
@@ -322,8 +333,8 @@ Feldlesung HelferdienstAusFeld(const Text &feld)
         return {Text(Kommunionhelfer.Name)};
     if (wort == "kollekte")
         return {Text(Kollektant.Name)};
-    return Zweifel(feld,
-                   "ist kein Dienst der Helfer: Lektor, Kommunionhelfer, Kantor, Kollektant.");
+    return Ungewöhnlich(HelfertextAusFeld(feld), feld,
+                        "ist kein Dienst der Helfer: Lektor, Kommunionhelfer, Kantor, Kollektant.");
 }
 
 Feldlesung HelfertextAusFeld(const Text &feld)

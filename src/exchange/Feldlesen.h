@@ -12,11 +12,12 @@ Datum TagDesFelds(const Text &feld);
 
 // Each gives the value in its one spelling; for an empty field that of a value that is not set.
 Feldlesung DatumAusFeld(const Text &feld);
-Feldlesung GeburtstagAusFeld(const Text &feld); // not after today
+Feldlesung GeburtstagAusFeld(const Text &feld); // hardly after today
 Feldlesung GrößeAusFeld(const Text &feld);      // "165", "165 cm", "1,65 m"
 Feldlesung PlzAusFeld(const Text &feld);        // "48999", "D-48999"
 Feldlesung HäufigkeitAusFeld(const Text &feld); // 0 to 20, "normal", "oft"
 Feldlesung JaNeinAusFeld(const Text &feld);     // "ja", "x", "1", "nein", "-"; empty: "nein"
+// As in the editor any text will do, but of others than these somebody has to look at it.
 Feldlesung GeschlechtAusFeld(const Text &feld); // "m", "w", "männlich", "Junge"
 Feldlesung HelferdienstAusFeld(const Text &feld);
 

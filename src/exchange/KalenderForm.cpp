@@ -71,15 +71,19 @@ Text Inhaltssatz(const Kalenderausgabe &ausgabe, bool jePerson)
     return satz;
 }
 
-/// "1 von 3 Dateien geschrieben; nicht geschrieben: Ben Busch.ics: ..., und eine weitere."
+/// "1 von 3 Dateien geschrieben. Nicht geschrieben: Ben Busch.ics, Lea Lang.ics (kein Zugriff)."
 Text Mangelsatz(const Ablage &ablage)
 {
-    Text satz = ZahlText(ablage.Geschrieben) + " von " +
-                ZahlText(ablage.Geschrieben + ablage.Misslungen) +
-                " Dateien geschrieben; nicht geschrieben: " + ablage.Woran + ": " + ablage.Warum;
-    if (ablage.Misslungen > 1)
-        satz += ", und " + Gezählt(ablage.Misslungen - 1, "eine weitere", "weitere");
-    return satz + ".";
+    constexpr std::size_t MeisteNamen = 8; // as many as a few lines hold
+    const auto misslungen = static_cast<int>(ablage.Misslungene.size());
+    Text satz = ZahlText(ablage.Geschrieben) + " von " + ZahlText(ablage.Geschrieben + misslungen) +
+                " Dateien geschrieben. Nicht geschrieben: ";
+    const std::size_t genannte = std::min(ablage.Misslungene.size(), MeisteNamen);
+    for (std::size_t k = 0; k < genannte; ++k)
+        satz += (k == 0 ? "" : ", ") + ablage.Misslungene[k];
+    if (const int andere = misslungen - static_cast<int>(genannte); andere > 0)
+        satz += " und " + Gezählt(andere, "eine weitere", "weitere");
+    return satz + " (" + ablage.Warum + ").";
 }
 
 std::vector<AbzulegendeDatei> ZumAblegen(const std::vector<Kalenderdatei> &dateien)

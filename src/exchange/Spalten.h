@@ -4,6 +4,7 @@
 
 #include "values/Text.h"
 
+#include <array>
 #include <string_view>
 #include <vector>
 
@@ -13,7 +14,7 @@ namespace altardienst {
 enum class Personenart { Diener, Helfer };
 
 /// What a field of a file says: the value as `Listenspalte::Wert` would give it, or why it cannot
-/// be taken, as a sentence.
+/// be taken, as a sentence. Both: it can, if somebody has looked at it.
 struct Feldlesung {
     Text Wert;
     Text Zweifel = {};
@@ -41,9 +42,11 @@ inline const Listenspalte &SpalteMit(Personenart art, int nr)
 /// How many there are. A file may claim any number of records.
 int Vorhandene(Personenart art);
 
-// Both lists begin with the name.
+// Both lists begin with name and address.
 constexpr int SpalteVorname = 0;
 constexpr int SpalteNachname = 1;
+constexpr int SpaltePlz = 3;
+constexpr int SpalteOrt = 4;
 
 /// The number of a column, by its name.
 int SpalteNamens(Personenart art, std::string_view name);
@@ -51,10 +54,24 @@ int SpalteNamens(Personenart art, std::string_view name);
 /// Letters and digits alone, small, without umlauts: "Straße/Haus-Nr." is "strassehausnr".
 Text Vergleichsform(std::string_view text);
 
-// A column of a file is assigned to one of those above, to the whole name, or to nothing.
+// A column of a file is assigned to one of those above, to two of them at once, or to nothing.
 constexpr int KeineSpalte = -1;
 constexpr int GanzerName = -2; // "Adler, Anna" or "Anna Adler"
+constexpr int PlzUndOrt = -3;  // "48999 Beispielort"
 using Zuordnung = std::vector<int>;
+
+/// Two columns of ours in one of a file.
+struct Doppelspalte {
+    int Nummer; // as which it is assigned
+    const char *Name;
+    int Eine;
+    int Andere;
+    void (*Teilen)(const Text &feld, Text &eine, Text &andere);
+};
+extern const std::array<Doppelspalte, 2> Doppelspalten;
+
+/// Whether two columns of a file cannot mean both of these.
+bool SchließenSichAus(int eine, int andere);
 
 /// What the headings of a file mean: each column is meant at most once, the surest first.
 Zuordnung ZuordnungNach(const std::vector<Text> &überschriften, Personenart art);
@@ -65,5 +82,9 @@ int Kopfzeile(const std::vector<std::vector<Text>> &zeilen, Personenart art);
 
 /// "Anna Adler" or "Adler, Anna" as first name and surname.
 void NamenTeilen(const Text &ganz, Text &vorname, Text &nachname);
+
+/// "48999 Beispielort", "D-48999, Beispielort" as postal code and town; without a number all of it
+/// is the town.
+void PlzUndOrtTeilen(const Text &ganz, Text &plz, Text &ort);
 
 } // namespace altardienst

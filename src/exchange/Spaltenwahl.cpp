@@ -54,13 +54,19 @@ int Sicherheit(const Text &überschrift, const Listenspalte &spalte)
     return 0;
 }
 
-bool MeintGanzenNamen(const Text &überschrift)
+/// The headings of a column that holds two of ours.
+bool MeintBeide(const Text &überschrift, int doppelspalte)
 {
     constexpr std::array<std::string_view, 8> Namen = {
         "vorundnachname",  "namevorname", "vornamename", "nachnamevorname",
         "vornamenachname", "vollernamen", "vollername",  "vorundzuname"};
-    return überschrift.size() <= LängsteÜberschrift &&
-           std::ranges::count(Namen, Vergleichsform(überschrift)) > 0;
+    constexpr std::array<std::string_view, 8> Orte = {
+        "plzort",   "plzundort",   "plzwohnort",      "plzundwohnort",
+        "plzstadt", "plzundstadt", "postleitzahlort", "postleitzahlundort"};
+    if (überschrift.size() > LängsteÜberschrift)
+        return false;
+    const Text form = Vergleichsform(überschrift);
+    return std::ranges::count(doppelspalte == GanzerName ? Namen : Orte, form) > 0;
 }
 
 struct Treffer {
@@ -84,6 +90,21 @@ std::vector<Treffer> TrefferIn(const std::vector<Text> &überschriften,
 }
 
 } // namespace
+
+const std::array<Doppelspalte, 2> Doppelspalten = {
+    {{GanzerName, "Vor- und Nachname", SpalteVorname, SpalteNachname, NamenTeilen},
+     {PlzUndOrt, "PLZ und Ort", SpaltePlz, SpalteOrt, PlzUndOrtTeilen}}};
+
+bool SchließenSichAus(int eine, int andere)
+{
+    const auto istTeil = [](int ganze, int teil) {
+        return std::ranges::any_of(Doppelspalten, [&](const Doppelspalte &doppelte) {
+            return doppelte.Nummer == ganze && (doppelte.Eine == teil || doppelte.Andere == teil);
+        });
+    };
+    return andere != KeineSpalte &&
+           (eine == andere || istTeil(eine, andere) || istTeil(andere, eine));
+}
 
 Text Vergleichsform(std::string_view text)
 {
@@ -110,13 +131,16 @@ Zuordnung ZuordnungNach(const std::vector<Text> &überschriften, Personenart art
 {
     const auto &spalten = SpaltenFür(art);
     Zuordnung zuordnung(überschriften.size(), KeineSpalte);
-    const auto ganze = std::ranges::find_if(überschriften, MeintGanzenNamen);
-    const bool hatGanze = ganze != überschriften.end();
-    if (hatGanze)
-        zuordnung[static_cast<std::size_t>(ganze - überschriften.begin())] = GanzerName;
-
     std::vector<bool> vergeben(spalten.size());
-    vergeben[SpalteVorname] = vergeben[SpalteNachname] = hatGanze;
+    for (const Doppelspalte &eine : Doppelspalten) {
+        const auto stelle = std::ranges::find_if(
+            überschriften, [&](const Text &text) { return MeintBeide(text, eine.Nummer); });
+        if (stelle == überschriften.end())
+            continue;
+        zuordnung[static_cast<std::size_t>(stelle - überschriften.begin())] = eine.Nummer;
+        vergeben[static_cast<std::size_t>(eine.Eine)] = true;
+        vergeben[static_cast<std::size_t>(eine.Andere)] = true;
+    }
     for (const Treffer &einer : TrefferIn(überschriften, spalten)) {
         const auto spalte = static_cast<std::size_t>(einer.Spalte);
         const auto bedeutung = static_cast<std::size_t>(einer.Bedeutung);
@@ -158,6 +182,16 @@ void NamenTeilen(const Text &ganz, Text &vorname, Text &nachname)
     const std::size_t blank = ganz.find_last_of(' ');
     nachname = blank == Text::npos ? ganz : ganz.substr(blank + 1);
     vorname = blank == Text::npos ? Text() : TextDesFelds(ganz.substr(0, blank));
+}
+
+void PlzUndOrtTeilen(const Text &ganz, Text &plz, Text &ort)
+{
+    const std::size_t ende = std::min(ganz.find_first_of(" ,/"), ganz.size());
+    plz = ganz.substr(0, ende);
+    if (plz.find_first_of("0123456789") == Text::npos)
+        plz.clear();
+    ort = plz.empty() ? ganz
+                      : ganz.substr(std::min(ganz.find_first_not_of(" ,/", ende), ganz.size()));
 }
 
 } // namespace altardienst

@@ -231,6 +231,9 @@ void Planansicht::MenüZeigen(QPoint wo)
         eintrag(Anzeige(weg.Beschriftung), true,
                 [this, ziel = weg.Ziel] { altardienst::Hingehen(ziel, window()); });
     menü.addSeparator();
+    if (AnMesseSchreiben)
+        eintrag("E-Mail an diese Messe...", true,
+                [this, messe = ort->Messe] { AnMesseSchreiben(messe); });
     eintrag("Kopieren\tStrg+C", true, [this] { Tafel->Kopieren(); });
     menü.exec(wo);
 }

@@ -12,6 +12,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
+
 namespace altardienst {
 
 /// Shows what the tables hold whenever it is looked at, and follows every change while it is shown,
@@ -29,6 +31,9 @@ class Planansicht : public QWidget {
     Kurztext *Abstände; // their dates, and the days between them
     Befundliste *Liste;
     QSplitter *Teiler;
+
+    /// Writes to those who serve in a mass; where nothing is set, the menu does not offer it.
+    std::function<void(int messe)> AnMesseSchreiben;
 
     /// Shows what the tables hold by now.
     void Nachziehen();

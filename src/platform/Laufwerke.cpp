@@ -5,6 +5,7 @@
 #include "values/Laufzeitfehler.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <sstream>
 
@@ -135,6 +136,47 @@ std::vector<Wurzel> Wurzeln()
     return wurzeln;
 }
 
+/// Without the blanks and dots that Windows takes off anyway, or that hide a file elsewhere.
+Text OhneRand(const Text &name)
+{
+    const auto erstes = name.find_first_not_of(" .");
+    if (erstes == Text::npos)
+        return "";
+    return name.substr(erstes, name.find_last_not_of(" .") - erstes + 1);
+}
+
+/// The beginning of a long name, in whole characters: an extension, what is written beside the file
+/// for a while and the directory still fit into what a system takes.
+Text Gekürzt(const Text &name)
+{
+    constexpr std::size_t Längster = 150; // bytes
+    if (name.size() <= Längster)
+        return name;
+    std::size_t ende = Längster;
+    while ((static_cast<unsigned char>(name[ende]) & 0xC0) == 0x80)
+        --ende;
+    return name.substr(0, ende);
+}
+
+/// What counts where Windows looks for a device: "Aux .2026.ics" is one.
+std::string_view Stamm(std::string_view name)
+{
+    const std::string_view stamm = name.substr(0, name.find('.'));
+    return stamm.substr(0, stamm.find_last_not_of(' ') + 1);
+}
+
+bool IstGerätename(std::string_view stamm)
+{
+    constexpr std::array<std::string_view, 6> Geräte = {"con", "prn",    "aux",
+                                                        "nul", "conin$", "conout$"};
+    constexpr std::array<std::string_view, 13> Nummern = {"0", "1", "2", "3", "4", "5", "6",
+                                                          "7", "8", "9", "¹", "²", "³"};
+    const Text klein = Klein(stamm);
+    if (klein.starts_with("com") || klein.starts_with("lpt"))
+        return std::ranges::count(Nummern, std::string_view(klein).substr(3)) > 0;
+    return std::ranges::count(Geräte, klein) > 0;
+}
+
 } // namespace
 
 std::filesystem::path PfadAus(std::string_view text)
@@ -148,6 +190,7 @@ Text TextVon(const std::filesystem::path &pfad)
     return Text(text.begin(), text.end());
 }
 
+/// A name that stands for a device gets a "-" ("Aux-"); of a long one the beginning remains.
 Text AlsDateiname(std::string_view text)
 {
     Text name(text);
@@ -155,10 +198,10 @@ Text AlsDateiname(std::string_view text)
         if (static_cast<unsigned char>(zeichen) < ' ' ||
             std::string_view("/\\:*?\"<>|").find(zeichen) != std::string_view::npos)
             zeichen = '-';
-    const auto erstes = name.find_first_not_of(" .");
-    if (erstes == Text::npos)
-        return "";
-    return name.substr(erstes, name.find_last_not_of(" .") - erstes + 1);
+    name = OhneRand(Gekürzt(OhneRand(name)));
+    if (const std::string_view stamm = Stamm(name); IstGerätename(stamm))
+        name.insert(stamm.size(), "-");
+    return name;
 }
 
 Text OrdnerText(const std::filesystem::path &verzeichnis)

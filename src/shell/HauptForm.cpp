@@ -14,6 +14,7 @@
 #include "controls/Kurztasten.h"
 #include "core/Umwandlung.h"
 #include "core/tables.h"
+#include "exchange/EMailForm.h"
 #include "fixed/FesteMeßdienerÜbertragen.h"
 #include "fixed/NeuMesseDienerFestForm.h"
 #include "history/Rückgängig.h"
@@ -56,6 +57,15 @@ int NummerDerTaste(const QKeyEvent &taste)
 #else
     return static_cast<int>(taste.nativeScanCode()) - 9; // key 1 has scan code 10
 #endif
+}
+
+/// The window "E-Mail" with this mass.
+void AnMesseSchreiben(int messe)
+{
+    EMailForm *offen = OffeneForm<EMailForm>();
+    EMailForm *form = offen ? offen : new EMailForm;
+    form->AnMesse(messe);
+    DialogÖffnen(form);
 }
 
 } // namespace
@@ -209,6 +219,7 @@ void HauptForm::PlanAnzeigen(bool plan)
     Gemerktes().setValue(Planschlüssel, plan);
     if (plan && !Plan) {
         Plan = new Planansicht;
+        Plan->AnMesseSchreiben = AnMesseSchreiben;
         seiten->addWidget(Plan, 1);
     }
     if (!Plan)

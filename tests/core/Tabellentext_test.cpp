@@ -57,6 +57,33 @@ TEST_F(TabellentextTest, HalbePaareUndÜberlangeSchreibungenSindKeinUtf8)
     EXPECT_EQ(Gelesen(std::string("\xFF\xFE\x00\xD8x\0", 6)), (Zeilen{{"\xEF\xBF\xBDx"}}));
 }
 
+/// One byte that is wrong does not make another text of all the others.
+TEST_F(TabellentextTest, EinFalschesByteIstKeineAndereKodierung)
+{
+    const Text loch(KeinZeichen);
+    EXPECT_EQ(Gelesen("Groß;Änder\xFCstadt"), (Zeilen{{"Groß", "Änder" + loch + "stadt"}}));
+    EXPECT_EQ(Gelesen("ß;\xFC"), (Zeilen{{"ß", loch}}));
+    EXPECT_EQ(Gelesen("ß;\xFC\xFC"), (Zeilen{{"ÃŸ", "üü"}})); // hardly UTF-8
+    EXPECT_EQ(Gelesen("a;\xFC"), (Zeilen{{"a", "ü"}}));
+    EXPECT_EQ(Gelesen("\xEF\xBB\xBF"
+                      "a;\xFC"),
+              (Zeilen{{"a", loch}})); // the mark says so
+}
+
+TEST_F(TabellentextTest, ZähltDieZeilenWieEineTabellenkalkulation)
+{
+    const auto nummern = [](const char *bytes) { return TabelleLesen(bytes).Nummern; };
+    using Nummern = std::vector<int>;
+    EXPECT_EQ(nummern("a;b\nc;d\n"), (Nummern{1, 2}));
+    EXPECT_EQ(nummern("\n\r\n\ra;b\r\n\r\n\nc;d"), (Nummern{4, 7}));
+    EXPECT_EQ(nummern("a\r\rb"), (Nummern{1, 3}));
+    EXPECT_EQ(nummern("\"a\n\nb\";c\nd;e"), (Nummern{1, 2}));
+    EXPECT_EQ(nummern(";\n;\nx;"), (Nummern{1, 2, 3}));
+    EXPECT_EQ(nummern("sep=;\r\na;b\r\nc;d"), (Nummern{1, 2}));
+    EXPECT_EQ(nummern("sep=;\n\na;b"), (Nummern{2}));
+    EXPECT_EQ(nummern("sep=;"), (Nummern{}));
+}
+
 TEST_F(TabellentextTest, FindetDasTrennzeichen)
 {
     EXPECT_EQ(Gelesen("a;b\n1;2"), (Zeilen{{"a", "b"}, {"1", "2"}}));

@@ -5,6 +5,7 @@
 #include "platform/Lebenszeichen.h"
 
 #include <algorithm>
+#include <array>
 
 namespace altardienst {
 namespace {
@@ -50,6 +51,39 @@ TEST_F(AushangTest, EinBlattQuerUndDanachWiederHoch)
     EXPECT_EQ(Papier.Anfrage.Name, "Aushang");
     EXPECT_EQ(Papier.Anfrage.ErsteForm, "ganze Namen");
     EXPECT_EQ(Papier.Anfrage.ZweiteForm, "Vorname und erster Buchstabe");
+}
+
+/// To the last stroke.
+TEST_F(AushangTest, DasGanzeBlatt)
+{
+    VolleMesse(2);
+    Messe.Leuchter[VolleMesse(3, "Andacht mit Prozession")] = 2;
+    EXPECT_EQ(AushangDrucken(), "");
+    EXPECT_EQ(Blatt(Papier),
+              (std::vector<Text>{"567 567, 16 Bold: \"Altardienst der Pfarrei St. Ägid\"",
+                                 "13271 639, 12: \"22.11.2026 bis 23.11.2026\"",
+                                 "6695.7998 1367, 20 Bold: \"Leuchter\"",
+                                 "11553.4004 1367, 20 Bold: \"Allgemein\"",
+                                 "Line 567 2107 16271 2107",
+                                 "707 2367, 20 Bold: \"So 22.11.\"",
+                                 "2787 2367, 20: \"10:00\"",
+                                 "4067 2367, 20: \"Hochamt\"",
+                                 "11553.4004 2367, 20: \"Vor1 Nach1\"",
+                                 "13982.2002 2367, 20: \"Vor2 Nach2\"",
+                                 "Line 567 3107 16271 3107",
+                                 "707 3367, 20 Bold: \"Mo 23.11.\"",
+                                 "2787 3367, 20: \"10:00\"",
+                                 "4067 3367, 20: \"Andacht mit\"",
+                                 "4067 3847, 20: \"Prozession\"",
+                                 "6695.7998 3367, 20: \"Vor1 Nach1\"",
+                                 "9124.59961 3367, 20: \"Vor2 Nach2\"",
+                                 "11553.4004 3367, 20: \"Vor3 Nach3\"",
+                                 "Line 567 1107 16271 1107",
+                                 "Line 567 4587 16271 4587",
+                                 "Line 567 1107 567 4587",
+                                 "Line 16271 1107 16271 4587",
+                                 "Line 6555.7998 1107 6555.7998 4587",
+                                 "Line 11413.4004 1107 11413.4004 4587"}));
 }
 
 TEST_F(AushangTest, DieSucheNachDerSchriftKommtNachDerFrageUnterDemWartezeiger)
@@ -125,6 +159,39 @@ TEST_F(AushangTest, ReichtAuchDasNichtKommenBlätterUndNichtsFehlt)
                                 std::to_string(slot) + "\""),
                   300);
     EXPECT_TRUE(Gedruckt("22.11.2026 bis 17.09.2027, Blatt 1 von " + std::to_string(blätter)));
+}
+
+TEST_F(AushangTest, KurzeNamenUndMehrereBlätterWoEsAndersNichtGeht)
+{
+    for (int i = 0; i < 300; ++i) {
+        VolleMesse(6);
+        Besetzen(Messe, Dienerplatznr(i, 1), "Anna", Text(250, 'x'));
+    }
+    const Text satz = AushangDrucken();
+    const int blätter = Papier.WieOft("NewPage") + 1;
+    EXPECT_GT(blätter, 1);
+    EXPECT_EQ(satz, "Aushang mit gekürzten Nachnamen auf " + std::to_string(blätter) +
+                        " Blättern, sonst wäre die Schrift kleiner als 7 Punkt");
+    EXPECT_EQ(Papier.WieOft("Print \"Anna x.\""), 300);
+}
+
+/// Where a column for each rare service has no room, one for all of them may.
+TEST_F(AushangTest, GanzeNamenInDerSpalteDerSeltenenDienste)
+{
+    const std::array dienste = {&Messe.Gabenbereitung, &Messe.Leuchter, &Messe.Flambeau,
+                                &Messe.Weihrauch, &Messe.Kreuzträger};
+    const Text name = "Freifrau von und zu Sehrlangenhausen-Obermettenbach an der Niederen Ache";
+    for (int i = 0; i < 20; ++i) {
+        VolleMesse(1);
+        Besetzen(Messe, Dienerplatznr(i, 1), "Anna", name);
+        if (i < 5)
+            (*dienste.at(static_cast<std::size_t>(i)))[i] = 1;
+        else
+            Messe.Allgemein[i] = 1;
+    }
+    EXPECT_EQ(AushangDrucken(), "");
+    EXPECT_TRUE(Gedruckt("Anna " + name));
+    EXPECT_TRUE(Gedruckt("Anna " + name + " (Flambeau)"));
 }
 
 TEST_F(AushangTest, EinEndloserTextMachtDieSchriftKleinUndSagtEs)

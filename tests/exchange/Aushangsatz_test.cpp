@@ -22,6 +22,32 @@ class AushangsatzTest : public Druckstand {
         return Satzsuche(tafel, Maße).Größter(Platz, blätter);
     }
 
+    /// Whether the table fits in this form, set row by row.
+    bool Passt(const Aushangtafel &tafel, const Satzform &form, double größe, int blätter) const
+    {
+        const Satzbreiten breiten = BreitenDer(tafel, form, Maße);
+        if (größe *
+                (form.Blöcke * breiten.Gesamt() + (form.Blöcke - 1) * Blockabstand * Maße.Geviert) >
+            Platz.Breite)
+            return false;
+        const double luft = Zeilenluft * Maße.Geviert;
+        const double höhe = Platz.Höhe / größe - Maße.Zeile - luft;
+        double rest = 0;
+        int blöcke = 0;
+        for (const Aushangreihe &reihe : tafel.Reihen) {
+            const double reihenhöhe =
+                Maße.Zeile * ZeilenDer(reihe, form, breiten.Nebeneinander, Maße) + luft;
+            if (reihenhöhe > höhe)
+                return false;
+            if (blöcke == 0 || reihenhöhe > rest) {
+                ++blöcke;
+                rest = höhe;
+            }
+            rest -= reihenhöhe;
+        }
+        return blöcke <= blätter * form.Blöcke;
+    }
+
     /// The table at the size found is no larger than its sheet.
     void PrüfeObEsPasst(const Aushangtafel &tafel, const Satzform &form) const
     {
@@ -219,6 +245,122 @@ TEST_F(AushangsatzTest, EineLangeArtStehtInZweiZeilen)
     EXPECT_EQ(Artzeilen("Hochamt mit Taufe", true, Maße), (Liste{"Hochamt", "mit Taufe"}));
     EXPECT_EQ(Artzeilen("Hochamt mit Taufe", false, Maße), Liste{"Hochamt mit Taufe"});
     EXPECT_EQ(Artzeilen("Hochamt", true, Maße), Liste{"Hochamt"});
+}
+
+/// No step larger would fit in the form that was found.
+TEST_F(AushangsatzTest, DieSchriftIstSoGroßWieEsGeht)
+{
+    int kleiner = 0;
+    for (int messen = 1; messen <= 90; messen += messen < 30 ? 1 : 7) {
+        while (Messe.Anzahl < messen)
+            VolleMesse(Messe.Anzahl % 5 == 0 ? 6 : 3,
+                       Messe.Anzahl % 3 == 0 ? "Hochamt mit Prozession" : "Messe");
+        const Aushangtafel tafel = Tafel();
+        for (const int blätter : {1, 2}) {
+            const auto form = Größter(tafel, blätter);
+            if (!form)
+                continue;
+            EXPECT_TRUE(Passt(tafel, *form, form->Größe, blätter)) << messen;
+            if (form->Größe >= GrößterAushang)
+                continue;
+            ++kleiner;
+            EXPECT_FALSE(Passt(tafel, *form, form->Größe + 0.25, blätter)) << messen;
+        }
+    }
+    EXPECT_GT(kleiner, 20) << "otherwise this shows nothing";
+}
+
+/// No block is longer than it must be, so the sheet is as full everywhere.
+TEST_F(AushangsatzTest, DieBlöckeSindGleichLang)
+{
+    int mehrere = 0;
+    for (int messen = 1; messen <= 120; messen += 3) {
+        while (Messe.Anzahl < messen)
+            VolleMesse(2, "Messe");
+        const auto form = Größter(Tafel(), 1);
+        if (!form)
+            continue;
+        const int länge = (messen + form->Blöcke - 1) / form->Blöcke;
+        std::vector<int> anfänge;
+        for (int anfang = 0; anfang < messen; anfang += länge)
+            anfänge.push_back(anfang);
+        EXPECT_EQ(form->Anfänge, anfänge) << messen;
+        mehrere += form->Blöcke > 1 ? 1 : 0;
+    }
+    EXPECT_GT(mehrere, 5) << "otherwise this shows nothing";
+}
+
+TEST_F(AushangsatzTest, WasPasstWirdNichtGeteilt)
+{
+    VolleMesse(1, "Hochamt mit Chor");
+    const auto form = Größter(Tafel(), 1);
+    ASSERT_TRUE(form);
+    EXPECT_EQ(form->Größe, GrößterAushang);
+    EXPECT_FALSE(form->ArtGeteilt);
+}
+
+TEST_F(AushangsatzTest, SeltenIstWasWenigerAlsEinDrittelDerMessenHat)
+{
+    for (int i = 0; i < 6; ++i)
+        VolleMesse(4);
+    const auto mit = [](int leuchter, int weihrauch) {
+        for (int i = 0; i < 6; ++i) {
+            Messe.Leuchter[i] = i < leuchter ? 1 : 0;
+            Messe.Weihrauch[i] = i < weihrauch ? 1 : 0;
+            Messe.Allgemein[i] = 2;
+        }
+        return Zusammengelegt(Tafel());
+    };
+    EXPECT_FALSE(mit(2, 2));
+    EXPECT_FALSE(mit(1, 2)) << "one alone is as well off in its own column";
+    const auto zwei = mit(1, 1);
+    ASSERT_TRUE(zwei);
+    EXPECT_EQ(zwei->Spalten.back().Kopf, "weitere Dienste");
+    EXPECT_EQ(zwei->Spalten.back().Kurzkopf, "weitere");
+    EXPECT_EQ(zwei->Spalten.size(), 2U);
+}
+
+TEST_F(AushangsatzTest, DieKurzenKöpfeDerHelfer)
+{
+    const int i = VolleMesse(0);
+    Messe.LektorZahl[i] = Messe.KommZahl[i] = Messe.KantorZahl[i] = Messe.KollektZahl[i] = 1;
+    Liste köpfe;
+    for (const Aushangspalte &spalte : Tafel().Spalten)
+        köpfe.push_back(spalte.Kurzkopf);
+    EXPECT_EQ(köpfe, (Liste{"Lektor", "Kommunion", "Kantor", "Kollekte"}));
+}
+
+/// The day and the heads are bold, all else is not.
+TEST_F(AushangsatzTest, FettSindNurTagUndKopf)
+{
+    Maße.Breite = [](const Text &text, bool fett) { return Länge(text) * (fett ? 20.0 : 10.0); };
+    const int i = VolleMesse(1);
+    const double luft = Zellenluft * Maße.Geviert;
+    const auto breiten = [&](const Text &vorname, const Text &art) {
+        Messe.Messeart[i] = art;
+        Besetzen(Messe, Dienerplatznr(i, 1), vorname, "");
+        return BreitenDer(Tafel(), {.ArtGeteilt = true}, Maße);
+    };
+    const Satzbreiten langer = breiten("Maximiliane-Friederike", "Hochamt der Pfarre");
+    EXPECT_DOUBLE_EQ(langer.Tag, Länge(Tafel().Reihen[0].Tag) * 20 + luft);
+    EXPECT_DOUBLE_EQ(langer.Uhrzeit, Länge(Tafel().Reihen[0].Uhrzeit) * 10 + luft);
+    EXPECT_DOUBLE_EQ(langer.Art, 100 + luft); // "der Pfarre"
+    EXPECT_DOUBLE_EQ(langer.Spalten[0], 220 + luft);
+    EXPECT_DOUBLE_EQ(breiten("Li", "Hochamt").Spalten[0],
+                     Länge(Tafel().Spalten[0].Kurzkopf) * 20 + luft);
+}
+
+TEST_F(AushangsatzTest, EineArtTeiltSichInMöglichstGleicheZeilen)
+{
+    EXPECT_EQ(Artzeilen("Hochamt der Pfarre", false, Maße), Liste{"Hochamt der Pfarre"});
+    EXPECT_EQ(Artzeilen("Hochamt", true, Maße), Liste{"Hochamt"});
+    EXPECT_EQ(Artzeilen("Hochamt der Pfarre", true, Maße), (Liste{"Hochamt", "der Pfarre"}));
+    EXPECT_EQ(Artzeilen("a b c d", true, Maße), (Liste{"a b", "c d"}));
+    EXPECT_EQ(Artzeilen("aa b aa", true, Maße), (Liste{"aa", "b aa"})); // of equal ones the first
+    Maße.Breite = [](const Text &text, bool fett) {
+        return fett ? 1000.0 - Länge(text) : Länge(text) * 10.0;
+    };
+    EXPECT_EQ(Artzeilen("Hochamt der Pfarre", true, Maße), (Liste{"Hochamt", "der Pfarre"}));
 }
 
 } // namespace

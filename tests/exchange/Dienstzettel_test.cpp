@@ -76,6 +76,64 @@ TEST_F(DienstzettelTest, GeordnetWieImTelefonbuch)
                                 "Kim Straub", "Kim Strauß", "Kim Zobel"}));
 }
 
+TEST_F(DienstzettelTest, BuchstabenMitZeichenStehenBeiIhremGrundbuchstaben)
+{
+    for (const auto &[buchstabe, grund] : std::vector<std::pair<Text, Text>>{{"ä", "a"},
+                                                                             {"ö", "o"},
+                                                                             {"ü", "u"},
+                                                                             {"ß", "ss"},
+                                                                             {"é", "e"},
+                                                                             {"è", "e"},
+                                                                             {"ê", "e"},
+                                                                             {"á", "a"},
+                                                                             {"à", "a"},
+                                                                             {"ç", "c"},
+                                                                             {"ó", "o"},
+                                                                             {"ñ", "n"}}) {
+        Meßdiener.Anzahl = 0;
+        Messe.Anzahl = 0;
+        Dienend("Kim", "X" + buchstabe + "b" + buchstabe, 1);
+        Dienend("Kim", "X" + grund + "b" + grund + "x", 1);
+        Dienend("Kim", "X" + grund + "a", 1);
+        EXPECT_EQ(Namen({}), (Liste{"Kim X" + grund + "a", "Kim X" + buchstabe + "b" + buchstabe,
+                                    "Kim X" + grund + "b" + grund + "x"}));
+    }
+}
+
+/// A file may claim any number, and records that were deleted leave their names behind.
+TEST_F(DienstzettelTest, WasNachDerAnzahlStehtHatKeinenZettel)
+{
+    const Zettelwahl alle{.AuchOhneDienst = true, .Ordnung = Zettelordnung::NachGruppe};
+    Gruppe.Anzahl = 1;
+    Gruppe.Bezeichnung[0] = "Große";
+    Meßdiener.Gruppe[MeßdienerAnlegen("Kim", "Adler")] = "Große";
+    Meßdiener.Vorname[1] = "Rest";
+    Meßdiener.Gruppe[1] = "Große";
+    Helfer.Vorname[0] = "Helferrest";
+    Besetzen(Messe, Dienerplatznr(VolleMesse(1), 1), "Gruppe", "Große");
+    EXPECT_EQ(Namen(alle), Liste{"Kim Adler"});
+    Meßdiener.Anzahl = 30000;
+    Helfer.Anzahl = 30000;
+    Gruppe.Anzahl = 30000;
+    EXPECT_EQ(Namen(alle), (Liste{"Rest", "Kim Adler", "Helferrest"}));
+}
+
+TEST_F(DienstzettelTest, EinNameGenügt)
+{
+    MeßdienerAnlegen("Kim", "");
+    MeßdienerAnlegen("", "Adler");
+    EXPECT_EQ(Namen({.AuchOhneDienst = true}), (Liste{"Kim", "Adler"}));
+}
+
+TEST_F(DienstzettelTest, OhneGruppeIstNichtInDerGruppeOhneNamen)
+{
+    Gruppe.Anzahl = 2;
+    Gruppe.Bezeichnung[1] = "Große";
+    Dienend("Kim", "Adler", 1);
+    Meßdiener.Gruppe[Dienend("Ben", "Busch", 1)] = "Große";
+    EXPECT_EQ(Namen({.Ordnung = Zettelordnung::NachGruppe}), (Liste{"Ben Busch", "Kim Adler"}));
+}
+
 TEST_F(DienstzettelTest, GeordnetNachGruppen)
 {
     Gruppe.Anzahl = 2;
@@ -184,6 +242,37 @@ class ZetteldruckTest : public DienstzettelTest {
         return stellen;
     }
 };
+
+/// To the last stroke: a name in bold, small type below it, days and times below each other, and
+/// where to cut.
+TEST_F(ZetteldruckTest, DasGanzeBlatt)
+{
+    Meßdiener.Gruppe[Dienend("Kim", "Adler", 2)] = "Große";
+    Messe.Messeart[1] = "Wochendienst";
+    MeßdienerAnlegen("Ben", "Busch");
+    ZettelDrucken(DienstzettelVon(GemeinsameTabellen(), {.AuchOhneDienst = true}), "Altardienst");
+    EXPECT_EQ(
+        Blatt(Papier),
+        (Liste{"737 737, 12 Bold: \"Kim Adler\"", "737 1025, 8: \"Altardienst, Große\"",
+               "737 1267, 10: \"So 22.11.\"", "2137 1267, 10: \"10:00\"",
+               "2837 1267, 10: \"Hochamt: Allgemein\"", "737 1507, 10: \"ab Mo 23.11.\"",
+               "2837 1507, 10: \"Wochendienst: Allgemein\"", "Line 567 1917 5953 1917 gestrichelt",
+               "737 2087, 12 Bold: \"Ben Busch\"", "737 2375, 8: \"Altardienst\"",
+               "737 2617, 10: \"kein Dienst in diesem Plan\"",
+               "Line 567 3027 5953 3027 gestrichelt", "Line 5953 567 5953 16271 gestrichelt"}));
+}
+
+TEST_F(ZetteldruckTest, ErstDieZweiteSpalteDannDasNächsteBlatt)
+{
+    for (int i = 0; i < 40; ++i)
+        Dienend("Kim", "Nr" + std::to_string(i), 1);
+    std::vector<std::pair<int, int>> folge;
+    for (const Stelle &stelle : Drucken())
+        if (folge.empty() || folge.back() != std::pair(stelle.Seite, stelle.Spalte))
+            if (stelle.Inhalt.starts_with("Kim")) // a name stands at the left of its slip
+                folge.emplace_back(stelle.Seite, stelle.Spalte);
+    EXPECT_EQ(folge, (std::vector<std::pair<int, int>>{{0, 0}, {0, 1}, {1, 0}}));
+}
 
 TEST_F(ZetteldruckTest, NameKopfzeileUndDienste)
 {

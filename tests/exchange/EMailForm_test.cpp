@@ -235,5 +235,35 @@ TEST_F(EMailFormTest, OhnePlanUndLeute)
     }
 }
 
+TEST_F(EMailFormTest, WieDasFensterUndSeineKnöpfeHeißen)
+{
+    Gruppe.Anzahl = 1; // "Kleine" was deleted
+    form = new EMailForm;
+    Zeigen(form);
+    EXPECT_EQ(form->windowTitle(), "E-Mail");
+    EXPECT_EQ(form->Öffnen->text(), "&E-Mail öffnen");
+    EXPECT_EQ(form->AdressenKopieren->text(), "A&dressen kopieren");
+    EXPECT_EQ(form->TextKopieren->text(), "&Text kopieren");
+    EXPECT_EQ(form->Gruppe->count(), 1);
+    EXPECT_EQ(form->EineMesse->count(), 2);
+    EXPECT_EQ(form->EineMesse->accessibleName(), "Messe");
+    EXPECT_EQ(form->Gruppe->accessibleName(), "Gruppe");
+    Gruppe.Anzahl = 30000; // a file may claim any number
+    delete form;
+    form = new EMailForm;
+    EXPECT_EQ(form->Gruppe->count(), 2);
+}
+
+TEST_F(EMailFormTest, AnEineMesseVonAnderswo)
+{
+    form = new EMailForm;
+    Zeigen(form);
+    form->AnMesse(1);
+    EXPECT_EQ(Zeigt("An"), "eine Messe");
+    EXPECT_EQ(form->EineMesse->currentIndex(), 1);
+    EXPECT_NE(Zeigt("Betreff").find("Andacht"), Text::npos);
+    EXPECT_EQ(Zeigt("Zahl"), "1 Adresse");
+}
+
 } // namespace
 } // namespace altardienst

@@ -88,7 +88,7 @@ TEST_F(EinlesenFormTest, DieVorschauZeigtWasAusJederZeileWird)
                      "[x] + neu | Dorn, Mia | Telefon: 0251 7; Geburtstag: 01.02.2013; Größe: 150",
                      "[ ] ! zweifelhaft | Eich, Lars | Geburtstag: „gestern“ ist kein Datum. "
                      "Größe: 150",
-                     "[-] ! zweifelhaft | Fuchs | Der Vorname fehlt."}));
+                     "[ ] ! zweifelhaft | Fuchs | Der Vorname fehlt. Größe: 150"}));
     EXPECT_EQ(Zeigt("Zahlen"), "1 neu, 1 geändert, 1 gleich, 2 zweifelhaft; angekreuzt: 2.");
     EXPECT_EQ(Zeigt("Lage"), "Leute.csv: 5 Zeilen, 4 von 5 Spalten erkannt. Jemand ist derselbe, "
                              "wenn Vor- und Nachname gleich sind.");
@@ -114,7 +114,7 @@ TEST_F(EinlesenFormTest, ÜbernehmenSchreibtDasAngekreuzteAlsEinenSchritt)
     EXPECT_EQ(Meßdiener.Anzahl, 4);
     EXPECT_EQ(Meßdiener.Nachname[3], "Eich");
     EXPECT_EQ(Zeigt("Lage"), "Meßdiener eingelesen: 2 neu, 0 geändert. Strg+Z nimmt alles zurück.");
-    EXPECT_EQ(Zeigt("Zahlen"), "0 neu, 1 geändert, 2 gleich, 2 zweifelhaft; angekreuzt: 1.");
+    EXPECT_EQ(Zeigt("Zahlen"), "0 neu, 1 geändert, 2 gleich, 2 zweifelhaft; angekreuzt: 0.");
     TabellenBeobachten();
     EXPECT_EQ(LetzterSchritt(), "Meßdiener einlesen");
     SchrittZurücknehmen();
@@ -173,6 +173,72 @@ TEST_F(EinlesenFormTest, NeueGruppenUndLeereFelder)
     EXPECT_EQ(Zeigt("Lage"),
               "Meßdiener eingelesen: 0 neu, 1 geändert, eine neue Gruppe. Strg+Z nimmt "
               "alles zurück.");
+}
+
+/// What somebody has ticked or left out stays so as long as the row is the same.
+TEST_F(EinlesenFormTest, WasVonHandGewähltIstBleibt)
+{
+    const auto häkchen = [this] {
+        Text alle;
+        for (const Text &zeile : Vorschau())
+            alle += zeile.substr(0, 3);
+        return alle;
+    };
+    Lesen(Leute);
+    EXPECT_EQ(häkchen(), "[x][x][ ][ ]");
+    Kreuz(0); // left out
+    Kreuz(2); // taken in spite of the date
+    EXPECT_EQ(häkchen(), "[ ][x][x][ ]");
+    Klick("GruppenAnlegen");
+    EXPECT_EQ(häkchen(), "[ ][x][x][ ]");
+    Bedeutung(5)->setCurrentText("Ort"); // changes the first row, who stays out
+    EXPECT_EQ(Vorschau()[0], "[ ] ~ geändert | Adler, Anna | Ort: (leer) → Lesen; "
+                             "Telefon: 0251 1 → 0251 2");
+    EXPECT_EQ(häkchen(), "[ ][x][x][ ]");
+    Bedeutung(4)->setCurrentText("(nicht einlesen)"); // the third has no doubt any more
+    EXPECT_EQ(häkchen(), "[ ][x][x][ ]");
+    Bedeutung(4)->setCurrentText("Eintrittsdatum"); // another doubt: nobody has looked at it
+    EXPECT_EQ(häkchen(), "[ ][x][ ][ ]");
+    Bedeutung(4)->setCurrentText("Geburtstag");
+    EXPECT_EQ(häkchen(), "[ ][x][x][ ]");
+    Klick("Übernehmen");
+    EXPECT_EQ(häkchen(), "[ ][-][ ]"); // who was left out is not proposed again
+    EXPECT_FALSE(form->Übernehmen->isEnabled());
+    Bedeutung(2)->setCurrentText("(nicht einlesen)"); // other names, other people
+    Bedeutung(5)->setCurrentText("Nachname");
+    EXPECT_EQ(Vorschau()[0].substr(0, 3), "[x]");
+    Lesen(Leute); // a new beginning
+    EXPECT_EQ(häkchen(), "[x][-][ ]");
+}
+
+TEST_F(EinlesenFormTest, DieZeilenZählenWieInDerTabellenkalkulation)
+{
+    Lesen("sep=;\nUnsere Leute\n\nVorname;Name;Ort\n\nMia;Dorn;\"a\nb\"\nLea;Eich;\nLea;Eich;\n");
+    EXPECT_EQ(Vorschau().back(), "[ ] ! zweifelhaft | Eich, Lea | Steht genauso schon in Zeile 6. "
+                                 "Größe: 150");
+    Lesen("Vorname;Name;Ort\n\n;;X\n");
+    EXPECT_EQ(Vorschau(), (Liste{"[-] ! zweifelhaft | Zeile 3 | Der Name fehlt."}));
+}
+
+TEST_F(EinlesenFormTest, PlzUndOrtInEinerSpalteSindEineWahl)
+{
+    Lesen("Vorname;Name;PLZ Ort;PLZ\nAnna;Adler;48999 Beispielort;1\n");
+    EXPECT_EQ(Bedeutung(3)->currentText(), "PLZ und Ort");
+    EXPECT_EQ(Vorschau(), (Liste{"[x] ~ geändert | Adler, Anna | PLZ: (leer) → 48999; "
+                                 "Ort: (leer) → Beispielort"}));
+    Bedeutung(4)->setCurrentText("PLZ");
+    EXPECT_EQ(Bedeutung(3)->currentText(), "(nicht einlesen)");
+}
+
+/// A file of two encodings, or one that was damaged on its way.
+TEST_F(EinlesenFormTest, EinBeschädigtesZeichenIstEinZweifel)
+{
+    Lesen("Vorname;Name;Ort\nJörg;Weiß;Gro\xDF"
+          "dorf\nÄnne;M\xFCller;\n");
+    EXPECT_EQ(Vorschau()[0], "[ ] ! zweifelhaft | Weiß, Jörg | Ort: „Gro\xEF\xBF\xBD"
+                             "dorf“ hat ein "
+                             "beschädigtes Zeichen. Größe: 150");
+    EXPECT_EQ(Vorschau()[1].substr(0, 3), "[-]");
 }
 
 TEST_F(EinlesenFormTest, WoFürAlleKeinPlatzIstWartetÜbernehmen)

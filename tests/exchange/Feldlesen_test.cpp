@@ -2,6 +2,7 @@
 #include "exchange/Feldlesen.h"
 
 #include "Prüfstand.h"
+#include "core/Umwandlung.h"
 
 namespace altardienst {
 namespace {
@@ -19,6 +20,8 @@ TEST_F(FeldlesenTest, EinTagInDenÜblichenSchreibungen)
     EXPECT_EQ(DatumAusFeld("28/02/2010").Wert, "28.02.2010");
     EXPECT_EQ(DatumAusFeld("2/28/10").Wert, "28.02.2010");
     EXPECT_EQ(DatumAusFeld("03/03/12").Wert, "03.03.2012");
+    EXPECT_EQ(DatumAusFeld("12/13/2010").Wert, "13.12.2010");
+    EXPECT_EQ(DatumAusFeld("13/12/2010").Wert, "13.12.2010");
     EXPECT_EQ(DatumAusFeld("01/06/12").Zweifel,
               "„01/06/12“ ist nicht eindeutig: Kommt erst der Tag oder erst der Monat?");
     for (const char *feld : {"01/06/12 00:00", "Fr 01/06/12", "1/6/2012 12:00:00 AM", "01/06/12 "})
@@ -30,8 +33,29 @@ TEST_F(FeldlesenTest, EinTagInDenÜblichenSchreibungen)
         EXPECT_EQ(DatumAusFeld(feld).Wert, "28.02.2010") << feld;
     EXPECT_EQ(DatumAusFeld("3. März 2012").Wert, "03.03.2012");
     EXPECT_EQ(DatumAusFeld("3. Mai 99").Wert, "03.05.1999");
-    EXPECT_EQ(DatumAusFeld("").Wert, "");
-    EXPECT_EQ(DatumAusFeld("00:00:00").Wert, ""); // as the files write what is not set
+    for (const char *leer : {"", "00:00:00"}) { // as the files write what is not set
+        EXPECT_EQ(DatumAusFeld(leer).Wert, "");
+        EXPECT_EQ(DatumAusFeld(leer).Zweifel, "");
+    }
+}
+
+TEST_F(FeldlesenTest, JederMonatUndJedeUhrzeit)
+{
+    int monat = 0;
+    for (const char *name : {"Januar", "Feb.", "März", "Apr", "Mai", "Juni", "Jul", "August",
+                             "Sept.", "Okt.", "November", "Dez"}) {
+        const Datum tag = DatumAus({2012, ++monat, 3});
+        EXPECT_EQ(DatumAusFeld("3. " + Text(name) + " 2012").Wert, KurzesDatum(tag)) << name;
+    }
+    EXPECT_EQ(DatumAusFeld("3. Maerz 2012").Wert, "03.03.2012");
+    EXPECT_EQ(DatumAusFeld("3 Mar 2012").Wert, "03.03.2012");
+    for (const char *danach : {" 9:09", " 19:59:59", " 10:30:00.987654321", " 10:30:00,9",
+                               " 10:30Z", "  10:30 pm", " 10:30-0200", " 10:30 +01:00", "   "})
+        EXPECT_EQ(DatumAusFeld("2012-01-06" + Text(danach)).Wert, "06.01.2012") << danach;
+    for (const char *danach :
+         {" :09", " 9:", " 9", " 100:00", " 9:123", " 10:30:0", " 10:30:00.", " 10:30+1",
+          " 10:30+01:0", " 10:30+01:00x", " 10:30 nachts", "9:09", " 10:30:00.1234567890"})
+        EXPECT_EQ(DatumAusFeld("2012-01-06" + Text(danach)).Wert, "") << danach;
 }
 
 TEST_F(FeldlesenTest, WasKeinTagIstBleibtStehen)
@@ -44,7 +68,10 @@ TEST_F(FeldlesenTest, WasKeinTagIstBleibtStehen)
         EXPECT_EQ(DatumAusFeld(feld).Zweifel, "„" + Text(feld) + "“ ist kein Datum.");
     }
     EXPECT_EQ(GeburtstagAusFeld("21.11.2026").Wert, "21.11.2026");
+    EXPECT_EQ(GeburtstagAusFeld("21.11.2026").Zweifel, "");
+    // What the editor takes as well comes with its doubt.
     EXPECT_EQ(GeburtstagAusFeld("22.11.2026").Zweifel, "„22.11.2026“ liegt in der Zukunft.");
+    EXPECT_EQ(GeburtstagAusFeld("22.11.2026").Wert, "22.11.2026");
 }
 
 TEST_F(FeldlesenTest, EineGrößeInZentimeternOderMetern)
@@ -52,6 +79,8 @@ TEST_F(FeldlesenTest, EineGrößeInZentimeternOderMetern)
     for (const char *feld : {"165", "165 cm", "165cm", "1,65", "1.65 m", "1,65m", "164,8"})
         EXPECT_EQ(GrößeAusFeld(feld).Wert, "165") << feld;
     EXPECT_EQ(GrößeAusFeld("0").Wert, "0");
+    EXPECT_EQ(GrößeAusFeld("").Wert, "0");
+    EXPECT_EQ(GrößeAusFeld("5").Wert, "5");
     EXPECT_EQ(GrößeAusFeld("250").Wert, "250");
     EXPECT_EQ(GrößeAusFeld("251").Zweifel, "„251“ ist keine Größe: 5 bis 250 cm.");
     EXPECT_EQ(GrößeAusFeld("4").Zweifel, "„4“ ist keine Größe: 5 bis 250 cm.");
@@ -80,7 +109,17 @@ TEST_F(FeldlesenTest, AntwortenInWorten)
         EXPECT_EQ(GeschlechtAusFeld(feld).Wert, "männlich") << feld;
     for (const char *feld : {"w", "weiblich", "Mädchen", "f"})
         EXPECT_EQ(GeschlechtAusFeld(feld).Wert, "weiblich") << feld;
+    EXPECT_EQ(GeschlechtAusFeld("divers").Zweifel,
+              "„divers“ ist weder „männlich“ noch „weiblich“.");
+    EXPECT_EQ(GeschlechtAusFeld("divers").Wert, "divers");
+    EXPECT_EQ(GeschlechtAusFeld("m, w").Wert, "");
+    EXPECT_EQ(GeschlechtAusFeld("m, w").Zweifel,
+              "„m, w“ hat ein Komma, das die Datei der Meßdiener zerreißt.");
+    EXPECT_EQ(GeschlechtAusFeld("?").Wert, "?");
     EXPECT_NE(GeschlechtAusFeld("?").Zweifel, "");
+    EXPECT_EQ(GeschlechtAusFeld("").Zweifel, "");
+    EXPECT_EQ(HelferdienstAusFeld("").Zweifel, "");
+    EXPECT_EQ(HäufigkeitAusFeld("normal").Wert, "0");
     EXPECT_EQ(HäufigkeitAusFeld("oft").Wert, "2");
     EXPECT_EQ(HäufigkeitAusFeld("20").Wert, "20");
     EXPECT_NE(HäufigkeitAusFeld("21").Zweifel, "");
@@ -88,7 +127,9 @@ TEST_F(FeldlesenTest, AntwortenInWorten)
     for (const char *feld : {"Kantor", "kantorin", "Kantor/in"})
         EXPECT_EQ(HelferdienstAusFeld(feld).Wert, "Kantor") << feld;
     EXPECT_EQ(HelferdienstAusFeld("Kommunion").Wert, "Kommunionhelfer");
-    EXPECT_NE(HelferdienstAusFeld("Küster").Zweifel, "");
+    EXPECT_EQ(HelferdienstAusFeld("Küster, Pförtner").Wert, "Küster, Pförtner");
+    EXPECT_EQ(HelferdienstAusFeld("Küster").Zweifel,
+              "„Küster“ ist kein Dienst der Helfer: Lektor, Kommunionhelfer, Kantor, Kollektant.");
 }
 
 TEST_F(FeldlesenTest, TexteDieDieDateienNichtHalten)
@@ -102,6 +143,8 @@ TEST_F(FeldlesenTest, TexteDieDieDateienNichtHalten)
               "„a b“ hat einen Zeilenumbruch, der die Datei zerreißt.");
     EXPECT_EQ(HelfertextAusFeld("Čapek").Zweifel,
               "„Čapek“ hat ein Zeichen, das die Dateien nicht halten: Es würde zu „?“.");
+    EXPECT_EQ(HelfertextAusFeld("M\xEF\xBF\xBDller").Zweifel,
+              "„M\xEF\xBF\xBDller“ hat ein beschädigtes Zeichen.");
     EXPECT_EQ(HelfertextAusFeld("Ünal–Weiß €").Wert, "Ünal–Weiß €");
     Text lang;
     for (int i = 0; i < 250; ++i)

@@ -21,8 +21,7 @@ class FremdtabellenTest : public Prüfstand {
         const Tabellenblatt blatt = TabelleLesen(bytes);
         EXPECT_EQ(blatt.Mangel, "");
         EXPECT_EQ(Kopfzeile(blatt.Zeilen, Personenart::Diener), 0);
-        Einleseauftrag auftrag{.ErsteZeile = 2,
-                               .Spalten = ZuordnungNach(blatt.Zeilen.at(0), Personenart::Diener),
+        Einleseauftrag auftrag{.Spalten = ZuordnungNach(blatt.Zeilen.at(0), Personenart::Diener),
                                .GruppenAnlegen = true};
         auftrag.Zeilen.assign(blatt.Zeilen.begin() + 1, blatt.Zeilen.end());
         return auftrag;

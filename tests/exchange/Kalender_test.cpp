@@ -77,6 +77,63 @@ TEST_F(KalenderdateiTest, EinEintragJeMesseInDerFolgeDerZeit)
     EXPECT_EQ(Mit("X-WR-CALNAME", datei.Bytes), Zeilen{"X-WR-CALNAME:Messen der Pfarrei St. Änne"});
 }
 
+/// To the last byte: calendars differ in what they forgive.
+TEST_F(KalenderdateiTest, DieGanzeDatei)
+{
+    Messe.Anzahl = 1;
+    EXPECT_EQ(Alle().Dateien.at(0).Bytes,
+              "BEGIN:VCALENDAR\r\n"
+              "VERSION:2.0\r\n"
+              "PRODID:-//Altardienst//Altardienst//DE\r\n"
+              "CALSCALE:GREGORIAN\r\n"
+              "X-WR-CALNAME:Messen der Pfarrei St. Änne\r\n"
+              "X-WR-TIMEZONE:Europe/Berlin\r\n"
+              "BEGIN:VTIMEZONE\r\n"
+              "TZID:Europe/Berlin\r\n"
+              "X-LIC-LOCATION:Europe/Berlin\r\n"
+              "BEGIN:DAYLIGHT\r\n"
+              "TZNAME:CEST\r\n"
+              "DTSTART:19960331T020000\r\n"
+              "TZOFFSETFROM:+0100\r\n"
+              "TZOFFSETTO:+0200\r\n"
+              "RRULE:FREQ=YEARLY;BYDAY=-1SU;BYMONTH=3\r\n"
+              "END:DAYLIGHT\r\n"
+              "BEGIN:STANDARD\r\n"
+              "TZNAME:CET\r\n"
+              "DTSTART:19961027T030000\r\n"
+              "TZOFFSETFROM:+0200\r\n"
+              "TZOFFSETTO:+0100\r\n"
+              "RRULE:FREQ=YEARLY;BYDAY=-1SU;BYMONTH=10\r\n"
+              "END:STANDARD\r\n"
+              "END:VTIMEZONE\r\n"
+              "BEGIN:VEVENT\r\n"
+              "UID:20261129T100000-ec4f738fd498a682-1@altardienst\r\n"
+              "DTSTAMP:20261121T110000Z\r\n"
+              "LAST-MODIFIED:20261121T110000Z\r\n"
+              "SEQUENCE:217422000\r\n"
+              "DTSTART;TZID=Europe/Berlin:20261129T100000\r\n"
+              "DTEND;TZID=Europe/Berlin:20261129T110000\r\n"
+              "SUMMARY:Hochamt\r\n"
+              "DESCRIPTION:Leuchter: Anna A.\\nAllgemein: Änne Ü.\\nLektor: Lea L.\r\n"
+              "END:VEVENT\r\n"
+              "END:VCALENDAR\r\n");
+    Messe.Messeart[0] = "Wochendienst";
+    const std::string woche = Alle().Dateien.at(0).Bytes;
+    EXPECT_EQ(woche.substr(woche.find("BEGIN:VEVENT")),
+              "BEGIN:VEVENT\r\n"
+              "UID:20261129T100000-d139951ddd0a6d1d-1@altardienst\r\n"
+              "DTSTAMP:20261121T110000Z\r\n"
+              "LAST-MODIFIED:20261121T110000Z\r\n"
+              "SEQUENCE:217422000\r\n"
+              "DTSTART;VALUE=DATE:20261129\r\n"
+              "DTEND;VALUE=DATE:20261206\r\n"
+              "TRANSP:TRANSPARENT\r\n"
+              "SUMMARY:Wochendienst\r\n"
+              "DESCRIPTION:Leuchter: Anna A.\\nAllgemein: Änne Ü.\\nLektor: Lea L.\r\n"
+              "END:VEVENT\r\n"
+              "END:VCALENDAR\r\n");
+}
+
 TEST_F(KalenderdateiTest, DieZeitzoneStehtMitIhrenRegelnInDerDatei)
 {
     const std::string bytes = Alle().Dateien.at(0).Bytes;
@@ -143,6 +200,14 @@ TEST_F(KalenderdateiTest, DieKennungHängtAnMesseUndGemeinde)
     Messe.Datum[0] = Messe.Datum[0] - 7;
     EXPECT_EQ(andere([] { Messe.Dienerzahl[0] = 1; }), 0);
     EXPECT_EQ(andere([] { Konfig.Gemeinde = "St. Martin"; }), 2);
+}
+
+/// What was passed on once is known by these for good: another version may not make others.
+TEST_F(KalenderdateiTest, DieKennungenBleibenAuchInSpäterenFassungen)
+{
+    EXPECT_EQ(Kennungen(Alle()), (Zeilen{"UID:20261128T183000-6d8b4186a9a04e92-1@altardienst",
+                                         "UID:20261129T100000-ec4f738fd498a682-1@altardienst"}));
+    EXPECT_EQ(Kennungen(JePerson()).at(0), "UID:20261129T100000-76b0e0921e30bda8-1@altardienst");
 }
 
 TEST_F(KalenderdateiTest, JedeKennungGibtEsNurEinmal)
@@ -293,6 +358,57 @@ TEST_F(KalenderdateiTest, KeineZweiDateienMitDemselbenNamen)
     Stellen(1, 1, 2);
     EXPECT_EQ(Namen(JePerson({.Diener = true, .Helfer = false, .Gruppe = ""})),
               (Zeilen{"Anna Adler.ics", "ANNA ADLER 2.ics", "Anna Adler-.ics"}));
+}
+
+/// Some systems have names of their own, and none takes names of any length.
+TEST_F(KalenderdateiTest, JederNameGibtEinenDateinamenDerÜberallGeht)
+{
+    const Text lang(300, 'x');
+    Meßdiener.Vorname[0] = "Aux";
+    Meßdiener.Nachname[0] = "";
+    Meßdiener.Vorname[1] = "";
+    Meßdiener.Nachname[1] = lang + "a";
+    Meßdiener.Vorname[2] = "";
+    Meßdiener.Nachname[2] = lang + "b";
+    Stellen(0, 1, 0);
+    Stellen(0, 2, 1);
+    Stellen(1, 1, 2);
+    EXPECT_EQ(Namen(JePerson({.Diener = true, .Helfer = false, .Gruppe = ""})),
+              (Zeilen{"Aux-.ics", lang.substr(0, 150) + ".ics", lang.substr(0, 150) + " 2.ics"}));
+}
+
+TEST_F(KalenderdateiTest, EinNameAusPunktenGibtTrotzdemEinenDateinamen)
+{
+    Meßdiener.Vorname[0] = "...";
+    Meßdiener.Nachname[0] = "";
+    Stellen(0, 1, 0);
+    EXPECT_EQ(Namen(JePerson()).front(), "Person.ics");
+}
+
+/// Names that are the same when written together are not the same people.
+TEST_F(KalenderdateiTest, DieKennungTrenntVorUndNachnamen)
+{
+    Meßdiener.Vorname[0] = "Kim";
+    Meßdiener.Nachname[0] = "Busch";
+    Meßdiener.Vorname[1] = "KimB";
+    Meßdiener.Nachname[1] = "usch";
+    Stellen(0, 1, 0);
+    Stellen(0, 2, 1);
+    const Kalenderausgabe ausgabe = JePerson({.Diener = true, .Helfer = false, .Gruppe = ""});
+    const Zeilen alle = Kennungen(ausgabe);
+    ASSERT_GE(alle.size(), 2U);
+    EXPECT_EQ(std::set<std::string>(alle.begin(), alle.end()).size(), alle.size());
+}
+
+/// A record without any name is nobody, and a file may claim any number of records.
+TEST_F(KalenderdateiTest, WerKeinenNamenHatBekommtKeine)
+{
+    Meßdiener.Vorname[3] = Meßdiener.Nachname[3] = "";
+    EXPECT_EQ(JePerson().OhneDienst, 0);
+    Meßdiener.Vorname[4] = "Rest"; // after the last one
+    EXPECT_EQ(JePerson().OhneDienst, 0);
+    Meßdiener.Anzahl = Helfer.Anzahl = 30000;
+    EXPECT_EQ(JePerson().OhneDienst, 1);
 }
 
 TEST_F(KalenderdateiTest, NurSoVielVomNamenWieGewählt)

@@ -4,6 +4,8 @@
 #include "exchange/Adressaten.h"
 #include "exchange/Aushangstand.h"
 
+#include <cstdio>
+
 namespace altardienst {
 namespace {
 
@@ -49,6 +51,25 @@ TEST_F(RundbriefTest, WerKeineOderKeineLesbareHatWirdGenannt)
                                         "Cetin, Cem: noch", "Cetin, Cem: keine"}));
 }
 
+/// Whatever stands in a subject or an address, the link has nothing in it that a program could read
+/// otherwise.
+TEST_F(RundbriefTest, NurHarmloseZeichenStehenImVerweisWieSieSind)
+{
+    const Text harmlose = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-._~";
+    for (int byte = 1; byte < 256; ++byte) {
+        const Text zeichen(1, static_cast<char>(byte));
+        char nummer[8];
+        std::snprintf(nummer, sizeof nummer, "%%%02X", static_cast<unsigned>(byte));
+        const Text erwartet = harmlose.find(zeichen) != Text::npos ? zeichen
+                              : byte == '\n'                       ? "%0D%0A"
+                                                                   : nummer;
+        EXPECT_EQ(MailVerweis({{}, zeichen, ""}), "mailto:?subject=" + erwartet) << byte;
+        EXPECT_EQ(MailVerweis({{zeichen}, "", ""}),
+                  "mailto:?bcc=" + (byte == '@' ? zeichen : erwartet))
+            << byte;
+    }
+}
+
 TEST_F(RundbriefTest, EineGruppe)
 {
     Anlegen("Anna", "Adler", "a@x.de", "Große");
@@ -81,6 +102,44 @@ TEST_F(RundbriefTest, WerInDerMesseDient)
     EXPECT_EQ(Suchen(wahl).Ohne, Liste{"Fremd, Fritz"});
     wahl.Diener = false;
     EXPECT_EQ(Suchen(wahl).Adressen, Liste{"m@x.de"});
+}
+
+/// Nobody gets a mail for having half the name of another.
+TEST_F(RundbriefTest, InDerMesseZähltDerGanzeName)
+{
+    Anlegen("Anna", "Adler", "a@x.de");
+    Anlegen("Berta", "Adler", "b@x.de");
+    Anlegen("Anna", "Cetin", "c@x.de");
+    const int i = VolleMesse(1);
+    Besetzen(Messe, Dienerplatznr(i, 1), "Anna", "Adler");
+    EXPECT_EQ(Suchen({.Kreis = Adressatenkreis::Messe, .Messe = i}).Adressen, Liste{"a@x.de"});
+}
+
+/// A file may claim any number, and records that were deleted leave their addresses behind.
+TEST_F(RundbriefTest, WasNachDerAnzahlStehtBekommtNichts)
+{
+    Anlegen("Anna", "Adler", "a@x.de", "Große");
+    Meßdiener.Vorname[1] = "Rest";
+    Meßdiener.EMail[1] = "rest@x.de";
+    Meßdiener.Gruppe[1] = "Große";
+    Helfer.Vorname[0] = "Rest";
+    Helfer.EMail[0] = "helferrest@x.de";
+    Gruppe.Anzahl = 1;
+    Gruppe.Bezeichnung[0] = "Große";
+    const int i = VolleMesse(2);
+    Besetzen(Messe, Dienerplatznr(i, 1), "Gruppe", "Große");
+    Besetzen(Messe, Dienerplatznr(i, 2), "Rest", "");
+    const Adressatenwahl alle;
+    const Adressatenwahl gruppe{.Kreis = Adressatenkreis::Gruppe, .Gruppe = "Große"};
+    const Adressatenwahl messe{.Kreis = Adressatenkreis::Messe, .Messe = i};
+    for (const Adressatenwahl &wahl : {alle, gruppe, messe})
+        EXPECT_EQ(Suchen(wahl).Adressen, Liste{"a@x.de"});
+    Meßdiener.Anzahl = Helfer.Anzahl = 30000;
+    EXPECT_EQ(Suchen(alle).Adressen, (Liste{"a@x.de", "rest@x.de", "helferrest@x.de"}));
+    EXPECT_EQ(Suchen(gruppe).Adressen, (Liste{"a@x.de", "rest@x.de"}));
+    EXPECT_EQ(Suchen(messe).Adressen, (Liste{"a@x.de", "rest@x.de"}));
+    Meßdiener.Anzahl = Helfer.Anzahl = -5;
+    EXPECT_TRUE(Suchen(alle).Adressen.empty());
 }
 
 TEST_F(RundbriefTest, WasEineAdresseIst)
@@ -125,6 +184,7 @@ TEST_F(RundbriefTest, WasNichtInDenVerweisPasst)
 
     brief.Betreff = lang;
     EXPECT_EQ(WegDes(brief).Verweis, "mailto:");
+    EXPECT_FALSE(WegDes(brief).MitAdressen || WegDes(brief).MitInhalt);
 }
 
 TEST_F(RundbriefTest, DieGrenzeGiltGenau)

@@ -15,6 +15,7 @@ std::vector<Text> Bedeutungen(const std::vector<Text> &überschriften,
     for (const int spalte : ZuordnungNach(überschriften, art))
         bedeutungen.push_back(spalte == KeineSpalte  ? "-"
                               : spalte == GanzerName ? "ganz"
+                              : spalte == PlzUndOrt  ? "PLZ+Ort"
                                                      : SpalteMit(art, spalte).Name);
     return bedeutungen;
 }
@@ -61,6 +62,71 @@ TEST_F(SpaltenTest, EinNameAlleinIstDerGanze)
     EXPECT_EQ(vorname + "|" + nachname, "|Adler");
 }
 
+TEST_F(SpaltenTest, JedeSchreibungDesGanzenNamens)
+{
+    for (const char *kopf :
+         {"Vor- und Nachname", "Name, Vorname", "Vorname Name", "Nachname, Vorname",
+          "Vorname + Nachname", "voller Name", "Vollername", "VOR- UND ZUNAME", "vollen Namen"})
+        EXPECT_EQ(Bedeutungen({kopf, "Vorname", "Nachname"}),
+                  (kopf == Text("vollen Namen") ? Liste{"-", "Vorname", "Nachname"}
+                                                : Liste{"ganz", "-", "-"}))
+            << kopf;
+    EXPECT_EQ(Doppelspalten[0].Name, Text("Vor- und Nachname"));
+    EXPECT_EQ(Doppelspalten[1].Name, Text("PLZ und Ort"));
+}
+
+TEST_F(SpaltenTest, DieVergleichsform)
+{
+    EXPECT_EQ(Vergleichsform("ÄÖÜ äöü ß"), "aeoeueaeoeuess");
+    EXPECT_EQ(Vergleichsform("Straße/Haus-Nr. 12"), "strassehausnr12");
+    EXPECT_EQ(Vergleichsform("é€–"), "");
+    EXPECT_EQ(Vergleichsform("azAZ09"), "azaz09");
+}
+
+TEST_F(SpaltenTest, WörterEinerÜberschriftTrenntVielerlei)
+{
+    for (const char *zeichen :
+         {" ", "-", "_", "/", ".", ",", ":", ";", "(", ")", "\n", "\t", " - "})
+        EXPECT_EQ(Bedeutungen({"Telefon" + Text(zeichen) + "Eltern"}), Liste{"Telefon"}) << zeichen;
+}
+
+TEST_F(SpaltenTest, PlzUndOrtKönnenEineSpalteSein)
+{
+    for (const char *kopf : {"PLZ Ort", "PLZ/Ort", "PLZ, Wohnort", "Postleitzahl und Ort"})
+        EXPECT_EQ(Bedeutungen({"Name", "Vorname", kopf, "Ort"}),
+                  (Liste{"Nachname", "Vorname", "PLZ+Ort", "-"}))
+            << kopf;
+    EXPECT_EQ(Bedeutungen({"PLZ", "Ort"}), (Liste{"PLZ", "Ort"}));
+    const auto geteilt = [](const Text &ganz) {
+        Text plz;
+        Text ort;
+        PlzUndOrtTeilen(ganz, plz, ort);
+        return plz + "|" + ort;
+    };
+    EXPECT_EQ(geteilt("48999 Beispielort am See"), "48999|Beispielort am See");
+    EXPECT_EQ(geteilt("D-48999, Beispielort"), "D-48999|Beispielort");
+    EXPECT_EQ(geteilt("48999/Beispielort"), "48999|Beispielort");
+    EXPECT_EQ(geteilt("48999"), "48999|");
+    EXPECT_EQ(geteilt("Bad Ort"), "|Bad Ort");
+    EXPECT_EQ(geteilt(""), "|");
+    EXPECT_EQ(SpalteNamens(Personenart::Helfer, "PLZ"), SpaltePlz);
+    EXPECT_EQ(SpalteNamens(Personenart::Diener, "Ort"), SpalteOrt);
+}
+
+TEST_F(SpaltenTest, WasSichAusschließt)
+{
+    EXPECT_TRUE(SchließenSichAus(GanzerName, SpalteVorname));
+    EXPECT_TRUE(SchließenSichAus(SpalteNachname, GanzerName));
+    EXPECT_TRUE(SchließenSichAus(SpaltePlz, PlzUndOrt));
+    EXPECT_TRUE(SchließenSichAus(PlzUndOrt, SpalteOrt));
+    EXPECT_TRUE(SchließenSichAus(PlzUndOrt, PlzUndOrt));
+    EXPECT_TRUE(SchließenSichAus(SpalteOrt, SpalteOrt));
+    EXPECT_FALSE(SchließenSichAus(PlzUndOrt, GanzerName));
+    EXPECT_FALSE(SchließenSichAus(PlzUndOrt, SpalteVorname));
+    EXPECT_FALSE(SchließenSichAus(SpaltePlz, SpalteOrt));
+    EXPECT_FALSE(SchließenSichAus(KeineSpalte, KeineSpalte));
+}
+
 /// Whoever writes a list with all columns gets each of them back.
 TEST_F(SpaltenTest, DieEigenenNamenBedeutenSichSelbst)
 {
@@ -91,6 +157,14 @@ TEST_F(SpaltenTest, DieÜberschriftenStehenNichtImmerGanzOben)
               2);
     EXPECT_EQ(Kopfzeile({{"Anna", "Adler", "48999"}}, Personenart::Diener), -1);
     EXPECT_EQ(Kopfzeile({}, Personenart::Diener), -1);
+    // The first one of those that say most, and not far down.
+    EXPECT_EQ(Kopfzeile({{"Vorname", "Name", "Ort"}, {"Name", "Telefon"}}, Personenart::Diener), 0);
+    EXPECT_EQ(Kopfzeile({{"Name", "Telefon"}, {"Name", "Ort"}}, Personenart::Diener), 0);
+    std::vector<Liste> zeilen(9, Liste{"Anna", "Adler"});
+    zeilen.push_back({"Vorname", "Nachname"});
+    EXPECT_EQ(Kopfzeile(zeilen, Personenart::Diener), 9);
+    zeilen.insert(zeilen.begin(), Liste{"", ""});
+    EXPECT_EQ(Kopfzeile(zeilen, Personenart::Diener), -1);
     EXPECT_EQ(Kopfzeile({{"Name"}, {"Anna Adler"}}, Personenart::Diener), 0);
 }
 

@@ -46,6 +46,28 @@ TEST_F(WebseiteTest, EineZeileJeMesseEineSpalteJeDienst)
               "<td>Anna\u00a0A.</td><td></td></tr>\n</tbody>\n");
 }
 
+/// Heads are as narrow as the names below them.
+TEST_F(WebseiteTest, LangeKöpfeDürfenBrechen)
+{
+    Messe.Gabenbereitung[0] = Messe.Kreuzträger[0] = 1;
+    Messe.Dienerzahl[0] = 4;
+    Messe.KommZahl[0] = Messe.KollektZahl[0] = 1;
+    for (int slot = 1; slot <= 4; ++slot)
+        Stellen(0, slot, 0);
+    for (int nr = 0; nr < static_cast<int>(Helferplätze.size()); ++nr)
+        Besetzen(Messe, Helferplatznr(0, nr), "Lea", "Lang");
+    const std::string kopf = Zwischen(Seite(), "<thead>", "</thead>");
+    for (const char *teil : {">Gaben&shy;bereitung<", ">Kreuz&shy;träger<",
+                             ">Kommunion&shy;helfer<", ">Leuchter<", ">Lektor<"})
+        EXPECT_TRUE(Enthält(kopf, teil)) << teil << " in " << kopf;
+}
+
+TEST_F(WebseiteTest, WasKeinZeichenIstBleibtWeg)
+{
+    Messe.Messeart[0] = "A\x01 B\x7f\tC";
+    EXPECT_TRUE(Enthält(Seite(), "<td>A BC</td>"));
+}
+
 TEST_F(WebseiteTest, IstEineGanzeDeutscheSeiteInEinerDatei)
 {
     const std::string seite = Seite();

@@ -2,6 +2,7 @@
 // are edited.
 #include "overview/Planstand.h"
 
+#include "core/Messenname.h"
 #include "overview/WerKannHierForm.h"
 #include "planning/MessenlisteForm.h"
 
@@ -144,8 +145,28 @@ TEST_F(PlanwegeFormTest, DasKontextmenüNenntDieWege)
     });
     QContextMenuEvent rechts(QContextMenuEvent::Mouse, Punkt(Zelle(1, Plätze + 2)), QCursor::pos());
     QApplication::sendEvent(plan->Tafel->viewport(), &rechts);
-    EXPECT_EQ(einträge, (Liste{"Wer kann hier?", "Leeren", "Zu \"Lektoren und ...\"",
-                               "Zur Messenliste", "Zu Lea Lang", "Kopieren"}));
+    EXPECT_EQ(einträge,
+              (Liste{"Wer kann hier?", "Leeren", "Zu \"Lektoren und ...\"", "Zur Messenliste",
+                     "Zu Lea Lang", "E-Mail an diese Messe...", "Kopieren"}));
+}
+
+TEST_F(PlanwegeFormTest, AusDemKontextmenüGehtEineEMailAnDieMesse)
+{
+    PlanÖffnen();
+    Anklicken(Zelle(1, Plätze + 2));
+    QTimer::singleShot(0, [] {
+        auto *menü = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        for (QAction *eintrag : menü->actions())
+            if (eintrag->text() == "E-Mail an diese Messe...")
+                eintrag->trigger();
+        menü->close();
+    });
+    QContextMenuEvent rechts(QContextMenuEvent::Mouse, Punkt(Zelle(1, Plätze + 2)), QCursor::pos());
+    QApplication::sendEvent(plan->Tafel->viewport(), &rechts);
+    QWidget *form = Fenster("EMail");
+    ASSERT_TRUE(form);
+    EXPECT_EQ(Zeigt(Finden(form, "An")), "eine Messe");
+    EXPECT_EQ(Zeigt(Finden(form, "EineMesse")), Messenzeile(1));
 }
 
 } // namespace

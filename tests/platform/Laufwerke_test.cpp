@@ -256,6 +256,35 @@ TEST_F(LaufwerkeTest, EinDateinameGehtAufJedemSystem)
     EXPECT_EQ(AlsDateiname(""), "");
 }
 
+TEST_F(LaufwerkeTest, EinDateinameStehtFürKeinGerät)
+{
+    for (const char *gerät :
+         {"Aux", "CON", "prn", "NUL", "Com0", "COM1", "lpt9", "COM²", "conin$", "CONOUT$"})
+        EXPECT_EQ(AlsDateiname(gerät), Text(gerät) + "-");
+    EXPECT_EQ(AlsDateiname("Aux.2026"), "Aux-.2026");
+    EXPECT_EQ(AlsDateiname("Con . Rad"), "Con- . Rad");
+    EXPECT_EQ(AlsDateiname(" nul. "), "nul-");
+    for (const char *name : {"Auxilia", "Con Rad", "Com", "Com10", "COMa", "Lpt", "Anna.Aux", "-"})
+        EXPECT_EQ(AlsDateiname(name), name);
+}
+
+TEST_F(LaufwerkeTest, VonEinemLangenDateinamenBleibtDerAnfang)
+{
+    const Text a149(149, 'a');
+    EXPECT_EQ(AlsDateiname(a149 + "b"), a149 + "b");
+    EXPECT_EQ(AlsDateiname(a149 + "bc"), a149 + "b");
+    EXPECT_EQ(AlsDateiname(a149 + "ä"), a149);               // no half of a character
+    EXPECT_EQ(AlsDateiname(a149 + " Adler"), a149);          // no blank at the end
+    EXPECT_EQ(AlsDateiname("  " + a149 + "bc"), a149 + "b"); // what goes anyway counts for nothing
+    EXPECT_EQ(AlsDateiname("Aux." + a149), "Aux-." + a149.substr(0, 146));
+    Text name;
+    for (int i = 0; i < 250; ++i)
+        name += "€";
+    name = AlsDateiname(name) + ".ics";
+    Laufwerke.Schreiben(Festplatte / PfadAus(name + ".unfertig"), "x");
+    EXPECT_EQ(Laufwerke.Lesen(Festplatte / PfadAus(name + ".unfertig")), "x");
+}
+
 TEST_F(LaufwerkeTest, TexteUndPfadeSindEinUndDasselbe)
 {
     EXPECT_EQ(TextVon(PfadAus("Meßdiener.dat")), "Meßdiener.dat");
