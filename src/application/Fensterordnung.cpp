@@ -12,6 +12,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace altardienst {
 namespace {
@@ -28,7 +29,16 @@ class Fensterordnung : public QObject {
     bool eventFilter(QObject *wer, QEvent *ereignis) override
     {
         switch (ereignis->type()) {
+        case QEvent::Expose: // a desktop may have put it in front of the others
+            if (wer == haupt->windowHandle())
+                Planen();
+            return false;
+        case QEvent::MouseButtonPress:
+            if (IstInHaupt(wer))
+                Planen();
+            return false;
         case QEvent::Show:
+        case QEvent::Hide:
         case QEvent::Close:
         case QEvent::WindowActivate:
         case QEvent::WindowStateChange:
@@ -45,6 +55,10 @@ class Fensterordnung : public QObject {
             if (fenster != haupt && !ereignis->spontaneous())
                 Merken(fenster);
             return false;
+        case QEvent::Hide:
+            if (fenster->windowType() == Qt::Popup)
+                Planen(); // what was to come waits while it is open
+            return false;
         case QEvent::Close:
             // The exit routine closes the windows itself.
             if (!gesperrt || !ereignis->spontaneous())
@@ -60,19 +74,27 @@ class Fensterordnung : public QObject {
     }
 
   private:
+    /// Most desktops put the window in front in which one clicks, also if it is active already and
+    /// nothing is activated.
+    bool IstInHaupt(QObject *wer) const
+    {
+        return wer->isWidgetType() && static_cast<QWidget *>(wer)->window() == haupt;
+    }
+
     /// Once the desktop has done what it was about to do.
     void Planen()
     {
-        QTimer::singleShot(0, this, Abgefangen([this] { Ordnen(); }));
+        if (!std::exchange(geplant, true))
+            QTimer::singleShot(0, this, Abgefangen([this] { Ordnen(); }));
     }
 
-    void Ordnen() const
+    void Ordnen()
     {
-        if (QWidget *meldung = QApplication::activeModalWidget()) {
-            meldung->raise();
-            meldung->activateWindow();
+        geplant = false;
+        if (QApplication::activePopupWidget()) // a menu of the main window stays in front
             return;
-        }
+        if (QWidget *meldung = QApplication::activeModalWidget())
+            return NachVorn(meldung);
         const QWidgetList offene = Offene();
         if (haupt->isEnabled() && !haupt->isActiveWindow())
             return;
@@ -104,15 +126,15 @@ class Fensterordnung : public QObject {
         return offene;
     }
 
-    /// What one reads stays in front of the main window, unless it covers its buttons: one presses
-    /// these while reading about them.
+    /// What one reads stays in front of the main window, unless it covers buttons that can be
+    /// pressed: one does so while reading about them.
     QWidgetList Danebengelegte() const
     {
         QWidgetList gelegte;
         const QWidgetList alle = QApplication::topLevelWidgets();
         for (QWidget *fenster : alle)
-            if (haupt->isEnabled() && fenster->isVisible() && IstZumNachlesen(fenster) &&
-                LäßtKnöpfeFrei(fenster))
+            if (fenster->isVisible() && IstZumNachlesen(fenster) &&
+                (!haupt->isEnabled() || LäßtKnöpfeFrei(fenster)))
                 gelegte.append(fenster);
         return gelegte;
     }
@@ -144,6 +166,7 @@ class Fensterordnung : public QObject {
 
     QWidget *haupt;
     QList<QPointer<QWidget>> benutzt; // the last one at the end
+    bool geplant = false;
 };
 
 } // namespace

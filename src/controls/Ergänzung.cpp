@@ -33,6 +33,7 @@ class Ergänzung : public QObject {
     Ergänzung(QLineEdit *feld, Ergänzungsquelle quelle)
         : QObject(feld), feld(feld), quelle(std::move(quelle))
     {
+        setObjectName("Ergänzung");
         connect(feld, &QLineEdit::textEdited, this, Abgefangen([this] { Getippt(); }));
     }
 

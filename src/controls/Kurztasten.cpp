@@ -4,7 +4,10 @@
 #include "controls/Handler.h"
 #include "controls/Verlassen.h"
 
+#include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
+#include <QPointer>
 #include <QShortcut>
 
 #include <algorithm>
@@ -114,6 +117,29 @@ QString Tastenname(const QKeySequence &taste)
     return taste.toString(QKeySequence::NativeText).replace("Return", "Eingabe");
 }
 
+/// Escape belongs to the list or calendar that hangs open, and not to the window below it, whose
+/// shortcuts are asked first: what was typed there would be gone with it.
+class Aufklappwache : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *, QEvent *ereignis) override
+    {
+        if (ereignis->type() != QEvent::ShortcutOverride || !QApplication::activePopupWidget() ||
+            static_cast<QKeyEvent *>(ereignis)->key() != Qt::Key_Escape)
+            return false;
+        ereignis->accept();
+        return true;
+    }
+};
+
+void AufgeklapptesGehtVor()
+{
+    static QPointer<Aufklappwache> wache;
+    if (!wache)
+        qApp->installEventFilter(wache = new Aufklappwache(qApp));
+}
+
 } // namespace
 
 std::span<const Kurztaste> AlleKurztasten()
@@ -130,6 +156,8 @@ void TasteDrückt(const QKeySequence &taste, QAbstractButton *knopf)
     kürzel->setKeys(tasten);
     kürzel->setAutoRepeat(false);
     const bool sofort = taste == QKeySequence(Abbruch);
+    if (sofort)
+        AufgeklapptesGehtVor();
     QObject::connect(kürzel, &QShortcut::activated, knopf, Abgefangen([knopf, sofort] {
                          if (sofort)
                              knopf->click();

@@ -6,10 +6,12 @@
 #include <QAbstractScrollArea>
 #include <QEvent>
 #include <QPainter>
+#include <QPalette>
 #include <QStyleOptionButton>
 #include <QToolButton>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace altardienst {
 namespace {
@@ -54,6 +56,16 @@ void FlächeZeichnen(QPainter &stift, const QRect &platz, const Knopffarben &far
 bool IstDunkel(const QColor &grund)
 {
     return grund.lightness() < 128;
+}
+
+/// How a colour that lets the ground shine through looks on it.
+QColor Deckend(const QColor &farbe, const QColor &grund)
+{
+    const auto teil = [a = farbe.alpha()](int oben, int unten) {
+        return (oben * a + unten * (255 - a)) / 255;
+    };
+    return {teil(farbe.red(), grund.red()), teil(farbe.green(), grund.green()),
+            teil(farbe.blue(), grund.blue())};
 }
 
 /// Where the text of a box ends: before the button inside it, if it has one.
@@ -118,6 +130,21 @@ void Stil::polish(QWidget *control)
     QProxyStyle::polish(control);
     if (IstRollbar(control))
         control->installEventFilter(this);
+}
+
+void Stil::polish(QPalette &farben)
+{
+    QProxyStyle::polish(farben);
+    constexpr int Deutlich = 55; // of 255
+    for (const auto gruppe : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const QColor grund = farben.color(gruppe, QPalette::Base);
+        const QColor grau = Deckend(farben.color(gruppe, QPalette::PlaceholderText), grund);
+        if (std::abs(qGray(grau.rgb()) - qGray(grund.rgb())) >= Deutlich)
+            continue;
+        QColor halb = farben.color(gruppe, QPalette::Text);
+        halb.setAlpha(0x80);
+        farben.setColor(gruppe, QPalette::PlaceholderText, halb);
+    }
 }
 
 void Stil::unpolish(QWidget *control)

@@ -7,6 +7,7 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
+#include "controls/Lesetafel.h"
 #include "exchange/Einlesetafeln.h"
 #include "exchange/Einlesetexte.h"
 #include "fairness/Zelle.h"
@@ -34,15 +35,6 @@ QComboBox *Werwahl()
     auto *wahl = Benannt(new QComboBox, "Wer");
     wahl->addItems({"Meßdiener", "Helfer"});
     return wahl;
-}
-
-/// As wide as what stands in it, but no long name pushes the other columns out.
-void SpalteAnpassen(QTableWidget *tafel, int spalte)
-{
-    constexpr int Zeichen = 30;
-    tafel->resizeColumnToContents(spalte);
-    const int breiteste = Zeichen * tafel->fontMetrics().averageCharWidth();
-    tafel->setColumnWidth(spalte, std::min(tafel->columnWidth(spalte), breiteste));
 }
 
 } // namespace
@@ -76,6 +68,8 @@ void EinlesenForm::Anordnen()
     spalte->addLayout(mitte, 1);
     spalte->addLayout(Knopfreihe({Ende}, {Übernehmen}));
     Lage->setWordWrap(true);
+    for (QTableWidget *tafel : {Spalten, Zeilen})
+        SpaltenEinpassen(tafel);
     resize(QSize(1100, 680).boundedTo(screen()->availableSize() - Fensterrahmen));
     Datei->setFocus();
 }
@@ -182,7 +176,7 @@ void EinlesenForm::SpaltenZeigen()
                 Offen([this, k] { BedeutungGeändert(k); }));
         Spalten->setCellWidget(k, 2, wahl);
     }
-    SpalteAnpassen(Spalten, 0);
+    SpaltenEinpassen(Spalten);
 }
 
 /// What two columns cannot both mean goes from the other one.
@@ -252,8 +246,7 @@ void EinlesenForm::ZeilenZeigen()
             Zeilen->item(zeile, SNimm)->setData(Qt::UserRole, static_cast<int>(nr));
         }
     }
-    for (const int spalte : {SNimm, SWas, SName})
-        SpalteAnpassen(Zeilen, spalte);
+    SpaltenEinpassen(Zeilen);
     ZahlenZeigen();
 }
 

@@ -2,16 +2,13 @@
 #include "exchange/KalenderForm.h"
 
 #include "application/Dateiwahl.h"
-#include "application/Mitteilung.h"
 #include "application/Wartezeiger.h"
 #include "controls/Bausteine.h"
-#include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 #include "core/Umwandlung.h"
 #include "exchange/Dateiablage.h"
 #include "exchange/Kalenderschreiber.h"
 #include "exchange/Namenformwahl.h"
-#include "platform/GanzSchreiben.h"
 #include "platform/Laufwerke.h"
 #include "platform/Meldungen.h"
 
@@ -98,14 +95,11 @@ std::vector<AbzulegendeDatei> ZumAblegen(const std::vector<Kalenderdatei> &datei
 } // namespace
 
 KalenderForm::KalenderForm()
-    : AlleMessen(Benannt(new QRadioButton("&Alle Messen in einer Datei"), "AlleMessen")),
+    : Ausgabefenster(Name, "Kalender"),
+      AlleMessen(Benannt(new QRadioButton("&Alle Messen in einer Datei"), "AlleMessen")),
       JePerson(Benannt(new QRadioButton("Eine Datei &je Person"), "JePerson")), FürWen(Kreiswahl()),
-      Namen(Namenformwahl("Namen", Name)), Inhalt(Beschriftung("Inhalt", "")),
-      Hinweis(Beschriftung("Hinweis", "")), Speichern(Knopf("Speichern", "&Speichern")),
-      Ende(Knopf("Ende", "Ende"))
+      Namen(Namenformwahl("Namen", Name))
 {
-    Benannt(this, Name);
-    setWindowTitle("Kalender");
     AlleMessen->setChecked(true);
     Anordnen();
     Verbinden();
@@ -122,14 +116,7 @@ void KalenderForm::Anordnen()
     raster->addWidget(FürWen, 2, 1);
     raster->addWidget(Beschriftung("NamenText", "&Namen", Namen), 3, 0);
     raster->addWidget(Namen, 3, 1);
-    for (QLabel *satz : {Inhalt, Hinweis})
-        satz->setWordWrap(true);
-    auto *spalte = Fensterspalte(this, Luft::Mittel);
-    spalte->addLayout(raster);
-    spalte->addWidget(Inhalt);
-    spalte->addWidget(Hinweis);
-    spalte->addStretch();
-    spalte->addLayout(Knopfreihe({Speichern, Ende}));
+    FußAnordnen(raster);
     resize(520, 300);
     AlleMessen->setFocus();
 }
@@ -138,8 +125,7 @@ void KalenderForm::Verbinden()
 {
     connect(JePerson, &QRadioButton::toggled, this, Offen([this] { InhaltZeigen(); }));
     connect(FürWen, &QComboBox::currentIndexChanged, this, Offen([this] { InhaltZeigen(); }));
-    connect(Speichern, &QPushButton::clicked, this, Offen([this] { Schreiben(); }));
-    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+    FußVerbinden(Offen([this] { Schreiben(); }));
 }
 
 Personenkreis KalenderForm::Kreis() const
@@ -165,9 +151,7 @@ void KalenderForm::InhaltZeigen()
 {
     FürWen->setEnabled(JePerson->isChecked());
     const Kalenderausgabe ausgabe = Ausgabe();
-    Setzen(Inhalt, Inhaltssatz(ausgabe, JePerson->isChecked()));
-    Setzen(Hinweis, "");
-    Speichern->setEnabled(!ausgabe.Dateien.empty());
+    InhaltSagen(Inhaltssatz(ausgabe, JePerson->isChecked()), !ausgabe.Dateien.empty());
 }
 
 void KalenderForm::Schreiben()
@@ -176,27 +160,21 @@ void KalenderForm::Schreiben()
     if (ausgabe.Dateien.empty())
         return InhaltZeigen();
     if (JePerson->isChecked())
-        DateienSchreiben(ausgabe.Dateien);
+        AlleSchreiben(ausgabe.Dateien);
     else
-        DateiSchreiben(ausgabe.Dateien.front());
+        EineSchreiben(ausgabe.Dateien.front());
 }
 
-void KalenderForm::DateiSchreiben(const Kalenderdatei &datei)
+void KalenderForm::EineSchreiben(const Kalenderdatei &datei)
 {
     const auto ziel = Dateiwahl.Speichern(
         this,
         {.Titel = "Kalender speichern", .Name = datei.Name, .Art = Name, .Endungen = {"ics"}});
-    if (!ziel)
-        return;
-    try {
-        GanzSchreiben(*ziel, datei.Bytes);
-    } catch (const Laufzeitfehler &fehler) {
-        return Setzen(Hinweis, "Nicht geschrieben: " + TextVon(*ziel) + ": " + fehler.what() + ".");
-    }
-    Gelungen("Kalender geschrieben: " + TextVon(*ziel));
+    if (ziel && DateiSchreiben(*ziel, datei.Bytes))
+        Gelungen("Kalender geschrieben: " + TextVon(*ziel));
 }
 
-void KalenderForm::DateienSchreiben(const std::vector<Kalenderdatei> &dateien)
+void KalenderForm::AlleSchreiben(const std::vector<Kalenderdatei> &dateien)
 {
     const auto ziel = Dateiwahl.Verzeichnis(
         this, {.Titel = "Verzeichnis für die Kalender", .Name = "", .Art = Name, .Endungen = {}});
@@ -216,12 +194,6 @@ void KalenderForm::DateienSchreiben(const std::vector<Kalenderdatei> &dateien)
         return Setzen(Hinweis, Mangelsatz(ablage));
     Gelungen(Gezählt(ablage.Geschrieben, "ein Kalender", "Kalender") +
              " geschrieben: " + TextVon(*ziel));
-}
-
-void KalenderForm::Gelungen(const Text &was)
-{
-    Mitteilen(was);
-    Setzen(Hinweis, was + ".");
 }
 
 } // namespace altardienst

@@ -1,19 +1,15 @@
 // "Kalender": the plan for phones and calendar programs.
 #pragma once
 
-#include "application/Dialogfenster.h"
+#include "exchange/Ausgabefenster.h"
 #include "exchange/Kalender.h"
 
 #include <QComboBox>
-#include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
-
-#include <filesystem>
 
 namespace altardienst {
 
-class KalenderForm : public Dialogfenster {
+class KalenderForm : public Ausgabefenster {
   public:
     KalenderForm();
 
@@ -21,10 +17,6 @@ class KalenderForm : public Dialogfenster {
     QRadioButton *JePerson;
     QComboBox *FürWen; // all, servers, helpers, or one group
     QComboBox *Namen;  // how much of them
-    QLabel *Inhalt;    // what would be written
-    QLabel *Hinweis;   // what was written, or why not
-    QPushButton *Speichern;
-    QPushButton *Ende;
 
   private:
     void Anordnen();
@@ -32,9 +24,8 @@ class KalenderForm : public Dialogfenster {
 
     void InhaltZeigen();
     void Schreiben();
-    void DateiSchreiben(const Kalenderdatei &datei);
-    void DateienSchreiben(const std::vector<Kalenderdatei> &dateien);
-    void Gelungen(const Text &was);
+    void EineSchreiben(const Kalenderdatei &datei);
+    void AlleSchreiben(const std::vector<Kalenderdatei> &dateien);
 
     Kalenderausgabe Ausgabe() const;
     Personenkreis Kreis() const;

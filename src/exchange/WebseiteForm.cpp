@@ -3,15 +3,12 @@
 
 #include "application/Dateiwahl.h"
 #include "application/Gemerktes.h"
-#include "application/Mitteilung.h"
 #include "controls/Bausteine.h"
-#include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
 #include "core/Umwandlung.h"
 #include "exchange/Namenformwahl.h"
 #include "exchange/Planauszug.h"
 #include "platform/Betrachter.h"
-#include "platform/GanzSchreiben.h"
 #include "platform/Laufwerke.h"
 #include "printing/PlanZeilen.h"
 
@@ -46,14 +43,10 @@ Text Inhaltssatz(const Webseite &seite)
 } // namespace
 
 WebseiteForm::WebseiteForm()
-    : Titel(Textfeld("Titel")), Namen(Namenformwahl("Namen", Name)),
-      MitHelfern(Kästchen("MitHelfern", "mit &Helfern", true)),
-      DanachÖffnen(Kästchen("DanachÖffnen", "danach ö&ffnen", true)),
-      Inhalt(Beschriftung("Inhalt", "")), Hinweis(Beschriftung("Hinweis", "")),
-      Speichern(Knopf("Speichern", "&Speichern")), Ende(Knopf("Ende", "Ende"))
+    : Ausgabefenster(Name, "Webseite"), Titel(Textfeld("Titel")),
+      Namen(Namenformwahl("Namen", Name)), MitHelfern(Kästchen("MitHelfern", "mit &Helfern", true)),
+      DanachÖffnen(Kästchen("DanachÖffnen", "danach ö&ffnen", true))
 {
-    Benannt(this, Name);
-    setWindowTitle("Webseite");
     Setzen(Titel, Messentitel(Konfig));
     Anordnen();
     Verbinden();
@@ -70,14 +63,7 @@ void WebseiteForm::Anordnen()
     raster->addWidget(Namen, 1, 1);
     raster->addWidget(MitHelfern, 2, 1);
     raster->addWidget(DanachÖffnen, 3, 1);
-    for (QLabel *satz : {Inhalt, Hinweis})
-        satz->setWordWrap(true);
-    auto *spalte = Fensterspalte(this, Luft::Mittel);
-    spalte->addLayout(raster);
-    spalte->addWidget(Inhalt);
-    spalte->addWidget(Hinweis);
-    spalte->addStretch();
-    spalte->addLayout(Knopfreihe({Speichern, Ende}));
+    FußAnordnen(raster);
     resize(520, 280);
     Titel->setFocus();
 }
@@ -86,8 +72,7 @@ void WebseiteForm::Verbinden()
 {
     connect(Namen, &QComboBox::currentIndexChanged, this, Offen([this] { InhaltZeigen(); }));
     connect(MitHelfern, &QCheckBox::toggled, this, Offen([this] { InhaltZeigen(); }));
-    connect(Speichern, &QPushButton::clicked, this, Offen([this] { Schreiben(); }));
-    connect(Ende, &QPushButton::clicked, this, [this] { close(); });
+    FußVerbinden(Offen([this] { Schreiben(); }));
 }
 
 Webseite WebseiteForm::Seite() const
@@ -100,9 +85,7 @@ Webseite WebseiteForm::Seite() const
 void WebseiteForm::InhaltZeigen()
 {
     const Webseite seite = Seite();
-    Setzen(Inhalt, Inhaltssatz(seite));
-    Setzen(Hinweis, "");
-    Speichern->setEnabled(seite.Messen > 0);
+    InhaltSagen(Inhaltssatz(seite), seite.Messen > 0);
 }
 
 void WebseiteForm::Schreiben()
@@ -111,18 +94,12 @@ void WebseiteForm::Schreiben()
                                                  .Name = PlanDateiname() + ".html",
                                                  .Art = Name,
                                                  .Endungen = {"html", "htm"}});
-    if (!ziel)
+    if (!ziel || !DateiSchreiben(*ziel, Seite().Bytes))
         return;
-    try {
-        GanzSchreiben(*ziel, Seite().Bytes);
-    } catch (const Laufzeitfehler &fehler) {
-        return Setzen(Hinweis, "Nicht geschrieben: " + TextVon(*ziel) + ": " + fehler.what() + ".");
-    }
     Text was = "Webseite geschrieben: " + TextVon(*ziel);
     if (DanachÖffnen->isChecked() && !Betrachter.Öffnen(*ziel))
         was = "Webseite geschrieben, aber kein Programm zeigt sie: " + TextVon(*ziel);
-    Mitteilen(was);
-    Setzen(Hinweis, was + ".");
+    Gelungen(was);
 }
 
 } // namespace altardienst

@@ -1,18 +1,16 @@
 // "Webseite": the plan as one file for the browser.
 #pragma once
 
-#include "application/Dialogfenster.h"
+#include "exchange/Ausgabefenster.h"
 #include "exchange/Webseite.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 
 namespace altardienst {
 
-class WebseiteForm : public Dialogfenster {
+class WebseiteForm : public Ausgabefenster {
   public:
     WebseiteForm();
 
@@ -20,10 +18,6 @@ class WebseiteForm : public Dialogfenster {
     QComboBox *Namen; // how much of them
     QCheckBox *MitHelfern;
     QCheckBox *DanachÖffnen;
-    QLabel *Inhalt;  // what would be written
-    QLabel *Hinweis; // what was written, or why not
-    QPushButton *Speichern;
-    QPushButton *Ende;
 
   private:
     void Anordnen();

@@ -5,6 +5,7 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
+#include "controls/Lesetafel.h"
 #include "core/Messenname.h"
 #include "core/Umwandlung.h"
 #include "fairness/Zelle.h"
@@ -12,6 +13,7 @@
 
 #include <QHBoxLayout>
 #include <QScreen>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -53,6 +55,11 @@ ArchivForm::ArchivForm()
 void ArchivForm::Anordnen()
 {
     Hinweis->setWordWrap(true);
+    const QString breiteste = " 28.12.2026 bis 28.12.2026 ";
+    Zeiträume->setMinimumWidth(Zeiträume->fontMetrics().horizontalAdvance(breiteste) +
+                               style()->pixelMetric(QStyle::PM_ScrollBarExtent) +
+                               2 * Zeiträume->frameWidth());
+    SpaltenEinpassen(Dienste);
     auto *nebeneinander = new QHBoxLayout;
     nebeneinander->addWidget(Zeiträume, 1);
     nebeneinander->addWidget(Dienste, 3);
@@ -113,7 +120,7 @@ void ArchivForm::InhaltZeigen()
         Dienste->setItem(zeile, 2, Textzelle(Personenzeile(dienst.Vorname, dienst.Nachname)));
         Dienste->setItem(zeile, 3, Textzelle(dienst.Dienst));
     }
-    Dienste->resizeColumnsToContents();
+    SpaltenEinpassen(Dienste);
     Setzen(Hinweis, Befundsatz(inhalt));
 }
 

@@ -2,6 +2,7 @@
 #include "fairness/Ausgleichstafeln.h"
 
 #include "controls/Bausteine.h"
+#include "controls/Lesetafel.h"
 #include "core/Messenname.h"
 #include "core/Umwandlung.h"
 #include "fairness/Zelle.h"
@@ -154,7 +155,7 @@ void AnteileZeigen(QTableWidget *tafel, const Ausgleichsergebnis &ergebnis)
     gruppeZeigen(ergebnis.Helfer, Helfer, "Helfer");
     tafel->setSortingEnabled(true);
     tafel->sortByColumn(Name, Qt::AscendingOrder);
-    tafel->resizeColumnsToContents(); // with room for the arrow of the order
+    SpaltenEinpassen(tafel); // with room for the arrow of the order
 }
 
 QTableWidget *Änderungstafel()
@@ -178,7 +179,7 @@ void ÄnderungenZeigen(QTableWidget *tafel, const Ausgleichsergebnis &ergebnis)
         tafel->setItem(zeile, Künftig,
                        Textzelle(VollerName(wechsel.VornameNachher, wechsel.NachnameNachher)));
     }
-    tafel->resizeColumnsToContents();
+    SpaltenEinpassen(tafel);
 }
 
 Text OffenesText(const Ausgleichsergebnis &ergebnis)

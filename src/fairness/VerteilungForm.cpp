@@ -4,6 +4,7 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
+#include "controls/Lesetafel.h"
 #include "core/Umwandlung.h"
 #include "fairness/Archiv.h"
 #include "fairness/Archivwahl.h"
@@ -124,7 +125,7 @@ void VerteilungForm::TafelFüllen()
     }
     Tafel->setSortingEnabled(true);
     Tafel->sortByColumn(0, Qt::AscendingOrder);
-    Tafel->resizeColumnsToContents(); // with room for the arrow of the order
+    SpaltenEinpassen(Tafel); // with room for the arrow of the order
 }
 
 /// How many people serve not at all, once, twice and so on.

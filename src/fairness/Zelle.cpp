@@ -2,9 +2,7 @@
 #include "fairness/Zelle.h"
 
 #include "controls/Bausteine.h"
-#include "overview/Tafelteile.h"
-
-#include <QHeaderView>
+#include "controls/Lesetafel.h"
 
 namespace altardienst {
 
@@ -32,7 +30,6 @@ QTableWidget *Lesetafel(const char *name, const char *gesprochen, const QStringL
     tafel->setHorizontalHeaderLabels(köpfe);
     tafel->setAccessibleName(QString::fromUtf8(gesprochen));
     LesetafelEinrichten(tafel);
-    tafel->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     return tafel;
 }
 

@@ -5,13 +5,13 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
+#include "controls/Lesetafel.h"
 #include "core/Umwandlung.h"
 #include "history/Netz.h"
 #include "history/Rückgängig.h"
 #include "history/Unterschiede.h"
 #include "platform/Meldungen.h"
 
-#include <QHeaderView>
 #include <QScreen>
 #include <QTimer>
 
@@ -46,16 +46,8 @@ QTableWidget *Ständeliste()
     liste->setHorizontalHeaderLabels(
         {"Stand", "Meßdiener", "Helfer", "Messen", "Zeitraum", "Seither"});
     liste->setAccessibleName("Frühere Stände");
-    liste->setSelectionBehavior(QAbstractItemView::SelectRows);
-    liste->setSelectionMode(QAbstractItemView::SingleSelection);
-    liste->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    liste->setTabKeyNavigation(false);
-    liste->setWordWrap(false);
-    liste->verticalHeader()->hide();
-    liste->verticalHeader()->setDefaultSectionSize(liste->fontMetrics().height() + 8);
-    liste->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    liste->horizontalHeader()->setStretchLastSection(true);
-    liste->horizontalHeader()->setHighlightSections(false);
+    LesetafelEinrichten(liste);
+    liste->setShowGrid(true);
     return liste;
 }
 
@@ -98,11 +90,9 @@ void StändeForm::Anordnen()
         Liste->setItem(zeile, StandSpalte,
                        Zelle(StandText(stände[static_cast<std::size_t>(zeile)])));
     Liste->resizeColumnToContents(StandSpalte);
-    const int ziffer = Liste->fontMetrics().horizontalAdvance('0');
-    Liste->setColumnWidth(Diener, 10 * ziffer);
-    Liste->setColumnWidth(Helferspalte, 8 * ziffer);
-    Liste->setColumnWidth(Messen, 8 * ziffer);
-    Liste->setColumnWidth(Zeitraum, 26 * ziffer);
+    const int ziffer = Liste->fontMetrics().horizontalAdvance('0'); // the rows are filled later
+    SpaltenEinpassen(Liste, {Liste->columnWidth(StandSpalte), 10 * ziffer, 8 * ziffer, 8 * ziffer,
+                             26 * ziffer, 60 * ziffer});
     Ansicht->setReadOnly(true);
     Ansicht->setTabChangesFocus(true);
     Ansicht->setAccessibleName("Was sich seit dem gewählten Stand geändert hat");

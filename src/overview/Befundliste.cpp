@@ -20,6 +20,7 @@ namespace altardienst {
 namespace {
 
 constexpr const char *Personenschlüssel = "Plan/BefundeNachPerson";
+constexpr int Mindestzeichen = 100; // for all three columns
 
 /// Digits and letters belong to the main window; nothing is looked for by typing.
 class Befundbaum : public QTreeView {
@@ -124,6 +125,16 @@ void Befundliste::Anordnen()
     spalte->setSpacing(6);
     spalte->addLayout(kopf);
     spalte->addWidget(Befunde, 1);
+}
+
+/// Where there is little room the sentence has it: it names the person, and the place is a click
+/// away.
+void Befundliste::resizeEvent(QResizeEvent *ereignis)
+{
+    QWidget::resizeEvent(ereignis);
+    const bool schmal = width() < Mindestzeichen * fontMetrics().averageCharWidth();
+    for (const int spalte : {Befundmodell::Platz, Befundmodell::Bei})
+        Befunde->setColumnHidden(spalte, schmal);
 }
 
 void Befundliste::Verbinden()

@@ -34,6 +34,9 @@ class Befundliste : public QWidget {
     void Beachten(const Regelwahl &welche);
     Text Gezählt() const { return Befundzahlen(prüfung, regeln); }
 
+  protected:
+    void resizeEvent(QResizeEvent *ereignis) override;
+
   private:
     void Anordnen();
     void Verbinden();

@@ -178,15 +178,15 @@ QVariant Kandidatenmodell::data(const QModelIndex &zelle, int rolle) const
 
 QVariant Kandidatenmodell::headerData(int nr, Qt::Orientation richtung, int rolle) const
 {
-    constexpr const char *Namen[Spalten] = {"Name",    "Gruppe",     "Zuletzt",       "Danach",
-                                            "Dienste", "Häufigkeit", "Wunschpartner", "Dagegen"};
+    constexpr const char *Namen[Spalten] = {"Name",    "Gruppe",     "Zuletzt", "Danach",
+                                            "Dienste", "Häufigkeit", "Partner", "Dagegen"};
     constexpr const char *Erklärungen[Spalten] = {"",
                                                   "",
                                                   "der letzte Dienst vor dieser Messe",
                                                   "der nächste Dienst nach dieser Messe",
                                                   "Dienste im Plan, ohne diesen Platz",
                                                   "0 normal, 2 oft",
-                                                  "",
+                                                  "der Wunschpartner",
                                                   "was dagegen spricht"};
     if (richtung != Qt::Horizontal || nr < 0 || nr >= Spalten)
         return {};

@@ -33,6 +33,7 @@ class Plantafel : public QTableView {
 
     int Zoom() const { return zoom; } // per cent
     void Zoomen(int prozent);
+    static int GemerkterZoom();
     /// Copies the smallest rectangle around the selection, tab-separated, as spreadsheets take it.
     void Kopieren() const;
 

@@ -1,4 +1,4 @@
-// How tables look, and the grid as text.
+// How both views of the grid look, and the grid as text.
 #include "overview/Tafelteile.h"
 
 #include <QHeaderView>
@@ -21,21 +21,6 @@ void TafelEinrichten(QTableView *ansicht)
     kopf->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     kopf->setHighlightSections(false);
     kopf->setMinimumSectionSize(1);
-}
-
-void LesetafelEinrichten(QTableView *tafel)
-{
-    tafel->setSelectionBehavior(QAbstractItemView::SelectRows);
-    tafel->setSelectionMode(QAbstractItemView::SingleSelection);
-    tafel->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    tafel->setTabKeyNavigation(false);
-    tafel->setShowGrid(false);
-    tafel->setWordWrap(false);
-    tafel->verticalHeader()->hide();
-    tafel->verticalHeader()->setDefaultSectionSize(tafel->fontMetrics().height() + 8);
-    QHeaderView *kopf = tafel->horizontalHeader();
-    kopf->setHighlightSections(false);
-    kopf->setStretchLastSection(true);
 }
 
 QString AlsTabelle(const QModelIndexList &gewählte, const QTableView &tafel,

@@ -1,4 +1,4 @@
-// How tables look: both views of the grid, and tables to read in; and the grid as text.
+// How both views of the grid look, and the grid as text.
 #pragma once
 
 #include "overview/Planmodell.h"
@@ -9,10 +9,6 @@ namespace altardienst {
 
 /// No lines and no row numbers; rows of one height, which scroll by pixels.
 void TafelEinrichten(QTableView *ansicht);
-
-/// A table to read in: rows are chosen whole, nothing is edited, the last column takes what is
-/// left.
-void LesetafelEinrichten(QTableView *tafel);
 
 /// The smallest rectangle around these cells, tab-separated, without columns that are hidden; a
 /// cell that is not selected stays empty.

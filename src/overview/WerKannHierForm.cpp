@@ -4,10 +4,10 @@
 #include "controls/Bausteine.h"
 #include "controls/Fensteraufbau.h"
 #include "controls/Handler.h"
+#include "controls/Lesetafel.h"
 #include "core/Messenname.h"
 #include "core/Suchwörter.h"
 #include "overview/Platzschreiben.h"
-#include "overview/Tafelteile.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -62,11 +62,7 @@ WerKannHierForm::WerKannHierForm(QWidget *über, Planplatz platz)
     Anordnen();
     Verbinden();
     NeuLesen();
-    Kandidaten->resizeColumnsToContents();
-    // The last one takes what is left, but no less than its heading needs.
-    Kandidaten->setColumnWidth(
-        Kandidatenmodell::Dagegen,
-        Kandidaten->horizontalHeader()->sectionSizeHint(Kandidatenmodell::Dagegen));
+    SpaltenEinpassen(Kandidaten);
 }
 
 void WerKannHierForm::Anordnen()

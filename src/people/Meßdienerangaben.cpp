@@ -41,7 +41,7 @@ void Meßdienerangaben::Anordnen(QGridLayout *raster, int breite) const
     Person.Anordnen(raster, 0, breite);
     Gebutag.Anordnen(raster, 7, "Geburtstag:");
     raster->addWidget(Beschriftung("", "Geschlecht:", Geschl), 8, 0);
-    raster->addWidget(Geschl, 8, 1, 1, 2, Qt::AlignLeft);
+    raster->addWidget(Geschl, 8, 1, 1, breite, Qt::AlignLeft);
     auto *größe = new QHBoxLayout;
     größe->setSpacing(6);
     größe->addWidget(Groß.Feld);
@@ -49,7 +49,7 @@ void Meßdienerangaben::Anordnen(QGridLayout *raster, int breite) const
     größe->addWidget(Groß.Spin);
     größe->addStretch();
     raster->addWidget(Beschriftung("", "Größe:", Groß.Feld), 9, 0);
-    raster->addLayout(größe, 9, 1, 1, 2);
+    raster->addLayout(größe, 9, 1, 1, breite);
     Eintritttdatum.Anordnen(raster, 10, "Eintrittsdatum:");
     raster->addWidget(Beschriftung("", "Gruppe:", Dieenst), 11, 0);
     raster->addWidget(Dieenst, 11, 1, 1, breite);

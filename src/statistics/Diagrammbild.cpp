@@ -2,40 +2,84 @@
 #include "statistics/Diagrammbild.h"
 
 #include "controls/Bausteine.h"
+#include "controls/Handler.h"
 #include "statistics/QCustomPlot.h"
 
+#include <QPalette>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace altardienst {
 namespace {
 
-// Shades of one blue: they differ in lightness, so they also work for the colour-blind and on
-// paper.
-const QColor Balkenfarbe(0x00, 0x72, 0xb2);
-const QColor Hellstes(0xde, 0xeb, 0xf7);
-const QColor Dunkelstes(0x08, 0x45, 0x94);
-const QColor Blaß(0x76, 0x76, 0x76);
+/// Shades of one blue: they differ in lightness, so they also work for the colour-blind and on
+/// paper.
+struct Diagrammfarben {
+    QColor Grund;
+    QColor Schrift;
+    QColor Blaß;   // the figure of nobody
+    QColor Linien; // of the grid
+    QColor Balken;
+    QColor Wenigstes; // nearest to the ground
+    QColor Meistes;
+};
+
+Diagrammfarben FarbenFür(const QPalette &palette)
+{
+    const QColor grund = palette.color(QPalette::Base);
+    const QColor schrift = palette.color(QPalette::Text);
+    if (grund.lightness() < 128)
+        return {grund,
+                schrift,
+                QColor(0x9a, 0x9a, 0x9a),
+                QColor(0x60, 0x60, 0x60),
+                QColor(0x4d, 0xa6, 0xe0),
+                QColor(0x08, 0x45, 0x94),
+                QColor(0xc6, 0xe0, 0xf5)};
+    return {grund,
+            schrift,
+            QColor(0x76, 0x76, 0x76),
+            QColor(0xc8, 0xc8, 0xc8),
+            QColor(0x00, 0x72, 0xb2),
+            QColor(0xde, 0xeb, 0xf7),
+            QColor(0x08, 0x45, 0x94)};
+}
 
 int Höchste(const std::vector<int> &anzahl)
 {
     return std::max(1, *std::ranges::max_element(anzahl));
 }
 
-/// From the lightest shade for one to the darkest for the most: 0 to 1.
-double Dunkelheit(int wert, int höchste)
+/// From the shade for one to that for the most: 0 to 1.
+double Stärke(int wert, int höchste)
 {
     return höchste > 1 ? (wert - 1.0) / (höchste - 1.0) : 1;
 }
 
-QColor Mischung(double dunkelheit)
+QColor Mischung(const Diagrammfarben &farben, double stärke)
 {
-    const auto anteil = [&](int hell, int dunkel) {
-        return static_cast<int>(hell + dunkelheit * (dunkel - hell));
+    const auto anteil = [&](int wenig, int viel) {
+        return static_cast<int>(wenig + stärke * (viel - wenig));
     };
-    return {anteil(Hellstes.red(), Dunkelstes.red()), anteil(Hellstes.green(), Dunkelstes.green()),
-            anteil(Hellstes.blue(), Dunkelstes.blue())};
+    const QColor &wenig = farben.Wenigstes;
+    const QColor &viel = farben.Meistes;
+    return {anteil(wenig.red(), viel.red()), anteil(wenig.green(), viel.green()),
+            anteil(wenig.blue(), viel.blue())};
+}
+
+/// Black or white, whichever stands out more.
+QColor SchriftAuf(const QColor &feld)
+{
+    const auto linear = [](double teil) {
+        return teil <= 0.04045 ? teil / 12.92 : std::pow((teil + 0.055) / 1.055, 2.4);
+    };
+    const double leuchtdichte = 0.2126 * linear(feld.redF()) + 0.7152 * linear(feld.greenF()) +
+                                0.0722 * linear(feld.blueF());
+    constexpr double GleichWeit = 0.179; // from black as from white
+    return leuchtdichte < GleichWeit ? Qt::white : Qt::black;
 }
 
 } // namespace
@@ -50,7 +94,28 @@ class Diagrammbild::Zeichnung : public QCustomPlot {
         QFont schrift = font();
         schrift.setBold(true);
         schrift.setPointSizeF(schrift.pointSizeF() + 2);
-        plotLayout()->addElement(0, 0, new QCPTextElement(this, titel, schrift));
+        überschrift = new QCPTextElement(this, titel, schrift);
+        plotLayout()->addElement(0, 0, überschrift);
+    }
+
+    /// Empty, in these colours.
+    void Leeren(const Diagrammfarben &farben)
+    {
+        clearPlottables(); // of an earlier time
+        clearItems();
+        grund = farben.Grund;
+        überschrift->setTextColor(farben.Schrift);
+        for (QCPAxis *achse : {xAxis, yAxis}) {
+            const QPen stift(farben.Schrift);
+            achse->setBasePen(stift);
+            achse->setTickPen(stift);
+            achse->setSubTickPen(stift);
+            achse->setTickLabelColor(farben.Schrift);
+            achse->setLabelColor(farben.Schrift);
+            const QPen linie(farben.Linien, 0, Qt::DotLine);
+            achse->grid()->setPen(linie);
+            achse->grid()->setZeroLinePen(linie);
+        }
     }
 
     void KlassenAnschreiben(QCPAxis *achse, const Achse &klassen)
@@ -95,9 +160,13 @@ class Diagrammbild::Zeichnung : public QCustomPlot {
         QCPPainter stift(this);
         stift.setMode(QCPPainter::pmNoCaching); // otherwise the labels are bitmaps
         stift.setRenderHint(QPainter::Antialiasing);
-        stift.fillRect(viewport(), Qt::white);
+        stift.fillRect(viewport(), grund);
         draw(&stift);
     }
+
+  private:
+    QCPTextElement *überschrift;
+    QColor grund;
 };
 
 Diagrammbild::Diagrammbild(const char *name, const char *titel)
@@ -114,8 +183,33 @@ Diagrammbild::Diagrammbild(const char *name, const char *titel)
 void Diagrammbild::BalkenZeigen(const Achse &klassen, const char *anzahltitel,
                                 const std::vector<int> &anzahl)
 {
-    zeichnung->clearPlottables(); // of an earlier time
-    zeichnung->clearItems();
+    Zeichnen([=, this] { BalkenZeichnen(klassen, anzahltitel, anzahl); });
+}
+
+void Diagrammbild::KreuztafelZeigen(const Achse &quer, const Achse &hoch,
+                                    const std::vector<int> &anzahl)
+{
+    Zeichnen([=, this] { KreuztafelZeichnen(quer, hoch, anzahl); });
+}
+
+void Diagrammbild::Zeichnen(std::function<void()> neu)
+{
+    zeichnen = std::move(neu);
+    zeichnen();
+}
+
+void Diagrammbild::changeEvent(QEvent *ereignis)
+{
+    QWidget::changeEvent(ereignis);
+    if (ereignis->type() == QEvent::PaletteChange)
+        Nebenbei(zeichnen)();
+}
+
+void Diagrammbild::BalkenZeichnen(const Achse &klassen, const char *anzahltitel,
+                                  const std::vector<int> &anzahl)
+{
+    const Diagrammfarben farben = FarbenFür(palette());
+    zeichnung->Leeren(farben);
     QCPAxis *xAxis = zeichnung->xAxis;
     QCPAxis *yAxis = zeichnung->yAxis;
     zeichnung->KlassenAnschreiben(xAxis, klassen);
@@ -133,19 +227,22 @@ void Diagrammbild::BalkenZeigen(const Achse &klassen, const char *anzahltitel,
 
     auto *balken = new QCPBars(xAxis, yAxis);
     balken->setWidth(0.7);
-    balken->setBrush(Balkenfarbe);
-    balken->setPen(QPen(Balkenfarbe));
+    balken->setBrush(farben.Balken);
+    balken->setPen(QPen(farben.Balken));
     int stelle = 0;
     for (const int wert : anzahl) {
         balken->addData(++stelle, wert);
-        zeichnung->Schreiben(stelle, wert, wert, Qt::black, Qt::AlignHCenter | Qt::AlignBottom);
+        zeichnung->Schreiben(stelle, wert, wert, farben.Schrift,
+                             Qt::AlignHCenter | Qt::AlignBottom);
     }
-    zeichnung->replot(QCustomPlot::rpQueuedReplot);
+    zeichnung->update();
 }
 
-void Diagrammbild::KreuztafelZeigen(const Achse &quer, const Achse &hoch,
-                                    const std::vector<int> &anzahl)
+void Diagrammbild::KreuztafelZeichnen(const Achse &quer, const Achse &hoch,
+                                      const std::vector<int> &anzahl)
 {
+    const Diagrammfarben farben = FarbenFür(palette());
+    zeichnung->Leeren(farben);
     QCPAxis *xAxis = zeichnung->xAxis;
     QCPAxis *yAxis = zeichnung->yAxis;
     zeichnung->KlassenAnschreiben(xAxis, quer);
@@ -158,14 +255,15 @@ void Diagrammbild::KreuztafelZeigen(const Achse &quer, const Achse &hoch,
     auto wert = anzahl.begin();
     for (int y = 1; y <= höhe; ++y)
         for (int x = 1; x <= breite; ++x, ++wert) {
-            QColor schrift = Blaß; // nobody, on white
+            QColor schrift = farben.Blaß; // nobody, on the ground itself
             if (*wert > 0) {
-                const double dunkelheit = Dunkelheit(*wert, höchste);
-                zeichnung->Füllen(x, y, Mischung(dunkelheit));
-                schrift = dunkelheit > 0.7 ? Qt::white : Qt::black; // the better contrast
+                const QColor feld = Mischung(farben, Stärke(*wert, höchste));
+                zeichnung->Füllen(x, y, feld);
+                schrift = SchriftAuf(feld);
             }
             zeichnung->Schreiben(x, y, *wert, schrift, Qt::AlignCenter);
         }
+    zeichnung->update();
 }
 
 } // namespace altardienst

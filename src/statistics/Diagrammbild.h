@@ -3,8 +3,10 @@
 
 #include "values/Text.h"
 
+#include <QEvent>
 #include <QWidget>
 
+#include <functional>
 #include <vector>
 
 namespace altardienst {
@@ -12,6 +14,7 @@ namespace altardienst {
 /// The initial size of a window with a chart; it fits the smallest screen.
 constexpr QSize Diagrammfenster(680, 484);
 
+/// In the colours of the screen; a print, which sets them to black on white, has those of paper.
 class Diagrammbild : public QWidget {
   public:
     Diagrammbild(const char *name, const char *titel);
@@ -30,10 +33,19 @@ class Diagrammbild : public QWidget {
     /// in. `anzahl` holds the rows of `hoch` one after the other.
     void KreuztafelZeigen(const Achse &quer, const Achse &hoch, const std::vector<int> &anzahl);
 
+  protected:
+    void changeEvent(QEvent *ereignis) override;
+
   private:
     class Zeichnung;
 
+    void Zeichnen(std::function<void()> neu);
+    void BalkenZeichnen(const Achse &klassen, const char *anzahltitel,
+                        const std::vector<int> &anzahl);
+    void KreuztafelZeichnen(const Achse &quer, const Achse &hoch, const std::vector<int> &anzahl);
+
     Zeichnung *zeichnung;
+    std::function<void()> zeichnen = [] {}; // what is shown, in the colours of the moment
 };
 
 } // namespace altardienst

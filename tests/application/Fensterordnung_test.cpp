@@ -6,10 +6,17 @@
 #include "controls/Vordergrund.h"
 
 #include <QCloseEvent>
+#include <QExposeEvent>
 #include <QMainWindow>
+#include <QMenu>
 #include <QPointer>
+#include <QPushButton>
 #include <QTimer>
 #include <QWindow>
+
+#include <functional>
+#include <utility>
+#include <vector>
 
 namespace altardienst {
 namespace {
@@ -19,15 +26,26 @@ class FensterordnungTest : public Fensterstand {
     /// Counts how often its window was raised.
     class Zähler : public QObject {
       public:
-        explicit Zähler(QWidget *fenster) : QObject(fenster) { fenster->installEventFilter(this); }
+        explicit Zähler(
+            QWidget *fenster, std::function<void()> gehoben = [] {})
+            : gehoben(std::move(gehoben))
+        {
+            fenster->installEventFilter(this);
+        }
 
         bool eventFilter(QObject *, QEvent *ereignis) override
         {
-            Gehoben += ereignis->type() == QEvent::ZOrderChange;
+            if (ereignis->type() == QEvent::ZOrderChange) {
+                ++Gehoben;
+                gehoben();
+            }
             return false;
         }
 
         int Gehoben = 0;
+
+      private:
+        std::function<void()> gehoben;
     };
 
     /// Notes whether it is asked to close.
@@ -221,10 +239,79 @@ TEST_F(FensterordnungTest, DasHandbuchBleibtVornWoEsDieKnöpfeFreiLäßt)
     Hervorholen();
     EXPECT_GT(zähler.Gehoben, 0);
     EXPECT_TRUE(haupt->isActiveWindow()) << "it is in use all the same";
-    zähler.Gehoben = 0;
-    Dialog("Dialog");
-    Hervorholen();
-    EXPECT_EQ(zähler.Gehoben, 0) << "a dialog comes before it";
+}
+
+TEST_F(FensterordnungTest, DasHandbuchVerschwindetAuchNichtWennEinDialogOffenIst)
+{
+    auto *knopf = new QPushButton("(1)", haupt);
+    knopf->setGeometry(10, 10, 100, 30);
+    knopf->show();
+    QWidget *handbuch = Daneben("Handbuch");
+    ZumNachlesen(handbuch);
+    handbuch->setGeometry(QRect(knopf->mapToGlobal(QPoint(0, 0)), QSize(300, 200)));
+    QWidget *dialog = Dialog("Dialog");
+    std::vector<QWidget *> gehoben;
+    const Zähler beiHandbuch(handbuch, [&] { gehoben.push_back(handbuch); });
+    const Zähler beiDialog(dialog, [&] { gehoben.push_back(dialog); });
+    Hervorholen(); // there are no buttons to be pressed now
+    EXPECT_TRUE(Warten([&] { return dialog->isActiveWindow(); }));
+    EXPECT_GT(beiHandbuch.Gehoben, 0);
+    ASSERT_FALSE(gehoben.empty());
+    EXPECT_EQ(gehoben.back(), dialog) << "it comes before the handbook";
+}
+
+/// A desktop puts the window in front in which one clicks, and tells nobody if it is active.
+TEST_F(FensterordnungTest, JederKlickInsHauptfensterLäßtVornWasDanebenSteht)
+{
+    auto *knopf = new QPushButton("(1)", haupt);
+    knopf->setGeometry(10, 10, 100, 30);
+    knopf->show();
+    QWidget *liste = Daneben("Liste");
+    Zeigen(haupt);
+    QCoreApplication::processEvents();
+    Zähler zähler(liste);
+    for (QWidget *wo : {static_cast<QWidget *>(haupt), static_cast<QWidget *>(knopf)}) {
+        QTest::mousePress(wo, Qt::LeftButton);
+        EXPECT_TRUE(Warten([&] { return zähler.Gehoben > 0; })) << wo->metaObject()->className();
+        QTest::mouseRelease(wo, Qt::LeftButton);
+        zähler.Gehoben = 0;
+    }
+    EXPECT_TRUE(haupt->isActiveWindow()) << "it is in use all the same";
+    QExposeEvent frei(QRegion(haupt->rect())); // what a click on its title bar leads to
+    QApplication::sendEvent(haupt->windowHandle(), &frei);
+    EXPECT_TRUE(Warten([&] { return zähler.Gehoben > 0; }));
+}
+
+TEST_F(FensterordnungTest, EinAufgeklapptesMenüBleibtVorn)
+{
+    QWidget *liste = Daneben("Liste");
+    Zeigen(haupt);
+    QCoreApplication::processEvents();
+    QMenu menü(haupt);
+    menü.addAction("Eintrag");
+    menü.popup(haupt->mapToGlobal(QPoint(5, 5)));
+    Zähler zähler(liste);
+    QExposeEvent frei(QRegion(haupt->rect()));
+    QApplication::sendEvent(haupt->windowHandle(), &frei);
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(zähler.Gehoben, 0);
+    menü.close();
+    EXPECT_TRUE(Warten([&] { return zähler.Gehoben > 0; }));
+}
+
+/// Some desktops let the user minimise a message, although it asks them not to.
+TEST_F(FensterordnungTest, EineVerkleinerteMeldungKommtWieder)
+{
+    EchteMeldungen();
+    Zeigen(haupt);
+    Beantworten([&](QMessageBox *box) {
+        box->showMinimized();
+        Hervorholen();
+        EXPECT_TRUE(Warten([&] { return !box->isMinimized() && box->isActiveWindow(); }));
+        box->accept();
+    });
+    Meldungen.Zeigen("Fertig");
 }
 
 TEST_F(FensterordnungTest, NachEinemDialogStehtDieListeWiederVorn)

@@ -5,6 +5,8 @@
 #include "controls/LesenOderFokus.h"
 #include "core/Umwandlung.h"
 
+#include <QApplication>
+#include <QMenu>
 #include <QVBoxLayout>
 
 namespace altardienst {
@@ -54,6 +56,20 @@ TEST_F(KurztastenTest, EscapeVerwirftOhneDasFeldZuPrüfen)
 {
     Drücken(Qt::Key_Escape, Qt::NoModifier);
     EXPECT_EQ(ereignisse, "Abbrechen ");
+}
+
+/// A desktop hands the keys over a list that hangs open to the shortcuts of the window below, too.
+TEST_F(KurztastenTest, EscapeSchließtZuerstWasAufgeklapptIst)
+{
+    QMenu liste(feld);
+    liste.addAction("Eintrag");
+    liste.popup(feld->mapToGlobal(QPoint(0, 20)));
+    ASSERT_EQ(QApplication::activePopupWidget(), &liste);
+    QTest::keyClick(&liste, Qt::Key_Escape);
+    EXPECT_FALSE(liste.isVisible());
+    EXPECT_EQ(ereignisse.find("Abbrechen"), Text::npos);
+    Drücken(Qt::Key_Escape, Qt::NoModifier);
+    EXPECT_NE(ereignisse.find("Abbrechen"), Text::npos);
 }
 
 TEST_F(KurztastenTest, EineMeldungBeimVerlassenHältDenDruckAuf)

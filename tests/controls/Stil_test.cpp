@@ -3,8 +3,11 @@
 
 #include "Fensterstand.h"
 
+#include <QApplication>
 #include <QListView>
 #include <QMessageBox>
+#include <QPalette>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <cstdlib>
@@ -50,6 +53,30 @@ TEST_F(StilTest, DieFlächeIstHellgrünMitUndHellgrauOhneFokus)
     FokusAuf(knopf);
     EXPECT_GT(Punkte(knopf, Hellgrün), fläche);
     EXPECT_EQ(Punkte(knopf, Hellgrau), 0);
+}
+
+/// A desktop may hand over a dark palette whose grey is still that of a light one.
+TEST_F(StilTest, WasGrauIstLäßtSichAufJedemGrundLesen)
+{
+    for (const QColor &grund : {QColor(Qt::white), QColor(0x23, 0x26, 0x29)}) {
+        const bool dunkel = grund.lightness() < 128;
+        const QColor schrift = dunkel ? QColor(0xef, 0xf0, 0xf1) : QColor(Qt::black);
+        for (const QColor &grau : {QColor(0, 0, 0, 128), QColor(255, 255, 255, 128), grund}) {
+            QPalette farben(grund);
+            farben.setColor(QPalette::Base, grund);
+            farben.setColor(QPalette::Text, schrift);
+            farben.setColor(QPalette::PlaceholderText, grau);
+            QApplication::style()->polish(farben);
+            const QColor neu = farben.color(QPalette::PlaceholderText);
+            const int auf = grund.red() + (neu.red() - grund.red()) * neu.alpha() / 255;
+            EXPECT_GE(std::abs(auf - grund.red()), 55) << grund.name().toStdString();
+            EXPECT_LT(std::abs(auf - grund.red()), 160) << "it steps back";
+        }
+    }
+    QPalette eigene; // a colour of the desktop's own that can be read stays
+    eigene.setColor(QPalette::PlaceholderText, QColor(0x66, 0x77, 0x88));
+    QApplication::style()->polish(eigene);
+    EXPECT_EQ(eigene.color(QPalette::PlaceholderText), QColor(0x66, 0x77, 0x88));
 }
 
 TEST_F(StilTest, DieSchriftIstSchwarzAuchAufEinemDunklenBildschirm)

@@ -48,6 +48,20 @@ class BefundlisteFormTest : public Planstand {
     }
 };
 
+/// On a small screen the sentence has the room: it says what is the matter.
+TEST_F(BefundlisteFormTest, WoWenigPlatzIstStehtDerSatzAllein)
+{
+    PlanÖffnen();
+    Befundliste *liste = plan->Liste;
+    for (const auto &[breite, schmal] : {std::pair(1000, false), {320, true}, {1000, false}}) {
+        liste->resize(breite, 300);
+        for (const int spalte : {Befundmodell::Platz, Befundmodell::Bei})
+            EXPECT_EQ(Baum()->isColumnHidden(spalte), schmal) << breite;
+        EXPECT_GT(Baum()->columnWidth(Befundmodell::Satzspalte), 250) << breite;
+        EXPECT_EQ(Baum()->header()->length(), Baum()->viewport()->width()) << breite;
+    }
+}
+
 TEST_F(BefundlisteFormTest, JederBefundStehtUnterSeinerMesse)
 {
     PlanÖffnen();
@@ -99,6 +113,7 @@ TEST_F(BefundlisteFormTest, EinKlickAufDenKopfOrdnetDerDritteWieZuvor)
     const Text erste = Titel(0);
     const Text zweite = Titel(1);
     ASSERT_LT(Sätze(0).size(), Sätze(1).size());
+    plan->Liste->resize(1000, 300); // with all columns
     KopfAnklicken(Befundmodell::Satzspalte);
     EXPECT_EQ(Titel(0), zweite) << "the most breaches first";
     EXPECT_TRUE(Baum()->isExpanded(Gruppe(0)));

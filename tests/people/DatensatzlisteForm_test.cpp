@@ -7,6 +7,8 @@
 #include <QScrollArea>
 #include <QStyle>
 
+#include <tuple>
+
 namespace altardienst {
 namespace {
 
@@ -345,6 +347,24 @@ TEST_F(DatensatzlisteForm, DerErsteFokusBleibtUndDieFensterPassenAufDenKleinsten
                               fläche->width();
             EXPECT_TRUE(paßt || !Finden("Liste")->isVisible()) << "the list gives way first";
         }
+    }
+}
+
+/// What the screens have on which most people work: 1920 dots at 150 %.
+TEST_F(DatensatzlisteForm, Auf1280PunktenStehtDieListeNebenDemGanzenDatensatz)
+{
+    for (const auto &[fenster, links, rechts] :
+         {std::tuple("Meßdiener", "Vornamen", "Partner"), {"Helfer", "Vorne", "Dient"}}) {
+        SCOPED_TRACE(fenster);
+        Öffnen(fenster);
+        form->resize(1280 - 16, 600); // less the frame
+        QCoreApplication::processEvents();
+        EXPECT_EQ(form->width(), 1264);
+        EXPECT_TRUE(Ansicht()->isVisible());
+        const QWidget *name = Finden(links);
+        EXPECT_GT(Finden(rechts)->mapTo(form, QPoint()).x(),
+                  name->mapTo(form, QPoint(name->width(), 0)).x())
+            << "side by side";
     }
 }
 

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPalette>
 #include <QScopeGuard>
+#include <QStyle>
 
 #include <algorithm>
 #include <cstdlib>
@@ -16,10 +17,12 @@
 namespace altardienst {
 namespace {
 
-/// What desktops with a dark theme hand to their programs.
+/// What desktops with a dark theme hand to their programs, some of them with the grey of a light
+/// one; the style sees to that.
 QPalette Dunkel()
 {
     QPalette farben(QColor(0x32, 0x32, 0x32));
+    farben.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
     const QColor schrift(0xf0, 0xf0, 0xf0);
     const QColor blaß(0x80, 0x80, 0x80);
     for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
@@ -27,9 +30,9 @@ QPalette Dunkel()
         farben.setColor(QPalette::Disabled, rolle, blaß);
     }
     farben.setColor(QPalette::Base, QColor(0x24, 0x24, 0x24));
-    farben.setColor(QPalette::PlaceholderText, blaß);
     farben.setColor(QPalette::Highlight, QColor(0x2a, 0x6e, 0xb8));
     farben.setColor(QPalette::HighlightedText, Qt::white);
+    QApplication::style()->polish(farben);
     return farben;
 }
 
@@ -55,8 +58,14 @@ Text Beschriftet(const QWidget *control)
     if (const auto *knopf = qobject_cast<const QAbstractButton *>(control))
         return knopf->text().toStdString();
     if (const auto *feld = qobject_cast<const QLineEdit *>(control))
-        return feld->text().toStdString();
+        return (feld->text().isEmpty() ? feld->placeholderText() : feld->text()).toStdString();
     return {};
+}
+
+bool IstLeeresFeld(const QWidget *control)
+{
+    const auto *feld = qobject_cast<const QLineEdit *>(control);
+    return feld && feld->text().isEmpty();
 }
 
 class JedesFensterDunkelTest : public JedesFenster {};
@@ -76,8 +85,9 @@ TEST_F(JedesFensterDunkelTest, JedesWortIstZuLesen)
             if (!control->isVisibleTo(fenster) || wort.find_first_not_of(' ') == Text::npos ||
                 innen.isEmpty())
                 continue;
-            const bool soBlaß =
-                !control->isEnabled() || control->foregroundRole() == QPalette::PlaceholderText;
+            const bool soBlaß = !control->isEnabled() ||
+                                control->foregroundRole() == QPalette::PlaceholderText ||
+                                IstLeeresFeld(control);
             const int nötig = soBlaß ? 45 : 90;
             EXPECT_GE(Abstand(control->grab(innen).toImage()), nötig)
                 << control->objectName().toStdString() << " " << wort;

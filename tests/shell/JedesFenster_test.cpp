@@ -2,6 +2,7 @@
 // it.
 #include "JedesFenster.h"
 
+#include "controls/Ergänzung.h"
 #include "controls/SpinButton.h"
 #include "controls/Textwahl.h"
 
@@ -10,11 +11,13 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QRadioButton>
+#include <QScreen>
 #include <QTextEdit>
 #include <QToolButton>
 
 #include <algorithm>
 #include <array>
+#include <map>
 
 namespace altardienst {
 namespace {
@@ -89,6 +92,19 @@ class JedesFensterTest : public JedesFenster {
             {"NName", "follows the list of partners"},
         };
         return tasten.contains(Name(control));
+    }
+
+    /// How something begins that a box for names proposes.
+    static QString Anfang(const QLineEdit *feld)
+    {
+        const auto *wahl = qobject_cast<const QComboBox *>(feld->parentWidget());
+        if (!wahl)
+            return "a";
+        for (int i = 0; i < wahl->count(); ++i)
+            if (!wahl->itemText(i).isEmpty() && wahl->itemText(i).front().isLetter() &&
+                wahl->itemText(i) != wahl->currentText())
+                return wahl->itemText(i).left(1);
+        return "";
     }
 
     template <class Art> static Schirmtexte Schirm(const QWidget *fenster)
@@ -192,6 +208,34 @@ TEST_F(JedesFensterTest, JedesBedienelementIstMitDerTastaturErreichbar)
     EXPECT_GT(ohneTab, 200);
 }
 
+/// What was typed would be gone with the window.
+TEST_F(JedesFensterTest, EscapeSchließtEineListeOderEinenKalenderUndNichtDasFenster)
+{
+    int geschlossene = 0;
+    const auto schließen = [&](const QWidget *fenster, const QWidget *feld) {
+        const QPointer<QWidget> offen = QApplication::activePopupWidget();
+        ASSERT_TRUE(offen) << Name(feld);
+        QTest::keyClick(offen->focusWidget() ? offen->focusWidget() : offen.data(), Qt::Key_Escape);
+        EXPECT_FALSE(QApplication::activePopupWidget()) << Name(feld);
+        ASSERT_TRUE(fenster->isVisible()) << Name(feld);
+        ++geschlossene;
+    };
+    InJedemFenster([&](const Text &, const QWidget *fenster) {
+        for (auto *wahl : fenster->findChildren<QComboBox *>())
+            if (wahl->isVisible() && wahl->isEnabled() && wahl->count() > 0) {
+                FokusAuf(wahl);
+                wahl->showPopup();
+                schließen(fenster, wahl);
+            }
+        for (QToolButton *knopf : fenster->findChildren<QToolButton *>())
+            if (knopf->isVisible() && knopf->accessibleName() == "Kalender öffnen") {
+                QTest::keyClick(knopf->parentWidget(), Qt::Key_Down, Qt::AltModifier);
+                schließen(fenster, knopf->parentWidget());
+            }
+    });
+    EXPECT_GT(geschlossene, 60);
+}
+
 TEST_F(JedesFensterTest, AltUndPfeilÖffnenDenKalenderJedesDatums)
 {
     int kalender = 0;
@@ -209,6 +253,50 @@ TEST_F(JedesFensterTest, AltUndPfeilÖffnenDenKalenderJedesDatums)
         }
     });
     EXPECT_GT(kalender, 20);
+}
+
+/// The boxes and lists for names propose what was begun; arrow keys and Enter choose, Escape closes
+/// the proposals alone. They are named, on the screen, and nothing in them is cut.
+TEST_F(JedesFensterTest, VorschlägeGehenMitDerTastaturUndStehenGanzDa)
+{
+    std::map<Text, int> vorschläge;
+    InJedemFenster([&](const Text &name, QWidget *fenster) {
+        for (auto *feld : fenster->findChildren<QLineEdit *>()) {
+            if (!feld->findChild<QObject *>("Ergänzung") || !feld->isVisible() ||
+                !feld->isEnabled() || vorschläge[name] == 2)
+                continue;
+            const QString vorher = feld->text();
+            const QString begonnen = Anfang(feld);
+            if (begonnen.isEmpty())
+                continue; // nothing to propose
+            FokusAuf(feld);
+            feld->selectAll();
+            QTest::keyClicks(feld, begonnen);
+            SCOPED_TRACE(Name(feld));
+            EXPECT_TRUE(Warten([&] { return OffeneErgänzung(feld) != nullptr; }));
+            auto *liste = qobject_cast<QAbstractItemView *>(OffeneErgänzung(feld));
+            ASSERT_TRUE(liste);
+            ++vorschläge[name];
+            EXPECT_EQ(liste->accessibleName(), "Vorschläge");
+            EXPECT_TRUE(feld->screen()->availableGeometry().contains(liste->frameGeometry()));
+            for (int zeile = 0; zeile < liste->model()->rowCount(); ++zeile)
+                EXPECT_GE(liste->viewport()->width(),
+                          liste->fontMetrics().horizontalAdvance(
+                              liste->model()->index(zeile, 0).data().toString()));
+            EXPECT_FALSE(liste->currentIndex().isValid()) << "nothing is chosen unasked";
+            const QImage ohne = liste->grab().toImage();
+            QTest::keyClick(liste, Qt::Key_Down);
+            EXPECT_TRUE(liste->currentIndex().isValid());
+            EXPECT_NE(liste->grab().toImage(), ohne) << "one sees which one Enter takes";
+            QTest::keyClick(liste, Qt::Key_Escape);
+            EXPECT_FALSE(OffeneErgänzung(feld));
+            EXPECT_TRUE(fenster->isVisible()) << "Escape closes the proposals alone";
+            Einsetzen(feld, vorher.toStdString());
+        }
+    });
+    for (const char *name : {"Messenliste", "MesseDienerFest", "NeuMesseDienerFest", "Meßdiener",
+                             "NeuMeßdiener", "NeuerHelfer"})
+        EXPECT_GT(vorschläge[name], 0) << name;
 }
 
 TEST_F(JedesFensterTest, JedesBedienelementHatEinenGesprochenenNamen)

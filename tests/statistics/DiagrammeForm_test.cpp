@@ -6,11 +6,33 @@
 #include "statistics/StatistikForm.h"
 #include "statistics/Statistikstand.h"
 
+#include <QApplication>
+#include <QImage>
+#include <QPalette>
+#include <QScopeGuard>
+
+#include <algorithm>
 #include <cmath>
 #include <map>
+#include <numeric>
 
 namespace altardienst {
 namespace {
+
+double Leuchtdichte(const QColor &farbe)
+{
+    const auto linear = [](double teil) {
+        return teil <= 0.04045 ? teil / 12.92 : std::pow((teil + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(farbe.redF()) + 0.7152 * linear(farbe.greenF()) +
+           0.0722 * linear(farbe.blueF());
+}
+
+double Kontrast(const QColor &eine, const QColor &andere)
+{
+    const auto [dunkler, heller] = std::minmax({Leuchtdichte(eine), Leuchtdichte(andere)});
+    return (heller + 0.05) / (dunkler + 0.05);
+}
 
 class DiagrammeFormTest : public Statistikstand {
   protected:
@@ -220,29 +242,100 @@ TEST_F(DiagrammeFormTest, DieFelderUnterscheidetIhreHelligkeit)
     }
     bild.KreuztafelZeigen({"quer", klassen}, {"hoch", {"eine"}}, anzahl);
     auto *plot = dynamic_cast<QCustomPlot *>(bild.children().back());
-    const auto leuchtdichte = [](const QColor &farbe) {
-        const auto linear = [](double teil) {
-            return teil <= 0.04045 ? teil / 12.92 : std::pow((teil + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * linear(farbe.redF()) + 0.7152 * linear(farbe.greenF()) +
-               0.0722 * linear(farbe.blueF());
-    };
     std::map<int, double> felder = {{1, 1.0}}; // the first is white
     for (int k = 0; k < plot->itemCount(); ++k)
         if (const auto *feld = dynamic_cast<QCPItemRect *>(plot->item(k)))
             felder[static_cast<int>(feld->topLeft->key() + 0.5)] =
-                leuchtdichte(feld->brush().color());
+                Leuchtdichte(feld->brush().color());
     ASSERT_EQ(felder.size(), Höchste + 1U);
     for (int k = 2; k <= Höchste + 1; ++k)
         EXPECT_LT(felder[k], felder[k - 1]) << k;
     for (int k = 0; k < plot->itemCount(); ++k)
         if (const auto *text = dynamic_cast<QCPItemText *>(plot->item(k))) {
             const double feld = felder[static_cast<int>(text->position->key())];
-            const double schrift = leuchtdichte(text->color());
+            const double schrift = Leuchtdichte(text->color());
             const double kontrast =
                 (std::max(feld, schrift) + 0.05) / (std::min(feld, schrift) + 0.05);
             EXPECT_GE(kontrast, 4.5) << text->text().toStdString();
         }
+}
+
+/// How far the figures in a chart stand out from what they are written on, at least.
+double KleinsterKontrast(QCustomPlot &plot, const QColor &grund)
+{
+    std::map<std::pair<int, int>, QColor> felder;
+    for (int k = 0; k < plot.itemCount(); ++k)
+        if (const auto *feld = dynamic_cast<QCPItemRect *>(plot.item(k)))
+            felder[{static_cast<int>(feld->topLeft->key() + 0.5),
+                    static_cast<int>(feld->topLeft->value() - 0.5)}] = feld->brush().color();
+    double kleinster = 21;
+    for (int k = 0; k < plot.itemCount(); ++k)
+        if (const auto *text = dynamic_cast<QCPItemText *>(plot.item(k))) {
+            const auto feld = felder.find({static_cast<int>(text->position->key()),
+                                           static_cast<int>(text->position->value())});
+            kleinster = std::min(
+                kleinster, Kontrast(text->color(), feld == felder.end() ? grund : feld->second));
+        }
+    return kleinster;
+}
+
+/// On a dark screen a chart is dark, too; on paper it is as ever.
+TEST_F(DiagrammeFormTest, AufDunklemGrundIstAllesZuLesenUndAufPapierWieSonst)
+{
+    const QColor dunkel(0x24, 0x24, 0x24);
+    QPalette nachts;
+    nachts.setColor(QPalette::Base, dunkel);
+    nachts.setColor(QPalette::Text, Qt::white);
+    Diagrammbild balken("Balken", "Titel");
+    balken.BalkenZeigen({"Klasse", {"a", "b"}}, "Anzahl", {3, 1});
+    Diagrammbild tafel("Tafel", "Titel");
+    std::vector<int> anzahl(13);
+    std::iota(anzahl.begin(), anzahl.end(), 0);
+    tafel.KreuztafelZeigen({"quer", std::vector<Text>(13, "k")}, {"hoch", {"eine"}}, anzahl);
+    for (Diagrammbild *bild : {&balken, &tafel}) {
+        auto *plot = dynamic_cast<QCustomPlot *>(bild->children().back());
+        bild->resize(680, 400);
+        bild->show();
+        const QImage tags = bild->grab().toImage();
+        EXPECT_EQ(tags.pixelColor(2, 2), QColor(Qt::white));
+        const int teile = plot->itemCount();
+        bild->setPalette(nachts);
+        const QImage nacht = bild->grab().toImage();
+        EXPECT_EQ(nacht.pixelColor(2, 2), dunkel);
+        EXPECT_EQ(plot->itemCount(), teile) << "nothing stands there twice";
+        EXPECT_GE(KleinsterKontrast(*plot, dunkel), 4.5);
+        for (const QCPAxis *achse : {plot->xAxis, plot->yAxis})
+            for (const QColor &farbe : {achse->labelColor(), achse->tickLabelColor(),
+                                        achse->basePen().color(), achse->tickPen().color()})
+                EXPECT_GE(Kontrast(farbe, dunkel), 4.5);
+        bild->setPalette(QPalette());
+        EXPECT_EQ(bild->grab().toImage(), tags);
+    }
+}
+
+/// A print sets the colours of the window to black on white.
+TEST_F(DiagrammeFormTest, EinDruckVonEinemDunklenBildschirmIstWeiß)
+{
+    QPalette nachts;
+    for (const auto rolle : {QPalette::Base, QPalette::Window})
+        nachts.setColor(rolle, QColor(0x24, 0x24, 0x24));
+    for (const auto rolle : {QPalette::Text, QPalette::WindowText})
+        nachts.setColor(rolle, Qt::white);
+    const QPalette zuvor = QApplication::palette();
+    QApplication::setPalette(nachts);
+    const auto zurück = qScopeGuard([&] { QApplication::setPalette(zuvor); });
+    ÖffnenMitStatistik();
+    EXPECT_EQ(Bild("MSChart1")->grab().toImage().pixelColor(2, 2), QColor(0x24, 0x24, 0x24));
+    Klick("Druck");
+    const QImage seite = PdfBild(datei);
+    std::map<QRgb, int> farben;
+    for (int y = 0; y < seite.height(); ++y)
+        for (int x = 0; x < seite.width(); ++x)
+            ++farben[seite.pixel(x, y)];
+    EXPECT_GT(farben[QColor(Qt::white).rgb()], seite.width() * seite.height() / 2);
+    EXPECT_LT(farben[QColor(0x24, 0x24, 0x24).rgb()], 100) << "but for the edges of letters";
+    EXPECT_EQ(Bild("MSChart1")->grab().toImage().pixelColor(2, 2), QColor(0x24, 0x24, 0x24))
+        << "the screen stays dark";
 }
 
 TEST_F(DiagrammeFormTest, DruckenGibtDasGewählteScharfUndOhneKnöpfe)
