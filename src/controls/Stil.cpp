@@ -118,13 +118,6 @@ void RahmenZeichnen(QPainter &stift, const QStyleOption &option)
 
 } // namespace
 
-void Stil::polish(QPalette &farben)
-{
-    QProxyStyle::polish(farben);
-    for (const auto rolle : {QPalette::Highlight, QPalette::HighlightedText})
-        farben.setBrush(QPalette::Inactive, rolle, farben.brush(QPalette::Active, rolle));
-}
-
 void Stil::polish(QWidget *control)
 {
     QProxyStyle::polish(control);
@@ -132,9 +125,12 @@ void Stil::polish(QWidget *control)
         control->installEventFilter(this);
 }
 
+/// What is chosen is seen while the keyboard is elsewhere, too; what is grey can be read.
 void Stil::polish(QPalette &farben)
 {
     QProxyStyle::polish(farben);
+    for (const auto rolle : {QPalette::Highlight, QPalette::HighlightedText})
+        farben.setBrush(QPalette::Inactive, rolle, farben.brush(QPalette::Active, rolle));
     constexpr int Deutlich = 55; // of 255
     for (const auto gruppe : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         const QColor grund = farben.color(gruppe, QPalette::Base);

@@ -18,10 +18,9 @@ class Stil : public QProxyStyle {
 
     using QProxyStyle::polish;
     using QProxyStyle::unpolish;
-    void polish(QPalette &farben) override;
-    void polish(QWidget *control) override;
     /// Some desktops hand over a dark palette without a colour for what is grey.
     void polish(QPalette &farben) override;
+    void polish(QWidget *control) override;
     void unpolish(QWidget *control) override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *stift,
                      const QWidget *control) const override;

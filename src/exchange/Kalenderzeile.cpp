@@ -1,6 +1,7 @@
 // A line of text in a file of calendar entries.
 #include "exchange/Kalenderzeile.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace altardienst {
@@ -39,8 +40,10 @@ bool IstEinfach(char zeichen)
 /// How many bytes of a text are one character and stay as they are.
 std::size_t Zeichenlänge(std::string_view text)
 {
+    constexpr std::size_t Höchstens = 4;
     std::size_t länge = 1;
-    while (länge < text.size() && (static_cast<unsigned char>(text[länge]) & 0xC0) == 0x80)
+    while (länge < std::min(text.size(), Höchstens) &&
+           (static_cast<unsigned char>(text[länge]) & 0xC0) == 0x80)
         ++länge;
     return länge;
 }

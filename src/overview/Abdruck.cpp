@@ -60,6 +60,7 @@ Planabdruck AbdruckNehmen()
     TabelleMischen(übriges, Meßdiener);
     TabelleMischen(übriges, Helfer);
     TabelleMischen(übriges, MesseDienerFest);
+    TabelleMischen(übriges, Gruppe);
     std::apply([&](const auto &...felder) { (übriges(felder), ...); }, Konfig.Felder());
     übriges(Konfig.StartDatum);
     abdruck.Übriges = übriges.Zahl();

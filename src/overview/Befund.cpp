@@ -52,8 +52,9 @@ template <class Tabelle> Text Zeitraumsatz(const Tabelle &personen, int j, Datum
 {
     for (const Fehlzeit &a : Abwesenheiten(personen, j))
         if (a.IstEingetragen() && LiegtIn(tag, a.Von, a.Bis))
-            return (a.Von == 0 ? Text() : "vom " + TagImSatz(a.Von) + " ") + "bis " +
-                   TagImSatz(a.Bis);
+            return a.Von == a.Bis ? "am " + TagImSatz(a.Von)
+                                  : (a.Von == 0 ? Text() : "vom " + TagImSatz(a.Von) + " ") +
+                                        "bis " + TagImSatz(a.Bis);
     return "an diesem Tag";
 }
 
@@ -72,13 +73,14 @@ Text Tagessatz(const Plantabellen &t, const Befund &b, const Mensch &m)
     if (b.Gegen == Regel::SelberTag) // the date goes without saying
         return m.Name + " dient an diesem Tag auch um " + dort.substr(dort.find(", ") + 2) + ".";
     const bool danach = t.Messen.Datum[b.Bezug.Messe] > t.Messen.Datum[b.Wo.Messe];
-    return m.Name + " dient schon am " + (danach ? "Folgetag, " : "Vortag, ") + dort + ".";
+    return m.Name + (danach ? " dient auch am Folgetag, " : " dient schon am Vortag, ") + dort +
+           ".";
 }
 
 Text Größensatz(const Plantabellen &t, const Befund &b, const Mensch &m)
 {
     const int spielraum = t.Einstellungen.DiffGröße;
-    return m.Name + " ist " + ZahlText(t.Diener.Größe[m.Nr]) + " cm groß; in dieser Messe passen " +
+    return m.Name + " ist " + ZahlText(t.Diener.Größe[m.Nr]) + " cm groß; hier passen " +
            ZahlText(b.Zahl - spielraum) + " bis " + ZahlText(b.Zahl + spielraum) + " cm.";
 }
 
@@ -122,7 +124,8 @@ Text Partnersatz(const Plantabellen &t, const Befund &b, const Mensch &m)
 
 Text Häufigkeitssatz(const Plantabellen &t, const Befund &b, const Mensch &m)
 {
-    const int grenze = t.Diener.Häufigkeit[m.Nr] + Dienstanteil(t.Messen, t.Diener.Anzahl);
+    const int grenze =
+        std::max<int>(0, t.Diener.Häufigkeit[m.Nr] + Dienstanteil(t.Messen, t.Diener.Anzahl));
     return m.Name + " steht " + ZahlText(b.Zahl) +
            "-mal mit Wunschpartner im Plan; nach der Diensthäufigkeit sind es höchstens " +
            ZahlText(grenze) + ".";
@@ -130,14 +133,16 @@ Text Häufigkeitssatz(const Plantabellen &t, const Befund &b, const Mensch &m)
 
 Text Festsatz(const Plantabellen &t, const Befund &b, const Mensch &m)
 {
-    return "Auf " + Platzaufschrift(b.Wo) + " gehört durch feste Zuordnung " + FesterName(t, b) +
+    return "Für " + Platzaufschrift(b.Wo) + " ist " + FesterName(t, b) + " fest zugeordnet" +
            (m.Name.empty() ? "; der Platz ist frei." : ", nicht " + m.Name + ".");
 }
 
 Text Überzahlsatz(const Plantabellen &t, const Befund &b, const Mensch &m)
 {
-    return m.Name + " steht auf " + Platzaufschrift(b.Wo) + ", die Messe hat aber nur " +
-           ZahlText(Dienerplätze(t.Messen, b.Wo.Messe)) + " Meßdiener; gedruckt wird der Name.";
+    const int plätze = Dienerplätze(t.Messen, b.Wo.Messe);
+    return m.Name + " steht auf " + Platzaufschrift(b.Wo) + ", die Messe hat aber " +
+           (plätze == 0 ? Text("keine") : "nur " + ZahlText(plätze)) +
+           " Meßdiener; der Name wird trotzdem gedruckt.";
 }
 
 Text Zeitraumssatz(const Plantabellen &t, const Befund &b)
@@ -167,7 +172,7 @@ Text SatzOderFehler(const Plantabellen &t, const Befund &b, const Mensch &m)
                              ? " ist unter den Meßdienern nicht zu finden."
                              : " ist unter den Helfern nicht zu finden.");
     case Regel::Mehrdeutig:
-        return "Mehrere heißen " + m.Name + "; wer hier steht, lässt sich nicht prüfen.";
+        return "Mehrere heißen " + m.Name + "; wer gemeint ist, lässt sich nicht sagen.";
     case Regel::Doppelt:
         return m.Name + " steht in dieser Messe auch auf " + Platzaufschrift(b.Bezug) + ".";
     case Regel::SelberTag:
@@ -222,7 +227,7 @@ Text Regelname(Regel regel)
 {
     constexpr std::array<Festtext, Regelzahl> Namen = {
         "Freier Platz", "Unbekannter Name", "Gleiche Namen", "Doppelt in der Messe",
-        "Selber Tag",   "Nachbartag",       "Größe",         "Qualifikation",
+        "Derselbe Tag", "Nachbartag",       "Größe",         "Qualifikation",
         "Abwesenheit",  "Geschlecht",       "Wochendienst",  "Wochentag",
         "Helferdienst", "Wunschpartner",    "Häufigkeit",    "Feste Zuordnung",
         "Überzählig",   "Gleiche Zeit",     "Zeitraum",      "Dienste"};

@@ -38,12 +38,14 @@ void GründeSammeln(const Planprüfung &prüfung, Planplatz platz, Platzkandidat
                                         : Satz(prüfung.Tabellen(), befund)});
 }
 
-/// Whether a rule is against it; with whom he would form a pair is left out, for he is wanted
-/// beside him.
-bool KannStehen(const Planprüfung &prüfung, Planplatz platz, int nr)
+/// Whether no rule is against the wish partner beside a place. With the one who is to stand there
+/// he may form a pair whatever the sex of the two: they want it so.
+bool KannDanebenStehen(const Planprüfung &prüfung, Planplatz ort, int nr, Planplatz platz)
 {
-    return std::ranges::none_of(prüfung.GegenPerson(platz, nr), [](const Befund &befund) {
-        return befund.Grad == Stufe::Verstoß && befund.Gegen != Regel::Geschlecht;
+    return std::ranges::none_of(prüfung.GegenPerson(ort, nr), [&](const Befund &befund) {
+        const bool istIhrPaar =
+            befund.Gegen == Regel::Geschlecht && (befund.Wo == platz || befund.Bezug == platz);
+        return befund.Grad == Stufe::Verstoß && !istIhrPaar;
     });
 }
 
@@ -69,7 +71,7 @@ void PartnerSuchen(const Planprüfung &prüfung, Planplatz platz, Platzkandidat 
             continue;
         if (prüfung.WerSteht(ort) == kandidat.Partner)
             kandidat.PartnerDaneben = true;
-        if (kandidat.Partnerplatz == 0 && KannStehen(prüfung, ort, kandidat.Partner))
+        if (kandidat.Partnerplatz == 0 && KannDanebenStehen(prüfung, ort, kandidat.Partner, platz))
             kandidat.Partnerplatz = ort.Nr;
     }
     if (kandidat.PartnerDaneben)

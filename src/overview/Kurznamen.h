@@ -15,6 +15,11 @@ class Kurznamen {
     /// Reads all names.
     void Neu(const Plantabellen &tabellen = GemeinsameTabellen());
 
+    bool Kennt(const Text &vorname, const Text &nachname) const
+    {
+        return kurz.Finden(vorname, nachname) != nullptr;
+    }
+
     /// A name that was in no table is shortened to one letter of the surname.
     Text Von(const Text &vorname, const Text &nachname) const;
 

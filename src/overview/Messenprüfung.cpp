@@ -66,7 +66,8 @@ void Messenprüfung::DienerLesen()
         AbwesenheitenLesen(k, t, j);
         for (std::size_t art = 0; art < Dienstarten.size(); ++art)
             k.Darf[art] = DarfDienst(t, j, Dienstarten[art]);
-        for (std::size_t stelle = 1; stelle < k.Ungern.size(); ++stelle)
+        k.Ungern[1] = LehntWochendienstAb(t, j);
+        for (std::size_t stelle = 2; stelle < k.Ungern.size(); ++stelle)
             k.Ungern[stelle] = IstJa(t.Wochendienst[j], static_cast<int>(stelle));
         const auto geschlecht = std::ranges::find(geschlechter, std::string_view(t.Geschlecht[j]));
         k.Geschlecht = static_cast<int>(geschlecht - geschlechter.begin());

@@ -16,6 +16,10 @@ namespace altardienst {
 /// stays where it is until the object is emptied.
 template <class Wert> class Namenspaare {
   public:
+    Namenspaare() = default;
+    Namenspaare(const Namenspaare &) = delete; // the compartments point to the entries
+    Namenspaare &operator=(const Namenspaare &) = delete;
+
     void Leeren()
     {
         einträge.clear();

@@ -145,7 +145,7 @@ void Planansicht::Beachten(const Regelwahl &regeln)
     BefundeZählen();
 }
 
-/// The one whose name was chosen last stays marked while one looks at places without a name.
+/// Whose name stands there is marked in the whole plan; nobody at a place without a name.
 void Planansicht::Gewählt()
 {
     const auto ort = Tafel->Gewählter();
@@ -206,7 +206,7 @@ void Planansicht::Hingehen()
     if (!ort)
         return;
     const bool fest = Tafel->currentIndex().column() == Planmodell::Fest;
-    altardienst::Hingehen(fest ? FesterEintragVon(ort->Messe) : StelleVon(*ort), window());
+    altardienst::Hingehen(fest ? FesterEintragVon(*ort) : StelleVon(*ort), window());
 }
 
 void Planansicht::MenüZeigen(QPoint wo)

@@ -31,11 +31,6 @@ void Erschweren(std::optional<Stufe> &zeichen, Stufe grad)
         zeichen = grad;
 }
 
-Text Namensschlüssel(const Text &vorname, const Text &nachname)
-{
-    return vorname + "\n" + nachname;
-}
-
 /// As many columns for servers as the largest mass wants, and the helpers' places that any mass
 /// wants.
 std::vector<Planspalte> NötigeSpalten()
@@ -177,23 +172,24 @@ bool Planinhalt::KenntAlleNamen(int messe, const std::vector<Planspalte> &spalte
     return std::ranges::all_of(spalten, [&](const Planspalte &spalte) {
         const Planplatz platz{messe, spalte.Was, spalte.Nr};
         const Platzname wer = NameAm(Messe, platz);
-        return wer.IstFrei() || PersonVon(wer.Vorname, wer.Nachname) >= 0;
+        return wer.IstFrei() || namen.Kennt(wer.Vorname, wer.Nachname);
     });
 }
 
 int Planinhalt::Personennummer(const Text &vorname, const Text &nachname)
 {
-    const auto [stelle, neu] =
-        nummern.try_emplace(Namensschlüssel(vorname, nachname), static_cast<int>(personen.size()));
-    if (neu)
+    const auto [nummer, neu] = nummern.Eintragen(vorname, nachname);
+    if (neu) {
+        nummer = static_cast<int>(personen.size());
         personen.push_back({{vorname, nachname}, Anzeige(namen.Von(vorname, nachname))});
-    return stelle->second;
+    }
+    return nummer;
 }
 
 int Planinhalt::PersonVon(const Text &vorname, const Text &nachname) const
 {
-    const auto stelle = nummern.find(Namensschlüssel(vorname, nachname));
-    return stelle == nummern.end() ? -1 : stelle->second;
+    const int *nummer = nummern.Finden(vorname, nachname);
+    return nummer ? *nummer : -1;
 }
 
 const Planinhalt::Name &Planinhalt::NameVon(int person) const

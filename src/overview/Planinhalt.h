@@ -3,13 +3,13 @@
 
 #include "overview/Abdruck.h"
 #include "overview/Kurznamen.h"
+#include "overview/Namenspaare.h"
 #include "overview/Prüfliste.h"
 
 #include <QString>
 
 #include <array>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 namespace altardienst {
@@ -90,7 +90,7 @@ class Planinhalt {
     Kurznamen namen;
     std::optional<Planabdruck> abdruck; // of what was shown last
     std::vector<Person> personen;
-    std::unordered_map<Text, int> nummern; // of the persons, by both names
+    Namenspaare<int> nummern; // of the persons
 };
 
 } // namespace altardienst

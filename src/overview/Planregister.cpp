@@ -87,7 +87,11 @@ bool Planregister::Nachlesen(int messe, std::vector<int> &berührt)
 Planregister::Merkmale Planregister::MerkmaleVon(int messe) const
 {
     const MesseTabelle &messen = tabellen.Messen;
-    Merkmale m = {messen.Datum[messe], messen.Uhrzeit[messe], Dienerplätze(messen, messe), {}};
+    Merkmale m = {messen.Datum[messe],
+                  messen.Uhrzeit[messe],
+                  Dienerplätze(messen, messe),
+                  messen.Dienerzahl[messe],
+                  {}};
     for (const Helferart &art : Helferarten)
         m.Helfer[NummerDer(art)] = art.Zahl.In(messen)[messe];
     return m;
@@ -171,6 +175,16 @@ bool Planregister::StehtDerGewünschteNach(int messe, int slot) const
     return Partner(j) >= 0 ||
            (tabellen.Messen.DienerNach[messe][slot + 1] == tabellen.Diener.WunschNachname[j] &&
             tabellen.Messen.DienerVor[messe][slot + 1] == tabellen.Diener.WunschVorname[j]);
+}
+
+bool Planregister::IstNamensgleich(int person) const
+{
+    const auto gilt = [](const Namensregister &namen, const auto &personen, int nr) {
+        return namen.Finden(personen.Vorname[nr], personen.Nachname[nr]) ==
+               Namensregister::Mehrdeutig;
+    };
+    return person < ErsterHelfer ? gilt(diener, tabellen.Diener, person)
+                                 : gilt(helfer, tabellen.Helferinnen, person - ErsterHelfer);
 }
 
 bool Planregister::IstSpäter(Stelle a, Stelle b) const

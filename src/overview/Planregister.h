@@ -42,6 +42,10 @@ class Planregister {
     Stelle Davor(Stelle stelle) const { return davor[Nr(stelle)]; }
     Stelle Letzte(int person) const { return letzte[Nr(person)]; }
 
+    /// Whether other records of servers, or of helpers, have the same name: then none of them is
+    /// known to stand anywhere.
+    bool IstNamensgleich(int person) const;
+
     /// The record of a server's wish partner, or why there is none.
     int Partner(int diener) const { return partner[Nr(diener)]; }
     /// How often a server stands beside his wish partner as the partner way counts it, and where
@@ -75,6 +79,7 @@ class Planregister {
         Datum Tag;
         Datum Uhrzeit;
         int Dienerplätze;
+        Int16 Dienerzahl; // which need not be a number of places
         std::array<int, Helferarten.size()> Helfer;
 
         friend bool operator==(const Merkmale &, const Merkmale &) = default;

@@ -77,13 +77,16 @@ void Plantafel::Verbinden()
                 SpaltenEinpassen();
                 StandZurück();
             }));
-    connect(modell, &QAbstractItemModel::dataChanged, this,
-            Abgefangen([this](const QModelIndex &von, const QModelIndex &bis) {
-                SpaltenEinpassen();
-                const QModelIndex wo = currentIndex();
-                if (BeiWahl && wo.row() >= von.row() && wo.row() <= bis.row())
-                    BeiWahl();
-            }));
+    connect(
+        modell, &QAbstractItemModel::dataChanged, this,
+        Abgefangen([this](const QModelIndex &von, const QModelIndex &bis, const QList<int> &was) {
+            if (was == QList<int>{Qt::BackgroundRole})
+                return; // only somebody marked: the texts are the same
+            SpaltenEinpassen();
+            const QModelIndex wo = currentIndex();
+            if (BeiWahl && wo.row() >= von.row() && wo.row() <= bis.row())
+                BeiWahl();
+        }));
 }
 
 std::optional<Planplatz> Plantafel::Gewählter() const

@@ -1,21 +1,30 @@
 // The ways from the plan to the windows in which its records stand.
 #include "overview/Planwege.h"
 
+#include "fixed/FesteMeßdienerÜbertragen.h"
+
 #include <algorithm>
 #include <optional>
 
 namespace altardienst {
 namespace {
 
-std::optional<int> FesterEintrag(int messe)
+/// Of several the last one counts, as it is the last to be transferred: for a place the last that
+/// names somebody for it.
+std::optional<int> FesterEintrag(const Planplatz &ort)
 {
     const int anzahl =
         std::clamp<int>(MesseDienerFest.Anzahl, 0, MesseDienerFestTabelle::HöchsterIndex + 1);
-    for (int k = 0; k < anzahl; ++k)
-        if (MesseDienerFest.Datum[k] == Messe.Datum[messe] &&
-            MesseDienerFest.Uhrzeit[k] == Messe.Uhrzeit[messe])
+    std::optional<int> letzter;
+    for (int k = anzahl - 1; k >= 0; --k) {
+        if (!Meint(MesseDienerFest, k, Messe, ort.Messe))
+            continue;
+        if (ort.Was == Planplatz::Art::Diener && IstBelegt(MesseDienerFest, k, ort.Nr))
             return k;
-    return std::nullopt;
+        if (!letzter)
+            letzter = k;
+    }
+    return letzter;
 }
 
 } // namespace
@@ -29,16 +38,16 @@ Fund StelleVon(const Planplatz &ort)
     return {Fundort::Messe, ort.Messe, 0, ""};
 }
 
-Fund FesterEintragVon(int messe)
+Fund FesterEintragVon(const Planplatz &ort)
 {
-    const auto eintrag = FesterEintrag(messe);
+    const auto eintrag = FesterEintrag(ort);
     return eintrag ? Fund{Fundort::FesterEintrag, *eintrag, 1, ""}
-                   : Fund{Fundort::Messe, messe, 0, ""};
+                   : Fund{Fundort::Messe, ort.Messe, 0, ""};
 }
 
 bool HatFestenEintrag(int messe)
 {
-    return FesterEintrag(messe).has_value();
+    return FesterEintrag({messe, Planplatz::Art::Messe, 0}).has_value();
 }
 
 std::vector<Planweg> WegeVon(const Planplatz &ort, const Planprüfung &prüfung)
@@ -50,7 +59,7 @@ std::vector<Planweg> WegeVon(const Planplatz &ort, const Planprüfung &prüfung)
                                            ? Fund{Fundort::Messe, ort.Messe, 0, ""}
                                            : StelleVon(ort)});
     if (HatFestenEintrag(ort.Messe))
-        wege.push_back({"Zur festen Zuordnung", FesterEintragVon(ort.Messe)});
+        wege.push_back({"Zur festen Zuordnung", FesterEintragVon(ort)});
     if (ort.Was == Planplatz::Art::Messe)
         return wege;
     const int nr = prüfung.WerSteht(ort);

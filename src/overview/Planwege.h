@@ -12,8 +12,8 @@ namespace altardienst {
 /// else in the mass list.
 Fund StelleVon(const Planplatz &ort);
 
-/// The first fixed entry for a mass; its place in the mass list if there is none.
-Fund FesterEintragVon(int messe);
+/// The fixed entry that counts for a place or a mass; its place in the mass list if there is none.
+Fund FesterEintragVon(const Planplatz &ort);
 bool HatFestenEintrag(int messe);
 
 struct Planweg {

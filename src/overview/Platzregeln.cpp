@@ -162,12 +162,16 @@ void Messenprüfung::HelferPrüfen(Planplatz platz, int nr, Befunde &befunde) co
 
 void Messenprüfung::GegenPersonPrüfen(Planplatz platz, int nr, Befunde &befunde) const
 {
-    if (platz.Was == Planplatz::Art::Helfer) {
-        AndereDienstePrüfen(platz, Planregister::ErsterHelfer + nr, Stufe::Hinweis, befunde);
+    const bool helfend = platz.Was == Planplatz::Art::Helfer;
+    const int person = helfend ? Planregister::ErsterHelfer + nr : nr;
+    if (helfend) {
+        AndereDienstePrüfen(platz, person, Stufe::Hinweis, befunde);
         HelferPrüfen(platz, nr, befunde);
     } else {
         DienergründePrüfen(platz, nr, befunde);
     }
+    if (plan.IstNamensgleich(person))
+        Melden(befunde, {Stufe::Hinweis, Regel::Mehrdeutig, platz});
 }
 
 void Messenprüfung::DienergründePrüfen(Planplatz platz, int nr, Befunde &befunde) const

@@ -86,12 +86,14 @@ Text Befundzahlen(const Planprüfung &prüfung, const Regelwahl &regeln)
             if (Gilt(regeln, befund))
                 ++(befund.Grad == Stufe::Verstoß ? verstöße : hinweise);
     Text text = Befundzahl(verstöße, hinweise);
-    const char *davor = ", ohne ";
+    const char *davor = " (nicht beachtet: ";
     for (std::size_t nr = 0; nr < regeln.size(); ++nr)
         if (!regeln[nr]) {
             text += davor + Regelname(static_cast<Regel>(nr));
             davor = ", ";
         }
+    if (regeln != AlleRegeln)
+        text += ")";
     return text;
 }
 

@@ -151,7 +151,7 @@ void WerKannHierForm::Markiert()
     if (!einer)
         return Gründe->setText(modell->rowCount() == 0 && Namenfilter->text().isEmpty()
                                    ? "Es gibt niemanden, der hier stehen könnte."
-                                   : "Niemand heißt so.");
+                                   : "Das trifft auf niemanden zu.");
     const QStringList gründe = modell->Gründe(Zeile());
     Gründe->setText(gründe.isEmpty() ? "Nichts spricht gegen " + Name(modell->In(Zeile())) + "."
                                      : gründe.join(' '));

@@ -175,7 +175,11 @@ TEST_F(PlanprüfungEigenschaftenTest, FolgtJederÄnderung)
             if (w.Prozent(5))
                 Messe.Datum[platz.Messe] = Beginn + w.Zahl(0, 20);
             if (w.Prozent(5))
-                Messe.Dienerzahl[platz.Messe] = w.Zahl(0, 20);
+                Messe.Dienerzahl[platz.Messe] = w.Zahl(-1, 30);
+            if (w.Prozent(5))
+                Messe.Uhrzeit[platz.Messe] = Messe.Uhrzeit[w.Zahl(0, Messe.Anzahl - 1)];
+            if (w.Prozent(5))
+                Messe.KantorZahl[platz.Messe] = w.Zahl(0, 2);
             if (w.Prozent(5))
                 Messe.LektorZahl[platz.Messe] = w.Zahl(0, 2);
             if (w.Prozent(5))

@@ -86,6 +86,12 @@ TEST(KalenderzeileTest, NichtsWirdZerrissen)
     EXPECT_EQ(Zeile(fast + "x"), "SUMMARY:" + fast + "x\r\n");
 }
 
+TEST(KalenderzeileTest, AuchWasKeinTextIstWirdGefaltet)
+{
+    for (const std::string &zeile : Zeilen(Zeile(std::string(300, '\x80'))))
+        EXPECT_LE(zeile.size(), 75U);
+}
+
 TEST(KalenderzeileTest, JederTextKommtZurückWieErWar)
 {
     const std::vector<std::string> zeichen = {"a", "Z",  " ",  "ä", "€", "\U0001F56F",

@@ -73,11 +73,13 @@ template <class Tabelle> int GeänderteFelder(Tabelle &tabelle)
     return felder;
 }
 
-TEST_F(AbdruckTest, JedesFeldDerLeuteUndFestenEinträgeZählt)
+TEST_F(AbdruckTest, JedesFeldDerLeuteDerGruppenUndDerFestenEinträgeZählt)
 {
     EXPECT_EQ(GeänderteFelder(Meßdiener), 27);
     EXPECT_EQ(GeänderteFelder(Helfer), 16);
     EXPECT_EQ(GeänderteFelder(MesseDienerFest), 62);
+    Gruppe.Anzahl = 1;
+    EXPECT_EQ(GeänderteFelder(Gruppe), 1);
 }
 
 TEST_F(AbdruckTest, JedeEinstellungZählt)

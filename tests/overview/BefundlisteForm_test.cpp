@@ -163,6 +163,12 @@ TEST_F(BefundlisteFormTest, DerKnopfDrucktDiePrüflisteWieSieGegliedertIst)
     Klick(plan->Liste->Drucken);
     EXPECT_TRUE(gedruckt("Print \"Niemand Cohn\""));
     EXPECT_FALSE(gedruckt(Messenüberschrift(3)));
+    papier.Leeren();
+    Regelwahl ohne = AlleRegeln;
+    ohne[static_cast<std::size_t>(Regel::Unbekannt)] = false;
+    plan->Liste->Beachten(ohne);
+    Klick(plan->Liste->Drucken);
+    EXPECT_FALSE(gedruckt("Print \"Niemand Cohn\"")) << "on paper neither";
     Drucker = zuvor;
 }
 

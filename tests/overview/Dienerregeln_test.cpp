@@ -70,7 +70,7 @@ TEST_F(DienerregelnTest, WerEinenNamenTeiltWirdNichtBeurteilt)
     const int zweiter = MeßdienerAnlegen("Vor0", "Nach");
     Meßdiener.Von1[zweiter] = Meßdiener.Bis1[zweiter] = Tag(22);
     EXPECT_EQ(Befunde(),
-              Zeilen{"H 1 Mehrere heißen Vor0 Nach; wer hier steht, lässt sich nicht prüfen."});
+              Zeilen{"H 1 Mehrere heißen Vor0 Nach; wer gemeint ist, lässt sich nicht sagen."});
     Meßdiener.Nachname[zweiter] = "Nach.";
     EXPECT_EQ(Befunde(), Zeilen());
 }
@@ -126,9 +126,9 @@ TEST_F(DienerregelnTest, DieGrößeDarfUmDenSpielraumAbweichen)
     EXPECT_EQ(Befunde(), Zeilen());
     Meßdiener.Größe[3] = 173;
     Meßdiener.Größe[4] = 151;
-    EXPECT_EQ(Befunde(), (Zeilen{"H 4 Vor3 Nach ist 173 cm groß; in dieser Messe passen 152 bis "
+    EXPECT_EQ(Befunde(), (Zeilen{"H 4 Vor3 Nach ist 173 cm groß; hier passen 152 bis "
                                  "172 cm.",
-                                 "H 5 Vor4 Nach ist 151 cm groß; in dieser Messe passen 152 bis "
+                                 "H 5 Vor4 Nach ist 151 cm groß; hier passen 152 bis "
                                  "172 cm."}));
 }
 

@@ -87,8 +87,8 @@ TEST_F(KandidatenTest, JederGrundInDerReihenfolgeDerRegeln)
     EXPECT_EQ(Gründe(Dienerplatznr(i, 1))[1],
               "Max: Max Berg steht in dieser Messe auch auf Diener 3. Max Berg dient an diesem Tag "
               "auch um 18:00 Uhr, Hochamt. Max Berg dient schon am Vortag, 21.11., 10:00 Uhr, "
-              "Hochamt. Max Berg dient schon am Folgetag, 23.11., 10:00 Uhr, Hochamt. Max Berg ist "
-              "für den Dienst Kreuzträger nicht eingetragen. Max Berg ist vom 22.11. bis 22.11. "
+              "Hochamt. Max Berg dient auch am Folgetag, 23.11., 10:00 Uhr, Hochamt. Max Berg ist "
+              "für den Dienst Kreuzträger nicht eingetragen. Max Berg ist am 22.11. "
               "nicht dienstbereit. Max Berg möchte nicht im Wochendienst dienen. Max Berg möchte "
               "nicht an einem Montag dienen.");
     EXPECT_EQ(Wer(Dienerplatznr(i, 1))[1].Rang(), 2);
@@ -106,7 +106,7 @@ TEST_F(KandidatenTest, DieGrößeIstNurEinHinweis)
     Einsetzen(i, 1, anna);
     EXPECT_EQ(Gründe(Dienerplatznr(i, 2)),
               (Zeilen{"Carl:",
-                      "Ben: Ben Berg ist 161 cm groß; in dieser Messe passen 140 bis 160 "
+                      "Ben: Ben Berg ist 161 cm groß; hier passen 140 bis 160 "
                       "cm.",
                       "Anna: Anna Berg steht in dieser Messe auch auf Diener 1."}));
     EXPECT_EQ(Wer(Dienerplatznr(i, 2))[1].Rang(), 1);
@@ -123,8 +123,62 @@ TEST_F(KandidatenTest, DerFesteEintragStehtGegenAlleAnderen)
     MesseDienerFest.Vorname[0][1] = "Ben";
     MesseDienerFest.Nachname[0][1] = "Berg";
     EXPECT_EQ(Gründe(Dienerplatznr(i, 1)),
-              (Zeilen{"Ben:", "Anna: Auf Diener 1 gehört durch feste Zuordnung Ben Berg, nicht "
+              (Zeilen{"Ben:", "Anna: Für Diener 1 ist Ben Berg fest zugeordnet, nicht "
                               "Anna Berg."}));
+}
+
+TEST_F(KandidatenTest, DerPartnerDarfVonAnderemGeschlechtSein)
+{
+    const int i = Hochamt(Tag(22), 2);
+    const int anna = MeßdienerAnlegen("Anna", "Berg", 150, "weiblich");
+    const int ben = MeßdienerAnlegen("Ben", "Berg", 150);
+    Meßdiener.WunschVorname[anna] = "Ben";
+    Meßdiener.WunschNachname[anna] = "Berg";
+    Meßdiener.WunschVorname[ben] = "";
+    for (const int slot : {1, 2}) {
+        const std::vector<Platzkandidat> alle = Wer(Dienerplatznr(i, slot));
+        const auto sie = std::ranges::find(alle, anna, &Platzkandidat::Nr);
+        EXPECT_EQ(sie->Partnerplatz, 3 - slot);
+    }
+}
+
+TEST_F(KandidatenTest, DerPartnerBrichtKeinAnderesPaar)
+{
+    const int i = Hochamt(Tag(22), 4);
+    const int anna = MeßdienerAnlegen("Anna", "Berg");
+    const int ben = MeßdienerAnlegen("Ben", "Berg");
+    const int eva = MeßdienerAnlegen("Eva", "Berg", 150, "weiblich");
+    const int carl = MeßdienerAnlegen("Carl", "Berg");
+    Meßdiener.WunschVorname[anna] = "Ben";
+    Meßdiener.WunschNachname[anna] = "Berg";
+    Einsetzen(i, 1, carl);
+    Einsetzen(i, 4, carl);
+    const auto platz = [&] {
+        const std::vector<Platzkandidat> alle = Wer(Dienerplatznr(i, 2));
+        return std::ranges::find(alle, anna, &Platzkandidat::Nr)->Partnerplatz;
+    };
+    EXPECT_EQ(Wer(Dienerplatznr(i, 2)).size(), 4U);
+    EXPECT_EQ(platz(), 3) << "beside a boy";
+    Einsetzen(i, 4, eva);
+    EXPECT_NE(platz(), 3) << "there he would stand as a pair with a girl";
+    EXPECT_GE(ben, 0);
+}
+
+TEST_F(KandidatenTest, VonGleichnamigenWeißNiemandWoSieStehen)
+{
+    const int i = Hochamt(Tag(22), 2);
+    const int anna = MeßdienerAnlegen("Anna", "Berg");
+    MeßdienerAnlegen("Anna", "Berg");
+    MeßdienerAnlegen("Ben", "Berg");
+    Einsetzen(i, 1, anna);
+    const Text satz = "Anna: Mehrere heißen Anna Berg; wer gemeint ist, lässt sich nicht sagen.";
+    EXPECT_EQ(Gründe(Dienerplatznr(i, 2)), (Zeilen{"Ben:", satz, satz}));
+    EXPECT_EQ(Wer(Dienerplatznr(i, 2))[1].Rang(), 1);
+    HelferAnlegen("Lea", "Lang", "Lektor");
+    HelferAnlegen("Lea", "Lang", "Lektor");
+    Messe.LektorZahl[i] = 1;
+    EXPECT_EQ(Gründe(Helferplatznr(i, 0)).at(1),
+              "Lea: Mehrere heißen Lea Lang; wer gemeint ist, lässt sich nicht sagen.");
 }
 
 TEST_F(KandidatenTest, DerWunschpartnerFindetEinenPlatzDaneben)

@@ -67,6 +67,18 @@ TEST(NamenspaareTest, JederNameHatDasSeine)
     EXPECT_EQ(paare.Finden(erwartet.begin()->first.first, erwartet.begin()->first.second), nullptr);
 }
 
+TEST(NamenspaareTest, UmlauteSindBuchstabenWieAndere)
+{
+    Namenspaare<int> paare;
+    paare.Eintragen("Änne", "Öhlschläger").first = 1;
+    paare.Eintragen("Änne", "Ohlschläger").first = 2;
+    paare.Eintragen("Ä", "Ö").first = 3;
+    EXPECT_EQ(*paare.Finden("Änne", "Öhlschläger"), 1);
+    EXPECT_EQ(*paare.Finden("Änne", "Ohlschläger"), 2);
+    EXPECT_EQ(*paare.Finden("Ä", "Ö"), 3);
+    EXPECT_EQ(paare.Finden("Ö", "Ä"), nullptr);
+}
+
 TEST(NamenspaareTest, WasEingetragenIstBleibtWoEsIst)
 {
     Namenspaare<Text> paare;

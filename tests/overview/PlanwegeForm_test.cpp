@@ -3,6 +3,7 @@
 #include "overview/Planstand.h"
 
 #include "core/Messenname.h"
+#include "overview/Planwege.h"
 #include "overview/WerKannHierForm.h"
 #include "planning/MessenlisteForm.h"
 
@@ -34,6 +35,36 @@ TEST_F(PlanwegeFormTest, EinKlickAufEinenNamenMarkiertAllePlätzeDerPerson)
     Anklicken(Zelle(3, Plätze + 1));
     EXPECT_EQ(Modell()->Markierter(), -1);
     EXPECT_EQ(Zeigt(plan->Person), "");
+}
+
+TEST_F(PlanwegeFormTest, VonMehrerenFestenEinträgenZähltDerLetzteDerDenPlatzNennt)
+{
+    MesseDienerFest.Anzahl = 4;
+    for (const int k : {0, 1, 2}) {
+        MesseDienerFest.Datum[k] = Messe.Datum[1];
+        MesseDienerFest.Uhrzeit[k] = Messe.Uhrzeit[1];
+    }
+    for (const int k : {0, 1}) {
+        MesseDienerFest.Vorname[k][2] = "Doris";
+        MesseDienerFest.Nachname[k][2] = "Dorn";
+    }
+    const auto eintrag = [](const Planplatz &ort) { return FesterEintragVon(ort).Satz; };
+    EXPECT_EQ(eintrag(Dienerplatznr(1, 2)), 1);
+    EXPECT_EQ(eintrag(Dienerplatznr(1, 1)), 2) << "none names somebody for it";
+    EXPECT_EQ(eintrag({1, Planplatz::Art::Messe, 0}), 2);
+    EXPECT_EQ(FesterEintragVon(Dienerplatznr(0, 1)).Wo, Fundort::Messe);
+    MesseDienerFest.Anzahl = 1;
+    EXPECT_EQ(eintrag({1, Planplatz::Art::Messe, 0}), 0) << "as the window counts";
+}
+
+TEST_F(PlanwegeFormTest, EinePersonWirdAuchInAusgeblendetenMessenGezeigt)
+{
+    PlanÖffnen();
+    Klick(plan->NurAuffälliges);
+    ASSERT_EQ(plan->Tafel->model()->rowCount(), 1);
+    plan->PersonZeigen("Anna", "Adler");
+    EXPECT_FALSE(plan->NurAuffälliges->isChecked());
+    EXPECT_EQ(plan->Tafel->currentIndex(), Zelle(0, Plätze));
 }
 
 TEST_F(PlanwegeFormTest, DieEingabetasteFragtWerHierKann)

@@ -62,7 +62,7 @@ TEST_F(PrüflisteTest, GedrucktNachMessen)
         .Zeile("Montag, 23.11.2026, 10:00 Uhr, Hochamt")
         .Tut("FontBold aus")
         .Zeile("Verstoß: Anna Zett dient schon am Vortag, 22.11., 10:00 Uhr, Hochamt.")
-        .Zeile("Hinweis: Ben Adam ist 190 cm groß; in dieser Messe passen 160 bis 160 cm.")
+        .Zeile("Hinweis: Ben Adam ist 190 cm groß; hier passen 160 bis 160 cm.")
         .Tut("Print \"\"")
         .Tut("NewPage")
         .Tut("EndDoc");

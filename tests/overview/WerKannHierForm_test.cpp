@@ -145,7 +145,7 @@ TEST_F(WerKannHierFormTest, DerFilterSuchtInNameGruppeUndWunschpartner)
     EXPECT_EQ(Namen().size(), 2U);
     Tippen(form->Namenfilter, "niemand");
     EXPECT_EQ(Namen(), Liste{});
-    EXPECT_EQ(Zeigt(form->Gründe), "Niemand heißt so.");
+    EXPECT_EQ(Zeigt(form->Gründe), "Das trifft auf niemanden zu.");
     EXPECT_FALSE(form->Einsetzen->isEnabled());
     EXPECT_FALSE(form->MitPartner->isEnabled());
 }

@@ -68,7 +68,7 @@ TEST_F(WunschregelnTest, EinPlatzNachDemLetztenIstKeinPlatzDaneben)
     EXPECT_EQ(Befunde(),
               (Zeilen{"H 2 Vor1 Nach dient ohne den Wunschpartner Anna Berg.",
                       "H 3 Anna Berg steht auf Diener 3, die Messe hat aber nur 2 Meßdiener; "
-                      "gedruckt wird der Name."}));
+                      "der Name wird trotzdem gedruckt."}));
 }
 
 TEST_F(WunschregelnTest, MehrPaareAlsDieHäufigkeitErlaubt)
@@ -123,10 +123,9 @@ TEST_F(WunschregelnTest, EinFesterEintragWillSeinenPlatz)
     EXPECT_EQ(Befunde(), Zeilen());
     Einsetzen(i, 1, MeßdienerAnlegen("Anna", "Berg"));
     Leeren(Messe, Dienerplatznr(i, 20));
-    EXPECT_EQ(Befunde(),
-              (Zeilen{"V 1 Auf Diener 1 gehört durch feste Zuordnung Vor0 Nach, nicht Anna Berg.",
-                      "V 20 Auf Diener 20 gehört durch feste Zuordnung Vor19 Nach; der Platz ist "
-                      "frei."}));
+    EXPECT_EQ(Befunde(), (Zeilen{"V 1 Für Diener 1 ist Vor0 Nach fest zugeordnet, nicht Anna Berg.",
+                                 "V 20 Für Diener 20 ist Vor19 Nach fest zugeordnet; der Platz ist "
+                                 "frei."}));
     const Planprüfung prüfung;
     EXPECT_EQ(Betroffener(prüfung.Tabellen(), prüfung.Alle()[0]), "Vor0 Nach");
 }
@@ -167,7 +166,7 @@ TEST_F(WunschregelnTest, EineFesteGruppeIstMitEinemIhrerLeuteZufrieden)
     Gruppe.Anzahl = 1;
     Gruppe.Bezeichnung[0] = "Die Großen";
     Festlegen(i, 1, "Gruppe", "Die Großen");
-    EXPECT_EQ(Befunde(), Zeilen{"V 1 Auf Diener 1 gehört durch feste Zuordnung Gruppe Die Großen, "
+    EXPECT_EQ(Befunde(), Zeilen{"V 1 Für Diener 1 ist Gruppe Die Großen fest zugeordnet, "
                                 "nicht Vor0 Nach."});
     Meßdiener.Gruppe[0] = "Die Großen";
     EXPECT_EQ(Befunde(), Zeilen());
@@ -182,7 +181,7 @@ TEST_F(WunschregelnTest, NamenNachDemLetztenPlatzWerdenGenannt)
     const int anna = MeßdienerAnlegen("Anna", "Berg");
     Einsetzen(i, 3, anna);
     Einsetzen(i, 20, anna);
-    const Text ende = ", die Messe hat aber nur 2 Meßdiener; gedruckt wird der Name.";
+    const Text ende = ", die Messe hat aber nur 2 Meßdiener; der Name wird trotzdem gedruckt.";
     EXPECT_EQ(Befunde(), (Zeilen{"H 3 Anna Berg steht auf Diener 3" + ende,
                                  "H 20 Anna Berg steht auf Diener 20" + ende}));
     // They serve nowhere: not here twice, and not on the day before.
