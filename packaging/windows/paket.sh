@@ -51,7 +51,8 @@ paket_prüfen() {
     bis fenster_offen '^Datendateien kopieren$' || paket_scheitert "no copy dialog"
     unter_wine "$entfernen" /S || true
     sleep 2
-    [ -x "$ort/altardienst.exe" ] || paket_scheitert "it is removed while it is open"
+    [ -x "$ort/altardienst.exe" ] && [ -e "$ort/Entfernen.exe" ] ||
+        paket_scheitert "it is removed while it is open"
     taste Return # that there are no files yet
     sleep 1
     taste alt+F4

@@ -20,7 +20,7 @@ wine_gehört() {
 unter_wine() {
     als_benutzer env HOME="$WINE_HEIM" WINEPREFIX="$WINE_HEIM/wine" WINEDEBUG=-all LC_ALL=C.UTF-8 \
         WINEDLLOVERRIDES="mscoree,mshtml=;winedbg.exe=" DISPLAY="$WINE_BILDSCHIRM" \
-        timeout -k 5 "${WINE_FRIST:-1800}" wine "$@"
+        timeout -k 5 "${WINE_FRIST:-3600}" wine "$@"
 }
 
 # A screen on which every window has room that a test makes, with a window manager, without which Wine

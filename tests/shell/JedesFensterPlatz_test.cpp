@@ -34,14 +34,14 @@ class JedesFensterPlatz : public JedesFenster {
                 fenster->showNormal();
                 fenster->resize(platz);
                 Ruhe(0);
-                EXPECT_TRUE(Warten([&] { // a window manager may answer late
-                    const bool paßt =
-                        fenster->width() <= platz.width() && fenster->height() <= platz.height();
-                    if (!paßt)
-                        fenster->resize(platz);
-                    return paßt;
-                })) << fenster->width()
-                    << " x " << fenster->height();
+                const auto paßt = [&] {
+                    return fenster->width() <= platz.width() && fenster->height() <= platz.height();
+                };
+                for (int runde = 0; runde < 20 && !paßt(); ++runde) {
+                    fenster->resize(platz); // a window manager may answer late
+                    Ruhe(5);
+                }
+                EXPECT_TRUE(paßt()) << fenster->width() << " x " << fenster->height();
                 prüfen(name, fenster);
                 const auto *liste = fenster->findChild<QWidget *>("Liste");
                 auto *griff = fenster->findChild<QToolButton *>("Listengriff");
