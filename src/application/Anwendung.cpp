@@ -9,6 +9,7 @@
 #include "application/Nebenfenster.h"
 #include "application/Wartezeiger.h"
 #include "controls/Bausteine.h"
+#include "controls/Handler.h"
 #include "controls/Stil.h"
 #include "core/Allgemein.h"
 #include "paper/Druckdialog.h"
@@ -20,6 +21,7 @@
 #include <QLocale>
 #include <QPointer>
 #include <QProcess>
+#include <QTimer>
 #include <QUrl>
 
 #include <filesystem>
@@ -38,6 +40,18 @@ struct Vertretung {
 };
 
 std::vector<Vertretung> vertretungen; // the last one of a form counts
+
+/// What opens comes first: the main window is drawn grey a moment later, if the desktop has not put
+/// it away by then.
+void HauptfensterSperren()
+{
+    constexpr int Augenblick = 150; // milliseconds
+    Hauptfenster->setUpdatesEnabled(false);
+    Hauptfenster->setEnabled(false);
+    Hauptfenster->showMinimized();
+    QTimer::singleShot(Augenblick, Hauptfenster,
+                       Nebenbei([haupt = Hauptfenster.data()] { haupt->setUpdatesEnabled(true); }));
+}
 
 } // namespace
 
@@ -117,8 +131,7 @@ void DialogÖffnen(QWidget *dialog)
     if (Hauptfenster) {
         if (Hauptfenster->isEnabled())
             FokusZuvor = Hauptfenster->focusWidget();
-        Hauptfenster->setEnabled(false);
-        Hauptfenster->showMinimized();
+        HauptfensterSperren();
     }
     DialogDanebenÖffnen(dialog);
 }
@@ -127,6 +140,7 @@ void HauptfensterZurück()
 {
     if (!Hauptfenster)
         return;
+    Hauptfenster->setUpdatesEnabled(true);
     Hauptfenster->setEnabled(true);
     Hauptfenster->showMaximized();
     Hauptfenster->activateWindow();

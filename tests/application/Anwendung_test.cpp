@@ -47,6 +47,17 @@ TEST_F(AnwendungTest, EinDialogSperrtUndVerkleinertDasHauptfenster)
     EXPECT_TRUE(Warten([&] { return dialog->isActiveWindow(); }));
 }
 
+TEST_F(AnwendungTest, ErstKommtDerDialogDannDasGraueHauptfenster)
+{
+    NeuerDialog();
+    EXPECT_FALSE(haupt->updatesEnabled());
+    EXPECT_TRUE(Warten([&] { return haupt->updatesEnabled(); })) << "where it stays in sight";
+    NeuerDialog()->close();
+    EXPECT_FALSE(haupt->updatesEnabled());
+    HauptfensterZurück();
+    EXPECT_TRUE(haupt->updatesEnabled()) << "at once";
+}
+
 TEST_F(AnwendungTest, ZurückIstDasHauptfensterFreiUndMaximiert)
 {
     NeuerDialog()->close();
