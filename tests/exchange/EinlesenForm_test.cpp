@@ -142,6 +142,15 @@ TEST_F(EinlesenFormTest, JedeSpalteLässtSichVonHandZuordnen)
     EXPECT_EQ(Bedeutung(2)->currentText(), "(nicht einlesen)");
 }
 
+/// What another column now means, this one is not read as any more.
+TEST_F(EinlesenFormTest, GelesenWirdAusDerZuletztGewähltenSpalte)
+{
+    Lesen("Vorname;Name;X;Telefon\nMia;Dorn;1111;2222\n");
+    EXPECT_EQ(Vorschau(), (Liste{"[x] + neu | Dorn, Mia | Telefon: 2222; Größe: 150"}));
+    Bedeutung(3)->setCurrentText("Telefon");
+    EXPECT_EQ(Vorschau(), (Liste{"[x] + neu | Dorn, Mia | Telefon: 1111; Größe: 150"}));
+}
+
 TEST_F(EinlesenFormTest, AuchHelferUndDieWahlGiltFürDieselbeDatei)
 {
     Lesen("Vorname;Name;Dienst\nMaria;Linde;Kantor\nPaul;Quast;Kollekte\n");
