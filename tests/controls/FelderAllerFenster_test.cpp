@@ -1,6 +1,7 @@
 // Every box of every window: what it says about a text that it cannot hold, its calendar, its
 // tooltip.
 #include "AlleFenster.h"
+#include "Ruhe.h"
 #include "application/Datensatzliste.h"
 #include "controls/Feldmarke.h"
 #include "controls/Hinweise.h"
@@ -362,7 +363,11 @@ TEST_F(FelderAllerFenster, DieHinweiseStehenSoImHandbuch)
 void FülltDieBreite(QWidget *form, QSize platz)
 {
     form->resize(platz);
-    QCoreApplication::processEvents();
+    Ruhe(0);
+    for (int runde = 0; runde < 20 && form->size() != platz; ++runde) {
+        form->resize(platz); // a window manager may answer late
+        Ruhe(5);
+    }
     EXPECT_EQ(form->size(), platz);
     for (const QScrollArea *fläche : form->findChildren<QScrollArea *>()) {
         EXPECT_EQ(fläche->horizontalScrollBar()->maximum(), 0);
