@@ -37,6 +37,9 @@ class Spalteneinpassung : public QObject {
     void Messen(const std::vector<int> &breiten)
     {
         const QAbstractItemView *ansicht = tafel; // there it is public
+        constexpr int Zeichen = 14;               // of what will stand there
+        const int leer =
+            tafel->model()->rowCount() > 0 ? 0 : Zeichen * tafel->fontMetrics().averageCharWidth();
         gewünscht = breiten;
         mindestens.clear();
         for (int spalte = 0; spalte < kopf->count(); ++spalte) {
@@ -44,7 +47,7 @@ class Spalteneinpassung : public QObject {
             mindestens.push_back(titel);
             if (breiten.empty())
                 gewünscht.push_back(
-                    titel == 0 ? 0 : std::max(titel, ansicht->sizeHintForColumn(spalte)));
+                    titel == 0 ? 0 : std::max({titel, leer, ansicht->sizeHintForColumn(spalte)}));
         }
         Einpassen();
     }

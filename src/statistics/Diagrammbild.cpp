@@ -53,6 +53,13 @@ int Höchste(const std::vector<int> &anzahl)
     return std::max(1, *std::ranges::max_element(anzahl));
 }
 
+/// Short enough to stand upright.
+bool SindKurz(const std::vector<Text> &klassen)
+{
+    constexpr std::size_t Stellen = 3;
+    return std::ranges::all_of(klassen, [](const Text &eine) { return eine.size() <= Stellen; });
+}
+
 /// From the shade for one to that for the most: 0 to 1.
 double Stärke(int wert, int höchste)
 {
@@ -213,7 +220,7 @@ void Diagrammbild::BalkenZeichnen(const Achse &klassen, const char *anzahltitel,
     QCPAxis *xAxis = zeichnung->xAxis;
     QCPAxis *yAxis = zeichnung->yAxis;
     zeichnung->KlassenAnschreiben(xAxis, klassen);
-    xAxis->setTickLabelRotation(-60);
+    xAxis->setTickLabelRotation(SindKurz(klassen.Klassen) ? 0 : -60);
 
     const QSharedPointer<QCPAxisTickerFixed> ganze(new QCPAxisTickerFixed);
     ganze->setTickStep(1);

@@ -5,8 +5,9 @@
 #include "controls/LesenOderFokus.h"
 #include "core/Umwandlung.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
-#include <QMenu>
+#include <QComboBox>
 #include <QVBoxLayout>
 
 namespace altardienst {
@@ -61,12 +62,13 @@ TEST_F(KurztastenTest, EscapeVerwirftOhneDasFeldZuPrüfen)
 /// A desktop hands the keys over a list that hangs open to the shortcuts of the window below, too.
 TEST_F(KurztastenTest, EscapeSchließtZuerstWasAufgeklapptIst)
 {
-    QMenu liste(feld);
-    liste.addAction("Eintrag");
-    liste.popup(feld->mapToGlobal(QPoint(0, 20)));
-    ASSERT_EQ(QApplication::activePopupWidget(), &liste);
-    QTest::keyClick(&liste, Qt::Key_Escape);
-    EXPECT_FALSE(liste.isVisible());
+    QComboBox wahl(&fenster);
+    wahl.addItem("Eintrag");
+    wahl.show();
+    wahl.showPopup();
+    ASSERT_TRUE(QApplication::activePopupWidget());
+    QTest::keyClick(wahl.view(), Qt::Key_Escape);
+    EXPECT_FALSE(QApplication::activePopupWidget());
     EXPECT_EQ(ereignisse.find("Abbrechen"), Text::npos);
     Drücken(Qt::Key_Escape, Qt::NoModifier);
     EXPECT_NE(ereignisse.find("Abbrechen"), Text::npos);

@@ -81,6 +81,14 @@ TEST_F(LesetafelTest, AndereZeilenBekommenIhrenPlatz)
     EXPECT_FALSE(Rollt());
 }
 
+TEST_F(LesetafelTest, InEinerLeerenStehenDieTitelNichtGedrängt)
+{
+    tafel.setRowCount(0);
+    SpaltenEinpassen(&tafel);
+    EXPECT_GT(tafel.columnWidth(1), tafel.horizontalHeader()->sectionSizeHint(1) + 20);
+    EXPECT_FALSE(Rollt());
+}
+
 TEST_F(LesetafelTest, WasDerBenutzerZiehtBleibt)
 {
     tafel.setColumnWidth(0, 140);

@@ -245,7 +245,7 @@ TEST_F(DiagrammeFormTest, DieFelderUnterscheidetIhreHelligkeit)
     std::map<int, double> felder = {{1, 1.0}}; // the first is white
     for (int k = 0; k < plot->itemCount(); ++k)
         if (const auto *feld = dynamic_cast<QCPItemRect *>(plot->item(k)))
-            felder[static_cast<int>(feld->topLeft->key() + 0.5)] =
+            felder[static_cast<int>(std::lround(feld->topLeft->key() + 0.5))] =
                 Leuchtdichte(feld->brush().color());
     ASSERT_EQ(felder.size(), Höchste + 1U);
     for (int k = 2; k <= Höchste + 1; ++k)
@@ -260,14 +260,26 @@ TEST_F(DiagrammeFormTest, DieFelderUnterscheidetIhreHelligkeit)
         }
 }
 
+TEST_F(DiagrammeFormTest, NurLangeKlassenStehenSchräg)
+{
+    for (const auto &[klassen, winkel] :
+         {std::pair(std::vector<Text>{"0", "12"}, 0.0), {{"9 Jahre", "10 Jahre"}, -60.0}}) {
+        Diagrammbild bild("Bild", "Titel");
+        bild.BalkenZeigen({"Klasse", klassen}, "Anzahl", {3, 1});
+        EXPECT_EQ(dynamic_cast<QCustomPlot *>(bild.children().back())->xAxis->tickLabelRotation(),
+                  winkel);
+    }
+}
+
 /// How far the figures in a chart stand out from what they are written on, at least.
 double KleinsterKontrast(QCustomPlot &plot, const QColor &grund)
 {
     std::map<std::pair<int, int>, QColor> felder;
     for (int k = 0; k < plot.itemCount(); ++k)
         if (const auto *feld = dynamic_cast<QCPItemRect *>(plot.item(k)))
-            felder[{static_cast<int>(feld->topLeft->key() + 0.5),
-                    static_cast<int>(feld->topLeft->value() - 0.5)}] = feld->brush().color();
+            felder[{static_cast<int>(std::lround(feld->topLeft->key() + 0.5)),
+                    static_cast<int>(std::lround(feld->topLeft->value() - 0.5))}] =
+                feld->brush().color();
     double kleinster = 21;
     for (int k = 0; k < plot.itemCount(); ++k)
         if (const auto *text = dynamic_cast<QCPItemText *>(plot.item(k))) {
