@@ -15,6 +15,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <utility>
 
 namespace altardienst {
 namespace {
@@ -50,7 +51,8 @@ void GroßerPlan()
 
 std::string AlsKalender()
 {
-    return MessenAlsKalender(GemeinsameTabellen(), Namenvorschlag).Dateien.at(0).Bytes;
+    Kalenderausgabe ausgabe = MessenAlsKalender(GemeinsameTabellen(), Namenvorschlag);
+    return std::move(ausgabe.Dateien.at(0).Bytes);
 }
 
 std::string AlsWebseite()

@@ -53,6 +53,11 @@ Gemessen Messen(const Blatttafel &tafel)
 {
     Gemessen gemessen;
     gemessen.Zahlen.reserve(tafel.Zeilen.size() * tafel.Köpfe.size());
+    std::size_t stücke = 0;
+    for (const auto &zeile : tafel.Zeilen)
+        for (const Stücke &zelle : zeile)
+            stücke += zelle.size();
+    gemessen.Stücke.reserve(stücke);
     for (const Text &kopf : tafel.Köpfe)
         gemessen.Mindestens.push_back(Textbreite(kopf) * Kopfanteil);
     gemessen.Gern = gemessen.Mindestens;

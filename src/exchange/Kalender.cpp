@@ -2,7 +2,6 @@
 #include "exchange/Kalender.h"
 
 #include "assignment/Gr√ºnde.h"
-#include "core/Umwandlung.h"
 #include "exchange/Kalenderschreiber.h"
 #include "exchange/Planauszug.h"
 #include "overview/Gruppenplatz.h"
@@ -53,8 +52,14 @@ Text Kennung(const Plantabellen &tabellen, const Auszugsmesse &eine, const Empf√
                                     : Pr√ºfzahl({gemeinde, art});
     const Kalendertag tag = KalendertagVon(messen.Datum[eine.Messe]);
     const int sekunden = SekundenVon(messen.Uhrzeit[eine.Messe]);
-    Text kennung = FesteStellen(tag.Jahr, 4, 0);
-    const auto zweiStellen = [&](int zahl) { kennung += FesteStellen(zahl, 2, 0); };
+    Text kennung;
+    kennung.reserve(64);
+    const auto zweiStellen = [&](int zahl) {
+        kennung += static_cast<char>('0' + zahl / 10 % 10);
+        kennung += static_cast<char>('0' + zahl % 10);
+    };
+    zweiStellen(tag.Jahr / 100);
+    zweiStellen(tag.Jahr);
     zweiStellen(tag.Monat);
     zweiStellen(tag.Tag);
     kennung += 'T';
@@ -64,7 +69,8 @@ Text Kennung(const Plantabellen &tabellen, const Auszugsmesse &eine, const Empf√
     kennung += '-';
     for (int bit = 60; bit >= 0; bit -= 4)
         kennung += "0123456789abcdef"[woran >> bit & 15];
-    return kennung + '-' + std::to_string(eine.Gleiche + 1) + "@altardienst";
+    kennung += '-';
+    return kennung.append(std::to_string(eine.Gleiche + 1)).append("@altardienst");
 }
 
 /// "Leuchter: Anna A., Ben B.", one line a service, without the services of one person.
@@ -72,17 +78,17 @@ Text Dienstzeilen(const Auszugsmesse &messe, const Namengeber &namen, const Empf
 {
     Text zeilen;
     zeilen.reserve(messe.Dienste.size() * 20);
-    std::string_view dienst;
+    const Auszugsdienst *zuvor = nullptr;
     for (const Auszugsdienst &einer : messe.Dienste) {
         if (ohne && einer.Hat(ohne->Vorname, ohne->Nachname))
             continue;
-        if (einer.Dienst != dienst) {
+        if (!zuvor || !zuvor->IstSelberDienst(einer)) {
             zeilen += zeilen.empty() ? "" : "\n";
             zeilen.append(einer.Dienst).append(": ");
         } else {
             zeilen += ", ";
         }
-        dienst = einer.Dienst;
+        zuvor = &einer;
         zeilen += namen.Von(*einer.Vorname, *einer.Nachname);
     }
     return zeilen;

@@ -85,10 +85,13 @@ icaltimetype Weltzeitpunkt(Ortszeit zeit)
     return punkt;
 }
 
-icalproperty *InDerZone(icalproperty *zeit)
+/// A property of a time takes the library ten times as long as the time in it.
+void ZeitAnhängen(std::string &bytes, const char *name, icaltimetype zeit)
 {
-    icalproperty_add_parameter(zeit, icalparameter_new_tzid(Zone));
-    return zeit;
+    const std::unique_ptr<char, Freigeben> text(icaltime_as_ical_string_r(zeit));
+    if (!text)
+        throw std::bad_alloc();
+    bytes.append(name).append(text.get()).append("\r\n");
 }
 
 icalproperty *Erweiterung(const char *name, const char *wert)
@@ -164,14 +167,14 @@ void Kalenderschreiber::Anfügen(const Kalendereintrag &eintrag)
     TextzeileAnhängen(bytes, "UID", eintrag.Kennung);
     bytes += stempel;
     if (eintrag.GanzeWoche) {
-        Anhängen(bytes, icalproperty_new_dtstart(Tag(eintrag.Tag)));
-        Anhängen(bytes, icalproperty_new_dtend(Tag(eintrag.Tag + Woche)));
+        ZeitAnhängen(bytes, "DTSTART;VALUE=DATE:", Tag(eintrag.Tag));
+        ZeitAnhängen(bytes, "DTEND;VALUE=DATE:", Tag(eintrag.Tag + Woche));
         Anhängen(bytes, icalproperty_new_transp(ICAL_TRANSP_TRANSPARENT)); // takes up no time
     } else {
         const Ortszeit beginn = AufDerUhr({eintrag.Tag, eintrag.Sekunden});
         const Ortszeit ende = AufDerUhr(Später(beginn, Dauer));
-        Anhängen(bytes, InDerZone(icalproperty_new_dtstart(Zeitpunkt(beginn))));
-        Anhängen(bytes, InDerZone(icalproperty_new_dtend(Zeitpunkt(ende))));
+        ZeitAnhängen(bytes, "DTSTART;TZID=Europe/Berlin:", Zeitpunkt(beginn));
+        ZeitAnhängen(bytes, "DTEND;TZID=Europe/Berlin:", Zeitpunkt(ende));
     }
     TextzeileAnhängen(bytes, "SUMMARY", eintrag.Titel);
     if (!eintrag.Beschreibung.empty())

@@ -2,6 +2,7 @@
 #include "exchange/Kalenderzeile.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace altardienst {
@@ -31,10 +32,17 @@ class Faltzeile {
     std::size_t anfang; // of the line
 };
 
+/// One byte long and without a meaning, by its number.
+constexpr std::array<bool, 256> Einfache = [] {
+    std::array<bool, 256> einfache{};
+    for (std::size_t zahl = ' '; zahl < 0x7f; ++zahl)
+        einfache[zahl] = zahl != '\\' && zahl != ';' && zahl != ',';
+    return einfache;
+}();
+
 bool IstEinfach(char zeichen)
 {
-    const auto zahl = static_cast<unsigned char>(zeichen);
-    return zahl >= ' ' && zahl < 0x7f && zeichen != '\\' && zeichen != ';' && zeichen != ',';
+    return Einfache[static_cast<unsigned char>(zeichen)];
 }
 
 /// How many bytes of a text are one character and stay as they are.
@@ -72,8 +80,9 @@ void TextzeileAnhängen(std::string &bytes, std::string_view name, std::string_v
     zeile.Anhängen(name);
     zeile.Anhängen(":");
     while (!text.empty()) {
+        const std::size_t platz = std::min(text.size(), zeile.Rest());
         std::size_t länge = 0; // of what goes as it is, at once
-        while (länge < text.size() && länge < zeile.Rest() && IstEinfach(text[länge]))
+        while (länge < platz && IstEinfach(text[länge]))
             ++länge;
         if (länge > 0) {
             zeile.Anhängen(text.substr(0, länge));

@@ -17,6 +17,11 @@ struct Auszugsdienst {
     const Text *Nachname;
     bool VonHelfer;
 
+    /// Known by where the name of the kind stands.
+    bool IstSelberDienst(const Auszugsdienst &anderer) const
+    {
+        return Dienst.data() == anderer.Dienst.data();
+    }
     bool Hat(const Text &vorname, const Text &nachname) const
     {
         return *Nachname == nachname && *Vorname == vorname;

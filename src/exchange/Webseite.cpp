@@ -15,6 +15,7 @@
 #include <deque>
 #include <optional>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace altardienst {
@@ -107,19 +108,20 @@ class Tafelmacher {
         if (const Text zeit = Zeittext(messen, eine); !zeit.empty())
             zeile[0].push_back(termine.emplace_back(zeit));
         zeile[1] = Wörter(messen.Messeart[eine.Messe]);
-        Stücke *zelle = nullptr; // of the service before, which most share
-        std::string_view dienst;
-        for (const Auszugsdienst &einer : eine.Dienste) {
-            if (einer.Dienst != dienst) {
-                dienst = einer.Dienst;
-                const auto spalte = std::ranges::find(spalten, dienst, &Spalte::Dienst);
-                zelle = spalte == spalten.end()
-                            ? nullptr
-                            : &zeile[Dienstspalten +
-                                     static_cast<std::size_t>(spalte - spalten.begin())];
+        for (auto von = eine.Dienste.begin(); von != eine.Dienste.end();) {
+            const auto bis = std::find_if(von, eine.Dienste.end(), [&](const auto &einer) {
+                return !von->IstSelberDienst(einer);
+            });
+            const auto spalte = std::ranges::find(spalten, von->Dienst, &Spalte::Dienst);
+            if (spalte == spalten.end()) {
+                von = bis;
+                continue;
             }
-            if (zelle)
-                zelle->push_back(namen.Von(*einer.Vorname, *einer.Nachname));
+            Stücke &zelle =
+                zeile[Dienstspalten + static_cast<std::size_t>(spalte - spalten.begin())];
+            zelle.reserve(zelle.size() + static_cast<std::size_t>(bis - von));
+            for (; von != bis; ++von)
+                zelle.push_back(namen.Von(*von->Vorname, *von->Nachname));
         }
         return zeile;
     }
@@ -188,6 +190,22 @@ void AmStückAnhängen(std::string &seite, std::string_view text)
     Anhängen(seite, text, "\u00a0");
 }
 
+/// Names come often, and are written the same each time.
+class Namenschrift {
+  public:
+    /// The name without a place where the line may break. Known again by where it stands.
+    const std::string &Von(std::string_view name)
+    {
+        const auto [ort, neu] = geschriebene.try_emplace(name.data());
+        if (neu)
+            AmStückAnhängen(ort->second, name);
+        return ort->second;
+    }
+
+  private:
+    std::unordered_map<const char *, std::string> geschriebene;
+};
+
 /// "2026-11-28T18:30", for machines.
 Text Maschinenzeit(const MesseTabelle &messen, int messe)
 {
@@ -208,6 +226,7 @@ void ZeilenAnhängen(std::string &seite, const Plantabellen &tabellen,
                     const std::vector<Auszugsmesse> &auszug, const Blatttafel &tafel)
 {
     const MesseTabelle &messen = tabellen.Messen;
+    Namenschrift namen;
     for (std::size_t i = 0; i < auszug.size(); ++i) {
         const bool neueWoche =
             i > 0 && Woche(tabellen, auszug[i]) != Woche(tabellen, auszug[i - 1]);
@@ -226,7 +245,7 @@ void ZeilenAnhängen(std::string &seite, const Plantabellen &tabellen,
             seite += "<td>";
             for (const std::string_view &name : zeile[k]) {
                 seite += &name == &zeile[k].front() ? "" : ", ";
-                AmStückAnhängen(seite, name);
+                seite += namen.Von(name);
             }
             seite += "</td>";
         }

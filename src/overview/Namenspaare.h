@@ -31,7 +31,7 @@ template <class Wert> class Namenspaare {
     {
         if (fächer.empty())
             return nullptr;
-        const Eintrag *eintrag = fächer[Fach({vorname, nachname}, vorname, nachname)];
+        const Eintrag *eintrag = fächer[Ort({vorname, nachname}, vorname, nachname)].Inhalt;
         return eintrag ? &eintrag->Inhalt : nullptr;
     }
 
@@ -40,52 +40,53 @@ template <class Wert> class Namenspaare {
     {
         const Namenszahlen zahlen(vorname, nachname);
         if (!fächer.empty())
-            if (Eintrag *eintrag = fächer[Fach(zahlen, vorname, nachname)])
+            if (Eintrag *eintrag = fächer[Ort(zahlen, vorname, nachname)].Inhalt)
                 return {eintrag->Inhalt, false};
         if (fächer.size() < 2 * (einträge.size() + 1))
             Wachsen();
-        Eintrag *&fach = fächer[Fach(zahlen, vorname, nachname)];
-        fach = &einträge.emplace_back(Eintrag{zahlen, vorname, nachname, {}});
-        return {fach->Inhalt, true};
+        Eintrag &neuer = einträge.emplace_back(Eintrag{vorname, nachname, {}});
+        fächer[Ort(zahlen, vorname, nachname)] = {zahlen, &neuer};
+        return {neuer.Inhalt, true};
     }
 
   private:
-    /// The numbers lie in one cache line.
-    struct alignas(64) Eintrag {
-        Namenszahlen Zahlen;
+    struct Eintrag {
         Text Vorname;
         Text Nachname;
         Wert Inhalt;
     };
+    /// As long as a cache line: whoever looks for a name reads one, as a rule.
+    struct alignas(64) Fach {
+        Namenszahlen Zahlen;
+        Eintrag *Inhalt = nullptr; // null: the compartment is empty
+    };
 
     static constexpr std::size_t Anfangsfächer = 1024;
 
-    std::size_t FachFür(const Namenszahlen &zahlen) const
-    {
-        return zahlen.Prüfzahl() >> (64 - std::bit_width(fächer.size() - 1));
-    }
-
     /// The compartment of a name, or the empty one where it belongs.
-    std::size_t Fach(const Namenszahlen &zahlen, const Text &vorname, const Text &nachname) const
+    std::size_t Ort(const Namenszahlen &zahlen, const Text &vorname, const Text &nachname) const
     {
-        std::size_t fach = FachFür(zahlen);
-        while (fächer[fach] && !(fächer[fach]->Zahlen == zahlen &&
-                                 (zahlen.SagtAlles() || (fächer[fach]->Nachname == nachname &&
-                                                         fächer[fach]->Vorname == vorname))))
-            fach = (fach + 1) % fächer.size();
-        return fach;
+        std::size_t ort = zahlen.Prüfzahl() >> (64 - std::bit_width(fächer.size() - 1));
+        while (fächer[ort].Inhalt &&
+               !(fächer[ort].Zahlen == zahlen &&
+                 (zahlen.SagtAlles() || (fächer[ort].Inhalt->Nachname == nachname &&
+                                         fächer[ort].Inhalt->Vorname == vorname))))
+            ort = (ort + 1) % fächer.size();
+        return ort;
     }
 
     /// Twice as many compartments, at least twice as many as names.
     void Wachsen()
     {
-        fächer.assign(fächer.empty() ? Anfangsfächer : 2 * fächer.size(), nullptr);
-        for (Eintrag &eintrag : einträge)
-            fächer[Fach(eintrag.Zahlen, eintrag.Vorname, eintrag.Nachname)] = &eintrag;
+        fächer.assign(fächer.empty() ? Anfangsfächer : 2 * fächer.size(), {});
+        for (Eintrag &eintrag : einträge) {
+            const Namenszahlen zahlen(eintrag.Vorname, eintrag.Nachname);
+            fächer[Ort(zahlen, eintrag.Vorname, eintrag.Nachname)] = {zahlen, &eintrag};
+        }
     }
 
     std::deque<Eintrag> einträge;
-    std::vector<Eintrag *> fächer; // a power of two; nullptr is empty
+    std::vector<Fach> fächer; // a power of two
 };
 
 } // namespace altardienst
