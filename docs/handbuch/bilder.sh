@@ -21,8 +21,11 @@ Yıldız;Elif;24.12.2014;0221 4715560;Bonifatius;lila
 Pohl;Marie;31.2.2015;0221 4713370;Hildegard;gelb
 Seifert;Paul;2.7.2014;0221 4718091;Rosen;grün
 LISTE
-export HOME=$arbeit/pfarrbuero
-env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --saat 1 \
+# As wide as most screens, so that the lists of records stand open.
+echo '{"screens":[{"name":"","x":0,"y":0,"width":1280,"height":800,"logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]}' \
+    >"$arbeit/bildschirm.json"
+export HOME=$arbeit/pfarrbuero QT_QPA_PLATFORM=offscreen:configfile=$arbeit/bildschirm.json
+"$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --saat 1 \
     --schritte 1,4,5,6,2 \
     --menue mnuStandardmessen,mnuGruppe,mnuMeßdiener,mnuHelfer,mnuFilePrint,mnuKonfiguration,mnuJubGeb,mnuStatistik,mnuDatenSichern,mnuDatenHolen,mnuHintergrund,mnuHelpAbout,mnuMessen/NeuMeß,mnuMessen/Lektoren,mnuMeßdiener/NeuDiener,mnuFilePrint/Messendruck,mnuStände,mnuAusgleich,mnuVerteilung,mnuDienstzettel,mnuEMail,mnuTabellen,mnuEinlesen/Datei \
     --suche brückner --datei "$arbeit/Neue Messdiener.csv" \
@@ -63,12 +66,12 @@ bild Suchen suchen
 
 # The plan in place of the picture.
 mkdir "$arbeit/plan"
-env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --schritte "" \
+"$planlauf" --daten "$arbeit/daten" --heute 21.11.2026 --schritte "" \
     --menue mnuPlanAnzeigen --bilder "$arbeit/plan" >/dev/null 2>&1
 cp "$(ls "$arbeit"/plan/*-Haupt.png | tail -1)" bilder/auf-einen-blick.png
 
 # The first start.
 mkdir "$arbeit/erster"
-env -u QT_QPA_PLATFORM "$planlauf" --daten "$arbeit/nichts" --schritte "" \
+"$planlauf" --daten "$arbeit/nichts" --schritte "" \
     --bilder "$arbeit/erster" >/dev/null 2>&1
 cp "$arbeit"/erster/*-DateienKopieren.png bilder/kopieren.png

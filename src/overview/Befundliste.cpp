@@ -20,7 +20,7 @@ namespace altardienst {
 namespace {
 
 constexpr const char *Personenschlüssel = "Plan/BefundeNachPerson";
-constexpr int Mindestzeichen = 100; // for all three columns
+constexpr int Mindestzeichen = 130; // for all three columns
 
 /// Digits and letters belong to the main window; nothing is looked for by typing.
 class Befundbaum : public QTreeView {
