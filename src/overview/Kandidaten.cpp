@@ -53,7 +53,7 @@ void PartnerSuchen(const Planprüfung &prüfung, Planplatz platz, Platzkandidat 
 {
     const Plantabellen &t = prüfung.Tabellen();
     kandidat.Partner = prüfung.Wunschpartner(kandidat.Nr);
-    if (kandidat.Partner < 0)
+    if (kandidat.Partner < 0 || kandidat.Partner == kandidat.Nr) // nobody stands beside himself
         return;
     // The partner way puts the partner in the next slot; a pair begins at an odd one.
     const int paarslot = platz.Nr % 2 == 1 ? platz.Nr + 1 : platz.Nr - 1;

@@ -296,5 +296,48 @@ TEST_F(KandidatenEigenschaftenTest, WerOhneGrundEingesetztWirdVerstößtGegenNic
     EXPECT_GE(trotzdem, 10000);
 }
 
+/// "mit Partner": the two of them in two places.
+TEST_F(KandidatenEigenschaftenTest, WerMitPartnerEingesetztWirdVerstößtGegenNichts)
+{
+    int eingesetzt = 0;
+    for (unsigned saat = 1; saat <= Gemeinden && !HasFailure(); ++saat) {
+        SCOPED_TRACE("seed " + std::to_string(saat));
+        GemeindeErwürfeln(saat);
+        MessenSortieren();
+        Würfel w(saat);
+        for (int i = 0; i < Messe.Anzahl; ++i)
+            for (int slot = 1; slot <= MeisteSlots; ++slot) {
+                const int j = w.Zahl(0, Meßdiener.Anzahl - 1);
+                const bool frei = w.Prozent(50);
+                Besetzen(Messe, Dienerplatznr(i, slot), frei ? "" : Meßdiener.Vorname[j],
+                         frei ? "" : Meßdiener.Nachname[j]);
+            }
+        prüfung.Neu();
+        const int i = w.Zahl(0, Messe.Anzahl - 1);
+        if (Slots(i) == 0)
+            continue;
+        const Planplatz wo = Dienerplatznr(i, w.Zahl(1, Slots(i)));
+        const int verstöße = prüfung.Verstöße();
+        const MesseTabelle::JeSlot vornamen = Messe.DienerVor[i];
+        const MesseTabelle::JeSlot nachnamen = Messe.DienerNach[i];
+        for (const Platzkandidat &kandidat : WerKannHier(prüfung, wo)) {
+            if (kandidat.Rang() == 2 || kandidat.Partnerplatz == 0)
+                continue;
+            Besetzen(Messe, wo, kandidat.Vorname, kandidat.Nachname);
+            Besetzen(Messe, Dienerplatznr(i, kandidat.Partnerplatz),
+                     Meßdiener.Vorname[kandidat.Partner], Meßdiener.Nachname[kandidat.Partner]);
+            prüfung.MesseGeändert(i);
+            ++eingesetzt;
+            ASSERT_LE(prüfung.Verstöße(), verstöße)
+                << kandidat.Vorname << " in mass " << i << ", slot " << wo.Nr << ", partner in "
+                << kandidat.Partnerplatz;
+            Messe.DienerVor[i] = vornamen;
+            Messe.DienerNach[i] = nachnamen;
+            prüfung.MesseGeändert(i);
+        }
+    }
+    EXPECT_GE(eingesetzt, 1000);
+}
+
 } // namespace
 } // namespace altardienst
