@@ -17,7 +17,6 @@ namespace altardienst {
 namespace {
 
 constexpr unsigned Gemeinden = 2000;
-constexpr int Geduld = 30000;
 
 /// What the draw calls a reason; taken means all services on the same or the neighbouring days.
 Grund GrundAus(Regel regel)
