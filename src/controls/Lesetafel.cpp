@@ -41,14 +41,11 @@ class Spalteneinpassung : public QObject {
         const int leer =
             tafel->model()->rowCount() > 0 ? 0 : Zeichen * tafel->fontMetrics().averageCharWidth();
         gewünscht = breiten;
-        mindestens.clear();
-        for (int spalte = 0; spalte < kopf->count(); ++spalte) {
-            const int titel = kopf->isSectionHidden(spalte) ? 0 : kopf->sectionSizeHint(spalte);
-            mindestens.push_back(titel);
-            if (breiten.empty())
-                gewünscht.push_back(
-                    titel == 0 ? 0 : std::max({titel, leer, ansicht->sizeHintForColumn(spalte)}));
-        }
+        if (breiten.empty())
+            for (int spalte = 0; spalte < kopf->count(); ++spalte)
+                gewünscht.push_back(kopf->isSectionHidden(spalte)
+                                        ? 0
+                                        : std::max(leer, ansicht->sizeHintForColumn(spalte)));
         Einpassen();
     }
 
@@ -67,8 +64,17 @@ class Spalteneinpassung : public QObject {
         if (gezogen || kopf->count() != static_cast<int>(gewünscht.size()))
             return;
         const QScopedValueRollback wir(dabei, true);
+        std::vector<int> mindestens; // headings have their last size only once they are shown
+        std::vector<int> wünsche;
+        mindestens.reserve(gewünscht.size());
+        wünsche.reserve(gewünscht.size());
+        for (int spalte = 0; spalte < kopf->count(); ++spalte) {
+            mindestens.push_back(kopf->isSectionHidden(spalte) ? 0 : kopf->sectionSizeHint(spalte));
+            wünsche.push_back(
+                std::max(mindestens.back(), gewünscht[static_cast<std::size_t>(spalte)]));
+        }
         const std::vector<int> breiten =
-            EingepaßteBreiten(gewünscht, mindestens, tafel->viewport()->width());
+            EingepaßteBreiten(wünsche, mindestens, tafel->viewport()->width());
         for (int spalte = 0; spalte < kopf->count(); ++spalte)
             if (!kopf->isSectionHidden(spalte))
                 kopf->resizeSection(spalte, breiten[static_cast<std::size_t>(spalte)]);
@@ -77,7 +83,6 @@ class Spalteneinpassung : public QObject {
     QTableView *tafel;
     QHeaderView *kopf;
     std::vector<int> gewünscht;
-    std::vector<int> mindestens;
     bool dabei = false;
     bool gezogen = false; // by the user
 };
