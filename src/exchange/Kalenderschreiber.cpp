@@ -91,7 +91,12 @@ void ZeitAnhängen(std::string &bytes, const char *name, icaltimetype zeit)
     const std::unique_ptr<char, Freigeben> text(icaltime_as_ical_string_r(zeit));
     if (!text)
         throw std::bad_alloc();
-    bytes.append(name).append(text.get()).append("\r\n");
+    bytes += name;
+    if (zeit.is_date)
+        bytes += ";VALUE=DATE:";
+    else
+        bytes.append(";TZID=").append(Zone).append(":");
+    bytes.append(text.get()).append("\r\n");
 }
 
 icalproperty *Erweiterung(const char *name, const char *wert)
@@ -167,14 +172,14 @@ void Kalenderschreiber::Anfügen(const Kalendereintrag &eintrag)
     TextzeileAnhängen(bytes, "UID", eintrag.Kennung);
     bytes += stempel;
     if (eintrag.GanzeWoche) {
-        ZeitAnhängen(bytes, "DTSTART;VALUE=DATE:", Tag(eintrag.Tag));
-        ZeitAnhängen(bytes, "DTEND;VALUE=DATE:", Tag(eintrag.Tag + Woche));
+        ZeitAnhängen(bytes, "DTSTART", Tag(eintrag.Tag));
+        ZeitAnhängen(bytes, "DTEND", Tag(eintrag.Tag + Woche));
         Anhängen(bytes, icalproperty_new_transp(ICAL_TRANSP_TRANSPARENT)); // takes up no time
     } else {
         const Ortszeit beginn = AufDerUhr({eintrag.Tag, eintrag.Sekunden});
         const Ortszeit ende = AufDerUhr(Später(beginn, Dauer));
-        ZeitAnhängen(bytes, "DTSTART;TZID=Europe/Berlin:", Zeitpunkt(beginn));
-        ZeitAnhängen(bytes, "DTEND;TZID=Europe/Berlin:", Zeitpunkt(ende));
+        ZeitAnhängen(bytes, "DTSTART", Zeitpunkt(beginn));
+        ZeitAnhängen(bytes, "DTEND", Zeitpunkt(ende));
     }
     TextzeileAnhängen(bytes, "SUMMARY", eintrag.Titel);
     if (!eintrag.Beschreibung.empty())

@@ -32,20 +32,8 @@ Diagrammfarben FarbenFür(const QPalette &palette)
     const QColor grund = palette.color(QPalette::Base);
     const QColor schrift = palette.color(QPalette::Text);
     if (grund.lightness() < 128)
-        return {grund,
-                schrift,
-                QColor(0x9a, 0x9a, 0x9a),
-                QColor(0x60, 0x60, 0x60),
-                QColor(0x4d, 0xa6, 0xe0),
-                QColor(0x08, 0x45, 0x94),
-                QColor(0xc6, 0xe0, 0xf5)};
-    return {grund,
-            schrift,
-            QColor(0x76, 0x76, 0x76),
-            QColor(0xc8, 0xc8, 0xc8),
-            QColor(0x00, 0x72, 0xb2),
-            QColor(0xde, 0xeb, 0xf7),
-            QColor(0x08, 0x45, 0x94)};
+        return {grund, schrift, 0x9a9a9a, 0x606060, 0x4da6e0, 0x084594, 0xc6e0f5};
+    return {grund, schrift, 0x767676, 0xc8c8c8, 0x0072b2, 0xdeebf7, 0x084594};
 }
 
 int Höchste(const std::vector<int> &anzahl)
